@@ -1,0 +1,22 @@
+# brivane_library(NAME sources...): a static library that is included from the root of the tree.
+function(brivane_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include/brivane>)
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_warnings>)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# brivane_logic_library(NAME sources...): the same under the strict warnings of the logic folders.
+function(brivane_logic_library name)
+  brivane_library(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_strict_warnings>)
+endfunction()
+
+# brivane_test(NAME LIBS libs... SOURCES sources...): a GoogleTest program, one ctest entry for each test case.
+function(brivane_test name)
+  cmake_parse_arguments(arg "" "" "LIBS;SOURCES" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE brivane_warnings GTest::gtest_main GTest::gmock ${arg_LIBS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60)
+endfunction()

@@ -1,0 +1,10 @@
+# Warnings are errors, everywhere; the logic folders are held to conversions as well.
+add_library(brivane_warnings INTERFACE)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_compile_options(brivane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+endif()
+add_library(brivane_strict_warnings INTERFACE)
+target_link_libraries(brivane_strict_warnings INTERFACE brivane_warnings)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+  target_compile_options(brivane_strict_warnings INTERFACE -Wconversion -Wsign-conversion -Wold-style-cast)
+endif()

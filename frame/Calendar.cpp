@@ -1,0 +1,66 @@
+#include "frame/Calendar.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "host/Error.h"
+
+namespace brivane::frame {
+
+namespace {
+
+constexpr std::chrono::sys_days kZeroDate = std::chrono::year{1899} / 12 / 30;
+constexpr int kFirstYear = 100;
+constexpr int kLastYear = 9999;
+
+std::chrono::year_month_day ToCivil(YearMonthDay date) {
+  return std::chrono::year{date.year} / std::chrono::month{static_cast<unsigned>(date.month)} /
+         std::chrono::day{static_cast<unsigned>(date.day)};
+}
+
+int LastDayOf(int year, int month) {
+  const std::chrono::year_month_day_last last{std::chrono::year{year} /
+                                              std::chrono::month{static_cast<unsigned>(month)} / std::chrono::last};
+  return static_cast<int>(static_cast<unsigned>(last.day()));
+}
+
+}  // namespace
+
+YearMonthDay Split(host::Date date) {
+  const std::chrono::year_month_day civil{kZeroDate + std::chrono::days{date.Days()}};
+  return {static_cast<int>(civil.year()), static_cast<int>(static_cast<unsigned>(civil.month())),
+          static_cast<int>(static_cast<unsigned>(civil.day()))};
+}
+
+bool IsCalendarDate(YearMonthDay date) {
+  return date.year >= kFirstYear && date.year <= kLastYear && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
+         date.day <= LastDayOf(date.year, date.month);
+}
+
+host::Date MakeDate(YearMonthDay date) {
+  if (!IsCalendarDate(date)) throw host::Error(host::ErrorNumber::Overflow);
+  return host::Date{static_cast<std::int32_t>((std::chrono::sys_days{ToCivil(date)} - kZeroDate).count())};
+}
+
+host::Date AddMonths(host::Date date, std::int64_t months) {
+  if (date.IsNone()) return date;
+  const YearMonthDay start = Split(date);
+  const std::int64_t month = std::int64_t{start.year} * 12 + (start.month - 1) + months;
+  if (month < std::int64_t{kFirstYear} * 12 || month >= (std::int64_t{kLastYear} + 1) * 12)
+    throw host::Error(host::ErrorNumber::Overflow);
+  YearMonthDay end{static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, start.day};
+  end.day = std::min(end.day, LastDayOf(end.year, end.month));
+  return MakeDate(end);
+}
+
+host::Date AddYears(host::Date date, std::int64_t years) { return AddMonths(date, years * 12); }
+
+std::int32_t MonthsBetween(host::Date from, host::Date to) {
+  const YearMonthDay a = Split(from);
+  const YearMonthDay b = Split(to);
+  return (b.year - a.year) * 12 + (b.month - a.month);
+}
+
+std::int32_t YearsBetween(host::Date from, host::Date to) { return Split(to).year - Split(from).year; }
+
+}  // namespace brivane::frame

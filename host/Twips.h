@@ -1,0 +1,34 @@
+#pragma once
+
+#include <compare>
+
+namespace brivane::host {
+
+/// A length on the screen in twips (1/1440 inch; 15 to a pixel of 96 dots per inch), in single
+/// precision, as the layout rules compute with it.
+struct Twips {
+  float value = 0;
+
+  friend constexpr auto operator<=>(Twips, Twips) = default;
+  friend constexpr Twips operator+(Twips a, Twips b) { return {a.value + b.value}; }
+  friend constexpr Twips operator-(Twips a, Twips b) { return {a.value - b.value}; }
+  friend constexpr Twips operator*(Twips a, float factor) { return {a.value * factor}; }
+};
+
+/// A place on the containing surface, frame or form.
+struct Place {
+  Twips left;
+  Twips top;
+  Twips width;
+  Twips height;
+
+  [[nodiscard]] constexpr Twips Right() const { return left + width; }
+  [[nodiscard]] constexpr Twips Bottom() const { return top + height; }
+  friend constexpr bool operator==(const Place&, const Place&) = default;
+};
+
+inline namespace literals {
+constexpr Twips operator""_tw(unsigned long long value) { return {static_cast<float>(value)}; }
+}  // namespace literals
+
+}  // namespace brivane::host

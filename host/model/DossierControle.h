@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+namespace brivane::host {
+
+class Application;
+
+/// The host object that a complete validation of the editor calls last.
+class DossierControle {
+ public:
+  virtual ~DossierControle() = default;
+
+  /// The host's own check of the loan file. The component always passes 1.
+  virtual void Controleer(const std::shared_ptr<Application>& application, std::int16_t soort) = 0;
+};
+
+}  // namespace brivane::host
