@@ -12,11 +12,16 @@ function(brivane_logic_library name)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_strict_warnings>)
 endfunction()
 
-# brivane_test(NAME LIBS libs... SOURCES sources...): a GoogleTest program, one ctest entry for each test case.
+# brivane_test(NAME LIBS libs... SOURCES sources... [SLOW]): a GoogleTest program, one ctest entry for each test case.
+# SLOW: more than a few seconds; `./test --quick` leaves it out.
 function(brivane_test name)
-  cmake_parse_arguments(arg "" "" "LIBS;SOURCES" ${ARGN})
+  cmake_parse_arguments(arg "SLOW" "" "LIBS;SOURCES" ${ARGN})
+  set(properties ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+  if(arg_SLOW)
+    list(APPEND properties LABELS slow)
+  endif()
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE brivane_warnings GTest::gtest_main GTest::gmock ${arg_LIBS})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()
