@@ -4,6 +4,7 @@ function(brivane_library name)
   target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include/brivane>)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_warnings>)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  set_property(GLOBAL APPEND PROPERTY BRIVANE_LIBRARIES ${name})
 endfunction()
 
 # brivane_logic_library(NAME sources...): the same under the strict warnings of the logic folders.
