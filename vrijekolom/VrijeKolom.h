@@ -49,9 +49,6 @@ class VrijeKolom {
   [[nodiscard]] bool BeeindigenZichtbaar() const { return BeeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 
-  /// Belongs to no control: an empty procedure, traced all the same.
-  void txtProducttype_Validation();
-
   /// The explanation control inside the editor; its complete check is the host's to call.
   [[nodiscard]] brivane::Toelichting& Toelichting() { return Toelichting_; }
   [[nodiscard]] const std::shared_ptr<host::VrijeKolomItem>& Item() const { return Item_; }
@@ -72,46 +69,33 @@ class VrijeKolom {
   void UserControl_Resize();
   void ConnectControls();
 
-  void DeelAlgemeenIn();
-  [[nodiscard]] host::Twips StapelLinks();
-  [[nodiscard]] host::Twips StapelRechts();
-
   // Loading
   void Fill_Controls();
   void Fill_fraAlgemeen();
-  void ToonBedrag();
-  void KiesTermijn();
-  void VulHeffing();
+  void Fill_Termijn();
   [[nodiscard]] std::string Naam(std::int16_t persoon);
-  [[nodiscard]] host::Date EinddatumVanRecord();
-  void HerbindToelichting();
 
   // Company, kind and product
   void Fill_Product();
   void Fill_cboMaatschappij();
   void Fill_cboProductsoort();
   void chkProduct_Click();
-  void LeegProduct();
   void cboMaatschappij_Click();
   void cboProductsoort_Click();
-  void HerlaadAlgemeen();
 
   // Checks
-  void VraagOvernemen();
+  void VraagOvernemen(bool Cancel);
   [[nodiscard]] bool StaatInNieuweSituatie();
   void VerwijderUitNieuweSituatie();
   void ControleerAanvang(bool& Cancel);
   void ControleerEinde(bool& Cancel);
-  void Weiger(bool& Cancel, std::string_view titel, std::string_view melding);
   void WerkVoorstellenBij();
   void Check_FraFiscaal();
 
   // Term, proposals and scenario
   void CboTermijn_Click();
-  void LeegScenario();
   void ChkVoorstel_Click(std::int16_t Index);
   void cmdScenario_Click();
-  [[nodiscard]] std::int16_t JarenTotLeeftijdsgrens();
 
   // Fields
   void jnInDagloon_Change();
@@ -130,10 +114,13 @@ class VrijeKolom {
   void txtProductsoort_Validation();
   void txtProductnaam_Validation();
   void txtVervaldatum_Validation();
+  void txtProducttype_Validation();
   void Toelichting_Changed();
+
   void SchrijfLooptijd();
-  void ToonLooptijd();
   void ToonEinddatum();
+  void ToonLooptijd();
+  void HerbindToelichting();
   void MeldKopregel();
   void MeldWeergave();
 
@@ -151,7 +138,6 @@ class VrijeKolom {
   std::shared_ptr<host::VrijeKolomItem> Item_;
   std::int16_t Len_Id_ = 0;
   std::int16_t Vrij_Id_ = 0;
-  bool AndereApplication_ = false;  ///< handed another application since the last binding that found its column
   bool Filling_ = false;
   bool Gewijzigd_ = false;
   bool HuidigeSituatie_ = false;
