@@ -41,14 +41,17 @@ class Tracing {
     Trace().LeaveProcedure();
   }
 
-  /// The error handler alone, for a procedure that decides in its body whether it is traced.
-  template <class Body> void Guarded(std::string_view procedure, Body&& body) {
+  /// The error handler alone, for what a procedure does before it knows whether it is traced.
+  /// Answers whether the body came to its end.
+  template <class Body> bool Guarded(std::string_view procedure, Body&& body) {
     try {
       body();
+      return true;
     } catch (...) {
       const host::Error error = CurrentError();
       Trace().ErrorInProcedure(procedure);
       Report(error);
+      return false;
     }
   }
 

@@ -49,6 +49,9 @@ class VrijeKolom {
   [[nodiscard]] bool BeeindigenZichtbaar() const { return BeeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 
+  /// Belongs to no control: an empty procedure, traced all the same.
+  void txtProducttype_Validation();
+
   /// The explanation control inside the editor; its complete check is the host's to call.
   [[nodiscard]] brivane::Toelichting& Toelichting() { return Toelichting_; }
   [[nodiscard]] const std::shared_ptr<host::VrijeKolomItem>& Item() const { return Item_; }
@@ -69,33 +72,46 @@ class VrijeKolom {
   void UserControl_Resize();
   void ConnectControls();
 
+  void DeelAlgemeenIn();
+  [[nodiscard]] host::Twips StapelLinks();
+  [[nodiscard]] host::Twips StapelRechts();
+
   // Loading
   void Fill_Controls();
   void Fill_fraAlgemeen();
-  void Fill_Termijn();
+  void ToonBedrag();
+  void KiesTermijn();
+  void VulHeffing();
   [[nodiscard]] std::string Naam(std::int16_t persoon);
+  [[nodiscard]] host::Date EinddatumVanRecord();
+  void HerbindToelichting();
 
   // Company, kind and product
   void Fill_Product();
   void Fill_cboMaatschappij();
   void Fill_cboProductsoort();
   void chkProduct_Click();
+  void LeegProduct();
   void cboMaatschappij_Click();
   void cboProductsoort_Click();
+  void HerlaadAlgemeen();
 
   // Checks
-  void VraagOvernemen(bool Cancel);
+  void VraagOvernemen();
   [[nodiscard]] bool StaatInNieuweSituatie();
   void VerwijderUitNieuweSituatie();
   void ControleerAanvang(bool& Cancel);
   void ControleerEinde(bool& Cancel);
+  void Weiger(bool& Cancel, std::string_view titel, std::string_view melding);
   void WerkVoorstellenBij();
   void Check_FraFiscaal();
 
   // Term, proposals and scenario
   void CboTermijn_Click();
+  void LeegScenario();
   void ChkVoorstel_Click(std::int16_t Index);
   void cmdScenario_Click();
+  [[nodiscard]] std::int16_t JarenTotLeeftijdsgrens();
 
   // Fields
   void jnInDagloon_Change();
@@ -114,13 +130,10 @@ class VrijeKolom {
   void txtProductsoort_Validation();
   void txtProductnaam_Validation();
   void txtVervaldatum_Validation();
-  void txtProducttype_Validation();
   void Toelichting_Changed();
-
   void SchrijfLooptijd();
-  void ToonEinddatum();
   void ToonLooptijd();
-  void HerbindToelichting();
+  void ToonEinddatum();
   void MeldKopregel();
   void MeldWeergave();
 
@@ -138,6 +151,7 @@ class VrijeKolom {
   std::shared_ptr<host::VrijeKolomItem> Item_;
   std::int16_t Len_Id_ = 0;
   std::int16_t Vrij_Id_ = 0;
+  bool AndereApplication_ = false;  ///< handed another application since the last binding that found its column
   bool Filling_ = false;
   bool Gewijzigd_ = false;
   bool HuidigeSituatie_ = false;
