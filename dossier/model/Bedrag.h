@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "dossier/model/Omgeving.h"
+#include "host/model/BedragObject.h"
+
+namespace brivane::dossier {
+
+/// One entry of a scenario.
+class Periode : public host::Periode {
+ public:
+  Periode(std::shared_ptr<Omgeving> omgeving, PeriodeGegevens gegevens);
+
+  [[nodiscard]] std::int16_t Maand() const override { return gegevens_.Maand; }
+  void SetMaand(std::int16_t maand) override;
+  [[nodiscard]] double Bedrag() const override { return gegevens_.Bedrag; }
+  void SetBedrag(double bedrag) override;
+  [[nodiscard]] double Percentage() const override { return gegevens_.Percentage; }
+  void SetPercentage(double percentage) override;
+  [[nodiscard]] double Korting() const override { return gegevens_.Korting; }
+  void SetKorting(double korting) override;
+  [[nodiscard]] bool Eenmalig() const override { return gegevens_.Eenmalig; }
+  void SetEenmalig(bool eenmalig) override;
+
+  [[nodiscard]] const PeriodeGegevens& Gegevens() const { return gegevens_; }
+  /// Takes over what is stored, telling nobody.
+  void Herlaad(const PeriodeGegevens& gegevens) { gegevens_ = gegevens; }
+
+ private:
+  std::shared_ptr<Omgeving> omgeving_;
+  PeriodeGegevens gegevens_;
+};
+
+/// The amount of a free column with its period entries. It is part of its column and lives as long.
+class BedragObject : public host::BedragObject {
+ public:
+  /// `kolom` holds the amount's name, kind and base value and outlives this object.
+  BedragObject(std::shared_ptr<Omgeving> omgeving, KolomGegevens& kolom);
+
+  [[nodiscard]] std::string Naam() const override;
+  [[nodiscard]] std::int16_t Invoersoort() const override;
+  [[nodiscard]] double Basisbedrag() const override;
+  void SetBasisbedrag(double bedrag) override;
+  [[nodiscard]] double Bedrag() const override;
+  void SetBedrag(double bedrag) override;
+  [[nodiscard]] std::shared_ptr<host::Periode> Periode(std::int16_t positie) override;
+  std::int16_t NieuwePeriode() override;
+  /// Fails with error 9 where there is no such entry.
+  void VerwijderPeriode(std::int16_t positie) override;
+
+  [[nodiscard]] const std::vector<std::shared_ptr<dossier::Periode>>& Perioden() const { return perioden_; }
+  /// Takes over the entries that the column's data came with, telling nobody. An entry that is known keeps its object.
+  void HerlaadPerioden();
+
+ private:
+  std::shared_ptr<Omgeving> omgeving_;
+  KolomGegevens& kolom_;
+  std::vector<std::shared_ptr<dossier::Periode>> perioden_;
+};
+
+}  // namespace brivane::dossier

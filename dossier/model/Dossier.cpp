@@ -1,0 +1,181 @@
+#include "dossier/model/Dossier.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "host/Error.h"
+
+namespace brivane::dossier {
+namespace {
+
+std::size_t Plaats(std::int16_t voorstel) {
+  if (voorstel < 1 || voorstel > 3) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
+  return static_cast<std::size_t>(voorstel - 1);
+}
+
+/// A copy's periods are entries of their own.
+KolomGegevens Kopie(const VrijeKolom& kolom, std::int16_t Id) {
+  KolomGegevens gegevens = kolom.Gegevens();
+  gegevens.Sleutel = 0;
+  gegevens.Id = Id;
+  for (PeriodeGegevens& periode : gegevens.Bedrag.Perioden) periode.Sleutel = 0;
+  return gegevens;
+}
+
+}  // namespace
+
+Dossier::Dossier(DossierGegevens gegevens, std::shared_ptr<Omgeving> omgeving)
+    : omgeving_(std::move(omgeving)),
+      leeftijd_(gegevens.Leeftijd),
+      maatschappijen_(std::move(gegevens.MaatschappijType)),
+      huidige_(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens.HuidigeLening))),
+      voorstellen_(std::move(gegevens.Voorstellen)) {
+  for (PersoonGegevens& persoon : gegevens.Personen) {
+    personen_.push_back(std::make_shared<dossier::Persoon>(std::move(persoon)));
+  }
+  for (LeningGegevens& lening : gegevens.Leningen) {
+    leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(lening)));
+  }
+}
+
+std::shared_ptr<host::Persoon> Dossier::Persoon(std::int16_t nummer) {
+  if (nummer < 1 || static_cast<std::size_t>(nummer) > personen_.size()) return nullptr;
+  return personen_[static_cast<std::size_t>(nummer - 1)];
+}
+
+void Dossier::VoegToeAanVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id) {
+  SchrijfVoorstel(voorstel, Vrij_Id, Lidmaatschap::Ja);
+}
+
+void Dossier::VerwijderUitVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, std::int16_t) {
+  SchrijfVoorstel(voorstel, Vrij_Id, Lidmaatschap::Nee);
+}
+
+void Dossier::SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
+  std::set<std::int16_t>& leden = voorstellen_[Plaats(voorstel)];
+  // Registering again, or taking out what is not in, changes nothing and costs no write.
+  if (leden.contains(Vrij_Id) == (lidmaatschap == Lidmaatschap::Ja)) return;
+  omgeving_->Journal->SetProposal(voorstel, Vrij_Id, lidmaatschap);
+  if (lidmaatschap == Lidmaatschap::Ja) {
+    leden.insert(Vrij_Id);
+  } else {
+    leden.erase(Vrij_Id);
+  }
+}
+
+std::shared_ptr<dossier::Lening> Dossier::ZoekLening(std::int16_t Len_Id) const {
+  if (Len_Id == kHuidig) return huidige_;
+  if (Len_Id < 0 || static_cast<std::size_t>(Len_Id) > leningen_.size()) return nullptr;
+  return leningen_[static_cast<std::size_t>(Len_Id - 1)];
+}
+
+std::shared_ptr<dossier::VrijeKolom> Dossier::ZoekKolom(std::int16_t Len_Id, std::int16_t Vrij_Id) const {
+  const auto lening = ZoekLening(Len_Id);
+  return lening ? lening->Zoek(Vrij_Id) : nullptr;
+}
+
+const std::set<std::int16_t>& Dossier::Voorstel(std::int16_t voorstel) const { return voorstellen_[Plaats(voorstel)]; }
+
+bool Dossier::HeeftAfwijking(std::int16_t Vrij_Id) const {
+  return std::any_of(leningen_.begin(), leningen_.end(), [&](const auto& lening) { return lening->Zoek(Vrij_Id); });
+}
+
+std::vector<std::shared_ptr<dossier::VrijeKolom>> Dossier::VolgtHuidigeSituatie() const {
+  std::vector<std::shared_ptr<dossier::VrijeKolom>> kolommen;
+  std::copy_if(huidige_->Kolommen().begin(), huidige_->Kolommen().end(), std::back_inserter(kolommen),
+               [&](const auto& kolom) { return !HeeftAfwijking(kolom->Id()); });
+  return kolommen;
+}
+
+template <class Function> void Dossier::VoorElkeKolom(Function&& functie) const {
+  for (const auto& kolom : huidige_->Kolommen()) functie(*kolom);
+  for (const auto& lening : leningen_) {
+    for (const auto& kolom : lening->Kolommen()) functie(*kolom);
+  }
+}
+
+std::int16_t Dossier::VrijId() const {
+  // An identifier that a proposal still names is taken too: a new item must not inherit its place there.
+  std::set<std::int16_t> bezet;
+  VoorElkeKolom([&](const dossier::VrijeKolom& kolom) { bezet.insert(kolom.Id()); });
+  for (const auto& leden : voorstellen_) bezet.insert(leden.begin(), leden.end());
+  constexpr std::int16_t kHoogste = std::numeric_limits<std::int16_t>::max();
+  const std::int16_t hoogste = bezet.empty() ? std::int16_t{0} : std::max(std::int16_t{0}, *bezet.rbegin());
+  if (hoogste < kHoogste) return static_cast<std::int16_t>(hoogste + 1);
+  for (std::int16_t id = 1; id < kHoogste; ++id) {
+    if (!bezet.contains(id)) return id;
+  }
+  throw host::Error(host::ErrorNumber::Overflow);
+}
+
+std::shared_ptr<dossier::VrijeKolom> Dossier::NieuweKolom(std::int16_t Len_Id) {
+  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+  KolomGegevens gegevens;
+  gegevens.Id = VrijId();
+  std::shared_ptr<dossier::VrijeKolom> kolom;
+  omgeving_->Journal->InOneEdit([&] { kolom = lening.VoegToe(std::move(gegevens)); });
+  return kolom;
+}
+
+std::shared_ptr<dossier::VrijeKolom> Dossier::Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id) {
+  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+  KolomGegevens gegevens = Kopie(host::Need(lening.Zoek(Vrij_Id)), VrijId());
+  gegevens.Voorstel = {};
+  std::shared_ptr<dossier::VrijeKolom> kolom;
+  omgeving_->Journal->InOneEdit([&] { kolom = lening.VoegToe(std::move(gegevens)); });
+  return kolom;
+}
+
+void Dossier::Verwijder(std::int16_t Len_Id, std::int16_t Vrij_Id) {
+  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+  const auto& kolommen = lening.Kolommen();
+  const auto plaats = std::find(kolommen.begin(), kolommen.end(), lening.Zoek(Vrij_Id));
+  if (plaats == kolommen.end()) throw host::Error(host::ErrorNumber::ObjectMissing);
+  omgeving_->Journal->InOneEdit([&] {
+    lening.VerwijderVrijeKolom(static_cast<std::int16_t>(plaats - kolommen.begin() + 1));
+    if (huidige_->Zoek(Vrij_Id) || HeeftAfwijking(Vrij_Id)) return;
+    for (const std::int16_t voorstel : {1, 2, 3}) VerwijderUitVoorstel(voorstel, Vrij_Id, 0);
+  });
+}
+
+std::int16_t Dossier::Verplaats(std::int16_t Len_Id, std::int16_t Vrij_Id, std::int16_t naarLen_Id) {
+  dossier::Lening& van = host::Need(ZoekLening(Len_Id));
+  dossier::Lening& naar = host::Need(ZoekLening(naarLen_Id));
+  static_cast<void>(host::Need(van.Zoek(Vrij_Id)));
+  if (&van == &naar) return Vrij_Id;
+  const std::int16_t nieuwId = naar.Zoek(Vrij_Id) ? VrijId() : Vrij_Id;
+  omgeving_->Journal->InOneEdit([&] { van.Verplaats(Vrij_Id, naar, nieuwId); });
+  return nieuwId;
+}
+
+std::shared_ptr<dossier::VrijeKolom> Dossier::MaakAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id) {
+  dossier::Lening& lening = host::Need(Len_Id == kHuidig ? nullptr : ZoekLening(Len_Id));
+  const std::shared_ptr<dossier::VrijeKolom> kolom = huidige_->Zoek(Vrij_Id);
+  KolomGegevens gegevens = Kopie(host::Need(kolom), Vrij_Id);
+  if (std::shared_ptr<dossier::VrijeKolom> bestaand = lening.Zoek(Vrij_Id)) return bestaand;
+  std::shared_ptr<dossier::VrijeKolom> afwijking;
+  omgeving_->Journal->InOneEdit([&] { afwijking = lening.VoegToe(std::move(gegevens)); });
+  return afwijking;
+}
+
+DossierGegevens Dossier::Gegevens() const {
+  DossierGegevens gegevens;
+  for (const auto& persoon : personen_) gegevens.Personen.push_back(persoon->Gegevens());
+  gegevens.Leeftijd = leeftijd_;
+  gegevens.MaatschappijType = maatschappijen_;
+  gegevens.HuidigeLening = huidige_->Gegevens();
+  for (const auto& lening : leningen_) gegevens.Leningen.push_back(lening->Gegevens());
+  gegevens.Voorstellen = voorstellen_;
+  return gegevens;
+}
+
+void Dossier::Herlaad(DossierGegevens gegevens) {
+  huidige_->Herlaad(std::move(gegevens.HuidigeLening));
+  for (std::size_t nummer = 0; nummer < leningen_.size() && nummer < gegevens.Leningen.size(); ++nummer) {
+    leningen_[nummer]->Herlaad(std::move(gegevens.Leningen[nummer]));
+  }
+  voorstellen_ = std::move(gegevens.Voorstellen);
+}
+
+}  // namespace brivane::dossier

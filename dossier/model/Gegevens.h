@@ -1,0 +1,107 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/Date.h"
+
+/// The contents of a loan file as plain values: what a file is read into and a case is made from.
+namespace brivane::dossier {
+
+/// Identifies a loan, a free column or a period entry within its file for as long as it exists; 0 for one
+/// that was not stored yet. Not shown to anyone.
+using Sleutel = std::int64_t;
+
+struct PeriodeGegevens {
+  dossier::Sleutel Sleutel = 0;
+  std::int16_t Maand = 0;
+  double Bedrag = 0;
+  double Percentage = 0;
+  double Korting = 0;
+  bool Eenmalig = false;
+};
+
+struct BedragGegevens {
+  std::string Naam;
+  std::int16_t Invoersoort = 1;
+  double Bedrag = 0;
+  std::vector<PeriodeGegevens> Perioden;
+};
+
+/// One free column. The defaults are a valid recurring cost of the applicant.
+struct KolomGegevens {
+  dossier::Sleutel Sleutel = 0;
+  std::int16_t Id = 1;
+  std::int16_t CorrectieLast = 1;
+  std::int16_t CorrectieFiscaal = 1;
+  std::int16_t HeffingBij = 1;
+  std::string Omschrijving;
+  std::int16_t Termijn = 1;
+  bool InkomenUitArbeid = false;
+  bool InDagloon = false;
+  host::Date DatumAanvang;
+  std::int32_t Looptijd = 0;
+  host::Date Contractvervaldatum;
+  bool IsProduct = false;
+  std::string Maatschappij;
+  std::string MaatschappijNaam;
+  std::int16_t Productsoort = 0;
+  std::string ProductsoortOmschrijving;
+  std::string Productnaam;
+  bool UwBemiddeling = false;
+  std::array<std::string, 3> Voorstel;
+  std::string Weergave;
+  std::string Kopregel;
+  bool UitsluitenAO = false;
+  bool UitsluitenWW = false;
+  bool UitsluitenLangleven = false;
+  bool ScenarioOverlijden = false;
+  float PercentageOvergang = 0;
+  host::Date EinddatumOvergang;
+  std::int16_t EindleeftijdOvergang = 0;
+  BedragGegevens Bedrag;
+};
+
+struct LeningGegevens {
+  dossier::Sleutel Sleutel = 0;
+  std::string Naam;  ///< for the host's own screens
+  std::vector<KolomGegevens> VrijeKolommen;
+};
+
+struct PersoonGegevens {
+  std::array<std::string, 3> Naam;
+  host::Date Geboortedatum;
+};
+
+/// One entry of a code table: the code and the text that a list shows.
+struct Code {
+  std::string code;
+  std::string tekst;
+};
+
+struct DossierGegevens {
+  std::vector<PersoonGegevens> Personen;  ///< the applicant and, if there is one, the partner
+  std::int16_t Leeftijd = 67;             ///< age limit of the assumptions, whole years
+  std::vector<Code> MaatschappijType;
+  LeningGegevens HuidigeLening;
+  std::vector<LeningGegevens> Leningen;  ///< the loans of the new situation
+  /// Identifiers of the free columns that are ended in proposal 1, 2 and 3.
+  std::array<std::set<std::int16_t>, 3> Voorstellen;
+};
+
+/// The company code for a company that is named in text.
+inline constexpr char kAndereMaatschappij[] = "ZZ";
+
+/// One-off, as a term.
+inline constexpr std::int16_t kEenmalig = 99;
+
+/// A product that runs until a contract expiry date instead of for a duration.
+[[nodiscard]] bool IsContract(const KolomGegevens& kolom);
+/// The fixed name of a kind of product; empty for 0, "Anders" and what is unknown.
+[[nodiscard]] std::string Productsoortnaam(std::int16_t productsoort);
+
+}  // namespace brivane::dossier

@@ -1,0 +1,20 @@
+#include "dossier/model/Journal.h"
+
+namespace brivane::dossier {
+
+void Journal::SetField(Sleutel, KolomVeld, const Waarde&) {}
+Sleutel Journal::AddPeriod(Sleutel) { return ++laatste_; }
+void Journal::SetField(Sleutel, PeriodeVeld, const Waarde&) {}
+void Journal::RemovePeriod(Sleutel) {}
+
+void Journal::AddColumn(Sleutel, KolomGegevens& kolom) {
+  kolom.Sleutel = ++laatste_;
+  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) periode.Sleutel = ++laatste_;
+}
+
+void Journal::RemoveColumn(Sleutel) {}
+void Journal::MoveColumn(Sleutel, Sleutel, std::int16_t) {}
+void Journal::SetProposal(std::int16_t, std::int16_t, Lidmaatschap) {}
+void Journal::InOneEdit(const std::function<void()>& body) { body(); }
+
+}  // namespace brivane::dossier

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "dossier/model/Gegevens.h"
+
+namespace brivane::dossier {
+
+/// Words the header texts of a free column. This one answers the two texts that the column holds.
+class Kopteksten {
+ public:
+  virtual ~Kopteksten() = default;
+  /// Text for the top display after a change of term or scenario. `kolom` has its amount, not its periods.
+  [[nodiscard]] virtual std::string Weergave(const KolomGegevens& kolom) const;
+  /// Header text after any other change.
+  [[nodiscard]] virtual std::string Kopregel(const KolomGegevens& kolom) const;
+};
+
+/// The wording of the reference host, one text for both: "Krant · De Ochtend · € 32,50 per maand".
+class BerekendeKopteksten : public Kopteksten {
+ public:
+  [[nodiscard]] std::string Weergave(const KolomGegevens& kolom) const override;
+  [[nodiscard]] std::string Kopregel(const KolomGegevens& kolom) const override;
+};
+
+/// An amount in Dutch: "1.234,56", with a minus in front when negative; halves of a cent away from zero.
+[[nodiscard]] std::string BedragTekst(double bedrag);
+/// The term in words: "per maand", "eenmalig"; empty for a code that is none.
+[[nodiscard]] std::string TermijnTekst(std::int16_t termijn);
+
+}  // namespace brivane::dossier
