@@ -16,6 +16,8 @@ class Event {
  public:
   void Connect(std::function<void(Arguments...)> listener) { listener_ = std::move(listener); }
   void Disconnect() { listener_ = nullptr; }
+  /// The listener, or an empty function: for a tool that connects itself and hands on to it.
+  [[nodiscard]] const std::function<void(Arguments...)>& Listener() const { return listener_; }
   void Raise(Arguments... arguments) const {
     if (listener_) listener_(std::forward<Arguments>(arguments)...);
   }

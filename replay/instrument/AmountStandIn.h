@@ -1,0 +1,67 @@
+#pragma once
+
+#include "replay/instrument/StandIn.h"
+
+namespace brivane::replay {
+
+/// A period entry, named by the position at which it was asked for.
+class PeriodeStandIn : public StandIn<host::Periode> {
+ public:
+  PeriodeStandIn(SharedPtr shared, std::shared_ptr<host::Periode> inner, std::int16_t positie)
+      : StandIn(std::move(shared), std::move(inner)), positie_(positie) {}
+
+  std::int16_t Maand() const override { return Get(Member::Periode_Maand, positie_, &host::Periode::Maand); }
+  void SetMaand(std::int16_t maand) override {
+    Set(Member::Periode_Maand, positie_, &host::Periode::SetMaand, maand, &host::Periode::Maand);
+  }
+  double Bedrag() const override { return Get(Member::Periode_Bedrag, positie_, &host::Periode::Bedrag); }
+  void SetBedrag(double bedrag) override {
+    Set(Member::Periode_Bedrag, positie_, &host::Periode::SetBedrag, bedrag, &host::Periode::Bedrag);
+  }
+  double Percentage() const override { return Get(Member::Periode_Percentage, positie_, &host::Periode::Percentage); }
+  void SetPercentage(double percentage) override {
+    Set(Member::Periode_Percentage, positie_, &host::Periode::SetPercentage, percentage, &host::Periode::Percentage);
+  }
+  double Korting() const override { return Get(Member::Periode_Korting, positie_, &host::Periode::Korting); }
+  void SetKorting(double korting) override {
+    Set(Member::Periode_Korting, positie_, &host::Periode::SetKorting, korting, &host::Periode::Korting);
+  }
+  bool Eenmalig() const override { return Get(Member::Periode_Eenmalig, positie_, &host::Periode::Eenmalig); }
+  void SetEenmalig(bool eenmalig) override {
+    Set(Member::Periode_Eenmalig, positie_, &host::Periode::SetEenmalig, eenmalig, &host::Periode::Eenmalig);
+  }
+
+ private:
+  std::int16_t positie_;
+};
+
+/// An amount object under its two names.
+class AmountStandIn : public StandIn<host::BedragObject> {
+ public:
+  using StandIn::StandIn;
+
+  std::string Naam() const override { return Get(Member::Scenario_Naam, {}, &host::BedragObject::Naam); }
+  std::int16_t Invoersoort() const override {
+    return Get(Member::Scenario_Invoersoort, {}, &host::BedragObject::Invoersoort);
+  }
+  double Basisbedrag() const override { return Get(Member::Bedrag_Basisbedrag, {}, &host::BedragObject::Basisbedrag); }
+  void SetBasisbedrag(double bedrag) override {
+    Set(Member::Bedrag_Basisbedrag, {}, &host::BedragObject::SetBasisbedrag, bedrag, &host::BedragObject::Basisbedrag);
+  }
+  double Bedrag() const override { return Get(Member::Scenario_Bedrag, {}, &host::BedragObject::Bedrag); }
+  void SetBedrag(double bedrag) override {
+    Set(Member::Scenario_Bedrag, {}, &host::BedragObject::SetBedrag, bedrag, &host::BedragObject::Bedrag);
+  }
+  std::shared_ptr<host::Periode> Periode(std::int16_t positie) override {
+    std::shared_ptr<host::Periode> periode = Object(Member::Scenario_Periode, &host::BedragObject::Periode, positie);
+    return periode ? std::make_shared<PeriodeStandIn>(shared_, std::move(periode), positie) : nullptr;
+  }
+  std::int16_t NieuwePeriode() override {
+    return Call(Member::Scenario_NieuwePeriode, &host::BedragObject::NieuwePeriode);
+  }
+  void VerwijderPeriode(std::int16_t positie) override {
+    Call(Member::Scenario_VerwijderPeriode, &host::BedragObject::VerwijderPeriode, positie);
+  }
+};
+
+}  // namespace brivane::replay

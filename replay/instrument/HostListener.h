@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "host/Date.h"
+#include "replay/instrument/Members.h"
+
+namespace brivane::replay {
+
+/// The value of a host member. Whole numbers and amounts are both numbers.
+using MemberValue = std::variant<bool, double, std::string, host::Date, std::array<std::string, 3>>;
+
+/// Place of the value among its like, from 1: the proposal of `Voorstel`, the position of a period entry.
+using MemberIndex = std::optional<std::int16_t>;
+
+enum class TraceMark : std::uint8_t { Enter, Leave, Error };
+
+/// The error record that a control filled before it reported a failure.
+struct ErrorRecord {
+  std::string ApplicationTitle;
+  std::string ObjectName;
+  std::string Caption;
+  std::string ObjectDescription;
+  std::string Message;
+  std::string ErrorNumber;
+  std::string ErrorDescription;
+  std::string ErrorSource;
+};
+
+/// Told what the controls did to the host, after it was done; a failed access is not told.
+class HostListener {
+ public:
+  virtual ~HostListener() = default;
+
+  /// Whether OnGet is wanted: reads are many.
+  [[nodiscard]] virtual bool WantsReads() const { return false; }
+  virtual void OnGet(Member, const MemberValue&, MemberIndex) {}
+  /// The value is the one that the record holds afterwards.
+  virtual void OnSet(Member, const MemberValue&, MemberIndex) {}
+  virtual void OnCall(Member, std::span<const std::int16_t>) {}
+  /// `procedure` is empty on leaving; `control` is the control that traces.
+  virtual void OnTrace(TraceMark, std::string_view /*procedure*/, std::string_view /*control*/) {}
+  virtual void OnReport(const ErrorRecord&) {}
+};
+
+}  // namespace brivane::replay

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <memory>
+
+#include "host/model/Application.h"
+#include "host/model/HostFactories.h"
+#include "replay/instrument/AccessLedger.h"
+#include "replay/instrument/HostListener.h"
+
+namespace brivane::replay {
+
+/// A host that stands before another one: it counts and may fail each access, hands it on, and tells a
+/// listener what was done. Works over any implementation of the host interfaces.
+///
+///     InstrumentedHost host(application, factories, listener);
+///     VrijeKolom editor(surface, toolkit, host.Factories());
+///     editor.SetApplication(host.Application(), 0, 1);
+///
+/// An object of the inner host has one stand-in as long as somebody holds it, so that objects can be
+/// compared by identity. The listener must outlive everything that the host handed out.
+class InstrumentedHost {
+ public:
+  InstrumentedHost(std::shared_ptr<host::Application> application, host::HostFactories factories,
+                   HostListener& listener);
+
+  [[nodiscard]] const std::shared_ptr<host::Application>& Application() const { return application_; }
+  [[nodiscard]] const host::HostFactories& Factories() const { return factories_; }
+  [[nodiscard]] AccessLedger& Ledger();
+
+  /// The stand-in of an amount object of the inner host. Not counted.
+  [[nodiscard]] std::shared_ptr<host::BedragObject> StandInFor(const std::shared_ptr<host::BedragObject>& bedrag);
+
+  struct Shared;
+
+ private:
+  std::shared_ptr<Shared> shared_;
+  std::shared_ptr<host::Application> application_;
+  host::HostFactories factories_;
+};
+
+/// What a stand-in stands for: the record of the inner host, and nothing for an object that is no stand-in.
+/// For dumps, which must neither count nor print.
+[[nodiscard]] std::shared_ptr<host::VrijeKolomItem> InnerOf(const std::shared_ptr<host::VrijeKolomItem>& standIn);
+[[nodiscard]] std::shared_ptr<host::BedragObject> InnerOf(const std::shared_ptr<host::BedragObject>& standIn);
+
+}  // namespace brivane::replay
