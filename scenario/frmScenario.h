@@ -8,6 +8,9 @@
 #include "frame/Toolkit.h"
 #include "host/model/BedragObject.h"
 #include "host/model/Hoofdvenster.h"
+#include "scenario/Invoersoort.h"
+#include "scenario/Maanden.h"
+#include "scenario/Rooster.h"
 
 namespace brivane {
 
@@ -42,6 +45,10 @@ class frmScenario {
   [[nodiscard]] std::int16_t SoortScenario() const;
   void SetSoortScenario(std::int16_t soort);
 
+  /// Checks that the amounts together stay within Bd_MaxOpname; a refusal shows its message and sets Cancel.
+  /// ControleNr 0 lets pending user-interface events run first; 1 is this check alone.
+  void Validation(bool& Cancel, std::int32_t ControleNr = 0);
+
   [[nodiscard]] host::Color BackColor() const;
   void SetBackColor(host::Color New_Color);
 
@@ -56,6 +63,47 @@ class frmScenario {
   [[nodiscard]] const std::shared_ptr<host::BedragObject>& Scenario() const;
   /// The adviser changed a row since the form was filled.
   [[nodiscard]] bool Gewijzigd() const;
+
+ private:
+  void Form_Load();
+  void Form_Activate();
+  void cmdOK_Click();
+  void txtBedrag_Validation(int Index);
+  void txtPercentage_Validation(int Index);
+  void txtKorting_Validation(int Index);
+
+  /// Ends a handler at an unexpected failure and shows it once; answers whether it came to its end.
+  template <class Body> bool Guarded(Body&& body);
+
+  void BouwRooster(std::int16_t AantalJaar, std::int32_t Labeltype, bool In_RenteKorting);
+  void SchikFormulier(const scenario::Indeling& indeling);
+  void Laad();
+  void LaadBedragen();
+  void LaadPercentages();
+  void LaadGroei();
+  void Bewaar(scenario::Invoersoort soort);
+  void ControleerOpname(bool& Cancel, std::int32_t ControleNr);
+  void ToonTotaal();
+
+  [[nodiscard]] host::BedragObject& Bron() const;
+  [[nodiscard]] bool Aanvullen() const;
+  [[nodiscard]] bool IsOverbrugging() const { return opzet_.overbrugging == scenario::Overbrugging::Ja; }
+
+  static constexpr int kVergrendelbaar = 50;
+
+  host::Desktop& desktop_;
+  std::unique_ptr<host::Form> form_;
+  frame::Controls controls_;
+  scenario::Rooster rooster_;
+  scenario::Opzet opzet_;
+  std::array<bool, kVergrendelbaar> vergrendeld_{};
+  std::shared_ptr<host::BedragObject> scenario_;
+  std::int16_t aantalJaar_ = 0;
+  std::int16_t soortScenario_ = 0;
+  double maxOpname_ = 0;
+  /// Loading never makes it monthly, so it starts by the year and storing alone changes it.
+  scenario::Maandbasis maandbasis_ = scenario::Maandbasis::Jaar;
+  bool gewijzigd_ = false;
 };
 
 }  // namespace brivane

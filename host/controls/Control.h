@@ -50,6 +50,9 @@ class Control {
   /// The background colour, or nothing where the control has none.
   [[nodiscard]] virtual std::optional<Color> BackColor() const = 0;
   virtual void SetBackColor(Color color) = 0;
+
+  /// What a screen reader calls the control, where its design's label does not say enough ("Bedrag jaar 7").
+  virtual void SetAccessibleName(const std::string& /*name*/) {}
 };
 
 /// A control that shows a fixed text of its own.

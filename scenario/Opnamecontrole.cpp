@@ -1,0 +1,18 @@
+#include "scenario/Opnamecontrole.h"
+
+#include "scenario/Teksten.h"
+
+namespace brivane::scenario {
+
+void VoegMeldingToe(std::string& meldingen, std::string_view melding) {
+  if (!meldingen.empty()) meldingen += kRegeleinde;
+  meldingen += melding;
+}
+
+std::string OpnameMelding(std::string_view maximum) {
+  std::string melding(kMaximaalVoor);
+  melding += maximum;
+  return melding += kMaximaalNa;
+}
+
+}  // namespace brivane::scenario
