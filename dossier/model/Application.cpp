@@ -22,7 +22,7 @@ const std::vector<Code>& Codetabellen::Tabel(std::string_view naam) const {
 Application::Application(std::shared_ptr<dossier::Dossier> dossier, std::shared_ptr<host::Hoofdvenster> hoofdvenster)
     : dossier_(std::move(dossier)),
       hoofdvenster_(std::move(hoofdvenster)),
-      uitgangspunten_(std::make_shared<dossier::Uitgangspunten>(dossier_->Leeftijd())),
+      uitgangspunten_(std::make_shared<dossier::Uitgangspunten>(dossier_)),
       codetabellen_(std::make_shared<dossier::Codetabellen>(dossier_->MaatschappijType())) {}
 
 void Application::VulCombo(const std::shared_ptr<host::Codetabellen>& bron, std::string_view tabel,

@@ -14,11 +14,11 @@ namespace brivane::dossier {
 /// The host's assumptions: the age limit of the case.
 class Uitgangspunten : public host::Uitgangspunten {
  public:
-  explicit Uitgangspunten(std::int16_t leeftijd) : leeftijd_(leeftijd) {}
-  [[nodiscard]] std::int16_t Leeftijd() const override { return leeftijd_; }
+  explicit Uitgangspunten(std::shared_ptr<const dossier::Dossier> dossier) : dossier_(std::move(dossier)) {}
+  [[nodiscard]] std::int16_t Leeftijd() const override { return dossier_->Leeftijd(); }
 
  private:
-  std::int16_t leeftijd_;
+  std::shared_ptr<const dossier::Dossier> dossier_;
 };
 
 /// The code tables of a case. Codes and texts compare exactly.

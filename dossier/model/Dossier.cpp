@@ -31,9 +31,7 @@ Dossier::Dossier(DossierGegevens gegevens, std::shared_ptr<Omgeving> omgeving)
       maatschappijen_(std::move(gegevens.MaatschappijType)),
       huidige_(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens.HuidigeLening))),
       voorstellen_(std::move(gegevens.Voorstellen)) {
-  for (PersoonGegevens& persoon : gegevens.Personen) {
-    personen_.push_back(std::make_shared<dossier::Persoon>(std::move(persoon)));
-  }
+  NeemPersonenOver(std::move(gegevens.Personen));
   for (LeningGegevens& lening : gegevens.Leningen) {
     leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(lening)));
   }
@@ -159,9 +157,42 @@ std::shared_ptr<dossier::VrijeKolom> Dossier::MaakAfwijking(std::int16_t Vrij_Id
   return afwijking;
 }
 
+std::vector<PersoonGegevens> Dossier::Personen() const {
+  std::vector<PersoonGegevens> personen;
+  for (const auto& persoon : personen_) personen.push_back(persoon->Gegevens());
+  return personen;
+}
+
+std::int16_t Dossier::NieuweLening(std::string naam) {
+  if (leningen_.size() == static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
+    throw host::Error(host::ErrorNumber::Overflow);
+  }
+  LeningGegevens gegevens{.Sleutel = 0, .Naam = std::move(naam), .VrijeKolommen = {}};
+  omgeving_->Journal->InOneEdit([&] { omgeving_->Journal->AddLoan(gegevens); });
+  leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens)));
+  return AantalLeningen();
+}
+
+void Dossier::SetClient(std::vector<PersoonGegevens> personen, std::int16_t leeftijd) {
+  if (personen.empty() || personen.size() > 2) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
+  omgeving_->Journal->InOneEdit([&] {
+    omgeving_->Journal->SetPersons(personen);
+    omgeving_->Journal->SetAgeLimit(leeftijd);
+  });
+  NeemPersonenOver(std::move(personen));
+  leeftijd_ = leeftijd;
+}
+
+void Dossier::NeemPersonenOver(std::vector<PersoonGegevens> personen) {
+  personen_.clear();
+  for (PersoonGegevens& persoon : personen) {
+    personen_.push_back(std::make_shared<dossier::Persoon>(std::move(persoon)));
+  }
+}
+
 DossierGegevens Dossier::Gegevens() const {
   DossierGegevens gegevens;
-  for (const auto& persoon : personen_) gegevens.Personen.push_back(persoon->Gegevens());
+  gegevens.Personen = Personen();
   gegevens.Leeftijd = leeftijd_;
   gegevens.MaatschappijType = maatschappijen_;
   gegevens.HuidigeLening = huidige_->Gegevens();
@@ -171,9 +202,16 @@ DossierGegevens Dossier::Gegevens() const {
 }
 
 void Dossier::Herlaad(DossierGegevens gegevens) {
+  NeemPersonenOver(std::move(gegevens.Personen));
+  leeftijd_ = gegevens.Leeftijd;
   huidige_->Herlaad(std::move(gegevens.HuidigeLening));
-  for (std::size_t nummer = 0; nummer < leningen_.size() && nummer < gegevens.Leningen.size(); ++nummer) {
-    leningen_[nummer]->Herlaad(std::move(gegevens.Leningen[nummer]));
+  leningen_.resize(std::min(leningen_.size(), gegevens.Leningen.size()));
+  for (std::size_t nummer = 0; nummer < gegevens.Leningen.size(); ++nummer) {
+    if (nummer < leningen_.size()) {
+      leningen_[nummer]->Herlaad(std::move(gegevens.Leningen[nummer]));
+    } else {
+      leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens.Leningen[nummer])));
+    }
   }
   voorstellen_ = std::move(gegevens.Voorstellen);
 }

@@ -63,7 +63,15 @@ class Dossier : public host::Dossier {
   std::shared_ptr<dossier::VrijeKolom> MaakAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id);
 
   [[nodiscard]] const std::vector<Code>& MaatschappijType() const { return maatschappijen_; }
+  /// Age limit of the assumptions, whole years.
   [[nodiscard]] std::int16_t Leeftijd() const { return leeftijd_; }
+  /// The applicant and, if there is one, the partner.
+  [[nodiscard]] std::vector<PersoonGegevens> Personen() const;
+
+  /// Appends a loan without columns to the new situation and answers its number.
+  std::int16_t NieuweLening(std::string naam);
+  /// Replaces the persons and the age limit. One or two persons; else it fails with error 9.
+  void SetClient(std::vector<PersoonGegevens> personen, std::int16_t leeftijd);
 
   [[nodiscard]] DossierGegevens Gegevens() const;
   /// Takes over what is stored, telling nobody. Loans, columns and periods that are known keep their objects.
@@ -72,6 +80,7 @@ class Dossier : public host::Dossier {
  private:
   [[nodiscard]] std::int16_t VrijId() const;
   template <class Function> void VoorElkeKolom(Function&& functie) const;
+  void NeemPersonenOver(std::vector<PersoonGegevens> personen);
   void SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap);
 
   std::shared_ptr<Omgeving> omgeving_;

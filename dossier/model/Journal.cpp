@@ -14,6 +14,9 @@ void Journal::AddColumn(Sleutel, KolomGegevens& kolom) {
 
 void Journal::RemoveColumn(Sleutel) {}
 void Journal::MoveColumn(Sleutel, Sleutel, std::int16_t) {}
+void Journal::AddLoan(LeningGegevens& lening) { lening.Sleutel = ++laatste_; }
+void Journal::SetPersons(const std::vector<PersoonGegevens>&) {}
+void Journal::SetAgeLimit(std::int16_t) {}
 void Journal::SetProposal(std::int16_t, std::int16_t, Lidmaatschap) {}
 void Journal::InOneEdit(const std::function<void()>& body) { body(); }
 

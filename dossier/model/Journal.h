@@ -4,6 +4,7 @@
 #include <functional>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "dossier/model/Gegevens.h"
 
@@ -46,6 +47,12 @@ class Journal {
   virtual void RemoveColumn(Sleutel kolom);
   /// Takes a column out of its loan and appends it to another, under a given identifier.
   virtual void MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id);
+
+  /// Appends a loan without columns to the new situation, and fills in the key given to it.
+  virtual void AddLoan(LeningGegevens& lening);
+  /// Replaces the applicant and, if there is one, the partner.
+  virtual void SetPersons(const std::vector<PersoonGegevens>& personen);
+  virtual void SetAgeLimit(std::int16_t leeftijd);
 
   virtual void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap);
 
