@@ -1,0 +1,43 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <utility>
+
+/// Measures two pieces of work side by side, in one run and interleaved, and prints their ratio at the end.
+///
+///     bench::Compare("TxtOm_Validation", {.measured = "handler", .yardstick = "bare calls", .aim = 4},
+///                    [&] { box.Validation.Raise(cancel); }, [&] { bare.TxtOm_Validation(); });
+///     return bench::Run(argc, argv);
+namespace bench {
+
+struct Question {
+  const char* measured;   ///< what our side is
+  const char* yardstick;  ///< what it is a multiple of
+  double aim;             ///< largest ratio aimed at
+};
+
+namespace detail {
+void Announce(const std::string& name, const Question& question);
+[[nodiscard]] std::string Measured(const std::string& name);
+[[nodiscard]] std::string Yardstick(const std::string& name);
+}  // namespace detail
+
+/// Both sides are called over and over: each must leave things as it found them.
+template <class Ours, class Theirs>
+void Compare(const std::string& name, const Question& question, Ours ours, Theirs theirs) {
+  detail::Announce(name, question);
+  benchmark::RegisterBenchmark(detail::Measured(name).c_str(), [ours](benchmark::State& state) {
+    while (state.KeepRunning()) ours();
+  });
+  benchmark::RegisterBenchmark(detail::Yardstick(name).c_str(), [theirs](benchmark::State& state) {
+    while (state.KeepRunning()) theirs();
+  });
+}
+
+/// Runs every comparison and prints one line for each: nanoseconds of both sides and the ratio of their fastest
+/// repetitions. Answers the exit code: 0 unless a benchmark failed; a missed aim is printed, not a failure.
+int Run(int argc, char** argv);
+
+}  // namespace bench
