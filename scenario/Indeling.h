@@ -54,7 +54,7 @@ struct Breedten {
   Twips eenmalig;
   Twips hint;
   Twips percentage;
-  Twips eenheid;         ///< "%" after the percentage
+  Twips eenheid;  ///< "%" after the percentage
   Twips korting;
   Twips kortingeenheid;  ///< "%" after the discount
   Twips maandkop;

@@ -11,7 +11,8 @@ namespace brivane::scenario {
 namespace {
 
 /// The rows from an entry's row on; none where no row holds its month.
-template <class Rij> std::span<Rij> Vanaf(std::vector<Rij>& rijen, std::int16_t maand) {
+template <class Rij>
+std::span<Rij> Vanaf(std::vector<Rij>& rijen, std::int16_t maand) {
   const std::optional<int> rij = RijVan(maand, static_cast<int>(rijen.size()));
   return rij ? std::span(rijen).subspan(static_cast<std::size_t>(*rij - 1)) : std::span<Rij>();
 }
@@ -44,8 +45,7 @@ std::vector<Renterij> LaadPercentages(int rijen, Kortingkolom kolom, double basi
                                       std::span<const RelatievePost> posten) {
   const Renterij begin{ZoalsIngevoerd(basis, basis, [](double ingevoerd) { return ingevoerd; }), 0};
   std::vector<Renterij> resultaat(static_cast<std::size_t>(rijen), begin);
-  for (const RelatievePost& post : posten)
-    std::ranges::fill(Vanaf(resultaat, post.maand), RijVoor(post, kolom, basis));
+  for (const RelatievePost& post : posten) std::ranges::fill(Vanaf(resultaat, post.maand), RijVoor(post, kolom, basis));
   return resultaat;
 }
 

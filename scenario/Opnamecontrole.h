@@ -15,7 +15,9 @@ inline constexpr std::int32_t kControleOpname = 1;
 void VoegMeldingToe(std::string& meldingen, std::string_view melding);
 
 /// Whether a sum is past its maximum; a maximum of 0 is none, and a sum that equals it passes.
-[[nodiscard]] constexpr bool TeVeelOpgenomen(double totaal, double maximum) { return maximum != 0 && totaal > maximum; }
+[[nodiscard]] constexpr bool TeVeelOpgenomen(double totaal, double maximum) {
+  return maximum != 0 && totaal > maximum;
+}
 
 /// The message for a maximum as the user's locale writes it ("25.000").
 [[nodiscard]] std::string OpnameMelding(std::string_view maximum);

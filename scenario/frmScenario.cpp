@@ -56,7 +56,8 @@ frmScenario::~frmScenario() {
   form_->Unloaded.Disconnect();
 }
 
-template <class Body> bool frmScenario::Guarded(Body&& body) {
+template <class Body>
+bool frmScenario::Guarded(Body&& body) {
   try {
     body();
     return true;
@@ -94,23 +95,41 @@ void frmScenario::SetDisableJaar(std::int16_t Jr, bool NewValue) {
   vergrendeld_[static_cast<std::size_t>(Jr - 1)] = NewValue;
 }
 
-std::int16_t frmScenario::SoortScenario() const { return soortScenario_; }
+std::int16_t frmScenario::SoortScenario() const {
+  return soortScenario_;
+}
 
-void frmScenario::SetSoortScenario(std::int16_t soort) { soortScenario_ = soort; }
+void frmScenario::SetSoortScenario(std::int16_t soort) {
+  soortScenario_ = soort;
+}
 
-host::Color frmScenario::BackColor() const { return form_->BackColor().value_or(host::kButtonFace); }
+host::Color frmScenario::BackColor() const {
+  return form_->BackColor().value_or(host::kButtonFace);
+}
 
-void frmScenario::SetBackColor(host::Color New_Color) { form_->SetBackColor(New_Color); }
+void frmScenario::SetBackColor(host::Color New_Color) {
+  form_->SetBackColor(New_Color);
+}
 
-void frmScenario::ShowModal(host::Hoofdvenster* eigenaar) { form_->ShowModal(eigenaar); }
+void frmScenario::ShowModal(host::Hoofdvenster* eigenaar) {
+  form_->ShowModal(eigenaar);
+}
 
-host::Form& frmScenario::Form() { return *form_; }
+host::Form& frmScenario::Form() {
+  return *form_;
+}
 
-std::int16_t frmScenario::AantalJaar() const { return aantalJaar_; }
+std::int16_t frmScenario::AantalJaar() const {
+  return aantalJaar_;
+}
 
-const std::shared_ptr<host::BedragObject>& frmScenario::Scenario() const { return scenario_; }
+const std::shared_ptr<host::BedragObject>& frmScenario::Scenario() const {
+  return scenario_;
+}
 
-bool frmScenario::Gewijzigd() const { return gewijzigd_; }
+bool frmScenario::Gewijzigd() const {
+  return gewijzigd_;
+}
 
 void frmScenario::Form_Load() {
   Guarded([this] { frame::ScaleToResolution(desktop_, form_->Controls(), *form_); });
@@ -132,9 +151,8 @@ void frmScenario::BouwRooster(std::int16_t AantalJaar, std::int32_t Labeltype, b
   if (Labeltype == 0) controls_[lblJaar].Write(host::Measure::Width, kSmalLabel.value);
 
   const Indeling indeling = DeelIn(opzet_, rooster_.Templates());
-  rooster_.Bouw(opzet_, indeling, [this](int rij) {
-    return rij > kVergrendelbaar || !vergrendeld_[static_cast<std::size_t>(rij - 1)];
-  });
+  rooster_.Bouw(opzet_, indeling,
+                [this](int rij) { return rij > kVergrendelbaar || !vergrendeld_[static_cast<std::size_t>(rij - 1)]; });
   SchikFormulier(indeling);
 }
 
@@ -317,10 +335,16 @@ void frmScenario::Bewaar(Invoersoort soort) {
   }
 }
 
-void frmScenario::ToonTotaal() { controls_[txtTotaal].SetNumber(rooster_.Totaal()); }
+void frmScenario::ToonTotaal() {
+  controls_[txtTotaal].SetNumber(rooster_.Totaal());
+}
 
-host::BedragObject& frmScenario::Bron() const { return host::Need(scenario_); }
+host::BedragObject& frmScenario::Bron() const {
+  return host::Need(scenario_);
+}
 
-bool frmScenario::Aanvullen() const { return controls_[chkAanvullen].Value() == host::kTicked; }
+bool frmScenario::Aanvullen() const {
+  return controls_[chkAanvullen].Value() == host::kTicked;
+}
 
 }  // namespace brivane

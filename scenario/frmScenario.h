@@ -73,7 +73,8 @@ class frmScenario {
   void txtKorting_Validation(int Index);
 
   /// Ends a handler at an unexpected failure and shows it once; answers whether it came to its end.
-  template <class Body> bool Guarded(Body&& body);
+  template <class Body>
+  bool Guarded(Body&& body);
 
   void BouwRooster(std::int16_t AantalJaar, std::int32_t Labeltype, bool In_RenteKorting);
   void SchikFormulier(const scenario::Indeling& indeling);

@@ -46,6 +46,9 @@ class AnyControl {
   [[nodiscard]] AnyControl* Container() const { return container_; }
   /// Name as scripts write it: "TxtBd", "optLast(2)", "Toelichting.jnAO".
   [[nodiscard]] std::string ElementName() const;
+  /// What a screen reader calls it: the name that code gave it, else the label of its design. It is asked
+  /// for when it is needed; a change tells the peer nothing.
+  [[nodiscard]] std::string_view AccessibleName() const { return named_.empty() ? row_->label : named_; }
 
   /// A person acts on the control. Events and their effects are done when this returns; a failure of
   /// a listener is a failure of the action.
@@ -91,6 +94,8 @@ class AnyControl {
   [[nodiscard]] std::optional<float> ReadMeasure(host::Measure measure) const;
   void WriteMeasure(host::Measure measure, float value);
 
+  void PutAccessibleName(const std::string& name) { named_ = name; }
+
   [[nodiscard]] State& MutableState() { return state_; }
   [[nodiscard]] const State& Current() const { return state_; }
 
@@ -105,6 +110,7 @@ class AnyControl {
   Surface* owner_;
   AnyControl* container_;
   State state_;
+  std::string named_;
   std::unique_ptr<headless::Peer> peer_;
 };
 
@@ -129,6 +135,7 @@ template <class Interface, class Base = AnyControl> class ControlOf : public Int
   void Write(host::Measure measure, float value) final { this->WriteMeasure(measure, value); }
   [[nodiscard]] std::optional<host::Color> BackColor() const final { return this->Current().backColor; }
   void SetBackColor(host::Color color) final { this->PutBackColor(color); }
+  void SetAccessibleName(const std::string& name) final { this->PutAccessibleName(name); }
 };
 
 /// The same for the kinds with a caption.
