@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QLabel>
+#include <QPointer>
+
+namespace brivane::qt {
+
+/// A small text beside a box that says why its content was refused. It takes no focus and no clicks, and
+/// lies on the box's window, so that it moves and closes with it.
+class Bubble : public QLabel {
+ public:
+  /// Shows the reason under the box, or above it where there is no room; told to screen readers too.
+  static void Show(QWidget& box, const QString& reason);
+  /// Takes the bubble of this box away, if there is one.
+  static void Hide(QWidget& box);
+  /// The reason shown beside this box; empty where there is none.
+  [[nodiscard]] static QString ReasonOf(const QWidget& box);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  explicit Bubble(QWidget& box);
+  [[nodiscard]] static Bubble* Find(const QWidget& box);
+  void PutBeside();
+
+  QPointer<QWidget> box_;
+};
+
+}  // namespace brivane::qt

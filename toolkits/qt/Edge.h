@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRect>
+#include <QString>
+#include <optional>
+
+#include "frame/Design.h"
+#include "host/Color.h"
+#include "host/Twips.h"
+#include "toolkits/headless/Action.h"
+
+/// Where twips, colours, captions and box contents become what Qt draws, and back.
+namespace brivane::qt {
+
+/// Twips to a pixel that does not depend on the screen: Qt scales those itself.
+inline constexpr float kTwipsPerPixel = 15;
+
+/// Turns twips into pixels and back. A scale other than 1 follows an application font that is larger or
+/// smaller than the font of the design.
+class Edge {
+ public:
+  /// The scale that the application's font asks for: 1 where it is as large as a font of 9 points.
+  [[nodiscard]] static Edge OfApplication();
+  explicit Edge(double scale = 1) : scale_(scale) {}
+
+  /// Edges are rounded, so that controls that touch in twips touch in pixels.
+  [[nodiscard]] QRect Pixels(const host::Place& place) const;
+  [[nodiscard]] QSize Pixels(host::Twips width, host::Twips height) const;
+  [[nodiscard]] host::Twips ToTwips(int pixels) const;
+  [[nodiscard]] QFont Font(const frame::Design& design, float points) const;
+
+  friend bool operator==(const Edge&, const Edge&) = default;
+
+ private:
+  [[nodiscard]] int Pixel(float twips) const;
+
+  double scale_;
+};
+
+/// The colour, or nothing for a colour of the system, which is left to the palette.
+[[nodiscard]] std::optional<QColor> ToQt(host::Color color);
+[[nodiscard]] host::Color FromQt(const QColor& color);
+/// Text that can be read on a background.
+[[nodiscard]] QColor TextOn(const QColor& background);
+
+/// The caption of a control as Qt shows it: with its mnemonic, and with "&" shown where code put it there.
+[[nodiscard]] QString ShownCaption(const frame::Row& row, const std::string& caption);
+/// The same for a label that leads to no control.
+[[nodiscard]] QString PlainCaption(const std::string& caption);
+
+/// How a box of a format shows its content.
+[[nodiscard]] QString ShownContent(const headless::BoxValue& content, frame::Format format);
+
+/// What a typed text is as content of a box; a reason to refuse it where it is not of the format.
+struct TypedContent {
+  headless::BoxValue value;
+  QString refusal;
+};
+[[nodiscard]] TypedContent ReadContent(const QString& typed, frame::Format format);
+
+}  // namespace brivane::qt

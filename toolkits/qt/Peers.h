@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+#include "toolkits/headless/Control.h"
+#include "toolkits/headless/Peer.h"
+#include "toolkits/qt/Toolkit.h"
+
+namespace brivane::qt {
+
+/// Shows a control by a widget of its own. The widget dies with the control, or before it with its parent.
+class WidgetPeer : public headless::Peer {
+ public:
+  ~WidgetPeer() override;
+
+  void Refresh(headless::Aspect aspect) override;
+  void TakeFocus() override;
+  [[nodiscard]] QWidget* Widget() const { return widget_; }
+  [[nodiscard]] headless::AnyControl& Control() const { return control_; }
+  [[nodiscard]] qt::Toolkit& Toolkit() const { return toolkit_; }
+  /// Shows everything anew, after the scale changed.
+  virtual void Rescale();
+
+ protected:
+  /// Takes the widget over and shows what is common to all controls.
+  WidgetPeer(headless::AnyControl& control, qt::Toolkit& toolkit, QWidget* widget);
+
+  /// Whether something is being shown and not done by a person.
+  [[nodiscard]] bool Showing() const { return showing_; }
+  template <class Body>
+  void Show(const Body& body) {
+    const bool before = std::exchange(showing_, true);
+    body();
+    showing_ = before;
+  }
+  virtual void ShowVisible();
+  virtual void ShowPlace();
+  virtual void ShowBackColor();
+  void ShowFont();
+
+ private:
+  headless::AnyControl& control_;
+  qt::Toolkit& toolkit_;
+  QPointer<QWidget> widget_;
+  bool showing_ = false;
+};
+
+/// The widget that a control's widget stands in: nothing for a surface of its own.
+[[nodiscard]] QWidget* ContainerWidget(const headless::AnyControl& control);
+
+/// The peer for a control of any kind.
+[[nodiscard]] std::unique_ptr<headless::Peer> MakeWidgetPeer(headless::AnyControl& control, Toolkit& toolkit);
+
+}  // namespace brivane::qt

@@ -1,0 +1,91 @@
+#include "toolkits/qt/SurfaceWidget.h"
+
+#include <QEvent>
+#include <algorithm>
+
+#include "toolkits/qt/PlainPeers.h"
+
+namespace brivane::qt {
+namespace {
+
+QWidget* WidgetOf(const headless::AnyControl& control) {
+  const auto* const peer = dynamic_cast<const WidgetPeer*>(control.GetPeer());
+  return peer != nullptr ? peer->Widget() : nullptr;
+}
+
+/// A label with a mnemonic leads to the box in the row below it.
+void LeadLabels(const headless::Surface& surface) {
+  const auto& made = surface.Made();
+  for (std::size_t i = 0; i + 1 < made.size(); ++i) {
+    if (made[i]->ControlKind() != host::Kind::Label || made[i]->Row().mnemonic == '\0') continue;
+    if (QWidget* const box = WidgetOf(*made[i + 1])) static_cast<LabelPeer&>(*made[i]->GetPeer()).LeadTo(*box);
+  }
+}
+
+}  // namespace
+
+QWidget* ChainTabOrder(const headless::Surface& surface, QWidget* previous) {
+  std::vector<const headless::AnyControl*> stops;
+  for (const auto& control : surface.Made())
+    if (control->Row().tab > 0 && control->Index() != frame::kTemplateIndex) stops.push_back(control.get());
+  std::sort(stops.begin(), stops.end(), [](const auto* a, const auto* b) { return a->Row().tab < b->Row().tab; });
+  for (const headless::AnyControl* stop : stops) {
+    if (stop->ControlKind() == host::Kind::Surface) {
+      previous = ChainTabOrder(static_cast<const headless::Surface&>(*stop), previous);
+      continue;
+    }
+    QWidget* const widget = WidgetOf(*stop);
+    if (widget == nullptr) continue;
+    if (previous != nullptr) QWidget::setTabOrder(previous, widget);
+    previous = widget;
+  }
+  LeadLabels(surface);
+  return previous;
+}
+
+SurfaceWidget::SurfaceWidget(headless::Surface& surface, Toolkit& toolkit, QWidget* parent)
+    : QWidget(parent), surface_(surface), toolkit_(toolkit) {
+  setFont(toolkit.Edge().Font(surface.Table(), surface.Table().fontSize));
+}
+
+void SurfaceWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (chained_ || surface_.Owner() != nullptr) return;
+  chained_ = true;
+  ChainTabOrder(surface_, nullptr);
+}
+
+void SurfaceWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::ApplicationFontChange && surface_.Owner() == nullptr) Rescale();
+}
+
+void SurfaceWidget::Rescale() {
+  toolkit_.FollowApplicationFont();
+  const std::function<void(const headless::Surface&)> rescale = [&](const headless::Surface& area) {
+    WidgetOf(area)->setFont(toolkit_.Edge().Font(area.Table(), area.Table().fontSize));
+    for (const auto& control : area.Made()) {
+      static_cast<WidgetPeer&>(*control->GetPeer()).Rescale();
+      if (control->ControlKind() == host::Kind::Surface) rescale(static_cast<const headless::Surface&>(*control));
+    }
+  };
+  rescale(surface_);
+  static_cast<WidgetPeer&>(*surface_.GetPeer()).Rescale();
+}
+
+SurfacePeer::SurfacePeer(headless::Surface& surface, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(surface, toolkit, new SurfaceWidget(surface, toolkit, container)) {}
+
+void SurfacePeer::ShowVisible() {
+  // A surface of its own is shown by the widget that takes it in.
+  if (IsEmbedded() || Widget()->parentWidget() != nullptr) WidgetPeer::ShowVisible();
+}
+
+void SurfacePeer::ShowPlace() {
+  if (IsEmbedded()) return WidgetPeer::ShowPlace();
+  Widget()->resize(Toolkit().Edge().Pixels(Control().Host().Place().width, Control().Host().Place().height));
+  const auto& sized = static_cast<SurfaceWidget*>(Widget())->sized;
+  if (sized) sized();
+}
+
+}  // namespace brivane::qt

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+
+#include "toolkits/headless/Surface.h"
+#include "toolkits/qt/Peers.h"
+
+namespace brivane::qt {
+
+/// The area of a surface: gives what stands on it its font and its tab order.
+class SurfaceWidget : public QWidget {
+ public:
+  SurfaceWidget(headless::Surface& surface, Toolkit& toolkit, QWidget* parent);
+
+  /// Called when code has sized the surface.
+  std::function<void()> sized;
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Rescale();
+
+  headless::Surface& surface_;
+  Toolkit& toolkit_;
+  bool chained_ = false;
+};
+
+class SurfacePeer final : public WidgetPeer {
+ public:
+  SurfacePeer(headless::Surface& surface, qt::Toolkit& toolkit, QWidget* container);
+
+ protected:
+  void ShowVisible() override;
+  void ShowPlace() override;
+
+ private:
+  [[nodiscard]] bool IsEmbedded() const { return Control().Owner() != nullptr; }
+};
+
+/// Puts what takes the focus in the tab order of the design, an embedded surface in its own place, and
+/// lets the mnemonics of labels lead to their boxes. Answers the last widget of the chain.
+QWidget* ChainTabOrder(const headless::Surface& surface, QWidget* previous);
+
+}  // namespace brivane::qt

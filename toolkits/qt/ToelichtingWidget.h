@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "toelichting/Toelichting.h"
+#include "toolkits/qt/ControlWidget.h"
+
+namespace brivane::qt {
+
+/// The explanation control as a widget of its own; the editor has one inside it.
+class ToelichtingWidget : public ControlWidget {
+  Q_OBJECT
+
+ public:
+  explicit ToelichtingWidget(QWidget* parent = nullptr);
+  ~ToelichtingWidget() override;
+
+  /// As Toelichting::SetApplication.
+  void SetApplication(std::shared_ptr<host::Application>& Application, std::shared_ptr<host::Lening>& Lening,
+                      std::int16_t Vrij_Id);
+  /// As Toelichting::Validation, after the box that is being edited was handed over; refused there is
+  /// refused here.
+  void Validation(bool& Cancel, std::int32_t ControleNr = 0);
+  void setBackColor(const QColor& color) override;
+
+  [[nodiscard]] Toelichting& Control() { return *control_; }
+
+ signals:
+  /// An edit was written into the record.
+  void changed();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  std::unique_ptr<Toelichting> control_;
+};
+
+}  // namespace brivane::qt

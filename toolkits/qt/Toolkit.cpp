@@ -1,0 +1,61 @@
+#include "toolkits/qt/Toolkit.h"
+
+#include <QFontMetricsF>
+
+#include "host/Error.h"
+#include "toolkits/qt/EntryBox.h"
+#include "toolkits/qt/Peers.h"
+#include "toolkits/qt/Text.h"
+
+namespace brivane::qt {
+namespace {
+
+std::string Describe(const std::exception& failure) {
+  const auto* error = dynamic_cast<const host::Error*>(&failure);
+  const int number = error != nullptr ? error->Number() : static_cast<int>(host::ErrorNumber::Foreign);
+  return "Er is een fout opgetreden.\r\n" + std::to_string(number) + ": " + failure.what();
+}
+
+}  // namespace
+
+void Toolkit::Guard(const std::function<void()>& body) {
+  try {
+    body();
+  } catch (const std::exception& failure) {
+    if (failureListener_)
+      failureListener_(failure);
+    else
+      desktop_.MessageBox("Kwandero", Describe(failure), host::MessageStyle::OkExclamation);
+  }
+}
+
+bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget) {
+  EntryBox* const elsewhere = EntryBox::PendingWithin(*widget.window());
+  if (elsewhere != nullptr && elsewhere != &widget && !elsewhere->CommitPending()) return false;
+  headless::Outcome outcome = headless::Outcome::Done;
+  Guard([&] { outcome = control.Perform(action); });
+  return outcome == headless::Outcome::Done;
+}
+
+bool Toolkit::FollowApplicationFont() {
+  const qt::Edge edge = Edge::OfApplication();
+  if (edge == edge_) return false;
+  edge_ = edge;
+  return true;
+}
+
+host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
+  QFont font = qt::Edge(1).Font(design, design.fontSize);
+  font.setBold(bold);
+  return {static_cast<float>(QFontMetricsF(font).horizontalAdvance(ToQt(text)) * kTwipsPerPixel)};
+}
+
+QWidget& Toolkit::WidgetOf(host::Surface& surface) {
+  return *static_cast<WidgetPeer&>(*headless::Surface::Of(surface).GetPeer()).Widget();
+}
+
+std::unique_ptr<headless::Peer> Toolkit::MakePeer(headless::AnyControl& control) {
+  return MakeWidgetPeer(control, *this);
+}
+
+}  // namespace brivane::qt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QWidget>
+#include <exception>
+#include <functional>
+#include <memory>
+
+#include "toolkits/headless/Toolkit.h"
+#include "toolkits/qt/Desktop.h"
+#include "toolkits/qt/Edge.h"
+
+namespace brivane::qt {
+
+/// Shows design tables as Qt widgets. What a control does stands in the headless controls; each has a peer
+/// here that shows it and hands over what a person does.
+///
+/// Must outlive the surfaces and forms that it made.
+class Toolkit : public headless::ToolkitBase {
+ public:
+  using FailureListener = std::function<void(const std::exception& failure)>;
+
+  [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
+
+  /// Where a failure goes that no procedure handled: it would otherwise cross the event loop. Without a
+  /// listener a message box tells it.
+  void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
+  /// Runs something that a widget sets off, and hands its failure to the listener.
+  void Guard(const std::function<void()>& body);
+
+  /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
+  /// handed over first; where that is refused, the action is not done. False where it was not done.
+  bool Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget);
+
+  [[nodiscard]] const qt::Edge& Edge() const { return edge_; }
+  /// Follows the application's font; true where the scale changed.
+  bool FollowApplicationFont();
+
+  [[nodiscard]] host::Twips MeasureText(const frame::Design& design, std::string_view text, bool bold) const override;
+  [[nodiscard]] headless::WindowFrame WindowFrame() const override { return {}; }
+
+  /// The widget of a surface that this toolkit made. Without a parent it is a hidden window.
+  [[nodiscard]] static QWidget& WidgetOf(host::Surface& surface);
+
+ protected:
+  [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
+
+ private:
+  qt::Desktop desktop_;
+  qt::Edge edge_ = Edge::OfApplication();
+  FailureListener failureListener_;
+};
+
+}  // namespace brivane::qt

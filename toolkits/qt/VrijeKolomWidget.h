@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+
+#include "toolkits/qt/ControlWidget.h"
+#include "vrijekolom/VrijeKolom.h"
+
+namespace brivane::qt {
+
+/// The free-column editor as a widget.
+///
+///     auto* editor = new VrijeKolomWidget(parent);
+///     editor->SetHostFactories(factories);
+///     connect(editor, &VrijeKolomWidget::refreshTopDisplay, header, &QLabel::setText);
+///     editor->SetApplication(application, 0, 1);
+///     bool cancel = false;
+///     editor->Validation(cancel);  // cancel: stay on the column
+class VrijeKolomWidget : public ControlWidget {
+  Q_OBJECT
+
+ public:
+  explicit VrijeKolomWidget(QWidget* parent = nullptr);
+  ~VrijeKolomWidget() override;
+
+  /// As VrijeKolom::SetApplication.
+  void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
+  /// As VrijeKolom::Validation, after the box that is being edited was handed over; refused there is
+  /// refused here.
+  void Validation(bool& Cancel, std::int32_t ControleNr = 0);
+  [[nodiscard]] bool BeeindigenZichtbaar() const { return control_->BeeindigenZichtbaar(); }
+  void SetBeeindigenZichtbaar(bool zichtbaar) { control_->SetBeeindigenZichtbaar(zichtbaar); }
+  void setBackColor(const QColor& color) override;
+
+  [[nodiscard]] VrijeKolom& Control() { return *control_; }
+
+ signals:
+  /// The header text of the column may have changed.
+  void refreshTopDisplay(const QString& text);
+
+ private:
+  std::unique_ptr<VrijeKolom> control_;
+};
+
+}  // namespace brivane::qt
