@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "replay/Document.h"
+#include "replay/Reading.h"
+
+namespace brivane::replay {
+
+/// Where a list of steps stands, which decides what may be in it.
+enum class StepList : std::uint8_t {
+  Session,       ///< the document's own steps
+  Pending,       ///< user actions on the editor that are waiting
+  Modal,         ///< while the year-by-year form is open
+  ModalPending,  ///< user actions on the form that are waiting
+};
+
+/// Reads a list of steps. Throws BadInput.
+[[nodiscard]] std::vector<Step> ReadSteps(const Value& value, StepList list);
+
+}  // namespace brivane::replay
