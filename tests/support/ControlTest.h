@@ -1,0 +1,48 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "frame/Calendar.h"
+#include "frame/Handle.h"
+#include "tests/support/TestHost.h"
+#include "toolkits/headless/Toolkit.h"
+
+namespace brivane::test {
+
+using Lines = std::vector<std::string>;
+
+inline host::Date D(int year, int month, int day) { return frame::MakeDate({year, month, day}); }
+
+/// The lines of a kind, such as "set" or "report", in their order.
+[[nodiscard]] Lines Only(const Lines& lines, std::string_view kind);
+
+/// A control on the headless toolkit against the host in memory, on 21 November 2026. Message boxes, the
+/// focus and pending events are written into the host's journal.
+class ControlTest : public ::testing::Test {
+ protected:
+  explicit ControlTest(const frame::Design& design);
+
+  TestHost host_;
+  headless::Toolkit toolkit_;
+  /// What message boxes answer, in turn; after them "Nee" to a question and OK to everything else.
+  std::deque<host::MessageAnswer> answers_;
+  /// What runs when the logic lets pending events run.
+  std::function<void()> pending_;
+  std::unique_ptr<host::Surface> surface_;
+  frame::Controls on_;
+
+  /// A person acts on a control that can be reached; answers whether a box refused.
+  bool Act(host::Control& control, const headless::Action& action);
+  /// A person acts on a control; answers what became of it.
+  headless::Outcome Try(host::Control& control, const headless::Action& action);
+  /// What happened since the last time.
+  [[nodiscard]] Lines Log() { return host_.journal.Take(); }
+  void Forget() { (void)host_.journal.Take(); }
+};
+
+}  // namespace brivane::test
