@@ -1,0 +1,75 @@
+#include "dossier/store/Database.h"
+
+#include <QSqlError>
+#include <QUrl>
+#include <atomic>
+
+namespace brivane::dossier {
+namespace {
+
+/// Connections have names, unique in the process.
+QString NieuweNaam() {
+  static std::atomic<int> teller = 0;
+  return QStringLiteral("brivane-dossier-%1").arg(++teller);
+}
+
+}  // namespace
+
+DatabaseError::DatabaseError(const QSqlError& error)
+    : std::runtime_error(error.databaseText().toStdString()),
+      // The low byte of an extended result code is the primary one.
+      code_(static_cast<SqliteCode>(error.nativeErrorCode().toInt() & 0xff)) {}
+
+Database::Database(const QString& pad, Access access)
+    : naam_(NieuweNaam()), database_(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), naam_)) {
+  // Whoever has the file open keeps it open: waiting would not help.
+  QString opties = QStringLiteral("QSQLITE_BUSY_TIMEOUT=0");
+  QString naam = pad;
+  if (access != Access::ReadWrite) opties += QStringLiteral(";QSQLITE_OPEN_READONLY");
+  if (access == Access::Immutable) {
+    opties += QStringLiteral(";QSQLITE_OPEN_URI");
+    naam = QString::fromLatin1(QUrl::fromLocalFile(pad).toEncoded(QUrl::FullyEncoded)) + QStringLiteral("?immutable=1");
+  }
+  database_.setConnectOptions(opties);
+  database_.setDatabaseName(naam);
+  if (database_.open()) return;
+  const DatabaseError error(database_.lastError());
+  database_ = {};
+  QSqlDatabase::removeDatabase(naam_);
+  throw error;
+}
+
+Database::~Database() {
+  database_.close();
+  database_ = {};
+  QSqlDatabase::removeDatabase(naam_);
+}
+
+void Database::Run(const QString& sql) {
+  QSqlQuery query(database_);
+  if (!query.exec(sql)) throw DatabaseError(query.lastError());
+}
+
+QVariant Database::Value(const QString& sql) {
+  QSqlQuery query(database_);
+  query.setForwardOnly(true);
+  if (!query.exec(sql) || !query.next()) throw DatabaseError(query.lastError());
+  return query.value(0);
+}
+
+QSqlQuery Database::Prepare(const QString& sql) const {
+  QSqlQuery query(database_);
+  query.setForwardOnly(true);
+  if (!query.prepare(sql)) throw DatabaseError(query.lastError());
+  return query;
+}
+
+void Database::Run(QSqlQuery& query) {
+  if (!query.exec()) throw DatabaseError(query.lastError());
+}
+
+QByteArray AlsBytes(std::string_view tekst) {
+  return tekst.empty() ? QByteArray("") : QByteArray(tekst.data(), static_cast<qsizetype>(tekst.size()));
+}
+
+}  // namespace brivane::dossier

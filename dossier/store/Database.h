@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+#include <stdexcept>
+#include <string>
+
+namespace brivane::dossier {
+
+/// SQLite's primary result codes that the store tells apart.
+enum class SqliteCode : int { Busy = 5, ReadOnly = 8, IoError = 10, Corrupt = 11, Full = 13, CannotOpen = 14, NotADatabase = 26 };
+
+/// A statement, or the opening of a file, that SQLite refused.
+class DatabaseError : public std::runtime_error {
+ public:
+  explicit DatabaseError(const QSqlError& error);
+  [[nodiscard]] SqliteCode Code() const noexcept { return code_; }
+
+ private:
+  SqliteCode code_;
+};
+
+/// How a file is opened: to look at it without leaving a trace, to look at it where a write-ahead log stands
+/// beside it, to work in it, or to make it.
+enum class Access { Immutable, ReadOnly, ReadWrite };
+
+/// One connection to an SQLite file, closed with the object. Queries made from it must be gone before.
+/// Everything throws DatabaseError on failure.
+class Database {
+ public:
+  Database(const QString& pad, Access access);
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+  ~Database();
+
+  /// Runs a statement without results or parameters.
+  void Run(const QString& sql);
+  /// The first value of the first row.
+  [[nodiscard]] QVariant Value(const QString& sql);
+  /// A prepared statement whose rows are read once, in order.
+  [[nodiscard]] QSqlQuery Prepare(const QString& sql) const;
+  static void Run(QSqlQuery& query);
+
+ private:
+  QString naam_;
+  QSqlDatabase database_;
+};
+
+/// Texts travel as their UTF-8 bytes, so that what is read is what was written to the byte: a parameter for a
+/// text is written `CAST(? AS TEXT)`, a column read `CAST(... AS BLOB)`.
+[[nodiscard]] QByteArray AlsBytes(std::string_view tekst);
+
+}  // namespace brivane::dossier

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "dossier/model/Dossier.h"
+#include "dossier/store/Edits.h"
+#include "dossier/store/OpeningError.h"
+#include "dossier/store/StoreTrace.h"
+
+namespace brivane::dossier {
+
+class FileJournal;
+
+/// An open loan file (`.dossier`) with its case in memory. While it is open nobody else can open it, in this
+/// process or another. Every change of the case is in the file before the procedure that made it returns.
+///
+///     auto bestand = DossierBestand::Open(pad);   // OpeningError: show its Melding()
+///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
+///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
+///     editor.ScenarioGeopend.Connect([&](frmScenario&) { bestand->Bewerkingen().BeginModal(); });
+///     bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */ });
+///
+/// The objects of the case may outlive it; a change then fails.
+class DossierBestand {
+ public:
+  /// Opens a loan file. Throws OpeningError, and leaves the file as it was.
+  [[nodiscard]] static std::unique_ptr<DossierBestand> Open(const QString& pad);
+  /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
+  static void Maak(const QString& pad, const DossierGegevens& gegevens);
+
+  DossierBestand(const DossierBestand&) = delete;
+  DossierBestand& operator=(const DossierBestand&) = delete;
+  ~DossierBestand();
+
+  [[nodiscard]] const QString& Pad() const { return pad_; }
+  [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const { return dossier_; }
+  /// What is stored together, and what could not be stored.
+  [[nodiscard]] Edits& Bewerkingen();
+  /// A tracer for one control, bound to this file's edits.
+  [[nodiscard]] std::shared_ptr<StoreTrace> MaakTrace(std::string_view control,
+                                                      std::shared_ptr<TraceListener> listener = nullptr);
+  /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
+  [[nodiscard]] QStringList ControleerHeelheid();
+
+ private:
+  explicit DossierBestand(const QString& pad);
+
+  QString pad_;
+  std::shared_ptr<FileJournal> journal_;
+  std::shared_ptr<dossier::Dossier> dossier_;
+};
+
+}  // namespace brivane::dossier

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include "dossier/store/Database.h"
+
+/// The layout of a loan file and its versions.
+namespace brivane::dossier {
+
+/// Marks an SQLite file as a loan file: "BrDo".
+inline constexpr quint32 kApplicationId = 0x4272446F;
+/// The layout that this program reads and writes; files of older versions are brought up to it when opened.
+inline constexpr int kSchemaVersion = 1;
+
+/// Brings an open file from one version (0: a file without tables) up to kSchemaVersion in one transaction.
+void Migrate(Database& database, int version);
+
+}  // namespace brivane::dossier

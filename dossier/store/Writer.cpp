@@ -1,0 +1,120 @@
+#include "dossier/store/Writer.h"
+
+#include <QStringList>
+#include <concepts>
+
+#include "dossier/store/Velden.h"
+
+namespace brivane::dossier {
+namespace {
+
+QVariant AlsVariant(std::integral auto getal) { return QVariant(static_cast<qlonglong>(getal)); }
+QVariant AlsVariant(double getal) { return QVariant(getal); }
+QVariant AlsVariant(host::Date datum) { return QVariant(static_cast<qlonglong>(datum.Days())); }
+QVariant AlsVariant(const std::string& tekst) { return QVariant(AlsBytes(tekst)); }
+
+/// Builds an INSERT that names its columns.
+class Insert {
+ public:
+  template <class Value> void Neem(const char* naam, const Value&) {
+    namen_ << QString::fromLatin1(naam);
+    waarden_ << (std::same_as<Value, std::string> ? QStringLiteral("CAST(? AS TEXT)") : QStringLiteral("?"));
+  }
+  [[nodiscard]] QString In(const char* tabel) const {
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+        .arg(QString::fromLatin1(tabel), namen_.join(QStringLiteral(", ")), waarden_.join(QStringLiteral(", ")));
+  }
+
+ private:
+  QStringList namen_;
+  QStringList waarden_;
+};
+
+/// One INSERT of a row that is written once.
+template <class... Values>
+void Schrijf(Database& database, const char* tabel, std::initializer_list<const char*> namen, const Values&... waarden) {
+  Insert insert;
+  const char* const* naam = namen.begin();
+  (insert.Neem(*naam++, waarden), ...);
+  QSqlQuery query = database.Prepare(insert.In(tabel));
+  int plaats = 0;
+  (query.bindValue(plaats++, AlsVariant(waarden)), ...);
+  Database::Run(query);
+}
+
+}  // namespace
+
+void Writer::SchrijfDossier(DossierGegevens dossier) {
+  database_.Run(QStringLiteral("BEGIN IMMEDIATE"));
+  Schrijf(database_, "dossier", {"enig", "leeftijd"}, 1, dossier.Leeftijd);
+  SchrijfPersonen(dossier.Personen);
+  int volgorde = 0;
+  for (const Code& code : dossier.MaatschappijType) {
+    Schrijf(database_, "maatschappij_type", {"volgorde", "code", "tekst"}, ++volgorde, code.code, code.tekst);
+  }
+  dossier.Leningen.insert(dossier.Leningen.begin(), std::move(dossier.HuidigeLening));
+  int nummer = 0;
+  for (LeningGegevens& lening : dossier.Leningen) {
+    VoegLeningToe(nummer++, lening);
+    for (KolomGegevens& kolom : lening.VrijeKolommen) VoegKolomToe(lening.Sleutel, kolom);
+  }
+  std::int16_t voorstel = 0;
+  for (const auto& leden : dossier.Voorstellen) {
+    ++voorstel;
+    for (const std::int16_t Vrij_Id : leden) Schrijf(database_, "voorstel", {"voorstel", "vrij_id"}, voorstel, Vrij_Id);
+  }
+  database_.Run(QStringLiteral("COMMIT"));
+}
+
+void Writer::VoegLeningToe(int nummer, LeningGegevens& lening) {
+  lening.Sleutel = Volgende();
+  Schrijf(database_, "lening", {"sleutel", "nummer", "naam"}, lening.Sleutel, nummer, lening.Naam);
+}
+
+void Writer::SchrijfPersonen(const std::vector<PersoonGegevens>& personen) {
+  int nummer = 0;
+  for (const PersoonGegevens& persoon : personen) {
+    Schrijf(database_, "persoon", {"nummer", "naam_1", "naam_2", "naam_3", "geboortedatum"}, ++nummer, persoon.Naam[0],
+            persoon.Naam[1], persoon.Naam[2], persoon.Geboortedatum);
+  }
+}
+
+void Writer::VoegKolomToe(Sleutel lening, KolomGegevens& kolom) {
+  if (!kolom_) {
+    Insert insert;
+    insert.Neem("sleutel", kolom.Sleutel);
+    insert.Neem("lening", lening);
+    insert.Neem("volgorde", lening);
+    BezoekKolom(kolom, [&](const char* naam, const auto& waarde) { insert.Neem(naam, waarde); });
+    kolom_ = database_.Prepare(insert.In("vrijekolom"));
+  }
+  kolom.Sleutel = Volgende();
+  int plaats = 0;
+  kolom_->bindValue(plaats++, AlsVariant(kolom.Sleutel));
+  kolom_->bindValue(plaats++, AlsVariant(lening));
+  kolom_->bindValue(plaats++, AlsVariant(Volgende()));
+  BezoekKolom(kolom, [&](const char*, const auto& waarde) { kolom_->bindValue(plaats++, AlsVariant(waarde)); });
+  Database::Run(*kolom_);
+  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) {
+    periode.Sleutel = Volgende();
+    Schrijf(database_, "periode", {"sleutel", "kolom", "maand", "bedrag", "percentage", "korting", "eenmalig"},
+            periode.Sleutel, kolom.Sleutel, periode.Maand, periode.Bedrag, periode.Percentage, periode.Korting,
+            periode.Eenmalig);
+  }
+}
+
+Sleutel Writer::VoegPeriodeToe(Sleutel kolom) {
+  if (!periode_) periode_ = database_.Prepare(QStringLiteral("INSERT INTO periode (sleutel, kolom) VALUES (?, ?)"));
+  const Sleutel sleutel = Volgende();
+  periode_->bindValue(0, AlsVariant(sleutel));
+  periode_->bindValue(1, AlsVariant(kolom));
+  Database::Run(*periode_);
+  return sleutel;
+}
+
+void Writer::Sluit() {
+  kolom_.reset();
+  periode_.reset();
+}
+
+}  // namespace brivane::dossier

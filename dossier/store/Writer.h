@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QSqlQuery>
+#include <optional>
+
+#include "dossier/model/Gegevens.h"
+#include "dossier/store/Database.h"
+
+namespace brivane::dossier {
+
+/// Adds whole rows to a file: columns with their periods, and for a new file everything. Gives out the keys,
+/// which are never used twice while a file is open.
+class Writer {
+ public:
+  /// Keys are given out from `eerste` on.
+  Writer(Database& database, Sleutel eerste) : database_(database), volgende_(eerste) {}
+
+  /// Writes a case into a file without rows, in one transaction.
+  void SchrijfDossier(DossierGegevens dossier);
+  // The rest are parts of a transaction.
+
+  /// Appends the loan of that number, without columns, and fills in its key.
+  void VoegLeningToe(int nummer, LeningGegevens& lening);
+  void SchrijfPersonen(const std::vector<PersoonGegevens>& personen);
+  /// Appends a column with its periods to a loan and fills in their keys.
+  void VoegKolomToe(Sleutel lening, KolomGegevens& kolom);
+  /// Appends an empty period entry.
+  Sleutel VoegPeriodeToe(Sleutel kolom);
+  /// A key, or a place at the end of any order, that was not given out before.
+  [[nodiscard]] Sleutel Volgende() { return volgende_++; }
+  /// Frees the prepared statements, so that the connection can be closed.
+  void Sluit();
+
+ private:
+  Database& database_;
+  Sleutel volgende_;
+  std::optional<QSqlQuery> kolom_;
+  std::optional<QSqlQuery> periode_;
+};
+
+}  // namespace brivane::dossier
