@@ -19,6 +19,8 @@ inline constexpr int kRijBreed = 6030;
 /// Left edge of the boxes in a row frame, and on a frame of the column itself.
 inline constexpr int kVakLinks = 1800;
 inline constexpr int kVakInKader = 135 + kVakLinks;
+/// Halfway between a frame's title and its bottom.
+inline constexpr int kOptieTop = 330;
 inline constexpr int kOptieHoog = 255;
 inline constexpr int kVakHoog = 315;
 inline constexpr int kRijHoog = 330;
@@ -42,20 +44,20 @@ inline constexpr int kToelichtingTop = kProductHoog + kKaderAfstand;
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last"},
     // The indexes run against the order on the screen.
-    {.name = "optLast", .kind = Kind::OptionButton, .place = {4185, 285, 1980, kOptieHoog}, .parent = "fraLast",
+    {.name = "optLast", .kind = Kind::OptionButton, .place = {4185, kOptieTop, 1980, kOptieHoog}, .parent = "fraLast",
      .caption = "Last", .index = kLast, .tab = 3},
-    {.name = "optLast", .kind = Kind::OptionButton, .place = {2160, 285, 1980, kOptieHoog}, .parent = "fraLast",
+    {.name = "optLast", .kind = Kind::OptionButton, .place = {2160, kOptieTop, 1980, kOptieHoog}, .parent = "fraLast",
      .caption = "Bijdrage", .index = kBijdrage, .tab = 2},
-    {.name = "optLast", .kind = Kind::OptionButton, .place = {135, 285, 1980, kOptieHoog}, .parent = "fraLast",
+    {.name = "optLast", .kind = Kind::OptionButton, .place = {135, kOptieTop, 1980, kOptieHoog}, .parent = "fraLast",
      .caption = "Neutraal", .index = kLastNeutraal, .tab = 1},
 
     {.name = "fraFiscaal", .kind = Kind::Frame, .place = {0, kFiscaalTop, kLinksBreed, kLastHoog},
      .caption = "Correctie fiscaal"},
-    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {135, 285, 1980, kOptieHoog}, .parent = "fraFiscaal",
+    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {135, kOptieTop, 1980, kOptieHoog}, .parent = "fraFiscaal",
      .caption = "Aftrekpost", .index = kAftrekpost, .tab = 4},
-    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {2160, 285, 1980, kOptieHoog}, .parent = "fraFiscaal",
+    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {2160, kOptieTop, 1980, kOptieHoog}, .parent = "fraFiscaal",
      .caption = "Bijtelling", .index = kBijtelling, .tab = 5},
-    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {4185, 285, 1980, kOptieHoog}, .parent = "fraFiscaal",
+    {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {4185, kOptieTop, 1980, kOptieHoog}, .parent = "fraFiscaal",
      .caption = "Neutraal", .index = kFiscaalNeutraal, .tab = 6},
 
     {.name = "fraAlgemeen", .kind = Kind::Frame, .place = {0, kAlgemeenTop, kLinksBreed, kAlgemeenHoog},
@@ -125,14 +127,14 @@ inline constexpr frame::Row kRijen[] = {
 
     {.name = "fraHeffing", .kind = Kind::Frame, .place = {0, kHeffingTop, kLinksBreed, kLastHoog},
      .caption = "Heffing bij"},
-    {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {135, 285, 3000, kOptieHoog},
+    {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {135, kOptieTop, 3000, kOptieHoog},
      .parent = "fraHeffing", .caption = "Aanvrager", .index = kAanvrager, .tab = 21},
-    {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {3165, 285, 3000, kOptieHoog},
+    {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {3165, kOptieTop, 3000, kOptieHoog},
      .parent = "fraHeffing", .caption = "Partner", .index = kPartner, .tab = 22},
 
     {.name = "fraProduct", .kind = Kind::Frame, .place = {kRechtsLinks, 0, kRechtsBreed, kProductHoog},
      .caption = "Product"},
-    {.name = "chkProduct", .kind = Kind::CheckBox, .place = {135, 285, 5760, kOptieHoog}, .parent = "fraProduct",
+    {.name = "chkProduct", .kind = Kind::CheckBox, .place = {135, kOptieTop, 5760, kOptieHoog}, .parent = "fraProduct",
      .caption = "Deze post is een product", .tab = 23, .mnemonic = 'D'},
     {.name = "fraMij", .kind = Kind::Frame, .place = {135, 600, 5760, 690}, .parent = "fraProduct",
      .caption = "Maatschappij", .bordered = false},

@@ -1,5 +1,6 @@
 #include "toolkits/qt/ChoicePeers.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
@@ -20,6 +21,16 @@ JaNeeToggle::Answer AnswerOf(int value) {
 }
 int ValueOf(JaNeeToggle::Answer answer) {
   return answer == JaNeeToggle::Answer::Ja ? host::kJa : host::kNee;
+}
+
+/// The options of one control array are a group, whatever else stands in their frame.
+QButtonGroup& GroupOf(QWidget& container, const QString& array) {
+  auto* group = container.findChild<QButtonGroup*>(array, Qt::FindDirectChildrenOnly);
+  if (group == nullptr) {
+    group = new QButtonGroup(&container);
+    group->setObjectName(array);
+  }
+  return *group;
 }
 
 /// Turning the wheel over a list that has no focus scrolls the window and not the list.
@@ -53,6 +64,7 @@ void TogglePeer::Refresh(Aspect aspect) {
 OptionPeer::OptionPeer(headless::OptionButton& option, qt::Toolkit& toolkit, QWidget* container)
     : WidgetPeer(option, toolkit, new QRadioButton(container)), option_(option) {
   auto* const button = static_cast<QRadioButton*>(Widget());
+  GroupOf(*container, ToQt(option.DesignName())).addButton(button);
   Refresh(Aspect::Caption);
   Refresh(Aspect::Value);
   QObject::connect(button, &QRadioButton::toggled, button, [this](bool selected) {
@@ -66,10 +78,10 @@ void OptionPeer::Refresh(Aspect aspect) {
   if (button == nullptr) return;
   if (aspect == Aspect::Value) {
     Show([&] {
-      // Of a group that excludes each other Qt lets no one deselect the selected one.
-      button->setAutoExclusive(option_.Value());
+      // Qt lets no one deselect the selected button of an exclusive group.
+      button->group()->setExclusive(option_.Value());
       button->setChecked(option_.Value());
-      button->setAutoExclusive(true);
+      button->group()->setExclusive(true);
     });
   } else if (aspect == Aspect::Caption) {
     button->setText(ShownCaption(option_.Row(), option_.Caption()));

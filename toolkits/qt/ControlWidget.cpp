@@ -17,13 +17,13 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
 
 ControlWidget::~ControlWidget() = default;
 
-host::HostFactories ControlWidget::LateFactories() {
-  return {.MaakProcedureTrace = [this](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
-            return factories_.MaakProcedureTrace ? factories_.MaakProcedureTrace(control) : nullptr;
-          },
-          .MaakDossierControle = [this](std::string_view control) -> std::shared_ptr<host::DossierControle> {
-            return factories_.MaakDossierControle ? factories_.MaakDossierControle(control) : nullptr;
-          }};
+void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
+  toolkit_.Guard([&] {
+    MakeControl(factories);
+    if (backColor_) ColorControl(FromQt(*backColor_));
+    const host::Place place = surface_->Place();
+    headless::Surface::Of(*surface_).Size(place.width, place.height);
+  });
 }
 
 bool ControlWidget::CommitPending() {
@@ -32,8 +32,12 @@ bool ControlWidget::CommitPending() {
 }
 
 QColor ControlWidget::backColor() const {
-  const std::optional<host::Color> color = surface_->BackColor();
-  return (color ? ToQt(*color) : std::nullopt).value_or(palette().color(QPalette::Window));
+  return backColor_.value_or(palette().color(QPalette::Window));
+}
+
+void ControlWidget::setBackColor(const QColor& color) {
+  backColor_ = color;
+  toolkit_.Guard([&] { ColorControl(FromQt(color)); });
 }
 
 QSize ControlWidget::sizeHint() const {
@@ -43,12 +47,6 @@ QSize ControlWidget::sizeHint() const {
 
 QSize ControlWidget::minimumSizeHint() const {
   return sizeHint();
-}
-
-void ControlWidget::LayOut() {
-  const host::Place place = surface_->Place();
-  toolkit_.Guard([&] { headless::Surface::Of(*surface_).Size(place.width, place.height); });
-  resize(sizeHint());
 }
 
 void ControlWidget::resizeEvent(QResizeEvent* event) {

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QWidget>
 #include <memory>
+#include <optional>
 
 #include "host/model/HostFactories.h"
 #include "toolkits/qt/Toolkit.h"
@@ -20,8 +21,9 @@ class ControlWidget : public QWidget {
  public:
   ~ControlWidget() override;
 
-  /// The factories of the host's own classes; to be set before the first binding.
-  void SetHostFactories(host::HostFactories factories) { factories_ = std::move(factories); }
+  /// The factories of the host's own classes; to be set before the first binding. The control behind the
+  /// widget is made now, because making it already asks for the tracer.
+  void SetHostFactories(const host::HostFactories& factories);
   /// Where a failure goes that no procedure of the control handled. Without one a message box tells it.
   void SetFailureListener(Toolkit::FailureListener listener) { toolkit_.SetFailureListener(std::move(listener)); }
 
@@ -31,7 +33,7 @@ class ControlWidget : public QWidget {
 
   /// The background; the palette's until it is set.
   [[nodiscard]] QColor backColor() const;
-  virtual void setBackColor(const QColor& color) = 0;
+  void setBackColor(const QColor& color);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -46,14 +48,13 @@ class ControlWidget : public QWidget {
  protected:
   ControlWidget(const frame::Design& design, QWidget* parent);
 
-  /// Factories that ask the host's at the moment that they are used.
-  [[nodiscard]] host::HostFactories LateFactories();
-  /// Lays the control out for the first time, when the subclass has made it.
-  void LayOut();
+  /// Makes the control behind the widget; it may fail, as the host's factories may.
+  virtual void MakeControl(const host::HostFactories& factories) = 0;
+  virtual void ColorControl(host::Color color) = 0;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  host::HostFactories factories_;
+  std::optional<QColor> backColor_;
   qt::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
 };

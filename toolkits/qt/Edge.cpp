@@ -79,7 +79,10 @@ QColor TextOn(const QColor& background) {
 
 QString ShownCaption(const frame::Row& row, const std::string& caption) {
   QString shown = ToQt(caption);
-  if (caption != row.caption) shown.replace('&', "&&");
+  if (caption != row.caption)
+    shown.replace('&', "&&");
+  else if (shown.contains('&'))
+    return shown;
   if (row.mnemonic == '\0') return shown;
   const qsizetype place = shown.indexOf(QLatin1Char(row.mnemonic), 0, Qt::CaseInsensitive);
   return place < 0 ? shown : shown.insert(place, '&');

@@ -87,10 +87,11 @@ void JaNeeToggle::paintEvent(QPaintEvent*) {
   const QRect outer = rect().adjusted(0, 0, -1, -1);
   for (const Answer answer : {Answer::Ja, Answer::Nee}) {
     const bool chosen = answer == answer_;
-    const QPalette::ColorRole back = !chosen ? QPalette::Base : isEnabled() ? QPalette::Highlight : QPalette::Mid;
+    // A disabled toggle still tells its answer: its grey text turned inside out.
+    const QPalette::ColorRole back = !chosen ? QPalette::Base : isEnabled() ? QPalette::Highlight : QPalette::Text;
     const QPalette::ColorRole text = !chosen       ? QPalette::Text
                                      : isEnabled() ? QPalette::HighlightedText
-                                                   : QPalette::Text;
+                                                   : QPalette::Base;
     const QRect half = Half(answer);
     painter.fillRect(half, isEnabled() || chosen ? colors.brush(back) : colors.brush(QPalette::Window));
     painter.setPen(colors.color(text));

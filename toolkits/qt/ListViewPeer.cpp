@@ -18,7 +18,7 @@ class TightRows final : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QSize size = QStyledItemDelegate::sizeHint(option, index);
-    size.setHeight(option.fontMetrics.height());
+    size.setHeight(option.fontMetrics.height() + 1);
     return size;
   }
 };

@@ -15,21 +15,23 @@ class ToelichtingWidget : public ControlWidget {
   explicit ToelichtingWidget(QWidget* parent = nullptr);
   ~ToelichtingWidget() override;
 
-  /// As Toelichting::SetApplication.
+  /// As Toelichting::SetApplication. Fails with error 91 before the factories were set.
   void SetApplication(std::shared_ptr<host::Application>& Application, std::shared_ptr<host::Lening>& Lening,
                       std::int16_t Vrij_Id);
   /// As Toelichting::Validation, after the box that is being edited was handed over; refused there is
   /// refused here.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
-  void setBackColor(const QColor& color) override;
 
-  [[nodiscard]] Toelichting& Control() { return *control_; }
+  /// The control behind the widget; nothing until the factories were set.
+  [[nodiscard]] Toelichting* Control() { return control_.get(); }
 
  signals:
   /// An edit was written into the record.
   void changed();
 
  protected:
+  void MakeControl(const host::HostFactories& factories) override;
+  void ColorControl(host::Color color) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

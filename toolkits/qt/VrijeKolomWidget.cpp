@@ -5,28 +5,34 @@
 
 namespace brivane::qt {
 
-VrijeKolomWidget::VrijeKolomWidget(QWidget* parent)
-    : ControlWidget(vrijekolom::kOntwerp, parent),
-      control_(std::make_unique<VrijeKolom>(Surface(), Toolkit(), LateFactories())) {
-  control_->RefreshTopDisplay.Connect([this](const std::string& text) { emit refreshTopDisplay(ToQt(text)); });
-  control_->HeightChanged.Connect([this] { emit heightChanged(); });
-  LayOut();
-}
+VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {}
 
 VrijeKolomWidget::~VrijeKolomWidget() = default;
 
+void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
+  control_ = std::make_unique<VrijeKolom>(Surface(), Toolkit(), factories);
+  control_->RefreshTopDisplay.Connect([this](const std::string& text) { emit refreshTopDisplay(ToQt(text)); });
+  control_->HeightChanged.Connect([this] { emit heightChanged(); });
+  control_->SetBeeindigenZichtbaar(beeindigenZichtbaar_);
+}
+
+void VrijeKolomWidget::ColorControl(host::Color color) {
+  if (control_) control_->SetBackColor(color);
+}
+
 void VrijeKolomWidget::SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id,
                                       std::int16_t Vrij_Id) {
-  control_->SetApplication(Application, Len_Id, Vrij_Id);
+  host::Need(control_).SetApplication(Application, Len_Id, Vrij_Id);
 }
 
 void VrijeKolomWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
   if (!Cancel && !CommitPending()) Cancel = true;
-  control_->Validation(Cancel, ControleNr);
+  host::Need(control_).Validation(Cancel, ControleNr);
 }
 
-void VrijeKolomWidget::setBackColor(const QColor& color) {
-  control_->SetBackColor(FromQt(color));
+void VrijeKolomWidget::SetBeeindigenZichtbaar(bool zichtbaar) {
+  beeindigenZichtbaar_ = zichtbaar;
+  if (control_) control_->SetBeeindigenZichtbaar(zichtbaar);
 }
 
 }  // namespace brivane::qt

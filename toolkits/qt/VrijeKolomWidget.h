@@ -22,23 +22,28 @@ class VrijeKolomWidget : public ControlWidget {
   explicit VrijeKolomWidget(QWidget* parent = nullptr);
   ~VrijeKolomWidget() override;
 
-  /// As VrijeKolom::SetApplication.
+  /// As VrijeKolom::SetApplication. Fails with error 91 before the factories were set.
   void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
   /// As VrijeKolom::Validation, after the box that is being edited was handed over; refused there is
   /// refused here.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
-  [[nodiscard]] bool BeeindigenZichtbaar() const { return control_->BeeindigenZichtbaar(); }
-  void SetBeeindigenZichtbaar(bool zichtbaar) { control_->SetBeeindigenZichtbaar(zichtbaar); }
-  void setBackColor(const QColor& color) override;
+  [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
+  void SetBeeindigenZichtbaar(bool zichtbaar);
 
-  [[nodiscard]] VrijeKolom& Control() { return *control_; }
+  /// The control behind the widget; nothing until the factories were set.
+  [[nodiscard]] VrijeKolom* Control() { return control_.get(); }
 
  signals:
   /// The header text of the column may have changed.
   void refreshTopDisplay(const QString& text);
 
+ protected:
+  void MakeControl(const host::HostFactories& factories) override;
+  void ColorControl(host::Color color) override;
+
  private:
   std::unique_ptr<VrijeKolom> control_;
+  bool beeindigenZichtbaar_ = false;
 };
 
 }  // namespace brivane::qt

@@ -13,7 +13,7 @@ QWidget* ContainerWidget(const headless::AnyControl& control) {
 WidgetPeer::WidgetPeer(headless::AnyControl& control, qt::Toolkit& toolkit, QWidget* widget)
     : control_(control), toolkit_(toolkit), widget_(widget) {
   widget->setObjectName(ToQt(control.ElementName()));
-  if (!control.Row().label.empty()) widget->setAccessibleName(ToQt(control.Row().label));
+  if (!control.AccessibleName().empty()) widget->setAccessibleName(ToQt(control.AccessibleName()));
 }
 
 WidgetPeer::~WidgetPeer() {
