@@ -50,6 +50,22 @@ inline constexpr int kTemplateIndex = 0;
 
 struct Design;
 
+/// The design of an embedded control, or none. It remembers whether one was given, because under the
+/// sanitizers an address cannot be compared with null while compiling.
+class EmbeddedDesign {
+ public:
+  constexpr EmbeddedDesign() = default;
+  constexpr EmbeddedDesign(const Design* design) : design_(design), given_(true) {}
+
+  [[nodiscard]] constexpr bool Given() const { return given_; }
+  constexpr operator const Design*() const { return design_; }
+  constexpr const Design* operator->() const { return design_; }
+
+ private:
+  const Design* design_ = nullptr;
+  bool given_ = false;
+};
+
 struct Row {
   std::string_view name;
   Kind kind = Kind::Frame;
@@ -65,7 +81,7 @@ struct Row {
   bool locked = false;            ///< text boxes: written by code alone
   bool multiline = false;         ///< labels: wraps over lines
   std::span<const ListEntry> entries = {};
-  const Design* embedded = nullptr;  ///< kind Surface: the design of the embedded control
+  EmbeddedDesign embedded = {};  ///< kind Surface: the design of the embedded control
 };
 
 struct Design {
@@ -154,7 +170,7 @@ constexpr Fault Check(const Design& design) {
     if (const Fault fault = detail::CheckTab(design, i, stops); fault != Fault::None) return fault;
     if (detail::NeedsLabel(row.kind) && row.label.empty()) return Fault::BoxWithoutLabel;
     if ((row.kind == Kind::TextBox) != (row.format != Format::None)) return Fault::BoxWithoutFormat;
-    if ((row.kind == Kind::Surface) != (row.embedded != nullptr)) return Fault::SurfaceWithoutDesign;
+    if ((row.kind == Kind::Surface) != row.embedded.Given()) return Fault::SurfaceWithoutDesign;
   }
   return Fault::None;
 }
