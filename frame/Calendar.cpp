@@ -12,6 +12,9 @@ namespace {
 constexpr std::chrono::sys_days kZeroDate = std::chrono::year{1899} / 12 / 30;
 constexpr int kFirstYear = 100;
 constexpr int kLastYear = 9999;
+constexpr std::int64_t kMonthsPerYear = 12;
+/// No two dates are further apart.
+constexpr std::int64_t kMostYears = 10000;
 
 std::chrono::year_month_day ToCivil(YearMonthDay date) {
   return std::chrono::year{date.year} / std::chrono::month{static_cast<unsigned>(date.month)} /
@@ -44,16 +47,21 @@ host::Date MakeDate(YearMonthDay date) {
 
 host::Date AddMonths(host::Date date, std::int64_t months) {
   if (date.IsNone()) return date;
-  const YearMonthDay start = Split(date);
-  const std::int64_t month = std::int64_t{start.year} * 12 + (start.month - 1) + months;
-  if (month < std::int64_t{kFirstYear} * 12 || month >= (std::int64_t{kLastYear} + 1) * 12)
+  // So many months that the sum below would not fit are out of the years as well.
+  if (months > kMostYears * kMonthsPerYear || months < -kMostYears * kMonthsPerYear)
     throw host::Error(host::ErrorNumber::Overflow);
-  YearMonthDay end{static_cast<int>(month / 12), static_cast<int>(month % 12) + 1, start.day};
+  const YearMonthDay start = Split(date);
+  const std::int64_t month = start.year * kMonthsPerYear + (start.month - 1) + months;
+  if (month < kFirstYear * kMonthsPerYear || month >= (kLastYear + 1) * kMonthsPerYear)
+    throw host::Error(host::ErrorNumber::Overflow);
+  YearMonthDay end{static_cast<int>(month / kMonthsPerYear), static_cast<int>(month % kMonthsPerYear) + 1, start.day};
   end.day = std::min(end.day, LastDayOf(end.year, end.month));
   return MakeDate(end);
 }
 
-host::Date AddYears(host::Date date, std::int64_t years) { return AddMonths(date, years * 12); }
+host::Date AddYears(host::Date date, std::int64_t years) {
+  return AddMonths(date, std::clamp(years, -kMostYears - 1, kMostYears + 1) * kMonthsPerYear);
+}
 
 std::int32_t MonthsBetween(host::Date from, host::Date to) {
   const YearMonthDay a = Split(from);

@@ -18,7 +18,8 @@ class Desktop final : public host::Desktop {
   /// Separates groups of three digits in a whole number.
   std::string groupSeparator = ".";
   /// Answers a message box; without it, "Nee" to a question and OK to everything else.
-  std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle style)> answer;
+  std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle style)>
+      answer;
   /// Runs when the logic lets pending events run.
   std::function<void()> pending;
   /// How often the pointer was reset to the arrow.
