@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <stdexcept>
+#include <vector>
+
+#include "frame/Handle.h"
+#include "frame/LayoutHelpers.h"
+#include "host/Error.h"
+#include "toolkits/headless/Toolkit.h"
+
+namespace brivane::frame {
+
+namespace {
+
+constexpr Design kInner{.name = "Binnenste", .rows = {}, .width = 1500, .height = 750};
+constexpr Row kRows[] = {
+    {.name = "fraGroep", .kind = Kind::Frame, .place = {150, 300, 3000, 1500}, .caption = "Groep"},
+    {.name = "txtNaam",
+     .kind = Kind::TextBox,
+     .place = {75, 225, 1500, 300},
+     .parent = "fraGroep",
+     .tab = 1,
+     .label = "Naam",
+     .format = Format::Text},
+    {.name = "lblVast", .kind = Kind::Label, .place = {0, 600, 900, 240}, .parent = "fraGroep", .caption = "Vast"},
+    {.name = "Binnenste", .kind = Kind::Surface, .place = {3300, 0, 1500, 750}, .tab = 2, .embedded = &kInner},
+};
+constexpr Design kDesign{.name = "Proef", .rows = kRows, .width = 6000, .height = 3000};
+static_assert(Check(kDesign) == Fault::None);
+constexpr auto fraGroep = Find<Kind::Frame>(kDesign, "fraGroep");
+constexpr auto txtNaam = Find<Kind::TextBox>(kDesign, "txtNaam");
+constexpr auto lblVast = Find<Kind::Label>(kDesign, "lblVast");
+constexpr auto Binnenste = Find<Kind::Surface>(kDesign, "Binnenste");
+
+class LayoutHelpers : public testing::Test {
+ protected:
+  void Scale(float twipsPerPixelX, float twipsPerPixelY, ControlNames keepSize = {}) {
+    toolkit.Desktop().twipsPerPixelX = twipsPerPixelX;
+    toolkit.Desktop().twipsPerPixelY = twipsPerPixelY;
+    ScaleToResolution(toolkit.Desktop(), surface->Controls(), *surface, keepSize);
+  }
+  static void ExpectNear(const host::Place& place, const host::Place& expected) {
+    EXPECT_FLOAT_EQ(place.left.value, expected.left.value);
+    EXPECT_FLOAT_EQ(place.top.value, expected.top.value);
+    EXPECT_FLOAT_EQ(place.width.value, expected.width.value);
+    EXPECT_FLOAT_EQ(place.height.value, expected.height.value);
+  }
+
+  headless::Toolkit toolkit;
+  std::unique_ptr<host::Surface> surface = toolkit.MakeSurface(kDesign);
+  Controls controls{*surface};
+};
+
+/// A surface on which every character is 100 wide, or 150 in bold, and whose measuring can fail.
+class Ruler final : public host::DrawingSurface {
+ public:
+  [[nodiscard]] bool FontBold() const override { return bold; }
+  void SetFontBold(bool value) override { bold = value; }
+  [[nodiscard]] host::Twips TextWidth(std::string_view text) const override {
+    if (calls-- == 0) throw std::runtime_error("no font");
+    return {static_cast<float>(text.size()) * (bold ? 150.0F : 100.0F)};
+  }
+  bool bold = false;
+  mutable int calls = -1;  ///< measurements until one fails; never when negative
+};
+
+}  // namespace
+
+TEST_F(LayoutHelpers, TheDesignScreenChangesNothing) {
+  int resizes = 0;
+  surface->Resize.Connect([&] { ++resizes; });
+  Scale(15, 15);
+  ExpectNear(controls[txtNaam].Place(), {{75}, {225}, {1500}, {300}});
+  EXPECT_EQ(surface->Place().width.value, 6000);
+  EXPECT_EQ(resizes, 0);
+}
+
+TEST_F(LayoutHelpers, At120DotsPerInchEverythingIsFourFifths) {
+  Scale(12, 12);
+  ExpectNear(controls[fraGroep].Place(), {{120}, {240}, {2400}, {1200}});
+  ExpectNear(controls[txtNaam].Place(), {{60}, {180}, {1200}, {240}});
+  ExpectNear(controls[lblVast].Place(), {{0}, {480}, {720}, {192}});
+  ExpectNear(controls[Binnenste].Place(), {{2640}, {0}, {1200}, {600}});
+  EXPECT_FLOAT_EQ(controls[txtNaam].Read(host::Measure::FontSize).value(), 7.2F);
+  EXPECT_FALSE(controls[Binnenste].Read(host::Measure::FontSize));
+  EXPECT_FLOAT_EQ(surface->Place().width.value, 4800);
+  EXPECT_FLOAT_EQ(surface->Place().height.value, 2400);
+}
+
+TEST_F(LayoutHelpers, At72DotsPerInchEverythingIsFourThirds) {
+  Scale(20, 20);
+  ExpectNear(controls[txtNaam].Place(), {{100}, {300}, {2000}, {400}});
+  EXPECT_FLOAT_EQ(controls[txtNaam].Read(host::Measure::FontSize).value(), 12);
+  EXPECT_FLOAT_EQ(surface->Place().width.value, 8000);
+}
+
+TEST_F(LayoutHelpers, TheVerticalResolutionDecidesTheFactorAndEitherWhetherToScale) {
+  Scale(12, 15);  // factor 1, yet scaled
+  ExpectNear(controls[txtNaam].Place(), {{75}, {225}, {1500}, {300}});
+  Scale(15, 30);
+  ExpectNear(controls[txtNaam].Place(), {{150}, {450}, {3000}, {600}});
+}
+
+TEST_F(LayoutHelpers, AnExcludedControlKeepsItsSizeAndNothingElse) {
+  constexpr std::string_view kKeep[] = {"lblVast"};
+  Scale(12, 12, kKeep);
+  ExpectNear(controls[lblVast].Place(), {{0}, {480}, {900}, {240}});
+  EXPECT_FLOAT_EQ(controls[lblVast].Read(host::Measure::FontSize).value(), 7.2F);
+  ExpectNear(controls[txtNaam].Place(), {{60}, {180}, {1200}, {240}});
+}
+
+TEST_F(LayoutHelpers, AFormKeepsTheHeightOfItsFrameAndTitle) {
+  const auto form = toolkit.MakeForm(kDesign);
+  const float frameHeight = form->Place().height.value - form->ScaleHeight().value;
+  const float width = form->Place().width.value;
+  toolkit.Desktop().twipsPerPixelX = 12;
+  toolkit.Desktop().twipsPerPixelY = 12;
+  ScaleToResolution(toolkit.Desktop(), form->Controls(), *form);
+  EXPECT_FLOAT_EQ(form->Place().height.value, frameHeight + 3000 * 0.8F);
+  EXPECT_FLOAT_EQ(form->Place().width.value, width * 0.8F);
+  ExpectNear(form->At(txtNaam.row).Place(), {{60}, {180}, {1200}, {240}});
+}
+
+TEST_F(LayoutHelpers, AColourIsReplacedOnceAndWhereItStands) {
+  const host::Color red{255};
+  const host::Color blue{0xFF0000};
+  ReplaceColor(surface->Controls(), red);
+  EXPECT_EQ(controls[fraGroep].BackColor(), red);
+  EXPECT_EQ(controls[lblVast].BackColor(), red);
+  EXPECT_EQ(controls[Binnenste].BackColor(), red);
+  EXPECT_EQ(controls[txtNaam].BackColor(), host::kWindowBackground);
+  // Nothing holds the button face any more.
+  ReplaceColor(surface->Controls(), blue);
+  EXPECT_EQ(controls[fraGroep].BackColor(), red);
+  EXPECT_EQ(controls[lblVast].BackColor(), red);
+}
+
+TEST_F(LayoutHelpers, ASkippedNameKeepsItsColour) {
+  constexpr std::string_view kSkip[] = {"lblVast"};
+  ReplaceColor(surface->Controls(), host::Color{255}, kSkip);
+  EXPECT_EQ(controls[fraGroep].BackColor(), host::Color{255});
+  EXPECT_EQ(controls[lblVast].BackColor(), host::kButtonFace);
+}
+
+TEST_F(LayoutHelpers, AnotherColourCanBeReplaced) {
+  ReplaceColor(surface->Controls(), host::Color{255}, {}, host::kWindowBackground);
+  EXPECT_EQ(controls[txtNaam].BackColor(), host::Color{255});
+  EXPECT_EQ(controls[fraGroep].BackColor(), host::kButtonFace);
+}
+
+TEST_F(LayoutHelpers, AControlThatFailsToTakeTheColourIsPassedOver) {
+  controls[Binnenste].BackColorSet.Connect([](host::Color) { throw host::Error(host::ErrorNumber::Overflow); });
+  std::vector<host::Control*> order = {&controls[Binnenste], &controls[fraGroep]};
+  ReplaceColor(order, host::Color{255});
+  EXPECT_EQ(controls[fraGroep].BackColor(), host::Color{255});
+}
+
+TEST(FitText, ATextThatFitsComesBackUnchanged) {
+  Ruler ruler;
+  EXPECT_EQ(FitText(&ruler, "Krant", {500}), "Krant");
+  EXPECT_EQ(FitText(&ruler, "", {0}), "");
+  EXPECT_EQ(FitText(nullptr, "Krantenabonnement", {1}), "Krantenabonnement");
+}
+
+TEST(FitText, ALongerTextEndsInAnEllipsisThatFits) {
+  Ruler ruler;
+  EXPECT_EQ(FitText(&ruler, "Krantje", {600}), "Kra...");
+  EXPECT_EQ(FitText(&ruler, "Krantje", {699}), "Kra...");
+  EXPECT_EQ(FitText(&ruler, "Krantje", {400}), "K...");
+}
+
+TEST(FitText, AWidthNarrowerThanTheEllipsisLeavesTheEllipsisAlone) {
+  Ruler ruler;
+  EXPECT_EQ(FitText(&ruler, "Krantje", {300}), "...");
+  EXPECT_EQ(FitText(&ruler, "Krantje", {10}), "...");
+  EXPECT_EQ(FitText(&ruler, "Krantje", {-5}), "...");
+}
+
+TEST(FitText, WholeCharactersAreDropped) {
+  Ruler ruler;  // measures bytes: "é" is 200 wide
+  EXPECT_EQ(FitText(&ruler, "caf\u00E9s", {500}), "ca...");
+  EXPECT_EQ(FitText(&ruler, "\u00E9\u00E9\u00E9", {550}), "\u00E9...");
+  EXPECT_EQ(FitText(&ruler, "ae\u0308bc", {599}), "a...");
+}
+
+TEST(FitText, MeasuresInTheAskedWeightAndRestoresIt) {
+  Ruler ruler;
+  EXPECT_EQ(FitText(&ruler, "Krant", {500}, true), "...");
+  EXPECT_FALSE(ruler.bold);
+  ruler.bold = true;
+  EXPECT_EQ(FitText(&ruler, "Krant", {500}, false), "Krant");
+  EXPECT_TRUE(ruler.bold);
+}
+
+TEST(FitText, WhenMeasuringFailsTheTextStandsAsItIsAndTheWeightIsRestored) {
+  Ruler ruler;
+  ruler.calls = 0;
+  EXPECT_EQ(FitText(&ruler, "Krantje", {400}, true), "Krantje");
+  EXPECT_FALSE(ruler.bold);
+  ruler.calls = 4;  // the text, the ellipsis and two lengths of the text are measured
+  EXPECT_EQ(FitText(&ruler, "Krantje", {400}), "Krant");
+}
+
+TEST(SmallerAndLarger, GiveTheSecondWhenEqual) {
+  EXPECT_EQ(Smaller(80, 200), 80);
+  EXPECT_EQ(Smaller(200, 80), 80);
+  EXPECT_EQ(Larger(0, 1), 1);
+  EXPECT_EQ(Larger(1, 0), 1);
+  EXPECT_FALSE(std::signbit(Smaller(-0.0, 0.0)));
+  EXPECT_FALSE(std::signbit(Larger(-0.0, 0.0)));
+}
+
+TEST(Contains, LooksAtEveryElement) {
+  const std::vector<int> list = {3, 1, 2};
+  EXPECT_TRUE(Contains(3, list));
+  EXPECT_TRUE(Contains(2, list));
+  EXPECT_FALSE(Contains(4, list));
+  EXPECT_FALSE(Contains(4, std::vector<int>{}));
+  constexpr std::string_view kNames[] = {"a", "b"};
+  EXPECT_TRUE(Contains(std::string_view("b"), kNames));
+  EXPECT_FALSE(Contains(std::string_view("B"), kNames));
+}
+
+}  // namespace brivane::frame
