@@ -49,48 +49,48 @@ struct Opzet {
 
 /// Widths of the template controls.
 struct Breedten {
-  Twips jaar;
-  Twips bedrag;
-  Twips eenmalig;
-  Twips hint;
-  Twips percentage;
-  Twips eenheid;  ///< "%" after the percentage
-  Twips korting;
-  Twips kortingeenheid;  ///< "%" after the discount
-  Twips maandkop;
-  Twips waardekop;
-  Twips kortingkop;
+  Twips jaar = {};
+  Twips bedrag = {};
+  Twips eenmalig = {};
+  Twips hint = {};
+  Twips percentage = {};
+  Twips eenheid = {};  ///< "%" after the percentage
+  Twips korting = {};
+  Twips kortingeenheid = {};  ///< "%" after the discount
+  Twips maandkop = {};
+  Twips waardekop = {};
+  Twips kortingkop = {};
 };
 
 /// Tops and left edges of a row's controls; those that the grid does not show stand at 0.
 struct Rijplaats {
   bool eersteInKolom = false;
-  Twips labelTop;
-  Twips vakTop;
-  Twips jaar;
-  Twips bedrag;
-  Twips eenmalig;
-  Twips hint;
-  Twips percentage;
-  Twips eenheid;
-  Twips korting;
-  Twips kortingeenheid;
+  Twips labelTop = {};
+  Twips vakTop = {};
+  Twips jaar = {};
+  Twips bedrag = {};
+  Twips eenmalig = {};
+  Twips hint = {};
+  Twips percentage = {};
+  Twips eenheid = {};
+  Twips korting = {};
+  Twips kortingeenheid = {};
   friend bool operator==(const Rijplaats&, const Rijplaats&) = default;
 };
 
 /// Left edges of the headers of a column.
 struct Kopplaats {
-  Twips maand;
-  Twips waarde;
-  Twips korting;
+  Twips maand = {};
+  Twips waarde = {};
+  Twips korting = {};
   friend bool operator==(const Kopplaats&, const Kopplaats&) = default;
 };
 
 struct Indeling {
   std::vector<Rijplaats> rijen;
   std::vector<Kopplaats> koppen;  ///< one for each column that has rows
-  Twips rechts;                   ///< right edge of the rightmost control of the grid
-  Twips kaderHoogte;              ///< height of the frame around the grid
+  Twips rechts = {};                   ///< right edge of the rightmost control of the grid
+  Twips kaderHoogte = {};              ///< height of the frame around the grid
 };
 
 /// Places every row and header of a grid, column after column.
