@@ -10,6 +10,7 @@
 
 #include "host/controls/CheckBox.h"
 #include "host/controls/TextBox.h"
+#include "scenario/Ontwerp.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "toolkits/headless/Toolkit.h"
@@ -66,8 +67,14 @@ class Formulier : public testing::Test {
   [[nodiscard]] headless::Form& Venster() {
     return static_cast<headless::Form&>(headless::Surface::Of(form->Form()));
   }
+  /// By its row of the design: grids are large, and a search by name alone would walk all of one.
   [[nodiscard]] headless::AnyControl* Zoek(std::string_view naam, int index = frame::kNoIndex) {
-    return Venster().Find(naam, index);
+    for (std::size_t rij = 0; rij < scenario::kOntwerp.rows.size(); ++rij) {
+      if (scenario::kOntwerp.rows[rij].name != naam) continue;
+      host::Control* gevonden = form->Form().Element(rij, index);
+      return gevonden != nullptr ? &headless::AnyControl::Of(*gevonden) : nullptr;
+    }
+    return nullptr;
   }
   [[nodiscard]] bool Bestaat(std::string_view naam, int index) { return Zoek(naam, index) != nullptr; }
   [[nodiscard]] host::Control& Control(std::string_view naam, int index = frame::kNoIndex) {
