@@ -23,6 +23,8 @@ struct PeriodeGegevens {
   double Percentage = 0;
   double Korting = 0;
   bool Eenmalig = false;
+
+  friend bool operator==(const PeriodeGegevens&, const PeriodeGegevens&) = default;
 };
 
 struct BedragGegevens {
@@ -30,6 +32,8 @@ struct BedragGegevens {
   std::int16_t Invoersoort = 1;
   double Bedrag = 0;
   std::vector<PeriodeGegevens> Perioden;
+
+  friend bool operator==(const BedragGegevens&, const BedragGegevens&) = default;
 };
 
 /// One free column. The defaults are a valid recurring cost of the applicant.
@@ -64,23 +68,31 @@ struct KolomGegevens {
   host::Date EinddatumOvergang;
   std::int16_t EindleeftijdOvergang = 0;
   BedragGegevens Bedrag;
+
+  friend bool operator==(const KolomGegevens&, const KolomGegevens&) = default;
 };
 
 struct LeningGegevens {
   dossier::Sleutel Sleutel = 0;
   std::string Naam;  ///< for the host's own screens
   std::vector<KolomGegevens> VrijeKolommen;
+
+  friend bool operator==(const LeningGegevens&, const LeningGegevens&) = default;
 };
 
 struct PersoonGegevens {
   std::array<std::string, 3> Naam;
   host::Date Geboortedatum;
+
+  friend bool operator==(const PersoonGegevens&, const PersoonGegevens&) = default;
 };
 
 /// One entry of a code table: the code and the text that a list shows.
 struct Code {
   std::string code;
   std::string tekst;
+
+  friend bool operator==(const Code&, const Code&) = default;
 };
 
 struct DossierGegevens {
@@ -91,6 +103,8 @@ struct DossierGegevens {
   std::vector<LeningGegevens> Leningen;  ///< the loans of the new situation
   /// Identifiers of the free columns that are ended in proposal 1, 2 and 3.
   std::array<std::set<std::int16_t>, 3> Voorstellen;
+
+  friend bool operator==(const DossierGegevens&, const DossierGegevens&) = default;
 };
 
 /// The company code for a company that is named in text.

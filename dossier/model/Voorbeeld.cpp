@@ -77,6 +77,8 @@ KolomGegevens Lijfrente() {
   kolom.CorrectieLast = 2;
   kolom.CorrectieFiscaal = 2;
   kolom.Termijn = 12;
+  kolom.Bedrag.Invoersoort = 3;
+  kolom.Bedrag.Perioden = {{.Maand = 13, .Percentage = 2}};
   kolom.DatumAanvang = Datum(31, 1, 2028);
   kolom.Looptijd = 240;
   kolom.ScenarioOverlijden = true;

@@ -12,11 +12,13 @@ namespace {
 
 // Where an SQLite file's first page tells what it is.
 constexpr qsizetype kHeaderSize = 100;
+constexpr qsizetype kPageSize = 16;
+constexpr qsizetype kPageCount = 28;
 constexpr qsizetype kUserVersion = 60;
 constexpr qsizetype kApplication = 68;
 constexpr char kMagic[] = "SQLite format 3";
 
-void ControleerHeader(const QString& pad) {
+QByteArray ControleerHeader(const QString& pad) {
   QFile bestand(pad);
   if (!bestand.open(QIODevice::ReadOnly)) throw OpeningError(OpeningProblem::Unreadable, pad);
   const QByteArray header = bestand.read(kHeaderSize);
@@ -29,6 +31,7 @@ void ControleerHeader(const QString& pad) {
   const auto versie = qFromBigEndian<qint32>(header.constData() + kUserVersion);
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
   if (versie < 1) throw OpeningError(OpeningProblem::Damaged, pad);
+  return header;
 }
 
 /// The marks count as well as the rights: a file marked read-only stays so for an administrator.
@@ -36,23 +39,41 @@ bool Schrijfbaar(const QFileInfo& info) {
   return info.isWritable() && (info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
 }
 
-void ControleerInhoud(const QString& pad) {
-  const bool log = QFileInfo::exists(pad + QStringLiteral("-wal"));
-  const QString index = pad + QStringLiteral("-shm");
-  const bool indexStond = QFileInfo::exists(index);
-  bool heel = false;
+/// All pages that the header speaks of are there. SQLite reads what was cut off as zeros.
+bool IsVolledig(const QByteArray& header, qint64 lengte) {
+  const qint64 bytes = qFromBigEndian<quint16>(header.constData() + kPageSize);
+  const qint64 pagina = bytes == 1 ? 65536 : bytes;
+  return pagina > 0 && lengte >= pagina * qFromBigEndian<quint32>(header.constData() + kPageCount);
+}
+
+/// The index that reading a write-ahead log leaves beside it, removed again.
+class LogIndex {
+ public:
+  explicit LogIndex(const QString& pad) : naam_(pad + QStringLiteral("-shm")), stond_(QFileInfo::exists(naam_)) {}
+  LogIndex(const LogIndex&) = delete;
+  LogIndex& operator=(const LogIndex&) = delete;
+  ~LogIndex() {
+    if (!stond_) QFile::remove(naam_);
+  }
+
+ private:
+  QString naam_;
+  bool stond_;
+};
+
+void ControleerInhoud(const QString& pad, Access access) {
+  const LogIndex index(pad);
   try {
-    Database database(pad, log ? Access::ReadOnly : Access::Immutable);
-    heel = database.Value(QStringLiteral("PRAGMA quick_check(1)")).toString() == QStringLiteral("ok");
-    if (heel && database.Value(QStringLiteral("PRAGMA user_version")).toInt() > kSchemaVersion) {
+    Database database(pad, access);
+    if (database.Value(QStringLiteral("PRAGMA user_version")).toInt() > kSchemaVersion) {
       throw OpeningError(OpeningProblem::Newer, pad);
     }
+    if (database.Value(QStringLiteral("PRAGMA quick_check(1)")).toString() != QStringLiteral("ok")) {
+      throw OpeningError(OpeningProblem::Damaged, pad);
+    }
   } catch (const DatabaseError& error) {
-    if (error.Code() == SqliteCode::Busy) throw OpeningError(OpeningProblem::InUse, pad);
+    throw OpeningError(error.Code() == SqliteCode::Busy ? OpeningProblem::InUse : OpeningProblem::Damaged, pad);
   }
-  if (heel) return;
-  if (!indexStond) QFile::remove(index);
-  throw OpeningError(OpeningProblem::Damaged, pad);
 }
 
 }  // namespace
@@ -61,12 +82,16 @@ void ControleerBestand(const QString& pad) {
   const QFileInfo info(pad);
   if (!info.exists()) throw OpeningError(OpeningProblem::Missing, pad);
   if (info.isDir()) throw OpeningError(OpeningProblem::Directory, pad);
-  ControleerHeader(pad);
+  if (!info.isFile()) throw OpeningError(OpeningProblem::NotALoanFile, pad);
+  const QByteArray header = ControleerHeader(pad);
   // The write-ahead log is kept in the same folder.
   if (!Schrijfbaar(info) || !Schrijfbaar(QFileInfo(info.absolutePath()))) {
     throw OpeningError(OpeningProblem::ReadOnly, pad);
   }
-  ControleerInhoud(pad);
+  // With a log beside it the file alone is not what counts: a program was killed, or is still at work.
+  const bool log = QFileInfo::exists(pad + QStringLiteral("-wal"));
+  if (!log && !IsVolledig(header, info.size())) throw OpeningError(OpeningProblem::Damaged, pad);
+  ControleerInhoud(pad, log ? Access::ReadOnly : Access::Immutable);
 }
 
 }  // namespace brivane::dossier

@@ -130,10 +130,11 @@ void DossierBestand::Maak(const QString& pad, const DossierGegevens& gegevens) {
 
 Edits& DossierBestand::Bewerkingen() { return journal_->Bewerkingen(); }
 
+std::shared_ptr<Edits> DossierBestand::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
+
 std::shared_ptr<StoreTrace> DossierBestand::MaakTrace(std::string_view control,
                                                       std::shared_ptr<TraceListener> listener) {
-  return std::make_shared<StoreTrace>(control, std::shared_ptr<Edits>(journal_, &journal_->Bewerkingen()),
-                                      std::move(listener));
+  return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
 }
 
 QStringList DossierBestand::ControleerHeelheid() {

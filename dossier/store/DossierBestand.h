@@ -40,6 +40,7 @@ class DossierBestand {
   [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const { return dossier_; }
   /// What is stored together, and what could not be stored.
   [[nodiscard]] Edits& Bewerkingen();
+  [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen();
   /// A tracer for one control, bound to this file's edits.
   [[nodiscard]] std::shared_ptr<StoreTrace> MaakTrace(std::string_view control,
                                                       std::shared_ptr<TraceListener> listener = nullptr);
