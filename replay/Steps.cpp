@@ -1,5 +1,6 @@
 #include "replay/Steps.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -16,7 +17,7 @@ constexpr std::string_view kScenarioButton = "cmdScenario";
 constexpr std::string_view kEmbedded = "Toelichting";
 
 bool OnForm(StepList list) {
-  return list == StepList::Modal || list == StepList::ModalPending;
+  return list == StepList::Modal;
 }
 
 /// Refuses keys that neither the step nor every step has.
@@ -191,54 +192,54 @@ ActStep ReadEnter(const Value& step, StepList list) {
 
 using What = decltype(Step::what);
 
-bool IsUserAction(std::string_view name) {
-  return name == "click" || name == "check" || name == "toggle" || name == "select" || name == "enter";
-}
-
-What ReadUserAction(const Value& step, std::string_view name, StepList list) {
-  if (name == "click") return ReadClick(step, list);
-  if (name == "check") return ReadCheck(step, list);
-  if (name == "toggle") return ReadToggle(step, list);
-  if (name == "select") return ReadSelect(step, list);
-  return ReadEnter(step, list);
-}
-
-/// What only the host and its container do.
-std::optional<What> ReadHostStep(const Value& step, std::string_view name) {
-  if (name == "SetApplication") return ReadBind(step);
-  if (name == "Validation") return ReadValidation(step, Target::Editor);
-  if (name == "Toelichting.Validation") return ReadValidation(step, Target::Toelichting);
-  if (name == "BackColor") return ReadBackColor(step);
-  if (name == "BeeindigenZichtbaar") return ReadBeeindigen(step);
-  if (name == "resize") return ReadResize(step);
-  if (name == "frmScenario") return ReadScenario(step);
-  return std::nullopt;
-}
-
-bool IsHostStep(std::string_view name) {
-  constexpr std::array<std::string_view, 7> kNames{"SetApplication", "Validation", "Toelichting.Validation",
-                                                   "BackColor",      "resize",     "BeeindigenZichtbaar",
-                                                   "frmScenario"};
-  return std::find(kNames.begin(), kNames.end(), name) != kNames.end();
-}
-
-/// Refuses a step where it does not belong.
-void CheckPlace(const Value& name, StepList list) {
-  const std::string step = name.Text();
-  if (!IsUserAction(step) && !IsHostStep(step) && step != "close" && step != "dump")
-    name.Refuse("no step named " + Quoted(step));
-  if (step == "close" && !OnForm(list)) name.Refuse("there is no form to close here");
-  if (!IsHostStep(step) || list == StepList::Session) return;
-  if (list == StepList::Pending) name.Refuse(Quoted(step) + " is not a user action");
-  name.Refuse(Quoted(step) + " cannot be done while the form is open");
-}
-
-What ReadWhat(const Value& step, const std::string& name, StepList list) {
-  if (IsUserAction(name)) return ReadUserAction(step, name, list);
-  if (std::optional<What> what = ReadHostStep(step, name)) return *std::move(what);
+CloseStep ReadClose(const Value& step) {
   Keys(step, {});
-  if (name == "close") return CloseStep{};
-  return DumpStep{};
+  return {};
+}
+
+DumpStep ReadDump(const Value& step) {
+  Keys(step, {});
+  return {};
+}
+
+/// Who does a step, which decides the lists that it can stand in.
+enum class Doer : std::uint8_t { Host, Person, PersonOnForm, Tool };
+
+struct StepKind {
+  std::string_view name;
+  Doer doer;
+  What (*read)(const Value& step, StepList list);
+};
+
+constexpr std::array<StepKind, 14> kStepKinds{{
+    {"SetApplication", Doer::Host, [](const Value& step, StepList) -> What { return ReadBind(step); }},
+    {"Validation", Doer::Host,
+     [](const Value& step, StepList) -> What { return ReadValidation(step, Target::Editor); }},
+    {"Toelichting.Validation", Doer::Host,
+     [](const Value& step, StepList) -> What { return ReadValidation(step, Target::Toelichting); }},
+    {"BackColor", Doer::Host, [](const Value& step, StepList) -> What { return ReadBackColor(step); }},
+    {"BeeindigenZichtbaar", Doer::Host, [](const Value& step, StepList) -> What { return ReadBeeindigen(step); }},
+    {"resize", Doer::Host, [](const Value& step, StepList) -> What { return ReadResize(step); }},
+    {"frmScenario", Doer::Host, [](const Value& step, StepList) -> What { return ReadScenario(step); }},
+    {"click", Doer::Person, [](const Value& step, StepList list) -> What { return ReadClick(step, list); }},
+    {"check", Doer::Person, [](const Value& step, StepList list) -> What { return ReadCheck(step, list); }},
+    {"toggle", Doer::Person, [](const Value& step, StepList list) -> What { return ReadToggle(step, list); }},
+    {"select", Doer::Person, [](const Value& step, StepList list) -> What { return ReadSelect(step, list); }},
+    {"enter", Doer::Person, [](const Value& step, StepList list) -> What { return ReadEnter(step, list); }},
+    {"close", Doer::PersonOnForm, [](const Value& step, StepList) -> What { return ReadClose(step); }},
+    {"dump", Doer::Tool, [](const Value& step, StepList) -> What { return ReadDump(step); }},
+}};
+
+/// The kind of step that is named; refuses one that there is not, and one that does not belong in the list.
+const StepKind& ReadKind(const Value& name, StepList list) {
+  const std::string text = name.Text();
+  const auto kind =
+      std::find_if(kStepKinds.begin(), kStepKinds.end(), [&](const StepKind& known) { return known.name == text; });
+  if (kind == kStepKinds.end()) name.Refuse("no step named " + Quoted(text));
+  if (kind->doer == Doer::PersonOnForm && !OnForm(list)) name.Refuse("no form is open here");
+  if (kind->doer == Doer::Host && OnForm(list)) name.Refuse(Quoted(text) + " cannot be done while the form is open");
+  if (kind->doer == Doer::Host && list == StepList::Pending) name.Refuse(Quoted(text) + " is not a user action");
+  return *kind;
 }
 
 std::vector<host::MessageAnswer> ReadAnswers(const Value& value) {
@@ -260,14 +261,14 @@ std::vector<host::MessageAnswer> ReadAnswers(const Value& value) {
 
 Step ReadStep(const Value& value, StepList list) {
   const Value name = value.Member("do");
-  CheckPlace(name, list);
+  const StepKind& kind = ReadKind(name, list);
   Step step;
   step.place = value.Place();
-  step.name = name.Text();
-  step.what = ReadWhat(value, step.name, list);
+  step.name = kind.name;
+  step.what = kind.read(value, list);
   if (const auto answers = value.Find("answers")) step.answers = ReadAnswers(*answers);
   if (const auto pending = value.Find("pending"))
-    step.pending = ReadSteps(*pending, OnForm(list) ? StepList::ModalPending : StepList::Pending);
+    step.pending = ReadSteps(*pending, OnForm(list) ? StepList::Modal : StepList::Pending);
   if (const auto modal = value.Find("modal")) step.modal = ReadSteps(*modal, StepList::Modal);
   return step;
 }

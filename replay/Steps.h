@@ -9,10 +9,9 @@ namespace brivane::replay {
 
 /// Where a list of steps stands, which decides what may be in it.
 enum class StepList : std::uint8_t {
-  Session,       ///< the document's own steps
-  Pending,       ///< user actions on the editor that are waiting
-  Modal,         ///< while the year-by-year form is open
-  ModalPending,  ///< user actions on the form that are waiting
+  Session,  ///< the document's own steps
+  Pending,  ///< user actions on the editor that are waiting
+  Modal,    ///< while the year-by-year form is open
 };
 
 /// Reads a list of steps. Throws BadInput.
