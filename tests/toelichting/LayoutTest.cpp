@@ -12,12 +12,21 @@ using namespace toelichting;
 
 class ToelichtingLayoutTest : public ToelichtingTest {
  protected:
+  void SetUp() override {
+    SizeContent();
+    Make();
+  }
+  /// The size that the expectations count with, whatever the design gives the content frame.
+  void SizeContent() {
+    on_[fraContent].Move({{135}, {2115}, {5760}, {1890}});
+    on_[jnAO].Move({{2040}, {480}, {900}, {315}});
+  }
   void Size(float width, float height) {
     headless::Surface::Of(*surface_).Size({width}, {height});
   }
 };
 
-// The content frame is designed 1890 high: 300 + 1695 + 120 + 1890 + 60 = 4065.
+// The content frame is 1890 high: 300 + 1695 + 120 + 1890 + 60 = 4065.
 TEST_F(ToelichtingLayoutTest, StacksTheContentUnderTheListAndTakesItsHeightFromIt) {
   Size(6030, 1);
   EXPECT_EQ(on_[fraContent].Place(), (Place{{135}, {2115}, {5760}, {1890}}));
@@ -83,7 +92,7 @@ TEST_F(ToelichtingLayoutTest, StaysAsItIsAfterAFailedLayout) {
 
 class ScaledToelichtingTest : public ToelichtingLayoutTest {
  protected:
-  void SetUp() override {}
+  void SetUp() override { SizeContent(); }
   void MakeAt(float twips) {
     toolkit_.Desktop().twipsPerPixelX = twips;
     toolkit_.Desktop().twipsPerPixelY = twips;
