@@ -56,8 +56,8 @@ void VrijeKolom::ChkVoorstel_Click(std::int16_t Index) {
 
 void VrijeKolom::cmdScenario_Click() {
   tracing_.Handled("cmdScenario_Click", [this] {
-    frmScenario formulier(toolkit_);
     const std::int16_t aantalJaar = JarenTotLeeftijdsgrens();
+    frmScenario formulier(toolkit_);
     formulier.SetBackColor(BackColor());
     formulier.Invoeren(Record().Bedrag(), aantalJaar);
     ScenarioGeopend.Raise(formulier);
