@@ -36,7 +36,7 @@ class Werkplek {
             [this](std::string_view) {
               return std::make_shared<DossierControle>([this] { return toolkit_.Desktop().Today(); });
             }};
-    editor_ = std::make_unique<VrijeKolom>(*surface_, toolkit_, factories);
+    editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
     editor_->ScenarioGeopend.Connect([this](frmScenario&) { edits_->BeginModal(); });
   }
   explicit Werkplek(DossierBestand& bestand) : Werkplek(bestand.Dossier(), bestand.GedeeldeBewerkingen()) {}
@@ -50,7 +50,7 @@ class Werkplek {
   headless::Outcome Doe(std::string_view naam, const headless::Action& actie, int index = frame::kNoIndex) {
     return Control(naam, index).Perform(actie);
   }
-  [[nodiscard]] VrijeKolom& Editor() { return *editor_; }
+  [[nodiscard]] brivane::VrijeKolom& Editor() { return *editor_; }
   [[nodiscard]] headless::Toolkit& Toolkit() { return toolkit_; }
   [[nodiscard]] Application& App() { return *application_; }
 
@@ -65,7 +65,7 @@ class Werkplek {
   std::shared_ptr<Edits> edits_;
   ScenarioEdits scenario_;
   std::unique_ptr<host::Surface> surface_;
-  std::unique_ptr<VrijeKolom> editor_;
+  std::unique_ptr<brivane::VrijeKolom> editor_;
 };
 
 }  // namespace brivane::dossier
