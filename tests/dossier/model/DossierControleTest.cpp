@@ -1,0 +1,156 @@
+#include "dossier/model/DossierControle.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "dossier/model/Application.h"
+#include "dossier/model/Voorbeeld.h"
+#include "frame/Calendar.h"
+#include "host/Error.h"
+
+namespace brivane::dossier {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const host::Date kVandaag = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
+
+std::vector<std::string> Teksten(const std::vector<Bevinding>& bevindingen) {
+  std::vector<std::string> teksten;
+  for (const Bevinding& bevinding : bevindingen) teksten.push_back(bevinding.tekst);
+  return teksten;
+}
+
+/// What is found in a case with one column that is in order but for a change.
+std::vector<std::string> Gevonden(const std::function<void(KolomGegevens&)>& wijziging) {
+  DossierGegevens gegevens = LeegDossier();
+  KolomGegevens kolom;
+  kolom.Omschrijving = "Post";
+  kolom.Bedrag.Bedrag = 10;
+  kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 31});
+  wijziging(kolom);
+  gegevens.HuidigeLening.VrijeKolommen = {kolom};
+  Dossier dossier(gegevens, std::make_shared<Omgeving>());
+  return Teksten(ControleerDossier(dossier, kVandaag));
+}
+
+void MaakProduct(KolomGegevens& kolom) {
+  kolom.IsProduct = true;
+  kolom.Maatschappij = "DM";
+  kolom.Productsoort = 44;
+  kolom.Looptijd = 999;
+  kolom.Contractvervaldatum = frame::MakeDate({.year = 2026, .month = 11, .day = 22});
+}
+
+TEST(ControleerDossier, FindsNothingInTheSample) {
+  Dossier dossier(VoorbeeldDossier(), std::make_shared<Omgeving>());
+  EXPECT_THAT(Teksten(ControleerDossier(dossier, kVandaag)), IsEmpty());
+}
+
+TEST(ControleerDossier, FindsWhatAColumnLacks) {
+  EXPECT_THAT(Gevonden([](KolomGegevens&) {}), IsEmpty());
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Omschrijving.clear(); }),
+              ElementsAre("Er is geen omschrijving ingevuld."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Bedrag.Bedrag = 0; }),
+              ElementsAre("Er is geen bedrag ingevuld."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Termijn = 2; }), ElementsAre("Er is geen termijn gekozen."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.HeffingBij = 2; }),
+              ElementsAre("De post staat op naam van een partner die er niet is."));
+}
+
+TEST(ControleerDossier, TakesAScenarioForAnAmount) {
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                kolom.Bedrag.Bedrag = 0;
+                kolom.Bedrag.Perioden = {{.Maand = 12, .Bedrag = 5}};
+              }),
+              IsEmpty());
+}
+
+TEST(ControleerDossier, FindsADurationThatIsOver) {
+  const auto met = [](int looptijd) {
+    return Gevonden([looptijd](KolomGegevens& kolom) {
+      kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 21});
+      kolom.Looptijd = looptijd;
+    });
+  };
+  // 21 January plus ten months is today.
+  EXPECT_THAT(met(10), ElementsAre("De looptijd van de post is voorbij."));
+  EXPECT_THAT(met(11), IsEmpty());
+  EXPECT_THAT(met(0), IsEmpty());
+  EXPECT_THAT(met(2147483647), IsEmpty());
+}
+
+TEST(ControleerDossier, CountsADurationInWholeMonths) {
+  // 22 January plus ten months is tomorrow.
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 22});
+                kolom.Looptijd = 10;
+              }),
+              IsEmpty());
+}
+
+TEST(ControleerDossier, FindsWhatAProductLacks) {
+  EXPECT_THAT(Gevonden(MaakProduct), IsEmpty());
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                MaakProduct(kolom);
+                kolom.Maatschappij = "dm";
+              }),
+              ElementsAre("Er is geen maatschappij gekozen."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                MaakProduct(kolom);
+                kolom.Maatschappij = "ZZ";
+              }),
+              ElementsAre("De naam van de andere maatschappij ontbreekt."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                MaakProduct(kolom);
+                kolom.Contractvervaldatum = {};
+              }),
+              ElementsAre("Er is geen contractvervaldatum ingevuld."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                MaakProduct(kolom);
+                kolom.Contractvervaldatum = kVandaag;
+              }),
+              ElementsAre("Het contract is vervallen."));
+  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+                MaakProduct(kolom);
+                kolom.Productsoort = 99;
+                kolom.Looptijd = 1;
+              }),
+              ElementsAre("De looptijd van de post is voorbij."));
+}
+
+TEST(ControleerDossier, FindsAProposalThatEndsWhatTheCurrentSituationHasNot) {
+  DossierGegevens gegevens = LeegDossier();
+  gegevens.Voorstellen[2] = {5};
+  Dossier dossier(gegevens, std::make_shared<Omgeving>());
+  EXPECT_THAT(Teksten(ControleerDossier(dossier, kVandaag)),
+              ElementsAre("Voorstel 3 beëindigt een post die niet in de huidige situatie staat."));
+}
+
+TEST(ControleerDossier, SaysWhereItFoundSomething) {
+  DossierGegevens gegevens = VoorbeeldDossier();
+  gegevens.Leningen[0].VrijeKolommen[1].Omschrijving.clear();
+  Dossier dossier(gegevens, std::make_shared<Omgeving>());
+  const std::vector<Bevinding> bevindingen = ControleerDossier(dossier, kVandaag);
+  ASSERT_EQ(bevindingen.size(), 1u);
+  EXPECT_EQ(bevindingen[0].Len_Id, 1);
+  EXPECT_EQ(bevindingen[0].Vrij_Id, 7);
+}
+
+TEST(DossierControle, TellsItsListenerWhatThereIsToLookAt) {
+  DossierControle controle([] { return kVandaag; });
+  std::vector<std::string> gevonden;
+  controle.Gecontroleerd.Connect([&](const std::vector<Bevinding>& bevindingen) { gevonden = Teksten(bevindingen); });
+  DossierGegevens gegevens = VoorbeeldDossier();
+  gegevens.HuidigeLening.VrijeKolommen[0].Omschrijving.clear();
+  const auto application =
+      std::make_shared<Application>(std::make_shared<Dossier>(gegevens, std::make_shared<Omgeving>()));
+  controle.Controleer(application, 1);
+  EXPECT_THAT(gevonden, ElementsAre("Er is geen omschrijving ingevuld."));
+  EXPECT_THROW(controle.Controleer(application, 2), host::Error);
+  EXPECT_THROW(controle.Controleer(nullptr, 1), host::Error);
+}
+
+}  // namespace
+}  // namespace brivane::dossier
