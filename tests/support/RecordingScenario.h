@@ -117,11 +117,11 @@ class RecordingScenario final : public host::BedragObject {
 
    private:
     template <class T> T Lees(const char* veld, T waarde) const {
-      scenario_.Meld(std::string("Periode.") + veld);
+      scenario_.Meld("Periode.", veld);
       return waarde;
     }
     template <class T> void Zet(const char* veld, T& plaats, T waarde) {
-      scenario_.Meld(std::string("Periode.") + veld + " =");
+      scenario_.Meld("Periode.", veld, " =");
       plaats = waarde;
       scenario_.Schrijf(naam_ + "." + veld, static_cast<double>(waarde));
     }
@@ -131,8 +131,8 @@ class RecordingScenario final : public host::BedragObject {
     std::shared_ptr<PeriodeWaarden> waarden_;
   };
 
-  void Meld(const std::string& toegang) const {
-    if (voor) voor(toegang);
+  void Meld(const char* object, const char* veld = "", const char* soort = "") const {
+    if (voor) voor(std::string(object) + veld + soort);
   }
   void Schrijf(const std::string& veld, double waarde) { log.push_back(veld + " = " + Shortest(waarde)); }
 };
