@@ -1,6 +1,5 @@
 #include "scenario/frmScenario.h"
 
-#include <exception>
 #include <string>
 #include <string_view>
 
@@ -57,37 +56,35 @@ frmScenario::~frmScenario() {
 }
 
 template <class Body>
-bool frmScenario::Guarded(Body&& body) {
+void frmScenario::Guarded(Body&& body) {
   try {
     body();
-    return true;
   } catch (...) {
-    const host::Error fout = frame::CurrentError();
-    std::string tekst(frame::kReportMessage);
-    tekst += kRegeleinde;
-    tekst += std::to_string(fout.Number()) + ": " + fout.Description();
-    desktop_.MessageBox(std::string(frame::kReportCaption), tekst, host::MessageStyle::OkExclamation);
-    return false;
+    ToonFout();
   }
+}
+
+void frmScenario::ToonFout() {
+  const host::Error fout = frame::CurrentError();
+  std::string tekst(frame::kReportMessage);
+  tekst += kRegeleinde;
+  tekst += std::to_string(fout.Number()) + ": " + fout.Description();
+  desktop_.MessageBox(std::string(frame::kReportCaption), tekst, host::MessageStyle::OkExclamation);
 }
 
 void frmScenario::Invoeren(const std::shared_ptr<host::BedragObject>& Scenario, std::int16_t AantalJaar,
                            std::int32_t Labeltype, std::int32_t /*Anv_Leeftijd*/, bool /*LooptijdExtra*/,
                            bool In_RenteKorting, double Bd_MaxOpname) {
-  // The caller learns of a failure too, after the adviser has seen it.
-  std::exception_ptr fout;
-  Guarded([&] {
-    try {
-      scenario_ = Scenario;
-      maxOpname_ = Bd_MaxOpname;
-      BouwRooster(AantalJaar, Labeltype, In_RenteKorting);
-      Laad();
-    } catch (...) {
-      fout = std::current_exception();
-      throw;
-    }
-  });
-  if (fout) std::rethrow_exception(fout);
+  try {
+    scenario_ = Scenario;
+    maxOpname_ = Bd_MaxOpname;
+    BouwRooster(AantalJaar, Labeltype, In_RenteKorting);
+    Laad();
+  } catch (...) {
+    // The caller learns of it too, after the adviser has seen it.
+    ToonFout();
+    throw;
+  }
 }
 
 void frmScenario::SetDisableJaar(std::int16_t Jr, bool NewValue) {
@@ -311,27 +308,28 @@ void frmScenario::cmdOK_Click() {
 }
 
 void frmScenario::Bewaar(Invoersoort soort) {
-  if (soort == Invoersoort::Onbekend) return;
   host::BedragObject& bron = Bron();
-  MaakLeeg(bron);
   switch (soort) {
     case Invoersoort::Bedrag:
+      MaakLeeg(bron);
       BewaarBedragen(rooster_, opzet_.overbrugging, soortScenario_, maandbasis_,
                      [&](const Bedragpost& post) { Schrijf(bron, post, opzet_.overbrugging); });
-      break;
+      return;
     case Invoersoort::Percentage: {
+      MaakLeeg(bron);
       const double netto = rooster_.Percentage(1) - rooster_.Korting(1);
       bron.SetBedrag(netto);
       BewaarPercentages(rooster_, opzet_.korting, [&](const Rentepost& post) { Schrijf(bron, post, opzet_.korting); });
-      break;
+      return;
     }
     case Invoersoort::BedragEnPercentage: {
+      MaakLeeg(bron);
       const double bedrag = rooster_.Bedrag(1);
       bron.SetBedrag(bedrag);
       BewaarGroei(rooster_, [&](const Groeipost& post) { Schrijf(bron, post); });
-      break;
+      return;
     }
-    case Invoersoort::Onbekend: break;
+    case Invoersoort::Onbekend: return;
   }
 }
 

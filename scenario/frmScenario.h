@@ -72,9 +72,11 @@ class frmScenario {
   void txtPercentage_Validation(int Index);
   void txtKorting_Validation(int Index);
 
-  /// Ends a handler at an unexpected failure and shows it once; answers whether it came to its end.
+  /// Ends a handler at an unexpected failure and shows it once.
   template <class Body>
-  bool Guarded(Body&& body);
+  void Guarded(Body&& body);
+  /// Shows the failure being handled.
+  void ToonFout();
 
   void BouwRooster(std::int16_t AantalJaar, std::int32_t Labeltype, bool In_RenteKorting);
   void SchikFormulier(const scenario::Indeling& indeling);

@@ -67,14 +67,14 @@ class Formulier : public testing::Test {
   [[nodiscard]] headless::Form& Venster() {
     return static_cast<headless::Form&>(headless::Surface::Of(form->Form()));
   }
-  /// By its row of the design: grids are large, and a search by name alone would walk all of one.
+  [[nodiscard]] static std::size_t Ontwerprij(std::string_view naam) {
+    for (std::size_t rij = 0; rij < scenario::kOntwerp.rows.size(); ++rij)
+      if (scenario::kOntwerp.rows[rij].name == naam) return rij;
+    throw std::out_of_range(std::string(naam));
+  }
   [[nodiscard]] headless::AnyControl* Zoek(std::string_view naam, int index = frame::kNoIndex) {
-    for (std::size_t rij = 0; rij < scenario::kOntwerp.rows.size(); ++rij) {
-      if (scenario::kOntwerp.rows[rij].name != naam) continue;
-      host::Control* gevonden = form->Form().Element(rij, index);
-      return gevonden != nullptr ? &headless::AnyControl::Of(*gevonden) : nullptr;
-    }
-    return nullptr;
+    host::Control* gevonden = form->Form().Element(Ontwerprij(naam), index);
+    return gevonden != nullptr ? &headless::AnyControl::Of(*gevonden) : nullptr;
   }
   [[nodiscard]] bool Bestaat(std::string_view naam, int index) { return Zoek(naam, index) != nullptr; }
   [[nodiscard]] host::Control& Control(std::string_view naam, int index = frame::kNoIndex) {
@@ -103,17 +103,26 @@ class Formulier : public testing::Test {
   /// The values of the boxes of one kind, rows 1 to the last.
   [[nodiscard]] std::vector<double> Waarden(std::string_view naam) {
     std::vector<double> waarden;
-    for (int rij = 1; Bestaat(naam, rij); ++rij) waarden.push_back(Vak(naam, rij).Number());
+    VanElkeRij<host::TextBox>(naam, [&](const host::TextBox& vak) { waarden.push_back(vak.Number()); });
     return waarden;
   }
+  /// By code, from row 1.
   void Zet(std::string_view naam, const std::vector<double>& waarden) {
-    int rij = 0;
-    for (const double waarde : waarden) Vak(naam, ++rij).SetNumber(waarde);
+    std::size_t rij = 0;
+    VanElkeRij<host::TextBox>(naam, [&](host::TextBox& vak) { vak.SetNumber(waarden.at(rij++)); });
+    ASSERT_EQ(rij, waarden.size());
   }
   [[nodiscard]] std::vector<int> Kruisen() {
     std::vector<int> kruisen;
-    for (int rij = 1; Bestaat("chkEenmalig", rij); ++rij) kruisen.push_back(Aankruisvak("chkEenmalig", rij).Value());
+    VanElkeRij<host::CheckBox>("chkEenmalig", [&](const host::CheckBox& vak) { kruisen.push_back(vak.Value()); });
     return kruisen;
+  }
+
+  template <class Soort, class Doe>
+  void VanElkeRij(std::string_view naam, Doe&& doe) {
+    const std::size_t ontwerprij = Ontwerprij(naam);
+    for (int rij = 1; host::Control* control = form->Form().Element(ontwerprij, rij); ++rij)
+      doe(static_cast<Soort&>(*control));
   }
 
   headless::Toolkit toolkit;

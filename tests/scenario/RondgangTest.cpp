@@ -9,6 +9,7 @@ namespace brivane::tests {
 namespace {
 
 constexpr std::uint32_t kZaad = 20031215;
+/// Of each kind.
 constexpr int kRoosters = 10000;
 
 /// What was entered, row by row; index 0 is row 1.
@@ -41,9 +42,9 @@ class Dobbelsteen {
   std::mt19937 bron_;
 };
 
-Ingevuld Werp(Dobbelsteen& steen) {
+Ingevuld Werp(Dobbelsteen& steen, std::int16_t soort) {
   Ingevuld rooster;
-  rooster.soort = static_cast<std::int16_t>(1 + steen.Tot(3));
+  rooster.soort = soort;
   rooster.rijen = 1 + steen.Tot(80);
   rooster.krediet = steen.Tot(3) == 0;
   rooster.korting = steen.Munt();
@@ -80,9 +81,9 @@ class Rondgang : public Formulier {
     if (rooster.soort != 2) Zet("txtBedrag", rooster.bedragen);
     if (rooster.soort != 1) Zet("txtPercentage", rooster.percentages);
     if (rooster.soort != 1 && rooster.korting) Zet("txtKorting", rooster.kortingen);
-    if (rooster.soort == 1 && !rooster.krediet)
-      for (int rij = 1; rij <= rooster.rijen; ++rij)
-        Aankruisvak("chkEenmalig", rij).SetValue(rooster.kruisen[static_cast<std::size_t>(rij - 1)] ? 1 : 0);
+    std::size_t rij = 0;
+    VanElkeRij<host::CheckBox>("chkEenmalig",
+                               [&](host::CheckBox& vak) { vak.SetValue(rooster.kruisen[rij++] ? 1 : 0); });
     // The adviser's own edit of row 1 is what hands amounts their base value.
     if (rooster.soort == 1) Typ("txtBedrag", 1, rooster.bedragen[0]);
   }
@@ -93,7 +94,8 @@ class Rondgang : public Formulier {
     std::vector<int> kruisen{0};
     for (std::size_t rij = 1; rij < rooster.bedragen.size(); ++rij) {
       // A tick is kept where its row starts something new.
-      const bool nieuw = rooster.bedragen[rij] != rooster.bedragen[rij - 1] || rooster.kruisen[rij] != rooster.kruisen[rij - 1];
+      const bool nieuw =
+          rooster.bedragen[rij] != rooster.bedragen[rij - 1] || rooster.kruisen[rij] != rooster.kruisen[rij - 1];
       kruisen.push_back(nieuw && rooster.kruisen[rij] ? 1 : 0);
     }
     EXPECT_EQ(Kruisen(), kruisen);
@@ -122,13 +124,14 @@ class Rondgang : public Formulier {
   }
 };
 
-TEST_F(Rondgang, StoringAndLoadingGiveTheRowsBack) {
-  std::cout << "seed " << kZaad << ", " << kRoosters << " grids\n";
-  Dobbelsteen steen(kZaad);
-  int gevuld[4] = {};
+class RondgangVanSoort : public Rondgang, public testing::WithParamInterface<int> {};
+
+TEST_P(RondgangVanSoort, StoringAndLoadingGiveTheRowsBack) {
+  const std::uint32_t zaad = kZaad + static_cast<std::uint32_t>(GetParam());
+  std::cout << "kind " << GetParam() << ", seed " << zaad << ", " << kRoosters << " grids\n";
+  Dobbelsteen steen(zaad);
   for (int nummer = 0; nummer < kRoosters; ++nummer) {
-    const Ingevuld rooster = Werp(steen);
-    ++gevuld[rooster.soort];
+    const Ingevuld rooster = Werp(steen, static_cast<std::int16_t>(GetParam()));
     scenario = std::make_shared<RecordingScenario>();
     if (rooster.krediet) scenario->naam = "Overbruggingskrediet";
     Maak(rooster);
@@ -139,22 +142,24 @@ TEST_F(Rondgang, StoringAndLoadingGiveTheRowsBack) {
 
     Maak(rooster);
     VerwachtRijen(rooster);
-    // Storing what was loaded changes nothing, but for ticks that fill nothing anew.
+    // Storing what was loaded changes nothing, but for the end of a tick, which is loaded as none.
     DrukOK();
     EXPECT_EQ(scenario->basis, basis);
-    if (rooster.soort != 1) {
+    if (rooster.soort != 1 || rooster.krediet) {
       EXPECT_EQ(scenario->Inhoud(), lijst);
     }
     ASSERT_TRUE(berichten.empty()) << berichten.front().tekst;
-    ASSERT_FALSE(HasFailure()) << "grid " << nummer << ": kind " << rooster.soort << ", " << rooster.rijen << " rows"
+    ASSERT_FALSE(HasFailure()) << "grid " << nummer << ": " << rooster.rijen << " rows"
                                << (rooster.krediet ? ", bridging loan" : "") << (rooster.korting ? ", discount" : "");
   }
-  for (int soort = 1; soort <= 3; ++soort) EXPECT_GT(gevuld[soort], kRoosters / 4) << soort;
 }
+
+INSTANTIATE_TEST_SUITE_P(Soorten, RondgangVanSoort, testing::Values(1, 2, 3));
 
 TEST_F(Rondgang, AScenarioFromElsewhereKeepsItsNumbersWhenItIsStoredUntouched) {
   // Percentages of any precision, as another program may have left them in the list.
-  Dobbelsteen steen(kZaad + 1);
+  Dobbelsteen steen(kZaad);
+  std::cout << "seed " << kZaad << '\n';
   for (int nummer = 0; nummer < 500; ++nummer) {
     for (const std::int16_t soort : {std::int16_t{2}, std::int16_t{3}}) {
       scenario = std::make_shared<RecordingScenario>();
@@ -164,7 +169,8 @@ TEST_F(Rondgang, AScenarioFromElsewhereKeepsItsNumbersWhenItIsStoredUntouched) {
         const float percentage = static_cast<float>(steen.Tot(1000000) + 1) / 77777.0F;
         if (percentage == vorige) continue;
         vorige = percentage;
-        scenario->VoegToe({.maand = static_cast<std::int16_t>((rij - 1) * 12 + 1), .percentage = static_cast<double>(percentage)});
+        const auto maand = static_cast<std::int16_t>((rij - 1) * 12 + 1);
+        scenario->VoegToe({.maand = maand, .percentage = static_cast<double>(percentage)});
       }
       const std::vector<PeriodeWaarden> lijst = scenario->Inhoud();
       Nieuw();
