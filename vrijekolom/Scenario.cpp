@@ -1,8 +1,5 @@
 // The term, the proposals and the year-by-year form.
 
-#include <array>
-#include <string>
-
 #include "frame/Calendar.h"
 #include "frame/Conversions.h"
 #include "scenario/frmScenario.h"

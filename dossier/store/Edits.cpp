@@ -98,7 +98,8 @@ bool Edits::Finish() {
 }
 
 void Edits::Store() {
-  if (edit_->begun) {
+  const bool changed = edit_->begun;
+  if (changed) {
     try {
       transactions_.Commit();
     } catch (...) {
@@ -107,6 +108,7 @@ void Edits::Store() {
     }
   }
   edit_.reset();
+  if (changed) Stored.Raise();
 }
 
 void Edits::RollBack(const host::Error& error) {

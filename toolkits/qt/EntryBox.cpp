@@ -25,7 +25,7 @@ void EntryBox::ShowText(const QString& text) {
 }
 
 bool EntryBox::HasPendingEdit() const {
-  return refused_ || edited_;
+  return refused_ || (edited_ && text() != shown_);
 }
 
 bool EntryBox::CommitPending() {
@@ -46,13 +46,11 @@ bool EntryBox::CommitPending() {
   setFocus(Qt::OtherFocusReason);
   selectAll();
   TakeReasonAway();
-  if (!verdict.reason.isEmpty()) ShowReason(verdict.reason);
+  if (!verdict.reason.isEmpty()) {
+    Bubble::Show(*this, verdict.reason);
+    reasonShown_ = true;
+  }
   return false;
-}
-
-void EntryBox::ShowReason(const QString& reason) {
-  Bubble::Show(*this, reason);
-  reasonShown_ = true;
 }
 
 void EntryBox::TakeReasonAway() {
@@ -77,11 +75,6 @@ EntryBox* EntryBox::PendingWithin(const QWidget& area) {
 
 void EntryBox::TypeText(const QString& text) {
   setText(text);
-  OnTextEdited();
-}
-
-void EntryBox::InsertTyped(const QString& text) {
-  insert(text);
   OnTextEdited();
 }
 
@@ -150,7 +143,8 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
   }
   if (keypadPoint_ == KeypadPoint::Comma && event->modifiers().testFlag(Qt::KeypadModifier) &&
       (event->text() == "." || event->text() == ",")) {
-    InsertTyped(",");
+    insert(",");
+    OnTextEdited();
     event->accept();
     return;
   }

@@ -1,0 +1,327 @@
+#include "dossier/venster/Dossierscherm.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QShortcut>
+#include <QTimer>
+#include <QTreeView>
+#include <algorithm>
+#include <utility>
+
+#include "dossier/venster/Acties.h"
+#include "dossier/venster/Controle.h"
+#include "dossier/venster/Melding.h"
+#include "dossier/venster/Vandaag.h"
+#include "frame/ErrorReport.h"
+
+namespace brivane::dossier {
+namespace {
+
+constexpr int kBoomTekens = 44;  ///< width of the tree at first, in characters
+constexpr char kObjectNaam[] = "Dossier";
+constexpr char kObjectOmschrijving[] = "Dossier";
+
+Foutrecord RecordVan(const host::Error& fout) {
+  return {.ApplicationTitle = QGuiApplication::applicationDisplayName().toStdString(),
+          .ObjectName = kObjectNaam,
+          .Caption = std::string(frame::kReportCaption),
+          .ObjectDescription = kObjectOmschrijving,
+          .Message = std::string(frame::kReportMessage),
+          .ErrorNumber = std::to_string(fout.Number()),
+          .ErrorDescription = fout.Description(),
+          .ErrorSource = fout.Source()};
+}
+
+/// Every column of a case in the order of the tree.
+std::vector<Plek> AlleKolommen(const Dossier& dossier) {
+  std::vector<Plek> plekken;
+  for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
+    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) plekken.push_back({Len_Id, kolom->Id()});
+  }
+  return plekken;
+}
+
+}  // namespace
+
+Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
+                             Logboek& logboek, QWidget* parent)
+    : QSplitter(parent),
+      logboek_(logboek),
+      traceerlog_(std::make_shared<Traceerlog>(logboek)),
+      bestand_(std::move(bestand)),
+      application_(std::make_shared<Application>(bestand_->Dossier(), std::move(hoofdvenster))),
+      model_(new Kolommenmodel(this)),
+      boom_(new QTreeView),
+      kolom_(new Kolomscherm(application_, Fabrieken())) {
+  MaakBoom();
+  addWidget(boom_);
+  addWidget(kolom_);
+  setStretchFactor(0, 0);
+  setStretchFactor(1, 1);
+  setChildrenCollapsible(false);
+  resize(2 * kBoomTekens * boom_->fontMetrics().averageCharWidth(), height());
+  setSizes({width() / 2, width() / 2});
+
+  scenarioopslag_ =
+      std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(), bestand_->Bewerkingen());
+  kolom_->Editor().SetFailureListener([this](const std::exception& fout) {
+    const auto* eigen = dynamic_cast<const host::Error*>(&fout);
+    MeldFout(RecordVan(eigen ? *eigen
+                             : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
+  });
+  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
+  bestand_->Bewerkingen().Failed.Connect([this](const StoreFailure& mislukt) {
+    PlanHerbinden();
+    if (mislukt.told == Told::Yes) return;
+    QMetaObject::invokeMethod(this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);
+  });
+  bestand_->Bewerkingen().Stored.Connect([this] {
+    // The memory follows the file: only then do the texts show the change.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          kolom_->VernieuwKop();
+          model_->HertekenTekst(Getoond());
+          emit opgeslagen();
+        },
+        Qt::QueuedConnection);
+  });
+
+  model_->Toon(bestand_->Dossier());
+  boom_->expandAll();
+  const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
+  Toon(kolommen.empty() ? Plek{} : kolommen.front());
+}
+
+Dossierscherm::~Dossierscherm() {
+  application_->FoutGemeld.Disconnect();
+  bestand_->Bewerkingen().Failed.Disconnect();
+  bestand_->Bewerkingen().Stored.Disconnect();
+  scenarioopslag_.reset();
+  // The editor holds records of the file, which goes before its widgets otherwise.
+  delete kolom_;
+}
+
+host::HostFactories Dossierscherm::Fabrieken() {
+  return {.MaakProcedureTrace =
+              [this](std::string_view control) { return bestand_->MaakTrace(control, traceerlog_); },
+          .MaakDossierControle =
+              [](std::string_view) {
+                return std::make_shared<DossierControle>([] { return Vandaag(); });
+              }};
+}
+
+void Dossierscherm::MaakBoom() {
+  boom_->setObjectName(QStringLiteral("kolommen"));
+  boom_->setAccessibleName(QStringLiteral("Leningen en vrije kolommen"));
+  boom_->setModel(model_);
+  boom_->setHeaderHidden(true);
+  boom_->setUniformRowHeights(true);
+  boom_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  boom_->setDragDropMode(QAbstractItemView::DragDrop);
+  boom_->setDefaultDropAction(Qt::MoveAction);
+  boom_->setTextElideMode(Qt::ElideRight);
+  boom_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  boom_->setMinimumWidth(boom_->fontMetrics().averageCharWidth() * 24);
+  connect(boom_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+    // Out of the view's own event, which a message box would hold up.
+    if (!selecteert_) QMetaObject::invokeMethod(this, &Dossierscherm::VolgBoom, Qt::QueuedConnection);
+  });
+  model_->verplaatsGevraagd = [this](Plek kolom, std::int16_t naarLen_Id) {
+    QMetaObject::invokeMethod(this, [this, kolom, naarLen_Id] { Verplaats(kolom, naarLen_Id); }, Qt::QueuedConnection);
+  };
+}
+
+void Dossierscherm::ZetBoomacties(const Acties& acties) {
+  boom_->addActions({acties.toevoegen, acties.dupliceren, acties.verplaatsen->menuAction(), acties.afwijking->menuAction(),
+                     acties.verwijderen});
+  const auto toets = [this](Qt::Key knop, QAction* actie) {
+    auto* sneltoets = new QShortcut(knop, boom_);
+    sneltoets->setContext(Qt::WidgetShortcut);
+    connect(sneltoets, &QShortcut::activated, actie, &QAction::trigger);
+  };
+  toets(Qt::Key_Insert, acties.toevoegen);
+  toets(Qt::Key_Delete, acties.verwijderen);
+}
+
+void Dossierscherm::VolgBoom() {
+  if (verlaat_ || !boom_->currentIndex().isValid()) return;
+  GaNaar(model_->PlekVan(boom_->currentIndex()));
+}
+
+bool Dossierscherm::MagVerlaten() {
+  if (verlaat_) return false;
+  verlaat_ = true;
+  const bool mag = kolom_->MagVerlaten();
+  verlaat_ = false;
+  // The check may have taken columns out of the new situation.
+  Vernieuw();
+  if (!mag) SelecteerGetoond();
+  return mag;
+}
+
+bool Dossierscherm::GaNaar(const Plek& plek) {
+  if (plek == Getoond()) return true;
+  if (!MagVerlaten()) return false;
+  const bool bestaat = !plek.Vrij_Id || Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
+  Toon(bestaat ? plek : Plek{plek.Len_Id, std::nullopt});
+  return bestaat;
+}
+
+bool Dossierscherm::GaVerder(int stap) {
+  const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
+  const auto hier = std::find(kolommen.begin(), kolommen.end(), Getoond());
+  // From a loan itself the way goes to its first column, or back to the last one before it.
+  std::ptrdiff_t naar = hier - kolommen.begin() + stap;
+  if (hier == kolommen.end()) {
+    naar = std::find_if(kolommen.begin(), kolommen.end(),
+                        [&](const Plek& plek) { return plek.Len_Id >= Getoond().Len_Id; }) -
+           kolommen.begin() - (stap < 0 ? 1 : 0);
+  }
+  if (naar < 0 || naar >= std::ssize(kolommen)) return false;
+  return GaNaar(kolommen[static_cast<std::size_t>(naar)]);
+}
+
+void Dossierscherm::WisselFocus() {
+  if (kolom_->HeeftFocus() || !Getoond().Vrij_Id) {
+    boom_->setFocus(Qt::ShortcutFocusReason);
+  } else {
+    kolom_->FocusEerste();
+  }
+}
+
+bool Dossierscherm::VoegToe() {
+  if (!MagVerlaten()) return false;
+  const std::int16_t Len_Id = Getoond().Len_Id;
+  std::shared_ptr<VrijeKolom> kolom;
+  if (!Probeer([&] { kolom = Gegevens().NieuweKolom(Len_Id); })) return false;
+  Toon({Len_Id, kolom->Id()});
+  kolom_->FocusOmschrijving();
+  return true;
+}
+
+bool Dossierscherm::Dupliceer() {
+  const Plek plek = Getoond();
+  if (!plek.Vrij_Id || !MagVerlaten()) return false;
+  std::shared_ptr<VrijeKolom> kolom;
+  if (!Probeer([&] { kolom = Gegevens().Dupliceer(plek.Len_Id, *plek.Vrij_Id); })) return false;
+  Toon({plek.Len_Id, kolom->Id()});
+  kolom_->FocusOmschrijving();
+  return true;
+}
+
+bool Dossierscherm::Verplaats(const Plek& kolom, std::int16_t naarLen_Id) {
+  if (!kolom.Vrij_Id || kolom.Len_Id == naarLen_Id || !MagVerlaten()) return false;
+  std::int16_t Vrij_Id = 0;
+  if (!Probeer([&] { Vrij_Id = Gegevens().Verplaats(kolom.Len_Id, *kolom.Vrij_Id, naarLen_Id); })) return false;
+  Toon({naarLen_Id, Vrij_Id});
+  return true;
+}
+
+bool Dossierscherm::MaakAfwijking(std::int16_t Len_Id) {
+  const Plek plek = Getoond();
+  if (!plek.Vrij_Id || plek.Len_Id != Dossier::kHuidig || !MagVerlaten()) return false;
+  if (!Probeer([&] { Gegevens().MaakAfwijking(*plek.Vrij_Id, Len_Id); })) return false;
+  Toon({Len_Id, plek.Vrij_Id});
+  return true;
+}
+
+bool Dossierscherm::Verwijder() {
+  const Plek plek = Getoond();
+  if (!plek.Vrij_Id) return false;
+  const auto kolom = Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
+  if (!kolom) return false;
+  const QString vraag = QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")
+                            .arg(QString::fromStdString(kolom->Kopregel()));
+  if (Vraag(window(), QStringLiteral("Kolom verwijderen"), vraag, QStringLiteral("&Verwijderen")) == Antwoord::Nee) {
+    return false;
+  }
+  const QModelIndex volgende = boom_->indexBelow(model_->IndexVan(plek));
+  const QModelIndex vorige = boom_->indexAbove(model_->IndexVan(plek));
+  const QModelIndex buur = model_->PlekVan(volgende).Len_Id == plek.Len_Id && volgende.isValid() ? volgende : vorige;
+  const Plek naar = model_->PlekVan(buur);
+  if (!Probeer([&] { Gegevens().Verwijder(plek.Len_Id, *plek.Vrij_Id); })) return false;
+  Toon(naar);
+  boom_->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+bool Dossierscherm::NieuweLening(const QString& naam) {
+  if (!MagVerlaten()) return false;
+  std::int16_t Len_Id = 0;
+  if (!Probeer([&] { Len_Id = Gegevens().NieuweLening(naam.toStdString()); })) return false;
+  Toon({Len_Id, std::nullopt});
+  return true;
+}
+
+bool Dossierscherm::SetClient(const std::vector<PersoonGegevens>& personen, std::int16_t leeftijd) {
+  if (!Probeer([&] { Gegevens().SetClient(personen, leeftijd); })) return false;
+  // The editor shows the names and asks the age limit.
+  kolom_->Herbind();
+  return true;
+}
+
+std::optional<std::vector<Bevinding>> Dossierscherm::Controleer() {
+  if (!kolom_->Editor().CommitPending()) return std::nullopt;
+  return ControleerAlles(Gegevens(), Vandaag());
+}
+
+void Dossierscherm::Toon(const Plek& plek) {
+  Vernieuw();
+  kolom_->Toon(plek);
+  SelecteerGetoond();
+  emit plekGewijzigd();
+}
+
+void Dossierscherm::SelecteerGetoond() {
+  selecteert_ = true;
+  boom_->setCurrentIndex(model_->IndexVan(Getoond()));
+  boom_->scrollTo(boom_->currentIndex());
+  selecteert_ = false;
+}
+
+void Dossierscherm::Vernieuw() {
+  selecteert_ = true;
+  if (model_->Vernieuw()) {
+    boom_->expandAll();
+    boom_->setCurrentIndex(model_->IndexVan(Getoond()));
+    emit plekGewijzigd();
+  }
+  selecteert_ = false;
+}
+
+bool Dossierscherm::Probeer(const std::function<void()>& wijziging) {
+  try {
+    wijziging();
+    return true;
+  } catch (const host::Error& fout) {
+    MeldFout(RecordVan(fout));
+  }
+  return false;
+}
+
+void Dossierscherm::MeldFout(const Foutrecord& fout) {
+  SchrijfFout(logboek_, fout);
+  ToonFout(window(), fout, herbinden_ ? Gevolg::Herladen : Gevolg::Geen);
+}
+
+void Dossierscherm::PlanHerbinden() {
+  if (std::exchange(herbinden_, true)) return;
+  QTimer::singleShot(0, this, &Dossierscherm::Herbind);
+}
+
+void Dossierscherm::Herbind() {
+  // Not under an open box or form: the procedure that opened it has not ended.
+  if (QApplication::activeModalWidget()) {
+    QTimer::singleShot(50, this, &Dossierscherm::Herbind);
+    return;
+  }
+  Vernieuw();
+  const Plek plek = Getoond();
+  const bool bestaat = plek.Vrij_Id && Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
+  kolom_->Toon(bestaat ? plek : Plek{plek.Len_Id, std::nullopt});
+  // What fails while binding is not followed by another binding.
+  herbinden_ = false;
+}
+
+}  // namespace brivane::dossier

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QPointer>
+#include <memory>
+
+#include "dossier/venster/Acties.h"
+#include "dossier/venster/Dossierscherm.h"
+
+class QLabel;
+class QStackedWidget;
+
+namespace brivane::dossier {
+
+class Bevindingenlijst;
+class Startpagina;
+
+/// The program's window: one loan file at a time, or the page that offers to open one.
+///
+/// Closing it, or the file, asks the open column first; refused, everything stays.
+class Hoofdvenster final : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `logboek` outlives the window.
+  explicit Hoofdvenster(Logboek& logboek);
+  ~Hoofdvenster() override;
+
+  /// Opens a loan file in place of the open one. Where that cannot be it says why, and all stays as it was.
+  bool Open(const QString& bestand);
+  /// Shows a loan file that is open already, in place of the page that offers to open one.
+  void Toon(std::unique_ptr<DossierBestand> bestand);
+  /// Makes a loan file and opens it; the same holds.
+  bool Maak(const QString& bestand, const DossierGegevens& gegevens);
+  /// Closes the open file. False when its column must be mended first.
+  bool SluitDossier();
+
+  /// The open file's screen, or nothing.
+  [[nodiscard]] Dossierscherm* Scherm() const { return scherm_; }
+  [[nodiscard]] const Acties& Opdrachten() const { return acties_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void Verbind();
+  void VraagNieuw();
+  void VraagOpenen();
+  void OpenVoorbeeld();
+  void VraagClient();
+  void VraagLening();
+  void Controleer();
+  void ToonOver();
+  [[nodiscard]] QString VraagNieuwBestand(const QString& titel, const QString& naam);
+  void WerkActiesBij();
+  void VulLeningmenus();
+
+  Logboek& logboek_;
+  Acties acties_;
+  std::shared_ptr<host::Hoofdvenster> eigenaar_;
+  QStackedWidget* stapel_;
+  Startpagina* start_;
+  Bevindingenlijst* bevindingen_;
+  QLabel* bestandsnaam_;
+  QPointer<Dossierscherm> scherm_;
+};
+
+}  // namespace brivane::dossier

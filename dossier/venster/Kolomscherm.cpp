@@ -1,0 +1,102 @@
+#include "dossier/venster/Kolomscherm.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "dossier/venster/Kopregel.h"
+#include "frame/Handle.h"
+#include "toolkits/qt/EntryBox.h"
+#include "vrijekolom/Ontwerp.h"
+
+namespace brivane::dossier {
+
+Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories,
+                         QWidget* parent)
+    : QStackedWidget(parent), application_(std::move(application)) {
+  auto* uitleg = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
+  uitleg->setAlignment(Qt::AlignCenter);
+  uitleg->setWordWrap(true);
+  leeg_ = uitleg;
+
+  editor_ = new qt::VrijeKolomWidget;
+  editor_->setObjectName(QStringLiteral("editor"));
+  editor_->SetHostFactories(factories);
+  auto* vlak = new QWidget;
+  auto* stapel = new QVBoxLayout(vlak);
+  stapel->setContentsMargins(0, 0, 0, 0);
+  stapel->addWidget(editor_, 0, Qt::AlignLeft | Qt::AlignTop);
+  stapel->addStretch();
+  auto* rol = new QScrollArea;
+  rol->setFrameShape(QFrame::NoFrame);
+  rol->setWidgetResizable(true);
+  rol->setFocusPolicy(Qt::NoFocus);
+  rol->setWidget(vlak);
+
+  kop_ = new Kopregel;
+  kop_->setObjectName(QStringLiteral("kopregel"));
+  kolom_ = new QWidget;
+  auto* indeling = new QVBoxLayout(kolom_);
+  indeling->addWidget(kop_);
+  indeling->addWidget(rol, 1);
+  connect(editor_, &qt::VrijeKolomWidget::refreshTopDisplay, kop_, &Kopregel::Toon);
+
+  addWidget(leeg_);
+  addWidget(kolom_);
+}
+
+void Kolomscherm::Toon(const Plek& plek) {
+  plek_ = plek;
+  // What was being typed belongs to what stood here.
+  if (qt::EntryBox* vak = qt::EntryBox::PendingWithin(*editor_)) vak->Restore();
+  if (!plek.Vrij_Id) {
+    setCurrentWidget(leeg_);
+    return;
+  }
+  setCurrentWidget(kolom_);
+  // Proposals end budget items of the current situation; the new one has them as its own.
+  editor_->SetBeeindigenZichtbaar(plek.Len_Id == Dossier::kHuidig);
+  editor_->SetApplication(application_, plek.Len_Id, *plek.Vrij_Id);
+  VernieuwKop();
+}
+
+void Kolomscherm::VernieuwKop() {
+  if (!plek_.Vrij_Id) return;
+  if (const auto kolom = application_->Bestand()->ZoekKolom(plek_.Len_Id, *plek_.Vrij_Id)) {
+    kop_->Toon(QString::fromStdString(kolom->Kopregel()));
+  }
+}
+
+bool Kolomscherm::MagVerlaten() {
+  if (!plek_.Vrij_Id) return true;
+  if (!editor_->CommitPending()) return false;
+  bool cancel = false;
+  editor_->Validation(cancel);
+  if (cancel) FocusGeweigerd();
+  return !cancel;
+}
+
+void Kolomscherm::FocusGeweigerd() {
+  const frame::Controls vakken(editor_->Surface());
+  host::TextBox& aanvang = vakken[vrijekolom::TxtDtAanvang];
+  // The editor refuses an empty start date before it looks at the end date.
+  if (aanvang.DateValue().IsNone()) {
+    aanvang.SetFocus();
+  } else {
+    vakken[vrijekolom::TxtDtEind].SetFocus();
+  }
+}
+
+void Kolomscherm::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrijekolom::TxtOm].SetFocus(); }
+
+void Kolomscherm::FocusEerste() {
+  if (plek_.Vrij_Id) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
+}
+
+bool Kolomscherm::HeeftFocus() const {
+  const QWidget* focus = focusWidget();
+  return focus != nullptr && focus->hasFocus() && isAncestorOf(focus);
+}
+
+}  // namespace brivane::dossier

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTranslator>
+
+namespace brivane::dossier {
+
+/// Dutch for the texts of Qt's own dialogs, buttons and box menus that this program shows.
+class Nederlands final : public QTranslator {
+ public:
+  using QTranslator::QTranslator;
+  [[nodiscard]] QString translate(const char* context, const char* sourceText, const char* disambiguation = nullptr,
+                                  int n = -1) const override;
+  [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+}  // namespace brivane::dossier

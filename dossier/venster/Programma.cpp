@@ -1,0 +1,19 @@
+#include "dossier/venster/Programma.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include "dossier/venster/Nederlands.h"
+
+namespace brivane::dossier {
+
+void StelProgrammaIn(QApplication& programma) {
+  QApplication::setOrganizationName(QStringLiteral("Brivane"));
+  QApplication::setApplicationName(QStringLiteral("dossier"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Dossier"));
+  QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
+  QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  QApplication::installTranslator(new Nederlands(&programma));
+}
+
+}  // namespace brivane::dossier
