@@ -50,6 +50,10 @@ class Werkplek {
   headless::Outcome Doe(std::string_view naam, const headless::Action& actie, int index = frame::kNoIndex) {
     return Control(naam, index).Perform(actie);
   }
+  /// Types a value into a box and leaves it.
+  headless::Outcome Typ(std::string_view naam, const headless::BoxValue& waarde) {
+    return Doe(naam, headless::Enter{waarde});
+  }
   [[nodiscard]] brivane::VrijeKolom& Editor() { return *editor_; }
   [[nodiscard]] headless::Toolkit& Toolkit() { return toolkit_; }
   [[nodiscard]] Application& App() { return *application_; }
