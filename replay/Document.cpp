@@ -1,8 +1,8 @@
 #include "replay/Document.h"
 
-#include <array>
-#include <utility>
+#include <limits>
 
+#include "replay/LogNames.h"
 #include "replay/Reading.h"
 #include "replay/Records.h"
 #include "replay/Steps.h"
@@ -11,21 +11,13 @@ namespace brivane::replay {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, Log>, 7> kLogs{{{"trace", Log::Trace},
-                                                                 {"writes", Log::Writes},
-                                                                 {"calls", Log::Calls},
-                                                                 {"events", Log::Events},
-                                                                 {"messages", Log::Messages},
-                                                                 {"results", Log::Results},
-                                                                 {"reads", Log::Reads}}};
-
 std::set<Log> ReadLog(const Value& value) {
   std::set<Log> logs;
   for (std::size_t i = 0; i < value.Size(); ++i) {
     const Value element = value.Element(i);
     const std::string name = element.Text();
     bool known = false;
-    for (const auto& [text, log] : kLogs)
+    for (const auto& [text, log] : kLogNames)
       if (text == name) known = logs.insert(log).second || true;
     if (!known) element.Refuse("no log named " + Quoted(name));
   }

@@ -108,6 +108,10 @@ struct Document {
 /// entry that a step picks, and whether the form has the row that a step names. Throws BadInput.
 [[nodiscard]] Document ReadDocument(std::string_view text);
 
+/// A document as text that reads back to the same one, each step on a line. What a step does decides its
+/// name: `Step::name` and `Step::place` may be left empty.
+[[nodiscard]] std::string WriteDocument(const Document& document);
+
 /// The records of a document as JSON, every field written out. Of a column, the host's keys and the
 /// members of its proposals are no part of a document.
 [[nodiscard]] Json ToJson(const dossier::BedragGegevens& bedrag);

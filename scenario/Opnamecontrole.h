@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-/// The check that all withdrawals together stay below a maximum.
+/// The check that all withdrawals together stay within a maximum.
 namespace brivane::scenario {
 
 /// Which checks a validation runs.
@@ -13,11 +13,6 @@ inline constexpr std::int32_t kControleOpname = 1;
 
 /// Adds a message to a text that collects them, each on a line of its own.
 void VoegMeldingToe(std::string& meldingen, std::string_view melding);
-
-/// Whether a sum is past its maximum; a maximum of 0 is none, and a sum that equals it passes.
-[[nodiscard]] constexpr bool TeVeelOpgenomen(double totaal, double maximum) {
-  return maximum != 0 && totaal > maximum;
-}
 
 /// The message for a maximum as the user's locale writes it ("25.000").
 [[nodiscard]] std::string OpnameMelding(std::string_view maximum);

@@ -283,7 +283,7 @@ void frmScenario::ControleerOpname(bool& Cancel, std::int32_t ControleNr) {
   if (ControleNr == kControleAlles) desktop_.DoPendingEvents();
   std::string meldingen;
   if (!Cancel && (ControleNr == kControleAlles || ControleNr == kControleOpname) && maxOpname_ != 0 &&
-      TeVeelOpgenomen(rooster_.Totaal(), maxOpname_)) {
+      rooster_.Totaal() > maxOpname_) {
     VoegMeldingToe(meldingen, OpnameMelding(desktop_.FormatWhole(maxOpname_)));
     Cancel = true;
   }

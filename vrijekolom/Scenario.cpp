@@ -1,5 +1,8 @@
 // The term, the proposals and the year-by-year form.
 
+#include <array>
+#include <string>
+
 #include "frame/Calendar.h"
 #include "frame/Conversions.h"
 #include "scenario/frmScenario.h"

@@ -2,6 +2,8 @@
 // from the record as read back, and the host hears of a header text that may have changed. That some
 // fields raise no event and leave no mark is meant.
 
+#include <string>
+
 #include "frame/Calendar.h"
 #include "vrijekolom/Looptijd.h"
 #include "vrijekolom/Ontwerp.h"

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <concepts>
 #include <limits>
+#include <numeric>
 #include <unordered_map>
 
 #include "dossier/store/Velden.h"
@@ -66,31 +67,57 @@ template <class Function> void VoorElkeRij(Database& database, const QString& sq
   if (query.lastError().isValid()) throw DatabaseError(query.lastError());
 }
 
-/// A row's place while the parts of the file are still being put together.
-struct Kolomrij {
-  Sleutel lening = 0;
-  std::int64_t volgorde = 0;
-  KolomGegevens gegevens;
+/// A loan while its parts are being put together.
+struct Opbouw {
+  LeningGegevens lening;
+  /// The place of each column in the loan's order.
+  std::vector<std::int64_t> volgorde;
 };
 
-std::vector<Kolomrij> LeesKolommen(Database& database) {
-  QStringList namen = {QStringLiteral("sleutel"), QStringLiteral("lening"), QStringLiteral("volgorde")};
-  const KolomGegevens voorbeeld;
-  BezoekKolom(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
-  std::vector<Kolomrij> kolommen;
-  const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
-  VoorElkeRij(database, sql, [&](Rij& rij) {
-    Kolomrij& kolom = kolommen.emplace_back();
-    rij.Lees(kolom.gegevens.Sleutel);
-    rij.Lees(kolom.lening);
-    rij.Lees(kolom.volgorde);
-    BezoekKolom(kolom.gegevens, [&](const char*, auto& waarde) { rij.Lees(waarde); });
-  });
-  return kolommen;
+/// The loans in order of their number, 0 first and none left out.
+std::vector<Opbouw> LeesLeningen(Database& database) {
+  std::vector<Opbouw> leningen;
+  VoorElkeRij(database,
+              QStringLiteral("SELECT nummer, sleutel, CAST(naam AS BLOB), "
+                             "(SELECT count(*) FROM vrijekolom WHERE lening = lening.sleutel) "
+                             "FROM lening ORDER BY nummer"),
+              [&](Rij& rij) {
+                std::int16_t nummer = 0;
+                rij.Lees(nummer);
+                if (static_cast<std::size_t>(nummer) != leningen.size()) Beschadigd();
+                Opbouw& opbouw = leningen.emplace_back();
+                rij.Lees(opbouw.lening.Sleutel);
+                rij.Lees(opbouw.lening.Naam);
+                std::int32_t kolommen = 0;
+                rij.Lees(kolommen);
+                opbouw.lening.VrijeKolommen.reserve(static_cast<std::size_t>(kolommen));
+                opbouw.volgorde.reserve(static_cast<std::size_t>(kolommen));
+              });
+  if (leningen.empty()) Beschadigd();
+  return leningen;
 }
 
-/// Answers the highest key.
-Sleutel LeesPerioden(Database& database, std::vector<Kolomrij>& kolommen) {
+/// Gives the loans their columns, in the order of the columns' keys.
+void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
+  QStringList namen = {QStringLiteral("lening"), QStringLiteral("volgorde"), QStringLiteral("sleutel")};
+  const KolomGegevens voorbeeld;
+  BezoekKolom(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
+  VoorElkeRij(database, sql, [&](Rij& rij) {
+    Sleutel sleutel = 0;
+    rij.Lees(sleutel);
+    const auto opbouw = std::find_if(leningen.begin(), leningen.end(),
+                                     [&](const Opbouw& kandidaat) { return kandidaat.lening.Sleutel == sleutel; });
+    if (opbouw == leningen.end()) Beschadigd();
+    rij.Lees(opbouw->volgorde.emplace_back());
+    KolomGegevens& kolom = opbouw->lening.VrijeKolommen.emplace_back();
+    rij.Lees(kolom.Sleutel);
+    BezoekKolom(kolom, [&](const char*, auto& waarde) { rij.Lees(waarde); });
+  });
+}
+
+/// Gives the columns their periods, and answers the highest key.
+Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
   Sleutel hoogste = 0;
   QStringList namen = {QStringLiteral("kolom"), QStringLiteral("sleutel")};
   const PeriodeGegevens voorbeeld;
@@ -99,7 +126,11 @@ Sleutel LeesPerioden(Database& database, std::vector<Kolomrij>& kolommen) {
   const QString sql = QStringLiteral("SELECT %1 FROM periode ORDER BY sleutel").arg(namen.join(QStringLiteral(", ")));
   VoorElkeRij(database, sql, [&](Rij& rij) {
     if (perioden.empty()) {
-      for (Kolomrij& kolom : kolommen) perioden.emplace(kolom.gegevens.Sleutel, &kolom.gegevens.Bedrag.Perioden);
+      for (Opbouw& opbouw : leningen) {
+        for (KolomGegevens& kolom : opbouw.lening.VrijeKolommen) {
+          perioden.emplace(kolom.Sleutel, &kolom.Bedrag.Perioden);
+        }
+      }
     }
     Sleutel kolom = 0;
     rij.Lees(kolom);
@@ -113,36 +144,34 @@ Sleutel LeesPerioden(Database& database, std::vector<Kolomrij>& kolommen) {
   return hoogste;
 }
 
-/// The loans in order of their number, 0 first and none left out, each with its columns in their order.
-void LeesLeningen(Database& database, GelezenDossier& gelezen) {
-  std::vector<LeningGegevens> leningen;
-  VoorElkeRij(database, QStringLiteral("SELECT nummer, sleutel, CAST(naam AS BLOB) FROM lening ORDER BY nummer"),
-              [&](Rij& rij) {
-                std::int16_t nummer = 0;
-                rij.Lees(nummer);
-                if (static_cast<std::size_t>(nummer) != leningen.size()) Beschadigd();
-                LeningGegevens& lening = leningen.emplace_back();
-                rij.Lees(lening.Sleutel);
-                rij.Lees(lening.Naam);
-                gelezen.hoogste = std::max(gelezen.hoogste, lening.Sleutel);
-              });
-  if (leningen.empty()) Beschadigd();
+/// Puts a loan's columns in their order, which is that of their keys unless one was moved.
+void Orden(Opbouw& opbouw) {
+  if (std::is_sorted(opbouw.volgorde.begin(), opbouw.volgorde.end())) return;
+  std::vector<std::size_t> plaatsen(opbouw.volgorde.size());
+  std::iota(plaatsen.begin(), plaatsen.end(), std::size_t{0});
+  std::stable_sort(plaatsen.begin(), plaatsen.end(),
+                   [&](std::size_t a, std::size_t b) { return opbouw.volgorde[a] < opbouw.volgorde[b]; });
+  std::vector<KolomGegevens> geordend;
+  geordend.reserve(plaatsen.size());
+  for (const std::size_t plaats : plaatsen) geordend.push_back(std::move(opbouw.lening.VrijeKolommen[plaats]));
+  opbouw.lening.VrijeKolommen = std::move(geordend);
+}
 
-  std::vector<Kolomrij> kolommen = LeesKolommen(database);
-  gelezen.hoogste = std::max(gelezen.hoogste, LeesPerioden(database, kolommen));
-  const auto eerder = [](const Kolomrij& a, const Kolomrij& b) { return a.volgorde < b.volgorde; };
-  if (!std::is_sorted(kolommen.begin(), kolommen.end(), eerder)) {
-    std::stable_sort(kolommen.begin(), kolommen.end(), eerder);
+void LeesInhoud(Database& database, GelezenDossier& gelezen) {
+  std::vector<Opbouw> leningen = LeesLeningen(database);
+  LeesKolommen(database, leningen);
+  gelezen.hoogste = LeesPerioden(database, leningen);
+  for (Opbouw& opbouw : leningen) {
+    gelezen.hoogste = std::max(gelezen.hoogste, opbouw.lening.Sleutel);
+    for (const std::int64_t plaats : opbouw.volgorde) gelezen.hoogste = std::max(gelezen.hoogste, plaats);
+    for (const KolomGegevens& kolom : opbouw.lening.VrijeKolommen) {
+      gelezen.hoogste = std::max(gelezen.hoogste, kolom.Sleutel);
+    }
+    Orden(opbouw);
+    gelezen.gegevens.Leningen.push_back(std::move(opbouw.lening));
   }
-  for (Kolomrij& kolom : kolommen) {
-    gelezen.hoogste = std::max({gelezen.hoogste, kolom.gegevens.Sleutel, kolom.volgorde});
-    const auto lening = std::find_if(leningen.begin(), leningen.end(),
-                                     [&](const LeningGegevens& kandidaat) { return kandidaat.Sleutel == kolom.lening; });
-    if (lening == leningen.end()) Beschadigd();
-    lening->VrijeKolommen.push_back(std::move(kolom.gegevens));
-  }
-  gelezen.gegevens.HuidigeLening = std::move(leningen.front());
-  gelezen.gegevens.Leningen.assign(std::make_move_iterator(leningen.begin() + 1), std::make_move_iterator(leningen.end()));
+  gelezen.gegevens.HuidigeLening = std::move(gelezen.gegevens.Leningen.front());
+  gelezen.gegevens.Leningen.erase(gelezen.gegevens.Leningen.begin());
 }
 
 }  // namespace
@@ -171,7 +200,7 @@ GelezenDossier LeesDossier(Database& database) {
                 rij.Lees(code.code);
                 rij.Lees(code.tekst);
               });
-  LeesLeningen(database, gelezen);
+  LeesInhoud(database, gelezen);
   VoorElkeRij(database, QStringLiteral("SELECT voorstel, vrij_id FROM voorstel"), [&](Rij& rij) {
     std::int16_t voorstel = 0;
     std::int16_t Vrij_Id = 0;

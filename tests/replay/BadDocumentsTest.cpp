@@ -19,7 +19,9 @@ struct BadDocument {
   std::string line;
 };
 
-void PrintTo(const BadDocument& bad, std::ostream* out) { *out << bad.name; }
+void PrintTo(const BadDocument& bad, std::ostream* out) {
+  *out << bad.name;
+}
 
 std::string WithDossier(std::string document) {
   const std::string placeholder = "$DOSSIER";

@@ -42,8 +42,7 @@ TEST(Golden, EveryTranscriptHasItsDocument) {
   const std::vector<std::string> documents = GoldenNames();
   for (const auto& entry : std::filesystem::directory_iterator(REPLAY_GOLDEN))
     if (entry.path().extension() == ".jsonl") {
-      EXPECT_TRUE(std::binary_search(documents.begin(), documents.end(), entry.path().stem().string()))
-          << entry.path();
+      EXPECT_TRUE(std::binary_search(documents.begin(), documents.end(), entry.path().stem().string())) << entry.path();
     }
 }
 

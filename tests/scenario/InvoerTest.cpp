@@ -279,6 +279,19 @@ TEST_F(Opname, AtTheMaximumOrWithoutOneItPasses) {
   EXPECT_TRUE(berichten.empty());
 }
 
+TEST_F(Opname, WithoutAMaximumNoAmountIsRead) {
+  OpenKrediet(0, {10000, 0});
+  Typ("txtBedrag", 2, std::string("?"));
+  berichten.clear();
+  EXPECT_FALSE(Geweigerd(1));
+  EXPECT_TRUE(berichten.empty());
+}
+
+TEST_F(Opname, AnyAmountIsPastANegativeMaximum) {
+  OpenKrediet(-1, {0});
+  EXPECT_TRUE(Geweigerd(1));
+}
+
 TEST_F(Opname, TheCompleteCheckLetsPendingEventsRunFirst) {
   OpenKrediet(100, {50, 50});
   int gelopen = 0;

@@ -174,6 +174,19 @@ TEST_F(LadenEnBewaren, AFirstRowWithoutDiscountHasNoEntry) {
                                    "1.Korting = 0.5"}));
 }
 
+TEST_F(LadenEnBewaren, TheEntryOfTheFirstRowHasNoPercentageWhateverTheHostKeepsAsBaseValue) {
+  Open(2, 2, {.korting = true});
+  Zet("txtPercentage", {5, 6});
+  Zet("txtKorting", {0.25, 0.25});
+  scenario->voor = [this](const std::string& naam) {
+    // A host that keeps its base value whole.
+    if (naam == "NieuwePeriode") scenario->basis = 4;
+  };
+  DrukOK();
+  EXPECT_EQ(scenario->Inhoud(), (std::vector<PeriodeWaarden>{{.maand = 1, .korting = 0.25},
+                                                             {.maand = 13, .percentage = 1.75, .korting = 0.25}}));
+}
+
 TEST_F(LadenEnBewaren, TheBaseValueOfPercentagesIsWrittenBeforeTheEntriesAndAfterTheRemovals) {
   Vul({{.maand = 13, .percentage = 1}});
   scenario->basis = 2;

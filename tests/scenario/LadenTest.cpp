@@ -1,11 +1,15 @@
-#include "scenario/Laden.h"
-
 #include <gtest/gtest.h>
+
+#include "scenario/Laden.h"
 
 namespace brivane::scenario {
 
-void PrintTo(const Bedragrij& rij, std::ostream* uit) { *uit << "{" << rij.bedrag << ", " << rij.eenmalig << "}"; }
-void PrintTo(const Renterij& rij, std::ostream* uit) { *uit << "{" << rij.percentage << ", " << rij.korting << "}"; }
+void PrintTo(const Bedragrij& rij, std::ostream* uit) {
+  *uit << "{" << rij.bedrag << ", " << rij.eenmalig << "}";
+}
+void PrintTo(const Renterij& rij, std::ostream* uit) {
+  *uit << "{" << rij.percentage << ", " << rij.korting << "}";
+}
 
 namespace {
 
@@ -35,7 +39,8 @@ TEST(LaadBedragen, EntriesFillInListOrder) {
 }
 
 TEST(LaadBedragen, PassesOverMonthsOutsideTheGrid) {
-  EXPECT_EQ(Laad(2, 1, {{0, 9, true}, {-5, 9, true}, {25, 9, true}, {24, 2, false}}), (Bedragen{{1, false}, {2, false}}));
+  EXPECT_EQ(Laad(2, 1, {{0, 9, true}, {-5, 9, true}, {25, 9, true}, {24, 2, false}}),
+            (Bedragen{{1, false}, {2, false}}));
 }
 
 TEST(LaadBedragen, OfABridgingLoanFillOneRowEach) {
@@ -53,8 +58,7 @@ TEST(LaadPercentages, WithoutEntriesEveryRowHasTheBaseValueAndNoDiscount) {
 
 TEST(LaadPercentages, AnEntrySetsItsRowAndTheLaterOnes) {
   const std::vector<RelatievePost> posten{{13, 1, 0.5}, {37, -2, 0}};
-  EXPECT_EQ(LaadPercentages(5, Kortingkolom::Met, 4, posten),
-            (Renten{{4, 0}, {5.5, 0.5}, {5.5, 0.5}, {2, 0}, {2, 0}}));
+  EXPECT_EQ(LaadPercentages(5, Kortingkolom::Met, 4, posten), (Renten{{4, 0}, {5.5, 0.5}, {5.5, 0.5}, {2, 0}, {2, 0}}));
   // Without the column the rows show what counts.
   EXPECT_EQ(LaadPercentages(5, Kortingkolom::Zonder, 4, posten), (Renten{{4, 0}, {5, 0}, {5, 0}, {2, 0}, {2, 0}}));
 }
@@ -72,15 +76,24 @@ TEST(LaadPercentages, UndoesTheRoundingOfStoring) {
             (Renten{{4.1, 0}, {3.7, 0}}));
 }
 
+TEST(LaadPercentages, UndoesTheRoundingOfStoringBesideADiscount) {
+  // 3.7 less 0.2 over a base of 4.1 is stored as -0.6 in single precision, -0.6000000238418579.
+  const double opgeslagen = static_cast<double>(static_cast<float>(3.7 - 0.2 - 4.1));
+  EXPECT_NE(4.1 + opgeslagen + 0.2, 3.7);
+  EXPECT_EQ(LaadPercentages(2, Kortingkolom::Met, 4.1, std::vector<RelatievePost>{{13, opgeslagen, 0.2}}),
+            (Renten{{4.1, 0}, {3.7, 0.2}}));
+}
+
 TEST(LaadPercentages, LeavesWhatWasNotEnteredWithFourDecimals) {
-  // Far from the base value single precision no longer tells four decimals apart: 1/3 stays.
+  // 0.3333 over the base value is another number than a third.
   const double derde = static_cast<double>(1.0F / 3.0F);
   EXPECT_EQ(LaadPercentages(2, Kortingkolom::Zonder, 1, std::vector<RelatievePost>{{13, derde, 0}}),
             (Renten{{1, 0}, {1 + derde, 0}}));
 }
 
 TEST(LaadPercentages, PassesOverMonthsOutsideTheGrid) {
-  EXPECT_EQ(LaadPercentages(1, Kortingkolom::Zonder, 4, std::vector<RelatievePost>{{0, 1, 0}, {13, 1, 0}}), (Renten{{4, 0}}));
+  EXPECT_EQ(LaadPercentages(1, Kortingkolom::Zonder, 4, std::vector<RelatievePost>{{0, 1, 0}, {13, 1, 0}}),
+            (Renten{{4, 0}}));
 }
 
 TEST(LaadGroei, CarriesEachPercentageDown) {

@@ -1,9 +1,8 @@
-#include "scenario/Opslag.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "scenario/Opslag.h"
 #include "tests/scenario/Rijentabel.h"
 
 namespace brivane::scenario {
@@ -14,7 +13,9 @@ void PrintTo(const Bedragpost& post, std::ostream* uit) {
 void PrintTo(const Rentepost& post, std::ostream* uit) {
   *uit << "{" << post.maand << ", " << post.netto << ", " << post.korting << "}";
 }
-void PrintTo(const Groeipost& post, std::ostream* uit) { *uit << "{" << post.maand << ", " << post.percentage << "}"; }
+void PrintTo(const Groeipost& post, std::ostream* uit) {
+  *uit << "{" << post.maand << ", " << post.percentage << "}";
+}
 
 namespace {
 
@@ -85,14 +86,14 @@ TEST(BewaarBedragen, HandsOutEachEntryBeforeTheNextRowIsRead) {
   const Rijentabel rijen{.bedragen = {1, 2, 3}, .ticks = {false, false, false}, .kapotBedrag = 3};
   Maandbasis basis = Maandbasis::Jaar;
   Bedragen posten;
-  EXPECT_THROW(BewaarBedragen(rijen, Overbrugging::Nee, 1, basis, [&](const Bedragpost& post) { posten.push_back(post); }),
-               host::Error);
+  EXPECT_THROW(
+      BewaarBedragen(rijen, Overbrugging::Nee, 1, basis, [&](const Bedragpost& post) { posten.push_back(post); }),
+      host::Error);
   EXPECT_EQ(posten, (Bedragen{{13, 2, false}}));
 }
 
 TEST(BewaarPercentages, WithoutDiscountTakesTheRowsThatDifferFromTheRowAbove) {
-  EXPECT_EQ(Bewaard({.percentages = {4, 4, 5, 5, 4}}, Kortingkolom::Zonder),
-            (Percentages{{25, 5, 0}, {49, 4, 0}}));
+  EXPECT_EQ(Bewaard({.percentages = {4, 4, 5, 5, 4}}, Kortingkolom::Zonder), (Percentages{{25, 5, 0}, {49, 4, 0}}));
   EXPECT_EQ(Bewaard({.percentages = {4}}, Kortingkolom::Zonder), Percentages{});
 }
 

@@ -52,10 +52,6 @@ TEST_F(ToelichtingBindingTest, EnablesTheTransitionWithTheDeathToggleAlone) {
   kolom_.velden.EinddatumOvergang = D(2040, 1, 1);
   kolom_.velden.EindleeftijdOvergang = 65;
   Bind();
-  EXPECT_TRUE(on_[TxtPcOvergang].Enabled());
-  EXPECT_TRUE(on_[txtEinddatum].Enabled());
-  EXPECT_TRUE(on_[lblSlash].Enabled());
-  EXPECT_TRUE(on_[TxtEindjaar].Enabled());
   EXPECT_EQ(on_[TxtPcOvergang].Number(), 12.5);
   EXPECT_EQ(on_[txtEinddatum].DateValue(), D(2040, 1, 1));
   EXPECT_EQ(on_[TxtEindjaar].Number(), 65);
@@ -67,6 +63,16 @@ TEST_F(ToelichtingBindingTest, EnablesTheTransitionWithTheDeathToggleAlone) {
   EXPECT_FALSE(on_[lblSlash].Enabled());
   EXPECT_FALSE(on_[TxtEindjaar].Enabled());
   EXPECT_EQ(on_[TxtPcOvergang].Number(), 12.5) << "disabled, but what is stored still shows";
+  kolom_.velden.ScenarioOverlijden = true;
+  Bind();
+  EXPECT_TRUE(on_[TxtPcOvergang].Enabled());
+  EXPECT_TRUE(on_[txtEinddatum].Enabled());
+  EXPECT_TRUE(on_[lblSlash].Enabled());
+  EXPECT_TRUE(on_[TxtEindjaar].Enabled());
+}
+
+TEST_F(ToelichtingBindingTest, NeverDisablesTheCaptionsOfTheTransition) {
+  Bind();
   for (const char* caption : {"LblEinddatum", "LblEindjaar"})
     EXPECT_TRUE(headless::Surface::Of(*surface_).Find(caption)->Host().Enabled()) << caption;
   for (const int index : {1, 2})

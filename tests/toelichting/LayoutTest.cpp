@@ -18,7 +18,9 @@ class ToelichtingLayoutTest : public ToelichtingTest {
   }
   /// The size that the expectations count with, whatever the design gives the content frame.
   void SizeContent() {
-    on_[fraContent].Move({{135}, {2115}, {5760}, {1890}});
+    on_[lstToelichting].Move({{1}, {2}, {3}, {4}});
+    on_[fraScenarios].Move({{1}, {2}, {3}, {4}});
+    on_[fraContent].Move({{1}, {2}, {5760}, {1890}});
     on_[jnAO].Move({{2040}, {480}, {900}, {315}});
   }
   void Size(float width, float height) {

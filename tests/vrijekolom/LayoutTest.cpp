@@ -20,8 +20,9 @@ class EditorLayoutTest : public EditorTest {
   }
   /// The sizes that the expectations count with, whatever the design gives the frames.
   void SizeFrames() {
+    for (const auto& kader : {fraFiscaal, fraAlgemeen, fraGegevens, fraHeffing}) on_[kader].Move({{1}, {2}, {3}, {4}});
     on_[fraLast].Move({{0}, {0}, {6300}, {660}});
-    on_[fraProduct].Move({{6420}, {0}, {6030}, {2790}});
+    on_[fraProduct].Move({{1}, {2}, {6030}, {2790}});
     for (const auto& [kader, hoogte] : {std::pair{fraFiscaal, 660}, std::pair{fraGegevens, 2220},
                                         std::pair{fraHeffing, 660}})
       on_[kader].Write(host::Measure::Height, static_cast<float>(hoogte));
@@ -40,6 +41,9 @@ TEST_F(EditorLayoutTest, PutsTheRowsOfTheGeneralFrameInPlace) {
     float vervaldatum;
   };
   for (const Case& c : {Case{0, 660, 1020}, Case{44, 660, 660}}) {
+    for (const auto& kader : {fraAanvangsdatum, fraLooptijd, fraVervaldatum, fraBeeindigen})
+      on_[kader].Write(host::Measure::Top, 7);
+    on_[fraAlgemeen].Write(host::Measure::Height, 7);
     kolom_.velden.Productsoort = c.soort;
     Bind();
     EXPECT_EQ(Top(on_[fraAanvangsdatum]), Twips{300});

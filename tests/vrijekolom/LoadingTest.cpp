@@ -171,6 +171,11 @@ TEST_F(LoadingTest, NamesThePersons) {
   Bind();
   EXPECT_EQ(on_(optAanvrager, 2).Caption(), "");
   EXPECT_FALSE(on_(optAanvrager, 2).Enabled());
+
+  host_.dossier.personen.push_back(host_.dossier.personen[0]);
+  Bind();
+  EXPECT_EQ(on_(optAanvrager, 2).Caption(), "J. van Dam");
+  EXPECT_TRUE(on_(optAanvrager, 2).Enabled());
 }
 
 TEST_F(LoadingTest, ShortensANameToTheWidthOfTheFirstOption) {

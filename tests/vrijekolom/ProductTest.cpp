@@ -33,6 +33,7 @@ class ProductTest : public EditorTest {
 };
 
 TEST_F(ProductTest, FillsNoListsForAColumnThatIsNoProduct) {
+  on_[fraProduct].SetVisible(false);
   Bind();
   EXPECT_THAT(Only(Log(), "call"), IsEmpty());
   EXPECT_EQ(on_[cboMaatschappij].ListCount(), 0);
@@ -43,9 +44,12 @@ TEST_F(ProductTest, FillsNoListsForAColumnThatIsNoProduct) {
 }
 
 TEST_F(ProductTest, ShowsAProductOnLoading) {
+  for (const auto& kader : {fraMij, fraProductsoort, fraProductnaam, fraUwBemiddeling, fraProduct})
+    on_[kader].SetVisible(false);
   BindProduct("CD", 43);
   EXPECT_EQ(on_[chkProduct].Value(), host::kTicked);
   ExpectFrames(true);
+  EXPECT_TRUE(on_[fraProduct].Visible());
   EXPECT_EQ(on_[cboMaatschappij].Text(), "Centrale Dekking");
   EXPECT_EQ(on_[txtMaatschappij].Text(), "naam") << "shown though it is disabled";
   EXPECT_FALSE(on_[txtMaatschappij].Enabled());
@@ -251,6 +255,7 @@ TEST_F(ProductTest, ReportsAListWithoutASelectionBeforeItTraces) {
 
 TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
   BindUnheard();
+  on_[txtMaatschappij].SetText("van een andere kolom");
   host_.journal.Fail("VulCombo", Op::Call);
   Act(on_[chkProduct], headless::Tick{host::kTicked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true",
@@ -258,6 +263,7 @@ TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
                                  "report VrijeKolom 1004", "enter Fill_cboProductsoort", "set Productsoort=99",
                                  "leave", "leave", "leave"));
   EXPECT_EQ(on_[txtMaatschappij].Text(), "");
+  EXPECT_FALSE(on_[txtMaatschappij].Enabled());
   EXPECT_FALSE(editor_->Filling());
 }
 

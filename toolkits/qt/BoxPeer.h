@@ -1,15 +1,12 @@
 #pragma once
 
-#include <memory>
-
 #include "toolkits/headless/TextBox.h"
-#include "toolkits/qt/EntryBox.h"
+#include "toolkits/qt/BoxLink.h"
 #include "toolkits/qt/Peers.h"
 
 namespace brivane::qt {
 
-/// Shows a text box: formats its content, and reads what is typed. Typing that is not of the format is
-/// refused here and never reaches the control.
+/// Shows a text box by a line edit of its own.
 class BoxPeer final : public WidgetPeer {
  public:
   BoxPeer(headless::TextBox& box, qt::Toolkit& toolkit, QWidget* container);
@@ -18,12 +15,9 @@ class BoxPeer final : public WidgetPeer {
 
  private:
   [[nodiscard]] EntryBox& Entry() const { return static_cast<EntryBox&>(*Widget()); }
-  void ShowContent();
-  [[nodiscard]] EntryBox::Verdict Commit(const QString& typed);
-  void PutBack();
 
   headless::TextBox& box_;
-  headless::BoxValue standing_;  ///< content before the edit that is going on
+  BoxLink link_;
 };
 
 }  // namespace brivane::qt

@@ -25,7 +25,7 @@ void EntryBox::ShowText(const QString& text) {
 }
 
 bool EntryBox::HasPendingEdit() const {
-  return refused_ || (edited_ && text() != shown_);
+  return refused_ || edited_;
 }
 
 bool EntryBox::CommitPending() {
@@ -46,11 +46,13 @@ bool EntryBox::CommitPending() {
   setFocus(Qt::OtherFocusReason);
   selectAll();
   TakeReasonAway();
-  if (!verdict.reason.isEmpty()) {
-    Bubble::Show(*this, verdict.reason);
-    reasonShown_ = true;
-  }
+  if (!verdict.reason.isEmpty()) ShowReason(verdict.reason);
   return false;
+}
+
+void EntryBox::ShowReason(const QString& reason) {
+  Bubble::Show(*this, reason);
+  reasonShown_ = true;
 }
 
 void EntryBox::TakeReasonAway() {
@@ -75,6 +77,11 @@ EntryBox* EntryBox::PendingWithin(const QWidget& area) {
 
 void EntryBox::TypeText(const QString& text) {
   setText(text);
+  OnTextEdited();
+}
+
+void EntryBox::InsertTyped(const QString& text) {
+  insert(text);
   OnTextEdited();
 }
 
@@ -143,8 +150,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
   }
   if (keypadPoint_ == KeypadPoint::Comma && event->modifiers().testFlag(Qt::KeypadModifier) &&
       (event->text() == "." || event->text() == ",")) {
-    insert(",");
-    OnTextEdited();
+    InsertTyped(",");
     event->accept();
     return;
   }

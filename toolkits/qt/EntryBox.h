@@ -44,6 +44,9 @@ class EntryBox : public QLineEdit {
   /// Puts back what stood there before the edit; false where nothing was edited.
   bool Restore();
 
+  /// Shows a reason beside the box until the next keystroke.
+  void ShowReason(const QString& reason);
+
   /// The box being edited within a widget, or nothing.
   [[nodiscard]] static EntryBox* PendingWithin(const QWidget& area);
 
@@ -55,6 +58,8 @@ class EntryBox : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
   /// Makes a text the pending edit, as if typed.
   void TypeText(const QString& text);
+  /// Inserts a text where the cursor stands, as if typed.
+  void InsertTyped(const QString& text);
 
  private:
   void OnTextEdited();

@@ -4,8 +4,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace brivane::qt {
 namespace {
@@ -84,7 +82,9 @@ QRect JaNeeToggle::Half(Answer answer) const {
 void JaNeeToggle::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QPalette& colors = palette();
-  const QRect outer = rect().adjusted(0, 0, -1, -1);
+  const bool focused = hasFocus();
+  const int border = focused ? 2 : 1;
+  painter.fillRect(rect(), colors.color(focused ? QPalette::Highlight : QPalette::Mid));
   for (const Answer answer : {Answer::Ja, Answer::Nee}) {
     const bool chosen = answer == answer_;
     // A disabled toggle still tells its answer: its grey text turned inside out.
@@ -92,23 +92,14 @@ void JaNeeToggle::paintEvent(QPaintEvent*) {
     const QPalette::ColorRole text = !chosen       ? QPalette::Text
                                      : isEnabled() ? QPalette::HighlightedText
                                                    : QPalette::Base;
-    const QRect half = Half(answer);
-    painter.fillRect(half, isEnabled() || chosen ? colors.brush(back) : colors.brush(QPalette::Window));
+    const QRect half = Half(answer) & rect().adjusted(border, border, -border, -border);
+    painter.fillRect(half, colors.color(back));
     painter.setPen(colors.color(text));
-    painter.drawText(half, Qt::AlignCenter, answer == Answer::Ja ? "Ja" : "Nee");
+    painter.drawText(Half(answer), Qt::AlignCenter, answer == Answer::Ja ? "Ja" : "Nee");
+    if (!chosen || !focused) continue;
+    painter.setPen(QPen(colors.color(text), 1, Qt::DotLine));
+    painter.drawRect(half.adjusted(1, 1, -2, -2));
   }
-  const bool focused = hasFocus();
-  painter.setPen(focused ? colors.color(QPalette::Highlight) : colors.color(QPalette::Mid));
-  painter.drawRect(outer);
-  if (!focused) return;
-  painter.drawRect(outer.adjusted(1, 1, -1, -1));
-  QStyleOptionFocusRect option;
-  option.initFrom(this);
-  option.rect = Half(answer_).adjusted(3, 3, -3, -3);
-  option.state |= QStyle::State_KeyboardFocusChange;
-  option.backgroundColor = colors.color(QPalette::Highlight);
-  painter.setPen(QPen(colors.color(QPalette::HighlightedText), 1, Qt::DotLine));
-  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
 }
 
 void JaNeeToggle::mousePressEvent(QMouseEvent* event) {

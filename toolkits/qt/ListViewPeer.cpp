@@ -38,7 +38,7 @@ ListViewPeer::ListViewPeer(headless::ListView& list, qt::Toolkit& toolkit, QWidg
   tree.setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree.setTabKeyNavigation(false);
   tree.header()->setSectionsMovable(false);
-  tree.header()->setStretchLastSection(true);
+  tree.header()->setStretchLastSection(false);
   tree.header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   tree.header()->setSectionsClickable(false);
   ShowColumns();

@@ -10,17 +10,25 @@
 
 namespace brivane::qt {
 
+/// A peer with an area that other controls can stand in.
+class AreaHolder {
+ public:
+  virtual ~AreaHolder() = default;
+  [[nodiscard]] virtual QWidget* Area() const = 0;
+};
+
 /// Shows a control by a widget of its own. The widget dies with the control, or before it with its parent.
-class WidgetPeer : public headless::Peer {
+class WidgetPeer : public headless::Peer, public AreaHolder {
  public:
   ~WidgetPeer() override;
 
   void Refresh(headless::Aspect aspect) override;
   void TakeFocus() override;
   [[nodiscard]] QWidget* Widget() const { return widget_; }
+  [[nodiscard]] QWidget* Area() const override { return widget_; }
   [[nodiscard]] headless::AnyControl& Control() const { return control_; }
   [[nodiscard]] qt::Toolkit& Toolkit() const { return toolkit_; }
-  /// Shows everything anew, after the scale changed.
+  /// Shows place and font anew, after the scale changed.
   virtual void Rescale();
 
  protected:

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "toolkits/qt/PlainPeers.h"
+#include "toolkits/qt/RowCanvas.h"
 
 namespace brivane::qt {
 namespace {
@@ -27,20 +28,32 @@ void LeadLabels(const headless::Surface& surface) {
 QWidget* ChainTabOrder(const headless::Surface& surface, QWidget* previous) {
   std::vector<const headless::AnyControl*> stops;
   for (const auto& control : surface.Made())
-    if (control->Row().tab > 0 && control->Index() != frame::kTemplateIndex) stops.push_back(control.get());
+    if (control->Row().tab > 0 && control->Index() == control->Row().index) stops.push_back(control.get());
   std::sort(stops.begin(), stops.end(), [](const auto* a, const auto* b) { return a->Row().tab < b->Row().tab; });
   for (const headless::AnyControl* stop : stops) {
     if (stop->ControlKind() == host::Kind::Surface) {
       previous = ChainTabOrder(static_cast<const headless::Surface&>(*stop), previous);
       continue;
     }
-    QWidget* const widget = WidgetOf(*stop);
-    if (widget == nullptr) continue;
+    const bool rows = stop->Index() == frame::kTemplateIndex;
+    QWidget* const widget = rows ? RowCanvas::Of(*ContainerWidget(*stop)) : WidgetOf(*stop);
+    if (widget == nullptr || widget == previous) continue;
     if (previous != nullptr) QWidget::setTabOrder(previous, widget);
     previous = widget;
   }
   LeadLabels(surface);
   return previous;
+}
+
+std::vector<RowCanvas*> Canvases(const headless::Surface& surface) {
+  std::vector<RowCanvas*> canvases;
+  for (const auto& control : surface.Made()) {
+    if (control->Index() != frame::kTemplateIndex) continue;
+    RowCanvas* const canvas = RowCanvas::Of(*ContainerWidget(*control));
+    if (canvas != nullptr && std::find(canvases.begin(), canvases.end(), canvas) == canvases.end())
+      canvases.push_back(canvas);
+  }
+  return canvases;
 }
 
 SurfaceWidget::SurfaceWidget(headless::Surface& surface, Toolkit& toolkit, QWidget* parent)

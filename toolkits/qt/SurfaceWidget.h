@@ -2,11 +2,14 @@
 
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "toolkits/headless/Surface.h"
 #include "toolkits/qt/Peers.h"
 
 namespace brivane::qt {
+
+class RowCanvas;
 
 /// The area of a surface: gives what stands on it its font and its tab order.
 class SurfaceWidget : public QWidget {
@@ -43,5 +46,8 @@ class SurfacePeer final : public WidgetPeer {
 /// Puts what takes the focus in the tab order of the design, an embedded surface in its own place, and
 /// lets the mnemonics of labels lead to their boxes. Answers the last widget of the chain.
 QWidget* ChainTabOrder(const headless::Surface& surface, QWidget* previous);
+
+/// The canvases that paint the rows of a form.
+[[nodiscard]] std::vector<RowCanvas*> Canvases(const headless::Surface& surface);
 
 }  // namespace brivane::qt

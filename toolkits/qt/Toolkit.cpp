@@ -3,7 +3,9 @@
 #include <QFontMetricsF>
 
 #include "host/Error.h"
+#include "toolkits/qt/CellPeer.h"
 #include "toolkits/qt/EntryBox.h"
+#include "toolkits/qt/FormWindow.h"
 #include "toolkits/qt/Peers.h"
 #include "toolkits/qt/Text.h"
 
@@ -51,11 +53,17 @@ host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view t
 }
 
 QWidget& Toolkit::WidgetOf(host::Surface& surface) {
-  return *static_cast<WidgetPeer&>(*headless::Surface::Of(surface).GetPeer()).Widget();
+  return *dynamic_cast<AreaHolder&>(*headless::Surface::Of(surface).GetPeer()).Area();
 }
 
 std::unique_ptr<headless::Peer> Toolkit::MakePeer(headless::AnyControl& control) {
+  // The many rows of a form are painted by what they stand on.
+  if (control.Row().index == frame::kTemplateIndex) return std::make_unique<CellPeer>(control, *this);
   return MakeWidgetPeer(control, *this);
+}
+
+std::unique_ptr<headless::FormPeer> Toolkit::MakeFormPeer(headless::Form& form) {
+  return std::make_unique<FormWindow>(form, *this);
 }
 
 }  // namespace brivane::qt

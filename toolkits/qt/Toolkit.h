@@ -36,13 +36,13 @@ class Toolkit : public headless::ToolkitBase {
   bool FollowApplicationFont();
 
   [[nodiscard]] host::Twips MeasureText(const frame::Design& design, std::string_view text, bool bold) const override;
-  [[nodiscard]] headless::WindowFrame WindowFrame() const override { return {}; }
 
   /// The widget of a surface that this toolkit made. Without a parent it is a hidden window.
   [[nodiscard]] static QWidget& WidgetOf(host::Surface& surface);
 
  protected:
   [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
+  [[nodiscard]] std::unique_ptr<headless::FormPeer> MakeFormPeer(headless::Form& form) override;
 
  private:
   qt::Desktop desktop_;

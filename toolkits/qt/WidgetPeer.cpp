@@ -7,7 +7,7 @@ using headless::Aspect;
 
 QWidget* ContainerWidget(const headless::AnyControl& control) {
   const headless::AnyControl* const container = control.Container();
-  return container != nullptr ? static_cast<WidgetPeer&>(*container->GetPeer()).Widget() : nullptr;
+  return container != nullptr ? dynamic_cast<const AreaHolder&>(*container->GetPeer()).Area() : nullptr;
 }
 
 WidgetPeer::WidgetPeer(headless::AnyControl& control, qt::Toolkit& toolkit, QWidget* widget)
@@ -59,6 +59,9 @@ void WidgetPeer::ShowFont() {
 }
 
 void WidgetPeer::ShowBackColor() {
+  const host::Kind kind = control_.ControlKind();
+  // What has a face of its own keeps it: the style draws it.
+  if (kind == host::Kind::Button || kind == host::Kind::JaNee) return;
   const std::optional<host::Color> asked = control_.Host().BackColor();
   const std::optional<QColor> color = asked ? ToQt(*asked) : std::nullopt;
   if (!color) {
@@ -66,13 +69,15 @@ void WidgetPeer::ShowBackColor() {
     widget_->setAutoFillBackground(false);
     return;
   }
+  const bool box = kind == host::Kind::TextBox || kind == host::Kind::ListBox || kind == host::Kind::ListView;
   QPalette palette;
-  const bool box = widget_->backgroundRole() == QPalette::Base;
   palette.setColor(box ? QPalette::Base : QPalette::Window, *color);
   for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(group, box ? QPalette::Text : QPalette::WindowText, TextOn(*color));
   widget_->setPalette(palette);
-  widget_->setAutoFillBackground(!box);
+  if (box) return;
+  widget_->setBackgroundRole(QPalette::Window);
+  widget_->setAutoFillBackground(true);
 }
 
 }  // namespace brivane::qt

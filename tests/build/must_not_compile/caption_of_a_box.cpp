@@ -1,0 +1,25 @@
+// error: has no member named 'SetCaption'
+
+#include "frame/Handle.h"
+
+using namespace brivane;
+using frame::Kind;
+
+constexpr frame::Row kRijen[] = {
+    {.name = "lblOm", .kind = Kind::Label, .place = {0, 0, 1500, 300}},
+    {.name = "TxtOm", .kind = Kind::TextBox, .place = {1500, 0, 3000, 300}, .tab = 1, .label = "Omschrijving",
+     .format = frame::Format::Text},
+    {.name = "jnAO", .kind = Kind::JaNee, .place = {0, 300, 1500, 300}, .tab = 2, .label = "AO"},
+};
+constexpr frame::Design kOntwerp{.name = "Proef", .rows = kRijen, .width = 6000, .height = 900};
+static_assert(frame::Check(kOntwerp) == frame::Fault::None);
+
+constexpr auto TxtOm = frame::Find<Kind::TextBox>(kOntwerp, "TxtOm");
+
+void Vul(const frame::Controls& controls) {
+#ifdef FAULT
+  controls[TxtOm].SetCaption("tekst");
+#else
+  controls[TxtOm].SetEnabled(true);
+#endif
+}

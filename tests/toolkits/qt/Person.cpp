@@ -1,0 +1,113 @@
+#include "tests/toolkits/qt/Person.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <QWindow>
+
+#include "toolkits/headless/Choices.h"
+#include "toolkits/headless/Surface.h"
+#include "toolkits/headless/TextBox.h"
+#include "toolkits/qt/CellPeer.h"
+#include "toolkits/qt/Edge.h"
+#include "toolkits/qt/FormWindow.h"
+#include "toolkits/qt/Peers.h"
+#include "toolkits/qt/RowCanvas.h"
+
+namespace brivane::test {
+
+void ShowActive(QWidget& widget) {
+  widget.show();
+  widget.activateWindow();
+  if (!QTest::qWaitForWindowActive(&widget)) qFatal("the window did not become active");
+}
+
+void Click(QWidget& widget, QPoint at) {
+  QWidget* const window = widget.window();
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(window, at));
+}
+
+void Click(QWidget& widget) {
+  Click(widget, widget.rect().center());
+}
+
+void Press(int key, Qt::KeyboardModifiers modifiers) {
+  QWindow* const window = QGuiApplication::focusWindow();
+  if (window == nullptr) qFatal("no window has the focus");
+  QTest::keyClick(window, static_cast<Qt::Key>(key), modifiers);
+}
+
+void Type(const QString& text) {
+  for (const QChar character : text) QTest::keyClick(QGuiApplication::focusWindow(), character.toLatin1());
+}
+
+void TypeOver(const QString& text) {
+  Press(Qt::Key_A, Qt::ControlModifier);
+  if (text.isEmpty())
+    Press(Qt::Key_Delete);
+  else
+    Type(text);
+}
+
+QWidget* WidgetFor(headless::AnyControl& control) {
+  if (const auto* cell = dynamic_cast<const qt::CellPeer*>(control.GetPeer()))
+    return qt::RowCanvas::Of(*qt::ContainerWidget(cell->Control()));
+  return dynamic_cast<qt::AreaHolder&>(*control.GetPeer()).Area();
+}
+
+QRect PlaceOn(headless::AnyControl& control) {
+  if (const auto* cell = dynamic_cast<const qt::CellPeer*>(control.GetPeer())) return cell->Place();
+  return WidgetFor(control)->rect();
+}
+
+namespace {
+
+class Doer {
+ public:
+  explicit Doer(headless::AnyControl& control)
+      : control_(control), widget_(*WidgetFor(control)), place_(PlaceOn(control)) {}
+
+  void operator()(const headless::Press&) const { Click(widget_, place_.center()); }
+  void operator()(const headless::Select&) const { Click(widget_, LeftEnd()); }
+  void operator()(const headless::Tick& tick) const {
+    if (static_cast<const headless::CheckBox&>(control_).Value() != tick.value) Click(widget_, LeftEnd());
+  }
+  void operator()(const headless::Toggle& toggle) const {
+    const int quarter = place_.width() / 4;
+    Click(widget_, QPoint(toggle.value == host::kJa ? quarter : 3 * quarter, place_.center().y()));
+  }
+  void operator()(const headless::Choose& choose) const {
+    Click(widget_, place_.center());
+    if (QApplication::activePopupWidget() == nullptr) return;
+    Press(Qt::Key_Home);
+    for (int i = 0; i < choose.index; ++i) Press(Qt::Key_Down);
+    Press(Qt::Key_Return);
+  }
+  void operator()(const headless::Enter& enter) const {
+    Click(widget_, place_.center());
+    if (QApplication::focusWidget() == nullptr || !Focused()) return;
+    const auto format = static_cast<const headless::TextBox&>(control_).Format();
+    TypeOver(qt::ShownContent(enter.value, format));
+    Press(Qt::Key_Tab);
+  }
+  void operator()(const headless::Close&) const { widget_.window()->close(); }
+
+ private:
+  [[nodiscard]] QPoint LeftEnd() const { return {place_.left() + 8, place_.center().y()}; }
+  [[nodiscard]] bool Focused() const {
+    const QWidget* const focus = QApplication::focusWidget();
+    return focus == &widget_ || widget_.isAncestorOf(focus);
+  }
+
+  headless::AnyControl& control_;
+  QWidget& widget_;
+  QRect place_;
+};
+
+}  // namespace
+
+void Do(headless::AnyControl& control, const headless::Action& action) {
+  std::visit(Doer(control), action);
+}
+
+}  // namespace brivane::test
