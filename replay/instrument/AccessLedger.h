@@ -52,7 +52,6 @@ class AccessLedger {
   [[nodiscard]] std::uint32_t& Counter(Member member, Op op);
   void Begin(Member member, Op op);
   void Strike(const host::Error& error);
-  void StrikeIfDue(Member member, Op op);
 
   std::uint64_t accesses_ = 0;
   std::uint32_t struck_ = 0;

@@ -260,6 +260,16 @@ TEST(Faults, AnObjectIsAGetAndACallAlikeAndPrintsNoLine) {
   }
 }
 
+TEST(Faults, OfTwoThatAreDueAtOnceTheFirstInTheDocumentStrikes) {
+  const auto lines =
+      RunSteps(R"("results")", R"({"do": "frmScenario", "Len_Id": 0, "Vrij_Id": 1, "AantalJaar": 2})",
+               R"({"Bedrag": {"Perioden": [{"Maand": 25}]}})",
+               R"(, "faults": [{"member": "Scenario.Periode", "op": "call", "nth": 2, "number": 8},
+                               {"member": "Scenario.Periode", "op": "get", "nth": 2, "number": 7}])")
+          .lines;
+  EXPECT_EQ(lines.back(), R"({"failed": {"number": 8, "description": ""}})");
+}
+
 TEST(Faults, AFailedWriteLeavesTheRecord) {
   const Document document = ReadDocument(
       R"({"dossier": {"personen": [{}], "HuidigeLening": {"VrijeKolommen": [{"Omschrijving": "was"}]}},
