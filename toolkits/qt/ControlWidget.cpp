@@ -1,5 +1,7 @@
 #include "toolkits/qt/ControlWidget.h"
 
+#include <QEvent>
+
 #include "toolkits/qt/EntryBox.h"
 #include "toolkits/qt/SurfaceWidget.h"
 
@@ -12,10 +14,24 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
   area.move(0, 0);
   area.show();
   area.sized = [this] { updateGeometry(); };
+  FollowFont();
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 ControlWidget::~ControlWidget() = default;
+
+void ControlWidget::FollowFont() {
+  const qt::Edge edge = Edge::OfFont(font());
+  if (edge == toolkit_.Edge()) return;
+  toolkit_.SetEdge(edge);
+  static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_)).Rescale();
+  updateGeometry();
+}
+
+void ControlWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FollowFont();
+}
 
 void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   toolkit_.Guard([&] {

@@ -13,6 +13,8 @@ namespace brivane::qt {
 /// What the two embeddable controls have in common as widgets: an own toolkit, the surface made from a
 /// design, its size and its background.
 ///
+/// The control keeps the typeface of its design and takes its size from the widget's font, which is the
+/// application's unless the host sets another: at 9 points it is as designed, and it grows with the font.
 /// The size hint is the control's own size. Sizing the widget lays the control out; its height is its own.
 class ControlWidget : public QWidget {
   Q_OBJECT
@@ -51,9 +53,12 @@ class ControlWidget : public QWidget {
   /// Makes the control behind the widget; it may fail, as the host's factories may.
   virtual void MakeControl(const host::HostFactories& factories) = 0;
   virtual void ColorControl(host::Color color) = 0;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void FollowFont();
+
   std::optional<QColor> backColor_;
   qt::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;

@@ -1,6 +1,5 @@
 #include "toolkits/qt/Edge.h"
 
-#include <QApplication>
 #include <QFontInfo>
 #include <cmath>
 #include <limits>
@@ -36,8 +35,8 @@ std::string ShowNumberAs(double number, frame::Format format) {
 
 }  // namespace
 
-Edge Edge::OfApplication() {
-  return Edge(QFontInfo(QApplication::font()).pixelSize() / kDesignFontPixels);
+Edge Edge::OfFont(const QFont& font) {
+  return Edge(QFontInfo(font).pixelSize() / kDesignFontPixels);
 }
 
 int Edge::Pixel(float twips) const {

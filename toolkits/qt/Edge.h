@@ -17,12 +17,12 @@ namespace brivane::qt {
 /// Twips to a pixel that does not depend on the screen: Qt scales those itself.
 inline constexpr float kTwipsPerPixel = 15;
 
-/// Turns twips into pixels and back. A scale other than 1 follows an application font that is larger or
+/// Turns twips into pixels and back. A scale other than 1 follows a font of the host that is larger or
 /// smaller than the font of the design.
 class Edge {
  public:
-  /// The scale that the application's font asks for: 1 where it is as large as a font of 9 points.
-  [[nodiscard]] static Edge OfApplication();
+  /// The scale that a font of the host asks for: 1 where it is as large as the design's font of 9 points.
+  [[nodiscard]] static Edge OfFont(const QFont& font);
   explicit Edge(double scale = 1) : scale_(scale) {}
 
   /// Edges are rounded, so that controls that touch in twips touch in pixels.

@@ -54,7 +54,14 @@ void HelpIcon::paintEvent(QPaintEvent*) {
 void HelpIcon::focusInEvent(QFocusEvent* event) {
   QAbstractButton::focusInEvent(event);
   const Qt::FocusReason reason = event->reason();
-  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) ShowHelp();
+  // A moving focus takes tool tips away, so the help comes after it.
+  if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason)
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (hasFocus()) ShowHelp();
+        },
+        Qt::QueuedConnection);
 }
 
 void HelpIcon::focusOutEvent(QFocusEvent* event) {

@@ -156,6 +156,10 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   lower();
 }
 
+QWidget& RowCanvas::LineEdit() const {
+  return *editor_;
+}
+
 EntryBox* RowCanvas::Editor() const {
   return edited_ != nullptr ? editor_ : nullptr;
 }
@@ -243,6 +247,12 @@ void RowCanvas::FocusSelf(CellPeer& cell) {
   current_ = &cell;
   update(cell.Place().adjusted(-2, -2, 2, 2));
   if (QAccessible::isActive()) TellFocus(*this, cell);
+  if (cell.Control().ControlKind() != Kind::Hint) return;
+  // A moving focus takes tool tips away, so the help comes after it.
+  const auto show = [this, shown = &cell] {
+    if (hasFocus() && current_ == shown) ShowHelp(*shown);
+  };
+  QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
 }
 
 void RowCanvas::StopEditing() {

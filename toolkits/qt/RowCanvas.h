@@ -53,6 +53,8 @@ class RowCanvas : public QWidget {
   [[nodiscard]] CellPeer* Current() const { return current_; }
   /// The line edit, while it stands in a box.
   [[nodiscard]] EntryBox* Editor() const;
+  /// The line edit, also while it stands nowhere: it follows the canvas in the tab order.
+  [[nodiscard]] QWidget& LineEdit() const;
   /// Whether the line edit stands in this cell.
   [[nodiscard]] bool IsEdited(const CellPeer& cell) const { return edited_ == &cell; }
   [[nodiscard]] CellPeer* CellAt(QPoint point) const;

@@ -1,6 +1,5 @@
 #include "toolkits/qt/SurfaceWidget.h"
 
-#include <QEvent>
 #include <algorithm>
 
 #include "toolkits/qt/PlainPeers.h"
@@ -36,10 +35,14 @@ QWidget* ChainTabOrder(const headless::Surface& surface, QWidget* previous) {
       continue;
     }
     const bool rows = stop->Index() == frame::kTemplateIndex;
-    QWidget* const widget = rows ? RowCanvas::Of(*ContainerWidget(*stop)) : WidgetOf(*stop);
-    if (widget == nullptr || widget == previous) continue;
+    RowCanvas* const canvas = rows ? RowCanvas::Of(*ContainerWidget(*stop)) : nullptr;
+    QWidget* const widget = rows ? canvas : WidgetOf(*stop);
+    if (widget == nullptr || (rows && previous == &canvas->LineEdit())) continue;
     if (previous != nullptr) QWidget::setTabOrder(previous, widget);
     previous = widget;
+    if (!rows) continue;
+    QWidget::setTabOrder(canvas, &canvas->LineEdit());
+    previous = &canvas->LineEdit();
   }
   LeadLabels(surface);
   return previous;
@@ -68,13 +71,7 @@ void SurfaceWidget::showEvent(QShowEvent* event) {
   ChainTabOrder(surface_, nullptr);
 }
 
-void SurfaceWidget::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::ApplicationFontChange && surface_.Owner() == nullptr) Rescale();
-}
-
 void SurfaceWidget::Rescale() {
-  toolkit_.FollowApplicationFont();
   const std::function<void(const headless::Surface&)> rescale = [&](const headless::Surface& area) {
     WidgetOf(area)->setFont(toolkit_.Edge().Font(area.Table(), area.Table().fontSize));
     for (const auto& control : area.Made()) {

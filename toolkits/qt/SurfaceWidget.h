@@ -19,13 +19,13 @@ class SurfaceWidget : public QWidget {
   /// Called when code has sized the surface.
   std::function<void()> sized;
 
- protected:
-  void showEvent(QShowEvent* event) override;
-  void changeEvent(QEvent* event) override;
-
- private:
+  /// Shows places and fonts anew, after the toolkit's scale changed.
   void Rescale();
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
   headless::Surface& surface_;
   Toolkit& toolkit_;
   bool chained_ = false;

@@ -39,13 +39,6 @@ bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action,
   return outcome == headless::Outcome::Done;
 }
 
-bool Toolkit::FollowApplicationFont() {
-  const qt::Edge edge = Edge::OfApplication();
-  if (edge == edge_) return false;
-  edge_ = edge;
-  return true;
-}
-
 host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
   QFont font = qt::Edge(1).Font(design, design.fontSize);
   font.setBold(bold);

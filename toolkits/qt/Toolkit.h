@@ -32,8 +32,8 @@ class Toolkit : public headless::ToolkitBase {
   bool Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget);
 
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }
-  /// Follows the application's font; true where the scale changed.
-  bool FollowApplicationFont();
+  /// What is shown later has this scale; what is shown already is to be shown anew.
+  void SetEdge(const qt::Edge& edge) { edge_ = edge; }
 
   [[nodiscard]] host::Twips MeasureText(const frame::Design& design, std::string_view text, bool bold) const override;
 
@@ -46,7 +46,7 @@ class Toolkit : public headless::ToolkitBase {
 
  private:
   qt::Desktop desktop_;
-  qt::Edge edge_ = Edge::OfApplication();
+  qt::Edge edge_;
   FailureListener failureListener_;
 };
 
