@@ -38,4 +38,9 @@ float ToSingle(double number) {
   return static_cast<float>(number);
 }
 
+double Finite(double number) {
+  if (!std::isfinite(number)) throw host::Error(host::ErrorNumber::Overflow);
+  return number;
+}
+
 }  // namespace brivane::frame

@@ -11,5 +11,7 @@ namespace brivane::frame {
 [[nodiscard]] std::int32_t ToInteger32(double number);
 /// Single precision. Fails with error 6 where the number is too large for it.
 [[nodiscard]] float ToSingle(double number);
+/// The number itself. Fails with error 6 where a computation has left the range of a double.
+[[nodiscard]] double Finite(double number);
 
 }  // namespace brivane::frame

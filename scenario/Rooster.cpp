@@ -3,6 +3,7 @@
 #include <cassert>
 #include <string>
 
+#include "frame/Conversions.h"
 #include "scenario/Ontwerp.h"
 #include "scenario/Teksten.h"
 
@@ -125,7 +126,7 @@ double Rooster::Bedrag(int rij) const {
 }
 
 void Rooster::ZetBedrag(int rij, double bedrag) {
-  Bestaand(Van(rij).bedrag).SetNumber(bedrag);
+  Bestaand(Van(rij).bedrag).SetNumber(frame::Finite(bedrag));
 }
 
 double Rooster::Percentage(int rij) const {
@@ -133,7 +134,7 @@ double Rooster::Percentage(int rij) const {
 }
 
 void Rooster::ZetPercentage(int rij, double percentage) {
-  Bestaand(Van(rij).percentage).SetNumber(percentage);
+  Bestaand(Van(rij).percentage).SetNumber(frame::Finite(percentage));
 }
 
 double Rooster::Korting(int rij) const {

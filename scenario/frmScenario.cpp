@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "frame/Conversions.h"
 #include "frame/ErrorReport.h"
 #include "frame/LayoutHelpers.h"
 #include "host/Error.h"
@@ -248,7 +249,7 @@ void frmScenario::txtPercentage_Validation(int Index) {
     const Invoersoort soort = SoortVan(Bron().Invoersoort());
     if (soort == Invoersoort::Percentage && Index == 1) {
       const double netto = rooster_.Percentage(1) - rooster_.Korting(1);
-      Bron().SetBedrag(netto);
+      Bron().SetBedrag(frame::Finite(netto));
     }
     switch (soort) {
       case Invoersoort::Percentage:
@@ -271,7 +272,7 @@ void frmScenario::txtKorting_Validation(int Index) {
     if (SoortVan(Bron().Invoersoort()) != Invoersoort::Percentage || Index != 1) return;
     // Taken off what the scenario holds, at every edit anew; the percentage box starts over.
     const double basis = Bron().Bedrag() - rooster_.Korting(1);
-    Bron().SetBedrag(basis);
+    Bron().SetBedrag(frame::Finite(basis));
   });
 }
 
@@ -318,7 +319,7 @@ void frmScenario::Bewaar(Invoersoort soort) {
     case Invoersoort::Percentage: {
       MaakLeeg(bron);
       const double netto = rooster_.Percentage(1) - rooster_.Korting(1);
-      bron.SetBedrag(netto);
+      bron.SetBedrag(frame::Finite(netto));
       BewaarPercentages(rooster_, opzet_.korting, [&](const Rentepost& post) { Schrijf(bron, post, opzet_.korting); });
       return;
     }
@@ -334,7 +335,7 @@ void frmScenario::Bewaar(Invoersoort soort) {
 }
 
 void frmScenario::ToonTotaal() {
-  controls_[txtTotaal].SetNumber(rooster_.Totaal());
+  controls_[txtTotaal].SetNumber(frame::Finite(rooster_.Totaal()));
 }
 
 host::BedragObject& frmScenario::Bron() const {

@@ -79,4 +79,19 @@ TEST(Conversions, ToSinglePrecisionOverflowWhereTheNumberIsTooLarge) {
   }
 }
 
+TEST(Conversions, ANumberWithinADoubleStaysAsItIs) {
+  for (const double number : {0.0, -1.5, std::numeric_limits<double>::max()}) EXPECT_EQ(Finite(number), number);
+}
+
+TEST(Conversions, ANumberPastADoubleOverflows) {
+  for (const double number : {kInfinity, -kInfinity, kNaN}) {
+    try {
+      (void)Finite(number);
+      ADD_FAILURE() << number << " was taken";
+    } catch (const host::Error& error) {
+      EXPECT_EQ(error.Number(), 6) << number;
+    }
+  }
+}
+
 }  // namespace brivane::frame

@@ -125,6 +125,25 @@ TEST_F(Fouten, GrowthKeepsTheRowsBeforeTheOneThatCannotBeRead) {
   EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(13, "Type mismatch")}));
 }
 
+TEST_F(Fouten, AnAmountThatGrowsPastADoubleOverflows) {
+  Open(3, 4);
+  Zet("txtBedrag", {1, 2, 3, 4});
+  Zet("txtPercentage", {900, 900, 0, 0});
+  Typ("txtBedrag", 1, 1e307);
+  EXPECT_EQ(Waarden("txtBedrag"), (std::vector<double>{1e307, 1e307 * 9 + 1e307, 3, 4}));
+  EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(6, "Overflow")}));
+}
+
+TEST_F(Fouten, ANetPercentageThatNoDoubleHoldsIsNotWritten) {
+  Open(2, 2, {.korting = true});
+  Typ("txtKorting", 1, -1e308);
+  scenario->log.clear();
+  berichten.clear();
+  Typ("txtPercentage", 1, 1e308);
+  EXPECT_EQ(scenario->basis, 1e308);
+  EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(6, "Overflow")}));
+}
+
 TEST_F(Fouten, AnExceptionOfAnotherKindIsForeign) {
   Open(1, 2);
   scenario->voor = [](const std::string&) { throw std::runtime_error("schijf vol"); };
