@@ -36,6 +36,25 @@ void Compare(const std::string& name, const Question& question, Ours ours, Their
   });
 }
 
+/// The same where each side leaves something behind, which is cleared away outside of the time measured.
+template <class Ours, class ClearOurs, class Theirs, class ClearTheirs>
+void CompareAndClear(const std::string& name, const Question& question, Ours ours, ClearOurs clearOurs, Theirs theirs,
+                     ClearTheirs clearTheirs) {
+  detail::Announce(name, question);
+  const auto measure = [](const std::string& side, auto work, auto clear) {
+    benchmark::RegisterBenchmark(side.c_str(), [work, clear](benchmark::State& state) {
+      while (state.KeepRunning()) {
+        work();
+        state.PauseTiming();
+        clear();
+        state.ResumeTiming();
+      }
+    });
+  };
+  measure(detail::Measured(name), ours, clearOurs);
+  measure(detail::Yardstick(name), theirs, clearTheirs);
+}
+
 /// Runs every comparison and prints one line for each: nanoseconds of both sides and the ratio of their fastest
 /// repetitions. Answers the exit code: 0 unless a benchmark failed; a missed aim is printed, not a failure.
 int Run(int argc, char** argv);
