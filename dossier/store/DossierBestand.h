@@ -21,7 +21,7 @@ class FileJournal;
 ///     auto bestand = DossierBestand::Open(pad);   // OpeningError: show its Melding()
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
 ///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
-///     editor.ScenarioGeopend.Connect([&](frmScenario&) { bestand->Bewerkingen().BeginModal(); });
+///     Scenarioopslag scenario(editor, toolkit, bestand->Bewerkingen());
 ///     bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */ });
 ///
 /// The objects of the case may outlive it; a change then fails.

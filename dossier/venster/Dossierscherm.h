@@ -10,7 +10,7 @@
 #include "dossier/store/DossierBestand.h"
 #include "dossier/venster/Kolommenmodel.h"
 #include "dossier/venster/Kolomscherm.h"
-#include "dossier/venster/Scenarioopslag.h"
+#include "dossier/store/Scenarioopslag.h"
 #include "dossier/venster/Traceerlog.h"
 
 class QTreeView;

@@ -9,7 +9,7 @@
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierBestand.h"
-#include "dossier/store/ScenarioEdits.h"
+#include "dossier/store/Scenarioopslag.h"
 #include "frame/Calendar.h"
 #include "toolkits/headless/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
@@ -24,7 +24,6 @@ class Werkplek {
   Werkplek(std::shared_ptr<dossier::Dossier> dossier, std::shared_ptr<Edits> edits)
       : application_(std::make_shared<Application>(std::move(dossier))),
         edits_(std::move(edits)),
-        scenario_(toolkit_, *edits_),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
     toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
     application_->FoutGemeld.Connect([this](const Foutrecord& fout) { fouten.push_back(fout); });
@@ -37,7 +36,7 @@ class Werkplek {
               return std::make_shared<DossierControle>([this] { return toolkit_.Desktop().Today(); });
             }};
     editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
-    editor_->ScenarioGeopend.Connect([this](frmScenario&) { edits_->BeginModal(); });
+    scenario_ = std::make_unique<Scenarioopslag>(*editor_, toolkit_, *edits_);
   }
   explicit Werkplek(DossierBestand& bestand) : Werkplek(bestand.Dossier(), bestand.GedeeldeBewerkingen()) {}
 
@@ -67,9 +66,9 @@ class Werkplek {
   headless::Toolkit toolkit_;
   std::shared_ptr<Application> application_;
   std::shared_ptr<Edits> edits_;
-  ScenarioEdits scenario_;
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
+  std::unique_ptr<Scenarioopslag> scenario_;
 };
 
 }  // namespace brivane::dossier

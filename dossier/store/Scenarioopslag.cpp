@@ -1,4 +1,4 @@
-#include "dossier/venster/Scenarioopslag.h"
+#include "dossier/store/Scenarioopslag.h"
 
 #include "toolkits/headless/Surface.h"
 
