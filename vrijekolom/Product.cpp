@@ -102,7 +102,8 @@ void VrijeKolom::cboMaatschappij_Click() {
     host::Application& application = host::Need(Application_);
     const std::string tekst = controls_[cboMaatschappij].Text();
     const std::shared_ptr<host::Codetabellen> tabellen = application.Codetabellen();
-    Record().SetMaatschappij(application.ZoekCode(tabellen, kMaatschappijTabel, tekst));
+    const std::string code = application.ZoekCode(tabellen, kMaatschappijTabel, tekst);
+    Record().SetMaatschappij(code);
     host::TextBox& naam = controls_[txtMaatschappij];
     naam.SetEnabled(Record().Maatschappij() == kAndereMaatschappij);
     if (Record().Maatschappij() != kAndereMaatschappij) {

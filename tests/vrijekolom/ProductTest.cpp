@@ -200,6 +200,14 @@ TEST_F(ProductTest, LetsThePersonNameAnotherCompany) {
   EXPECT_TRUE(on_[txtMaatschappij].Enabled());
 }
 
+TEST_F(ProductTest, LooksTheCompanyUpBeforeItNeedsTheColumn) {
+  BindProduct();
+  BindUnheard(0, 9);
+  Pick(on_[cboMaatschappij], "Anders");
+  EXPECT_THAT(Log(), ElementsAre("enter cboMaatschappij_Click", "call ZoekCode(MaatschappijType, \"Anders\")",
+                                 "error cboMaatschappij_Click", "report VrijeKolom 91"));
+}
+
 TEST_F(ProductTest, IsFilledWhenItBecomesAProduct) {
   BindUnheard();
   Act(on_[chkProduct], headless::Tick{host::kTicked});
