@@ -1,6 +1,7 @@
 #include "toolkits/qt/Edge.h"
 
 #include <QFontInfo>
+#include <QRegularExpression>
 #include <cmath>
 #include <limits>
 
@@ -108,7 +109,9 @@ TypedContent ReadContent(const QString& typed, frame::Format format) {
     case frame::Format::None:
     case frame::Format::Text: break;
   }
-  return text.empty() ? TypedContent{} : TypedContent{text, {}};
+  // A box is one line: what was pasted as several becomes one.
+  const std::string line = FromQt(QString(typed).replace(QRegularExpression("[\\r\\n\\x{2028}\\x{2029}]+"), " "));
+  return line.empty() ? TypedContent{} : TypedContent{line, {}};
 }
 
 }  // namespace brivane::qt

@@ -63,5 +63,12 @@ TEST(Contents, AreShownByTheirFormat) {
   EXPECT_EQ(ShownContent(BoxValue(host::Date(45322)), Format::Date), "31-01-2024");
 }
 
+TEST(Contents, OfATextBoxAreOneLine) {
+  using headless::BoxValue;
+  EXPECT_EQ(ReadContent("een\r\ntwee", frame::Format::Text).value, BoxValue(std::string("een twee")));
+  EXPECT_EQ(ReadContent("", frame::Format::Text).value, BoxValue());
+  EXPECT_EQ(ReadContent("12,50\r\n", frame::Format::Amount).value, BoxValue(12.5));
+}
+
 }  // namespace
 }  // namespace brivane::qt

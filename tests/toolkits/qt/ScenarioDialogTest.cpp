@@ -356,6 +356,8 @@ TEST_F(ScenarioDialog, FitsTheScreenAndScrollsToTheFocusedBox) {
         EXPECT_LE(dialog_->width(), screen.width());
         EXPECT_LE(dialog_->height(), screen.height());
         const auto& scroll = *dialog_->findChild<QScrollArea*>();
+        dialog_->resize(500, 400);
+        QApplication::processEvents();
         EXPECT_EQ(scroll.horizontalScrollBar()->value(), 0);
         Canvas().GoTo(dynamic_cast<qt::CellPeer&>(*Cell("txtKorting", 80).GetPeer()));
         EXPECT_GT(scroll.horizontalScrollBar()->value(), 0);
