@@ -1,12 +1,15 @@
 #include "frame/ErrorReport.h"
 
+#include <new>
 #include <string>
 
 #include "frame/Tracing.h"
 
 namespace brivane::frame {
 
-host::Error CurrentError() {
+namespace {
+
+host::Error Described() {
   try {
     throw;
   } catch (const host::Error& error) {
@@ -15,6 +18,17 @@ host::Error CurrentError() {
     return host::Error(static_cast<std::int32_t>(host::ErrorNumber::Foreign), other.what(), "BrivaneVrijeKolom");
   } catch (...) {
     return host::Error(host::ErrorNumber::Foreign);
+  }
+}
+
+}  // namespace
+
+host::Error CurrentError() {
+  try {
+    return Described();
+  } catch (const std::bad_alloc&) {
+    // There is no memory for the texts. These are short enough to need none.
+    return host::Error(static_cast<std::int32_t>(host::ErrorNumber::Foreign), "std::bad_alloc", {});
   }
 }
 
