@@ -41,6 +41,8 @@ class Sessie {
     QObject::connect(&scherm_, &Dossierscherm::opgeslagen, &venster_, [this] { transcript_.Opgeslagen(); });
   }
   ~Sessie() {
+    // A session that came to its end has closed the file, and the editor with it.
+    if (venster_.Scherm() == nullptr) return;
     editor_.Toolkit().RemoveListener(transcript_);
     editor_.Toolkit().Desktop().answer = nullptr;
     editor_.disconnect(&venster_);
