@@ -2,7 +2,7 @@
 
 #include <QFontMetricsF>
 
-#include "host/Error.h"
+#include "frame/ErrorReport.h"
 #include "toolkits/qt/CellPeer.h"
 #include "toolkits/qt/EntryBox.h"
 #include "toolkits/qt/FormWindow.h"
@@ -10,24 +10,16 @@
 #include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
-namespace {
-
-std::string Describe(const std::exception& failure) {
-  const auto* error = dynamic_cast<const host::Error*>(&failure);
-  const int number = error != nullptr ? error->Number() : static_cast<int>(host::ErrorNumber::Foreign);
-  return "Er is een fout opgetreden.\r\n" + std::to_string(number) + ": " + failure.what();
-}
-
-}  // namespace
 
 void Toolkit::Guard(const std::function<void()>& body) {
   try {
     body();
-  } catch (const std::exception& failure) {
-    if (failureListener_)
-      failureListener_(failure);
-    else
-      desktop_.MessageBox("Kwandero", Describe(failure), host::MessageStyle::OkExclamation);
+  } catch (...) {
+    const host::Error failure = frame::CurrentError();
+    if (failureListener_) return failureListener_(failure);
+    const std::string text =
+        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description();
+    desktop_.MessageBox(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
   }
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QWidget>
-#include <exception>
 #include <functional>
 #include <memory>
 
+#include "host/Error.h"
 #include "toolkits/headless/Toolkit.h"
 #include "toolkits/qt/Desktop.h"
 #include "toolkits/qt/Edge.h"
@@ -17,7 +17,7 @@ namespace brivane::qt {
 /// Must outlive the surfaces and forms that it made.
 class Toolkit : public headless::ToolkitBase {
  public:
-  using FailureListener = std::function<void(const std::exception& failure)>;
+  using FailureListener = std::function<void(const host::Error& failure)>;
 
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
 

@@ -194,11 +194,16 @@ TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheEventLoop) {
   TypeOver("x");
   Press(Qt::Key_Tab);
   EXPECT_THAT(log_, ElementsAre("message Kwandero: Er is een fout opgetreden.\r\n91: Object missing"));
-  toolkit_.SetFailureListener([this](const std::exception& failure) { log_.emplace_back(failure.what()); });
+  toolkit_.SetFailureListener([this](const host::Error& failure) { log_.push_back(failure.Description()); });
   Focus("txtNaam");
   TypeOver("y");
   Press(Qt::Key_Tab);
   EXPECT_EQ(log_.back(), "Object missing");
+  Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
+  Focus("txtNaam");
+  TypeOver("z");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(log_.size(), 3U);
 }
 
 TEST_F(Boxes, ALockedBoxTakesTheFocusButNoTyping) {
