@@ -68,7 +68,7 @@ class Edits {
   /// Makes one change. Fails as the change fails; does nothing in an edit that has failed already.
   void Write(const std::function<void()>& change);
 
-  /// An edit that changed something is in the file.
+  /// An edit that changed something is in the file. A listener of these two must not fail.
   host::Event<> Stored;
   /// A change is not stored. Told from inside the procedure that ends: a listener that rebinds a control does so later.
   host::Event<const StoreFailure&> Failed;

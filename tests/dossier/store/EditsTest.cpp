@@ -319,6 +319,26 @@ TEST_F(EditsTest, OneEditInsideAProcedureIsPartOfItsEdit) {
   EXPECT_EQ(Regels().back(), "commit");
 }
 
+TEST_F(EditsTest, TellsOfWhatWasStoredOnceItIsInTheFile) {
+  edits_.Stored.Connect([this] { Regels().emplace_back("stored"); });
+  edits_.Enter("A");
+  edits_.Enter("B");
+  edits_.Leave();
+  Wijzig("1");
+  edits_.Leave();
+  EXPECT_THAT(Regels(), ElementsAre("begin", "1", "commit", "stored"));
+}
+
+TEST_F(EditsTest, TellsNotOfWhatWasNotStored) {
+  edits_.Stored.Connect([this] { Regels().emplace_back("stored"); });
+  edits_.Enter("A");
+  Wijzig("1");
+  file_.weiger = "commit";
+  EXPECT_THROW(edits_.Leave(), host::Error);
+  edits_.Fail("A");
+  EXPECT_THAT(Regels(), testing::Not(testing::Contains("stored")));
+}
+
 TEST_F(EditsTest, LeavingMoreThanWasEnteredIsOverlooked) {
   edits_.Leave();
   Wijzig("1");
