@@ -65,6 +65,11 @@ std::unique_ptr<Database> OpenOmTeWerken(const QString& pad) {
   return database;
 }
 
+/// A half file, with what SQLite leaves beside one where the disk failed.
+void Verwijder(const QString& voorlopig) {
+  for (const char* deel : {"", "-journal", "-wal"}) QFile::remove(voorlopig + QLatin1String(deel));
+}
+
 OpeningProblem Probleem(const DatabaseError& error) {
   switch (error.Code()) {
     case SqliteCode::Busy: return OpeningProblem::InUse;
@@ -120,11 +125,11 @@ void DossierBestand::Maak(const QString& pad, const DossierGegevens& gegevens) {
     Writer(database, 1).SchrijfDossier(gegevens);
     database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   } catch (const DatabaseError&) {
-    QFile::remove(voorlopig);
+    Verwijder(voorlopig);
     throw OpeningError(OpeningProblem::CannotCreate, pad);
   }
   if (QFile::rename(voorlopig, pad)) return;
-  QFile::remove(voorlopig);
+  Verwijder(voorlopig);
   throw OpeningError(QFileInfo::exists(pad) ? OpeningProblem::AlreadyThere : OpeningProblem::CannotCreate, pad);
 }
 

@@ -1,0 +1,177 @@
+#include "tests/faults/FaultyVfs.h"
+
+#include <sqlite3.h>
+
+#include <new>
+
+namespace brivane::faults {
+
+namespace {
+
+struct Plan {
+  int calls = 0;
+  int failing = 0;
+  int fullFrom = 0;
+  bool struck = false;
+};
+Plan plan;
+sqlite3_vfs* disk = nullptr;
+
+/// The code of a failure that is due now, or SQLITE_OK.
+int Due(int code) {
+  if (++plan.calls != plan.failing) return SQLITE_OK;
+  plan.struck = true;
+  return code;
+}
+
+/// The same for what takes room on the disk.
+int DueForRoom(int code) {
+  const int due = Due(code);
+  if (due != SQLITE_OK || plan.fullFrom == 0 || plan.calls < plan.fullFrom) return due;
+  plan.struck = true;
+  return SQLITE_FULL;
+}
+
+/// SQLite's file, followed in memory by that of the real disk.
+struct File {
+  sqlite3_file base;
+  sqlite3_file* real;
+};
+
+sqlite3_file* Real(sqlite3_file* file) {
+  return reinterpret_cast<File*>(file)->real;
+}
+
+int Close(sqlite3_file* file) {
+  return Real(file)->pMethods->xClose(Real(file));
+}
+int Read(sqlite3_file* file, void* to, int size, sqlite3_int64 at) {
+  if (const int due = Due(SQLITE_IOERR_READ)) return due;
+  return Real(file)->pMethods->xRead(Real(file), to, size, at);
+}
+int Write(sqlite3_file* file, const void* from, int size, sqlite3_int64 at) {
+  if (const int due = DueForRoom(SQLITE_IOERR_WRITE)) return due;
+  return Real(file)->pMethods->xWrite(Real(file), from, size, at);
+}
+int Truncate(sqlite3_file* file, sqlite3_int64 size) {
+  if (const int due = Due(SQLITE_IOERR_TRUNCATE)) return due;
+  return Real(file)->pMethods->xTruncate(Real(file), size);
+}
+int Sync(sqlite3_file*, int) {
+  return Due(SQLITE_IOERR_FSYNC);
+}
+int FileSize(sqlite3_file* file, sqlite3_int64* size) {
+  if (const int due = Due(SQLITE_IOERR_FSTAT)) return due;
+  return Real(file)->pMethods->xFileSize(Real(file), size);
+}
+int Lock(sqlite3_file* file, int level) {
+  if (const int due = Due(SQLITE_IOERR_LOCK)) return due;
+  return Real(file)->pMethods->xLock(Real(file), level);
+}
+int Unlock(sqlite3_file* file, int level) {
+  return Real(file)->pMethods->xUnlock(Real(file), level);
+}
+int CheckReservedLock(sqlite3_file* file, int* reserved) {
+  if (const int due = Due(SQLITE_IOERR_CHECKRESERVEDLOCK)) return due;
+  return Real(file)->pMethods->xCheckReservedLock(Real(file), reserved);
+}
+int FileControl(sqlite3_file* file, int what, void* with) {
+  return Real(file)->pMethods->xFileControl(Real(file), what, with);
+}
+int SectorSize(sqlite3_file* file) {
+  return Real(file)->pMethods->xSectorSize(Real(file));
+}
+int DeviceCharacteristics(sqlite3_file* file) {
+  return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
+}
+int ShmMap(sqlite3_file* file, int page, int size, int extend, void volatile** memory) {
+  if (const int due = Due(SQLITE_IOERR_SHMMAP)) return due;
+  return Real(file)->pMethods->xShmMap(Real(file), page, size, extend, memory);
+}
+int ShmLock(sqlite3_file* file, int offset, int count, int flags) {
+  return Real(file)->pMethods->xShmLock(Real(file), offset, count, flags);
+}
+void ShmBarrier(sqlite3_file* file) {
+  Real(file)->pMethods->xShmBarrier(Real(file));
+}
+int ShmUnmap(sqlite3_file* file, int remove) {
+  return Real(file)->pMethods->xShmUnmap(Real(file), remove);
+}
+
+const sqlite3_io_methods kMethods{
+    .iVersion = 2,
+    .xClose = Close,
+    .xRead = Read,
+    .xWrite = Write,
+    .xTruncate = Truncate,
+    .xSync = Sync,
+    .xFileSize = FileSize,
+    .xLock = Lock,
+    .xUnlock = Unlock,
+    .xCheckReservedLock = CheckReservedLock,
+    .xFileControl = FileControl,
+    .xSectorSize = SectorSize,
+    .xDeviceCharacteristics = DeviceCharacteristics,
+    .xShmMap = ShmMap,
+    .xShmLock = ShmLock,
+    .xShmBarrier = ShmBarrier,
+    .xShmUnmap = ShmUnmap,
+    .xFetch = nullptr,
+    .xUnfetch = nullptr,
+};
+
+int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags) {
+  auto* const own = new (file) File{{nullptr}, reinterpret_cast<sqlite3_file*>(reinterpret_cast<File*>(file) + 1)};
+  if (const int due = Due(SQLITE_CANTOPEN)) return due;
+  const int opened = disk->xOpen(disk, name, own->real, flags, outFlags);
+  if (own->real->pMethods != nullptr) own->base.pMethods = &kMethods;
+  return opened;
+}
+int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
+  if (const int due = Due(SQLITE_IOERR_DELETE)) return due;
+  return disk->xDelete(disk, name, syncFolder);
+}
+int Access(sqlite3_vfs*, const char* name, int flags, int* result) {
+  if (const int due = Due(SQLITE_IOERR_ACCESS)) return due;
+  return disk->xAccess(disk, name, flags, result);
+}
+
+sqlite3_vfs shim;
+
+}  // namespace
+
+FaultyVfs::FaultyVfs() {
+  disk = sqlite3_vfs_find(nullptr);
+  shim = *disk;
+  shim.zName = "faulty";
+  shim.pNext = nullptr;
+  shim.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
+  shim.xOpen = Open;
+  shim.xDelete = Delete;
+  shim.xAccess = Access;
+  sqlite3_vfs_register(&shim, 1);
+  plan = {};
+}
+
+FaultyVfs::~FaultyVfs() {
+  sqlite3_vfs_unregister(&shim);
+  sqlite3_vfs_register(disk, 1);
+}
+
+void FaultyVfs::FailAt(int nth) {
+  plan = {.failing = nth};
+}
+
+void FaultyVfs::FullFrom(int nth) {
+  plan = {.fullFrom = nth};
+}
+
+int FaultyVfs::Calls() const {
+  return plan.calls;
+}
+
+bool FaultyVfs::Struck() const {
+  return plan.struck;
+}
+
+}  // namespace brivane::faults

@@ -1,0 +1,171 @@
+// Every single call of SQLite on the disk fails in turn, one run each; and the disk is full from every moment on.
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+#include "tests/dossier/store/Bestanden.h"
+#include "tests/dossier/store/Bewerkingen.h"
+#include "tests/dossier/store/Werkplek.h"
+#include "tests/faults/FaultyVfs.h"
+
+namespace brivane::faults {
+namespace {
+
+using dossier::DossierBestand;
+using dossier::DossierGegevens;
+using dossier::Map;
+using dossier::Told;
+using dossier::Werkplek;
+
+/// The edits of the session: every kind twice.
+constexpr int kEdits = 12;
+
+enum class Kind { OneCall, FullDisk };
+
+class Session {
+ public:
+  Session() : pad_(map_.Maak()), stored_(dossier::Gelezen(pad_)) {}
+
+  /// Runs the session with that call failing, and checks it. Answers how many calls there were.
+  int Run(Kind kind, int nth) {
+    SCOPED_TRACE("call " + std::to_string(nth));
+    if (kind == Kind::OneCall)
+      vfs_.FailAt(nth);
+    else
+      vfs_.FullFrom(nth);
+    try {
+      Work();
+    } catch (const dossier::OpeningError& error) {
+      EXPECT_TRUE(vfs_.Struck()) << "not opened: " << static_cast<int>(error.Problem());
+    }
+    const int calls = vfs_.Calls();
+    failed_ = vfs_.Struck();
+    vfs_.FailAt(0);
+    Reopened();
+    return calls;
+  }
+
+  /// Whether a call failed, and how many edits that has cost.
+  [[nodiscard]] bool Failed() const { return failed_; }
+  [[nodiscard]] int Lost() const { return lost_; }
+
+ private:
+  void Work() {
+    const auto file = DossierBestand::Open(pad_);
+    Werkplek bench(*file);
+    int boxes = 0;
+    bench.Toolkit().Desktop().answer = [&](const std::string& title, const std::string&, host::MessageStyle) {
+      if (title == "Kwandero") ++boxes;
+      return host::MessageAnswer::Ok;
+    };
+    bench.Bind(0, 1);
+    EXPECT_TRUE(bench.fouten.empty());
+    for (int n = 0; n < kEdits; ++n) {
+      bench.fouten.clear();
+      bench.mislukt.clear();
+      boxes = 0;
+      dossier::DoeBewerking(bench, n);
+      Told(bench, boxes, n);
+      const DossierGegevens now = file->Dossier()->Gegevens();
+      if (bench.mislukt.empty()) {
+        // After one was lost another may find what it is to do done already.
+        EXPECT_TRUE(lost_ > 0 || now != stored_) << "edit " << n << " changed nothing";
+        stored_ = now;
+      } else {
+        ++lost_;
+        EXPECT_TRUE(now == stored_) << "after edit " << n << " failed the memory does not show what is stored";
+        bench.Bind(0, 1);
+      }
+    }
+  }
+
+  /// A change that is not stored is told of once: by whoever made it, or by the window.
+  static void Told(const Werkplek& bench, int boxes, int n) {
+    const auto reports = bench.fouten.size() + static_cast<std::size_t>(boxes);
+    if (bench.mislukt.empty()) {
+      EXPECT_EQ(reports, 0u) << "edit " << n;
+      return;
+    }
+    EXPECT_EQ(bench.mislukt.size(), 1u) << "edit " << n;
+    EXPECT_EQ(reports, bench.mislukt.front().told == dossier::Told::Yes ? 1u : 0u) << "edit " << n;
+  }
+
+  /// Whatever happened, the file is whole and holds every edit that was not said to have failed.
+  void Reopened() {
+    const auto file = DossierBestand::Open(pad_);
+    EXPECT_TRUE(file->ControleerHeelheid().isEmpty()) << file->ControleerHeelheid().join("; ").toStdString();
+    EXPECT_TRUE(file->Dossier()->Gegevens() == stored_) << "the file does not hold what was stored";
+    Werkplek bench(*file);
+    bench.Bind(0, 1);
+    bench.Typ("TxtOm", std::string("hersteld"));
+    EXPECT_TRUE(bench.fouten.empty() && bench.mislukt.empty());
+    EXPECT_EQ(file->Dossier()->ZoekKolom(0, 1)->Omschrijving(), "hersteld");
+  }
+
+  FaultyVfs vfs_;
+  Map map_;
+  QString pad_;
+  DossierGegevens stored_;
+  bool failed_ = false;
+  int lost_ = 0;
+};
+
+void TryAll(Kind kind) {
+  int tried = 0;
+  int lost = 0;
+  for (int nth = 1;; ++nth) {
+    Session session;
+    const int calls = session.Run(kind, nth);
+    ASSERT_FALSE(testing::Test::HasFailure());
+    if (nth > calls) break;
+    if (session.Failed()) ++tried;
+    lost += session.Lost();
+  }
+  EXPECT_GT(tried, 50);
+  EXPECT_GT(lost, 10);
+  testing::Test::RecordProperty("FaultsTried", std::to_string(tried));
+  std::cout << "faults tried: " << tried << ", edits that failed: " << lost << '\n';
+}
+
+TEST(StoreFaults, EveryCallFailsInTurn) {
+  TryAll(Kind::OneCall);
+}
+
+TEST(StoreFaults, TheDiskIsFullFromEveryCallOn) {
+  TryAll(Kind::FullDisk);
+}
+
+/// A new file is there complete, or not at all and with nothing beside it.
+TEST(StoreFaults, ANewFileIsCompleteOrNotThere) {
+  int tried = 0;
+  for (int nth = 1;; ++nth) {
+    SCOPED_TRACE("call " + std::to_string(nth));
+    FaultyVfs vfs;
+    const Map map;
+    vfs.FailAt(nth);
+    bool made = false;
+    try {
+      static_cast<void>(map.Maak());
+      made = true;
+    } catch (const dossier::OpeningError& error) {
+      EXPECT_EQ(error.Problem(), dossier::OpeningProblem::CannotCreate);
+    }
+    const bool struck = vfs.Struck();
+    vfs.FailAt(0);
+    if (made) {
+      EXPECT_TRUE(dossier::Gelezen(map.Pad()) == dossier::Gelezen(Map().Maak()));
+    } else {
+      EXPECT_TRUE(map.Inhoud().isEmpty()) << map.Inhoud().join(", ").toStdString();
+    }
+    ASSERT_FALSE(testing::Test::HasFailure());
+    if (!struck) break;
+    ++tried;
+  }
+  EXPECT_GT(tried, 20);
+  RecordProperty("FaultsTried", std::to_string(tried));
+  std::cout << "faults tried: " << tried << '\n';
+}
+
+}  // namespace
+}  // namespace brivane::faults
