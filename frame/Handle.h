@@ -49,19 +49,29 @@ template <Kind K> struct ArrayHandle {
   int last;
 };
 
-/// Looks a control up while compiling; a wrong name or kind does not compile.
-template <Kind K> consteval Handle<K> Find(const Design& design, std::string_view name) {
+namespace detail {
+
+/// Row of a control; fails to be a constant where there is none of that name and kind.
+template <Kind K>
+constexpr std::size_t FindRow(const Design& design, std::string_view name) {
   for (std::size_t i = 0; i < design.rows.size(); ++i)
     if (design.rows[i].name == name) {
       if (design.rows[i].kind != K) throw "the control is of another kind";
-      return {i};
+      return i;
     }
   throw "the design has no such control";
 }
 
+}  // namespace detail
+
+/// Looks a control up while compiling; a wrong name or kind does not compile.
+template <Kind K> consteval Handle<K> Find(const Design& design, std::string_view name) {
+  return {detail::FindRow<K>(design, name)};
+}
+
 /// Looks a control array up while compiling.
 template <Kind K> consteval ArrayHandle<K> FindArray(const Design& design, std::string_view name) {
-  const std::size_t row = Find<K>(design, name).row;
+  const std::size_t row = detail::FindRow<K>(design, name);
   const int first = design.rows[row].index;
   if (first == kNoIndex) throw "the control is not an array";
   std::size_t end = row;
