@@ -50,12 +50,17 @@ void BewaarBedragen(const Rijen& rijen, Overbrugging overbrugging, std::int16_t 
 
 /// Percentages: each later row whose percentage differs from the row above. With the discount column a
 /// differing discount counts too, and row 1 is one where it has a discount, which the base value cannot hold.
+/// `schrijf` is given the month, and what reads the rest of the row when the entry stands.
 template <class Rijen, class Schrijf>
 void BewaarPercentages(const Rijen& rijen, Kortingkolom kolom, Schrijf&& schrijf) {
   const bool metKorting = kolom == Kortingkolom::Met;
   const auto post = [&](int r) {
-    const double korting = metKorting ? rijen.Korting(r) : 0;
-    schrijf(Rentepost{MaandVan(r, Maandbasis::Maand), rijen.Percentage(r) - korting, korting});
+    const std::int16_t maand = MaandVan(r, Maandbasis::Maand);
+    schrijf(maand, [&] {
+      const double percentage = rijen.Percentage(r);
+      const double korting = metKorting ? rijen.Korting(r) : 0;
+      return Rentepost{maand, percentage - korting, korting};
+    });
   };
   if (metKorting && rijen.Korting(1) != 0) post(1);
   for (int r = 2; r <= rijen.Aantal(); ++r)

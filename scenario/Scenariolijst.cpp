@@ -63,8 +63,10 @@ void Schrijf(host::BedragObject& scenario, const Bedragpost& post, Overbrugging 
   if (overbrugging == Overbrugging::Nee) periode->SetEenmalig(post.eenmalig);
 }
 
-void Schrijf(host::BedragObject& scenario, const Rentepost& post, Kortingkolom kolom) {
-  const auto periode = Nieuw(scenario, post.maand);
+void Schrijf(host::BedragObject& scenario, std::int16_t maand, const std::function<Rentepost()>& lees,
+             Kortingkolom kolom) {
+  const auto periode = Nieuw(scenario, maand);
+  const Rentepost post = lees();
   // Row 1 is the base value itself; its entry is there for the discount alone.
   const double verschil = RijVan(post.maand, 1) ? 0 : post.netto - scenario.Bedrag();
   periode->SetPercentage(frame::ToSingle(verschil));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "host/model/BedragObject.h"
@@ -18,7 +19,7 @@ void MaakLeeg(host::BedragObject& scenario);
 
 /// Each appends one entry. Percentages go in single precision; error 6 where one is too large for it.
 void Schrijf(host::BedragObject& scenario, const Bedragpost& post, Overbrugging overbrugging);
-void Schrijf(host::BedragObject& scenario, const Rentepost& post, Kortingkolom kolom);
+void Schrijf(host::BedragObject& scenario, std::int16_t maand, const std::function<Rentepost()>& lees, Kortingkolom kolom);
 void Schrijf(host::BedragObject& scenario, const Groeipost& post);
 
 }  // namespace brivane::scenario

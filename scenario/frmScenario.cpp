@@ -320,7 +320,9 @@ void frmScenario::Bewaar(Invoersoort soort) {
       MaakLeeg(bron);
       const double netto = rooster_.Percentage(1) - rooster_.Korting(1);
       bron.SetBedrag(frame::Finite(netto));
-      BewaarPercentages(rooster_, opzet_.korting, [&](const Rentepost& post) { Schrijf(bron, post, opzet_.korting); });
+      BewaarPercentages(rooster_, opzet_.korting, [&](std::int16_t maand, const auto& lees) {
+        Schrijf(bron, maand, lees, opzet_.korting);
+      });
       return;
     }
     case Invoersoort::BedragEnPercentage: {

@@ -33,7 +33,7 @@ Bedragen Bewaard(const Rijentabel& rijen, std::int16_t soort, Overbrugging overb
 
 Percentages Bewaard(const Rijentabel& rijen, Kortingkolom kolom) {
   Percentages posten;
-  BewaarPercentages(rijen, kolom, [&](const Rentepost& post) { posten.push_back(post); });
+  BewaarPercentages(rijen, kolom, [&](std::int16_t, const auto& lees) { posten.push_back(lees()); });
   return posten;
 }
 
