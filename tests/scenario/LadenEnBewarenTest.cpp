@@ -305,6 +305,16 @@ TEST_F(LadenEnBewaren, ARowThatCannotBeReadStopsStoringWhereItStands) {
   EXPECT_FALSE(Venster().IsUnloaded());
 }
 
+TEST_F(LadenEnBewaren, ADiscountThatCannotBeReadLeavesItsEntryWithTheMonthAlone) {
+  Open(2, 2, {.korting = true});
+  Zet("txtPercentage", {5, 6});
+  Typ("txtKorting", 2, std::string("half"));
+  scenario->log.clear();
+  DrukOK();
+  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 5", "NieuwePeriode", "1.Maand = 13"}));
+  EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(13, "Type mismatch")}));
+}
+
 TEST_F(LadenEnBewaren, APercentageThatSinglePrecisionCannotHoldOverflows) {
   Open(3, 1);
   Zet("txtPercentage", {1e300});
