@@ -87,9 +87,11 @@ bool Follower::InForm(Member member) const {
 
 void Follower::Strike(Member member) {
   struck_ = true;
+  // What a handler that fails was to say is lost.
   awaitsReport_.clear();
+  expected_.clear();
   if (member != Member::ProcedureTrace_EnterProcedure && !OfHandler(member)) EndInnerSteps();
-  // The handler that could not begin is over; what it was to report is lost.
+  // The handler that could not begin is over.
   if (member == Member::ProcedureTrace_ErrorInProcedure)
     if (const std::size_t handler = Handler()) running_.resize(handler - 1);
   if (InForm(member)) {

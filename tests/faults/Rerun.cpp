@@ -20,8 +20,13 @@ const char* InWords(Op op) {
   return op == Op::Get ? " get" : op == Op::Set ? " set" : " call";
 }
 
+replay::Member FailingToo(Handling handling) {
+  return handling == Handling::CannotBegin ? replay::Member::ProcedureTrace_ErrorInProcedure
+                                           : replay::Member::Application_ReportError;
+}
+
 /// Runs it once; answers the place of what cannot be run, if there is anything.
-std::optional<std::string> RunOnce(const Document& document, std::uint64_t position, Run& run) {
+std::optional<std::string> RunOnce(const Document& document, std::uint64_t position, Handling handling, Run& run) {
   bool struck = false;
   const Session* running = nullptr;
   const auto keepHandled = [&] {
@@ -46,6 +51,10 @@ std::optional<std::string> RunOnce(const Document& document, std::uint64_t posit
       run.atFailure = session.Case().Gegevens();
       run.linesAtFailure = run.lines.size();
       run.struckMember = std::string(NameOf(member)) + InWords(op);
+      run.follower.Strike(member);
+    } else if (struck && !run.handlerFailed && handling != Handling::Works && member == FailingToo(handling)) {
+      run.handlerFailed = true;
+      session.Ledger().FailAtPosition(now, host::Error(kNumber, kDescription, kSource));
       run.follower.Strike(member);
     }
   };
@@ -106,7 +115,7 @@ bool Shown(const Json& controls, std::string name) {
 
 }  // namespace
 
-Run RunFailing(Document document, std::uint64_t position) {
+Run RunFailing(Document document, std::uint64_t position, Handling handling) {
   while (true) {
     Run run{.lines = {},
             .follower = Follower(document.title),
@@ -116,7 +125,7 @@ Run RunFailing(Document document, std::uint64_t position) {
             .afterHandling = {},
             .struckMember = {},
             .left = {}};
-    const std::optional<std::string> impossible = RunOnce(document, position, run);
+    const std::optional<std::string> impossible = RunOnce(document, position, handling, run);
     if (!impossible) return run;
     std::erase_if(document.steps, [&](const Step& step) {
       return !step.place.empty() && (impossible->starts_with(step.place + '.') || *impossible == step.place);

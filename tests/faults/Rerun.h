@@ -26,11 +26,15 @@ struct Run {
   /// The case that the session left.
   dossier::DossierGegevens left;
   bool editorMade = false;
+  bool handlerFailed = false;
 };
+
+/// What else fails: the error handler that the failure calls, at its first access of the host or at its report.
+enum class Handling { Works, CannotBegin, CannotReport };
 
 /// Runs the document; the access at that position fails (0: none does). A step that the failure has made impossible,
 /// such as picking an entry of a list that was not filled, is left out.
-[[nodiscard]] Run RunFailing(replay::Document document, std::uint64_t position);
+[[nodiscard]] Run RunFailing(replay::Document document, std::uint64_t position, Handling handling = Handling::Works);
 
 /// Binds the editor anew after the session, makes one edit, and asks for a dump.
 inline constexpr char kEdited[] = "hersteld";
