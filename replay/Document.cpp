@@ -31,6 +31,13 @@ float ReadTwipsPerPixel(const std::optional<Value>& value, float otherwise) {
   return twips;
 }
 
+Headers ReadHeaders(const Value& value) {
+  const std::string name = value.Text();
+  if (name == "record") return Headers::Record;
+  if (name == "computed") return Headers::Computed;
+  value.Refuse("expected \"record\" or \"computed\"");
+}
+
 Op ReadOp(const Value& value) {
   const std::string name = value.Text();
   if (name == "get") return Op::Get;
@@ -62,7 +69,7 @@ FaultPlan ReadFault(const Value& value) {
 Document ReadDocument(std::string_view text) {
   const Json json = ParseJson(text);
   const Value value(json, "");
-  value.Keys({"today", "title", "locale", "screen", "log", "dossier", "faults", "steps"});
+  value.Keys({"today", "title", "locale", "screen", "headers", "log", "dossier", "faults", "steps"});
   Document document;
   if (const auto today = value.Find("today")) document.today = today->CalendarDate();
   if (const auto title = value.Find("title")) document.title = title->Text();
@@ -72,6 +79,7 @@ Document ReadDocument(std::string_view text) {
     document.twipsPerPixelX = ReadTwipsPerPixel(screen->Find("TwipsPerPixelX"), document.twipsPerPixelX);
     document.twipsPerPixelY = ReadTwipsPerPixel(screen->Find("TwipsPerPixelY"), document.twipsPerPixelY);
   }
+  if (const auto headers = value.Find("headers")) document.headers = ReadHeaders(*headers);
   if (const auto log = value.Find("log")) document.log = ReadLog(*log);
   document.dossier = ReadDossier(value.Member("dossier"));
   if (const auto faults = value.Find("faults"))

@@ -92,12 +92,19 @@ struct Step {
   std::vector<Step> modal;
 };
 
+/// Where the host takes the header texts of a column from.
+enum class Headers : std::uint8_t {
+  Record,    ///< the fields `Weergave` and `Kopregel`
+  Computed,  ///< worded from the column, as the reference host does it
+};
+
 struct Document {
   host::Date today;  ///< no date: the system's
   std::string title = "Dossier";
   std::string locale = "nl_NL";
   float twipsPerPixelX = 15;
   float twipsPerPixelY = 15;
+  Headers headers = Headers::Record;
   std::set<Log> log = {Log::Trace, Log::Writes, Log::Calls, Log::Events, Log::Messages, Log::Results};
   dossier::DossierGegevens dossier;
   std::vector<FaultPlan> faults;

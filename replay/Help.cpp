@@ -26,6 +26,8 @@ DOCUMENT
     "title": "Dossier",           title of the application, for error reports
     "locale": "nl_NL",            decides the thousands separator of a message
     "screen": {"TwipsPerPixelX": 15, "TwipsPerPixelY": 15},
+    "headers": "record",          Weergave and Kopregel as the columns hold them; "computed": worded
+                                  from the column, as the reference host does it
     "log": ["trace", "writes", "calls", "events", "messages", "results"],
     "dossier": {...},             required
     "faults": [...],

@@ -38,12 +38,18 @@ class Pushed {
   Stack& stack_;
 };
 
+std::shared_ptr<dossier::Omgeving> Surroundings(Headers headers) {
+  auto surroundings = std::make_shared<dossier::Omgeving>();
+  if (headers == Headers::Computed) surroundings->Kopteksten = std::make_shared<dossier::BerekendeKopteksten>();
+  return surroundings;
+}
+
 }  // namespace
 
 Session::Session(const Document& document, LineSink sink)
     : document_(document),
       transcript_(std::move(sink), document.log),
-      case_(std::make_shared<dossier::Dossier>(document.dossier, std::make_shared<dossier::Omgeving>())),
+      case_(std::make_shared<dossier::Dossier>(document.dossier, Surroundings(document.headers))),
       host_(std::make_shared<dossier::Application>(case_), Factories(), transcript_) {
   for (const FaultPlan& fault : document.faults)
     Ledger().FailAt(fault.member, fault.op, fault.nth, host::Error(fault.number, fault.description, fault.source));

@@ -163,6 +163,7 @@ std::string WriteDocument(const Document& document) {
   AppendMember(out, "locale", document.locale);
   AppendMember(out, "screen",
                {{"TwipsPerPixelX", document.twipsPerPixelX}, {"TwipsPerPixelY", document.twipsPerPixelY}});
+  if (document.headers == Headers::Computed) AppendMember(out, "headers", "computed");
   AppendMember(out, "log", Write(document.log));
   AppendMember(out, "dossier", ToJson(document.dossier));
   Json faults = Json::array();

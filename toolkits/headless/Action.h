@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "host/Date.h"
+#include "host/Twips.h"
 
 /// What a person can do to a control, as data: the one door that real event sources, scripts, tests
 /// and fuzzers share.
@@ -57,6 +58,7 @@ enum class Outcome : std::uint8_t {
 };
 
 class AnyControl;
+class Surface;
 
 /// Follows every action that passes the door, those that are ignored too. Actions nest, where one
 /// opens a form or lets pending events run.
@@ -66,6 +68,8 @@ class ActionListener {
   virtual void Before(AnyControl& control, const Action& action) = 0;
   /// No outcome: the action failed, and its failure goes on to the caller.
   virtual void After(AnyControl& control, const Action& action, std::optional<Outcome> outcome) = 0;
+  /// The container is about to size a surface.
+  virtual void Sizing(Surface&, host::Twips /*width*/, host::Twips /*height*/) {}
 };
 
 }  // namespace brivane::headless

@@ -87,6 +87,7 @@ void Surface::JoinGroup(OptionButton& option) {
 }
 
 void Surface::Size(host::Twips width, host::Twips height) {
+  toolkit_->TellSizing(*this, width, height);
   host::Place place = Current().place;
   place.width = width;
   place.height = height;

@@ -59,4 +59,9 @@ Outcome ToolkitBase::Watch(AnyControl& control, const Action& action, const std:
   return outcome;
 }
 
+void ToolkitBase::TellSizing(Surface& surface, host::Twips width, host::Twips height) const {
+  const std::vector<ActionListener*> listeners = listeners_;
+  for (ActionListener* listener : listeners) listener->Sizing(surface, width, height);
+}
+
 }  // namespace brivane::headless

@@ -52,6 +52,7 @@ class ToolkitBase : public frame::Toolkit {
 
  private:
   Outcome Watch(AnyControl& control, const Action& action, const std::function<Outcome()>& act);
+  void TellSizing(Surface& surface, host::Twips width, host::Twips height) const;
 
   std::vector<ActionListener*> listeners_;
 };

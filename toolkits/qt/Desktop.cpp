@@ -18,6 +18,12 @@ std::string Desktop::ApplicationTitle() const {
 }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
+  const host::MessageAnswer given = Ask(title, text, style);
+  if (answered) answered(given);
+  return given;
+}
+
+host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& text, host::MessageStyle style) {
   if (answer) return answer(title, text, style);
   QMessageBox box(QApplication::activeWindow());
   box.setWindowTitle(ToQt(title));

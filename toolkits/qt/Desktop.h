@@ -15,6 +15,11 @@ class Desktop final : public host::Desktop {
   /// Answers a message box instead of a person, when set.
   std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle style)>
       answer;
+  /// Told what a message box of the controls was answered.
+  std::function<void(host::MessageAnswer answer)> answered;
+
+  /// A message box of the toolkit's own: as MessageBox, and nobody is told.
+  [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
   host::MessageAnswer MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) override;

@@ -121,7 +121,7 @@ bool FormWindow::RowsChanged() const {
 void FormWindow::Close() {
   if (RowsChanged()) {
     const host::MessageAnswer answer =
-        toolkit_.Desktop().MessageBox(form_.Caption(), kRowsLost, host::MessageStyle::YesNoQuestion);
+        toolkit_.Desktop().Ask(form_.Caption(), kRowsLost, host::MessageStyle::YesNoQuestion);
     if (answer != host::MessageAnswer::Yes) return;
   }
   toolkit_.Guard([this] { form_.Perform(headless::Close{}); });

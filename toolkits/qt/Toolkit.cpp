@@ -19,7 +19,7 @@ void Toolkit::Guard(const std::function<void()>& body) {
     if (failureListener_) return failureListener_(failure);
     const std::string text =
         std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description();
-    desktop_.MessageBox(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
+    (void)desktop_.Ask(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
   }
 }
 
