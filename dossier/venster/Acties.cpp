@@ -46,8 +46,13 @@ Acties::Acties(QMainWindow& venster)
       client(Maak(venster, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       leningToevoegen(Maak(venster, "&Lening toevoegen…")),
       controleren(Maak(venster, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
+      opnemen(Maak(venster, "Op&nemen…")),
       logboek(Maak(venster, "&Logboek…")),
       over(Maak(venster, "&Over Dossier…")) {
+  opnemen->setCheckable(true);
+  QObject::connect(opnemen, &QAction::toggled, opnemen, [opnemen = opnemen](bool loopt) {
+    opnemen->setText(loopt ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));
+  });
   // The toolbar has no menu title before it.
   toevoegen->setIconText(QStringLiteral("Kolom toevoegen"));
   nieuw->setIconText(QStringLiteral("Nieuw"));
@@ -70,7 +75,7 @@ Acties::Acties(QMainWindow& venster)
   dossier->addActions({client, leningToevoegen, controleren});
 
   QMenu* help = venster.menuBar()->addMenu(QStringLiteral("&Help"));
-  help->addActions({logboek, over});
+  help->addActions({opnemen, logboek, over});
 
   QToolBar* balk = venster.addToolBar(QStringLiteral("Werkbalk"));
   balk->setObjectName(QStringLiteral("werkbalk"));
@@ -90,7 +95,7 @@ Acties::Acties(QMainWindow& venster)
 }
 
 QList<QAction*> Acties::VoorDossier() const {
-  return {sluiten, toevoegen, vorige, volgende, boomOfKolom, client, leningToevoegen, controleren};
+  return {sluiten, toevoegen, vorige, volgende, boomOfKolom, client, leningToevoegen, controleren, opnemen};
 }
 
 QList<QAction*> Acties::VoorKolom() const {

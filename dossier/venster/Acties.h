@@ -35,6 +35,7 @@ struct Acties {
   QAction* leningToevoegen;
   QAction* controleren;
 
+  QAction* opnemen;  ///< checked while a recording runs
   QAction* logboek;
   QAction* over;
 

@@ -11,6 +11,7 @@
 #include "dossier/venster/Acties.h"
 #include "dossier/venster/Controle.h"
 #include "dossier/venster/Melding.h"
+#include "dossier/venster/Opname.h"
 #include "dossier/venster/Vandaag.h"
 #include "frame/ErrorReport.h"
 
@@ -44,7 +45,7 @@ std::vector<Plek> AlleKolommen(const Dossier& dossier) {
 }  // namespace
 
 Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
-                             Logboek& logboek, QWidget* parent)
+                             Logboek& logboek, Opname& opname, QWidget* parent)
     : QSplitter(parent),
       logboek_(logboek),
       traceerlog_(std::make_shared<Traceerlog>(logboek)),
@@ -52,7 +53,7 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
       application_(std::make_shared<Application>(bestand_->Dossier(), std::move(hoofdvenster))),
       model_(new Kolommenmodel(this)),
       boom_(new QTreeView),
-      kolom_(new Kolomscherm(application_, Fabrieken())) {
+      kolom_(new Kolomscherm(application_, Fabrieken(), opname)) {
   MaakBoom();
   addWidget(boom_);
   addWidget(kolom_);
@@ -70,7 +71,9 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
                              : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
   });
   application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
-  bestand_->Bewerkingen().Failed.Connect([this](const StoreFailure& mislukt) {
+  bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
+    // The edit is undone, as no replay would do.
+    opname.Breek();
     PlanHerbinden();
     if (mislukt.told == Told::Yes) return;
     QMetaObject::invokeMethod(this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);

@@ -18,6 +18,7 @@ class QTreeView;
 namespace brivane::dossier {
 
 struct Acties;
+class Opname;
 
 /// An open loan file on the screen: its loans and columns on the left, the column on the right.
 ///
@@ -27,9 +28,9 @@ class Dossierscherm final : public QSplitter {
   Q_OBJECT
 
  public:
-  /// `hoofdvenster` owns the editor's modal forms; `logboek` outlives the screen.
+  /// `hoofdvenster` owns the editor's modal forms; `logboek` and `opname` outlive the screen.
   Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
-                Logboek& logboek, QWidget* parent = nullptr);
+                Logboek& logboek, Opname& opname, QWidget* parent = nullptr);
   ~Dossierscherm() override;
 
   [[nodiscard]] const DossierBestand& Bestand() const { return *bestand_; }

@@ -57,7 +57,7 @@ bool Hoofdvenster::Open(const QString& bestand) {
 
 void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
   Instellingen::SetLaatsteBestand(bestand->Pad());
-  scherm_ = new Dossierscherm(std::move(bestand), eigenaar_, logboek_);
+  scherm_ = new Dossierscherm(std::move(bestand), eigenaar_, logboek_, opname_);
   stapel_->addWidget(scherm_);
   stapel_->setCurrentWidget(scherm_);
   scherm_->restoreState(Instellingen::Verdeling());
@@ -86,6 +86,8 @@ bool Hoofdvenster::SluitDossier() {
   if (!scherm_) return true;
   if (!scherm_->MagVerlaten()) return false;
   Instellingen::SetVerdeling(scherm_->saveState());
+  StopOpname();
+  opname_.LaatLos();
   delete scherm_;
   bevindingen_->Leeg();
   bestandsnaam_->clear();

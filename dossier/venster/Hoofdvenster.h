@@ -6,6 +6,7 @@
 
 #include "dossier/venster/Acties.h"
 #include "dossier/venster/Dossierscherm.h"
+#include "dossier/venster/Opname.h"
 
 class QLabel;
 class QStackedWidget;
@@ -39,6 +40,11 @@ class Hoofdvenster final : public QMainWindow {
   [[nodiscard]] Dossierscherm* Scherm() const { return scherm_; }
   [[nodiscard]] const Acties& Opdrachten() const { return acties_; }
 
+  /// Opens the file anew and records what is done in its columns, until it is closed or the recording stopped.
+  bool NeemOp(const QString& bestand);
+  /// Ends the recording, if any, and writes it.
+  void StopOpname();
+
  protected:
   void closeEvent(QCloseEvent* event) override;
 
@@ -51,6 +57,8 @@ class Hoofdvenster final : public QMainWindow {
   void VraagLening();
   void Controleer();
   void ToonOver();
+  void VraagOpname();
+  void OpnameGebroken();
   [[nodiscard]] QString VraagNieuwBestand(const QString& titel, const QString& naam);
   void WerkActiesBij();
   void VulLeningmenus();
@@ -62,6 +70,7 @@ class Hoofdvenster final : public QMainWindow {
   Startpagina* start_;
   Bevindingenlijst* bevindingen_;
   QLabel* bestandsnaam_;
+  Opname opname_;
   QPointer<Dossierscherm> scherm_;
 };
 

@@ -38,6 +38,7 @@ void Hoofdvenster::Verbind() {
   doe(acties_.client, [this] { VraagClient(); });
   doe(acties_.leningToevoegen, [this] { VraagLening(); });
   doe(acties_.controleren, [this] { Controleer(); });
+  doe(acties_.opnemen, [this] { acties_.opnemen->isChecked() ? VraagOpname() : StopOpname(); });
   doe(acties_.logboek, [this] { Logboekvenster(logboek_, this).exec(); });
   doe(acties_.over, [this] { ToonOver(); });
   bevindingen_->gekozen = [this](const Plek& plek) {

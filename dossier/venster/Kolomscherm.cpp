@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "dossier/venster/Kopregel.h"
+#include "dossier/venster/Opname.h"
 #include "frame/Handle.h"
 #include "toolkits/qt/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
@@ -13,8 +14,8 @@
 namespace brivane::dossier {
 
 Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories,
-                         QWidget* parent)
-    : QStackedWidget(parent), application_(std::move(application)) {
+                         Opname& opname, QWidget* parent)
+    : QStackedWidget(parent), application_(std::move(application)), opname_(opname) {
   auto* uitleg = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
   uitleg->setAlignment(Qt::AlignCenter);
   uitleg->setWordWrap(true);
@@ -22,6 +23,7 @@ Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::H
 
   editor_ = new qt::VrijeKolomWidget;
   editor_->setObjectName(QStringLiteral("editor"));
+  opname_.Begin(application_->Bestand(), *editor_);
   editor_->SetHostFactories(factories);
   auto* vlak = new QWidget;
   auto* stapel = new QVBoxLayout(vlak);
@@ -56,8 +58,10 @@ void Kolomscherm::Toon(const Plek& plek) {
   }
   setCurrentWidget(kolom_);
   // Proposals end budget items of the current situation; the new one has them as its own.
-  editor_->SetBeeindigenZichtbaar(plek.Len_Id == Dossier::kHuidig);
-  editor_->SetApplication(application_, plek.Len_Id, *plek.Vrij_Id);
+  const bool voorstellen = plek.Len_Id == Dossier::kHuidig;
+  opname_.Doe(replay::BeeindigenStep{voorstellen}, [&] { editor_->SetBeeindigenZichtbaar(voorstellen); });
+  opname_.Doe(replay::BindStep{plek.Len_Id, *plek.Vrij_Id},
+              [&] { editor_->SetApplication(application_, plek.Len_Id, *plek.Vrij_Id); });
   VernieuwKop();
 }
 
@@ -72,7 +76,7 @@ bool Kolomscherm::MagVerlaten() {
   if (!plek_.Vrij_Id) return true;
   if (!editor_->CommitPending()) return false;
   bool cancel = false;
-  editor_->Validation(cancel);
+  opname_.Doe(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
   if (cancel) FocusGeweigerd();
   return !cancel;
 }

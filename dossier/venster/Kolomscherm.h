@@ -10,12 +10,14 @@
 namespace brivane::dossier {
 
 class Kopregel;
+class Opname;
 
 /// One free column on the screen: its header text above the editor, which is as high as it says. Where the
 /// window is smaller it scrolls.
 class Kolomscherm final : public QStackedWidget {
  public:
-  Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories,
+  /// `opname` outlives the screen.
+  Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories, Opname& opname,
               QWidget* parent = nullptr);
 
   /// Binds the editor to a column; for a loan without one a hint is shown in its place.
@@ -42,6 +44,7 @@ class Kolomscherm final : public QStackedWidget {
   void FocusGeweigerd();
 
   std::shared_ptr<Application> application_;
+  Opname& opname_;
   Plek plek_;
   QWidget* leeg_;
   QWidget* kolom_;
