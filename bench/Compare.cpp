@@ -49,9 +49,11 @@ class Fastest : public benchmark::BenchmarkReporter {
 
 void Print(const Entry& entry, double measured, double yardstick) {
   const double ratio = measured / yardstick;
-  std::printf("%-38s %s %12.1f ns   %s %12.1f ns   ratio %5.2f   aim %.1f%s\n", entry.name.c_str(),
-              entry.question.measured, measured, entry.question.yardstick, yardstick, ratio, entry.question.aim,
-              ratio > entry.question.aim ? "   MISSED" : "");
+  std::printf("%-38s %s %12.1f ns   %s %12.1f ns   ratio %5.2f", entry.name.c_str(), entry.question.measured, measured,
+              entry.question.yardstick, yardstick, ratio);
+  if (entry.question.aim > 0)
+    std::printf("   aim %.1f%s", entry.question.aim, ratio > entry.question.aim ? "   MISSED" : "");
+  std::printf("\n");
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace bench {
 struct Question {
   const char* measured;   ///< what our side is
   const char* yardstick;  ///< what it is a multiple of
-  double aim;             ///< largest ratio aimed at
+  double aim;             ///< largest ratio aimed at; 0 where there is none
 };
 
 namespace detail {

@@ -49,10 +49,11 @@ struct Periode final : host::Periode {
 
 struct BedragObject final : host::BedragObject {
   double basisbedrag = 0;
+  std::int16_t invoersoort = 1;
   std::vector<std::shared_ptr<memory::Periode>> periodes;
 
   std::string Naam() const override { return "Vrije kolom"; }
-  std::int16_t Invoersoort() const override { return 1; }
+  std::int16_t Invoersoort() const override { return invoersoort; }
   double Basisbedrag() const override { return basisbedrag; }
   void SetBasisbedrag(double value) override { basisbedrag = value; }
   double Bedrag() const override { return basisbedrag; }
