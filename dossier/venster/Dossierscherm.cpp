@@ -125,6 +125,14 @@ void Dossierscherm::MaakBoom() {
   boom_->setDefaultDropAction(Qt::MoveAction);
   boom_->setTextElideMode(Qt::ElideRight);
   boom_->setContextMenuPolicy(Qt::ActionsContextMenu);
+  // A click takes the focus once the column has been left: a box that refuses keeps it, and says so once.
+  boom_->setFocusPolicy(Qt::TabFocus);
+  connect(boom_, &QTreeView::clicked, this, [this](const QModelIndex& index) {
+    const auto pak = [this, plek = model_->PlekVan(index)] {
+      if (plek == Getoond()) boom_->setFocus(Qt::MouseFocusReason);
+    };
+    QMetaObject::invokeMethod(this, pak, Qt::QueuedConnection);
+  });
   boom_->setMinimumWidth(boom_->fontMetrics().averageCharWidth() * 24);
   connect(boom_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
     // Out of the view's own event, which a message box would hold up.

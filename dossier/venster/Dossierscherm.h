@@ -8,9 +8,9 @@
 
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierBestand.h"
+#include "dossier/store/Scenarioopslag.h"
 #include "dossier/venster/Kolommenmodel.h"
 #include "dossier/venster/Kolomscherm.h"
-#include "dossier/store/Scenarioopslag.h"
 #include "dossier/venster/Traceerlog.h"
 
 class QTreeView;

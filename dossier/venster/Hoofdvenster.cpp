@@ -13,6 +13,7 @@
 #include "dossier/venster/Instellingen.h"
 #include "dossier/venster/Melding.h"
 #include "dossier/venster/Startpagina.h"
+#include "toolkits/qt/FormWindow.h"
 
 namespace brivane::dossier {
 namespace {
@@ -25,6 +26,7 @@ constexpr QSize kEersteMaat{1220, 760};
 Hoofdvenster::Hoofdvenster(Logboek& logboek)
     : logboek_(logboek),
       acties_(*this),
+      eigenaar_(std::make_shared<qt::Hoofdvenster>(this)),
       stapel_(new QStackedWidget),
       start_(new Startpagina({acties_.nieuw, acties_.openen, acties_.voorbeeld})),
       bevindingen_(new Bevindingenlijst(this)),
@@ -45,9 +47,12 @@ Hoofdvenster::Hoofdvenster(Logboek& logboek)
 Hoofdvenster::~Hoofdvenster() = default;
 
 bool Hoofdvenster::Open(const QString& bestand) {
-  if (!SluitDossier()) return false;
+  if (scherm_ && !scherm_->MagVerlaten()) return false;
+  if (scherm_ && QFileInfo(scherm_->Bestand().Pad()) == QFileInfo(bestand)) return true;
   try {
-    Toon(DossierBestand::Open(bestand));
+    std::unique_ptr<DossierBestand> geopend = DossierBestand::Open(bestand);
+    if (!SluitDossier()) return false;
+    Toon(std::move(geopend));
   } catch (const OpeningError& fout) {
     ToonMelding(this, QStringLiteral("Dossier openen"), fout.Melding());
     return false;
@@ -72,7 +77,7 @@ void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
 }
 
 bool Hoofdvenster::Maak(const QString& bestand, const DossierGegevens& gegevens) {
-  if (!SluitDossier()) return false;
+  if (scherm_ && !scherm_->MagVerlaten()) return false;
   try {
     DossierBestand::Maak(bestand, gegevens);
   } catch (const OpeningError& fout) {

@@ -1,6 +1,7 @@
 #include "dossier/venster/Kolomscherm.h"
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
@@ -86,16 +87,22 @@ void Kolomscherm::FocusGeweigerd() {
   host::TextBox& aanvang = vakken[vrijekolom::TxtDtAanvang];
   // The editor refuses an empty start date before it looks at the end date.
   if (aanvang.DateValue().IsNone()) {
-    aanvang.SetFocus();
+    ZetFocus(aanvang);
   } else {
-    vakken[vrijekolom::TxtDtEind].SetFocus();
+    ZetFocus(vakken[vrijekolom::TxtDtEind]);
   }
 }
 
-void Kolomscherm::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrijekolom::TxtOm].SetFocus(); }
+void Kolomscherm::FocusOmschrijving() { ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
 
 void Kolomscherm::FocusEerste() {
-  if (plek_.Vrij_Id) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
+  if (plek_.Vrij_Id) ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);
+}
+
+void Kolomscherm::ZetFocus(host::TextBox& vak) {
+  vak.SetFocus();
+  // As when Tab leads there: what is typed takes the place of what stands there.
+  if (auto* regel = qobject_cast<QLineEdit*>(focusWidget())) regel->selectAll();
 }
 
 bool Kolomscherm::HeeftFocus() const {

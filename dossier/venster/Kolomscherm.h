@@ -42,6 +42,7 @@ class Kolomscherm final : public QStackedWidget {
 
  private:
   void FocusGeweigerd();
+  void ZetFocus(host::TextBox& vak);
 
   std::shared_ptr<Application> application_;
   Opname& opname_;

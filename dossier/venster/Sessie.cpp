@@ -57,7 +57,6 @@ class Sessie {
     Overlijden();
     NieuweKolom();
     Scenario();
-    Moet(venster_.SluitDossier(), "closing the file");
   }
 
  private:
@@ -92,6 +91,7 @@ class Sessie {
   /// Left too early it is refused: a column needs a start date.
   void NieuweKolom() {
     Moet(scherm_.VoegToe(), "adding a column");
+    QApplication::processEvents();
     const Plek nieuw = scherm_.Getoond();
     Doe("TxtOm", Enter{std::string("Contributie fotoclub")});
     Doe("TxtBd", Enter{27.5});
@@ -193,6 +193,7 @@ QString SpeelSessie(const QString& uitvoermap, const QString& bestand) {
   try {
     venster.Toon(DossierBestand::Open(bestand));
     Sessie(venster, QDir(uitvoermap)).Speel();
+    if (!venster.SluitDossier()) return QStringLiteral("not done: closing the file");
   } catch (const std::exception& fout) {
     return QString::fromUtf8(fout.what());
   }

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTimer>
+#include <deque>
+#include <functional>
+
+namespace brivane::dossier {
+
+/// Plays the person in front of the modal windows that are to come: each handler gets the next one, in its
+/// event loop. A window that nobody expected fails the test and is closed.
+class Dialogen {
+ public:
+  using Behandeling = std::function<void(QWidget& venster)>;
+
+  Dialogen() {
+    QObject::connect(&klok_, &QTimer::timeout, [this] { Kijk(); });
+    klok_.start(5);
+  }
+  ~Dialogen() { EXPECT_TRUE(wachtrij_.empty()) << wachtrij_.size() << " windows never came"; }
+  Dialogen(const Dialogen&) = delete;
+  Dialogen& operator=(const Dialogen&) = delete;
+
+  void Verwacht(Behandeling behandeling) { wachtrij_.push_back(std::move(behandeling)); }
+  /// Expects a message box with this text in it.
+  void VerwachtMelding(const QString& tekst, Behandeling antwoord) {
+    Verwacht([tekst, antwoord](QWidget& venster) {
+      const auto* bericht = qobject_cast<QMessageBox*>(&venster);
+      EXPECT_TRUE(bericht && bericht->text().contains(tekst))
+          << qPrintable(tekst) << " expected, not " << (bericht ? qPrintable(bericht->text()) : "another window");
+      antwoord(venster);
+    });
+  }
+
+ private:
+  void Kijk() {
+    QWidget* venster = QApplication::activeModalWidget();
+    if (venster == nullptr || venster == behandeld_ || !venster->isVisible()) return;
+    if (!venster->isActiveWindow()) {
+      venster->activateWindow();
+      return;
+    }
+    behandeld_ = venster;
+    if (wachtrij_.empty()) {
+      const auto* bericht = qobject_cast<QMessageBox*>(venster);
+      ADD_FAILURE() << "unexpected window: " << qPrintable(venster->windowTitle()) << ": "
+                    << (bericht ? qPrintable(bericht->text()) : "");
+      venster->close();
+      return;
+    }
+    const Behandeling behandeling = std::move(wachtrij_.front());
+    wachtrij_.pop_front();
+    behandeling(*venster);
+  }
+
+  QTimer klok_;
+  std::deque<Behandeling> wachtrij_;
+  QPointer<QWidget> behandeld_;  ///< null again when it is gone: the next one may take its address
+};
+
+}  // namespace brivane::dossier
