@@ -52,9 +52,9 @@ class Dialogen {
       venster->close();
       return;
     }
-    const Behandeling behandeling = std::move(wachtrij_.front());
+    // Out of the clock's own event: what the handler does may open another window.
+    QTimer::singleShot(0, venster, [behandeling = std::move(wachtrij_.front()), venster] { behandeling(*venster); });
     wachtrij_.pop_front();
-    behandeling(*venster);
   }
 
   QTimer klok_;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QJsonObject>
 #include <QTemporaryDir>
@@ -74,16 +75,18 @@ class Venstertest : public testing::Test {
   }
   /// Presses Tab until the focus is in what a screen reader calls that.
   static void TabNaar(const QString& naam) {
-    for (int keer = 0; keer < 80; ++keer) {
-      if (const QWidget* focus = QApplication::focusWidget(); focus && focus->accessibleName() == naam) return;
+    for (int keer = 0; keer < 200; ++keer) {
+      if (Focus() == naam) return;
       Toets(Qt::Key_Tab);
     }
     FAIL() << "Tab leads to no " << qPrintable(naam);
   }
+  /// What a screen reader calls the control that has the focus.
   [[nodiscard]] static QString Focus() {
     static_cast<void>(FocusVenster());
-    const QWidget* focus = QApplication::focusWidget();
-    return focus ? focus->accessibleName() : QString();
+    QWidget* focus = QApplication::focusWidget();
+    QAccessibleInterface* voorlezer = focus ? QAccessible::queryAccessibleInterface(focus) : nullptr;
+    return voorlezer ? voorlezer->text(QAccessible::Name) : QString();
   }
 
   QTemporaryDir map_;
