@@ -81,7 +81,7 @@ OpeningProblem Probleem(const DatabaseError& error) {
 
 }  // namespace
 
-DossierBestand::DossierBestand(const QString& pad) : pad_(QFileInfo(pad).absoluteFilePath()) {
+DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
   try {
     ControleerBestand(pad_);
     std::unique_ptr<Database> database = OpenOmTeWerken(pad_);
@@ -100,7 +100,9 @@ DossierBestand::DossierBestand(const QString& pad) : pad_(QFileInfo(pad).absolut
   }
 }
 
-std::unique_ptr<DossierBestand> DossierBestand::Open(const QString& pad) {
+std::unique_ptr<DossierBestand> DossierBestand::Open(const QString& naam) {
+  // The name under which the file is given free again.
+  const QString pad = QFileInfo(naam).absoluteFilePath();
   if (!OpenFiles::Instance().Add(pad)) throw OpeningError(OpeningProblem::InUse, pad);
   try {
     return std::unique_ptr<DossierBestand>(new DossierBestand(pad));

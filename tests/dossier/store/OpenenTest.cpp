@@ -285,5 +285,13 @@ TEST(Maken, LeavesNothingBesideTheFile) {
   EXPECT_EQ(DossierBestand::Open(pad)->ControleerHeelheid(), QStringList());
 }
 
+TEST(Openen, AFileThatWasOpenedUnderARelativeNameIsFreeAfterIt) {
+  const Map map;
+  const QString naam = QDir::current().relativeFilePath(map.Maak());
+  ASSERT_TRUE(QFileInfo(naam).isRelative());
+  static_cast<void>(DossierBestand::Open(naam));
+  EXPECT_EQ(ProbleemBijOpenen(naam), std::nullopt);
+}
+
 }  // namespace
 }  // namespace brivane::dossier
