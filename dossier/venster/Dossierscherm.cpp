@@ -60,8 +60,9 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
   setStretchFactor(0, 0);
   setStretchFactor(1, 1);
   setChildrenCollapsible(false);
-  resize(2 * kBoomTekens * boom_->fontMetrics().averageCharWidth(), height());
-  setSizes({width() / 2, width() / 2});
+  const int boomBreed = kBoomTekens * boom_->fontMetrics().averageCharWidth();
+  resize(boomBreed + kolom_->sizeHint().width(), height());
+  setSizes({boomBreed, width() - boomBreed});
 
   scenarioopslag_ =
       std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(), bestand_->Bewerkingen());
@@ -108,10 +109,12 @@ Dossierscherm::~Dossierscherm() {
 host::HostFactories Dossierscherm::Fabrieken() {
   return {.MaakProcedureTrace =
               [this](std::string_view control) { return bestand_->MaakTrace(control, traceerlog_); },
-          .MaakDossierControle =
-              [](std::string_view) {
-                return std::make_shared<DossierControle>([] { return Vandaag(); });
-              }};
+          .MaakDossierControle = [this](std::string_view) {
+            auto controle = std::make_shared<DossierControle>([] { return Vandaag(); });
+            controle->Gecontroleerd.Connect(
+                [this](const std::vector<Bevinding>& bevindingen) { emit aandachtspunten(bevindingen.size()); });
+            return controle;
+          }};
 }
 
 void Dossierscherm::MaakBoom() {

@@ -69,6 +69,8 @@ class Dossierscherm final : public QSplitter {
   void plekGewijzigd();
   /// A change is in the file.
   void opgeslagen();
+  /// The host's check after a column was left: how many things there are to look at.
+  void aandachtspunten(std::size_t aantal);
 
  private:
   host::HostFactories Fabrieken();

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
+#include <QScreen>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -30,15 +31,18 @@ Hoofdvenster::Hoofdvenster(Logboek& logboek)
       stapel_(new QStackedWidget),
       start_(new Startpagina({acties_.nieuw, acties_.openen, acties_.voorbeeld})),
       bevindingen_(new Bevindingenlijst(this)),
+      aandachtspunten_(new QLabel),
       bestandsnaam_(new QLabel) {
   setObjectName(QStringLiteral("hoofdvenster"));
   stapel_->addWidget(start_);
   setCentralWidget(stapel_);
   addDockWidget(Qt::BottomDockWidgetArea, bevindingen_);
   bevindingen_->hide();
+  aandachtspunten_->setObjectName(QStringLiteral("aandachtspunten"));
+  statusBar()->addPermanentWidget(aandachtspunten_);
   statusBar()->addPermanentWidget(bestandsnaam_);
   Verbind();
-  resize(kEersteMaat);
+  resize(kEersteMaat.boundedTo(screen()->availableSize()));
   restoreGeometry(Instellingen::Vensterplaats());
   WerkActiesBij();
   start_->setFocus();
@@ -69,6 +73,7 @@ void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
   connect(scherm_, &Dossierscherm::plekGewijzigd, this, &Hoofdvenster::WerkActiesBij);
   connect(scherm_, &Dossierscherm::opgeslagen, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMeldingstijd); });
+  connect(scherm_, &Dossierscherm::aandachtspunten, this, &Hoofdvenster::ToonAandachtspunten);
   scherm_->ZetBoomacties(acties_);
   bestandsnaam_->setText(QDir::toNativeSeparators(scherm_->Bestand().Pad()));
   setWindowTitle(QFileInfo(scherm_->Bestand().Pad()).completeBaseName());
@@ -96,11 +101,16 @@ bool Hoofdvenster::SluitDossier() {
   delete scherm_;
   bevindingen_->Leeg();
   bestandsnaam_->clear();
+  ToonAandachtspunten(0);
   setWindowTitle(QString());
   statusBar()->clearMessage();
   WerkActiesBij();
   start_->setFocus();
   return true;
+}
+
+void Hoofdvenster::ToonAandachtspunten(std::size_t aantal) {
+  aandachtspunten_->setText(aantal == 0 ? QString() : QStringLiteral("Aandachtspunten: %1 (F7)").arg(aantal));
 }
 
 void Hoofdvenster::closeEvent(QCloseEvent* event) {

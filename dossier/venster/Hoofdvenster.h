@@ -60,6 +60,7 @@ class Hoofdvenster final : public QMainWindow {
   void VraagOpname();
   void OpnameGebroken();
   [[nodiscard]] QString VraagNieuwBestand(const QString& titel, const QString& naam);
+  void ToonAandachtspunten(std::size_t aantal);
   void WerkActiesBij();
   void VulLeningmenus();
 
@@ -69,6 +70,7 @@ class Hoofdvenster final : public QMainWindow {
   QStackedWidget* stapel_;
   Startpagina* start_;
   Bevindingenlijst* bevindingen_;
+  QLabel* aandachtspunten_;
   QLabel* bestandsnaam_;
   Opname opname_;
   QPointer<Dossierscherm> scherm_;

@@ -70,6 +70,26 @@ TEST_F(Fout, EenKolomDieNietIsOpgeslagenKomtNietInDeBoom) {
   EXPECT_FALSE(Scherm().Gegevens().ZoekKolom(0, 8));
 }
 
+TEST_F(Fout, EenScenarioDatNietIsOpgeslagenIsErNietMeer) {
+  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
+  bool klaar = false;
+  dialogen_.Verwacht([&](QWidget& formulier) {
+    TabNaar("Bedrag jaar 4");
+    Typ("400");
+    Toets(Qt::Key_Return);
+    dialogen_.VerwachtMelding("Er is een fout opgetreden.", Druk(Qt::Key_Return));
+    OpVolleSchijf([&] {
+      QTest::keyClick(FocusVenster(), Qt::Key_O, Qt::AltModifier);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !formulier.isVisible(); }, 5000));
+    });
+    klaar = true;
+  });
+  Toets(Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return klaar && !QApplication::activeModalWidget(); }, 10000));
+  EXPECT_TRUE(Kolom(0, 3).Bedrag.Perioden.empty());
+  EXPECT_FALSE(LeesNaSluiten().contains("0/3/periode 1/maand"));
+}
+
 TEST_F(Fout, EenFoutVanHetOnderdeelWordtEenKeerGemeld) {
   // The age limit is asked for a partner who is gone.
   std::vector<PersoonGegevens> personen = Scherm().Gegevens().Personen();
