@@ -18,7 +18,7 @@
 namespace brivane::dossier {
 namespace {
 
-constexpr int kBoomTekens = 44;  ///< width of the tree at first, in characters
+constexpr int kBoomTekens = 58;  ///< width of the tree at first, in characters
 constexpr char kObjectNaam[] = "Dossier";
 constexpr char kObjectOmschrijving[] = "Dossier";
 

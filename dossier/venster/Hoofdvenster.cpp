@@ -20,7 +20,6 @@ namespace brivane::dossier {
 namespace {
 
 constexpr int kMeldingstijd = 4000;  ///< milliseconds
-constexpr QSize kEersteMaat{1220, 760};
 
 }  // namespace
 

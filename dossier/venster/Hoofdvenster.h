@@ -23,6 +23,9 @@ class Hoofdvenster final : public QMainWindow {
   Q_OBJECT
 
  public:
+  /// Size at the very first start, where the screen is large enough: the editor fits without scrolling.
+  static constexpr QSize kEersteMaat{1220, 760};
+
   /// `logboek` outlives the window.
   explicit Hoofdvenster(Logboek& logboek);
   ~Hoofdvenster() override;

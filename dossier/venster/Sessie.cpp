@@ -189,6 +189,8 @@ QString SpeelSessie(const QString& uitvoermap, const QString& bestand) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, terzijde.path());
   Logboek logboek(terzijde.filePath(QStringLiteral("logboek")));
   Hoofdvenster venster(logboek);
+  // Pictures are alike on every machine, whatever its screen.
+  venster.resize(Hoofdvenster::kEersteMaat);
   venster.show();
   try {
     venster.Toon(DossierBestand::Open(bestand));

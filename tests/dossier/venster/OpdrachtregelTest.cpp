@@ -83,6 +83,9 @@ TEST(Opdrachtregel, DeSessieLaatBeeldenEnEenTranscriptAchter) {
     const QImage donker(uit.filePath(QStringLiteral("%1-dark.png").arg(naam)));
     EXPECT_FALSE(licht.isNull()) << naam;
     EXPECT_EQ(licht.size(), donker.size());
+    if (QByteArray(naam) != "scenario") {
+      EXPECT_EQ(licht.size(), Hoofdvenster::kEersteMaat);
+    }
     // A corner of the window's background.
     EXPECT_GT(licht.pixelColor(5, licht.height() - 5).lightness(), 200) << naam;
     EXPECT_LT(donker.pixelColor(5, donker.height() - 5).lightness(), 100) << naam;
