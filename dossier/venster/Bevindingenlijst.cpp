@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QShortcut>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -39,6 +40,10 @@ Bevindingenlijst::Bevindingenlijst(QWidget* parent) : QDockWidget(QStringLiteral
     const auto getal = [&](int rol) { return static_cast<std::int16_t>(regel->data(0, rol).toInt()); };
     if (gekozen) gekozen({getal(kLenRol), getal(kVrijRol)});
   });
+
+  auto* weg = new QShortcut(Qt::Key_Escape, this);
+  weg->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(weg, &QShortcut::activated, this, &QWidget::hide);
 
   auto* inhoud = new QWidget;
   auto* indeling = new QVBoxLayout(inhoud);

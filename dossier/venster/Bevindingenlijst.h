@@ -12,7 +12,8 @@ class QTreeWidget;
 
 namespace brivane::dossier {
 
-/// What a check of the case found, below the window; a double click or Enter goes to the column.
+/// What a check of the case found, below the window; a double click or Enter goes to the column, and
+/// Escape puts the list away.
 class Bevindingenlijst final : public QDockWidget {
  public:
   explicit Bevindingenlijst(QWidget* parent);

@@ -17,6 +17,7 @@ namespace brivane::dossier {
 namespace {
 
 constexpr char kFilter[] = "Dossiers (*.dossier)";
+constexpr int kLijstRegels = 9;  ///< height of the list of findings at first
 constexpr char kAchtervoegsel[] = "dossier";
 
 }  // namespace
@@ -104,7 +105,10 @@ void Hoofdvenster::VraagLening() {
 
 void Hoofdvenster::Controleer() {
   const auto bevindingen = scherm_->Controleer();
-  if (bevindingen) bevindingen_->Toon(scherm_->Gegevens(), *bevindingen);
+  if (!bevindingen) return;
+  bevindingen_->Toon(scherm_->Gegevens(), *bevindingen);
+  // The editor above it stays whole.
+  resizeDocks({bevindingen_}, {fontMetrics().height() * kLijstRegels}, Qt::Vertical);
 }
 
 void Hoofdvenster::ToonOver() {

@@ -92,6 +92,17 @@ TEST_F(Controlelijst, F7ToontDeBevindingenEnEnterGaatNaarDeKolom) {
             was.HuidigeLening.VrijeKolommen[1].Omschrijving);
 }
 
+TEST_F(Controlelijst, EscapeRuimtDeLijstOp) {
+  bestand_ = map_.filePath("fouten.dossier");
+  DossierBestand::Maak(bestand_, MetFouten());
+  Open();
+  Toets(Qt::Key_F7);
+  const auto* lijst = venster_->findChild<QTreeWidget*>("bevindingenlijst");
+  ASSERT_TRUE(lijst && lijst->hasFocus());
+  Toets(Qt::Key_Escape);
+  EXPECT_FALSE(lijst->isVisible());
+}
+
 TEST_F(Controlelijst, VindtInHetVoorbeeldNiets) {
   Open();
   const auto bevindingen = Scherm().Controleer();
