@@ -57,9 +57,9 @@ void Bevindingenlijst::Toon(const Dossier& dossier, const std::vector<Bevinding>
   QList<QTreeWidgetItem*> regels;
   for (const Bevinding& bevinding : bevindingen) {
     const auto kolom = dossier.ZoekKolom(bevinding.Len_Id, bevinding.Vrij_Id);
-    auto* regel = new QTreeWidgetItem(
-        {LeningTekst(dossier, bevinding.Len_Id), kolom ? QString::fromStdString(kolom->Kopregel()) : QString(),
-         QString::fromStdString(bevinding.tekst)});
+    auto* regel = new QTreeWidgetItem({LeningTekst(dossier, bevinding.Len_Id),
+                                       kolom ? QString::fromStdString(kolom->Kopregel()) : QString(),
+                                       QString::fromStdString(bevinding.tekst)});
     regel->setData(0, kLenRol, bevinding.Len_Id);
     regel->setData(0, kVrijRol, bevinding.Vrij_Id);
     regels.push_back(regel);

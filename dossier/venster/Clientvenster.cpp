@@ -21,7 +21,9 @@ constexpr std::size_t kAchternaam = 2;
 constexpr int kLaagsteLeeftijd = 1;
 constexpr int kHoogsteLeeftijd = 120;
 
-entry::Reading<host::Date> LeesDatum(const QLineEdit& vak) { return entry::ReadDate(vak.text().toStdString()); }
+entry::Reading<host::Date> LeesDatum(const QLineEdit& vak) {
+  return entry::ReadDate(vak.text().toStdString());
+}
 
 }  // namespace
 

@@ -1,14 +1,10 @@
 #include "dossier/venster/Dossierscherm.h"
 
 #include <QApplication>
-#include <QMenu>
-#include <QShortcut>
 #include <QTimer>
-#include <QTreeView>
 #include <algorithm>
 #include <utility>
 
-#include "dossier/venster/Acties.h"
 #include "dossier/venster/Controle.h"
 #include "dossier/venster/Melding.h"
 #include "dossier/venster/Opname.h"
@@ -51,10 +47,8 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
       traceerlog_(std::make_shared<Traceerlog>(logboek)),
       bestand_(std::move(bestand)),
       application_(std::make_shared<Application>(bestand_->Dossier(), std::move(hoofdvenster))),
-      model_(new Kolommenmodel(this)),
-      boom_(new QTreeView),
+      boom_(new Kolommenboom(bestand_->Dossier())),
       kolom_(new Kolomscherm(application_, Fabrieken(), opname)) {
-  MaakBoom();
   addWidget(boom_);
   addWidget(kolom_);
   setStretchFactor(0, 0);
@@ -64,35 +58,9 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
   resize(boomBreed + kolom_->sizeHint().width(), height());
   setSizes({boomBreed, width() - boomBreed});
 
-  scenarioopslag_ =
-      std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(), bestand_->Bewerkingen());
-  kolom_->Editor().SetFailureListener([this](const std::exception& fout) {
-    const auto* eigen = dynamic_cast<const host::Error*>(&fout);
-    MeldFout(RecordVan(eigen ? *eigen
-                             : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
-  });
-  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
-  bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
-    // The edit is undone, as no replay would do.
-    opname.Breek();
-    PlanHerbinden();
-    if (mislukt.told == Told::Yes) return;
-    QMetaObject::invokeMethod(this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);
-  });
-  bestand_->Bewerkingen().Stored.Connect([this] {
-    // The memory follows the file: only then do the texts show the change.
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          kolom_->VernieuwKop();
-          model_->HertekenTekst(Getoond());
-          emit opgeslagen();
-        },
-        Qt::QueuedConnection);
-  });
-
-  model_->Toon(bestand_->Dossier());
-  boom_->expandAll();
+  scenarioopslag_ = std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(),
+                                                     bestand_->Bewerkingen());
+  Verbind(opname);
   const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
   Toon(kolommen.empty() ? Plek{} : kolommen.front());
 }
@@ -107,60 +75,53 @@ Dossierscherm::~Dossierscherm() {
 }
 
 host::HostFactories Dossierscherm::Fabrieken() {
-  return {.MaakProcedureTrace =
-              [this](std::string_view control) { return bestand_->MaakTrace(control, traceerlog_); },
-          .MaakDossierControle = [this](std::string_view) {
-            auto controle = std::make_shared<DossierControle>([] { return Vandaag(); });
-            controle->Gecontroleerd.Connect(
-                [this](const std::vector<Bevinding>& bevindingen) { emit aandachtspunten(bevindingen.size()); });
-            return controle;
-          }};
+  return {.MaakProcedureTrace = [this](std::string_view control) { return bestand_->MaakTrace(control, traceerlog_); },
+          .MaakDossierControle =
+              [this](std::string_view) {
+                auto controle = std::make_shared<DossierControle>([] { return Vandaag(); });
+                controle->Gecontroleerd.Connect(
+                    [this](const std::vector<Bevinding>& bevindingen) { emit aandachtspunten(bevindingen.size()); });
+                return controle;
+              }};
 }
 
-void Dossierscherm::MaakBoom() {
-  boom_->setObjectName(QStringLiteral("kolommen"));
-  boom_->setAccessibleName(QStringLiteral("Leningen en vrije kolommen"));
-  boom_->setModel(model_);
-  boom_->setHeaderHidden(true);
-  boom_->setUniformRowHeights(true);
-  boom_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  boom_->setDragDropMode(QAbstractItemView::DragDrop);
-  boom_->setDefaultDropAction(Qt::MoveAction);
-  boom_->setTextElideMode(Qt::ElideRight);
-  boom_->setContextMenuPolicy(Qt::ActionsContextMenu);
-  // A click takes the focus once the column has been left: a box that refuses keeps it, and says so once.
-  boom_->setFocusPolicy(Qt::TabFocus);
-  connect(boom_, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-    const auto pak = [this, plek = model_->PlekVan(index)] {
-      if (plek == Getoond()) boom_->setFocus(Qt::MouseFocusReason);
-    };
-    QMetaObject::invokeMethod(this, pak, Qt::QueuedConnection);
-  });
-  boom_->setMinimumWidth(boom_->fontMetrics().averageCharWidth() * 24);
-  connect(boom_->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
-    // Out of the view's own event, which a message box would hold up.
-    if (!selecteert_) QMetaObject::invokeMethod(this, &Dossierscherm::VolgBoom, Qt::QueuedConnection);
-  });
-  model_->verplaatsGevraagd = [this](Plek kolom, std::int16_t naarLen_Id) {
-    QMetaObject::invokeMethod(this, [this, kolom, naarLen_Id] { Verplaats(kolom, naarLen_Id); }, Qt::QueuedConnection);
+void Dossierscherm::Verbind(Opname& opname) {
+  boom_->gekozen = [this](const Plek& plek) {
+    if (!verlaat_) GaNaar(plek);
   };
-}
-
-void Dossierscherm::ZetBoomacties(const Acties& acties) {
-  boom_->addActions({acties.toevoegen, acties.dupliceren, acties.verplaatsen->menuAction(), acties.afwijking->menuAction(),
-                     acties.verwijderen});
-  const auto toets = [this](Qt::Key knop, QAction* actie) {
-    auto* sneltoets = new QShortcut(knop, boom_);
-    sneltoets->setContext(Qt::WidgetShortcut);
-    connect(sneltoets, &QShortcut::activated, actie, &QAction::trigger);
+  boom_->aangeklikt = [this](const Plek& plek) {
+    // Only once the column was left.
+    if (plek == Getoond()) boom_->setFocus(Qt::MouseFocusReason);
   };
-  toets(Qt::Key_Insert, acties.toevoegen);
-  toets(Qt::Key_Delete, acties.verwijderen);
-}
+  boom_->gesleept = [this](const Plek& kolom, std::int16_t naarLen_Id) { Verplaats(kolom, naarLen_Id); };
 
-void Dossierscherm::VolgBoom() {
-  if (verlaat_ || !boom_->currentIndex().isValid()) return;
-  GaNaar(model_->PlekVan(boom_->currentIndex()));
+  kolom_->Editor().SetFailureListener([this](const std::exception& fout) {
+    const auto* eigen = dynamic_cast<const host::Error*>(&fout);
+    MeldFout(RecordVan(eigen ? *eigen
+                             : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
+  });
+  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
+  bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
+    // The edit is undone, as no replay would do.
+    opname.Breek();
+    PlanHerbinden();
+    if (mislukt.told == Told::Yes) return;
+    QMetaObject::invokeMethod(
+        this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);
+  });
+  bestand_->Bewerkingen().Stored.Connect([this] {
+    // The memory follows the file: only then do the texts show the change.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          // The answer to a check may have taken columns out of the new situation.
+          Vernieuw();
+          kolom_->VernieuwKop();
+          boom_->HertekenTekst(Getoond());
+          emit opgeslagen();
+        },
+        Qt::QueuedConnection);
+  });
 }
 
 bool Dossierscherm::MagVerlaten() {
@@ -170,7 +131,7 @@ bool Dossierscherm::MagVerlaten() {
   verlaat_ = false;
   // The check may have taken columns out of the new situation.
   Vernieuw();
-  if (!mag) SelecteerGetoond();
+  if (!mag) boom_->Selecteer(Getoond());
   return mag;
 }
 
@@ -245,15 +206,13 @@ bool Dossierscherm::Verwijder() {
   if (!plek.Vrij_Id) return false;
   const auto kolom = Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
   if (!kolom) return false;
-  const QString vraag = QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")
-                            .arg(QString::fromStdString(kolom->Kopregel()));
+  const QString vraag =
+      QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")
+          .arg(QString::fromStdString(kolom->Kopregel()));
   if (Vraag(window(), QStringLiteral("Kolom verwijderen"), vraag, QStringLiteral("&Verwijderen")) == Antwoord::Nee) {
     return false;
   }
-  const QModelIndex volgende = boom_->indexBelow(model_->IndexVan(plek));
-  const QModelIndex vorige = boom_->indexAbove(model_->IndexVan(plek));
-  const QModelIndex buur = model_->PlekVan(volgende).Len_Id == plek.Len_Id && volgende.isValid() ? volgende : vorige;
-  const Plek naar = model_->PlekVan(buur);
+  const Plek naar = boom_->Buur(plek);
   if (!Probeer([&] { Gegevens().Verwijder(plek.Len_Id, *plek.Vrij_Id); })) return false;
   Toon(naar);
   boom_->setFocus(Qt::OtherFocusReason);
@@ -283,25 +242,12 @@ std::optional<std::vector<Bevinding>> Dossierscherm::Controleer() {
 void Dossierscherm::Toon(const Plek& plek) {
   Vernieuw();
   kolom_->Toon(plek);
-  SelecteerGetoond();
+  boom_->Selecteer(Getoond());
   emit plekGewijzigd();
 }
 
-void Dossierscherm::SelecteerGetoond() {
-  selecteert_ = true;
-  boom_->setCurrentIndex(model_->IndexVan(Getoond()));
-  boom_->scrollTo(boom_->currentIndex());
-  selecteert_ = false;
-}
-
 void Dossierscherm::Vernieuw() {
-  selecteert_ = true;
-  if (model_->Vernieuw()) {
-    boom_->expandAll();
-    boom_->setCurrentIndex(model_->IndexVan(Getoond()));
-    emit plekGewijzigd();
-  }
-  selecteert_ = false;
+  if (boom_->Vernieuw(Getoond())) emit plekGewijzigd();
 }
 
 bool Dossierscherm::Probeer(const std::function<void()>& wijziging) {

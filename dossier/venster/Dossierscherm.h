@@ -9,15 +9,12 @@
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierBestand.h"
 #include "dossier/store/Scenarioopslag.h"
-#include "dossier/venster/Kolommenmodel.h"
+#include "dossier/venster/Kolommenboom.h"
 #include "dossier/venster/Kolomscherm.h"
 #include "dossier/venster/Traceerlog.h"
 
-class QTreeView;
-
 namespace brivane::dossier {
 
-struct Acties;
 class Opname;
 
 /// An open loan file on the screen: its loans and columns on the left, the column on the right.
@@ -36,6 +33,7 @@ class Dossierscherm final : public QSplitter {
   [[nodiscard]] const DossierBestand& Bestand() const { return *bestand_; }
   [[nodiscard]] Dossier& Gegevens() { return *bestand_->Dossier(); }
   [[nodiscard]] Kolomscherm& Kolom() { return *kolom_; }
+  [[nodiscard]] Kolommenboom& Boom() { return *boom_; }
   [[nodiscard]] Scenarioopslag& Scenario() { return *scenarioopslag_; }
   /// What is on the screen: a loan, or a column of it.
   [[nodiscard]] const Plek& Getoond() const { return kolom_->Getoond(); }
@@ -61,9 +59,6 @@ class Dossierscherm final : public QSplitter {
   /// that was refused.
   [[nodiscard]] std::optional<std::vector<Bevinding>> Controleer();
 
-  /// Gives the tree its context menu, and the keys that work in the tree alone.
-  void ZetBoomacties(const Acties& acties);
-
  signals:
   /// Another loan or column is shown, or there are others than before.
   void plekGewijzigd();
@@ -74,10 +69,8 @@ class Dossierscherm final : public QSplitter {
 
  private:
   host::HostFactories Fabrieken();
-  void MaakBoom();
-  void VolgBoom();
+  void Verbind(Opname& opname);
   void Toon(const Plek& plek);
-  void SelecteerGetoond();
   void Vernieuw();
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Probeer(const std::function<void()>& wijziging);
@@ -89,12 +82,10 @@ class Dossierscherm final : public QSplitter {
   std::shared_ptr<Traceerlog> traceerlog_;
   std::unique_ptr<DossierBestand> bestand_;
   std::shared_ptr<Application> application_;
-  Kolommenmodel* model_;
-  QTreeView* boom_;
+  Kolommenboom* boom_;
   Kolomscherm* kolom_;
   std::unique_ptr<Scenarioopslag> scenarioopslag_;
   bool verlaat_ = false;    ///< a column is being left: what the tree selects meanwhile is not followed
-  bool selecteert_ = false; ///< code selects in the tree
   bool herbinden_ = false;  ///< memory was loaded anew; the editor is to be bound anew
 };
 

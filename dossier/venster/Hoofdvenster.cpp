@@ -73,7 +73,7 @@ void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
   connect(scherm_, &Dossierscherm::opgeslagen, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMeldingstijd); });
   connect(scherm_, &Dossierscherm::aandachtspunten, this, &Hoofdvenster::ToonAandachtspunten);
-  scherm_->ZetBoomacties(acties_);
+  scherm_->Boom().ZetActies(acties_);
   bestandsnaam_->setText(QDir::toNativeSeparators(scherm_->Bestand().Pad()));
   setWindowTitle(QFileInfo(scherm_->Bestand().Pad()).completeBaseName());
   WerkActiesBij();

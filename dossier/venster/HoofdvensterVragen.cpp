@@ -62,8 +62,9 @@ void Hoofdvenster::VraagNieuw() {
 
 void Hoofdvenster::VraagOpenen() {
   if (scherm_ && !scherm_->MagVerlaten()) return;
-  const QString bestand = QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Instellingen::Map(),
-                                                       QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)"));
+  const QString bestand =
+      QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Instellingen::Map(),
+                                   QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)"));
   if (!bestand.isEmpty()) Open(bestand);
 }
 
@@ -84,7 +85,7 @@ QString Hoofdvenster::VraagNieuwBestand(const QString& titel, const QString& naa
 }
 
 void Hoofdvenster::VraagClient() {
-  if (!scherm_->MagVerlaten()) return;
+  if (!scherm_->Kolom().Editor().CommitPending()) return;
   const Dossier& dossier = scherm_->Gegevens();
   Clientvenster vraag(QStringLiteral("Cliëntgegevens"), {dossier.Personen(), dossier.Leeftijd()}, this);
   if (vraag.exec() != QDialog::Accepted) return;
@@ -93,7 +94,6 @@ void Hoofdvenster::VraagClient() {
 }
 
 void Hoofdvenster::VraagLening() {
-  if (!scherm_->MagVerlaten()) return;
   QInputDialog vraag(this);
   vraag.setWindowTitle(QStringLiteral("Lening toevoegen"));
   vraag.setLabelText(QStringLiteral("Naam van de lening in de nieuwe situatie"));

@@ -14,8 +14,8 @@
 
 namespace brivane::dossier {
 
-Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories,
-                         Opname& opname, QWidget* parent)
+Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories, Opname& opname,
+                         QWidget* parent)
     : QStackedWidget(parent), application_(std::move(application)), opname_(opname) {
   auto* uitleg = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
   uitleg->setAlignment(Qt::AlignCenter);
@@ -93,7 +93,9 @@ void Kolomscherm::FocusGeweigerd() {
   }
 }
 
-void Kolomscherm::FocusOmschrijving() { ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
+void Kolomscherm::FocusOmschrijving() {
+  ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]);
+}
 
 void Kolomscherm::FocusEerste() {
   if (plek_.Vrij_Id) ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);

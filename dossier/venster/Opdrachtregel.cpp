@@ -10,8 +10,9 @@ struct Vorm {
 };
 
 constexpr Vorm kVormen[] = {
-    {"--voorbeeld", Opdracht::Voorbeeld, 1}, {"--sessie", Opdracht::Sessie, 2}, {"--help", Opdracht::Help, 0},
-    {"-h", Opdracht::Help, 0},               {"--version", Opdracht::Versie, 0},
+    {"--voorbeeld", Opdracht::Voorbeeld, 1}, {"--sessie", Opdracht::Sessie, 2},
+    {"--help", Opdracht::Help, 0},           {"-h", Opdracht::Help, 0},
+    {"--version", Opdracht::Versie, 0},
 };
 
 Opdrachtregel Fout(const QString& melding) {

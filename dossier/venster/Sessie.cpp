@@ -19,7 +19,9 @@ namespace {
 
 using headless::Enter;
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date Datum(int dag, int maand, int jaar) {
+  return frame::MakeDate({.year = jaar, .month = maand, .day = dag});
+}
 
 /// One session on an open file. A step that is not done as it should ends it with an exception.
 class Sessie {
@@ -34,10 +36,12 @@ class Sessie {
     editor_.Toolkit().AddListener(transcript_);
     editor_.Toolkit().Desktop().answer = [this](const std::string& titel, const std::string& tekst,
                                                 host::MessageStyle stijl) { return Antwoord(titel, tekst, stijl); };
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &venster_,
-                     [this](const QString& tekst) { transcript_.Schrijf({{u"refreshTopDisplay"_qs, tekst}}); });
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &venster_,
-                     [this] { transcript_.Schrijf({{u"heightChanged"_qs, editor_.sizeHint().height()}}); });
+    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &venster_, [this](const QString& tekst) {
+      transcript_.Schrijf({{u"refreshTopDisplay"_qs, tekst}});
+    });
+    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &venster_, [this] {
+      transcript_.Schrijf({{u"heightChanged"_qs, editor_.sizeHint().height()}});
+    });
     QObject::connect(&scherm_, &Dossierscherm::opgeslagen, &venster_, [this] { transcript_.Opgeslagen(); });
   }
   ~Sessie() {

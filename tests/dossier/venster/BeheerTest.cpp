@@ -36,7 +36,8 @@ TEST_F(Beheer, DeBoomToontDeLeningenEnHunKolommen) {
   EXPECT_EQ(Boom().model()->rowCount(), 3);
   EXPECT_EQ(Boom().model()->index(0, 0).data().toString(), "Huidige lening");
   EXPECT_EQ(Boom().model()->index(2, 0).data().toString(), "Nieuwe lening 2");
-  EXPECT_EQ(Kolommen(1), (QStringList{"Kinderopvang · € 310,00 per maand", "Onderhoud zonnepanelen · € 95,00 per jaar"}));
+  EXPECT_EQ(Kolommen(1),
+            (QStringList{"Kinderopvang · € 310,00 per maand", "Onderhoud zonnepanelen · € 95,00 per jaar"}));
   EXPECT_TRUE(Kolommen(2).isEmpty());
 }
 
@@ -112,6 +113,19 @@ TEST_F(Beheer, WijzigingenOvernemenHaaltDeAfwijkingUitDeBoom) {
   EXPECT_EQ(Scherm().Getoond(), (Plek{0, 2}));
   EXPECT_EQ(Kolommen(0).front(), "Kinderopvang · € 500,00 per maand");
   EXPECT_EQ(Kolommen(1), QStringList{"Onderhoud zonnepanelen · € 95,00 per jaar"});
+}
+
+TEST_F(Beheer, OvernemenBijEenDatumHaaltDeAfwijkingMeteenUitDeBoom) {
+  Toets(Qt::Key_B, Qt::AltModifier);
+  Typ("500");
+  Toets(Qt::Key_A, Qt::AltModifier);
+  Typ("1-1-2025");
+  dialogen_.VerwachtMelding("Wilt u de wijzigingen overnemen in de nieuwe situatie?", [](QWidget& venster) {
+    QTest::keyClick(venster.windowHandle(), Qt::Key_J, Qt::AltModifier);
+  });
+  Toets(Qt::Key_Tab);
+  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 1}));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Kolommen(1).size() == 1; }, 2000));
 }
 
 TEST_F(Beheer, DeStatusbalkZegtWatErIsOpgeslagenEnWatAandachtVraagt) {

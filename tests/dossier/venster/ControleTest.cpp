@@ -1,7 +1,6 @@
-#include "dossier/venster/Controle.h"
-
 #include <QTreeWidget>
 
+#include "dossier/venster/Controle.h"
 #include "frame/Calendar.h"
 #include "tests/dossier/venster/Venstertest.h"
 
@@ -9,7 +8,9 @@
 namespace brivane::dossier {
 namespace {
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date Datum(int dag, int maand, int jaar) {
+  return frame::MakeDate({.year = jaar, .month = maand, .day = dag});
+}
 
 KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
   KolomGegevens kolom;

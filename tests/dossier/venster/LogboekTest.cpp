@@ -1,11 +1,10 @@
-#include "dossier/venster/Logboek.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 
+#include "dossier/venster/Logboek.h"
 #include "dossier/venster/Logboekvenster.h"
 #include "dossier/venster/Traceerlog.h"
 

@@ -1,5 +1,3 @@
-#include "dossier/venster/Opdrachtregel.h"
-
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -9,6 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "dossier/venster/Opdrachtregel.h"
 #include "tests/dossier/venster/Venstertest.h"
 
 // The program from its command line.
@@ -30,8 +29,9 @@ Uitvoer Draai(const QStringList& argumenten) {
 }
 
 TEST(Opdrachtregel, VerkeerdeArgumentenGevenEenRegelEnCodeTwee) {
-  for (const QStringList& argumenten : {QStringList{"--onzin"}, QStringList{"--voorbeeld"}, QStringList{"--sessie", "uit"},
-                                        QStringList{"een", "twee"}, QStringList{"--help", "meer"}, QStringList{""}}) {
+  for (const QStringList& argumenten :
+       {QStringList{"--onzin"}, QStringList{"--voorbeeld"}, QStringList{"--sessie", "uit"}, QStringList{"een", "twee"},
+        QStringList{"--help", "meer"}, QStringList{""}}) {
     const Uitvoer uitvoer = Draai(argumenten);
     EXPECT_EQ(uitvoer.code, 2) << qPrintable(argumenten.join(' '));
     EXPECT_EQ(uitvoer.fout.count('\n'), 1) << qPrintable(uitvoer.fout);

@@ -81,7 +81,7 @@ TEST_F(Scenario, DertigJarenMetGroeiEenVerbeteringEnEenGeplakteKolomStaanNaOkInH
   EXPECT_EQ(velden["0/1/bedrag"].toDouble(), 1000);
   // Row n begins at month 12 (n - 1) + 1, and an entry stands where the percentage changes. The last row's
   // leads nowhere, so filling in leaves it as it was.
-  const std::map<int, double> verwacht{{1, 2.5},    {109, 4},   {121, 2.5}, {229, 3.25},
+  const std::map<int, double> verwacht{{1, 2.5},   {109, 4}, {121, 2.5}, {229, 3.25},
                                        {241, 1.5}, {253, 0}, {265, 2.5}, {349, 1}};
   EXPECT_EQ(Perioden(velden), verwacht);
 }

@@ -40,7 +40,8 @@ int main(int aantal, char** argumenten) {
   testing::InitGoogleTest(&aantal, argumenten);
   // The person's own settings and log stay out of it.
   const QTemporaryDir terzijde;
-  for (const char* naam : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) qputenv(naam, terzijde.path().toLocal8Bit());
+  for (const char* naam : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+    qputenv(naam, terzijde.path().toLocal8Bit());
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication programma(aantal, argumenten);
   brivane::dossier::StelProgrammaIn(programma);
