@@ -2,7 +2,6 @@
 
 #include "host/Error.h"
 #include "replay/Document.h"
-#include "toolkits/headless/Dump.h"
 
 namespace brivane::replay {
 
@@ -112,11 +111,14 @@ dossier::KolomGegevens Read(host::VrijeKolomItem& kolom) {
 }  // namespace
 
 Json DumpControls(const headless::Surface& surface) {
+  return DumpControls(headless::DumpAll(surface));
+}
+
+Json DumpControls(const std::vector<headless::ControlDump>& dump) {
   Json controls = Json::object();
   // The names are unique: appending spares a search through all of them for each.
   auto& members = controls.get_ref<Json::object_t&>();
-  for (const headless::ControlDump& control : headless::DumpAll(surface))
-    members.emplace_back(control.name, DumpControl(control));
+  for (const headless::ControlDump& control : dump) members.emplace_back(control.name, DumpControl(control));
   return controls;
 }
 

@@ -1,15 +1,18 @@
 #pragma once
 
+#include <vector>
+
 #include "host/model/BedragObject.h"
 #include "host/model/VrijeKolomItem.h"
 #include "replay/Json.h"
-#include "toolkits/headless/Surface.h"
+#include "toolkits/headless/Dump.h"
 
 /// The state of controls and records as the dumps of a transcript show it.
 namespace brivane::replay {
 
 /// Every control on a surface, by name.
 [[nodiscard]] Json DumpControls(const headless::Surface& surface);
+[[nodiscard]] Json DumpControls(const std::vector<headless::ControlDump>& dump);
 /// A free column of any host, as in a document.
 [[nodiscard]] Json DumpRecord(host::VrijeKolomItem& kolom);
 /// An amount object of any host.

@@ -7,8 +7,7 @@
 #include "frame/ErrorReport.h"
 #include "replay/ControlNames.h"
 #include "replay/Dump.h"
-#include "toolkits/headless/ListBox.h"
-#include "vrijekolom/Ontwerp.h"
+#include "replay/HeadlessSubject.h"
 
 namespace brivane::replay {
 
@@ -46,52 +45,23 @@ std::shared_ptr<dossier::Omgeving> Surroundings(Headers headers) {
 
 }  // namespace
 
-Session::Session(const Document& document, LineSink sink)
+Session::Session(const Document& document, LineSink sink) : Session(document, std::move(sink), MakeHeadlessSubject) {}
+
+Session::Session(const Document& document, LineSink sink, MakeSubject make)
     : document_(document),
       transcript_(std::move(sink), document.log),
       case_(std::make_shared<dossier::Dossier>(document.dossier, Surroundings(document.headers))),
-      host_(std::make_shared<dossier::Application>(case_), Factories(), transcript_) {
+      host_(std::make_shared<dossier::Application>(case_), Factories(), transcript_),
+      make_(std::move(make)) {
   for (const FaultPlan& fault : document.faults)
     Ledger().FailAt(fault.member, fault.op, fault.nth, host::Error(fault.number, fault.description, fault.source));
-  Equip();
 }
 
 Session::~Session() = default;
 
-void Session::Equip() {
-  headless::Desktop& desktop = toolkit_.Desktop();
-  desktop.today = document_.today;
-  desktop.title = document_.title;
-  desktop.twipsPerPixelX = document_.twipsPerPixelX;
-  desktop.twipsPerPixelY = document_.twipsPerPixelY;
-  desktop.groupSeparator = headless::GroupSeparator(document_.locale);
-  desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
-    return Answer(title, text, style);
-  };
-  desktop.pending = [this] {
-    transcript_.Pending();
-    if (!running_.empty()) RunPending(*running_.back());
-  };
-  toolkit_.focusMoved = [this](headless::AnyControl& control) { transcript_.Focus(control.ElementName()); };
-  toolkit_.modal = [this](headless::Form& window) { RunModal(window); };
-}
-
-void Session::MakeEditor() {
-  surface_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
-  editor_ = std::make_unique<VrijeKolom>(*surface_, toolkit_, host_.Factories());
-  editor_->RefreshTopDisplay.Connect([this](const std::string& text) { transcript_.RefreshTopDisplay(text); });
-  editor_->HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
-  editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
-  host::Event<>& changed = editor_->Toelichting().Changed;
-  changed.Connect([this, handOn = changed.Listener()] {
-    transcript_.Event("Toelichting.Changed");
-    handOn();
-  });
-}
-
 void Session::Run() {
   try {
-    MakeEditor();
+    subject_ = make_(document_, host_, *this);
   } catch (...) {
     const host::Error error = frame::CurrentError();
     transcript_.Failed(error.Number(), error.Description());
@@ -100,7 +70,7 @@ void Session::Run() {
   for (std::size_t i = 0; i < document_.steps.size(); ++i) RunStep(document_.steps[i], std::to_string(i + 1), nullptr);
 }
 
-void Session::RunStep(const Step& step, std::string number, OpenForm* on) {
+void Session::RunStep(const Step& step, std::string number, FormScreen* on) {
   Running running{.step = &step, .number = std::move(number), .on = on};
   const Pushed pushed(running_, &running);
   CheckStep(running);
@@ -118,7 +88,7 @@ void Session::RunStep(const Step& step, std::string number, OpenForm* on) {
 
 void Session::RunPending(Running& running) {
   while (running.pending < running.step->pending.size()) {
-    if (problem_ || (running.on != nullptr && running.on->window->IsUnloaded())) return;
+    if (problem_ || (running.on != nullptr && running.on->IsClosed())) return;
     const Step& step = running.step->pending[running.pending++];
     const std::string number = running.number + '.' + std::to_string(running.pending);
     try {
@@ -130,41 +100,42 @@ void Session::RunPending(Running& running) {
   }
 }
 
-void Session::RunModal(headless::Form& window) {
-  OpenForm open{.window = &window, .form = std::exchange(opening_, nullptr)};
-  transcript_.Opened(open.form->BackColor(), open.form->AantalJaar());
-  host::Event<>& unloaded = window.host::Form::Unloaded;
-  unloaded.Connect([this, handOn = unloaded.Listener()] {
-    transcript_.Closed();
-    if (handOn) handOn();
-  });
+void Session::OnPending() {
+  transcript_.Pending();
+  if (!running_.empty()) RunPending(*running_.back());
+}
+
+void Session::OnShown(FormScreen& form) {
+  transcript_.Opened(form.BackColor(), form.AantalJaar());
   const Running& opener = *running_.back();
   const std::vector<Step>& steps = opener.step->modal;
-  for (std::size_t i = 0; i < steps.size() && !window.IsUnloaded() && !problem_; ++i) {
+  for (std::size_t i = 0; i < steps.size() && !form.IsClosed() && !problem_; ++i) {
     try {
-      RunStep(steps[i], opener.number + '.' + std::to_string(i + 1), &open);
+      RunStep(steps[i], opener.number + '.' + std::to_string(i + 1), &form);
     } catch (const BadInput& problem) {
       problem_ = problem;
       transcript_.Mute();
     }
   }
-  window.Perform(headless::Close{});
 }
 
-headless::AnyControl& Session::Control(const ActStep& act, const Running& running) {
-  headless::Surface& surface = running.on != nullptr ? *running.on->window : EditorSurface();
-  headless::AnyControl* const control = surface.Find(act.control, act.index.value_or(frame::kNoIndex));
-  if (control == nullptr)
+Screen& Session::ScreenOf(const Running& running) {
+  return running.on != nullptr ? static_cast<Screen&>(*running.on) : *subject_;
+}
+
+ControlState Session::Find(const ActStep& act, const Running& running) {
+  const std::optional<ControlState> control = ScreenOf(running).Find(act.control, act.index);
+  if (!control)
     throw BadInput(Below(running.step->place, "index"),
                    "the form has no " + Quoted(ElementName(act.control, act.index)));
   return *control;
 }
 
-headless::Action Session::Action(const ActStep& act, headless::AnyControl& control, const Running& running) {
+headless::Action Session::Action(const ActStep& act, host::Kind kind, const Running& running) {
   const auto* const text = std::get_if<std::string>(&act.action);
   const auto* const action = std::get_if<headless::Action>(&act.action);
-  if (control.ControlKind() != host::Kind::ListBox) return *action;
-  const auto& entries = static_cast<const headless::ListBox&>(control).Entries();
+  if (kind != host::Kind::ListBox) return *action;
+  const std::vector<std::string> entries = ScreenOf(running).Entries(act.control);
   if (text == nullptr) {
     const int index = std::get<headless::Choose>(*action).index;
     if (static_cast<std::size_t>(index) < entries.size()) return *action;
@@ -172,18 +143,18 @@ headless::Action Session::Action(const ActStep& act, headless::AnyControl& contr
                    Quoted(act.control) + " has no entry " + std::to_string(index) + " now");
   }
   for (std::size_t i = 0; i < entries.size(); ++i)
-    if (entries[i].text == *text) return headless::Choose{static_cast<int>(i)};
+    if (entries[i] == *text) return headless::Choose{static_cast<int>(i)};
   throw BadInput(Below(running.step->place, "entry"), Quoted(act.control) + " has no entry " + Quoted(*text) + " now");
 }
 
 void Session::CheckStep(const Running& running) {
   const auto* const act = std::get_if<ActStep>(&running.step->what);
   if (act == nullptr) return;
-  headless::AnyControl& control = Control(*act, running);
-  if (control.Reachable()) (void)Action(*act, control, running);
+  const ControlState control = Find(*act, running);
+  if (control.reachable) (void)Action(*act, control.kind, running);
 }
 
-host::MessageAnswer Session::Answer(const std::string& title, const std::string& text, host::MessageStyle style) {
+host::MessageAnswer Session::OnMessage(const std::string& title, const std::string& text, host::MessageStyle style) {
   const bool question = style == host::MessageStyle::YesNoQuestion;
   host::MessageAnswer answer = question ? host::MessageAnswer::No : host::MessageAnswer::Ok;
   if (!running_.empty()) {
@@ -198,72 +169,57 @@ host::MessageAnswer Session::Answer(const std::string& title, const std::string&
 }
 
 void Session::Do(const BindStep& step, const Running&) {
-  editor_->SetApplication(host_.Application(), step.Len_Id, step.Vrij_Id);
+  subject_->SetApplication(step.Len_Id, step.Vrij_Id);
 }
 
 void Session::Do(const ValidationStep& step, const Running& running) {
-  bool cancel = step.Cancel;
-  if (step.target == Target::Editor)
-    editor_->Validation(cancel, step.ControleNr);
-  else
-    editor_->Toelichting().Validation(cancel, step.ControleNr);
-  transcript_.Result(running.step->name, cancel);
+  transcript_.Result(running.step->name, subject_->Validation(step.target, step.Cancel, step.ControleNr));
 }
 
 void Session::Do(const BackColorStep& step, const Running&) {
-  editor_->SetBackColor(step.color);
+  subject_->SetBackColor(step.color);
 }
 
 void Session::Do(const BeeindigenStep& step, const Running&) {
-  editor_->SetBeeindigenZichtbaar(step.visible);
+  subject_->SetBeeindigenZichtbaar(step.visible);
 }
 
 void Session::Do(const ResizeStep& step, const Running&) {
-  headless::Surface* surface = &EditorSurface();
-  if (step.target == Target::Toelichting) surface = static_cast<headless::Surface*>(surface->Find("Toelichting"));
-  surface->Size({step.width}, {step.height});
+  subject_->Size(step.target, step.width, step.height);
 }
 
 void Session::Do(const ActStep& step, const Running& running) {
-  headless::AnyControl& control = Control(step, running);
-  const std::string name = control.ElementName();
+  const ControlState control = Find(step, running);
   headless::Outcome outcome = headless::Outcome::Ignored;
-  if (control.Reachable()) outcome = control.Perform(Action(step, control, running));
+  if (control.reachable)
+    outcome = ScreenOf(running).Perform(step.control, step.index, Action(step, control.kind, running));
   if (outcome == headless::Outcome::Ignored) {
-    transcript_.Ignored(name);
-  } else if (control.ControlKind() == host::Kind::TextBox) {
+    transcript_.Ignored(ElementName(step.control, step.index));
+  } else if (control.kind == host::Kind::TextBox) {
     transcript_.Result(running.step->name, outcome == headless::Outcome::Refused);
   }
 }
 
 void Session::Do(const ScenarioStep& step, const Running&) {
   const std::shared_ptr<dossier::VrijeKolom> kolom = case_->ZoekKolom(step.Len_Id, step.Vrij_Id);
-  frmScenario form(toolkit_);
-  const auto bedrag = host_.StandInFor(host::Need(kolom).Bedrag());
-  form.SetSoortScenario(step.SoortScenario);
-  for (const std::int16_t year : step.DisableJaar) form.SetDisableJaar(year, true);
-  form.Invoeren(bedrag, step.AantalJaar, step.Labeltype, step.Anv_Leeftijd, step.LooptijdExtra, step.In_RenteKorting,
-                step.Bd_MaxOpname);
-  opening_ = &form;
-  form.ShowModal(nullptr);
+  subject_->ShowScenario(step, host_.StandInFor(host::Need(kolom).Bedrag()));
 }
 
 void Session::Do(const CloseStep&, const Running& running) {
-  running.on->window->Perform(headless::Close{});
+  running.on->Close();
 }
 
 void Session::Do(const DumpStep&, const Running& running) {
   Json dump = Json::object();
+  dump["controls"] = DumpControls(ScreenOf(running).Dump());
   if (running.on != nullptr) {
-    const auto scenario = InnerOf(running.on->form->Scenario());
-    dump["controls"] = DumpControls(*running.on->window);
+    const auto scenario = InnerOf(running.on->Scenario());
     dump["record"] = scenario ? DumpRecord(*scenario) : Json(nullptr);
   } else {
-    const auto kolom = InnerOf(editor_->Item());
-    dump["controls"] = DumpControls(EditorSurface());
+    const auto kolom = InnerOf(subject_->Item());
     dump["record"] = kolom ? DumpRecord(*kolom) : Json(nullptr);
-    dump["Filling"] = editor_->Filling();
-    dump["Gewijzigd"] = editor_->Gewijzigd();
+    dump["Filling"] = subject_->Filling();
+    dump["Gewijzigd"] = subject_->Gewijzigd();
   }
   transcript_.Dump(dump);
 }

@@ -14,6 +14,7 @@
 
 #include "replay/Session.h"
 #include "tests/faults/Rerun.h"
+#include "vrijekolom/VrijeKolom.h"
 
 namespace brivane::faults {
 namespace {
