@@ -52,6 +52,7 @@ class MetWidget final : public Opnamesessie {
     widget_.show();
     QApplication::processEvents();
   }
+  ~MetWidget() override { LaatLos(); }
 
  private:
   void LaatWachten(std::function<void()> daad) override { QTimer::singleShot(0, &widget_, std::move(daad)); }

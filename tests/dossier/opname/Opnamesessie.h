@@ -45,6 +45,8 @@ class Opnamesessie {
 
   /// Begins the recording. Before the editor is made.
   void NeemOp(headless::Surface& vlak);
+  /// Ends the recorder, which must go before the surface that it follows.
+  void LaatLos() { opnemer_.reset(); }
   /// Follows the events of the editor.
   void Volg(brivane::VrijeKolom& editor);
   [[nodiscard]] host::MessageAnswer Antwoord(const std::string& titel, const std::string& tekst,

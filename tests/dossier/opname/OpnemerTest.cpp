@@ -56,6 +56,7 @@ class ZonderScherm final : public Opnamesessie {
     editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
     Volg(editor_);
   }
+  ~ZonderScherm() override { LaatLos(); }
 
   [[nodiscard]] brivane::VrijeKolom& Editor() { return editor_; }
   [[nodiscard]] headless::Surface& Vlak() { return headless::Surface::Of(*vlak_); }
