@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -22,6 +23,7 @@ namespace detail {
 void Announce(const std::string& name, const Question& question);
 [[nodiscard]] std::string Measured(const std::string& name);
 [[nodiscard]] std::string Yardstick(const std::string& name);
+void Turn(const std::string& name, std::chrono::nanoseconds measured, std::chrono::nanoseconds yardstick);
 }  // namespace detail
 
 /// Both sides are called over and over: each must leave things as it found them.
@@ -55,8 +57,25 @@ void CompareAndClear(const std::string& name, const Question& question, Ours our
   measure(detail::Yardstick(name), theirs, clearTheirs);
 }
 
+/// The same turn by turn, by the median of single calls: for work that waits for the disk, which is fast in one
+/// moment and slow in the next whatever is asked of it.
+template <class Ours, class Theirs>
+void CompareInTurn(const std::string& name, const Question& question, Ours ours, Theirs theirs) {
+  detail::Announce(name, question);
+  benchmark::RegisterBenchmark(detail::Measured(name).c_str(), [name, ours, theirs](benchmark::State& state) {
+    while (state.KeepRunning()) {
+      const auto start = std::chrono::steady_clock::now();
+      ours();
+      const auto between = std::chrono::steady_clock::now();
+      theirs();
+      detail::Turn(name, between - start, std::chrono::steady_clock::now() - between);
+    }
+  });
+}
+
 /// Runs every comparison and prints one line for each: nanoseconds of both sides and the ratio of their fastest
-/// repetitions. Answers the exit code: 0 unless a benchmark failed; a missed aim is printed, not a failure.
+/// repetitions, or of their medians. Answers the exit code: 0 unless a benchmark failed; a missed aim is printed, not a
+/// failure.
 int Run(int argc, char** argv);
 
 }  // namespace bench

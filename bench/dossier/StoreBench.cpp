@@ -75,8 +75,9 @@ int main(int argc, char** argv) {
     return pad;
   };
   Sides sides(maak("eigen.dossier", dossier::VoorbeeldDossier()), maak("kaal.dossier", dossier::VoorbeeldDossier()));
-  bench::Compare("one accepted edit", {.measured = "edit", .yardstick = "bare UPDATE", .aim = 1.3},
-                 [&] { sides.Edit(); }, [&] { sides.Update(); });
+  bench::CompareInTurn(
+      "one accepted edit", {.measured = "edit", .yardstick = "bare UPDATE", .aim = 1.3}, [&] { sides.Edit(); },
+      [&] { sides.Update(); });
 
   const QString groot = maak("groot.dossier", Groot(10000));
   const QByteArray pad = groot.toLocal8Bit();
