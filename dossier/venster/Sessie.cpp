@@ -61,6 +61,7 @@ class Sessie {
     Overlijden();
     NieuweKolom();
     Scenario();
+    ZonderPartner();
   }
 
  private:
@@ -121,6 +122,14 @@ class Sessie {
     scherm_.Scenario().Geopend.Disconnect();
     if (!fout_.empty()) throw std::runtime_error(fout_);
     Moet(gevuld, "showing the year-by-year form");
+  }
+
+  /// The partner taken out of the case, on the column that goes over to a partner on death.
+  void ZonderPartner() {
+    const std::vector<PersoonGegevens> aanvrager = {scherm_.Gegevens().Personen().front()};
+    Moet(scherm_.SetClient(aanvrager, scherm_.Gegevens().Leeftijd()), "taking the partner out of the case");
+    GaNaar({0, 3});
+    Beeld("without-partner");
   }
 
   void VulScenario(frmScenario& formulier) {

@@ -78,7 +78,7 @@ TEST(Opdrachtregel, DeSessieLaatBeeldenEnEenTranscriptAchter) {
   const Uitvoer uitvoer = Draai({"--sessie", uit.path(), bestand});
   ASSERT_EQ(uitvoer.code, 0) << qPrintable(uitvoer.fout);
 
-  for (const char* naam : {"recurring-cost", "newspaper", "death-transition", "scenario"}) {
+  for (const char* naam : {"recurring-cost", "newspaper", "death-transition", "scenario", "without-partner"}) {
     const QImage licht(uit.filePath(QStringLiteral("%1-light.png").arg(naam)));
     const QImage donker(uit.filePath(QStringLiteral("%1-dark.png").arg(naam)));
     EXPECT_FALSE(licht.isNull()) << naam;
