@@ -1,0 +1,75 @@
+#pragma once
+
+#include "component/automation/Errors.h"
+#include "component/automation/Module.h"
+
+namespace brivane::component {
+
+/// The type library that describes an interface.
+template <class Interface> inline constexpr module::Library kLibraryOf = module::Library::Public;
+
+/// A dual interface's late-bound half, done by its type information.
+template <class Interface> class Dispatching : public Interface {
+ public:
+  STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+    if (!count) return E_POINTER;
+    *count = 1;
+    return S_OK;
+  }
+  STDMETHODIMP GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    if (index != 0) return DISP_E_BADINDEX;
+    return Answering<Interface>([&] { (void)Described().CopyTo(info); });
+  }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+    HRESULT result = E_UNEXPECTED;
+    const HRESULT described =
+        Answering<Interface>([&] { result = Described()->GetIDsOfNames(names, count, ids); });
+    return FAILED(described) ? described : result;
+  }
+  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* error,
+                      UINT* argument) override {
+    HRESULT answer = E_UNEXPECTED;
+    const HRESULT described = Answering<Interface>([&] {
+      // A record that somebody else left behind must not be taken for ours.
+      SetErrorInfo(0, nullptr);
+      answer = Described()->Invoke(static_cast<Interface*>(this), id, flags, arguments, result, error, argument);
+    });
+    return FAILED(described) ? described : answer;
+  }
+
+ protected:
+  ~Dispatching() = default;
+  [[nodiscard]] static ComPtr<ITypeInfo> Described() {
+    return module::TypeInfo(kLibraryOf<Interface>, __uuidof(Interface));
+  }
+};
+
+/// A counted object with one dual interface that no class factory makes.
+template <class Interface> class DualObject : public Dispatching<Interface>, private module::LiveObject {
+ public:
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != __uuidof(Interface)) return E_NOINTERFACE;
+    *out = static_cast<Interface*>(this);
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --count_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+ protected:
+  DualObject() = default;
+  virtual ~DualObject() = default;
+
+ private:
+  ULONG count_ = 1;
+};
+
+}  // namespace brivane::component

@@ -1,0 +1,108 @@
+#include "component/automation/Errors.h"
+
+#include <array>
+#include <new>
+#include <string>
+
+#include "component/automation/ComPtr.h"
+#include "component/automation/Text.h"
+#include "frame/ErrorReport.h"
+
+namespace brivane::component {
+
+namespace {
+
+// Results of the facility "control" carry an error number in their low half.
+constexpr HRESULT kNumbers = static_cast<HRESULT>(0x800A0000);
+constexpr std::int32_t kHighestNumber = 0xFFFF;
+constexpr const char* kSource = "BrivaneVrijeKolom";
+
+struct Known {
+  HRESULT result;
+  std::int32_t number;
+  const char* description;
+};
+
+/// What the calls of Automation answer themselves, in the numbers that Automation's languages use for it.
+constexpr std::array kKnown{
+    Known{DISP_E_OVERFLOW, 6, "Overflow"},
+    Known{E_OUTOFMEMORY, 7, "Out of memory"},
+    Known{DISP_E_BADINDEX, 9, "Subscript out of range"},
+    Known{DISP_E_TYPEMISMATCH, 13, "Type mismatch"},
+    Known{DISP_E_BADVARTYPE, 13, "Type mismatch"},
+    Known{DISP_E_UNKNOWNNAME, 438, "Object does not support this property or method"},
+    Known{DISP_E_MEMBERNOTFOUND, 438, "Object does not support this property or method"},
+    Known{E_NOTIMPL, 445, "Object does not support this action"},
+    Known{DISP_E_NONAMEDARGS, 446, "Object does not support named arguments"},
+    Known{DISP_E_UNKNOWNLCID, 447, "Object does not support the current locale"},
+    Known{DISP_E_PARAMNOTOPTIONAL, 449, "Argument not optional"},
+    Known{DISP_E_BADPARAMCOUNT, 450, "Wrong number of arguments"},
+};
+
+std::int32_t NumberOf(HRESULT result) {
+  return (result & static_cast<HRESULT>(0xFFFF0000)) == kNumbers ? result & kHighestNumber : result;
+}
+
+std::string SystemText(HRESULT result) {
+  wchar_t* text = nullptr;
+  const DWORD length = FormatMessageW(
+      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+      static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+  std::string description = Narrow({text, text ? length : 0});
+  LocalFree(text);
+  while (!description.empty() && (description.back() == '\n' || description.back() == '\r')) description.pop_back();
+  return description.empty() ? "Automation error" : description;
+}
+
+host::Error FromRecord(EXCEPINFO& info) {
+  if (info.pfnDeferredFillIn) info.pfnDeferredFillIn(&info);
+  const std::int32_t number = info.wCode != 0 ? info.wCode : NumberOf(info.scode);
+  host::Error error(number, FromBstr(info.bstrDescription), FromBstr(info.bstrSource));
+  SysFreeString(info.bstrDescription);
+  SysFreeString(info.bstrSource);
+  SysFreeString(info.bstrHelpFile);
+  info = {};
+  return error;
+}
+
+/// Leaves number, description and source for the caller to ask for.
+void LeaveRecord(const IID& interfaceId, const host::Error& error) {
+  ComPtr<ICreateErrorInfo> record;
+  if (FAILED(CreateErrorInfo(record.Put()))) return;
+  record->SetGUID(interfaceId);
+  record->SetDescription(Wide(error.Description()).data());
+  record->SetSource(Wide(error.Source()).data());
+  SetErrorInfo(0, record.As<IErrorInfo>().Get());
+}
+
+}  // namespace
+
+host::Error ErrorOf(HRESULT result, EXCEPINFO* info) {
+  if (result == DISP_E_EXCEPTION && info) return FromRecord(*info);
+  for (const Known& known : kKnown)
+    if (known.result == result) return {known.number, known.description, kSource};
+  return {NumberOf(result), SystemText(result), kSource};
+}
+
+void Check(HRESULT result) {
+  if (FAILED(result)) throw ErrorOf(result);
+}
+
+HRESULT ResultOf(const host::Error& error) {
+  if (error.Number() < 0) return error.Number();
+  if (error.Number() == 0 || error.Number() > kHighestNumber)
+    return kNumbers | static_cast<std::int32_t>(host::ErrorNumber::Foreign);
+  return kNumbers | error.Number();
+}
+
+HRESULT LeaveCurrentError(const IID& interfaceId) noexcept {
+  try {
+    const host::Error error = frame::CurrentError();
+    LeaveRecord(interfaceId, error);
+    return ResultOf(error);
+  } catch (...) {
+    return E_OUTOFMEMORY;
+  }
+}
+
+}  // namespace brivane::component

@@ -1,0 +1,57 @@
+#include "component/automation/Keuzelijst.h"
+
+#include "component/automation/Dispatching.h"
+#include "component/automation/Text.h"
+#include "component/idl/Interfaces.h"
+
+namespace brivane::component {
+
+class KeuzelijstLening::Keuzelijst final : public DualObject<IKeuzelijst> {
+ public:
+  explicit Keuzelijst(host::ListBox& lijst) : lijst_(&lijst) {}
+
+  void TakeBack() { lijst_ = nullptr; }
+
+  STDMETHODIMP Clear() override {
+    return OnList([](host::ListBox& lijst) { lijst.Clear(); });
+  }
+  STDMETHODIMP AddItem(BSTR tekst, LONG itemData) override {
+    return OnList([&](host::ListBox& lijst) { lijst.Add(FromBstr(tekst), itemData); });
+  }
+  STDMETHODIMP get_ListCount(LONG* aantal) override {
+    return OnList([&](host::ListBox& lijst) { *aantal = lijst.ListCount(); });
+  }
+  STDMETHODIMP get_ListIndex(LONG* index) override {
+    return OnList([&](host::ListBox& lijst) { *index = lijst.ListIndex(); });
+  }
+  STDMETHODIMP put_ListIndex(LONG index) override {
+    return OnList([&](host::ListBox& lijst) { lijst.SetListIndex(index); });
+  }
+  STDMETHODIMP get_ItemData(LONG index, LONG* data) override {
+    return OnList([&](host::ListBox& lijst) { *data = lijst.ItemData(index); });
+  }
+  STDMETHODIMP get_List(LONG index, BSTR* tekst) override {
+    return OnList([&](host::ListBox& lijst) { *tekst = NewBstr(lijst.List(index)); });
+  }
+  STDMETHODIMP get_Text(BSTR* tekst) override {
+    return OnList([&](host::ListBox& lijst) { *tekst = NewBstr(lijst.Text()); });
+  }
+
+ private:
+  template <class Body> HRESULT OnList(Body&& body) {
+    return Answering<IKeuzelijst>([&] { body(host::Need(lijst_)); });
+  }
+
+  host::ListBox* lijst_;
+};
+
+KeuzelijstLening::KeuzelijstLening(host::ListBox& lijst) : object_(new Keuzelijst(lijst)) {}
+
+KeuzelijstLening::~KeuzelijstLening() {
+  object_->TakeBack();
+  object_->Release();
+}
+
+IDispatch* KeuzelijstLening::Object() const { return object_; }
+
+}  // namespace brivane::component

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "component/automation/ComPtr.h"
+#include "host/controls/ListBox.h"
+
+namespace brivane::component {
+
+/// Lends a list to the host as an object (IKeuzelijst) for the time of one call. What the host keeps of it longer
+/// fails with error 91.
+class KeuzelijstLening {
+ public:
+  explicit KeuzelijstLening(host::ListBox& lijst);
+  KeuzelijstLening(const KeuzelijstLening&) = delete;
+  KeuzelijstLening& operator=(const KeuzelijstLening&) = delete;
+  ~KeuzelijstLening();
+
+  [[nodiscard]] IDispatch* Object() const;
+
+ private:
+  class Keuzelijst;
+
+  Keuzelijst* object_;
+};
+
+}  // namespace brivane::component

@@ -1,0 +1,60 @@
+#include "component/objects/ClassFactory.h"
+
+#include "component/automation/Errors.h"
+#include "component/objects/Identity.h"
+
+namespace brivane::component {
+
+namespace {
+
+class ClassFactory final : public IClassFactory, private module::LiveObject {
+ public:
+  explicit ClassFactory(const Klasse& klasse) : klasse_(klasse) {}
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
+    *out = static_cast<IClassFactory*>(this);
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --count_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+  STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    // Who makes the object a part of his own must keep hold of its inner identity.
+    if (outer && iid != IID_IUnknown) return CLASS_E_NOAGGREGATION;
+    Identity* object = nullptr;
+    const HRESULT made = Answering<IClassFactory>([&] { object = klasse_.make(outer); });
+    if (FAILED(made)) return made;
+    const HRESULT found = object->Inner().QueryInterface(iid, out);
+    object->Inner().Release();
+    return found;
+  }
+  STDMETHODIMP LockServer(BOOL lock) override {
+    if (lock)
+      module::Keep();
+    else
+      module::LetGo();
+    return S_OK;
+  }
+
+ private:
+  ~ClassFactory() = default;
+
+  const Klasse& klasse_;
+  ULONG count_ = 1;
+};
+
+}  // namespace
+
+IClassFactory* NewClassFactory(const Klasse& klasse) { return new ClassFactory(klasse); }
+
+}  // namespace brivane::component

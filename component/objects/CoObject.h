@@ -1,0 +1,97 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "component/automation/Dispatching.h"
+#include "component/idl/Interfaces.h"
+#include "component/objects/HostClasses.h"
+#include "component/objects/Identity.h"
+#include "component/testdoor/Proefdeur.h"
+
+namespace brivane::component {
+
+/// What the library's three classes have in common: their identity, late binding, class information and error records,
+/// the toolkit and the host's objects of each, and the door for tests.
+///
+/// `Outgoing` is the interface of its events, or GUID_NULL.
+template <class Interface>
+class CoObject : public Dispatching<Interface>,
+                 public IProvideClassInfo2,
+                 public ISupportErrorInfo,
+                 public IProefdeurHouder,
+                 public Identity,
+                 private headless::ActionListener {
+ public:
+  CoObject(IUnknown* outer, const CLSID& classId, const IID& outgoing)
+      : Identity(outer), classId_(classId), outgoing_(outgoing) {
+    toolkit_->AddListener(*this);
+  }
+  ~CoObject() override { session_->LetGo(); }
+
+  BRIVANE_IDENTITY()
+
+  STDMETHODIMP GetClassInfo(ITypeInfo** info) override {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    return Answering<IProvideClassInfo2>(
+        [&] { (void)module::TypeInfo(module::Library::Public, classId_).CopyTo(info); });
+  }
+  STDMETHODIMP GetGUID(DWORD kind, GUID* id) override {
+    if (!id) return E_POINTER;
+    *id = GUID_NULL;
+    if (kind != GUIDKIND_DEFAULT_SOURCE_DISP_IID || outgoing_ == GUID_NULL) return E_INVALIDARG;
+    *id = outgoing_;
+    return S_OK;
+  }
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
+    return iid == __uuidof(Interface) ? S_OK : S_FALSE;
+  }
+  STDMETHODIMP Proefdeur(IProefdeur** door) override {
+    if (!door) return E_POINTER;
+    return Answering<IProefdeurHouder>([&] {
+      *door = NewProefdeur(Controlling(), DoorSurface(), hooks_,
+                           [this](std::string_view flag) { return DoorFlag(flag); });
+    });
+  }
+
+ protected:
+  [[nodiscard]] IUnknown* Find(REFIID iid) override {
+    if (iid == IID_IDispatch || iid == __uuidof(Interface)) return static_cast<Interface*>(this);
+    if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) return static_cast<IProvideClassInfo2*>(this);
+    if (iid == IID_ISupportErrorInfo) return static_cast<ISupportErrorInfo*>(this);
+    if (iid == __uuidof(IProefdeurHouder)) return static_cast<IProefdeurHouder*>(this);
+    return nullptr;
+  }
+  /// What the door for tests opens to.
+  [[nodiscard]] virtual headless::Surface& DoorSurface() = 0;
+  [[nodiscard]] virtual std::optional<bool> DoorFlag(std::string_view) const { return std::nullopt; }
+
+  /// Runs a method's body: no exception crosses, and the object stays until it is done.
+  template <class Body> [[nodiscard]] HRESULT Doing(Body&& body) {
+    const Busy busy(*this);
+    return Answering<Interface>(std::forward<Body>(body));
+  }
+
+  [[nodiscard]] component::Toolkit& TheToolkit() { return *toolkit_; }
+  [[nodiscard]] HostSession& Session() { return *session_; }
+  [[nodiscard]] HostClasses& Classes() { return classes_; }
+  [[nodiscard]] host::HostFactories Factories() { return FactoriesFor(*session_, classes_, hooks_); }
+  [[nodiscard]] const CLSID& OwnClass() const { return classId_; }
+
+ private:
+  void Before(headless::AnyControl&, const headless::Action&) override { Enter(); }
+  void After(headless::AnyControl&, const headless::Action&, std::optional<headless::Outcome>) override { Leave(); }
+
+  const CLSID& classId_;
+  const IID& outgoing_;
+  std::unique_ptr<component::Toolkit> toolkit_ = MakeToolkit();
+  std::shared_ptr<HostSession> session_ = std::make_shared<HostSession>();
+  HostClasses classes_;
+  Hooks hooks_{*toolkit_};
+};
+
+/// Gives a by-reference argument back as True where the check refused; otherwise it stays what it is.
+void StoreCancel(VARIANT* argument, bool before, bool after);
+
+}  // namespace brivane::component

@@ -1,0 +1,60 @@
+#include "component/objects/HostClasses.h"
+
+#include "component/automation/ApplicationAdapter.h"
+#include "component/automation/StandardTrace.h"
+#include "component/automation/Text.h"
+#include "component/automation/TraceAdapter.h"
+#include "host/Error.h"
+
+namespace brivane::component {
+
+namespace {
+
+constexpr std::int32_t kCannotCreate = 429;
+
+/// The check of a host that has none.
+class GeenControle final : public host::DossierControle {
+ public:
+  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
+};
+
+ComPtr<IDispatch> CreateByProgId(const std::string& progId) {
+  CLSID id{};
+  ComPtr<IDispatch> object;
+  HRESULT result = CLSIDFromProgID(Wide(progId).c_str(), &id);
+  if (SUCCEEDED(result))
+    result = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(object.Put()));
+  if (FAILED(result)) throw host::Error(kCannotCreate, "Cannot create an object of class " + progId, "BrivaneVrijeKolom");
+  return object;
+}
+
+ComPtr<IDispatch> MakeTrace(const HostClasses& classes, Hooks& hooks, std::string_view control) {
+  if (ComPtr<IDispatch> made = hooks.MadeByCallback(L"MakeProcedureTrace", control)) return made;
+  return classes.procedureTrace.empty() ? MakeStandardTrace() : CreateByProgId(classes.procedureTrace);
+}
+
+ComPtr<IDispatch> MakeControle(const HostClasses& classes, Hooks& hooks, std::string_view control) {
+  if (ComPtr<IDispatch> made = hooks.MadeByCallback(L"MakeDossierControle", control)) return made;
+  return classes.dossierControle.empty() ? ComPtr<IDispatch>() : CreateByProgId(classes.dossierControle);
+}
+
+}  // namespace
+
+host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks) {
+  return {.MaakProcedureTrace =
+              [&](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
+                return session.Make<TraceAdapter>([&classes, &hooks, name = std::string(control)] {
+                  return MakeTrace(classes, hooks, name);
+                });
+              },
+          .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
+            ComPtr<IDispatch> made = MakeControle(classes, hooks, control);
+            if (!made) return std::make_shared<GeenControle>();
+            return session.Make<ControleAdapter>(
+                [&classes, &hooks, name = std::string(control), first = std::move(made)]() mutable {
+                  return first ? std::exchange(first, {}) : MakeControle(classes, hooks, name);
+                });
+          }};
+}
+
+}  // namespace brivane::component

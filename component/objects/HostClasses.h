@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "component/automation/HostSession.h"
+#include "component/testdoor/Hooks.h"
+#include "host/model/HostFactories.h"
+
+namespace brivane::component {
+
+/// ProgIDs of the host classes that a control makes itself; empty for the library's own plain ones.
+struct HostClasses {
+  std::string procedureTrace;
+  std::string dossierControle;
+};
+
+/// Makes the host's tracer and check for the logic. All three must outlive the control.
+///
+/// A class that cannot be made fails with error 429.
+[[nodiscard]] host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks);
+
+}  // namespace brivane::component

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <span>
+
+#include "component/automation/Windows.h"
+
+namespace brivane::component {
+
+class Identity;
+
+/// What a class is to containers.
+enum class Usage { Control, Object };
+
+/// One of the library's classes that hosts create.
+struct Klasse {
+  const CLSID& id;
+  const wchar_t* name;         ///< "VrijeKolom"; its ProgID is BrivaneVrijeKolom.VrijeKolom
+  const wchar_t* description;  ///< as a person reads it
+  Usage usage;
+  int bitmap;  ///< resource number of a control's picture in a tool box
+  Identity* (*make)(IUnknown* outer);
+};
+
+/// Version of every class and of the type library.
+inline constexpr int kMajor = 1;
+inline constexpr int kMinor = 0;
+
+/// The OLEMISC bits of the controls: recompose on resize, cannot be linked inside, inside-out, active when visible, and
+/// told of its site before it is loaded.
+inline constexpr DWORD kMiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_INSIDEOUT |
+                                     OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_SETCLIENTSITEFIRST;
+
+[[nodiscard]] std::span<const Klasse> Klassen();
+/// The class with that identity, or nothing.
+[[nodiscard]] const Klasse* FindKlasse(const CLSID& id);
+
+}  // namespace brivane::component

@@ -1,0 +1,69 @@
+#include "component/objects/ToelichtingObject.h"
+
+#include "component/automation/ApplicationAdapter.h"
+#include "component/automation/CaseAdapter.h"
+#include "component/automation/Text.h"
+#include "toelichting/Ontwerp.h"
+
+namespace brivane::component {
+
+namespace {
+
+// Of the event interface.
+constexpr DISPID kChanged = 1;
+
+}  // namespace
+
+ToelichtingObject::ToelichtingObject(IUnknown* outer)
+    : CoObject(outer, CLSID_Toelichting, DIID_DToelichtingEvents),
+      surface_(TheToolkit().MakeSurface(toelichting::kOntwerp)),
+      control_(std::make_unique<brivane::Toelichting>(*surface_, TheToolkit().Desktop(), Factories())),
+      events_(Controlling(), DIID_DToelichtingEvents),
+      points_(Controlling(), {&events_}) {
+  control_->Changed.Connect([this] { events_.Raise(kChanged); });
+}
+
+ToelichtingObject::~ToelichtingObject() = default;
+
+IUnknown* ToelichtingObject::Find(REFIID iid) {
+  if (iid == IID_IConnectionPointContainer) return &points_;
+  return CoObject::Find(iid);
+}
+
+STDMETHODIMP ToelichtingObject::SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) {
+  const HRESULT bound = Doing([&] {
+    std::shared_ptr<host::Application> application = Session().Adapt<ApplicationAdapter>(Application);
+    std::shared_ptr<host::Lening> lening = Session().Adapt<LeningAdapter>(Lening);
+    control_->SetApplication(application, lening, Vrij_Id);
+  });
+  if (!Application) Session().LetGo();
+  return bound;
+}
+
+STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
+  if (!Cancel) return E_POINTER;
+  return Doing([&] {
+    const bool before = As<bool>(*Cancel);
+    bool cancel = before;
+    control_->Validation(cancel, ControleNr);
+    StoreCancel(Cancel, before, cancel);
+  });
+}
+
+STDMETHODIMP ToelichtingObject::get_BackColor(LONG* Color) {
+  return Doing([&] { *Color = control_->BackColor().value; });
+}
+
+STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
+  return Doing([&] { control_->SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+}
+
+STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
+  return Doing([&] { *ProgID = NewBstr(Classes().procedureTrace); });
+}
+
+STDMETHODIMP ToelichtingObject::put_ProcedureTraceKlasse(BSTR ProgID) {
+  return Doing([&] { Classes().procedureTrace = FromBstr(ProgID); });
+}
+
+}  // namespace brivane::component

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "component/objects/CoObject.h"
+#include "component/objects/ConnectionPoint.h"
+#include "toelichting/Toelichting.h"
+
+namespace brivane::component {
+
+/// The explanation control as hosts create it by itself.
+class ToelichtingObject final : public CoObject<IToelichting> {
+ public:
+  explicit ToelichtingObject(IUnknown* outer);
+  ~ToelichtingObject() override;
+
+  STDMETHODIMP SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) override;
+  STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override;
+  STDMETHODIMP get_BackColor(LONG* Color) override;
+  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override;
+  STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override;
+
+ private:
+  IUnknown* Find(REFIID iid) override;
+  headless::Surface& DoorSurface() override { return headless::Surface::Of(*surface_); }
+
+  std::unique_ptr<host::Surface> surface_;
+  std::unique_ptr<brivane::Toelichting> control_;
+  ConnectionPoint events_;
+  ConnectionPoints points_;
+};
+
+}  // namespace brivane::component

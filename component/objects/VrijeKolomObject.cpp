@@ -1,0 +1,138 @@
+#include "component/objects/VrijeKolomObject.h"
+
+#include <array>
+
+#include "component/automation/ApplicationAdapter.h"
+#include "component/automation/CaseAdapter.h"
+#include "component/automation/Text.h"
+#include "vrijekolom/Ontwerp.h"
+
+namespace brivane::component {
+
+namespace {
+
+// Of the event interface.
+constexpr DISPID kRefreshTopDisplay = 1;
+constexpr DISPID kHeightChanged = 2;
+
+VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
+
+}  // namespace
+
+/// The explanation control inside the editor, as hosts reach it. It keeps the editor alive.
+class VrijeKolomObject::Ingesloten final : public DualObject<IToelichting> {
+ public:
+  explicit Ingesloten(VrijeKolomObject& owner) : owner_(owner), kept_(&owner.Controlling()) {}
+
+  STDMETHODIMP SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) override {
+    return owner_.Doing([&] {
+      std::shared_ptr<host::Application> application = owner_.Session().Adapt<ApplicationAdapter>(Application);
+      std::shared_ptr<host::Lening> lening = owner_.Session().Adapt<LeningAdapter>(Lening);
+      Control().SetApplication(application, lening, Vrij_Id);
+    });
+  }
+  STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override {
+    if (!Cancel) return E_POINTER;
+    return owner_.Doing([&] {
+      const bool before = As<bool>(*Cancel);
+      bool cancel = before;
+      Control().Validation(cancel, ControleNr);
+      StoreCancel(Cancel, before, cancel);
+    });
+  }
+  STDMETHODIMP get_BackColor(LONG* Color) override {
+    return owner_.Doing([&] { *Color = Control().BackColor().value; });
+  }
+  STDMETHODIMP put_BackColor(LONG New_Color) override {
+    return owner_.Doing([&] { Control().SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+  }
+  // The embedded control's tracer is of the editor's class.
+  STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override { return owner_.get_ProcedureTraceKlasse(ProgID); }
+  STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override { return owner_.put_ProcedureTraceKlasse(ProgID); }
+
+ private:
+  [[nodiscard]] brivane::Toelichting& Control() { return owner_.editor_->Toelichting(); }
+
+  VrijeKolomObject& owner_;
+  ComPtr<IUnknown> kept_;
+};
+
+VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
+    : CoObject(outer, CLSID_VrijeKolom, DIID_DVrijeKolomEvents),
+      surface_(TheToolkit().MakeSurface(vrijekolom::kOntwerp)),
+      editor_(std::make_unique<brivane::VrijeKolom>(*surface_, TheToolkit(), Factories())),
+      events_(Controlling(), DIID_DVrijeKolomEvents),
+      points_(Controlling(), {&events_}) {
+  editor_->RefreshTopDisplay.Connect(
+      [this](const std::string& text) { events_.Raise(kRefreshTopDisplay, std::array{Variant(text)}); });
+  editor_->HeightChanged.Connect([this] { events_.Raise(kHeightChanged); });
+}
+
+VrijeKolomObject::~VrijeKolomObject() = default;
+
+IUnknown* VrijeKolomObject::Find(REFIID iid) {
+  if (iid == IID_IConnectionPointContainer) return &points_;
+  return CoObject::Find(iid);
+}
+
+std::optional<bool> VrijeKolomObject::DoorFlag(std::string_view flag) const {
+  if (flag == "filling") return editor_->Filling();
+  if (flag == "changed") return editor_->Gewijzigd();
+  return std::nullopt;
+}
+
+STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
+  const HRESULT bound = Doing([&] {
+    editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id);
+  });
+  if (!Application) Session().LetGo();
+  return bound;
+}
+
+STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
+  if (!Cancel) return E_POINTER;
+  return Doing([&] {
+    const bool before = As<bool>(*Cancel);
+    bool cancel = before;
+    editor_->Validation(cancel, ControleNr);
+    StoreCancel(Cancel, before, cancel);
+  });
+}
+
+STDMETHODIMP VrijeKolomObject::get_BackColor(LONG* Color) {
+  return Doing([&] { *Color = editor_->BackColor().value; });
+}
+
+STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
+  return Doing([&] { editor_->SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+}
+
+STDMETHODIMP VrijeKolomObject::get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) {
+  return Doing([&] { *Zichtbaar = Truth(editor_->BeeindigenZichtbaar()); });
+}
+
+STDMETHODIMP VrijeKolomObject::put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) {
+  return Doing([&] { editor_->SetBeeindigenZichtbaar(Zichtbaar != VARIANT_FALSE); });
+}
+
+STDMETHODIMP VrijeKolomObject::get_Toelichting(IToelichting** Toelichting) {
+  return Doing([&] { *Toelichting = new Ingesloten(*this); });
+}
+
+STDMETHODIMP VrijeKolomObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
+  return Doing([&] { *ProgID = NewBstr(Classes().procedureTrace); });
+}
+
+STDMETHODIMP VrijeKolomObject::put_ProcedureTraceKlasse(BSTR ProgID) {
+  return Doing([&] { Classes().procedureTrace = FromBstr(ProgID); });
+}
+
+STDMETHODIMP VrijeKolomObject::get_DossierControleKlasse(BSTR* ProgID) {
+  return Doing([&] { *ProgID = NewBstr(Classes().dossierControle); });
+}
+
+STDMETHODIMP VrijeKolomObject::put_DossierControleKlasse(BSTR ProgID) {
+  return Doing([&] { Classes().dossierControle = FromBstr(ProgID); });
+}
+
+}  // namespace brivane::component

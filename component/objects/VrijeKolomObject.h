@@ -1,0 +1,40 @@
+#pragma once
+
+#include "component/objects/CoObject.h"
+#include "component/objects/ConnectionPoint.h"
+#include "vrijekolom/VrijeKolom.h"
+
+namespace brivane::component {
+
+/// The free-column editor as hosts create it.
+class VrijeKolomObject final : public CoObject<IVrijeKolom> {
+ public:
+  explicit VrijeKolomObject(IUnknown* outer);
+  ~VrijeKolomObject() override;
+
+  STDMETHODIMP SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) override;
+  STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override;
+  STDMETHODIMP get_BackColor(LONG* Color) override;
+  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) override;
+  STDMETHODIMP put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) override;
+  STDMETHODIMP get_Toelichting(IToelichting** Toelichting) override;
+  STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override;
+  STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override;
+  STDMETHODIMP get_DossierControleKlasse(BSTR* ProgID) override;
+  STDMETHODIMP put_DossierControleKlasse(BSTR ProgID) override;
+
+ private:
+  class Ingesloten;
+
+  IUnknown* Find(REFIID iid) override;
+  headless::Surface& DoorSurface() override { return headless::Surface::Of(*surface_); }
+  std::optional<bool> DoorFlag(std::string_view flag) const override;
+
+  std::unique_ptr<host::Surface> surface_;
+  std::unique_ptr<brivane::VrijeKolom> editor_;
+  ConnectionPoint events_;
+  ConnectionPoints points_;
+};
+
+}  // namespace brivane::component

@@ -1,0 +1,57 @@
+#include "component/testdoor/Hooks.h"
+
+#include <array>
+
+#include "component/testdoor/Proefdeur.h"
+#include "host/Error.h"
+
+namespace brivane::component {
+
+void Hooks::Set(std::string_view setting, const VARIANT& value) {
+  auto& desktop = toolkit_.Desktop();
+  if (setting == "today") {
+    desktop.today = As<host::Date>(value);
+  } else if (setting == "title") {
+    desktop.title = As<std::string>(value);
+  } else {
+    throw NoSuch("setting", setting);
+  }
+}
+
+void Hooks::SetCallback(ComPtr<IDispatch> callback) {
+  callback_ = LateBound(std::move(callback));
+  auto& desktop = toolkit_.Desktop();
+  desktop.answer = nullptr;
+  desktop.pending = nullptr;
+  toolkit_.modal = nullptr;
+  toolkit_.focusMoved = nullptr;
+  if (callback_.Has(L"Message"))
+    desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
+      return Ask(title, text, style);
+    };
+  if (callback_.Has(L"Pending")) desktop.pending = [this] { callback_.Call(L"Pending"); };
+  if (callback_.Has(L"Form")) toolkit_.modal = [this](headless::Form& form) { RunForm(form); };
+  if (callback_.Has(L"Focus"))
+    toolkit_.focusMoved = [this](headless::AnyControl& control) {
+      callback_.Call(L"Focus", std::array{Variant(control.ElementName())});
+    };
+}
+
+host::MessageAnswer Hooks::Ask(const std::string& title, const std::string& text, host::MessageStyle style) {
+  const std::array arguments{Variant(title), Variant(text), Variant(static_cast<std::int32_t>(style))};
+  const Variant answer = callback_.Get(L"Message", arguments);
+  if (answer.Type() != VT_EMPTY) return static_cast<host::MessageAnswer>(As<std::int32_t>(answer));
+  return style == host::MessageStyle::YesNoQuestion ? host::MessageAnswer::No : host::MessageAnswer::Ok;
+}
+
+void Hooks::RunForm(headless::Form& form) {
+  const ProefdeurLening door(form, *this);
+  callback_.Call(L"Form", std::array{Variant(door.Object())});
+}
+
+ComPtr<IDispatch> Hooks::MadeByCallback(std::wstring_view member, std::string_view control) {
+  if (!callback_.Has(member)) return {};
+  return As<ComPtr<IDispatch>>(callback_.Get(member, std::array{Variant(control)}));
+}
+
+}  // namespace brivane::component

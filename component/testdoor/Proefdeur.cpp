@@ -1,0 +1,85 @@
+#include "component/testdoor/Proefdeur.h"
+
+#include "component/automation/Text.h"
+#include "component/testdoor/Actions.h"
+#include "component/testdoor/State.h"
+
+namespace brivane::component {
+
+class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
+ public:
+  Impl(ComPtr<IUnknown> object, headless::Surface& surface, Hooks& hooks, DoorFlags flags)
+      : object_(std::move(object)), surface_(&surface), hooks_(&hooks), flags_(std::move(flags)) {}
+
+  void TakeBack() { surface_ = nullptr; }
+
+  STDMETHODIMP Perform(BSTR element, BSTR action, VARIANT value, SHORT* outcome) override {
+    return OnSurface([&](headless::Surface& surface) {
+      headless::AnyControl& control = Named(surface, FromBstr(element));
+      *outcome = static_cast<SHORT>(control.Perform(ActionOf(FromBstr(action), value, control)));
+    });
+  }
+  STDMETHODIMP Read(BSTR element, BSTR aspect, VARIANT* value) override {
+    return OnSurface([&](headless::Surface& surface) {
+      const std::string name = FromBstr(element);
+      const std::string asked = FromBstr(aspect);
+      if (name.empty() && flags_) {
+        if (const std::optional<bool> flag = flags_(asked)) return Variant(*flag).MoveTo(value);
+      }
+      AspectOf(Named(surface, name), asked).MoveTo(value);
+    });
+  }
+  STDMETHODIMP Dump(VARIANT* controls) override {
+    return OnSurface([&](headless::Surface& surface) { DumpOf(surface).MoveTo(controls); });
+  }
+  STDMETHODIMP Resize(BSTR element, double width, double height) override {
+    return OnSurface([&](headless::Surface& surface) {
+      auto* const sized = dynamic_cast<headless::Surface*>(&Named(surface, FromBstr(element)));
+      if (!sized) throw NoSuch("surface", FromBstr(element));
+      sized->Size({static_cast<float>(width)}, {static_cast<float>(height)});
+    });
+  }
+  STDMETHODIMP Set(BSTR setting, VARIANT value) override {
+    return OnSurface([&](headless::Surface&) { hooks_->Set(FromBstr(setting), value); });
+  }
+  STDMETHODIMP put_Callback(IDispatch* object) override {
+    return OnSurface([&](headless::Surface&) { hooks_->SetCallback(object); });
+  }
+
+ private:
+  template <class Body> HRESULT OnSurface(Body&& body) {
+    const ComPtr<IUnknown> self(this);
+    return Answering<IProefdeur>([&] { body(host::Need(surface_)); });
+  }
+
+  static headless::AnyControl& Named(headless::Surface& surface, const std::string& element) {
+    headless::AnyControl* const control = element.empty() ? &surface : FindElement(surface, element);
+    if (!control) throw host::Error(host::ErrorNumber::NoSuchElement);
+    return *control;
+  }
+
+  ComPtr<IUnknown> object_;
+  headless::Surface* surface_;
+  Hooks* hooks_;
+  DoorFlags flags_;
+};
+
+IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorFlags flags) {
+  return new ProefdeurLening::Impl(&object, surface, hooks, std::move(flags));
+}
+
+ProefdeurLening::ProefdeurLening(headless::Surface& surface, Hooks& hooks)
+    : door_(new Impl({}, surface, hooks, nullptr)) {}
+
+ProefdeurLening::~ProefdeurLening() {
+  door_->TakeBack();
+  door_->Release();
+}
+
+IDispatch* ProefdeurLening::Object() const { return door_; }
+
+host::Error NoSuch(std::string_view what, std::string_view name) {
+  return {5, "No such " + std::string(what) + ": " + std::string(name), "BrivaneVrijeKolom"};
+}
+
+}  // namespace brivane::component

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "component/testdoor/Hooks.h"
+#include "component/testdoor/Interfaces.h"
+#include "host/Error.h"
+#include "toolkits/headless/Surface.h"
+
+namespace brivane::component {
+
+/// Tells a door what an object knows of itself beside its controls: "filling", "changed". Nothing for another name.
+using DoorFlags = std::function<std::optional<bool>(std::string_view flag)>;
+
+/// A door to the surface of an object, counted. It keeps the object alive.
+[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorFlags flags);
+
+/// A door to an open form, lent for the time of one call. What is kept of it longer fails with error 91.
+class ProefdeurLening {
+ public:
+  ProefdeurLening(headless::Surface& surface, Hooks& hooks);
+  ProefdeurLening(const ProefdeurLening&) = delete;
+  ProefdeurLening& operator=(const ProefdeurLening&) = delete;
+  ~ProefdeurLening();
+
+  [[nodiscard]] IDispatch* Object() const;
+
+ private:
+  class Impl;
+  friend IProefdeur* NewProefdeur(IUnknown&, headless::Surface&, Hooks&, DoorFlags);
+
+  Impl* door_;
+};
+
+/// Error 5 for a name that a door does not know.
+[[nodiscard]] host::Error NoSuch(std::string_view what, std::string_view name);
+
+}  // namespace brivane::component

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+#include "component/automation/Variant.h"
+#include "toolkits/headless/Surface.h"
+
+/// The state of controls in the form that the door hands out; the words are those of its interface.
+namespace brivane::component {
+
+[[nodiscard]] Variant AspectOf(const headless::AnyControl& control, std::string_view aspect);
+[[nodiscard]] Variant DumpOf(const headless::Surface& surface);
+
+}  // namespace brivane::component
