@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "toolkits/headless/Messages.h"
 #include "toolkits/qt/RowCanvas.h"
 #include "toolkits/qt/SurfaceWidget.h"
 #include "toolkits/qt/Text.h"
@@ -14,13 +15,6 @@
 namespace brivane::qt {
 
 using headless::Aspect;
-
-namespace {
-
-constexpr char kRowsLost[] =
-    "De gewijzigde rijen worden niet bewaard als u het venster sluit zonder op OK te drukken. Wilt u het sluiten?";
-
-}  // namespace
 
 FormWindow::FormWindow(headless::Form& form, Toolkit& toolkit)
     : form_(form),
@@ -121,7 +115,7 @@ bool FormWindow::RowsChanged() const {
 void FormWindow::Close() {
   if (RowsChanged()) {
     const host::MessageAnswer answer =
-        toolkit_.Desktop().Ask(form_.Caption(), kRowsLost, host::MessageStyle::YesNoQuestion);
+        toolkit_.Desktop().Ask(form_.Caption(), headless::kRowsLost, host::MessageStyle::YesNoQuestion);
     if (answer != host::MessageAnswer::Yes) return;
   }
   toolkit_.Guard([this] { form_.Perform(headless::Close{}); });

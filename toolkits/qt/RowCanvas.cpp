@@ -12,6 +12,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "toolkits/entry/Column.h"
 #include "toolkits/headless/Choices.h"
 #include "toolkits/headless/Plain.h"
 #include "toolkits/headless/Surface.h"
@@ -313,40 +314,17 @@ bool RowCanvas::focusNextPrevChild(bool next) {
 void RowCanvas::PasteColumn(const QString& text) {
   if (edited_ == nullptr) return;
   editor_->Restore();
-  QStringList lines = text.split('\n');
-  while (!lines.isEmpty() && lines.back().trimmed().isEmpty()) lines.pop_back();
-  const auto refuse = [this](const QString& reason) { editor_->ShowReason(reason); };
-  struct Entry {
-    headless::TextBox* box;
-    headless::BoxValue value;
-  };
-  std::vector<Entry> entries;
-  const CellPeer& first = *edited_;
-  auto& surface = *first.Control().Owner();
-  int surplus = 0;
-  for (qsizetype i = 0; i < lines.size(); ++i) {
-    const QString line = lines[i].trimmed();
-    if (line.isEmpty()) continue;
-    if (line.contains('\t')) return refuse("Plak één kolom tegelijk.");
-    TypedContent content = ReadContent(line, first.Control().Row().format);
-    if (!content.refusal.isEmpty()) return refuse(QString("Regel %1: %2").arg(i + 1).arg(content.refusal));
-    auto* const box = static_cast<headless::TextBox*>(
-        surface.Find(first.Control().DesignName(), first.Control().Index() + static_cast<int>(i)));
-    if (box == nullptr)
-      ++surplus;
-    else if (box->Reachable() && !box->Locked())
-      entries.push_back({box, std::move(content.value)});
-  }
-  for (Entry& entry : entries) {
+  entry::Column column =
+      entry::ReadColumn(FromQt(text), static_cast<const headless::TextBox&>(edited_->Control()));
+  if (!column.refusal.empty()) return editor_->ShowReason(ToQt(column.refusal));
+  for (entry::Column::Entry& entry : column.entries) {
     headless::Outcome outcome = headless::Outcome::Done;
     toolkit_.Guard([&] { outcome = entry.box->Perform(headless::Enter{std::move(entry.value)}); });
     changed_ = true;
     if (outcome == headless::Outcome::Refused) break;
   }
   editor_->selectAll();
-  if (surplus == 1) refuse("De laatste regel past niet meer in de rijen en is niet geplakt.");
-  if (surplus > 1)
-    refuse(QString("De laatste %1 regels passen niet meer in de rijen en zijn niet geplakt.").arg(surplus));
+  if (!column.surplus.empty()) editor_->ShowReason(ToQt(column.surplus));
 }
 
 void RowCanvas::Activate(CellPeer& cell) {

@@ -1,0 +1,52 @@
+#include "toolkits/win32/Bubble.h"
+
+#include <algorithm>
+
+#include "toolkits/win32/Toolkit.h"
+
+namespace brivane::win32 {
+
+namespace {
+
+constexpr int kGap = 2;
+constexpr int kMargin = 4;
+
+}  // namespace
+
+Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const std::wstring& reason)
+    : Window(toolkit,
+             {.className = L"STATIC",
+              .style = WS_CHILD | WS_BORDER | WS_CLIPSIBLINGS | SS_NOPREFIX | SS_LEFT,
+              .text = reason},
+             area) {
+  SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+  RECT room{};
+  GetClientRect(area, &room);
+  const int gap = toolkit.Edge().Designed(kGap);
+  const int around = 2 * GetSystemMetrics(SM_CXBORDER) + toolkit.Edge().Designed(kMargin);
+  RECT text{0, 0, std::max<LONG>(toolkit.Edge().Designed(80), room.right - 2 * gap - around), 0};
+  const HDC context = GetDC(Handle());
+  const HGDIOBJ before = SelectObject(context, font);
+  DrawTextW(context, reason.c_str(), -1, &text, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  SelectObject(context, before);
+  ReleaseDC(Handle(), context);
+
+  RECT place{};
+  GetWindowRect(box, &place);
+  MapWindowPoints(nullptr, area, reinterpret_cast<POINT*>(&place), 2);
+  const LONG width = text.right + around;
+  const LONG height = text.bottom + 2 * GetSystemMetrics(SM_CYBORDER);
+  LONG top = place.bottom + gap;
+  if (top + height > room.bottom) top = place.top - gap - height;
+  const LONG left = std::max<LONG>(gap, std::min<LONG>(place.left, room.right - width - gap));
+  SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(0, top), width, height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
+}
+
+HBRUSH Bubble::OnColor(UINT, HDC context) {
+  SetBkColor(context, GetSysColor(COLOR_INFOBK));
+  SetTextColor(context, GetSysColor(COLOR_INFOTEXT));
+  return GetSysColorBrush(COLOR_INFOBK);
+}
+
+}  // namespace brivane::win32

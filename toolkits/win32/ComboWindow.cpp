@@ -1,0 +1,116 @@
+#include "toolkits/win32/ComboWindow.h"
+
+#include <algorithm>
+
+#include "toolkits/win32/Text.h"
+
+namespace brivane::win32 {
+
+using headless::Aspect;
+
+namespace {
+
+constexpr int kMostShown = 12;
+
+}  // namespace
+
+ComboWindow::ComboWindow(headless::ListBox& list, win32::Toolkit& toolkit)
+    : ControlWindow(list, toolkit,
+                    {.className = L"COMBOBOX",
+                     .style = WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS}),
+      list_(list),
+      name_(std::make_unique<NameLabel>(list, toolkit)) {
+  SetWindowPos(Handle(), name_->Handle(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  Refresh(Aspect::Entries);
+}
+
+void ComboWindow::Refresh(Aspect aspect) {
+  if (Handle() == nullptr) return;
+  switch (aspect) {
+    case Aspect::Entries:
+      SendMessageW(Handle(), CB_RESETCONTENT, 0, 0);
+      for (const headless::ListBox::Entry& entry : list_.Entries()) AddEntry(entry);
+      ShowIndex();
+      break;
+    case Aspect::EntryAdded: AddEntry(list_.Entries().back()); break;
+    case Aspect::ListIndex: ShowIndex(); break;
+    default: ControlWindow::Refresh(aspect);
+  }
+}
+
+void ComboWindow::AddEntry(const headless::ListBox::Entry& entry) const {
+  const LRESULT place = SendMessageW(Handle(), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry.text).c_str()));
+  SendMessageW(Handle(), CB_SETITEMDATA, static_cast<WPARAM>(place), entry.itemData);
+}
+
+void ComboWindow::ShowIndex() const {
+  SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+}
+
+bool ComboWindow::IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE; }
+
+/// The class makes the closed box as high as its font asks, and takes the height that it is given for that of
+/// the dropped list. The height of the field is set so that the closed box is as high as the design has it.
+void ComboWindow::ShowPlace() {
+  const RECT place = Toolkit().Edge().Pixels(list_.Place());
+  const auto row = static_cast<int>(SendMessageW(Handle(), CB_GETITEMHEIGHT, 0, 0));
+  const auto put = [&] {
+    SetWindowPos(Handle(), nullptr, place.left, place.top, WidthOf(place), HeightOf(place) + kMostShown * row + 2,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  };
+  put();
+  RECT closed{};
+  GetWindowRect(Handle(), &closed);
+  const LONG missing = HeightOf(place) - HeightOf(closed);
+  if (missing == 0) return;
+  const LRESULT field = SendMessageW(Handle(), CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
+  SendMessageW(Handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max<LRESULT>(1, field + missing));
+  put();
+}
+
+void ComboWindow::ShowFont() {
+  ControlWindow::ShowFont();
+  ShowPlace();
+}
+
+void ComboWindow::Take() {
+  const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
+  if (index == list_.ListIndex() || index < 0) return;
+  const auto life = Life();
+  Toolkit().Act(list_, headless::Choose{index}, *this);
+  if (!life.expired()) ShowIndex();
+}
+
+void ComboWindow::OnCommand(int code) {
+  switch (code) {
+    case CBN_DROPDOWN: given_up_ = false; break;
+    case CBN_SELENDCANCEL: given_up_ = true; break;
+    case CBN_SELENDOK: given_up_ = false; break;
+    case CBN_SELCHANGE:
+      if (!IsDropped()) Take();
+      break;
+    case CBN_CLOSEUP:
+      if (given_up_)
+        ShowIndex();
+      else
+        Take();
+      break;
+    default: break;
+  }
+}
+
+bool ComboWindow::OnKey(WPARAM key) {
+  if (!IsDropped() || (key != VK_RETURN && key != VK_ESCAPE)) return false;
+  if (key == VK_ESCAPE) given_up_ = true;
+  SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
+  return true;
+}
+
+LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // Turning the wheel over a list that has no focus scrolls what it stands on.
+  if (message == WM_MOUSEWHEEL && GetFocus() != Handle())
+    return SendMessageW(GetParent(Handle()), message, wParam, lParam);
+  return ControlWindow::OnMessage(message, wParam, lParam);
+}
+
+}  // namespace brivane::win32

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/Date.h"
+#include "toolkits/win32/BoxWindow.h"
+
+namespace brivane::win32 {
+
+class Calendar;
+
+/// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its button. The focus stays
+/// in the box; arrows, Page Up and Page Down move the day, Enter or a click picks it and hands it over at once,
+/// Escape closes the calendar and changes nothing.
+class DateWindow final : public BoxWindow {
+ public:
+  DateWindow(headless::TextBox& box, win32::Toolkit& toolkit);
+  ~DateWindow() override;
+
+  void OpenCalendar();
+  void CloseCalendar();
+  /// The open calendar, or nothing.
+  [[nodiscard]] HWND CalendarShown() const;
+  void Pick(host::Date date);
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  bool OnKey(WPARAM key) override;
+  void ShowPlace() override;
+  void ShowFont() override;
+
+ private:
+  class DropButton;
+
+  void PlaceButton();
+
+  std::unique_ptr<DropButton> button_;
+  std::unique_ptr<Calendar> calendar_;
+};
+
+}  // namespace brivane::win32

@@ -1,0 +1,98 @@
+#include "toolkits/win32/Desktop.h"
+
+#include <cmath>
+
+#include "frame/Calendar.h"
+#include "toolkits/headless/Desktop.h"
+#include "toolkits/headless/Pixels.h"
+#include "toolkits/win32/Text.h"
+
+namespace brivane::win32 {
+
+namespace {
+
+/// Gives the next message box of this thread Dutch buttons, whatever language Windows has, and lets Escape
+/// answer "Nee".
+class DutchButtons {
+ public:
+  DutchButtons() : hook_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())) {}
+  DutchButtons(const DutchButtons&) = delete;
+  DutchButtons& operator=(const DutchButtons&) = delete;
+  ~DutchButtons() { UnhookWindowsHookEx(hook_); }
+
+ private:
+  static LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM info) {
+    if (code == HCBT_ACTIVATE) {
+      const auto box = reinterpret_cast<HWND>(window);
+      if (GetDlgItem(box, IDYES) != nullptr) {
+        SetDlgItemTextW(box, IDYES, L"&Ja");
+        SetDlgItemTextW(box, IDNO, L"&Nee");
+      }
+    }
+    return CallNextHookEx(nullptr, code, window, info);
+  }
+
+  HHOOK hook_;
+};
+
+std::wstring ProgramName() {
+  std::wstring path(MAX_PATH, L'\0');
+  path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+  path.erase(0, path.find_last_of(L"\\/") + 1);
+  return path.substr(0, path.rfind(L'.'));
+}
+
+}  // namespace
+
+std::string Desktop::ApplicationTitle() const { return title.empty() ? Narrow(ProgramName()) : title; }
+
+host::MessageAnswer Desktop::MessageBox(const std::string& caption, const std::string& text,
+                                        host::MessageStyle style) {
+  const host::MessageAnswer given = Ask(caption, text, style);
+  if (answered) answered(given);
+  return given;
+}
+
+host::MessageAnswer Desktop::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
+  if (answer) return answer(caption, text, style);
+  const DutchButtons dutch;
+  // The styles are the numbers of Windows.
+  const int button = MessageBoxW(GetActiveWindow(), Wide(text).c_str(), Wide(caption).c_str(),
+                                 static_cast<UINT>(style) | MB_TASKMODAL);
+  switch (button) {
+    case IDYES: return host::MessageAnswer::Yes;
+    case IDNO: return host::MessageAnswer::No;
+    default: return host::MessageAnswer::Ok;
+  }
+}
+
+float Desktop::TwipsPerPixelX() const { return static_cast<float>(headless::kTwipsPerPixel); }
+float Desktop::TwipsPerPixelY() const { return static_cast<float>(headless::kTwipsPerPixel); }
+
+void Desktop::ResetMousePointer() { SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(32512))); }
+
+host::Date Desktop::Today() const {
+  if (clock) return clock();
+  SYSTEMTIME now{};
+  GetLocalTime(&now);
+  return frame::MakeDate({now.wYear, now.wMonth, now.wDay});
+}
+
+void Desktop::DoPendingEvents() {
+  if (pending) pending();
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    if (message.message == WM_QUIT) return PostQuitMessage(static_cast<int>(message.wParam));
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+std::string Desktop::FormatWhole(double number) const {
+  wchar_t separator[8] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 8);
+  const double whole = std::round(number);
+  return headless::FormatGrouped(whole == 0 ? 0.0 : whole, Narrow(separator));
+}
+
+}  // namespace brivane::win32

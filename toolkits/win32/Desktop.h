@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "toolkits/win32/WindowsApi.h"
+
+#include "host/controls/Desktop.h"
+
+namespace brivane::win32 {
+
+/// The machine as Windows sees it: message boxes with Dutch buttons, the program's name and the user's
+/// number format.
+class Desktop final : public host::Desktop {
+ public:
+  /// Answers today's date instead of the clock, when set.
+  std::function<host::Date()> clock;
+  /// Answers a message box instead of a person, when set.
+  std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle style)>
+      answer;
+  /// Told what a message box of the controls was answered.
+  std::function<void(host::MessageAnswer answer)> answered;
+  /// Runs when the logic lets pending events run, before the waiting messages of Windows.
+  std::function<void()> pending;
+  /// Title of the application; empty for the name of the program.
+  std::string title;
+
+  /// A message box of the toolkit's own: as MessageBox, and nobody is told.
+  [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text, host::MessageStyle style);
+
+  [[nodiscard]] std::string ApplicationTitle() const override;
+  host::MessageAnswer MessageBox(const std::string& caption, const std::string& text,
+                                 host::MessageStyle style) override;
+  /// Always 15: the windows are scaled to the screen themselves.
+  [[nodiscard]] float TwipsPerPixelX() const override;
+  [[nodiscard]] float TwipsPerPixelY() const override;
+  void ResetMousePointer() override;
+  [[nodiscard]] host::Date Today() const override;
+  void DoPendingEvents() override;
+  [[nodiscard]] std::string FormatWhole(double number) const override;
+};
+
+}  // namespace brivane::win32

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "toolkits/headless/ListView.h"
+#include "toolkits/win32/NameLabel.h"
+
+namespace brivane::win32 {
+
+/// The report list. A person can scroll it and select nothing: its selected row is a mark of the logic.
+/// The data of each item holds which of its cells are bold, bit by bit.
+class ListViewWindow final : public ControlWindow {
+ public:
+  ListViewWindow(headless::ListView& list, win32::Toolkit& toolkit);
+  void Refresh(headless::Aspect aspect) override;
+  void Rescale() override;
+
+ protected:
+  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+  std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  void ShowBackColor() override;
+
+ private:
+  void ShowColumns();
+  void ShowRows();
+  void ShowSelection();
+
+  headless::ListView& list_;
+  std::unique_ptr<NameLabel> name_;
+};
+
+}  // namespace brivane::win32

@@ -1,0 +1,169 @@
+#include "toolkits/win32/Toolkit.h"
+
+#include <commctrl.h>
+
+#include "frame/ErrorReport.h"
+#include "toolkits/win32/BoxWindow.h"
+#include "toolkits/win32/FormWindow.h"
+#include "toolkits/win32/Navigation.h"
+#include "toolkits/win32/Text.h"
+
+namespace brivane::win32 {
+
+/// The activation context of the manifest in the module, which gives the controls their look: windows are
+/// made while it is active. Nothing where the module has no manifest.
+class Toolkit::Look {
+ public:
+  explicit Look(HINSTANCE module) {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(module, path.data(), MAX_PATH));
+    for (const int number : {2, 1}) {
+      ACTCTXW wanted{};
+      wanted.cbSize = sizeof wanted;
+      wanted.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
+      wanted.lpSource = path.c_str();
+      wanted.lpResourceName = MAKEINTRESOURCEW(number);
+      wanted.hModule = module;
+      if (FindResourceW(module, wanted.lpResourceName, MAKEINTRESOURCEW(24)) == nullptr) continue;
+      context_ = CreateActCtxW(&wanted);
+      if (context_ != INVALID_HANDLE_VALUE) break;
+    }
+  }
+  Look(const Look&) = delete;
+  Look& operator=(const Look&) = delete;
+  ~Look() {
+    if (context_ != INVALID_HANDLE_VALUE) ReleaseActCtx(context_);
+  }
+
+  template <class Body> auto During(const Body& body) const {
+    ULONG_PTR cookie = 0;
+    const bool active = context_ != INVALID_HANDLE_VALUE && ActivateActCtx(context_, &cookie) != FALSE;
+    const auto result = body();
+    if (active) DeactivateActCtx(0, cookie);
+    return result;
+  }
+
+ private:
+  HANDLE context_ = INVALID_HANDLE_VALUE;
+};
+
+namespace {
+
+/// The classes keep the default procedure: each window gets its own when it is made, so that no class is
+/// left pointing into a library that was unloaded.
+void RegisterClasses(HINSTANCE module) {
+  WNDCLASSEXW entry{};
+  entry.cbSize = sizeof entry;
+  entry.lpfnWndProc = DefWindowProcW;
+  entry.hInstance = module;
+  entry.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
+  for (const wchar_t* name : {kAreaClass, kFormClass, kDropClass}) {
+    entry.lpszClassName = name;
+    RegisterClassExW(&entry);  // fails where an earlier toolkit did it
+  }
+}
+
+double SystemScale() {
+  const HDC screen = GetDC(nullptr);
+  const double scale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
+  ReleaseDC(nullptr, screen);
+  return scale;
+}
+
+}  // namespace
+
+Toolkit::Toolkit(HINSTANCE module) : module_(module), edge_(SystemScale()), look_(std::make_unique<Look>(module)) {
+  RegisterClasses(module);
+  look_->During([] {
+    INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES |
+                                                   ICC_BAR_CLASSES};
+    return InitCommonControlsEx(&wanted);
+  });
+  parking_ = CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr);
+}
+
+Toolkit::~Toolkit() { DestroyWindow(parking_); }
+
+HWND Toolkit::MakeWindow(const Making& making, HWND parent) const {
+  const bool child = (making.style & WS_CHILD) != 0;
+  return look_->During([&] {
+    return CreateWindowExW(making.extendedStyle, making.className, making.text.c_str(), making.style, 0, 0, 0, 0,
+                           parent == nullptr && child ? parking_ : parent, nullptr, module_, nullptr);
+  });
+}
+
+void Toolkit::Guard(const std::function<void()>& body) {
+  try {
+    body();
+  } catch (...) {
+    const host::Error failure = frame::CurrentError();
+    if (failureListener_) return failureListener_(failure);
+    const std::string text =
+        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description();
+    (void)desktop_.Ask(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
+  }
+}
+
+bool Toolkit::LeaveBox(const Window& target) {
+  BoxWindow* const box = BoxWindow::PendingWith(target.Handle());
+  return box == nullptr || static_cast<const Window*>(box) == &target || box->CommitPending();
+}
+
+bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const Window& window) {
+  if (!LeaveBox(window)) return false;
+  headless::Outcome outcome = headless::Outcome::Ignored;
+  Guard([&] { outcome = control.Perform(action); });
+  return outcome == headless::Outcome::Done;
+}
+
+HWND Toolkit::WindowOf(host::Surface& surface) { return AreaOf(headless::Surface::Of(surface)); }
+
+bool Toolkit::Navigate(host::Surface& surface, const MSG& message) {
+  const headless::Surface& area = headless::Surface::Of(surface);
+  auto* const control = dynamic_cast<ControlWindow*>(Window::Of(message.hwnd));
+  const bool inside = control != nullptr && &RootOf(control->Control()) == &area;
+  if (message.message == WM_SYSCHAR && !inside) return PressMnemonic(area, static_cast<wchar_t>(message.wParam));
+  return inside && control->TakeKey(message.message, message.wParam);
+}
+
+bool Toolkit::FocusFirst(host::Surface& surface) {
+  return FocusEnd(headless::Surface::Of(surface), Direction::Forward);
+}
+bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(headless::Surface::Of(surface), Direction::Back); }
+
+bool Toolkit::CommitPending(host::Surface& surface) {
+  BoxWindow* const box = BoxWindow::PendingOn(headless::Surface::Of(surface));
+  return box == nullptr || box->CommitPending();
+}
+
+void Toolkit::Rescale(host::Surface& surface) {
+  const std::function<void(const headless::Surface&)> rescale = [&](const headless::Surface& area) {
+    for (const auto& control : area.Made()) {
+      dynamic_cast<ControlWindow&>(*control->GetPeer()).Rescale();
+      if (control->ControlKind() == host::Kind::Surface) rescale(static_cast<const headless::Surface&>(*control));
+    }
+    area.GetPeer()->Refresh(headless::Aspect::Place);
+  };
+  rescale(headless::Surface::Of(surface));
+}
+
+host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
+  const win32::Edge designed(1);
+  const Measuring measuring(
+      fonts_.Get(design.fontName, designed.FontPixels(design.fontSize), bold ? Weight::Bold : Weight::Regular));
+  return designed.ToTwips(measuring.Width(Wide(text)));
+}
+
+HFONT Toolkit::FontOf(const frame::Design& design, float points, Weight weight) const {
+  return fonts_.Get(design.fontName, edge_.FontPixels(points), weight);
+}
+
+std::unique_ptr<headless::Peer> Toolkit::MakePeer(headless::AnyControl& control) {
+  return MakeControlWindow(control, *this);
+}
+
+std::unique_ptr<headless::FormPeer> Toolkit::MakeFormPeer(headless::Form& form) {
+  return std::make_unique<FormWindow>(form, *this);
+}
+
+}  // namespace brivane::win32
