@@ -246,6 +246,8 @@ void BoxWindow::PasteColumn(const std::string& text) {
 }
 
 LRESULT BoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // The class expects that the first of two clicks gave it the focus; a key may have led away between them.
+  if (message == WM_LBUTTONDBLCLK && GetFocus() != Handle()) message = WM_LBUTTONDOWN;
   switch (message) {
     case WM_KILLFOCUS: {
       const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);

@@ -49,8 +49,8 @@ void ComboWindow::ShowIndex() const {
 
 bool ComboWindow::IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE; }
 
-/// The class makes the closed box as high as its font asks, and takes the height that it is given for that of
-/// the dropped list. The height of the field is set so that the closed box is as high as the design has it.
+/// The class takes the height that it is given for that of the dropped list, and makes the closed box as high as
+/// its field. The height of the field is set so that the closed box is as high as the design has it.
 void ComboWindow::ShowPlace() {
   const RECT place = Toolkit().Edge().Pixels(list_.Place());
   const auto row = static_cast<int>(SendMessageW(Handle(), CB_GETITEMHEIGHT, 0, 0));
@@ -58,6 +58,7 @@ void ComboWindow::ShowPlace() {
     SetWindowPos(Handle(), nullptr, place.left, place.top, WidthOf(place), HeightOf(place) + kMostShown * row + 2,
                  SWP_NOZORDER | SWP_NOACTIVATE);
   };
+  closedHeight_ = 0;
   put();
   RECT closed{};
   GetWindowRect(Handle(), &closed);
@@ -65,6 +66,7 @@ void ComboWindow::ShowPlace() {
   if (missing == 0) return;
   const LRESULT field = SendMessageW(Handle(), CB_GETITEMHEIGHT, static_cast<WPARAM>(-1), 0);
   SendMessageW(Handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max<LRESULT>(1, field + missing));
+  closedHeight_ = HeightOf(place);
   put();
 }
 
@@ -83,14 +85,14 @@ void ComboWindow::Take() {
 
 void ComboWindow::OnCommand(int code) {
   switch (code) {
-    case CBN_DROPDOWN: given_up_ = false; break;
-    case CBN_SELENDCANCEL: given_up_ = true; break;
-    case CBN_SELENDOK: given_up_ = false; break;
+    case CBN_DROPDOWN: givenUp_ = false; break;
+    case CBN_SELENDCANCEL: givenUp_ = true; break;
+    case CBN_SELENDOK: givenUp_ = false; break;
     case CBN_SELCHANGE:
       if (!IsDropped()) Take();
       break;
     case CBN_CLOSEUP:
-      if (given_up_)
+      if (givenUp_)
         ShowIndex();
       else
         Take();
@@ -99,10 +101,10 @@ void ComboWindow::OnCommand(int code) {
   }
 }
 
+/// The dropped list takes these before the form does.
 bool ComboWindow::OnKey(WPARAM key) {
   if (!IsDropped() || (key != VK_RETURN && key != VK_ESCAPE)) return false;
-  if (key == VK_ESCAPE) given_up_ = true;
-  SendMessageW(Handle(), CB_SHOWDROPDOWN, FALSE, 0);
+  Default(WM_KEYDOWN, key, 0);
   return true;
 }
 
@@ -110,7 +112,13 @@ LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   // Turning the wheel over a list that has no focus scrolls what it stands on.
   if (message == WM_MOUSEWHEEL && GetFocus() != Handle())
     return SendMessageW(GetParent(Handle()), message, wParam, lParam);
-  return ControlWindow::OnMessage(message, wParam, lParam);
+  const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+  // A field does not become lower than its font; the box does.
+  if (message == WM_WINDOWPOSCHANGING && closedHeight_ > 0) {
+    auto& place = *reinterpret_cast<WINDOWPOS*>(lParam);
+    if ((place.flags & SWP_NOSIZE) == 0) place.cy = closedHeight_;
+  }
+  return result;
 }
 
 }  // namespace brivane::win32

@@ -25,7 +25,8 @@ class ComboWindow final : public ControlWindow {
   void Take();
 
   headless::ListBox& list_;
-  bool given_up_ = false;
+  int closedHeight_ = 0;  ///< in pixels, where the class would have another; else 0
+  bool givenUp_ = false;
   std::unique_ptr<NameLabel> name_;
 };
 

@@ -27,6 +27,8 @@ class AreaHolder {
 /// Shows a control by a window of its own.
 class ControlWindow : public headless::Peer, public Window, public AreaHolder {
  public:
+  ~ControlWindow() override;
+
   void Refresh(headless::Aspect aspect) override;
   void TakeFocus() override;
   [[nodiscard]] HWND Area() const override { return Handle(); }
@@ -45,7 +47,6 @@ class ControlWindow : public headless::Peer, public Window, public AreaHolder {
 
  protected:
   ControlWindow(headless::AnyControl& control, win32::Toolkit& toolkit, const Making& making);
-  ~ControlWindow() override;
 
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   HBRUSH OnColor(UINT message, HDC context) override;

@@ -1,0 +1,209 @@
+#include "tests/toolkits/win32/Person.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "toolkits/entry/Content.h"
+#include "toolkits/headless/Choices.h"
+#include "toolkits/headless/ListBox.h"
+#include "toolkits/headless/TextBox.h"
+#include "toolkits/win32/ControlWindow.h"
+#include "toolkits/win32/FormWindow.h"
+#include "toolkits/win32/Text.h"
+#include "toolkits/win32/Toolkit.h"
+
+namespace brivane::test {
+
+namespace {
+
+Stage* stage = nullptr;
+
+void Send(INPUT input) {
+  if (SendInput(1, &input, sizeof input) != 1) {
+    std::fprintf(stderr, "the input was blocked\n");
+    std::abort();
+  }
+}
+
+void SendKey(WORD key, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  input.ki.dwFlags = flags;
+  Send(input);
+}
+
+void SendMouse(DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = flags;
+  Send(input);
+}
+
+WORD ModifierOf(With with) {
+  switch (with) {
+    case With::Shift: return VK_SHIFT;
+    case With::Control: return VK_CONTROL;
+    case With::Alt: return VK_MENU;
+    case With::None: break;
+  }
+  return 0;
+}
+
+}  // namespace
+
+Stage& TheStage() { return *stage; }
+
+Stage::Stage(win32::Toolkit& toolkit) : toolkit_(toolkit) {
+  WNDCLASSEXW entry{};
+  entry.cbSize = sizeof entry;
+  entry.lpfnWndProc = DefWindowProcW;
+  entry.hInstance = toolkit.Module();
+  entry.lpszClassName = L"BrivaneProefvenster";
+  entry.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  RegisterClassExW(&entry);
+  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, entry.lpszClassName, L"Proef", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                            40, 40, 900, 640, nullptr, nullptr, toolkit.Module(), nullptr);
+  stage = this;
+}
+
+Stage::~Stage() {
+  DestroyWindow(window_);
+  stage = nullptr;
+}
+
+void Stage::Show(host::Surface& surface) {
+  surface_ = &surface;
+  const HWND area = win32::Toolkit::WindowOf(surface);
+  SetParent(area, window_);
+  SetWindowPos(area, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  ShowWindow(window_, SW_SHOW);
+  SetForegroundWindow(window_);
+  Settle();
+}
+
+void Stage::Settle() {
+  MSG message{};
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+    const auto* const control = dynamic_cast<win32::ControlWindow*>(win32::Window::Of(message.hwnd));
+    // A form that is open has its own.
+    headless::Surface* const root = control != nullptr ? &win32::RootOf(control->Control()) : nullptr;
+    if (root != nullptr && toolkit_.Navigate(root->HostSurface(), message)) continue;
+    const bool inside = surface_ != nullptr && root == &headless::Surface::Of(*surface_);
+    if (inside && message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
+      GetKeyState(VK_SHIFT) < 0 ? toolkit_.FocusLast(*surface_) : toolkit_.FocusFirst(*surface_);
+      continue;
+    }
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+POINT CenterOf(HWND window) {
+  RECT area{};
+  GetClientRect(window, &area);
+  return {area.right / 2, area.bottom / 2};
+}
+
+void MoveTo(HWND window, POINT at) {
+  ClientToScreen(window, &at);
+  SetCursorPos(at.x, at.y);
+  TheStage().Settle();
+}
+
+void Click(HWND window, POINT at) {
+  MoveTo(window, at);
+  SendMouse(MOUSEEVENTF_LEFTDOWN);
+  TheStage().Settle();
+  SendMouse(MOUSEEVENTF_LEFTUP);
+  TheStage().Settle();
+}
+
+void Click(HWND window) { Click(window, CenterOf(window)); }
+
+void Press(WORD key, With with) {
+  const WORD modifier = ModifierOf(with);
+  if (modifier != 0) SendKey(modifier, 0);
+  SendKey(key, 0);
+  TheStage().Settle();
+  SendKey(key, KEYEVENTF_KEYUP);
+  if (modifier != 0) SendKey(modifier, KEYEVENTF_KEYUP);
+  TheStage().Settle();
+}
+
+void Type(const std::wstring& text) {
+  for (const wchar_t character : text) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wScan = character;
+    input.ki.dwFlags = KEYEVENTF_UNICODE;
+    Send(input);
+    input.ki.dwFlags |= KEYEVENTF_KEYUP;
+    Send(input);
+    TheStage().Settle();
+  }
+}
+
+void TypeOver(const std::wstring& text) {
+  Press('A', With::Control);
+  if (text.empty())
+    Press(VK_DELETE);
+  else
+    Type(text);
+}
+
+win32::ControlWindow& Shown(headless::AnyControl& control) { return win32::WindowFor(control); }
+
+std::string Focused() {
+  const auto* const control = dynamic_cast<win32::ControlWindow*>(win32::Window::Of(GetFocus()));
+  return control != nullptr ? control->Control().ElementName() : "";
+}
+
+namespace {
+
+class Doer {
+ public:
+  explicit Doer(headless::AnyControl& control) : control_(control) {
+    const auto* const shown = dynamic_cast<win32::ControlWindow*>(control.GetPeer());
+    window_ = shown != nullptr ? shown->Handle() : win32::AreaOf(control);
+  }
+
+  void operator()(const headless::Press&) const { Click(window_); }
+  void operator()(const headless::Select&) const { Click(window_, LeftEnd()); }
+  void operator()(const headless::Tick& tick) const {
+    if (static_cast<const headless::CheckBox&>(control_).Value() != tick.value) Click(window_, LeftEnd());
+  }
+  void operator()(const headless::Toggle& toggle) const {
+    POINT at = CenterOf(window_);
+    at.x = toggle.value == host::kJa ? at.x / 2 : at.x * 3 / 2;
+    Click(window_, at);
+  }
+  void operator()(const headless::Choose& choose) const {
+    Click(window_);
+    if (SendMessageW(window_, CB_GETDROPPEDSTATE, 0, 0) == FALSE) return;
+    Press(VK_HOME);
+    for (int i = 0; i < choose.index; ++i) Press(VK_DOWN);
+    Press(VK_RETURN);
+  }
+  void operator()(const headless::Enter& enter) const {
+    Click(window_, LeftEnd());
+    if (GetFocus() != window_) return;
+    const auto format = static_cast<const headless::TextBox&>(control_).Format();
+    TypeOver(win32::Wide(entry::ShowContent(enter.value, format)));
+    Press(VK_TAB);
+  }
+  void operator()(const headless::Close&) const { SendMessageW(GetAncestor(window_, GA_ROOT), WM_CLOSE, 0, 0); }
+
+ private:
+  [[nodiscard]] POINT LeftEnd() const { return {8, CenterOf(window_).y}; }
+
+  headless::AnyControl& control_;
+  HWND window_;
+};
+
+}  // namespace
+
+void Do(headless::AnyControl& control, const headless::Action& action) { std::visit(Doer(control), action); }
+
+}  // namespace brivane::test

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+
+#include "toolkits/win32/WindowsApi.h"
+
+#include "host/controls/Surface.h"
+#include "toolkits/headless/Control.h"
+
+/// What a person does with mouse and keyboard, through the input queue of Windows: a click lands on whatever is
+/// under the pointer, a key goes to whatever has the focus.
+namespace brivane::win32 {
+class ControlWindow;
+class Toolkit;
+}  // namespace brivane::win32
+
+namespace brivane::test {
+
+/// A top-level window that holds a surface, as a container of any make would: it knows nothing of what stands in
+/// it but the toolkit's door for keys.
+class Stage {
+ public:
+  explicit Stage(win32::Toolkit& toolkit);
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
+  ~Stage();
+
+  void Show(host::Surface& surface);
+  [[nodiscard]] HWND Window() const { return window_; }
+  /// Handles all that waits. Tab past an end of the surface goes round.
+  void Settle();
+
+ private:
+  win32::Toolkit& toolkit_;
+  host::Surface* surface_ = nullptr;
+  HWND window_;
+};
+
+/// The stage that gestures are settled on; one at a time.
+[[nodiscard]] Stage& TheStage();
+
+void Click(HWND window, POINT at);
+/// Clicks in the middle.
+void Click(HWND window);
+void MoveTo(HWND window, POINT at);
+
+enum class With { None, Shift, Control, Alt };
+void Press(WORD key, With with = With::None);
+void Type(const std::wstring& text);
+/// Replaces what stands in the focused box.
+void TypeOver(const std::wstring& text);
+
+[[nodiscard]] win32::ControlWindow& Shown(headless::AnyControl& control);
+/// Name of the control that has the focus; empty where none of ours has it.
+[[nodiscard]] std::string Focused();
+[[nodiscard]] POINT CenterOf(HWND window);
+
+/// Does an action as a person does it.
+void Do(headless::AnyControl& control, const headless::Action& action);
+
+}  // namespace brivane::test
