@@ -1,0 +1,32 @@
+#pragma once
+
+#include "component/automation/Windows.h"
+#include "component/control/Activation.h"
+#include "component/control/Delegating.h"
+#include "component/control/Properties.h"
+
+namespace brivane::component {
+
+/// What makes an object a control: the letters it answers to, what its container looks like, and times at which the
+/// container wants no events.
+class ControlFace final : public Delegating<IOleControl> {
+ public:
+  ControlFace(Subject& subject, Properties& properties, Activation& activation)
+      : Delegating(subject), properties_(properties), activation_(activation) {}
+  ~ControlFace();
+
+  [[nodiscard]] bool EventsFrozen() const { return frozen_ > 0; }
+
+  STDMETHODIMP GetControlInfo(CONTROLINFO* info) override;
+  STDMETHODIMP OnMnemonic(MSG* message) override;
+  STDMETHODIMP OnAmbientPropertyChange(DISPID property) override;
+  STDMETHODIMP FreezeEvents(BOOL freeze) override;
+
+ private:
+  Properties& properties_;
+  Activation& activation_;
+  HACCEL letters_ = nullptr;
+  int frozen_ = 0;
+};
+
+}  // namespace brivane::component
