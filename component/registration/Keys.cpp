@@ -1,0 +1,133 @@
+#include "component/registration/Keys.h"
+
+#include <array>
+
+#include "component/automation/Errors.h"
+#include "component/automation/Module.h"
+#include "component/idl/Interfaces.h"
+#include "component/objects/Klassen.h"
+
+namespace brivane::component {
+
+namespace {
+
+#ifdef _WIN64
+constexpr const wchar_t* kPlatform = L"win64";
+#else
+constexpr const wchar_t* kPlatform = L"win32";
+#endif
+constexpr const wchar_t* kLibrary = L"BrivaneVrijeKolom";
+/// The category of controls.
+constexpr const wchar_t* kControls = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
+/// What the system carries calls of Automation between apartments with: of dual interfaces, and of the others.
+constexpr const wchar_t* kDualMarshaler = L"{00020424-0000-0000-C000-000000000046}";
+constexpr const wchar_t* kDispatchMarshaler = L"{00020420-0000-0000-C000-000000000046}";
+
+std::wstring Text(const GUID& id) {
+  std::array<wchar_t, 40> text{};
+  StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+  return text.data();
+}
+
+std::wstring Version() { return std::to_wstring(kMajor) + L'.' + std::to_wstring(kMinor); }
+std::wstring FolderOf(const std::wstring& path) { return path.substr(0, path.find_last_of(L"\\/")); }
+std::wstring ProgId(const Klasse& klasse) { return std::wstring(kLibrary) + L'.' + klasse.name; }
+std::wstring VersionedProgId(const Klasse& klasse) { return ProgId(klasse) + L'.' + std::to_wstring(kMajor); }
+std::wstring ClassKey(const Klasse& klasse) { return L"CLSID\\" + Text(klasse.id); }
+
+struct InterfaceEntry {
+  IID id;
+  std::wstring name;
+  const wchar_t* marshaler;
+};
+
+/// The interfaces of the type library that another apartment can be handed.
+std::vector<InterfaceEntry> Interfaces() {
+  const ComPtr<ITypeLib> library = module::TypeLibrary(module::Library::Public);
+  std::vector<InterfaceEntry> interfaces;
+  for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
+    ComPtr<ITypeInfo> info;
+    TYPEATTR* attributes = nullptr;
+    Check(library->GetTypeInfo(i, info.Put()));
+    Check(info->GetTypeAttr(&attributes));
+    const IID id = attributes->guid;
+    const bool isDual = attributes->wTypeFlags & TYPEFLAG_FDUAL;
+    const bool isInterface = attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE;
+    info->ReleaseTypeAttr(attributes);
+    if (!isInterface) continue;
+    BSTR name = nullptr;
+    Check(library->GetDocumentation(static_cast<INT>(i), &name, nullptr, nullptr, nullptr));
+    interfaces.push_back({id, name, isDual ? kDualMarshaler : kDispatchMarshaler});
+    SysFreeString(name);
+  }
+  return interfaces;
+}
+
+void AddControl(std::vector<KeyValue>& values, const Klasse& klasse, const std::wstring& path) {
+  const std::wstring key = ClassKey(klasse);
+  values.push_back({key + L"\\Control", L"", L""});
+  values.push_back({key + L"\\MiscStatus", L"", L"0"});
+  values.push_back({key + L"\\MiscStatus\\" + std::to_wstring(DVASPECT_CONTENT), L"", std::to_wstring(kMiscStatus)});
+  values.push_back({key + L"\\ToolboxBitmap32", L"", path + L", " + std::to_wstring(klasse.bitmap)});
+  values.push_back({key + L"\\Implemented Categories\\" + kControls, L"", L""});
+}
+
+void AddClass(std::vector<KeyValue>& values, const Klasse& klasse, const std::wstring& path) {
+  const std::wstring key = ClassKey(klasse);
+  values.push_back({key, L"", klasse.description});
+  values.push_back({key + L"\\InprocServer32", L"", path});
+  values.push_back({key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"});
+  values.push_back({key + L"\\ProgID", L"", VersionedProgId(klasse)});
+  values.push_back({key + L"\\VersionIndependentProgID", L"", ProgId(klasse)});
+  values.push_back({key + L"\\Programmable", L"", L""});
+  values.push_back({key + L"\\TypeLib", L"", Text(LIBID_BrivaneVrijeKolom)});
+  values.push_back({key + L"\\Version", L"", Version()});
+  if (klasse.usage == Usage::Control) AddControl(values, klasse, path);
+
+  values.push_back({ProgId(klasse), L"", klasse.description});
+  values.push_back({ProgId(klasse) + L"\\CLSID", L"", Text(klasse.id)});
+  values.push_back({ProgId(klasse) + L"\\CurVer", L"", VersionedProgId(klasse)});
+  values.push_back({VersionedProgId(klasse), L"", klasse.description});
+  values.push_back({VersionedProgId(klasse) + L"\\CLSID", L"", Text(klasse.id)});
+}
+
+void AddTypeLibrary(std::vector<KeyValue>& values, const std::wstring& path) {
+  const std::wstring key = TypeLibraryKey() + L'\\' + Version();
+  values.push_back({key, L"", L"Brivane vrije kolom"});
+  values.push_back({PlatformKey(), L"", path});
+  values.push_back({key + L"\\FLAGS", L"", L"0"});
+  values.push_back({key + L"\\HELPDIR", L"", FolderOf(path)});
+  for (const InterfaceEntry& entry : Interfaces()) {
+    const std::wstring interfaceKey = L"Interface\\" + Text(entry.id);
+    values.push_back({interfaceKey, L"", entry.name});
+    values.push_back({interfaceKey + L"\\ProxyStubClsid32", L"", entry.marshaler});
+    values.push_back({interfaceKey + L"\\TypeLib", L"", Text(LIBID_BrivaneVrijeKolom)});
+    values.push_back({interfaceKey + L"\\TypeLib", L"Version", Version()});
+  }
+}
+
+}  // namespace
+
+std::wstring TypeLibraryKey() { return L"TypeLib\\" + Text(LIBID_BrivaneVrijeKolom); }
+
+std::wstring PlatformKey() { return TypeLibraryKey() + L'\\' + Version() + L"\\0\\" + kPlatform; }
+
+std::vector<KeyValue> ValuesFor(const std::wstring& path) {
+  std::vector<KeyValue> values;
+  for (const Klasse& klasse : Klassen()) AddClass(values, klasse, path);
+  AddTypeLibrary(values, path);
+  return values;
+}
+
+std::vector<std::wstring> OwnKeys() {
+  std::vector<std::wstring> keys;
+  for (const Klasse& klasse : Klassen()) {
+    keys.push_back(ClassKey(klasse));
+    keys.push_back(ProgId(klasse));
+    keys.push_back(VersionedProgId(klasse));
+  }
+  for (const InterfaceEntry& entry : Interfaces()) keys.push_back(L"Interface\\" + Text(entry.id));
+  return keys;
+}
+
+}  // namespace brivane::component
