@@ -10,7 +10,7 @@ namespace brivane::component {
 void Hooks::Set(std::string_view setting, const VARIANT& value) {
   auto& desktop = toolkit_.Desktop();
   if (setting == "today") {
-    desktop.today = As<host::Date>(value);
+    desktop.clock = [today = As<host::Date>(value)] { return today; };
   } else if (setting == "title") {
     desktop.title = As<std::string>(value);
   } else {
