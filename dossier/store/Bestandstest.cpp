@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include "dossier/store/OpeningError.h"
+#include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
 
 namespace brivane::dossier {
@@ -61,16 +62,13 @@ class LogIndex {
   bool stond_;
 };
 
-void ControleerInhoud(const QString& pad, Access access) {
+/// Looks at the contents through a connection that cannot write.
+void BekijkInhoud(const QString& pad, Access access) {
   const LogIndex index(pad);
   try {
     Database database(pad, access);
-    if (database.Value(QStringLiteral("PRAGMA user_version")).toInt() > kSchemaVersion) {
-      throw OpeningError(OpeningProblem::Newer, pad);
-    }
-    if (database.Value(QStringLiteral("PRAGMA quick_check(1)")).toString() != QStringLiteral("ok")) {
-      throw OpeningError(OpeningProblem::Damaged, pad);
-    }
+    ControleerInhoud(database, pad);
+    static_cast<void>(LeesDossier(database));
   } catch (const DatabaseError& error) {
     throw OpeningError(error.Code() == SqliteCode::Busy ? OpeningProblem::InUse : OpeningProblem::Damaged, pad);
   }
@@ -91,7 +89,22 @@ void ControleerBestand(const QString& pad) {
   // With a log beside it the file alone is not what counts: a program was killed, or is still at work.
   const bool log = QFileInfo::exists(pad + QStringLiteral("-wal"));
   if (!log && !IsVolledig(header, info.size())) throw OpeningError(OpeningProblem::Damaged, pad);
-  ControleerInhoud(pad, log ? Access::ReadOnly : Access::Immutable);
+  // Opening to work works off what stands beside the file, so the contents are looked at before.
+  if (log) {
+    BekijkInhoud(pad, Access::ReadOnly);
+  } else if (QFileInfo::exists(pad + QStringLiteral("-journal"))) {
+    BekijkInhoud(pad, Access::Immutable);
+  }
+}
+
+void ControleerInhoud(Database& database, const QString& pad) {
+  const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt();
+  if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
+  // The layout comes first: SQLite holds the rows against the constraints that the file itself gives.
+  if (versie < 1 || !HasSchema(database, versie) ||
+      database.Value(QStringLiteral("PRAGMA integrity_check(1)")).toString() != QStringLiteral("ok")) {
+    throw OpeningError(OpeningProblem::Damaged, pad);
+  }
 }
 
 }  // namespace brivane::dossier

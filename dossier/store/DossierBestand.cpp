@@ -49,20 +49,25 @@ class OpenFiles {
   std::vector<std::filesystem::path> files_;
 };
 
-/// Takes the file for this process alone, for as long as the connection lives.
-std::unique_ptr<Database> OpenOmTeWerken(const QString& pad) {
-  auto database = std::make_unique<Database>(pad, Access::ReadWrite);
-  database->Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
-  database->Run(QStringLiteral("PRAGMA journal_mode = WAL"));
-  database->Run(QStringLiteral("PRAGMA synchronous = FULL"));
-  database->Run(QStringLiteral("PRAGMA foreign_keys = ON"));
-  // Nobody else may write; where somebody does, it shows here and not at the first edit.
-  database->Run(QStringLiteral("BEGIN IMMEDIATE"));
-  database->Run(QStringLiteral("COMMIT"));
-  if (const int versie = database->Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
-    Migrate(*database, versie);
+/// Takes the file for this process, for as long as the connection lives, and reads it. Nothing is written before the
+/// whole of it was found right.
+GelezenDossier NeemEnLees(Database& database, const QString& pad) {
+  // From the first reading on nobody else can write.
+  database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
+  ControleerInhoud(database, pad);
+  if (const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
+    Migrate(database, versie);
   }
-  return database;
+  return LeesDossier(database);
+}
+
+void MaakSchrijfklaar(Database& database) {
+  database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
+  database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
+  database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
+  // Where the file cannot be written, it shows here and not at the first edit.
+  database.Run(QStringLiteral("BEGIN IMMEDIATE"));
+  database.Run(QStringLiteral("COMMIT"));
 }
 
 /// A half file, with what SQLite leaves beside one where the disk failed.
@@ -84,8 +89,9 @@ OpeningProblem Probleem(const DatabaseError& error) {
 DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
   try {
     ControleerBestand(pad_);
-    std::unique_ptr<Database> database = OpenOmTeWerken(pad_);
-    GelezenDossier gelezen = LeesDossier(*database);
+    auto database = std::make_unique<Database>(pad_, Access::ReadWrite);
+    GelezenDossier gelezen = NeemEnLees(*database, pad_);
+    MaakSchrijfklaar(*database);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
     journal_ = std::make_shared<FileJournal>(std::move(database), gelezen.hoogste + 1, [doel](Database& opnieuw) {
       if (const auto dossier = doel->lock()) dossier->Herlaad(LeesDossier(opnieuw).gegevens);

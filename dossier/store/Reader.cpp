@@ -19,6 +19,13 @@ namespace {
                                 QString::number(static_cast<int>(SqliteCode::Corrupt))));
 }
 
+/// The calendar's first and last day, 1 January 100 and 31 December 9999, in days since 30 December 1899.
+constexpr std::int32_t kEersteDag = -657434;
+constexpr std::int32_t kLaatsteDag = 2958465;
+
+/// Keys and places start at 1, and new ones are given out after the highest.
+constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max() / 2;
+
 /// Reads the values of a row from left to right.
 class Rij {
  public:
@@ -39,7 +46,19 @@ class Rij {
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
     Lees(dagen);
+    if (dagen < kEersteDag || dagen > kLaatsteDag) Beschadigd();
     datum = host::Date(dagen);
+  }
+  /// A key, or a place in an order.
+  void LeesSleutel(std::int64_t& sleutel) {
+    Lees(sleutel);
+    if (sleutel < 1 || sleutel > kHoogsteSleutel) Beschadigd();
+  }
+  /// A row's number, which counts on from the rows before it.
+  void LeesNummer(std::size_t verwacht) {
+    std::int16_t nummer = 0;
+    Lees(nummer);
+    if (nummer < 0 || static_cast<std::size_t>(nummer) != verwacht) Beschadigd();
   }
   void Lees(std::string& tekst) {
     const QByteArray bytes = query_.value(plaats_++).toByteArray();
@@ -82,11 +101,9 @@ std::vector<Opbouw> LeesLeningen(Database& database) {
                              "(SELECT count(*) FROM vrijekolom WHERE lening = lening.sleutel) "
                              "FROM lening ORDER BY nummer"),
               [&](Rij& rij) {
-                std::int16_t nummer = 0;
-                rij.Lees(nummer);
-                if (static_cast<std::size_t>(nummer) != leningen.size()) Beschadigd();
+                rij.LeesNummer(leningen.size());
                 Opbouw& opbouw = leningen.emplace_back();
-                rij.Lees(opbouw.lening.Sleutel);
+                rij.LeesSleutel(opbouw.lening.Sleutel);
                 rij.Lees(opbouw.lening.Naam);
                 std::int32_t kolommen = 0;
                 rij.Lees(kolommen);
@@ -109,9 +126,9 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
     const auto opbouw = std::find_if(leningen.begin(), leningen.end(),
                                      [&](const Opbouw& kandidaat) { return kandidaat.lening.Sleutel == sleutel; });
     if (opbouw == leningen.end()) Beschadigd();
-    rij.Lees(opbouw->volgorde.emplace_back());
+    rij.LeesSleutel(opbouw->volgorde.emplace_back());
     KolomGegevens& kolom = opbouw->lening.VrijeKolommen.emplace_back();
-    rij.Lees(kolom.Sleutel);
+    rij.LeesSleutel(kolom.Sleutel);
     BezoekKolom(kolom, [&](const char*, auto& waarde) { rij.Lees(waarde); });
   });
 }
@@ -123,6 +140,8 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
   const PeriodeGegevens voorbeeld;
   BezoekPeriode(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
   std::unordered_map<Sleutel, std::vector<PeriodeGegevens>*> perioden;
+  const auto aantal = [](std::size_t som, const Opbouw& opbouw) { return som + opbouw.volgorde.size(); };
+  perioden.reserve(std::accumulate(leningen.begin(), leningen.end(), std::size_t{0}, aantal));
   const QString sql = QStringLiteral("SELECT %1 FROM periode ORDER BY sleutel").arg(namen.join(QStringLiteral(", ")));
   VoorElkeRij(database, sql, [&](Rij& rij) {
     if (perioden.empty()) {
@@ -137,7 +156,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
     const auto eigenaar = perioden.find(kolom);
     if (eigenaar == perioden.end()) Beschadigd();
     PeriodeGegevens& periode = eigenaar->second->emplace_back();
-    rij.Lees(periode.Sleutel);
+    rij.LeesSleutel(periode.Sleutel);
     BezoekPeriode(periode, [&](const char*, auto& waarde) { rij.Lees(waarde); });
     hoogste = periode.Sleutel;
   });
@@ -179,20 +198,21 @@ void LeesInhoud(Database& database, GelezenDossier& gelezen) {
 GelezenDossier LeesDossier(Database& database) {
   GelezenDossier gelezen;
   DossierGegevens& dossier = gelezen.gegevens;
-  int dossiers = 0;
-  VoorElkeRij(database, QStringLiteral("SELECT leeftijd FROM dossier"), [&](Rij& rij) {
+  std::size_t dossiers = 0;
+  VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {
+    rij.LeesNummer(++dossiers);
     rij.Lees(dossier.Leeftijd);
-    ++dossiers;
   });
   VoorElkeRij(database,
-              QStringLiteral("SELECT CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), geboortedatum "
-                             "FROM persoon ORDER BY nummer"),
+              QStringLiteral("SELECT nummer, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), "
+                             "geboortedatum FROM persoon ORDER BY nummer"),
               [&](Rij& rij) {
+                rij.LeesNummer(dossier.Personen.size() + 1);
                 PersoonGegevens& persoon = dossier.Personen.emplace_back();
                 for (std::string& naam : persoon.Naam) rij.Lees(naam);
                 rij.Lees(persoon.Geboortedatum);
               });
-  if (dossiers != 1 || dossier.Personen.empty()) Beschadigd();
+  if (dossiers != 1 || dossier.Personen.empty() || dossier.Personen.size() > 2) Beschadigd();
   VoorElkeRij(database,
               QStringLiteral("SELECT CAST(code AS BLOB), CAST(tekst AS BLOB) FROM maatschappij_type ORDER BY volgorde"),
               [&](Rij& rij) {

@@ -1,6 +1,8 @@
 #include "dossier/store/Schema.h"
 
-#include <QStringList>
+#include <QByteArray>
+#include <QList>
+#include <QSqlError>
 #include <iterator>
 
 namespace brivane::dossier {
@@ -45,18 +47,52 @@ struct Stap {
 /// Step n leads from version n to version n + 1.
 constexpr Stap kStappen[kSchemaVersion] = {{kVersie1, std::size(kVersie1)}};
 
-}  // namespace
-
-void Migrate(Database& database, int version) {
-  database.Run(QStringLiteral("BEGIN IMMEDIATE"));
-  for (int van = version; van < kSchemaVersion; ++van) {
+void Neem(Database& database, int van, int tot) {
+  for (; van < tot; ++van) {
     for (std::size_t nummer = 0; nummer < kStappen[van].aantal; ++nummer) {
       database.Run(QString::fromLatin1(kStappen[van].statements[nummer]));
     }
   }
+}
+
+/// What a file says of its own layout, to the byte. The index that SQLite makes for a constraint has no words.
+QList<QByteArray> Indeling(const Database& database) {
+  QSqlQuery query = database.Prepare(
+      QStringLiteral("SELECT CAST(type AS BLOB), CAST(name AS BLOB), CAST(tbl_name AS BLOB), CAST(sql AS BLOB) "
+                     "FROM sqlite_schema ORDER BY type, name"));
+  Database::Run(query);
+  QList<QByteArray> indeling;
+  while (query.next()) {
+    for (int plaats = 0; plaats < 4; ++plaats) indeling << query.value(plaats).toByteArray();
+  }
+  if (query.lastError().isValid()) throw DatabaseError(query.lastError());
+  return indeling;
+}
+
+/// The layouts of version 1 and up, as SQLite words them.
+QList<QList<QByteArray>> Indelingen() {
+  Database voorbeeld(QStringLiteral(":memory:"), Access::ReadWrite);
+  QList<QList<QByteArray>> indelingen;
+  for (int van = 0; van < kSchemaVersion; ++van) {
+    Neem(voorbeeld, van, van + 1);
+    indelingen << Indeling(voorbeeld);
+  }
+  return indelingen;
+}
+
+}  // namespace
+
+void Migrate(Database& database, int version) {
+  database.Run(QStringLiteral("BEGIN IMMEDIATE"));
+  Neem(database, version, kSchemaVersion);
   database.Run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
   database.Run(QStringLiteral("PRAGMA user_version = %1").arg(kSchemaVersion));
   database.Run(QStringLiteral("COMMIT"));
+}
+
+bool HasSchema(const Database& database, int version) {
+  static const QList<QList<QByteArray>> indelingen = Indelingen();
+  return Indeling(database) == indelingen.at(version - 1);
 }
 
 }  // namespace brivane::dossier

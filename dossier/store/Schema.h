@@ -15,4 +15,8 @@ inline constexpr int kSchemaVersion = 1;
 /// Brings an open file from one version (0: a file without tables) up to kSchemaVersion in one transaction.
 void Migrate(Database& database, int version);
 
+/// The file has exactly the tables and indexes that its version has, in the same words, and nothing besides: no
+/// constraint was changed or lost, and no view or trigger was added. The version is 1 to kSchemaVersion.
+[[nodiscard]] bool HasSchema(const Database& database, int version);
+
 }  // namespace brivane::dossier
