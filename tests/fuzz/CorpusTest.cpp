@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string_view>
 #include <vector>
 
@@ -13,20 +9,10 @@
 #include "fuzz/Targets.h"
 #include "replay/Document.h"
 #include "replay/Session.h"
+#include "tests/fuzz/Inputs.h"
 
 namespace brivane::fuzz {
 namespace {
-
-using Input = std::vector<std::uint8_t>;
-
-std::vector<Input> InputsOf(std::string_view target) {
-  std::vector<Input> inputs;
-  for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(BRIVANE_CORPUS) / target)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    inputs.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-  }
-  return inputs;
-}
 
 TEST(Corpus, EverySessionRunsAndKeepsTheOrderOfItsTrace) {
   const std::vector<Input> inputs = InputsOf("session");
