@@ -115,9 +115,14 @@ void Activation::UiDeactivate() {
 void Activation::Deactivate() {
   if (!IsInPlace()) return;
   UiDeactivate();
-  // Leaving the box that is being edited hands it over, which raises events.
-  if (window_.HasFocus()) ::SetFocus(::GetAncestor(window_.Handle(), GA_PARENT));
+  if (window_.HasFocus()) subject_.HandOver();  // which may raise events
   if (!IsInPlace()) return;
+  if (window_.HasFocus()) {
+    // Nobody has the focus for a moment: a box that lost it to another window would ask for it back.
+    const HWND container = ::GetAncestor(window_.Handle(), GA_PARENT);
+    ::SetFocus(nullptr);
+    ::SetFocus(container);
+  }
   state_ = State::Inactive;
   ++turn_;
   refused_.reset();

@@ -56,7 +56,10 @@ STDMETHODIMP ControlFace::OnAmbientPropertyChange(DISPID property) {
   return Answer([&] {
     const bool all = property == DISPID_UNKNOWN;
     if (all || property == DISPID_AMBIENT_BACKCOLOR) properties_.FollowAmbientBackColor();
-    if (all || property == DISPID_AMBIENT_FONT) properties_.FollowAmbientFont();
+    if (all || property == DISPID_AMBIENT_FONT) {
+      properties_.FollowAmbientFont();
+      activation_.SizeChanged();
+    }
     if (all || property == DISPID_AMBIENT_USERMODE) activation_.FollowUserMode();
     return S_OK;
   });

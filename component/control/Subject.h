@@ -43,6 +43,8 @@ class Subject {
   /// control has no use for it, as with Tab at its ends. A letter with Alt (WM_SYSCHAR) may come from anywhere.
   [[nodiscard]] virtual bool Navigate(const MSG& message) = 0;
   virtual void Focus(TabEnd end) = 0;
+  /// Hands over what is being typed, before the control leaves the screen; where that is refused, it is dropped.
+  virtual void HandOver() = 0;
   /// The letters that, with Alt, go to a part of the control.
   [[nodiscard]] virtual std::wstring Mnemonics() const = 0;
 

@@ -27,7 +27,8 @@ class DateWindow::DropButton final : public Window {
     switch (message) {
       case WM_LBUTTONDOWN:
       case WM_LBUTTONDBLCLK: Press(); return 0;
-      case WM_PAINT: Paint(); return 0;
+      case WM_PAINT:
+      case WM_PRINTCLIENT: Paint(Drawing(Handle(), message, wParam).Context()); return 0;
       default: return Window::OnMessage(message, wParam, lParam);
     }
   }
@@ -42,9 +43,7 @@ class DateWindow::DropButton final : public Window {
       box_.OpenCalendar();
   }
 
-  void Paint() const {
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(Handle(), &paint);
+  void Paint(HDC context) const {
     RECT area{};
     GetClientRect(Handle(), &area);
     const bool open = IsWindowEnabled(box_.Handle()) != FALSE && !box_.IsReadOnly();
@@ -64,7 +63,6 @@ class DateWindow::DropButton final : public Window {
     part(0, 10, 12, 1);
     for (int row = 0; row < 2; ++row)
       for (int day = 0; day < 3; ++day) part(2 + 3 * day, 5 + 3 * row, 2, 2);
-    EndPaint(Handle(), &paint);
   }
 
   DateWindow& box_;

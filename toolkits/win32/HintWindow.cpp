@@ -67,14 +67,13 @@ LRESULT HintWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam == FALSE) tip_.Hide();
       return 0;
     case WM_ERASEBKGND: return 1;
-    case WM_PAINT: Paint(); return 0;
+    case WM_PAINT:
+    case WM_PRINTCLIENT: Paint(Drawing(Handle(), message, wParam).Context()); return 0;
     default: return ControlWindow::OnMessage(message, wParam, lParam);
   }
 }
 
-void HintWindow::Paint() const {
-  PAINTSTRUCT paint{};
-  const HDC context = BeginPaint(Handle(), &paint);
+void HintWindow::Paint(HDC context) const {
   RECT area{};
   GetClientRect(Handle(), &area);
   const HBRUSH back = CreateSolidBrush(DrawnColor(BackgroundOf(hint_)));
@@ -102,7 +101,6 @@ void HintWindow::Paint() const {
     SetTextColor(context, GetSysColor(COLOR_BTNTEXT));
     DrawFocusRect(context, &area);
   }
-  EndPaint(Handle(), &paint);
 }
 
 }  // namespace brivane::win32

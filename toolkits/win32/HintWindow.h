@@ -21,7 +21,7 @@ class HintWindow final : public ControlWindow {
 
  private:
   void AwaitHover() const;
-  void Paint() const;
+  void Paint(HDC context) const;
 
   headless::Hint& hint_;
   HelpTip tip_;

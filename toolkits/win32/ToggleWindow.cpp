@@ -77,7 +77,8 @@ LRESULT ToggleWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case WM_ERASEBKGND: return 1;
-    case WM_PAINT: Paint(); return 0;
+    case WM_PAINT:
+    case WM_PRINTCLIENT: Paint(Drawing(Handle(), message, wParam).Context()); return 0;
     default: return ControlWindow::OnMessage(message, wParam, lParam);
   }
 }
@@ -99,9 +100,7 @@ void ToggleWindow::PaintHalf(HDC context, const RECT& half, int value) const {
   DrawFocusRect(context, &place);
 }
 
-void ToggleWindow::Paint() {
-  PAINTSTRUCT paint{};
-  const HDC context = BeginPaint(Handle(), &paint);
+void ToggleWindow::Paint(HDC context) {
   RECT area{};
   GetClientRect(Handle(), &area);
   const bool focused = GetFocus() == Handle();
@@ -112,7 +111,6 @@ void ToggleWindow::Paint() {
   PaintHalf(context, {border, border, middle, area.bottom - border}, host::kJa);
   PaintHalf(context, {middle, border, area.right - border, area.bottom - border}, host::kNee);
   SelectObject(context, before);
-  EndPaint(Handle(), &paint);
 }
 
 }  // namespace brivane::win32

@@ -23,7 +23,7 @@ class ToggleWindow final : public ControlWindow {
 
  private:
   void Pick(int value);
-  void Paint();
+  void Paint(HDC context);
   void PaintHalf(HDC context, const RECT& half, int value) const;
 
   headless::JaNee& toggle_;

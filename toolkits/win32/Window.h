@@ -23,6 +23,26 @@ inline constexpr wchar_t kAreaClass[] = L"BrivaneVlak";
 inline constexpr wchar_t kFormClass[] = L"BrivaneFormulier";
 inline constexpr wchar_t kDropClass[] = L"BrivaneKalenderknop";
 
+/// What a window draws on while it answers WM_PAINT, or WM_PRINTCLIENT where somebody wants a picture of it.
+class Drawing {
+ public:
+  Drawing(HWND window, UINT message, WPARAM wParam) : window_(window), painting_(message == WM_PAINT) {
+    context_ = painting_ ? BeginPaint(window_, &paint_) : reinterpret_cast<HDC>(wParam);
+  }
+  Drawing(const Drawing&) = delete;
+  Drawing& operator=(const Drawing&) = delete;
+  ~Drawing() {
+    if (painting_) EndPaint(window_, &paint_);
+  }
+  [[nodiscard]] HDC Context() const { return context_; }
+
+ private:
+  HWND window_;
+  bool painting_;
+  PAINTSTRUCT paint_{};
+  HDC context_ = nullptr;
+};
+
 /// A window whose messages come to an object. No exception leaves its procedure: what is thrown goes to
 /// the toolkit's failure listener.
 ///

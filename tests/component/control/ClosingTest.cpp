@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/component/control/ControlTest.h"
 
 namespace brivane::component::test {
@@ -10,6 +12,35 @@ TEST_F(ControlTest, ClosingTakesItOffTheScreenAndLetsGoOfTheHost) {
               ElementsAre("SetActiveObject none", "OnFocus lost", "OnUIDeactivate", "OnInPlaceDeactivate"));
   EXPECT_EQ(Frame(), nullptr);
   EXPECT_EQ(dummy->letGo, 1);
+}
+
+TEST_F(ControlTest, HandsOverWhatIsBeingTypedBeforeItLetsGoOfTheHost) {
+  Activate();
+  dummy->onHandOver = [&] {
+    EXPECT_EQ(dummy->letGo, 0);
+    EXPECT_EQ(::GetFocus(), dummy->first);
+  };
+  container.Object().Close(OLECLOSE_NOSAVE);
+  EXPECT_EQ(dummy->handedOver, 1);
+  EXPECT_EQ(::GetFocus(), container.Window());
+}
+
+TEST_F(ControlTest, HasNothingToHandOverWhenTheFocusIsElsewhere) {
+  Activate();
+  ::SetFocus(container.Window());
+  container.Object().Close(OLECLOSE_NOSAVE);
+  EXPECT_EQ(dummy->handedOver, 0);
+}
+
+TEST_F(ControlTest, MayBeClosedAgainByWhatHandingOverSetsOff) {
+  Activate();
+  dummy->onHandOver = [&] {
+    dummy->onHandOver = nullptr;
+    container.Object().Close(OLECLOSE_NOSAVE);
+  };
+  container.Object().Close(OLECLOSE_NOSAVE);
+  EXPECT_EQ(Frame(), nullptr);
+  EXPECT_EQ(std::count(container.calls.begin(), container.calls.end(), "OnInPlaceDeactivate"), 1);
 }
 
 TEST_F(ControlTest, ClosingAsksForSavingWhereSomethingChanged) {

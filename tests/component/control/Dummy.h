@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,10 @@ class Dummy final : public IUnknown, public Subject {
   void FollowFont(float points) override { fontPoints = points; }
   [[nodiscard]] bool Navigate(const MSG& message) override;
   void Focus(TabEnd end) override { ::SetFocus(end == TabEnd::First ? first : second); }
+  void HandOver() override {
+    ++handedOver;
+    if (onHandOver) onHandOver();
+  }
   [[nodiscard]] std::wstring Mnemonics() const override { return L"ae"; }
   [[nodiscard]] bool MayChange(DISPID) override { return agreesToChange; }
   void HasChanged(DISPID property) override { changed.push_back(property); }
@@ -53,6 +58,8 @@ class Dummy final : public IUnknown, public Subject {
   bool agreesToChange = true;
   std::vector<DISPID> changed;
   int letGo = 0;
+  int handedOver = 0;
+  std::function<void()> onHandOver;
   /// What SetWidth fails with, when not null.
   const char* failure = nullptr;
 

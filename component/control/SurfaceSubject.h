@@ -1,0 +1,33 @@
+#pragma once
+
+#include "component/automation/Windows.h"
+#include "component/control/Subject.h"
+#include "toolkits/win32/Toolkit.h"
+
+namespace brivane::component {
+
+/// The part of a subject that is the same for every control: its surface is one of the native toolkit's. What is left
+/// to the object is its identity, its colour and what it holds of the host's.
+class SurfaceSubject : public Subject {
+ public:
+  SurfaceSubject(win32::Toolkit& toolkit, host::Surface& surface) : toolkit_(toolkit), surface_(surface) {}
+
+  [[nodiscard]] HWND Window() override { return win32::Toolkit::WindowOf(surface_); }
+  [[nodiscard]] component::Extent Extent() const override;
+  void SetWidth(host::Twips width) override;
+  /// Larger text than the design's makes everything larger; smaller text leaves it as designed.
+  void FollowFont(float points) override;
+  [[nodiscard]] bool Navigate(const MSG& message) override { return toolkit_.Navigate(surface_, message); }
+  void Focus(TabEnd end) override;
+  void HandOver() override { (void)toolkit_.CommitPending(surface_); }
+  [[nodiscard]] std::wstring Mnemonics() const override;
+
+ private:
+  /// Twips of the screen to a twip of the surface.
+  [[nodiscard]] float Scale() const;
+
+  win32::Toolkit& toolkit_;
+  host::Surface& surface_;
+};
+
+}  // namespace brivane::component
