@@ -2,9 +2,16 @@
 
 #include <olectl.h>
 
-#include "component/control/Boundary.h"
+#include "component/automation/ComPtr.h"
+#include "host/Error.h"
 
 namespace brivane::component {
+
+namespace {
+
+constexpr std::int32_t kNotPermitted = 387;
+
+}  // namespace
 
 OleControl::OleControl(Subject& subject)
     : subject_(subject),
@@ -30,24 +37,12 @@ IUnknown* OleControl::Find(REFIID iid) {
   return nullptr;
 }
 
-HRESULT OleControl::Query(REFIID iid, void** out) {
-  if (!out) return E_POINTER;
-  IUnknown* found = Find(iid);
-  *out = found;
-  if (!found) return E_NOINTERFACE;
-  found->AddRef();
-  return S_OK;
-}
-
-HRESULT OleControl::PutBackColor(host::Color color) {
+void OleControl::PutBackColor(host::Color color) {
   const ComPtr<IUnknown> keep(&subject_.Outer());
-  return Answer([&] {
-    if (!subject_.MayChange(DISPID_BACKCOLOR)) return static_cast<HRESULT>(CTL_E_SETNOTPERMITTED);
-    properties_.SetBackColor(color);
-    subject_.HasChanged(DISPID_BACKCOLOR);
-    view_.Changed();
-    return S_OK;
-  });
+  if (!subject_.MayChange(DISPID_BACKCOLOR)) throw host::Error(kNotPermitted, "Set not permitted", "BrivaneVrijeKolom");
+  properties_.SetBackColor(color);
+  subject_.HasChanged(DISPID_BACKCOLOR);
+  view_.Changed();
 }
 
 void OleControl::SizeChanged() {

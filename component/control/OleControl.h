@@ -19,9 +19,9 @@ namespace brivane::component {
 /// A part of the object, with its identity and its count of references; made after what the subject answers from, and
 /// gone before it.
 ///
-///     STDMETHODIMP VrijeKolomObject::QueryInterface(REFIID iid, void** out) {
+///     IUnknown* VrijeKolomObject::Find(REFIID iid) {
 ///       ... own interfaces ...
-///       return control_.Query(iid, out);
+///       return control_.Find(iid);
 ///     }
 ///     editor.HeightChanged.Connect([this] { control_.SizeChanged(); FireHeightChanged(); });
 class OleControl {
@@ -30,11 +30,11 @@ class OleControl {
   OleControl(const OleControl&) = delete;
   OleControl& operator=(const OleControl&) = delete;
 
-  /// The interface of the control with that identity, counted; E_NOINTERFACE, and null, for another one.
-  HRESULT Query(REFIID iid, void** out);
+  /// The interface of the control with that identity, not counted; nothing for another one.
+  [[nodiscard]] IUnknown* Find(REFIID iid);
 
-  /// The host sets the colour. CTL_E_SETNOTPERMITTED where a listener to property changes does not agree.
-  HRESULT PutBackColor(host::Color color);
+  /// The host sets the colour. Error 387 where a listener to property changes does not agree.
+  void PutBackColor(host::Color color);
 
   /// The surface was laid out: the container is asked for the room. Before the host's own event about it.
   void SizeChanged();
@@ -47,8 +47,6 @@ class OleControl {
   [[nodiscard]] HWND Window() const { return activation_.Window().Handle(); }
 
  private:
-  [[nodiscard]] IUnknown* Find(REFIID iid);
-
   Subject& subject_;
   Site site_;
   Properties properties_;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "component/control/Boundary.h"
+#include "component/control/MiscStatus.h"
 
 namespace brivane::component {
 

@@ -25,11 +25,6 @@ struct Klasse {
 inline constexpr int kMajor = 1;
 inline constexpr int kMinor = 0;
 
-/// The OLEMISC bits of the controls: recompose on resize, cannot be linked inside, inside-out, active when visible, and
-/// told of its site before it is loaded.
-inline constexpr DWORD kMiscStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_INSIDEOUT |
-                                     OLEMISC_ACTIVATEWHENVISIBLE | OLEMISC_SETCLIENTSITEFIRST;
-
 [[nodiscard]] std::span<const Klasse> Klassen();
 /// The class with that identity, or nothing.
 [[nodiscard]] const Klasse* FindKlasse(const CLSID& id);

@@ -19,15 +19,21 @@ ToelichtingObject::ToelichtingObject(IUnknown* outer)
       surface_(TheToolkit().MakeSurface(toelichting::kOntwerp)),
       control_(std::make_unique<brivane::Toelichting>(*surface_, TheToolkit().Desktop(), Factories())),
       events_(Controlling(), DIID_DToelichtingEvents),
-      points_(Controlling(), {&events_}) {
-  control_->Changed.Connect([this] { events_.Raise(kChanged); });
+      part_({Controlling(), OwnClass(), L"Brivane toelichting", [this] { return control_->BackColor(); },
+             [this](host::Color color) { control_->SetBackColor(color); }, [this] { Session().LetGo(); }},
+            TheToolkit(), *surface_),
+      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+  control_->Changed.Connect([this] {
+    if (!part_.Control().EventsFrozen()) events_.Raise(kChanged);
+  });
 }
 
 ToelichtingObject::~ToelichtingObject() = default;
 
 IUnknown* ToelichtingObject::Find(REFIID iid) {
   if (iid == IID_IConnectionPointContainer) return &points_;
-  return CoObject::Find(iid);
+  IUnknown* const own = CoObject::Find(iid);
+  return own ? own : part_.Control().Find(iid);
 }
 
 STDMETHODIMP ToelichtingObject::SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) {
@@ -55,7 +61,7 @@ STDMETHODIMP ToelichtingObject::get_BackColor(LONG* Color) {
 }
 
 STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { control_->SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
 }
 
 STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {

@@ -2,6 +2,7 @@
 
 #include "component/objects/CoObject.h"
 #include "component/objects/ConnectionPoint.h"
+#include "component/objects/ControlPart.h"
 #include "toelichting/Toelichting.h"
 
 namespace brivane::component {
@@ -26,6 +27,7 @@ class ToelichtingObject final : public CoObject<IToelichting> {
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::Toelichting> control_;
   ConnectionPoint events_;
+  ControlPart part_;
   ConnectionPoints points_;
 };
 

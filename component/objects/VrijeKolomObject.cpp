@@ -62,17 +62,25 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
       surface_(TheToolkit().MakeSurface(vrijekolom::kOntwerp)),
       editor_(std::make_unique<brivane::VrijeKolom>(*surface_, TheToolkit(), Factories())),
       events_(Controlling(), DIID_DVrijeKolomEvents),
-      points_(Controlling(), {&events_}) {
-  editor_->RefreshTopDisplay.Connect(
-      [this](const std::string& text) { events_.Raise(kRefreshTopDisplay, std::array{Variant(text)}); });
-  editor_->HeightChanged.Connect([this] { events_.Raise(kHeightChanged); });
+      part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
+             [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
+            TheToolkit(), *surface_),
+      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+  editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
+    if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
+  });
+  editor_->HeightChanged.Connect([this] {
+    part_.Control().SizeChanged();
+    if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
+  });
 }
 
 VrijeKolomObject::~VrijeKolomObject() = default;
 
 IUnknown* VrijeKolomObject::Find(REFIID iid) {
   if (iid == IID_IConnectionPointContainer) return &points_;
-  return CoObject::Find(iid);
+  IUnknown* const own = CoObject::Find(iid);
+  return own ? own : part_.Control().Find(iid);
 }
 
 std::optional<bool> VrijeKolomObject::DoorFlag(std::string_view flag) const {
@@ -82,9 +90,8 @@ std::optional<bool> VrijeKolomObject::DoorFlag(std::string_view flag) const {
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
-  const HRESULT bound = Doing([&] {
-    editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id);
-  });
+  const HRESULT bound =
+      Doing([&] { editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id); });
   if (!Application) Session().LetGo();
   return bound;
 }
@@ -104,7 +111,7 @@ STDMETHODIMP VrijeKolomObject::get_BackColor(LONG* Color) {
 }
 
 STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { editor_->SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
 }
 
 STDMETHODIMP VrijeKolomObject::get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) {

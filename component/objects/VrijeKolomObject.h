@@ -2,6 +2,7 @@
 
 #include "component/objects/CoObject.h"
 #include "component/objects/ConnectionPoint.h"
+#include "component/objects/ControlPart.h"
 #include "vrijekolom/VrijeKolom.h"
 
 namespace brivane::component {
@@ -34,6 +35,7 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
   ConnectionPoint events_;
+  ControlPart part_;
   ConnectionPoints points_;
 };
 

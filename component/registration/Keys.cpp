@@ -4,6 +4,7 @@
 
 #include "component/automation/Errors.h"
 #include "component/automation/Module.h"
+#include "component/control/MiscStatus.h"
 #include "component/idl/Interfaces.h"
 #include "component/objects/Klassen.h"
 

@@ -61,9 +61,10 @@ Dummy::Dummy() {
 
 STDMETHODIMP Dummy::QueryInterface(REFIID iid, void** out) {
   if (!out) return E_POINTER;
-  if (iid != IID_IUnknown) return control_.Query(iid, out);
-  *out = static_cast<IUnknown*>(this);
-  AddRef();
+  IUnknown* const found = iid == IID_IUnknown ? this : control_.Find(iid);
+  *out = found;
+  if (!found) return E_NOINTERFACE;
+  found->AddRef();
   return S_OK;
 }
 
