@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 #include "dossier/store/DossierBestand.h"
+#include "host/Error.h"
 
 namespace brivane::fuzz {
 
@@ -80,6 +81,19 @@ DossierGegevens Contents(const QString& path) {
   return file->Dossier()->Gegevens();
 }
 
+/// Adds a loan with a column that has a period, and answers what the memory shows then.
+DossierGegevens Edited(const QString& path) {
+  const auto file = DossierBestand::Open(path);
+  try {
+    const std::int16_t loan = file->Dossier()->NieuweLening("nieuw");
+    const auto amount = file->Dossier()->NieuweKolom(loan)->Bedrag();
+    amount->Periode(amount->NieuwePeriode())->SetMaand(13);
+  } catch (const host::Error& error) {
+    Wrong(error.what());
+  }
+  return file->Dossier()->Gegevens();
+}
+
 }  // namespace
 
 Outcome OpenAsLoanFile(std::span<const std::uint8_t> bytes) {
@@ -97,6 +111,8 @@ Outcome OpenAsLoanFile(std::span<const std::uint8_t> bytes) {
   if (!folder.HoldsOneFile()) Wrong("left something beside the file");
   try {
     if (Contents(folder.Path()) != contents) Wrong("opened with other contents the second time");
+    contents = Edited(folder.Path());
+    if (Contents(folder.Path()) != contents) Wrong("does not hold what was stored");
   } catch (const OpeningError&) {
     Wrong("refused a file that it opened before");
   }

@@ -78,12 +78,17 @@ TEST(Beschadigd, AConstraintInWhichOneDigitTurnedOver) {
   }
 }
 
-TEST(Beschadigd, AnIndexThatIsGone) { VerwachtBeschadigdNa({"DROP INDEX periode_kolom"}); }
+TEST(Beschadigd, AnIndexThatIsGone) {
+  VerwachtBeschadigdNa({"DROP INDEX periode_kolom"});
+}
 
-TEST(Beschadigd, AnIndexTooMany) { VerwachtBeschadigdNa({"CREATE INDEX erbij ON periode (maand)"}); }
+TEST(Beschadigd, AnIndexTooMany) {
+  VerwachtBeschadigdNa({"CREATE INDEX erbij ON periode (maand)"});
+}
 
 TEST(Beschadigd, AnIndexOfAConstraintThatIsGone) {
-  VerwachtBeschadigdNa({"PRAGMA writable_schema = ON", "DELETE FROM sqlite_schema WHERE name = 'sqlite_autoindex_lening_1'"});
+  VerwachtBeschadigdNa(
+      {"PRAGMA writable_schema = ON", "DELETE FROM sqlite_schema WHERE name = 'sqlite_autoindex_lening_1'"});
 }
 
 TEST(Beschadigd, AColumnTooMany) {
@@ -91,21 +96,33 @@ TEST(Beschadigd, AColumnTooMany) {
   VerwachtBeschadigdNa({"ALTER TABLE vrijekolom ADD COLUMN erbij TEXT NOT NULL DEFAULT ''"});
 }
 
-TEST(Beschadigd, AColumnThatIsGone) { VerwachtBeschadigdNa({"ALTER TABLE periode DROP COLUMN korting"}); }
+TEST(Beschadigd, AColumnThatIsGone) {
+  VerwachtBeschadigdNa({"ALTER TABLE periode DROP COLUMN korting"});
+}
 
-TEST(Beschadigd, AColumnWithAnotherName) { VerwachtBeschadigdNa({"ALTER TABLE periode RENAME COLUMN maand TO jaar"}); }
+TEST(Beschadigd, AColumnWithAnotherName) {
+  VerwachtBeschadigdNa({"ALTER TABLE periode RENAME COLUMN maand TO jaar"});
+}
 
-TEST(Beschadigd, ATableTooMany) { VerwachtBeschadigdNa({"CREATE TABLE erbij (x INTEGER)"}); }
+TEST(Beschadigd, ATableTooMany) {
+  VerwachtBeschadigdNa({"CREATE TABLE erbij (x INTEGER)"});
+}
 
-TEST(Beschadigd, ATableThatIsGone) { VerwachtBeschadigdNa({"DROP TABLE voorstel"}); }
+TEST(Beschadigd, ATableThatIsGone) {
+  VerwachtBeschadigdNa({"DROP TABLE voorstel"});
+}
 
-TEST(Beschadigd, ATableWithAnotherName) { VerwachtBeschadigdNa({"ALTER TABLE persoon RENAME TO personen"}); }
+TEST(Beschadigd, ATableWithAnotherName) {
+  VerwachtBeschadigdNa({"ALTER TABLE persoon RENAME TO personen"});
+}
 
 TEST(Beschadigd, ATrigger) {
   VerwachtBeschadigdNa({"CREATE TRIGGER wis AFTER UPDATE ON vrijekolom BEGIN DELETE FROM periode; END"});
 }
 
-TEST(Beschadigd, AView) { VerwachtBeschadigdNa({"CREATE VIEW alles AS SELECT * FROM vrijekolom"}); }
+TEST(Beschadigd, AView) {
+  VerwachtBeschadigdNa({"CREATE VIEW alles AS SELECT * FROM vrijekolom"});
+}
 
 TEST(Beschadigd, AViewInPlaceOfATable) {
   VerwachtBeschadigdNa({"DROP TABLE voorstel", "CREATE VIEW voorstel AS SELECT 1 AS voorstel, 1 AS vrij_id"});
@@ -184,11 +201,10 @@ TEST(Beschadigd, AKeyThatIsNeverGivenOut) {
 }
 
 TEST(Beschadigd, ADateOutsideTheCalendar) {
-  for (const char* sql :
-       {"UPDATE vrijekolom SET datum_aanvang = -657435 WHERE id = 2",
-        "UPDATE vrijekolom SET contractvervaldatum = 2958466 WHERE id = 2",
-        "UPDATE vrijekolom SET einddatum_overgang = -2147483648 WHERE id = 2",
-        "UPDATE persoon SET geboortedatum = 2147483647 WHERE nummer = 1"}) {
+  for (const char* sql : {"UPDATE vrijekolom SET datum_aanvang = -657435 WHERE id = 2",
+                          "UPDATE vrijekolom SET contractvervaldatum = 2958466 WHERE id = 2",
+                          "UPDATE vrijekolom SET einddatum_overgang = -2147483648 WHERE id = 2",
+                          "UPDATE persoon SET geboortedatum = 2147483647 WHERE nummer = 1"}) {
     VerwachtBeschadigdNa({sql});
   }
 }
