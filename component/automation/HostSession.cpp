@@ -19,6 +19,11 @@ void HostSession::LetGo() {
   for (const auto& adapter : held) adapter->LetGo();
 }
 
+void HostSession::RenewMade() {
+  for (const auto& adapter : std::vector(makers_))
+    if (const auto alive = adapter.lock()) alive->LetGo();
+}
+
 void HostSession::Forget(const Adapter& adapter) {
   std::erase_if(known_, [&](const auto& entry) {
     return entry.first.second == adapter.identity_.Get() && entry.second.expired();

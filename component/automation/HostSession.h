@@ -42,6 +42,8 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     return made;
   }
 
+  /// Releases the objects that the control made itself: they are made anew when they are used.
+  void RenewMade();
   /// Releases every object of the host. Adapters that are still held fail with error 91 from then on; those that the
   /// control made itself make theirs anew when they are used.
   void LetGo();

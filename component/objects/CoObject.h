@@ -75,7 +75,12 @@ class CoObject : public Dispatching<Interface>,
 
   [[nodiscard]] component::Toolkit& TheToolkit() { return *toolkit_; }
   [[nodiscard]] HostSession& Session() { return *session_; }
-  [[nodiscard]] HostClasses& Classes() { return classes_; }
+  [[nodiscard]] const HostClasses& Classes() const { return classes_; }
+  /// From the next use on.
+  void SetClasses(HostClasses classes) {
+    classes_ = std::move(classes);
+    session_->RenewMade();
+  }
   [[nodiscard]] host::HostFactories Factories() { return FactoriesFor(*session_, classes_, hooks_); }
   [[nodiscard]] const CLSID& OwnClass() const { return classId_; }
 
@@ -87,8 +92,8 @@ class CoObject : public Dispatching<Interface>,
   const IID& outgoing_;
   std::unique_ptr<component::Toolkit> toolkit_ = MakeToolkit();
   std::shared_ptr<HostSession> session_ = std::make_shared<HostSession>();
-  HostClasses classes_;
-  Hooks hooks_{*toolkit_};
+  HostClasses classes_ = RegisteredHostClasses(classId_);
+  Hooks hooks_{*toolkit_, *session_};
 };
 
 /// Gives a by-reference argument back as True where the check refused; otherwise it stays what it is.

@@ -1,5 +1,7 @@
 #include "component/objects/HostClasses.h"
 
+#include <array>
+
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/StandardTrace.h"
 #include "component/automation/Text.h"
@@ -38,7 +40,22 @@ ComPtr<IDispatch> MakeControle(const HostClasses& classes, Hooks& hooks, std::st
   return classes.dossierControle.empty() ? ComPtr<IDispatch>() : CreateByProgId(classes.dossierControle);
 }
 
+std::string RegisteredClass(const std::wstring& key, const wchar_t* value) {
+  std::array<wchar_t, 256> text{};
+  DWORD size = sizeof(text);
+  const LSTATUS status =
+      RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), value, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return status == ERROR_SUCCESS ? Narrow(text.data()) : std::string();
+}
+
 }  // namespace
+
+HostClasses RegisteredHostClasses(const CLSID& control) {
+  std::array<wchar_t, 40> id{};
+  StringFromGUID2(control, id.data(), static_cast<int>(id.size()));
+  const std::wstring key = std::wstring(L"CLSID\\") + id.data() + L"\\HostClasses";
+  return {RegisteredClass(key, L"ProcedureTrace"), RegisteredClass(key, L"DossierControle")};
+}
 
 host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks) {
   return {.MaakProcedureTrace =

@@ -15,6 +15,10 @@ struct HostClasses {
   std::string dossierControle;
 };
 
+/// The classes that the host registered for the controls of a class: values `ProcedureTrace` and `DossierControle` of
+/// the key `HostClasses` below the class's own.
+[[nodiscard]] HostClasses RegisteredHostClasses(const CLSID& control);
+
 /// Makes the host's tracer and check for the logic. All three must outlive the control.
 ///
 /// A class that cannot be made fails with error 429.

@@ -20,6 +20,7 @@ void Hooks::Set(std::string_view setting, const VARIANT& value) {
 
 void Hooks::SetCallback(ComPtr<IDispatch> callback) {
   callback_ = LateBound(std::move(callback));
+  session_.RenewMade();
   auto& desktop = toolkit_.Desktop();
   desktop.answer = nullptr;
   desktop.pending = nullptr;

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "component/automation/LateBound.h"
+#include "component/automation/HostSession.h"
 #include "component/automation/Toolkit.h"
 
 namespace brivane::component {
@@ -13,7 +13,7 @@ namespace brivane::component {
 /// place.
 class Hooks {
  public:
-  explicit Hooks(Toolkit& toolkit) : toolkit_(toolkit) {}
+  Hooks(Toolkit& toolkit, HostSession& session) : toolkit_(toolkit), session_(session) {}
 
   /// Fails with error 5 for a setting that there is not.
   void Set(std::string_view setting, const VARIANT& value);
@@ -27,6 +27,7 @@ class Hooks {
   void RunForm(headless::Form& form);
 
   Toolkit& toolkit_;
+  HostSession& session_;
   LateBound callback_;
 };
 

@@ -41,6 +41,13 @@ class Relais final : public DualObject<IRelais> {
     *loaded = GetModuleHandleW(L"BrivaneVrijeKolom.dll") ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;
   }
+  STDMETHODIMP Maak(BSTR progId, IDispatch** object) override {
+    return Answering<IRelais>([&] {
+      CLSID id{};
+      Check(CLSIDFromProgID(progId, &id));
+      Check(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object)));
+    });
+  }
   STDMETHODIMP Zelfde(IDispatch* one, IDispatch* other, VARIANT_BOOL* same) override {
     *same = ComPtr<IDispatch>(one).IsSameObject(ComPtr<IDispatch>(other)) ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;

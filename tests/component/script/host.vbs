@@ -188,7 +188,7 @@ Class ApplicationHost
     Set Hoofdvenster = Nothing
   End Property
   Public Sub VulCombo(bron, tabel, lijst, code, leeg, keuze)
-    Note "VulCombo(" & bron & "," & tabel & "," & code & "," & leeg & "," & TypeName(keuze) & ")"
+    Note "VulCombo(" & bron & "," & tabel & "," & code & "," & leeg & "," & VarType(keuze) & ")"
     lijst.AddItem "Alfa Bank"
     lijst.AddItem "Beta Verzekeringen", 2
     lijst.AddItem "Anders"
@@ -253,7 +253,7 @@ Dim checks, wrong
 checks = 0
 wrong = 0
 
-Sub Same(what, expected, actual)
+Sub Same(ByVal what, ByVal expected, ByVal actual)
   checks = checks + 1
   If VarType(expected) = VarType(actual) Then
     If expected = actual Then Exit Sub
@@ -267,5 +267,5 @@ End Sub
 
 Sub Finish(expectedChecks)
   Same "number of checks", expectedChecks, checks
-  If wrong = 0 Then WScript.Echo "every check passed: " & checks
+  If wrong = 0 Then WScript.Echo "every check passed: " & expectedChecks
 End Sub
