@@ -69,7 +69,11 @@ STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
 }
 
 STDMETHODIMP ToelichtingObject::put_ProcedureTraceKlasse(BSTR ProgID) {
-  return Doing([&] { Classes().procedureTrace = FromBstr(ProgID); });
+  return Doing([&] {
+    HostClasses classes = Classes();
+    classes.procedureTrace = FromBstr(ProgID);
+    SetClasses(std::move(classes));
+  });
 }
 
 }  // namespace brivane::component

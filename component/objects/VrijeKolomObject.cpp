@@ -131,7 +131,11 @@ STDMETHODIMP VrijeKolomObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
 }
 
 STDMETHODIMP VrijeKolomObject::put_ProcedureTraceKlasse(BSTR ProgID) {
-  return Doing([&] { Classes().procedureTrace = FromBstr(ProgID); });
+  return Doing([&] {
+    HostClasses classes = Classes();
+    classes.procedureTrace = FromBstr(ProgID);
+    SetClasses(std::move(classes));
+  });
 }
 
 STDMETHODIMP VrijeKolomObject::get_DossierControleKlasse(BSTR* ProgID) {
@@ -139,7 +143,11 @@ STDMETHODIMP VrijeKolomObject::get_DossierControleKlasse(BSTR* ProgID) {
 }
 
 STDMETHODIMP VrijeKolomObject::put_DossierControleKlasse(BSTR ProgID) {
-  return Doing([&] { Classes().dossierControle = FromBstr(ProgID); });
+  return Doing([&] {
+    HostClasses classes = Classes();
+    classes.dossierControle = FromBstr(ProgID);
+    SetClasses(std::move(classes));
+  });
 }
 
 }  // namespace brivane::component
