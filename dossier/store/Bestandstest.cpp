@@ -14,10 +14,18 @@ namespace {
 // Where an SQLite file's first page tells what it is.
 constexpr qsizetype kHeaderSize = 100;
 constexpr qsizetype kPageSize = 16;
+constexpr qsizetype kWriteFormat = 18;
+constexpr qsizetype kReadFormat = 19;
 constexpr qsizetype kPageCount = 28;
 constexpr qsizetype kUserVersion = 60;
 constexpr qsizetype kApplication = 68;
 constexpr char kMagic[] = "SQLite format 3";
+
+/// 1 without and 2 with a write-ahead log. SQLite opens a file of a later write format, and then writes nothing to it.
+bool IsSchrijfbaarFormaat(const QByteArray& header) {
+  const char formaat = header[kWriteFormat];
+  return (formaat == 1 || formaat == 2) && header[kReadFormat] == formaat;
+}
 
 QByteArray ControleerHeader(const QString& pad) {
   QFile bestand(pad);
@@ -31,7 +39,7 @@ QByteArray ControleerHeader(const QString& pad) {
   }
   const auto versie = qFromBigEndian<qint32>(header.constData() + kUserVersion);
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
-  if (versie < 1) throw OpeningError(OpeningProblem::Damaged, pad);
+  if (versie < 1 || !IsSchrijfbaarFormaat(header)) throw OpeningError(OpeningProblem::Damaged, pad);
   return header;
 }
 

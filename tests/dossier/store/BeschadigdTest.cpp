@@ -78,6 +78,36 @@ TEST(Beschadigd, AConstraintInWhichOneDigitTurnedOver) {
   }
 }
 
+TEST(Beschadigd, AnyLetterOfTheStoredLayout) {
+  const Map map;
+  const QString pad = map.Maak();
+  QList<QByteArray> woorden;
+  {
+    Database database(pad, Access::Immutable);
+    QSqlQuery query = database.Prepare("SELECT sql FROM sqlite_schema WHERE sql IS NOT NULL");
+    Database::Run(query);
+    while (query.next()) woorden << query.value(0).toByteArray();
+  }
+  EXPECT_EQ(woorden.size(), 9);  // seven tables and two indexes
+  const QByteArray heel = Bytes(pad);
+  QFile bestand(pad);
+  for (const QByteArray& tekst : woorden) {
+    ASSERT_EQ(heel.count(tekst), 1) << tekst.toStdString();
+    const qsizetype begin = heel.indexOf(tekst);
+    for (qsizetype plaats = begin; plaats < begin + tekst.size(); ++plaats) {
+      // By turns another digit or letter, and the other case, which for a letter says the same to SQLite.
+      QByteArray stuk = heel;
+      stuk[plaats] = static_cast<char>(stuk[plaats] ^ (plaats % 2 == 0 ? 0x01 : 0x20));
+      ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
+      bestand.write(stuk);
+      bestand.close();
+      ASSERT_EQ(ProbleemBijOpenen(pad), OpeningProblem::Damaged) << tekst.mid(plaats - begin, 20).toStdString();
+      ASSERT_EQ(Bytes(pad), stuk);
+    }
+  }
+  EXPECT_EQ(map.Inhoud(), QStringList("test.dossier"));
+}
+
 TEST(Beschadigd, AnIndexThatIsGone) {
   VerwachtBeschadigdNa({"DROP INDEX periode_kolom"});
 }
@@ -214,6 +244,23 @@ TEST(Beschadigd, TheCalendarsFirstAndLastDayAreNot) {
   const QString pad = map.Maak();
   Wijzig(pad, {"UPDATE vrijekolom SET datum_aanvang = -657434, contractvervaldatum = 2958465 WHERE id = 2"});
   EXPECT_EQ(ProbleemBijOpenen(pad), std::nullopt);
+}
+
+TEST(Beschadigd, AFormatThatCannotBeWritten) {
+  constexpr qsizetype kWriteFormat = 18;
+  const Map map;
+  const QString pad = map.Maak();
+  const QByteArray heel = Bytes(pad);
+  ASSERT_EQ(heel.mid(kWriteFormat, 2), "\x02\x02");
+  for (const char* formaat : {"\x03\x02", "\x06\x02", "\x03\x03", "\xff\x02", "\x01\x02", "\x02\x01", "\x02\x03"}) {
+    QByteArray stuk = heel;
+    stuk.replace(kWriteFormat, 2, formaat);
+    QFile bestand(pad);
+    ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
+    bestand.write(stuk);
+    bestand.close();
+    VerwachtBeschadigd(map);
+  }
 }
 
 TEST(Beschadigd, AVersionBelowTheFirst) {
