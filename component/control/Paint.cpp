@@ -1,6 +1,8 @@
 #include "component/control/Paint.h"
 
 #include <olectl.h>
+#include <uxtheme.h>
+#include <vssym32.h>
 
 #include "component/control/Units.h"
 
@@ -13,61 +15,6 @@ bool HasStyle(HWND window, LONG style) {
 }
 bool HasExtendedStyle(HWND window, LONG style) {
   return (::GetWindowLongW(window, GWL_EXSTYLE) & style) != 0;
-}
-
-/// The edge around a window whose upper left corner is the origin.
-void PaintEdge(HWND window, HDC target) {
-  const SIZE size = SizeOfWindow(window);
-  RECT whole{0, 0, size.cx, size.cy};
-  if (HasExtendedStyle(window, WS_EX_CLIENTEDGE)) {
-    ::DrawEdge(target, &whole, EDGE_SUNKEN, BF_RECT);
-  } else if (HasExtendedStyle(window, WS_EX_STATICEDGE)) {
-    ::DrawEdge(target, &whole, BDR_SUNKENOUTER, BF_RECT);
-  } else if (HasStyle(window, WS_BORDER)) {
-    ::FrameRect(target, &whole, ::GetSysColorBrush(COLOR_WINDOWFRAME));
-  }
-}
-
-void PaintAt(HWND window, HDC target, POINT corner);
-
-/// The windows on a window, the lowest first.
-void PaintChildren(HWND window, HDC target) {
-  HWND child = ::GetWindow(window, GW_CHILD);
-  if (child) child = ::GetWindow(child, GW_HWNDLAST);
-  for (; child; child = ::GetWindow(child, GW_HWNDPREV)) {
-    if (!HasStyle(child, WS_VISIBLE)) continue;
-    RECT place{};
-    ::GetWindowRect(child, &place);
-    POINT corner{place.left, place.top};
-    ::ScreenToClient(window, &corner);
-    PaintAt(child, target, corner);
-  }
-}
-
-/// A window with its upper left corner at a point, and what stands on it.
-void PaintAt(HWND window, HDC target, POINT corner) {
-  const int saved = ::SaveDC(target);
-  ::OffsetViewportOrgEx(target, corner.x, corner.y, nullptr);
-  const SIZE size = SizeOfWindow(window);
-  ::IntersectClipRect(target, 0, 0, size.cx, size.cy);
-  PaintEdge(window, target);
-
-  RECT place{};
-  ::GetWindowRect(window, &place);
-  POINT inside{0, 0};
-  ::ClientToScreen(window, &inside);
-  RECT client{};
-  ::GetClientRect(window, &client);
-  ::OffsetViewportOrgEx(target, inside.x - place.left, inside.y - place.top, nullptr);
-  ::IntersectClipRect(target, 0, 0, client.right, client.bottom);
-
-  const auto drawing = reinterpret_cast<WPARAM>(target);
-  const int before = ::SaveDC(target);
-  ::SendMessageW(window, WM_ERASEBKGND, drawing, 0);
-  ::SendMessageW(window, WM_PRINTCLIENT, drawing, PRF_CLIENT | PRF_ERASEBKGND);
-  ::RestoreDC(target, before);
-  PaintChildren(window, target);
-  ::RestoreDC(target, saved);
 }
 
 /// A picture in memory, in the colours of the screen.
@@ -96,6 +43,97 @@ class Picture {
   HGDIOBJ old_ = nullptr;
 };
 
+/// The edge around a window, as the theme or the classic look has it.
+void PaintEdge(HWND window, HDC target, RECT whole) {
+  if (HasExtendedStyle(window, WS_EX_CLIENTEDGE)) {
+    const HTHEME theme = ::OpenThemeData(window, L"EDIT");
+    if (!theme) {
+      ::DrawEdge(target, &whole, EDGE_SUNKEN, BF_RECT);
+      return;
+    }
+    const int state = ::IsWindowEnabled(window) ? ETS_NORMAL : ETS_DISABLED;
+    ::DrawThemeBackground(theme, target, EP_EDITTEXT, state, &whole, nullptr);
+    ::CloseThemeData(theme);
+  } else if (HasExtendedStyle(window, WS_EX_STATICEDGE)) {
+    ::DrawEdge(target, &whole, BDR_SUNKENOUTER, BF_RECT);
+  } else if (HasStyle(window, WS_BORDER)) {
+    ::FrameRect(target, &whole, ::GetSysColorBrush(COLOR_WINDOWFRAME));
+  }
+}
+
+void PaintAt(HWND window, HDC target, POINT corner);
+
+/// The windows on a window, the lowest first.
+void PaintChildren(HWND window, HDC target) {
+  HWND child = ::GetWindow(window, GW_CHILD);
+  if (child) child = ::GetWindow(child, GW_HWNDLAST);
+  for (; child; child = ::GetWindow(child, GW_HWNDPREV)) {
+    if (!HasStyle(child, WS_VISIBLE)) continue;
+    RECT place{};
+    ::GetWindowRect(child, &place);
+    POINT corner{place.left, place.top};
+    ::ScreenToClient(window, &corner);
+    PaintAt(child, target, corner);
+  }
+}
+
+/// A window with its upper left corner at a point, and what stands on it. Its inside is drawn on a picture of its own,
+/// as not every window draws well where its origin is not that of the drawing.
+void PaintAt(HWND window, HDC target, POINT corner) {
+  const SIZE size = SizeOfWindow(window);
+  PaintEdge(window, target, {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy});
+
+  RECT place{};
+  ::GetWindowRect(window, &place);
+  POINT inside{0, 0};
+  ::ClientToScreen(window, &inside);
+  const POINT at{corner.x + inside.x - place.left, corner.y + inside.y - place.top};
+  RECT client{};
+  ::GetClientRect(window, &client);
+  const Picture picture({client.right, client.bottom});
+  if (!picture) return;
+  // What does not draw its background shows what is behind it.
+  ::BitBlt(picture.Drawing(), 0, 0, client.right, client.bottom, target, at.x, at.y, SRCCOPY);
+  const int saved = ::SaveDC(picture.Drawing());
+  const auto drawing = reinterpret_cast<WPARAM>(picture.Drawing());
+  ::SendMessageW(window, WM_ERASEBKGND, drawing, 0);
+  ::SendMessageW(window, WM_PRINTCLIENT, drawing, PRF_CLIENT | PRF_ERASEBKGND);
+  ::RestoreDC(picture.Drawing(), saved);
+  PaintChildren(window, picture.Drawing());
+  ::BitBlt(target, at.x, at.y, client.right, client.bottom, picture.Drawing(), 0, 0, SRCCOPY);
+}
+
+/// Some windows draw nothing as long as they are not visible. While this stands, the window is: on a place beyond every
+/// screen, if it is not on one.
+class BeyondTheScreen {
+ public:
+  explicit BeyondTheScreen(HWND window) : window_(window) {
+    if (::IsWindowVisible(window)) return;
+    parent_ = ::GetAncestor(window, GA_PARENT);
+    place_ = ::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"STATIC", nullptr, WS_POPUP, kFar, kFar, 1, 1,
+                               nullptr, nullptr, nullptr, nullptr);
+    ::ShowWindow(place_, SW_SHOWNA);
+    wasShown_ = HasStyle(window, WS_VISIBLE);
+    ::SetParent(window, place_);
+    ::ShowWindow(window, SW_SHOWNA);
+  }
+  BeyondTheScreen(const BeyondTheScreen&) = delete;
+  BeyondTheScreen& operator=(const BeyondTheScreen&) = delete;
+  ~BeyondTheScreen() {
+    if (!place_) return;
+    if (!wasShown_) ::ShowWindow(window_, SW_HIDE);
+    ::SetParent(window_, parent_);
+    ::DestroyWindow(place_);
+  }
+
+ private:
+  static constexpr int kFar = -32000;
+  HWND window_;
+  HWND parent_ = nullptr;
+  HWND place_ = nullptr;
+  bool wasShown_ = false;
+};
+
 }  // namespace
 
 COLORREF ScreenColor(host::Color color) {
@@ -113,6 +151,7 @@ HRESULT PaintWindow(HWND window, COLORREF background, HDC target, const RECT& bo
   const HBRUSH brush = ::CreateSolidBrush(background);
   ::FillRect(picture.Drawing(), &whole, brush);
   ::DeleteObject(brush);
+  const BeyondTheScreen visible(window);
   PaintAt(window, picture.Drawing(), {0, 0});
   ::SetStretchBltMode(target, HALFTONE);
   ::StretchBlt(target, bounds.left, bounds.top, WidthOf(bounds), HeightOf(bounds), picture.Drawing(), 0, 0, size.cx,

@@ -1,0 +1,122 @@
+// The editor drawn by its container, without ever having been on the screen.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <vector>
+
+#include "examples/windows/container/Host.h"
+#include "examples/windows/container/MainWindow.h"
+#include "tests/component/container/Library.h"
+
+namespace brivane::component::test {
+namespace {
+
+constexpr int kWidth = 830;
+constexpr int kHeight = 461;
+
+// The designed size of the editor in pixels: 12450 by 6915 twips.
+
+/// A drawing of 32 bits a pixel.
+class Paper {
+ public:
+  Paper() : drawing_(::CreateCompatibleDC(nullptr)) {
+    BITMAPINFO info{};
+    info.bmiHeader = {sizeof info.bmiHeader, kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    bitmap_ = ::CreateDIBSection(drawing_, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    pixels_ = static_cast<const std::uint32_t*>(bits);
+    old_ = ::SelectObject(drawing_, bitmap_);
+  }
+  ~Paper() {
+    ::SelectObject(drawing_, old_);
+    ::DeleteObject(bitmap_);
+    ::DeleteDC(drawing_);
+  }
+  Paper(const Paper&) = delete;
+  Paper& operator=(const Paper&) = delete;
+
+  [[nodiscard]] HDC Drawing() const { return drawing_; }
+  [[nodiscard]] std::vector<std::uint32_t> Pixels() const {
+    ::GdiFlush();
+    std::vector<std::uint32_t> pixels(pixels_, pixels_ + kWidth * kHeight);
+    for (std::uint32_t& pixel : pixels) pixel &= 0x00FFFFFF;
+    return pixels;
+  }
+  /// A picture that a person can look at.
+  void Write(const char* file) const {
+    std::FILE* out = std::fopen(file, "wb");
+    if (!out) return;
+    std::fprintf(out, "P6\n%d %d\n255\n", kWidth, kHeight);
+    for (const std::uint32_t pixel : Pixels()) {
+      const unsigned char rgb[]{static_cast<unsigned char>(pixel >> 16), static_cast<unsigned char>(pixel >> 8),
+                                static_cast<unsigned char>(pixel)};
+      std::fwrite(rgb, 1, sizeof rgb, out);
+    }
+    std::fclose(out);
+  }
+
+ private:
+  HDC drawing_;
+  HBITMAP bitmap_ = nullptr;
+  HGDIOBJ old_ = nullptr;
+  const std::uint32_t* pixels_ = nullptr;
+};
+
+/// Another editor, which was never on the screen, with the same record.
+ComPtr<IVrijeKolom> NewEditor(IDispatch* application) {
+  ComPtr<IVrijeKolom> editor;
+  EXPECT_EQ(::CoCreateInstance(CLSID_VrijeKolom, nullptr, CLSCTX_INPROC_SERVER, IID_IVrijeKolom,
+                               reinterpret_cast<void**>(editor.Put())),
+            S_OK);
+  EXPECT_EQ(editor->SetApplication(application, 0, 1), S_OK);
+  return editor;
+}
+
+TEST(Inactive, LooksToThePixelAsItLooksOnTheScreen) {
+  const Ole ole;
+  Library library;
+  voorbeeld::MainWindow window;
+  const auto application = voorbeeld::NewApplication(window.Handle());
+  ASSERT_EQ(window.Open(application.Get()), S_OK);
+  RECT room{0, 0, kWidth + 24, 600};
+  ::AdjustWindowRectEx(&room, WS_OVERLAPPEDWINDOW, FALSE, 0);
+  ::SetWindowPos(window.Handle(), nullptr, 0, 0, room.right - room.left, room.bottom - room.top, SWP_NOZORDER);
+  ::SetFocus(window.Note());
+  Pump();
+
+  HWND frame = nullptr;
+  window.Place()->Control().As<IOleInPlaceObject>()->GetWindow(&frame);
+  RECT whole{};
+  ::GetClientRect(frame, &whole);
+  ASSERT_EQ(whole.right, kWidth);
+  ASSERT_EQ(whole.bottom, kHeight);
+  const Paper seen;
+  const HDC screen = ::GetDC(frame);
+  ::BitBlt(seen.Drawing(), 0, 0, kWidth, kHeight, screen, 0, 0, SRCCOPY);
+  ::ReleaseDC(frame, screen);
+
+  const auto editor = NewEditor(application.Get());
+  const Paper drawn;
+  const RECTL bounds{0, 0, kWidth, kHeight};
+  EXPECT_EQ(editor.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.Drawing(), &bounds,
+                                            nullptr, nullptr, 0),
+            S_OK);
+
+  const auto expected = seen.Pixels();
+  const auto actual = drawn.Pixels();
+  EXPECT_GT(std::count(actual.begin(), actual.end(), 0U), 1000);  // the letters
+  std::size_t different = 0;
+  for (std::size_t i = 0; i < actual.size(); ++i) different += actual[i] != expected[i];
+  EXPECT_EQ(different, 0U);
+  if (different != 0) {
+    seen.Write("seen.ppm");
+    drawn.Write("drawn.ppm");
+  }
+  EXPECT_TRUE(window.Close());
+}
+
+}  // namespace
+}  // namespace brivane::component::test
