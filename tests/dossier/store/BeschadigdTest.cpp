@@ -158,6 +158,27 @@ TEST(Beschadigd, AViewInPlaceOfATable) {
   VerwachtBeschadigdNa({"DROP TABLE voorstel", "CREATE VIEW voorstel AS SELECT 1 AS voorstel, 1 AS vrij_id"});
 }
 
+TEST(Beschadigd, AFileWithTheJournalOfAnotherProgramThatWasKilled) {
+  const Map map;
+  DossierGegevens gegevens = VoorbeeldDossier();
+  auto& kolommen = gegevens.HuidigeLening.VrijeKolommen;
+  kolommen.resize(200, kolommen.front());
+  const QString pad = map.Maak(gegevens);
+  Wijzig(pad, {"PRAGMA journal_mode = DELETE", "CREATE VIEW alles AS SELECT * FROM vrijekolom"});
+  const Map gedood;
+  {
+    // With so little memory pages are written before the transaction ends, and the journal holds what stood there.
+    Database database(pad, Access::ReadWrite);
+    for (const char* sql : {"PRAGMA cache_size = 1", "BEGIN", "UPDATE vrijekolom SET looptijd = 1"}) {
+      database.Run(QString::fromLatin1(sql));
+    }
+    ASSERT_TRUE(QFile::copy(pad, gedood.Pad()));
+    ASSERT_TRUE(QFile::copy(pad + "-journal", gedood.Pad("test.dossier-journal")));
+  }
+  ASSERT_NE(Bytes(gedood.Pad()), Bytes(pad));
+  VerwachtBeschadigd(gedood);
+}
+
 TEST(Beschadigd, ARowThatBreaksAConstraint) {
   for (const char* sql :
        {"UPDATE dossier SET enig = 2", "INSERT INTO persoon VALUES (3, '', '', 'Derde', 20000)",
