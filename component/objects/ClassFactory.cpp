@@ -2,20 +2,25 @@
 
 #include "component/automation/Errors.h"
 #include "component/objects/Identity.h"
+#include "component/testdoor/Preparation.h"
 
 namespace brivane::component {
 
 namespace {
 
-class ClassFactory final : public IClassFactory, private module::LiveObject {
+class ClassFactory final : public IClassFactory, public IProefdeurHouder, private module::LiveObject {
  public:
   explicit ClassFactory(const Klasse& klasse) : klasse_(klasse) {}
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
     *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
-    *out = static_cast<IClassFactory*>(this);
+    if (iid == IID_IUnknown || iid == IID_IClassFactory)
+      *out = static_cast<IClassFactory*>(this);
+    else if (iid == __uuidof(IProefdeurHouder))
+      *out = static_cast<IProefdeurHouder*>(this);
+    else
+      return E_NOINTERFACE;
     AddRef();
     return S_OK;
   }
@@ -44,6 +49,11 @@ class ClassFactory final : public IClassFactory, private module::LiveObject {
     else
       module::LetGo();
     return S_OK;
+  }
+
+  STDMETHODIMP Proefdeur(IProefdeur** door) override {
+    if (!door) return E_POINTER;
+    return Answering<IProefdeurHouder>([&] { *door = NewClassDoor(); });
   }
 
  private:

@@ -51,7 +51,7 @@ class CoObject : public Dispatching<Interface>,
     if (!door) return E_POINTER;
     return Answering<IProefdeurHouder>([&] {
       *door = NewProefdeur(Controlling(), DoorSurface(), hooks_,
-                           [this](std::string_view flag) { return DoorFlag(flag); });
+                           [this](std::string_view aspect) { return DoorAspect(aspect); });
     });
   }
 
@@ -65,7 +65,7 @@ class CoObject : public Dispatching<Interface>,
   }
   /// What the door for tests opens to.
   [[nodiscard]] virtual headless::Surface& DoorSurface() = 0;
-  [[nodiscard]] virtual std::optional<bool> DoorFlag(std::string_view) const { return std::nullopt; }
+  [[nodiscard]] virtual std::optional<Variant> DoorAspect(std::string_view) const { return std::nullopt; }
 
   /// Runs a method's body: no exception crosses, and the object stays until it is done.
   template <class Body> [[nodiscard]] HRESULT Doing(Body&& body) {
@@ -81,6 +81,7 @@ class CoObject : public Dispatching<Interface>,
     classes_ = std::move(classes);
     session_->RenewMade();
   }
+  [[nodiscard]] component::Hooks& Hooks() { return hooks_; }
   [[nodiscard]] host::HostFactories Factories() { return FactoriesFor(*session_, classes_, hooks_); }
   [[nodiscard]] const CLSID& OwnClass() const { return classId_; }
 
@@ -93,7 +94,7 @@ class CoObject : public Dispatching<Interface>,
   std::unique_ptr<component::Toolkit> toolkit_ = MakeToolkit();
   std::shared_ptr<HostSession> session_ = std::make_shared<HostSession>();
   HostClasses classes_ = RegisteredHostClasses(classId_);
-  Hooks hooks_{*toolkit_, *session_};
+  component::Hooks hooks_{*toolkit_, *session_};
 };
 
 /// Gives a by-reference argument back as True where the check refused; otherwise it stays what it is.

@@ -66,6 +66,7 @@ STDMETHODIMP ScenarioObject::Tonen(VARIANT Eigenaar) {
     brivane::frmScenario& form = ToSet();
     const auto eigenaar = VensterVan(Eigenaar);
     stage_ = Stage::Open;
+    Hooks().Opening(form);
     try {
       form.ShowModal(eigenaar.get());
     } catch (...) {

@@ -14,15 +14,36 @@ namespace {
 // Of the event interface.
 constexpr DISPID kRefreshTopDisplay = 1;
 constexpr DISPID kHeightChanged = 2;
+constexpr DISPID kChanged = 1;  // of the explanation control
 
 VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 
 }  // namespace
 
-/// The explanation control inside the editor, as hosts reach it. It keeps the editor alive.
-class VrijeKolomObject::Ingesloten final : public DualObject<IToelichting> {
+/// The explanation control inside the editor, as hosts reach it: an object of its own, with the editor's count.
+class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
  public:
-  explicit Ingesloten(VrijeKolomObject& owner) : owner_(owner), kept_(&owner.Controlling()) {}
+  explicit Ingesloten(VrijeKolomObject& owner)
+      : owner_(owner), events_(*this, DIID_DToelichtingEvents), points_(*this, {&events_}) {}
+  virtual ~Ingesloten() = default;
+
+  /// The adviser changed something.
+  void Changed() { events_.Raise(kChanged); }
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(IToelichting))
+      *out = static_cast<IToelichting*>(this);
+    else if (iid == IID_IConnectionPointContainer)
+      *out = static_cast<IConnectionPointContainer*>(&points_);
+    else
+      return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return owner_.AddRef(); }
+  STDMETHODIMP_(ULONG) Release() override { return owner_.Release(); }
 
   STDMETHODIMP SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) override {
     return owner_.Doing([&] {
@@ -54,13 +75,15 @@ class VrijeKolomObject::Ingesloten final : public DualObject<IToelichting> {
   [[nodiscard]] brivane::Toelichting& Control() { return owner_.editor_->Toelichting(); }
 
   VrijeKolomObject& owner_;
-  ComPtr<IUnknown> kept_;
+  ConnectionPoint events_;
+  ConnectionPoints points_;
 };
 
 VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
     : CoObject(outer, CLSID_VrijeKolom, DIID_DVrijeKolomEvents),
       surface_(TheToolkit().MakeSurface(vrijekolom::kOntwerp)),
       editor_(std::make_unique<brivane::VrijeKolom>(*surface_, TheToolkit(), Factories())),
+      toelichting_(std::make_unique<Ingesloten>(*this)),
       events_(Controlling(), DIID_DVrijeKolomEvents),
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
@@ -73,6 +96,12 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
     part_.Control().SizeChanged();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
   });
+  editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Hooks().Opening(form); });
+  host::Event<>& changed = editor_->Toelichting().Changed;
+  changed.Connect([this, handOn = changed.Listener()] {
+    if (!part_.Control().EventsFrozen()) toelichting_->Changed();
+    handOn();
+  });
 }
 
 VrijeKolomObject::~VrijeKolomObject() = default;
@@ -83,9 +112,10 @@ IUnknown* VrijeKolomObject::Find(REFIID iid) {
   return own ? own : part_.Control().Find(iid);
 }
 
-std::optional<bool> VrijeKolomObject::DoorFlag(std::string_view flag) const {
-  if (flag == "filling") return editor_->Filling();
-  if (flag == "changed") return editor_->Gewijzigd();
+std::optional<Variant> VrijeKolomObject::DoorAspect(std::string_view aspect) const {
+  if (aspect == "filling") return Variant(editor_->Filling());
+  if (aspect == "changed") return Variant(editor_->Gewijzigd());
+  if (aspect == "record") return HandedBack<RecordAdapter>(editor_->Item());
   return std::nullopt;
 }
 
@@ -123,7 +153,10 @@ STDMETHODIMP VrijeKolomObject::put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) {
 }
 
 STDMETHODIMP VrijeKolomObject::get_Toelichting(IToelichting** Toelichting) {
-  return Doing([&] { *Toelichting = new Ingesloten(*this); });
+  return Doing([&] { 
+    *Toelichting = toelichting_.get();
+    toelichting_->AddRef();
+  });
 }
 
 STDMETHODIMP VrijeKolomObject::get_ProcedureTraceKlasse(BSTR* ProgID) {

@@ -30,10 +30,11 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
 
   IUnknown* Find(REFIID iid) override;
   headless::Surface& DoorSurface() override { return headless::Surface::Of(*surface_); }
-  std::optional<bool> DoorFlag(std::string_view flag) const override;
+  std::optional<Variant> DoorAspect(std::string_view aspect) const override;
 
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
+  std::unique_ptr<Ingesloten> toelichting_;
   ConnectionPoint events_;
   ControlPart part_;
   ConnectionPoints points_;

@@ -2,10 +2,28 @@
 
 #include <array>
 
+#include "component/automation/RecordAdapter.h"
+#include "component/testdoor/Preparation.h"
 #include "component/testdoor/Proefdeur.h"
 #include "host/Error.h"
 
 namespace brivane::component {
+
+namespace {
+
+/// What a form's door tells of it beside its controls.
+std::optional<Variant> FormAspect(const headless::Form& window, const brivane::frmScenario* form,
+                                  std::string_view aspect) {
+  if (aspect == "closed") return Variant(window.IsUnloaded());
+  if (form == nullptr) return std::nullopt;
+  if (aspect == "years") return Variant(form->AantalJaar());
+  if (aspect == "record") return HandedBack<BedragAdapter>(form->Scenario());
+  return std::nullopt;
+}
+
+}  // namespace
+
+Hooks::Hooks(Toolkit& toolkit, HostSession& session) : toolkit_(toolkit), session_(session) { Prepare(*this); }
 
 void Hooks::Set(std::string_view setting, const VARIANT& value) {
   auto& desktop = toolkit_.Desktop();
@@ -13,6 +31,12 @@ void Hooks::Set(std::string_view setting, const VARIANT& value) {
     desktop.clock = [today = As<host::Date>(value)] { return today; };
   } else if (setting == "title") {
     desktop.title = As<std::string>(value);
+  } else if (setting == "twipsPerPixelX") {
+    desktop.twipsPerPixelX = As<float>(value);
+  } else if (setting == "twipsPerPixelY") {
+    desktop.twipsPerPixelY = As<float>(value);
+  } else if (setting == "groupSeparator") {
+    desktop.groupSeparator = As<std::string>(value);
   } else {
     throw NoSuch("setting", setting);
   }
@@ -46,7 +70,15 @@ host::MessageAnswer Hooks::Ask(const std::string& title, const std::string& text
 }
 
 void Hooks::RunForm(headless::Form& form) {
-  const ProefdeurLening door(form, *this);
+  host::Event<>& unloaded = form.host::Form::Unloaded;
+  if (callback_.Has(L"Closed"))
+    unloaded.Connect([this, handOn = unloaded.Listener()] {
+      callback_.Call(L"Closed");
+      if (handOn) handOn();
+    });
+  const auto* const shown = std::exchange(opening_, nullptr);
+  const ProefdeurLening door(form, *this,
+                             [&form, shown](std::string_view aspect) { return FormAspect(form, shown, aspect); });
   callback_.Call(L"Form", std::array{Variant(door.Object())});
 }
 

@@ -6,6 +6,7 @@
 
 #include "component/automation/HostSession.h"
 #include "component/automation/Toolkit.h"
+#include "scenario/frmScenario.h"
 
 namespace brivane::component {
 
@@ -13,7 +14,8 @@ namespace brivane::component {
 /// place.
 class Hooks {
  public:
-  Hooks(Toolkit& toolkit, HostSession& session) : toolkit_(toolkit), session_(session) {}
+  /// What the door of the classes holds ready is set at once.
+  Hooks(Toolkit& toolkit, HostSession& session);
 
   /// Fails with error 5 for a setting that there is not.
   void Set(std::string_view setting, const VARIANT& value);
@@ -21,6 +23,8 @@ class Hooks {
   void SetCallback(ComPtr<IDispatch> callback);
   /// An object that the callback makes with that member; nothing where it has no such member.
   [[nodiscard]] ComPtr<IDispatch> MadeByCallback(std::wstring_view member, std::string_view control);
+  /// The form that is shown next.
+  void Opening(const brivane::frmScenario& form) { opening_ = &form; }
 
  private:
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
@@ -29,6 +33,7 @@ class Hooks {
   Toolkit& toolkit_;
   HostSession& session_;
   LateBound callback_;
+  const brivane::frmScenario* opening_ = nullptr;
 };
 
 }  // namespace brivane::component

@@ -8,8 +8,8 @@ namespace brivane::component {
 
 class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
  public:
-  Impl(ComPtr<IUnknown> object, headless::Surface& surface, Hooks& hooks, DoorFlags flags)
-      : object_(std::move(object)), surface_(&surface), hooks_(&hooks), flags_(std::move(flags)) {}
+  Impl(ComPtr<IUnknown> object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects)
+      : object_(std::move(object)), surface_(&surface), hooks_(&hooks), aspects_(std::move(aspects)) {}
 
   void TakeBack() { surface_ = nullptr; }
 
@@ -23,8 +23,8 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
     return OnSurface([&](headless::Surface& surface) {
       const std::string name = FromBstr(element);
       const std::string asked = FromBstr(aspect);
-      if (name.empty() && flags_) {
-        if (const std::optional<bool> flag = flags_(asked)) return Variant(*flag).MoveTo(value);
+      if (name.empty()) {
+        if (std::optional<Variant> own = aspects_(asked)) return own->MoveTo(value);
       }
       AspectOf(Named(surface, name), asked).MoveTo(value);
     });
@@ -61,15 +61,15 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
   ComPtr<IUnknown> object_;
   headless::Surface* surface_;
   Hooks* hooks_;
-  DoorFlags flags_;
+  DoorAspects aspects_;
 };
 
-IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorFlags flags) {
-  return new ProefdeurLening::Impl(&object, surface, hooks, std::move(flags));
+IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects) {
+  return new ProefdeurLening::Impl(&object, surface, hooks, std::move(aspects));
 }
 
-ProefdeurLening::ProefdeurLening(headless::Surface& surface, Hooks& hooks)
-    : door_(new Impl({}, surface, hooks, nullptr)) {}
+ProefdeurLening::ProefdeurLening(headless::Surface& surface, Hooks& hooks, DoorAspects aspects)
+    : door_(new Impl({}, surface, hooks, std::move(aspects))) {}
 
 ProefdeurLening::~ProefdeurLening() {
   door_->TakeBack();

@@ -11,16 +11,16 @@
 
 namespace brivane::component {
 
-/// Tells a door what an object knows of itself beside its controls: "filling", "changed". Nothing for another name.
-using DoorFlags = std::function<std::optional<bool>(std::string_view flag)>;
+/// Tells a door what an object knows of itself beside its controls. Nothing for another name.
+using DoorAspects = std::function<std::optional<Variant>(std::string_view aspect)>;
 
 /// A door to the surface of an object, counted. It keeps the object alive.
-[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorFlags flags);
+[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects);
 
 /// A door to an open form, lent for the time of one call. What is kept of it longer fails with error 91.
 class ProefdeurLening {
  public:
-  ProefdeurLening(headless::Surface& surface, Hooks& hooks);
+  ProefdeurLening(headless::Surface& surface, Hooks& hooks, DoorAspects aspects);
   ProefdeurLening(const ProefdeurLening&) = delete;
   ProefdeurLening& operator=(const ProefdeurLening&) = delete;
   ~ProefdeurLening();
@@ -29,10 +29,16 @@ class ProefdeurLening {
 
  private:
   class Impl;
-  friend IProefdeur* NewProefdeur(IUnknown&, headless::Surface&, Hooks&, DoorFlags);
+  friend IProefdeur* NewProefdeur(IUnknown&, headless::Surface&, Hooks&, DoorAspects);
 
   Impl* door_;
 };
+
+/// An adapter's object of the host as it came; an object that is nothing for none.
+template <class A, class Interface> [[nodiscard]] Variant HandedBack(const std::shared_ptr<Interface>& adapter) {
+  const auto* const known = dynamic_cast<const A*>(adapter.get());
+  return Variant(known ? known->Object() : nullptr);
+}
 
 /// Error 5 for a name that a door does not know.
 [[nodiscard]] host::Error NoSuch(std::string_view what, std::string_view name);

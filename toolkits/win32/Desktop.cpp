@@ -4,7 +4,6 @@
 
 #include "frame/Calendar.h"
 #include "toolkits/headless/Desktop.h"
-#include "toolkits/headless/Pixels.h"
 #include "toolkits/win32/Text.h"
 
 namespace brivane::win32 {
@@ -42,6 +41,12 @@ std::wstring ProgramName() {
   return path.substr(0, path.rfind(L'.'));
 }
 
+std::string UserSeparator() {
+  wchar_t separator[8] = {};
+  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 8);
+  return Narrow(separator);
+}
+
 }  // namespace
 
 std::string Desktop::ApplicationTitle() const { return title.empty() ? Narrow(ProgramName()) : title; }
@@ -66,9 +71,6 @@ host::MessageAnswer Desktop::Ask(const std::string& caption, const std::string& 
   }
 }
 
-float Desktop::TwipsPerPixelX() const { return static_cast<float>(headless::kTwipsPerPixel); }
-float Desktop::TwipsPerPixelY() const { return static_cast<float>(headless::kTwipsPerPixel); }
-
 void Desktop::ResetMousePointer() { SetCursor(LoadCursorW(nullptr, MAKEINTRESOURCEW(32512))); }
 
 host::Date Desktop::Today() const {
@@ -89,10 +91,8 @@ void Desktop::DoPendingEvents() {
 }
 
 std::string Desktop::FormatWhole(double number) const {
-  wchar_t separator[8] = {};
-  GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, 8);
   const double whole = std::round(number);
-  return headless::FormatGrouped(whole == 0 ? 0.0 : whole, Narrow(separator));
+  return headless::FormatGrouped(whole == 0 ? 0.0 : whole, groupSeparator ? *groupSeparator : UserSeparator());
 }
 
 }  // namespace brivane::win32

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "toolkits/win32/WindowsApi.h"
 
 #include "host/controls/Desktop.h"
+#include "toolkits/headless/Pixels.h"
 
 namespace brivane::win32 {
 
@@ -24,6 +26,11 @@ class Desktop final : public host::Desktop {
   std::function<void()> pending;
   /// Title of the application; empty for the name of the program.
   std::string title;
+  /// Separates groups of three digits instead of what the user chose, when set.
+  std::optional<std::string> groupSeparator;
+  /// Twips to a pixel as the logic sees them: the windows are scaled to the screen themselves.
+  float twipsPerPixelX = static_cast<float>(headless::kTwipsPerPixel);
+  float twipsPerPixelY = static_cast<float>(headless::kTwipsPerPixel);
 
   /// A message box of the toolkit's own: as MessageBox, and nobody is told.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text, host::MessageStyle style);
@@ -31,9 +38,8 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] std::string ApplicationTitle() const override;
   host::MessageAnswer MessageBox(const std::string& caption, const std::string& text,
                                  host::MessageStyle style) override;
-  /// Always 15: the windows are scaled to the screen themselves.
-  [[nodiscard]] float TwipsPerPixelX() const override;
-  [[nodiscard]] float TwipsPerPixelY() const override;
+  [[nodiscard]] float TwipsPerPixelX() const override { return twipsPerPixelX; }
+  [[nodiscard]] float TwipsPerPixelY() const override { return twipsPerPixelY; }
   void ResetMousePointer() override;
   [[nodiscard]] host::Date Today() const override;
   void DoPendingEvents() override;
