@@ -58,8 +58,10 @@ host::Place ShownPlace(HWND window, const host::Place& asked, const Edge& edge) 
           edge.ToTwips(HeightOf(shown))};
 }
 
-/// The caption that a text shows: what was asked where it is shown so, else the text itself.
-std::string CaptionOf(const std::string& shown, const frame::Row& row, const std::string& asked) {
+/// The caption that a text shows: what was asked where it is shown so, else the text itself. That of a frame has a
+/// blank after it.
+std::string CaptionOf(std::string shown, const frame::Row& row, const std::string& asked) {
+  if (row.kind == Kind::Frame && shown.ends_with(' ')) shown.pop_back();
   return shown == headless::MarkedCaption(row, asked) ? asked : shown;
 }
 

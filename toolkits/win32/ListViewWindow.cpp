@@ -10,6 +10,8 @@ using headless::Aspect;
 
 namespace {
 
+constexpr float kHeadingSize = 8.25F / 9;
+
 int CountItems(HWND list) { return static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0)); }
 
 int CountColumns(HWND list) {
@@ -48,6 +50,15 @@ void ListViewWindow::Refresh(Aspect aspect) {
     case Aspect::Selection: return ShowSelection();
     default: ControlWindow::Refresh(aspect);
   }
+}
+
+/// The headings stand closer than the class lays them out, so they are a little smaller than the rows.
+void ListViewWindow::ShowFont() {
+  ControlWindow::ShowFont();
+  const frame::Design& design = list_.Owner()->Table();
+  const float points = list_.Read(host::Measure::FontSize).value_or(design.fontSize);
+  const auto header = reinterpret_cast<HWND>(SendMessageW(Handle(), LVM_GETHEADER, 0, 0));
+  SendMessageW(header, WM_SETFONT, reinterpret_cast<WPARAM>(Toolkit().FontOf(design, points * kHeadingSize)), TRUE);
 }
 
 void ListViewWindow::Rescale() {

@@ -16,6 +16,7 @@ class ListViewWindow final : public ControlWindow {
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   std::optional<LRESULT> OnNotify(NMHDR& header) override;
+  void ShowFont() override;
   void ShowBackColor() override;
 
  private:

@@ -73,9 +73,12 @@ FormWindow* FormOf(ControlWindow& window) {
   return dynamic_cast<FormWindow*>(RootOf(window.Control()).GetPeer());
 }
 
+/// Hands over what is being typed in a window. False where it was refused, or where nothing is left to go on
+/// from.
 bool CommitBox(ControlWindow& window) {
+  const auto life = window.Life();
   auto* const box = dynamic_cast<BoxWindow*>(&window);
-  return box == nullptr || box->CommitPending();
+  return (box == nullptr || box->CommitPending()) && !life.expired();
 }
 
 /// An arrow in a group of options selects the next one.
@@ -204,7 +207,8 @@ bool PressMnemonic(const headless::Surface& root, wchar_t letter) {
       target = made[i + 1].get();
     }
     ControlWindow& window = WindowFor(*target);
-    if (window.Toolkit().LeaveBox(window) && target->Reachable()) window.Choose();
+    const auto life = window.Life();
+    if (window.Toolkit().LeaveBox(window) && !life.expired() && target->Reachable()) window.Choose();
     return true;
   }
   return false;

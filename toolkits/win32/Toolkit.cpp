@@ -110,7 +110,8 @@ bool Toolkit::LeaveBox(const Window& target) {
 }
 
 bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const Window& window) {
-  if (!LeaveBox(window)) return false;
+  const auto life = window.Life();
+  if (!LeaveBox(window) || life.expired()) return false;
   headless::Outcome outcome = headless::Outcome::Ignored;
   Guard([&] { outcome = control.Perform(action); });
   return outcome == headless::Outcome::Done;

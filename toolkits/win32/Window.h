@@ -57,6 +57,8 @@ class Window {
 
   [[nodiscard]] HWND Handle() const { return handle_; }
   [[nodiscard]] win32::Toolkit& Toolkit() const { return toolkit_; }
+  /// Expires with the object.
+  [[nodiscard]] std::weak_ptr<const char> Life() const { return life_; }
   /// The object behind a window, or nothing.
   [[nodiscard]] static Window* Of(HWND window);
   /// The object behind a window or the nearest window around it, or nothing.
@@ -74,8 +76,6 @@ class Window {
   virtual std::optional<LRESULT> OnNotify(NMHDR& /*header*/) { return std::nullopt; }
   /// The brush of its background; nothing for that of the class.
   virtual HBRUSH OnColor(UINT /*message*/, HDC /*context*/) { return nullptr; }
-
-  [[nodiscard]] std::weak_ptr<const char> Life() const { return life_; }
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -74,10 +74,9 @@ Stage::~Stage() {
 }
 
 void Stage::Show(host::Surface& surface) {
-  surface_ = &surface;
-  const HWND area = win32::Toolkit::WindowOf(surface);
-  SetParent(area, window_);
-  SetWindowPos(area, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  area_ = win32::Toolkit::WindowOf(surface);
+  SetParent(area_, window_);
+  SetWindowPos(area_, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
   ShowWindow(window_, SW_SHOW);
   SetForegroundWindow(window_);
   Settle();
@@ -90,9 +89,10 @@ void Stage::Settle() {
     // A form that is open has its own.
     headless::Surface* const root = control != nullptr ? &win32::RootOf(control->Control()) : nullptr;
     if (root != nullptr && toolkit_.Navigate(root->HostSurface(), message)) continue;
-    const bool inside = surface_ != nullptr && root == &headless::Surface::Of(*surface_);
+    const bool inside = root != nullptr && win32::AreaOf(*root) == area_;
     if (inside && message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
-      GetKeyState(VK_SHIFT) < 0 ? toolkit_.FocusLast(*surface_) : toolkit_.FocusFirst(*surface_);
+      host::Surface& surface = root->HostSurface();
+      GetKeyState(VK_SHIFT) < 0 ? toolkit_.FocusLast(surface) : toolkit_.FocusFirst(surface);
       continue;
     }
     TranslateMessage(&message);

@@ -32,8 +32,8 @@ class Stage {
 
  private:
   win32::Toolkit& toolkit_;
-  host::Surface* surface_ = nullptr;
   HWND window_;
+  HWND area_ = nullptr;
 };
 
 /// The stage that gestures are settled on; one at a time.

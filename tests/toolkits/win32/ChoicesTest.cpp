@@ -1,0 +1,240 @@
+#include "tests/toolkits/win32/SurfaceTest.h"
+
+#include <commctrl.h>
+
+#include "toolkits/headless/Choices.h"
+#include "toolkits/headless/ListBox.h"
+#include "toolkits/headless/ListView.h"
+#include "toolkits/headless/Plain.h"
+#include "toolkits/win32/HintWindow.h"
+
+/// Toggles, options, lists and help icons worked by keys and mouse.
+namespace brivane::test {
+namespace {
+
+using testing::ElementsAre;
+
+class ToggleKeys : public SurfaceTest {
+ protected:
+  headless::JaNee& toggle_ = static_cast<headless::JaNee&>(Control("jnDiep"));
+};
+
+TEST_F(ToggleKeys, EachKeyPicksItsAnswer) {
+  struct Case {
+    WORD key;
+    int before;
+    int after;
+  };
+  SetFocus(WindowOf("jnDiep"));
+  for (const Case& c : {Case{'J', host::kNee, host::kJa}, Case{'J', host::kJa, host::kJa},
+                        Case{'N', host::kJa, host::kNee}, Case{VK_LEFT, host::kNee, host::kJa},
+                        Case{VK_RIGHT, host::kJa, host::kNee}, Case{VK_UP, host::kNee, host::kJa},
+                        Case{VK_DOWN, host::kJa, host::kNee}, Case{VK_SPACE, host::kNee, host::kJa},
+                        Case{VK_SPACE, host::kJa, host::kNee}, Case{'A', host::kNee, host::kNee}}) {
+    toggle_.SetValue(c.before);
+    Press(c.key);
+    EXPECT_EQ(toggle_.Value(), c.after) << c.key << " from " << c.before;
+  }
+}
+
+TEST_F(ToggleKeys, IsACheckBoxToAnyoneWhoAsks) {
+  const HWND window = WindowOf("jnDiep");
+  EXPECT_EQ(win32::TextOf(window), L"Diep");
+  EXPECT_EQ(SendMessageW(window, BM_GETCHECK, 0, 0), BST_UNCHECKED);
+  SendMessageW(window, BM_CLICK, 0, 0);
+  EXPECT_EQ(toggle_.Value(), host::kJa);
+  EXPECT_EQ(SendMessageW(window, BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+class Options : public SurfaceTest {
+ protected:
+  Options() {
+    for (int i = 1; i <= 3; ++i) {
+      auto& option = static_cast<headless::OptionButton&>(Control("optSoort", i));
+      option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
+    }
+  }
+  [[nodiscard]] int Selected() {
+    for (int i = 1; i <= 3; ++i)
+      if (static_cast<headless::OptionButton&>(Control("optSoort", i)).Value()) return i;
+    return 0;
+  }
+};
+
+TEST_F(Options, ArrowKeysMoveWithinTheGroupAlone) {
+  Do(Control("optSoort", 1), headless::Select{});
+  Press(VK_DOWN);
+  EXPECT_EQ(Selected(), 2);
+  Press(VK_RIGHT);
+  EXPECT_EQ(Selected(), 3);
+  Press(VK_UP);
+  EXPECT_EQ(Focused(), "optSoort(2)");
+  EXPECT_THAT(log_, ElementsAre("click 1", "click 2", "click 3", "click 2"));
+  EXPECT_FALSE(static_cast<headless::OptionButton&>(Control("optAnder", 1)).Value());
+}
+
+TEST_F(Options, GettingTheFocusSelectsNothing) {
+  SetFocus(WindowOf("optSoort", 2));
+  stage_.Settle();
+  EXPECT_EQ(Selected(), 0);
+}
+
+TEST_F(Options, TabGoesToTheSelectedOne) {
+  static_cast<headless::OptionButton&>(Control("optSoort", 3)).SetValue(true);
+  SetFocus(WindowOf("hntDiep"));
+  Press(VK_TAB);
+  EXPECT_EQ(Focused(), "optSoort(3)");
+  Press(VK_TAB);
+  EXPECT_EQ(Focused(), "optAnder(1)");
+}
+
+TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
+  Do(Control("optSoort", 1), headless::Select{});
+  Focus("txtBedrag");
+  TypeOver(L"12.50");
+  Do(Control("optSoort", 3), headless::Select{});
+  EXPECT_EQ(Selected(), 1);
+  EXPECT_EQ(Focused(), "txtBedrag");
+}
+
+class Lists : public SurfaceTest {
+ protected:
+  Lists() {
+    list_.Click.Connect([this] { log_.push_back(list_.ListIndex() < 0 ? "none" : list_.Text()); });
+  }
+  [[nodiscard]] LRESULT Shown() { return SendMessageW(WindowOf("cboTermijn"), CB_GETCURSEL, 0, 0); }
+  headless::ListBox& list_ = static_cast<headless::ListBox&>(Control("cboTermijn"));
+};
+
+TEST_F(Lists, AreWorkedByKeysWhileTheyAreClosed) {
+  SetFocus(WindowOf("cboTermijn"));
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  Press(VK_END);
+  EXPECT_THAT(log_, ElementsAre("per maand", "per kwartaal", "per jaar"));
+}
+
+TEST_F(Lists, PickWhenTheDroppedListIsLeftByEnterAndNothingByEscape) {
+  list_.SetListIndex(0);
+  log_.clear();
+  SetFocus(WindowOf("cboTermijn"));
+  Press(VK_F4);
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  EXPECT_TRUE(log_.empty());
+  Press(VK_ESCAPE);
+  EXPECT_EQ(Shown(), 0);
+  EXPECT_TRUE(log_.empty());
+  Press(VK_F4);
+  Press(VK_DOWN);
+  Press(VK_DOWN);
+  Press(VK_RETURN);
+  EXPECT_THAT(log_, ElementsAre("per jaar"));
+  EXPECT_EQ(Focused(), "cboTermijn");
+}
+
+TEST_F(Lists, KeepWhatStandsWhenABoxElsewhereRefuses) {
+  list_.SetListIndex(0);
+  Focus("txtBedrag");
+  TypeOver(L"12.50");
+  Do(list_, headless::Choose{2});
+  EXPECT_EQ(list_.ListIndex(), 0);
+  EXPECT_EQ(Shown(), 0);
+}
+
+TEST_F(Lists, TurnOnlyWithTheFocusByTheWheel) {
+  list_.SetListIndex(0);
+  Focus("txtNaam");
+  SendMessageW(WindowOf("cboTermijn"), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+  EXPECT_EQ(list_.ListIndex(), 0);
+  SetFocus(WindowOf("cboTermijn"));
+  SendMessageW(WindowOf("cboTermijn"), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
+  EXPECT_EQ(list_.ListIndex(), 1);
+}
+
+TEST_F(SurfaceTest, ACheckBoxIsTickedBySpace) {
+  auto& check = static_cast<headless::CheckBox&>(Control("chkVinkje"));
+  SetFocus(WindowOf("chkVinkje"));
+  Press(VK_SPACE);
+  EXPECT_EQ(check.Value(), host::kTicked);
+  Press(VK_SPACE);
+  EXPECT_EQ(check.Value(), host::kUnticked);
+}
+
+TEST_F(SurfaceTest, AButtonIsPressedBySpaceAndByEnter) {
+  static_cast<headless::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
+  SetFocus(WindowOf("cmdDoen"));
+  Press(VK_SPACE);
+  Press(VK_RETURN);
+  EXPECT_EQ(log_.size(), 2U);
+}
+
+TEST_F(SurfaceTest, AHelpIconShowsItsTextOnFocusClickAndHover) {
+  const win32::HelpTip& tip = Entry<win32::HintWindow>("hntDiep").Tip();
+  SetFocus(WindowOf("jnDiep"));
+  EXPECT_FALSE(tip.IsShown());
+  Press(VK_TAB);
+  EXPECT_EQ(Focused(), "hntDiep");
+  EXPECT_EQ(win32::Narrow(tip.Text()), "Zo diep als het kan.");
+  Press(VK_ESCAPE);
+  EXPECT_FALSE(tip.IsShown());
+  Press(VK_SPACE);
+  EXPECT_TRUE(tip.IsShown());
+  Focus("txtNaam");
+  EXPECT_FALSE(tip.IsShown());
+  Click(WindowOf("hntDiep"));
+  EXPECT_TRUE(tip.IsShown());
+  Focus("txtNaam");
+  MoveTo(WindowOf("hntDiep"), {6, 6});
+  for (int i = 0; i < 40 && !tip.IsShown(); ++i) {
+    Sleep(25);
+    stage_.Settle();
+  }
+  EXPECT_TRUE(tip.IsShown());
+  EXPECT_EQ(Focused(), "txtNaam");
+}
+
+TEST_F(SurfaceTest, TheReportListMarksARowThatAPersonCannotMove) {
+  auto& list = static_cast<headless::ListView&>(Control("lvwLijst"));
+  list.AddColumn("Last", {1500});
+  for (const std::size_t row : {1U, 2U, 3U}) list.AddItem(row, "KEY" + std::to_string(row), "rij");
+  list.Select(2);
+  const HWND window = WindowOf("lvwLijst");
+  Click(window, {20, 30});
+  EXPECT_EQ(Focused(), "lvwLijst");
+  Press(VK_DOWN);
+  EXPECT_EQ(SendMessageW(window, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 1);
+  EXPECT_EQ(SendMessageW(window, LVM_GETSELECTEDCOUNT, 0, 0), 1);
+}
+
+TEST_F(SurfaceTest, TabVisitsEveryStopInTheOrderOfTheDesign) {
+  Focus("txtNaam");
+  std::vector<std::string> visited;
+  for (int i = 0; i < 17; ++i) {
+    visited.push_back(Focused());
+    Press(VK_TAB);
+  }
+  // A group of options is one stop.
+  EXPECT_THAT(visited, ElementsAre("txtNaam", "txtBedrag", "txtPercentage", "txtJaren", "txtDatum", "txtTotaal",
+                                   "jnDiep", "hntDiep", "optSoort(1)", "optAnder(1)", "chkVinkje", "cboTermijn",
+                                   "cboLeeg", "cmdDoen", "lvwLijst", "Binnenste.jnBinnen", "txtNaam"));
+}
+
+TEST_F(SurfaceTest, ShiftTabVisitsThemBackwards) {
+  Focus("txtNaam");
+  Press(VK_TAB, With::Shift);
+  EXPECT_EQ(Focused(), "Binnenste.jnBinnen");
+  Press(VK_TAB, With::Shift);
+  EXPECT_EQ(Focused(), "lvwLijst");
+}
+
+TEST_F(SurfaceTest, WhatIsDisabledOrHiddenGivesTheFocusOn) {
+  Focus("txtBedrag");
+  Control("txtBedrag").Host().SetEnabled(false);
+  EXPECT_EQ(Focused(), "txtPercentage");
+  Control("fraBoxen").Host().SetVisible(false);
+  EXPECT_EQ(Focused(), "optSoort(1)");
+}
+
+}  // namespace
+}  // namespace brivane::test
