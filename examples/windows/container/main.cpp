@@ -4,6 +4,7 @@
 //     container_example
 //
 //     container_example --library BrivaneVrijeKolom.dll    without registering it
+//     container_example --quit                             shows the window and leaves, to try the build
 #include <cstring>
 #include <string>
 
@@ -40,6 +41,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
   {
     voorbeeld::MainWindow window;
     if (SUCCEEDED(hr)) hr = window.Open(voorbeeld::NewApplication(window.Handle()).Get());
+    if (SUCCEEDED(hr) && arguments == L"--quit") ::PostMessageW(window.Handle(), WM_CLOSE, 0, 0);
     if (SUCCEEDED(hr)) window.Run();
   }
   ::OleUninitialize();

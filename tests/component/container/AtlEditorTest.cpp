@@ -118,7 +118,7 @@ TEST_F(AtlEditorTest, LosesNothingInAHundredWindows) {
   EXPECT_GT(first.bytes, 0U);
   EXPECT_EQ(last.gdi, first.gdi);
   EXPECT_EQ(last.windows, first.windows);
-  EXPECT_LT(last.bytes, first.bytes + 100'000);
+  EXPECT_LT(last.bytes, first.bytes + 80 * kLeftByLabels);
   std::printf("after 20: %zu gdi, %zu windows, %zu bytes; after 100: %zu gdi, %zu windows, %zu bytes\n", first.gdi,
               first.windows, first.bytes, last.gdi, last.windows, last.bytes);
 }

@@ -216,7 +216,7 @@ TEST_F(EditorTest, LosesNothingInAHundredTimesOpenedTypedInAndClosed) {
   EXPECT_GT(first.bytes, 0U);
   EXPECT_EQ(last.gdi, first.gdi);
   EXPECT_EQ(last.windows, first.windows);
-  EXPECT_LT(last.bytes, first.bytes + 100'000);
+  EXPECT_LT(last.bytes, first.bytes + 81 * kLeftByLabels);
   std::printf("after 20: %zu gdi, %zu windows, %zu bytes; after 101: %zu gdi, %zu windows, %zu bytes\n", first.gdi,
               first.windows, first.bytes, last.gdi, last.windows, last.bytes);
 }
