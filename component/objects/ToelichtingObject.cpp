@@ -51,6 +51,8 @@ STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
   return Doing([&] {
     const bool before = As<bool>(*Cancel);
     bool cancel = before;
+    // What is being typed is handed over first; refused there is refused here.
+    if (!cancel && !TheToolkit().CommitPending(*surface_)) cancel = true;
     control_->Validation(cancel, ControleNr);
     StoreCancel(Cancel, before, cancel);
   });

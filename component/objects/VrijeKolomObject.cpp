@@ -57,6 +57,7 @@ class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
     return owner_.Doing([&] {
       const bool before = As<bool>(*Cancel);
       bool cancel = before;
+      if (!cancel && !owner_.TheToolkit().CommitPending(*owner_.surface_)) cancel = true;
       Control().Validation(cancel, ControleNr);
       StoreCancel(Cancel, before, cancel);
     });
@@ -131,6 +132,8 @@ STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
   return Doing([&] {
     const bool before = As<bool>(*Cancel);
     bool cancel = before;
+    // What is being typed is handed over first; refused there is refused here.
+    if (!cancel && !TheToolkit().CommitPending(*surface_)) cancel = true;
     editor_->Validation(cancel, ControleNr);
     StoreCancel(Cancel, before, cancel);
   });

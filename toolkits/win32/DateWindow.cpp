@@ -135,8 +135,13 @@ bool DateWindow::OnKey(WPARAM key) {
 LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const auto gaining = reinterpret_cast<HWND>(wParam);
   if (message == WM_KILLFOCUS && calendar_ && IsChild(calendar_->Handle(), gaining) == FALSE) CloseCalendar();
-  if (message == WM_ENABLE && button_) InvalidateRect(button_->Handle(), nullptr, FALSE);
-  return BoxWindow::OnMessage(message, wParam, lParam);
+  const auto life = Life();
+  const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
+  if (life.expired()) return result;
+  // The edit control draws over what stands in it.
+  const bool draws = message == WM_PAINT || message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE;
+  if (draws && button_) InvalidateRect(button_->Handle(), nullptr, FALSE);
+  return result;
 }
 
 }  // namespace brivane::win32

@@ -88,6 +88,13 @@ class EditorTest : public ::testing::Test {
   void Type(const std::wstring& text) {
     for (const wchar_t letter : text) Key(WM_CHAR, static_cast<WPARAM>(letter));
   }
+  [[nodiscard]] bool IsRefused() {
+    VARIANT cancel;
+    ::VariantInit(&cancel);
+    cancel.vt = VT_BOOL;
+    EXPECT_EQ(window_->Editor()->Validation(&cancel, 0), S_OK);
+    return cancel.boolVal != VARIANT_FALSE;
+  }
   [[nodiscard]] HWND Frame() const {
     HWND frame = nullptr;
     window_->Place()->Control().As<IOleInPlaceObject>()->GetWindow(&frame);
@@ -127,6 +134,27 @@ TEST_F(EditorTest, WhatIsTypedComesBackAsTheHeadersText) {
   EXPECT_EQ(TextOf(window_->Header()), L"");
   Key(WM_KEYDOWN, VK_RETURN);
   EXPECT_EQ(TextOf(window_->Header()), L"Vakbond");
+}
+
+TEST_F(EditorTest, TheCheckTakesWhatIsBeingTypedFirst) {
+  ::SetFocus(BoxWith(Frame(), L"Vereniging"));
+  ::SendMessageW(::GetFocus(), EM_SETSEL, 0, -1);
+  Type(L"Vakbond");
+  EXPECT_FALSE(IsRefused());
+  EXPECT_EQ(TextOf(window_->Header()), L"Vakbond");
+}
+
+TEST_F(EditorTest, TheCheckRefusesWhatCannotBeADateAndKeepsItWhereItStands) {
+  const HWND date = BoxWith(Frame(), L"01-04-2031");
+  ::SetFocus(date);
+  ::SendMessageW(date, EM_SETSEL, 0, -1);
+  Type(L"morgen");
+  EXPECT_TRUE(IsRefused());
+  EXPECT_EQ(::GetFocus(), date);
+  EXPECT_EQ(TextOf(date), L"morgen");
+  Key(WM_KEYDOWN, VK_ESCAPE);
+  EXPECT_FALSE(IsRefused());
+  EXPECT_EQ(TextOf(date), L"01-04-2031");
 }
 
 TEST_F(EditorTest, TabGoesThroughTheEditorOnceAndOut) {

@@ -1,4 +1,4 @@
-// The editor drawn by its container, without ever having been on the screen.
+// How the editor looks: on the screen, and drawn by its container.
 
 #include <gtest/gtest.h>
 
@@ -75,47 +75,81 @@ ComPtr<IVrijeKolom> NewEditor(IDispatch* application) {
   return editor;
 }
 
-TEST(Inactive, LooksToThePixelAsItLooksOnTheScreen) {
-  const Ole ole;
-  Library library;
-  voorbeeld::MainWindow window;
-  const auto application = voorbeeld::NewApplication(window.Handle());
-  ASSERT_EQ(window.Open(application.Get()), S_OK);
-  RECT room{0, 0, kWidth + 24, 600};
-  ::AdjustWindowRectEx(&room, WS_OVERLAPPEDWINDOW, FALSE, 0);
-  ::SetWindowPos(window.Handle(), nullptr, 0, 0, room.right - room.left, room.bottom - room.top, SWP_NOZORDER);
-  ::SetFocus(window.Note());
-  Pump();
+class LookTest : public ::testing::Test {
+ protected:
+  /// The example's window as wide as the editor is designed, the focus beside the editor.
+  void SetUp() override {
+    application_ = voorbeeld::NewApplication(window_.Handle());
+    ASSERT_EQ(window_.Open(application_.Get()), S_OK);
+    RECT room{0, 0, kWidth + 24, 600};
+    ::AdjustWindowRectEx(&room, WS_OVERLAPPEDWINDOW, FALSE, 0);
+    ::SetWindowPos(window_.Handle(), nullptr, 0, 0, room.right - room.left, room.bottom - room.top, SWP_NOZORDER);
+    ::SetFocus(window_.Note());
+    Pump();
+  }
+  void TearDown() override { EXPECT_TRUE(window_.Close()); }
 
-  HWND frame = nullptr;
-  window.Place()->Control().As<IOleInPlaceObject>()->GetWindow(&frame);
-  RECT whole{};
-  ::GetClientRect(frame, &whole);
-  ASSERT_EQ(whole.right, kWidth);
-  ASSERT_EQ(whole.bottom, kHeight);
+  [[nodiscard]] HWND Frame() const {
+    HWND frame = nullptr;
+    window_.Place()->Control().As<IOleInPlaceObject>()->GetWindow(&frame);
+    return frame;
+  }
+  /// What stands on the screen.
+  void Take(const Paper& paper) const {
+    RECT whole{};
+    ::GetClientRect(Frame(), &whole);
+    EXPECT_EQ(whole.right, kWidth);
+    EXPECT_EQ(whole.bottom, kHeight);
+    const HDC screen = ::GetDC(Frame());
+    ::BitBlt(paper.Drawing(), 0, 0, kWidth, kHeight, screen, 0, 0, SRCCOPY);
+    ::ReleaseDC(Frame(), screen);
+  }
+  static void ExpectSame(const Paper& expected, const Paper& actual) {
+    const auto pixels = actual.Pixels();
+    const auto wanted = expected.Pixels();
+    EXPECT_GT(std::count(wanted.begin(), wanted.end(), 0U), 1000);  // the letters
+    std::size_t different = 0;
+    for (std::size_t i = 0; i < wanted.size(); ++i) different += pixels[i] != wanted[i];
+    EXPECT_EQ(different, 0U);
+    if (different == 0) return;
+    expected.Write("expected.ppm");
+    actual.Write("actual.ppm");
+  }
+
+  Ole ole_;
+  Library library_;
+  voorbeeld::MainWindow window_;
+  ComPtr<IDispatch> application_;
+};
+
+TEST_F(LookTest, DrawnByItsContainerItLooksToThePixelAsOnTheScreen) {
   const Paper seen;
-  const HDC screen = ::GetDC(frame);
-  ::BitBlt(seen.Drawing(), 0, 0, kWidth, kHeight, screen, 0, 0, SRCCOPY);
-  ::ReleaseDC(frame, screen);
-
-  const auto editor = NewEditor(application.Get());
+  Take(seen);
+  const auto other = NewEditor(application_.Get());
   const Paper drawn;
   const RECTL bounds{0, 0, kWidth, kHeight};
-  EXPECT_EQ(editor.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.Drawing(), &bounds,
-                                            nullptr, nullptr, 0),
+  EXPECT_EQ(other.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawn.Drawing(), &bounds,
+                                           nullptr, nullptr, 0),
             S_OK);
+  ExpectSame(seen, drawn);
+}
 
-  const auto expected = seen.Pixels();
-  const auto actual = drawn.Pixels();
-  EXPECT_GT(std::count(actual.begin(), actual.end(), 0U), 1000);  // the letters
-  std::size_t different = 0;
-  for (std::size_t i = 0; i < actual.size(); ++i) different += actual[i] != expected[i];
-  EXPECT_EQ(different, 0U);
-  if (different != 0) {
-    seen.Write("seen.ppm");
-    drawn.Write("drawn.ppm");
+TEST_F(LookTest, LooksTheSameAfterTheFocusWentThroughIt) {
+  const Paper before;
+  Take(before);
+  window_.Place()->Enter(nullptr);
+  while (::GetFocus() != window_.Note()) {
+    MSG tab{};
+    tab.hwnd = ::GetFocus();
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    tab.lParam = 1;
+    window_.Dispatch(tab);
+    Pump();
   }
-  EXPECT_TRUE(window.Close());
+  const Paper after;
+  Take(after);
+  ExpectSame(before, after);
 }
 
 }  // namespace
