@@ -1,14 +1,15 @@
 // What keeps the library in memory, and that nothing does when its objects are gone.
 
-#include <gtest/gtest.h>
+#include <algorithm>
+#include <array>
+#include <cstdio>
 
-#include "component/automation/ComPtr.h"
-#include "component/idl/Interfaces.h"
+#include "tests/component/library/ComponentTest.h"
+
+#include <malloc.h>
 
 namespace brivane::component {
 namespace {
-
-bool IsLoaded() { return GetModuleHandleW(L"BrivaneVrijeKolom.dll") != nullptr; }
 
 HRESULT CanUnloadNow() {
   using Function = HRESULT(WINAPI*)();
@@ -17,35 +18,24 @@ HRESULT CanUnloadNow() {
   return function ? function() : E_FAIL;
 }
 
-class LifetimeTest : public testing::Test {
- protected:
-  LifetimeTest() { OleInitialize(nullptr); }
-  ~LifetimeTest() override { OleUninitialize(); }
-
-  static ComPtr<IUnknown> Create(const CLSID& id) {
-    ComPtr<IUnknown> object;
-    EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object.Put())), S_OK);
-    return object;
-  }
-  static void FreeUnused() { CoFreeUnusedLibrariesEx(0, 0); }
-};
+using LifetimeTest = ComponentTest;
 
 TEST_F(LifetimeTest, EachClassKeepsTheLibraryAndLetsItGo) {
   for (const CLSID& id : {CLSID_VrijeKolom, CLSID_Toelichting, CLSID_frmScenario}) {
-    ComPtr<IUnknown> object = Create(id);
-    FreeUnused();
+    auto object = Create<IUnknown>(id);
+    Unload();
     ASSERT_TRUE(IsLoaded());
     EXPECT_EQ(CanUnloadNow(), S_FALSE);
     object.Reset();
     EXPECT_EQ(CanUnloadNow(), S_OK);
-    FreeUnused();
+    Unload();
     EXPECT_FALSE(IsLoaded());
   }
 }
 
 TEST_F(LifetimeTest, AnObjectThatDescribedItselfLetsGoToo) {
   {
-    const auto object = Create(CLSID_VrijeKolom).As<IDispatch>();
+    const auto object = Create<IDispatch>(CLSID_VrijeKolom);
     wchar_t text[] = L"BackColor";
     wchar_t* name = text;
     DISPID id = 0;
@@ -53,8 +43,162 @@ TEST_F(LifetimeTest, AnObjectThatDescribedItselfLetsGoToo) {
     EXPECT_EQ(id, DISPID_BACKCOLOR);
   }
   EXPECT_EQ(CanUnloadNow(), S_OK);
-  FreeUnused();
+}
+
+TEST_F(LifetimeTest, AFactoryAndItsLocksKeepTheLibrary) {
+  ComPtr<IClassFactory> factory;
+  ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
+  EXPECT_EQ(CanUnloadNow(), S_FALSE);
+  factory->LockServer(TRUE);
+  factory.Reset();
+  EXPECT_EQ(CanUnloadNow(), S_FALSE);
+  ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
+  factory->LockServer(FALSE);
+  factory.Reset();
+  EXPECT_EQ(CanUnloadNow(), S_OK);
+}
+
+TEST_F(LifetimeTest, WhatIsHandedOutKeepsItsObject) {
+  auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IToelichting> embedded;
+  ASSERT_EQ(editor->get_Toelichting(embedded.Put()), S_OK);
+  auto door = DoorOf(editor);
+  editor.Reset();
+  LONG color = 0;
+  EXPECT_EQ(embedded->get_BackColor(&color), S_OK);
+  EXPECT_EQ(color, -2147483633);
+  embedded.Reset();
+  EXPECT_EQ(CanUnloadNow(), S_FALSE);
+  door.Reset();
+  EXPECT_EQ(CanUnloadNow(), S_OK);
+}
+
+/// Lets go of the editor as soon as it tells anything.
+class Dropper final : public IDispatch {
+ public:
+  ComPtr<IVrijeKolom> editor;
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    *out = iid == IID_IUnknown || iid == IID_IDispatch ? this : nullptr;
+    return *out ? S_OK : E_NOINTERFACE;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+    editor.Reset();
+    return S_OK;
+  }
+};
+
+TEST_F(LifetimeTest, AnEditorThatIsLetGoByItsOwnEventEndsAfterIt) {
+  FakeHost host;
+  Dropper dropper;
+  dropper.editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IConnectionPoint> point;
+  dropper.editor.As<IConnectionPointContainer>()->FindConnectionPoint(DIID_DVrijeKolomEvents, point.Put());
+  DWORD cookie = 0;
+  ASSERT_EQ(point->Advise(&dropper, &cookie), S_OK);
+  point.Reset();
+  // The binding lays the editor out and tells of its height: the only reference goes while it is still at work.
+  IVrijeKolom* const bare = dropper.editor.Get();
+  EXPECT_EQ(bare->SetApplication(host.application.Get(), 0, 1), S_OK);
+  EXPECT_FALSE(dropper.editor);
+  Unload();
   EXPECT_FALSE(IsLoaded());
+}
+
+/// What the process holds. The system's own counters of handles are not to be had under Wine.
+struct Use {
+  long long bytes;  ///< taken from the heap
+  int gdi;          ///< the highest place in the table of drawing objects that 64 new ones get
+  int windows;
+};
+
+long long HeapBytes() {
+  const auto heap = reinterpret_cast<HANDLE>(_get_heap_handle());
+  long long bytes = 0;
+  PROCESS_HEAP_ENTRY entry{};
+  HeapLock(heap);
+  while (HeapWalk(heap, &entry))
+    if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+  HeapUnlock(heap);
+  return bytes;
+}
+
+int HighestGdiPlace() {
+  std::array<HPEN, 64> pens{};
+  int highest = 0;
+  for (HPEN& pen : pens) {
+    pen = CreatePen(PS_SOLID, 1, 0);
+    highest = std::max(highest, static_cast<int>(LOWORD(reinterpret_cast<DWORD_PTR>(pen))));
+  }
+  for (const HPEN pen : pens) DeleteObject(pen);
+  return highest;
+}
+
+int OwnWindows() {
+  int count = 0;
+  const auto countIn = [&](HWND parent) {
+    for (HWND child = FindWindowExW(parent, nullptr, nullptr, nullptr); child;
+         child = FindWindowExW(parent, child, nullptr, nullptr)) {
+      DWORD process = 0;
+      GetWindowThreadProcessId(child, &process);
+      if (process != GetCurrentProcessId()) continue;
+      ++count;
+      EnumChildWindows(
+          child,
+          [](HWND, LPARAM counter) -> BOOL {
+            ++*reinterpret_cast<int*>(counter);
+            return TRUE;
+          },
+          reinterpret_cast<LPARAM>(&count));
+    }
+  };
+  countIn(nullptr);
+  countIn(HWND_MESSAGE);
+  return count;
+}
+
+Use UseNow() { return {HeapBytes(), HighestGdiPlace(), OwnWindows()}; }
+
+TEST_F(LifetimeTest, AHundredEditorsLeaveMemoryAndHandlesAsTheyWere) {
+  const auto run = [] {
+    FakeHost host;
+    const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+    EXPECT_EQ(editor->SetApplication(host.application.Get(), 0, 1), S_OK);
+    EXPECT_EQ(Perform(DoorOf(editor), L"TxtOm", L"enter", Variant("Vereniging")), 0);
+    EXPECT_EQ(As<std::string>(host.kolom->members.at(L"Omschrijving")({})), "Vereniging");
+    EXPECT_EQ(editor->SetApplication(nullptr, 0, 0), S_OK);
+    EXPECT_EQ(host.reports, 0);
+  };
+  const auto keeper = Create<IUnknown>(CLSID_frmScenario);  // the library stays loaded throughout
+  for (int i = 0; i < 10; ++i) run();
+  Unload();
+  const Use before = UseNow();
+  for (int i = 0; i < 100; ++i) run();
+  Unload();
+  const Use after = UseNow();
+  std::printf("after 100 editors: %+lld bytes of %lld, %+d drawing objects, %+d windows\n", after.bytes - before.bytes,
+              before.bytes, after.gdi - before.gdi, after.windows - before.windows);
+  EXPECT_EQ(after.windows, before.windows);
+  EXPECT_LE(after.gdi, before.gdi);
+  // Less than a hundred bytes for each: no object of an editor stayed behind.
+  EXPECT_LT(after.bytes - before.bytes, 100 * 100);
+}
+
+TEST_F(LifetimeTest, TheMeasuresShowWhatIsKept) {
+  const Use before = UseNow();
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  std::array<HPEN, 100> pens{};
+  for (HPEN& pen : pens) pen = CreatePen(PS_SOLID, 1, 0);
+  const Use with = UseNow();
+  for (const HPEN pen : pens) DeleteObject(pen);
+  EXPECT_GT(with.windows, before.windows + 50);
+  EXPECT_GE(with.gdi, before.gdi + 100);
+  EXPECT_GT(with.bytes, before.bytes + 20000);
 }
 
 }  // namespace
