@@ -27,19 +27,24 @@ Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const s
   RECT text{0, 0, std::max<LONG>(toolkit.Edge().Designed(80), room.right - 2 * gap - around), 0};
   const HDC context = GetDC(Handle());
   const HGDIOBJ before = SelectObject(context, font);
-  DrawTextW(context, reason.c_str(), -1, &text, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  const int height = DrawTextW(context, reason.c_str(), -1, &text, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(context, &metrics);
   SelectObject(context, before);
   ReleaseDC(Handle(), context);
+  // One line stands in the middle, so that it keeps from the border.
+  if (height < 2 * metrics.tmHeight)
+    SetWindowLongPtrW(Handle(), GWL_STYLE, GetWindowLongPtrW(Handle(), GWL_STYLE) | SS_CENTER);
 
   RECT place{};
   GetWindowRect(box, &place);
   MapWindowPoints(nullptr, area, reinterpret_cast<POINT*>(&place), 2);
   const LONG width = text.right + around;
-  const LONG height = text.bottom + 2 * GetSystemMetrics(SM_CYBORDER);
+  const LONG outerHeight = height + 2 * GetSystemMetrics(SM_CYBORDER);
   LONG top = place.bottom + gap;
-  if (top + height > room.bottom) top = place.top - gap - height;
+  if (top + outerHeight > room.bottom) top = place.top - gap - outerHeight;
   const LONG left = std::max<LONG>(gap, std::min<LONG>(place.left, room.right - width - gap));
-  SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(0, top), width, height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(0, top), width, outerHeight, SWP_NOACTIVATE | SWP_SHOWWINDOW);
   NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 

@@ -89,11 +89,16 @@ void CheckWindow::Refresh(Aspect aspect) {
     ControlWindow::Refresh(aspect);
 }
 
-/// A screen reader hears the text of a check box; one without a caption answers its name.
+/// A screen reader hears the text of a check box; one without a caption answers its name, but not to the class
+/// itself, which would draw it.
 LRESULT CheckWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  if (check_.Caption().empty())
+  if (check_.Caption().empty() && !busy_)
     if (const auto answer = AnswerText(std::string(check_.AccessibleName()), message, wParam, lParam)) return *answer;
-  return ButtonWindow::OnMessage(message, wParam, lParam);
+  const auto life = Life();
+  const bool before = std::exchange(busy_, true);
+  const LRESULT result = ButtonWindow::OnMessage(message, wParam, lParam);
+  if (!life.expired()) busy_ = before;
+  return result;
 }
 
 void CheckWindow::Choose() {

@@ -63,6 +63,7 @@ class CheckWindow final : public ButtonWindow {
 
  private:
   headless::CheckBox& check_;
+  bool busy_ = false;  ///< handling a message
 };
 
 }  // namespace brivane::win32

@@ -1,5 +1,7 @@
 #include "toolkits/win32/DateWindow.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 
 #include "toolkits/entry/Dates.h"
@@ -11,85 +13,58 @@ namespace brivane::win32 {
 namespace {
 
 constexpr int kButtonWidth = 17;
+/// Of the sheet of a calendar that is drawn on it.
+constexpr int kSheetWidth = 12;
+constexpr int kSheetHeight = 11;
 
 }  // namespace
 
-/// The button in the box: a sheet of a calendar.
-class DateWindow::DropButton final : public Window {
- public:
-  explicit DropButton(DateWindow& box)
-      : Window(box.Toolkit(), {.className = kDropClass, .style = WS_CHILD | WS_VISIBLE, .text = L"Kalender"},
-               box.Handle()),
-        box_(box) {}
-
- protected:
-  LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-    switch (message) {
-      case WM_LBUTTONDOWN:
-      case WM_LBUTTONDBLCLK: Press(); return 0;
-      case WM_PAINT:
-      case WM_PRINTCLIENT: Paint(Drawing(Handle(), message, wParam).Context()); return 0;
-      default: return Window::OnMessage(message, wParam, lParam);
-    }
-  }
-
- private:
-  void Press() {
-    const auto life = Life();
-    if (!Toolkit().LeaveBox(box_) || life.expired()) return;
-    if (box_.CalendarShown() != nullptr)
-      box_.CloseCalendar();
-    else
-      box_.OpenCalendar();
-  }
-
-  void Paint(HDC context) const {
-    RECT area{};
-    GetClientRect(Handle(), &area);
-    const bool open = IsWindowEnabled(box_.Handle()) != FALSE && !box_.IsReadOnly();
-    FillRect(context, &area, GetSysColorBrush(open ? COLOR_WINDOW : COLOR_BTNFACE));
-    const HBRUSH ink = GetSysColorBrush(open ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
-    const auto part = [&](int left, int top, int width, int height) {
-      const win32::Edge& edge = Toolkit().Edge();
-      const LONG x = (area.right - edge.Designed(12)) / 2;
-      const LONG y = (area.bottom - edge.Designed(11)) / 2;
-      const RECT rect{x + edge.Designed(left), y + edge.Designed(top), x + edge.Designed(left + width),
-                      y + edge.Designed(top + height)};
-      FillRect(context, &rect, ink);
-    };
-    part(0, 0, 12, 3);
-    part(0, 0, 1, 11);
-    part(11, 0, 1, 11);
-    part(0, 10, 12, 1);
-    for (int row = 0; row < 2; ++row)
-      for (int day = 0; day < 3; ++day) part(2 + 3 * day, 5 + 3 * row, 2, 2);
-  }
-
-  DateWindow& box_;
-};
-
-DateWindow::DateWindow(headless::TextBox& box, win32::Toolkit& toolkit)
-    : BoxWindow(box, toolkit), button_(std::make_unique<DropButton>(*this)) {}
+DateWindow::DateWindow(headless::TextBox& box, win32::Toolkit& toolkit) : BoxWindow(box, toolkit) {
+  // The frame was measured before there was anyone to make room in it.
+  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
 
 DateWindow::~DateWindow() = default;
 
-void DateWindow::ShowPlace() {
-  BoxWindow::ShowPlace();
-  PlaceButton();
+RECT DateWindow::ButtonPlace() const {
+  RECT window{};
+  GetWindowRect(Handle(), &window);
+  const LONG across = GetSystemMetrics(SM_CXEDGE);
+  const LONG along = GetSystemMetrics(SM_CYEDGE);
+  const LONG right = WidthOf(window) - across;
+  return {std::max(across, right - Toolkit().Edge().Designed(kButtonWidth)), along, right, HeightOf(window) - along};
 }
 
-void DateWindow::ShowFont() {
-  BoxWindow::ShowFont();
-  PlaceButton();
+void DateWindow::PaintButton() const {
+  const RECT place = ButtonPlace();
+  const bool open = IsWindowEnabled(Handle()) != FALSE && !IsReadOnly();
+  const HDC context = GetWindowDC(Handle());
+  FillRect(context, &place, GetSysColorBrush(open ? COLOR_WINDOW : COLOR_BTNFACE));
+  const HBRUSH ink = GetSysColorBrush(open ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
+  const win32::Edge& edge = Toolkit().Edge();
+  const LONG x = place.left + (WidthOf(place) - edge.Designed(kSheetWidth)) / 2;
+  const LONG y = place.top + (HeightOf(place) - edge.Designed(kSheetHeight)) / 2;
+  const auto fill = [&](int left, int top, int width, int height) {
+    const RECT part{x + edge.Designed(left), y + edge.Designed(top), x + edge.Designed(left + width),
+                    y + edge.Designed(top + height)};
+    FillRect(context, &part, ink);
+  };
+  fill(0, 0, kSheetWidth, 3);
+  fill(0, 0, 1, kSheetHeight);
+  fill(kSheetWidth - 1, 0, 1, kSheetHeight);
+  fill(0, kSheetHeight - 1, kSheetWidth, 1);
+  for (int row = 0; row < 2; ++row)
+    for (int day = 0; day < 3; ++day) fill(2 + 3 * day, 5 + 3 * row, 2, 2);
+  ReleaseDC(Handle(), context);
 }
 
-void DateWindow::PlaceButton() {
-  if (!button_) return;
-  RECT area{};
-  GetClientRect(Handle(), &area);
-  const int width = std::min<int>(Toolkit().Edge().Designed(kButtonWidth), area.right);
-  SetWindowPos(button_->Handle(), nullptr, area.right - width, 0, width, area.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
-  SendMessageW(Handle(), EM_SETMARGINS, EC_RIGHTMARGIN, MAKELPARAM(0, width));
+void DateWindow::PressButton() {
+  const auto life = Life();
+  if (!Toolkit().LeaveBox(*this) || life.expired()) return;
+  if (calendar_)
+    CloseCalendar();
+  else
+    OpenCalendar();
 }
 
 HWND DateWindow::CalendarShown() const { return calendar_ ? calendar_->Handle() : nullptr; }
@@ -133,15 +108,43 @@ bool DateWindow::OnKey(WPARAM key) {
 }
 
 LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto gaining = reinterpret_cast<HWND>(wParam);
-  if (message == WM_KILLFOCUS && calendar_ && IsChild(calendar_->Handle(), gaining) == FALSE) CloseCalendar();
-  const auto life = Life();
-  const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
-  if (life.expired()) return result;
-  // The edit control draws over what stands in it.
-  const bool draws = message == WM_PAINT || message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE;
-  if (draws && button_) InvalidateRect(button_->Handle(), nullptr, FALSE);
-  return result;
+  switch (message) {
+    case WM_KILLFOCUS:
+      if (calendar_ && IsChild(calendar_->Handle(), reinterpret_cast<HWND>(wParam)) == FALSE) CloseCalendar();
+      break;
+    case WM_NCCALCSIZE: {
+      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
+      RECT& inside = *reinterpret_cast<RECT*>(lParam);  // also the first of the structure
+      inside.right = std::max(inside.left, inside.right - Toolkit().Edge().Designed(kButtonWidth));
+      return result;
+    }
+    case WM_NCPAINT: {
+      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
+      PaintButton();
+      return result;
+    }
+    case WM_NCHITTEST: {
+      RECT button = ButtonPlace();
+      RECT window{};
+      GetWindowRect(Handle(), &window);
+      OffsetRect(&button, window.left, window.top);
+      if (PtInRect(&button, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) != FALSE) return HTOBJECT;
+      break;
+    }
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK:
+      if (wParam != HTOBJECT) break;
+      PressButton();
+      return 0;
+    case WM_ENABLE:
+    case EM_SETREADONLY: {
+      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
+      RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+      return result;
+    }
+    default: break;
+  }
+  return BoxWindow::OnMessage(message, wParam, lParam);
 }
 
 }  // namespace brivane::win32

@@ -24,15 +24,13 @@ class DateWindow final : public BoxWindow {
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool OnKey(WPARAM key) override;
-  void ShowPlace() override;
-  void ShowFont() override;
 
  private:
-  class DropButton;
+  /// The button lies in the frame of the box, where the edit control never draws. In pixels of the window.
+  [[nodiscard]] RECT ButtonPlace() const;
+  void PaintButton() const;
+  void PressButton();
 
-  void PlaceButton();
-
-  std::unique_ptr<DropButton> button_;
   std::unique_ptr<Calendar> calendar_;
 };
 

@@ -14,10 +14,15 @@ namespace {
 /// answer "Nee".
 class DutchButtons {
  public:
-  DutchButtons() : hook_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())) {}
+  DutchButtons()
+      : activated_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())),
+        filtered_(SetWindowsHookExW(WH_MSGFILTER, &Filtered, nullptr, GetCurrentThreadId())) {}
   DutchButtons(const DutchButtons&) = delete;
   DutchButtons& operator=(const DutchButtons&) = delete;
-  ~DutchButtons() { UnhookWindowsHookEx(hook_); }
+  ~DutchButtons() {
+    UnhookWindowsHookEx(filtered_);
+    UnhookWindowsHookEx(activated_);
+  }
 
  private:
   static LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM info) {
@@ -31,7 +36,20 @@ class DutchButtons {
     return CallNextHookEx(nullptr, code, window, info);
   }
 
-  HHOOK hook_;
+  static LRESULT CALLBACK Filtered(int code, WPARAM unused, LPARAM info) {
+    const auto& message = *reinterpret_cast<const MSG*>(info);
+    if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+      const HWND box = GetAncestor(message.hwnd, GA_ROOT);
+      if (GetDlgItem(box, IDNO) != nullptr) {
+        PostMessageW(box, WM_COMMAND, IDNO, 0);
+        return 1;
+      }
+    }
+    return CallNextHookEx(nullptr, code, unused, info);
+  }
+
+  HHOOK activated_;
+  HHOOK filtered_;
 };
 
 std::wstring ProgramName() {

@@ -32,7 +32,8 @@ FrameWindow::FrameWindow(headless::Frame& frame, win32::Toolkit& toolkit)
 void FrameWindow::Refresh(Aspect aspect) {
   if (aspect != Aspect::Caption) return ControlWindow::Refresh(aspect);
   // The class draws a caption in a place exactly as wide as it measures, and may cut the last letter.
-  SetText(headless::MarkedCaption(frame_.Row(), frame_.Caption()) + ' ');
+  const std::string marked = headless::MarkedCaption(frame_.Row(), frame_.Caption());
+  SetText(marked.empty() ? marked : marked + ' ');
 }
 
 LabelWindow::LabelWindow(headless::Label& label, win32::Toolkit& toolkit)

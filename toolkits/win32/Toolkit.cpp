@@ -57,7 +57,7 @@ void RegisterClasses(HINSTANCE module) {
   entry.lpfnWndProc = DefWindowProcW;
   entry.hInstance = module;
   entry.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));
-  for (const wchar_t* name : {kAreaClass, kFormClass, kDropClass}) {
+  for (const wchar_t* name : {kAreaClass, kFormClass}) {
     entry.lpszClassName = name;
     RegisterClassExW(&entry);  // fails where an earlier toolkit did it
   }

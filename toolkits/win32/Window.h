@@ -18,10 +18,9 @@ struct Making {
   std::wstring text = {};
 };
 
-/// Names of the window classes of our own: areas that hold controls, forms, and what lies beside a box.
+/// Names of the window classes of our own: areas that hold controls, and forms.
 inline constexpr wchar_t kAreaClass[] = L"BrivaneVlak";
 inline constexpr wchar_t kFormClass[] = L"BrivaneFormulier";
-inline constexpr wchar_t kDropClass[] = L"BrivaneKalenderknop";
 
 /// What a window draws on while it answers WM_PAINT, or WM_PRINTCLIENT where somebody wants a picture of it.
 class Drawing {

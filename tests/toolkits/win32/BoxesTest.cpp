@@ -287,7 +287,7 @@ class Dates : public Boxes {
   [[nodiscard]] POINT Button() {
     RECT area{};
     GetClientRect(WindowOf("txtDatum"), &area);
-    return {area.right - 8, area.bottom / 2};
+    return {area.right + 8, area.bottom / 2};
   }
 };
 

@@ -44,7 +44,13 @@ TEST(Win32Desktop, AQuestionHasDutchButtons) {
   ASSERT_EQ(seen.size(), 4U);
   EXPECT_EQ(seen[2], L"&Ja");
   EXPECT_EQ(seen[3], L"&Nee");
-  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, VK_RETURN), host::MessageAnswer::Yes);
+}
+
+TEST(Win32Desktop, AQuestionIsAnsweredByItsLettersAndEscapeIsNo) {
+  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, VK_ESCAPE), host::MessageAnswer::No);
+  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, 'J'), host::MessageAnswer::Yes);
+  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, 'N'), host::MessageAnswer::No);
+  EXPECT_EQ(Answer(host::MessageStyle::OkExclamation, VK_ESCAPE), host::MessageAnswer::Ok);
 }
 
 TEST(Win32Desktop, TheListenersStandInForAPerson) {

@@ -59,6 +59,29 @@ class Pictures {
     return Write(std::string(NameOf(state)), stage_.Window());
   }
 
+  /// What comes up while a person works: a refusal, the calendar, a dropped list and help.
+  bool TakeInUse() {
+    EditorScene scene(toolkit_, EditorState::Transition);
+    stage_.Show(scene.Surface());
+    const auto window = [&](std::string_view name) {
+      return Shown(*headless::Surface::Of(scene.Surface()).Find(name)).Handle();
+    };
+    Click(window("TxtBd"), {8, 8});
+    TypeOver(L"12.50");
+    Press(VK_TAB);
+    bool written = Write("in-gebruik-weigering", stage_.Window());
+    Press(VK_ESCAPE);
+    Click(window("TxtDtAanvang"), {8, 8});
+    Press(VK_F4);
+    written = Write("in-gebruik-kalender", stage_.Window()) && written;
+    Press(VK_ESCAPE);
+    Click(window("cboTermijn"));
+    written = Write("in-gebruik-lijst", stage_.Window()) && written;
+    Press(VK_ESCAPE);
+    Click(window("Toelichting.HintLangleven"));
+    return Write("in-gebruik-hulp", stage_.Window()) && written;
+  }
+
   bool Take(FormState state) {
     bool written = false;
     toolkit_.modal = [&](headless::Form& form) {
@@ -105,5 +128,6 @@ int main(int argc, char** argv) {
   for (const FormState state :
        {FormState::Amounts, FormState::PercentagesAndDiscount, FormState::Growth, FormState::Bridging})
     written = pictures.Take(state) && written;
+  written = pictures.TakeInUse() && written;
   return written ? 0 : 1;
 }
