@@ -38,7 +38,10 @@ if(parts GREATER 1)
 endif()
 
 install(DIRECTORY host frame toelichting scenario vrijekolom toolkits DESTINATION include/brivane
-        FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE)
+        FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE PATTERN "toolkits/win32" EXCLUDE)
+if(WIN32)
+  install(DIRECTORY toolkits/win32 DESTINATION include/brivane/toolkits FILES_MATCHING PATTERN "*.h")
+endif()
 if(parts GREATER 1)
   install(DIRECTORY toolkits/qt DESTINATION include/brivane/toolkits FILES_MATCHING PATTERN "*.h")
 endif()

@@ -342,6 +342,10 @@ TEST_F(ScenarioForm, EightyRowsShowToThePixelWhatTheControlsHold) {
         const auto opened = std::chrono::steady_clock::now();
         RecordProperty("milliseconds_to_open",
                        static_cast<int>(std::chrono::duration_cast<std::chrono::milliseconds>(opened - begin).count()));
+        int windows = 0;
+        const auto count = [](HWND, LPARAM counted) -> BOOL { return ++*reinterpret_cast<int*>(counted), TRUE; };
+        EnumChildWindows(window_, count, reinterpret_cast<LPARAM>(&windows));
+        RecordProperty("windows", windows);
         const auto held = headless::DumpAll(Form());
         const auto shown = win32::DumpShown(Form(), toolkit_);
         ASSERT_EQ(shown.size(), held.size());
