@@ -136,6 +136,10 @@ STDMETHODIMP Site::Invoke(DISPID property, REFIID, LCID, WORD, DISPPARAMS*, VARI
       result->vt = VT_I4;
       result->lVal = static_cast<LONG>(backColor);
       return S_OK;
+    case DISPID_AMBIENT_FONT:
+      if (!font) return DISP_E_MEMBERNOTFOUND;
+      result->vt = VT_DISPATCH;
+      return font.CopyTo(&result->pdispVal);
     case DISPID_AMBIENT_USERMODE:
       result->vt = VT_BOOL;
       result->boolVal = VARIANT_TRUE;

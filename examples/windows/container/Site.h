@@ -57,6 +57,8 @@ class Site final : public IOleClientSite,
   /// Tab leaves the control.
   std::function<void(Leaving)> left;
   COLORREF backColor = ::GetSysColor(COLOR_BTNFACE);
+  /// The font of the window's text (IFontDisp), where the control is to go along with it.
+  ComPtr<IDispatch> font;
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override;
   STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }

@@ -1,6 +1,7 @@
 // The example's window with the library's own editor in it.
 
 #include <gtest/gtest.h>
+#include <olectl.h>
 
 #include <cstdio>
 #include <optional>
@@ -26,24 +27,27 @@ SIZE SizeOf(HWND window) {
   return {rect.right - rect.left, rect.bottom - rect.top};
 }
 
-/// An edit box by what stands in it.
-HWND BoxWith(HWND parent, const std::wstring& text) {
+/// A control of a kind by its text.
+HWND Find(HWND parent, const wchar_t* kind, const std::wstring& text) {
   struct Search {
+    const wchar_t* kind;
     const std::wstring& text;
     HWND found = nullptr;
-  } search{text};
+  } search{kind, text};
   ::EnumChildWindows(
       parent,
       [](HWND window, LPARAM data) -> BOOL {
         auto& wanted = *reinterpret_cast<Search*>(data);
-        wchar_t kind[32]{};
-        ::GetClassNameW(window, kind, 32);
-        if (::lstrcmpiW(kind, L"Edit") == 0 && TextOf(window) == wanted.text) wanted.found = window;
+        wchar_t name[32]{};
+        ::GetClassNameW(window, name, 32);
+        if (::lstrcmpiW(name, wanted.kind) == 0 && TextOf(window) == wanted.text) wanted.found = window;
         return wanted.found == nullptr;
       },
       reinterpret_cast<LPARAM>(&search));
   return search.found;
 }
+HWND BoxWith(HWND parent, const std::wstring& text) { return Find(parent, L"Edit", text); }
+HWND ButtonWith(HWND parent, const std::wstring& text) { return Find(parent, L"Button", text); }
 
 class EditorTest : public ::testing::Test {
  protected:
@@ -190,6 +194,22 @@ TEST_F(EditorTest, FollowsTheWidthOfTheWindow) {
   EXPECT_EQ(SizeOf(Frame()).cy, height);
 }
 
+TEST_F(EditorTest, GrowsWithLargerTextOfTheWindowAlone) {
+  const auto tell = [&](long points) {
+    wchar_t name[] = L"Arial";
+    FONTDESC font{};
+    font.cbSizeofstruct = sizeof font;
+    font.lpstrName = name;
+    font.cySize.int64 = points * 10000LL;
+    ::OleCreateFontIndirect(&font, IID_IDispatch, reinterpret_cast<void**>(window_->Place()->font.Put()));
+    window_->Place()->Control().As<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_FONT);
+  };
+  tell(18);  // twice the design's 9 points
+  EXPECT_EQ(SizeOf(Frame()).cy, 922);
+  tell(8);
+  EXPECT_EQ(SizeOf(Frame()).cy, 461);
+}
+
 TEST_F(EditorTest, AColourOfTheHostsIsKeptWithTheForm) {
   const auto editor = window_->Editor();
   EXPECT_EQ(editor->put_BackColor(0x00C8FFC8), S_OK);
@@ -218,10 +238,31 @@ TEST_F(EditorTest, MayBeClosedByTheHostWhileItTellsAnEvent) {
   Type(L"X");
   Key(WM_KEYDOWN, VK_RETURN);
   EXPECT_TRUE(closed);
-  window_.reset();
-  Pump();
-  application_->AddRef();
-  EXPECT_EQ(application_->Release(), 1U);
+  Shut();
+}
+
+TEST_F(EditorTest, MayBeClosedByTheHostWhileTheYearByYearFormIsOpen) {
+  struct Closing {
+    voorbeeld::MainWindow& window;
+    bool formSeen = false;
+    bool closed = false;
+  };
+  static Closing* closing = nullptr;
+  Closing now{*window_};
+  closing = &now;
+  const UINT_PTR timer = ::SetTimer(nullptr, 0, 200, [](HWND, UINT, UINT_PTR, DWORD) {
+    const HWND form = ::FindWindowW(L"BrivaneFormulier", nullptr);
+    if (!form) return;
+    closing->formSeen = true;
+    if (!closing->closed) closing->closed = closing->window.Close();
+    ::PostMessageW(form, WM_CLOSE, 0, 0);
+  });
+  ::SendMessageW(ButtonWith(Frame(), L"&Scenario invullen"), BM_CLICK, 0, 0);
+  ::KillTimer(nullptr, timer);
+  EXPECT_TRUE(now.formSeen);
+  EXPECT_TRUE(now.closed);
+  EXPECT_EQ(::FindWindowW(L"BrivaneFormulier", nullptr), nullptr);
+  Shut();
 }
 
 TEST_F(EditorTest, LosesNothingInAHundredTimesOpenedTypedInAndClosed) {
