@@ -15,7 +15,7 @@ endfunction()
 
 # brivane_test(NAME LIBS libs... SOURCES sources... [SLOW]): a GoogleTest program, one ctest entry for each test case.
 # SLOW: more than a few seconds; `./test --quick` leaves it out. Cross-built, a program is one entry: Wine takes a
-# second to start one.
+# second to start one. Those of a folder that sets `windows_test_lock` run one at a time.
 function(brivane_test name)
   cmake_parse_arguments(arg "SLOW" "" "LIBS;SOURCES" ${ARGN})
   set(properties ENVIRONMENT QT_QPA_PLATFORM=offscreen)
@@ -28,6 +28,9 @@ function(brivane_test name)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME windows.${name} COMMAND ${name})
     list(APPEND properties TIMEOUT 300)
+    if(windows_test_lock)
+      list(APPEND properties RESOURCE_LOCK ${windows_test_lock})
+    endif()
     set_tests_properties(windows.${name} PROPERTIES ${properties})
     return()
   endif()

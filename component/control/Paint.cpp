@@ -61,6 +61,14 @@ void PaintEdge(HWND window, HDC target, RECT whole) {
   }
 }
 
+/// What a window of ours has in its edge.
+void PaintInEdge(HWND window, HDC target, POINT corner) {
+  const int saved = ::SaveDC(target);
+  ::OffsetViewportOrgEx(target, corner.x, corner.y, nullptr);
+  ::SendMessageW(window, WM_PRINT, reinterpret_cast<WPARAM>(target), PRF_NONCLIENT);
+  ::RestoreDC(target, saved);
+}
+
 void PaintAt(HWND window, HDC target, POINT corner);
 
 /// The windows on a window, the lowest first.
@@ -82,6 +90,7 @@ void PaintChildren(HWND window, HDC target) {
 void PaintAt(HWND window, HDC target, POINT corner) {
   const SIZE size = SizeOfWindow(window);
   PaintEdge(window, target, {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy});
+  PaintInEdge(window, target, corner);
 
   RECT place{};
   ::GetWindowRect(window, &place);

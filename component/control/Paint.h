@@ -9,7 +9,8 @@ namespace brivane::component {
 [[nodiscard]] COLORREF ScreenColor(host::Color color);
 
 /// Draws a window with everything on it as it looks on the screen, also where it is not on the screen, stretched over
-/// `bounds`. Its windows draw themselves on WM_ERASEBKGND and WM_PRINTCLIENT.
+/// `bounds`. Its windows draw themselves on WM_ERASEBKGND and WM_PRINTCLIENT, and on WM_PRINT what stands in their
+/// edge.
 HRESULT PaintWindow(HWND window, COLORREF background, HDC target, const RECT& bounds);
 
 }  // namespace brivane::component

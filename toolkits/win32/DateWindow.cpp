@@ -35,10 +35,9 @@ RECT DateWindow::ButtonPlace() const {
   return {std::max(across, right - Toolkit().Edge().Designed(kButtonWidth)), along, right, HeightOf(window) - along};
 }
 
-void DateWindow::PaintButton() const {
+void DateWindow::PaintButton(HDC context) const {
   const RECT place = ButtonPlace();
   const bool open = IsWindowEnabled(Handle()) != FALSE && !IsReadOnly();
-  const HDC context = GetWindowDC(Handle());
   FillRect(context, &place, GetSysColorBrush(open ? COLOR_WINDOW : COLOR_BTNFACE));
   const HBRUSH ink = GetSysColorBrush(open ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
   const win32::Edge& edge = Toolkit().Edge();
@@ -55,7 +54,6 @@ void DateWindow::PaintButton() const {
   fill(0, kSheetHeight - 1, kSheetWidth, 1);
   for (int row = 0; row < 2; ++row)
     for (int day = 0; day < 3; ++day) fill(2 + 3 * day, 5 + 3 * row, 2, 2);
-  ReleaseDC(Handle(), context);
 }
 
 void DateWindow::PressButton() {
@@ -120,7 +118,14 @@ LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_NCPAINT: {
       const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
-      PaintButton();
+      const HDC context = GetWindowDC(Handle());
+      PaintButton(context);
+      ReleaseDC(Handle(), context);
+      return result;
+    }
+    case WM_PRINT: {
+      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
+      if ((lParam & PRF_NONCLIENT) != 0) PaintButton(reinterpret_cast<HDC>(wParam));
       return result;
     }
     case WM_NCHITTEST: {

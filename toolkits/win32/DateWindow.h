@@ -28,7 +28,7 @@ class DateWindow final : public BoxWindow {
  private:
   /// The button lies in the frame of the box, where the edit control never draws. In pixels of the window.
   [[nodiscard]] RECT ButtonPlace() const;
-  void PaintButton() const;
+  void PaintButton(HDC context) const;
   void PressButton();
 
   std::unique_ptr<Calendar> calendar_;

@@ -133,6 +133,21 @@ TEST_F(Lists, PickWhenTheDroppedListIsLeftByEnterAndNothingByEscape) {
   EXPECT_EQ(Focused(), "cboTermijn");
 }
 
+TEST_F(Lists, PickTheEntryThatIsClickedAndNothingByAClickElsewhere) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  ASSERT_TRUE(GetComboBoxInfo(WindowOf("cboTermijn"), &info));
+  const auto row = static_cast<int>(SendMessageW(WindowOf("cboTermijn"), CB_GETITEMHEIGHT, 0, 0));
+  Click(WindowOf("cboTermijn"));
+  Click(info.hwndList, {10, row + row / 2});
+  EXPECT_THAT(log_, ElementsAre("per kwartaal"));
+  Click(WindowOf("cboTermijn"));
+  MoveTo(info.hwndList, {10, 2 * row + row / 2});
+  Click(WindowOf("txtNaam"));
+  EXPECT_THAT(log_, ElementsAre("per kwartaal"));
+  EXPECT_EQ(Shown(), 1);
+}
+
 TEST_F(Lists, KeepWhatStandsWhenABoxElsewhereRefuses) {
   list_.SetListIndex(0);
   Focus("txtBedrag");
