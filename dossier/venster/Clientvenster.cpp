@@ -78,7 +78,7 @@ QWidget* Clientvenster::MaakVelden(Persoonsvelden& velden, const QString& naam) 
   }
   velden.geboortedatum = new qt::DateBox;
   velden.geboortedatum->setAccessibleName(naam + QStringLiteral(", Geboortedatum"));
-  velden.geboortedatum->SetCommitter([this, vak = velden.geboortedatum](const QString&) -> qt::EntryBox::Verdict {
+  velden.geboortedatum->SetCommitter([vak = velden.geboortedatum](const QString&) -> qt::EntryBox::Verdict {
     const auto datum = LeesDatum(*vak);
     if (datum.IsRefused()) return {.accepted = false, .reason = QString::fromStdString(datum.Reason())};
     if (!datum.IsEmpty()) vak->setText(QString::fromStdString(entry::ShowDate(*datum)));
