@@ -8,9 +8,10 @@ namespace brivane::component {
 /// The type library that describes an interface.
 template <class Interface> inline constexpr module::Library kLibraryOf = module::Library::Public;
 
-/// A dual interface's late-bound half, done by its type information.
-template <class Interface> class Dispatching : public Interface {
+/// A dual interface's late-bound half, done by its type information, and the word that its failures leave an error record.
+template <class Interface> class Dispatching : public Interface, public ISupportErrorInfo {
  public:
+  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override { return iid == __uuidof(Interface) ? S_OK : S_FALSE; }
   STDMETHODIMP GetTypeInfoCount(UINT* count) override {
     if (!count) return E_POINTER;
     *count = 1;
@@ -41,6 +42,12 @@ template <class Interface> class Dispatching : public Interface {
 
  protected:
   ~Dispatching() = default;
+  /// The interface with that identity, not counted, or nothing. IUnknown is that of `Interface`.
+  [[nodiscard]] IUnknown* Own(REFIID iid) {
+    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface)) return static_cast<Interface*>(this);
+    if (iid == IID_ISupportErrorInfo) return static_cast<ISupportErrorInfo*>(this);
+    return nullptr;
+  }
   [[nodiscard]] static ComPtr<ITypeInfo> Described() {
     return module::TypeInfo(kLibraryOf<Interface>, __uuidof(Interface));
   }
@@ -51,9 +58,8 @@ template <class Interface> class DualObject : public Dispatching<Interface>, pri
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
-    *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != __uuidof(Interface)) return E_NOINTERFACE;
-    *out = static_cast<Interface*>(this);
+    *out = this->Own(iid);
+    if (!*out) return E_NOINTERFACE;
     AddRef();
     return S_OK;
   }

@@ -35,4 +35,14 @@ template <class Interface, class Body> [[nodiscard]] HRESULT Answering(Body&& bo
   }
 }
 
+/// Runs the body of a method that hands out a value, through Answering. A caller without a place for it gets E_POINTER,
+/// and after a failure the place is empty.
+///
+///     STDMETHODIMP get_BackColor(LONG* color) { return Handing<IVrijeKolom>(color, [&] { return ...; }); }
+template <class Interface, class Value, class Body> [[nodiscard]] HRESULT Handing(Value* place, Body&& body) noexcept {
+  if (!place) return E_POINTER;
+  *place = Value();
+  return Answering<Interface>([&] { *place = std::forward<Body>(body)(); });
+}
+
 }  // namespace brivane::component

@@ -19,27 +19,30 @@ class KeuzelijstLening::Keuzelijst final : public DualObject<IKeuzelijst> {
     return OnList([&](host::ListBox& lijst) { lijst.Add(FromBstr(tekst), itemData); });
   }
   STDMETHODIMP get_ListCount(LONG* aantal) override {
-    return OnList([&](host::ListBox& lijst) { *aantal = lijst.ListCount(); });
+    return OfList(aantal, [&](host::ListBox& lijst) { return lijst.ListCount(); });
   }
   STDMETHODIMP get_ListIndex(LONG* index) override {
-    return OnList([&](host::ListBox& lijst) { *index = lijst.ListIndex(); });
+    return OfList(index, [&](host::ListBox& lijst) { return lijst.ListIndex(); });
   }
   STDMETHODIMP put_ListIndex(LONG index) override {
     return OnList([&](host::ListBox& lijst) { lijst.SetListIndex(index); });
   }
   STDMETHODIMP get_ItemData(LONG index, LONG* data) override {
-    return OnList([&](host::ListBox& lijst) { *data = lijst.ItemData(index); });
+    return OfList(data, [&](host::ListBox& lijst) { return lijst.ItemData(index); });
   }
   STDMETHODIMP get_List(LONG index, BSTR* tekst) override {
-    return OnList([&](host::ListBox& lijst) { *tekst = NewBstr(lijst.List(index)); });
+    return OfList(tekst, [&](host::ListBox& lijst) { return NewBstr(lijst.List(index)); });
   }
   STDMETHODIMP get_Text(BSTR* tekst) override {
-    return OnList([&](host::ListBox& lijst) { *tekst = NewBstr(lijst.Text()); });
+    return OfList(tekst, [&](host::ListBox& lijst) { return NewBstr(lijst.Text()); });
   }
 
  private:
   template <class Body> HRESULT OnList(Body&& body) {
     return Answering<IKeuzelijst>([&] { body(host::Need(lijst_)); });
+  }
+  template <class Value, class Body> HRESULT OfList(Value* place, Body&& body) {
+    return Handing<IKeuzelijst>(place, [&] { return body(host::Need(lijst_)); });
   }
 
   host::ListBox* lijst_;

@@ -35,7 +35,7 @@ class StandardTrace final : public DualObject<IProcedureTrace> {
 
  private:
   static HRESULT Hand(const std::string& kept, BSTR* tekst) {
-    return Answering<IProcedureTrace>([&] { *tekst = NewBstr(kept); });
+    return Handing<IProcedureTrace>(tekst, [&] { return NewBstr(kept); });
   }
   static HRESULT Keep(std::string& kept, BSTR tekst) {
     return Answering<IProcedureTrace>([&] { kept = FromBstr(tekst); });

@@ -11,14 +11,13 @@
 
 namespace brivane::component {
 
-/// What the library's three classes have in common: their identity, late binding, class information and error records,
+/// What the library's three classes have in common: their identity, late binding, error records and class information,
 /// the toolkit and the host's objects of each, and the door for tests.
 ///
 /// `Outgoing` is the interface of its events, or GUID_NULL.
 template <class Interface>
 class CoObject : public Dispatching<Interface>,
                  public IProvideClassInfo2,
-                 public ISupportErrorInfo,
                  public IProefdeurHouder,
                  public Identity,
                  private headless::ActionListener {
@@ -44,9 +43,6 @@ class CoObject : public Dispatching<Interface>,
     *id = outgoing_;
     return S_OK;
   }
-  STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
-    return iid == __uuidof(Interface) ? S_OK : S_FALSE;
-  }
   STDMETHODIMP Proefdeur(IProefdeur** door) override {
     if (!door) return E_POINTER;
     return Answering<IProefdeurHouder>([&] {
@@ -57,9 +53,8 @@ class CoObject : public Dispatching<Interface>,
 
  protected:
   [[nodiscard]] IUnknown* Find(REFIID iid) override {
-    if (iid == IID_IDispatch || iid == __uuidof(Interface)) return static_cast<Interface*>(this);
+    if (IUnknown* const own = this->Own(iid)) return own;
     if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) return static_cast<IProvideClassInfo2*>(this);
-    if (iid == IID_ISupportErrorInfo) return static_cast<ISupportErrorInfo*>(this);
     if (iid == __uuidof(IProefdeurHouder)) return static_cast<IProefdeurHouder*>(this);
     return nullptr;
   }
@@ -71,6 +66,19 @@ class CoObject : public Dispatching<Interface>,
   template <class Body> [[nodiscard]] HRESULT Doing(Body&& body) {
     const Busy busy(*this);
     return Answering<Interface>(std::forward<Body>(body));
+  }
+  /// The same for a binding. Bound to nothing, it lets go of everything of the host's, whatever came of the body.
+  template <class Body> [[nodiscard]] HRESULT Binding(IDispatch* application, Body&& body) {
+    const Busy busy(*this);
+    const HRESULT bound = Answering<Interface>(std::forward<Body>(body));
+    if (application) return bound;
+    const HRESULT released = Answering<Interface>([&] { session_->LetGo(); });
+    return FAILED(bound) ? bound : released;
+  }
+  /// The same for a method that hands out a value.
+  template <class Value, class Body> [[nodiscard]] HRESULT Giving(Value* place, Body&& body) {
+    const Busy busy(*this);
+    return Handing<Interface>(place, std::forward<Body>(body));
   }
 
   [[nodiscard]] component::Toolkit& TheToolkit() { return *toolkit_; }

@@ -45,7 +45,7 @@ STDMETHODIMP ScenarioObject::put_DisableJaar(SHORT Jr, VARIANT_BOOL NewValue) {
 }
 
 STDMETHODIMP ScenarioObject::get_SoortScenario(SHORT* Soort) {
-  return Doing([&] { *Soort = form_->SoortScenario(); });
+  return Giving(Soort, [&] { return form_->SoortScenario(); });
 }
 
 STDMETHODIMP ScenarioObject::put_SoortScenario(SHORT Soort) {
@@ -53,7 +53,7 @@ STDMETHODIMP ScenarioObject::put_SoortScenario(SHORT Soort) {
 }
 
 STDMETHODIMP ScenarioObject::get_BackColor(LONG* Color) {
-  return Doing([&] { *Color = form_->BackColor().value; });
+  return Giving(Color, [&] { return form_->BackColor().value; });
 }
 
 STDMETHODIMP ScenarioObject::put_BackColor(LONG New_Color) {

@@ -37,13 +37,11 @@ IUnknown* ToelichtingObject::Find(REFIID iid) {
 }
 
 STDMETHODIMP ToelichtingObject::SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) {
-  const HRESULT bound = Doing([&] {
+  return Binding(Application, [&] {
     std::shared_ptr<host::Application> application = Session().Adapt<ApplicationAdapter>(Application);
     std::shared_ptr<host::Lening> lening = Session().Adapt<LeningAdapter>(Lening);
     control_->SetApplication(application, lening, Vrij_Id);
   });
-  if (!Application) Session().LetGo();
-  return bound;
 }
 
 STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
@@ -59,7 +57,7 @@ STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
 }
 
 STDMETHODIMP ToelichtingObject::get_BackColor(LONG* Color) {
-  return Doing([&] { *Color = control_->BackColor().value; });
+  return Giving(Color, [&] { return control_->BackColor().value; });
 }
 
 STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
@@ -67,7 +65,7 @@ STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
 }
 
 STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
-  return Doing([&] { *ProgID = NewBstr(Classes().procedureTrace); });
+  return Giving(ProgID, [&] { return NewBstr(Classes().procedureTrace); });
 }
 
 STDMETHODIMP ToelichtingObject::put_ProcedureTraceKlasse(BSTR ProgID) {

@@ -24,7 +24,7 @@ VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
  public:
   explicit Ingesloten(VrijeKolomObject& owner)
-      : owner_(owner), events_(*this, DIID_DToelichtingEvents), points_(*this, {&events_}) {}
+      : owner_(owner), events_(Known(), DIID_DToelichtingEvents), points_(Known(), {&events_}) {}
   virtual ~Ingesloten() = default;
 
   /// The adviser changed something.
@@ -32,13 +32,8 @@ class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
-    *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(IToelichting))
-      *out = static_cast<IToelichting*>(this);
-    else if (iid == IID_IConnectionPointContainer)
-      *out = static_cast<IConnectionPointContainer*>(&points_);
-    else
-      return E_NOINTERFACE;
+    *out = iid == IID_IConnectionPointContainer ? &points_ : Own(iid);
+    if (!*out) return E_NOINTERFACE;
     AddRef();
     return S_OK;
   }
@@ -63,7 +58,7 @@ class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
     });
   }
   STDMETHODIMP get_BackColor(LONG* Color) override {
-    return owner_.Doing([&] { *Color = Control().BackColor().value; });
+    return owner_.Giving(Color, [&] { return Control().BackColor().value; });
   }
   STDMETHODIMP put_BackColor(LONG New_Color) override {
     return owner_.Doing([&] { Control().SetBackColor({static_cast<std::int32_t>(New_Color)}); });
@@ -73,6 +68,7 @@ class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
   STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override { return owner_.put_ProcedureTraceKlasse(ProgID); }
 
  private:
+  [[nodiscard]] IUnknown& Known() { return static_cast<IToelichting&>(*this); }
   [[nodiscard]] brivane::Toelichting& Control() { return owner_.editor_->Toelichting(); }
 
   VrijeKolomObject& owner_;
@@ -121,10 +117,9 @@ std::optional<Variant> VrijeKolomObject::DoorAspect(std::string_view aspect) con
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
-  const HRESULT bound =
-      Doing([&] { editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id); });
-  if (!Application) Session().LetGo();
-  return bound;
+  return Binding(Application, [&] {
+    editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id);
+  });
 }
 
 STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
@@ -140,7 +135,7 @@ STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
 }
 
 STDMETHODIMP VrijeKolomObject::get_BackColor(LONG* Color) {
-  return Doing([&] { *Color = editor_->BackColor().value; });
+  return Giving(Color, [&] { return editor_->BackColor().value; });
 }
 
 STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
@@ -148,7 +143,7 @@ STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
 }
 
 STDMETHODIMP VrijeKolomObject::get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) {
-  return Doing([&] { *Zichtbaar = Truth(editor_->BeeindigenZichtbaar()); });
+  return Giving(Zichtbaar, [&] { return Truth(editor_->BeeindigenZichtbaar()); });
 }
 
 STDMETHODIMP VrijeKolomObject::put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) {
@@ -156,14 +151,14 @@ STDMETHODIMP VrijeKolomObject::put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) {
 }
 
 STDMETHODIMP VrijeKolomObject::get_Toelichting(IToelichting** Toelichting) {
-  return Doing([&] { 
-    *Toelichting = toelichting_.get();
+  return Giving(Toelichting, [&] {
     toelichting_->AddRef();
+    return toelichting_.get();
   });
 }
 
 STDMETHODIMP VrijeKolomObject::get_ProcedureTraceKlasse(BSTR* ProgID) {
-  return Doing([&] { *ProgID = NewBstr(Classes().procedureTrace); });
+  return Giving(ProgID, [&] { return NewBstr(Classes().procedureTrace); });
 }
 
 STDMETHODIMP VrijeKolomObject::put_ProcedureTraceKlasse(BSTR ProgID) {
@@ -175,7 +170,7 @@ STDMETHODIMP VrijeKolomObject::put_ProcedureTraceKlasse(BSTR ProgID) {
 }
 
 STDMETHODIMP VrijeKolomObject::get_DossierControleKlasse(BSTR* ProgID) {
-  return Doing([&] { *ProgID = NewBstr(Classes().dossierControle); });
+  return Giving(ProgID, [&] { return NewBstr(Classes().dossierControle); });
 }
 
 STDMETHODIMP VrijeKolomObject::put_DossierControleKlasse(BSTR ProgID) {

@@ -48,7 +48,7 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
 
  private:
   template <class Body> HRESULT OnSurface(Body&& body) {
-    const ComPtr<IUnknown> self(this);
+    const ComPtr<IProefdeur> self(this);
     return Answering<IProefdeur>([&] { body(host::Need(surface_)); });
   }
 

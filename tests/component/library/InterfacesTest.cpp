@@ -1,7 +1,7 @@
 // The interfaces as a compiled host sees them.
 
+#include <array>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "component/automation/LateBound.h"
@@ -11,73 +11,150 @@ namespace brivane::component {
 namespace {
 
 using InterfacesTest = ComponentTest;
-using Members = std::vector<std::tuple<std::string, DISPID, INVOKEKIND>>;
+using Texts = std::vector<std::string>;
 
-/// The members of an interface in their order, those of IDispatch left out.
-Members MembersOf(ITypeInfo& info) {
-  Members members;
-  TYPEATTR* attributes = nullptr;
-  info.GetTypeAttr(&attributes);
-  for (UINT i = 0; i < attributes->cFuncs; ++i) {
-    FUNCDESC* function = nullptr;
-    info.GetFuncDesc(i, &function);
-    BSTR name = nullptr;
-    UINT count = 0;
-    info.GetNames(function->memid, &name, 1, &count);
-    if (!(function->wFuncFlags & FUNCFLAG_FRESTRICTED))
-      members.emplace_back(FromBstr(name), function->memid, function->invkind);
-    SysFreeString(name);
-    info.ReleaseFuncDesc(function);
-  }
-  info.ReleaseTypeAttr(attributes);
-  return members;
+std::string NameOf(ITypeInfo& info, MEMBERID member) {
+  BSTR name = nullptr;
+  info.GetDocumentation(member, &name, nullptr, nullptr, nullptr);
+  std::string text = FromBstr(name);
+  SysFreeString(name);
+  return text;
 }
 
-Members RegisteredMembers(const IID& iid) {
+std::string TypeOf(ITypeInfo& info, const TYPEDESC& type) {
+  switch (type.vt) {
+    case VT_VOID: return "void";
+    case VT_HRESULT: return "HRESULT";
+    case VT_I2: return "short";
+    case VT_I4: return "long";
+    case VT_R8: return "double";
+    case VT_BOOL: return "VARIANT_BOOL";
+    case VT_BSTR: return "BSTR";
+    case VT_VARIANT: return "VARIANT";
+    case VT_DISPATCH: return "IDispatch*";
+    case VT_PTR: return TypeOf(info, *type.lptdesc) + "*";
+    case VT_USERDEFINED: {
+      ComPtr<ITypeInfo> meant;
+      info.GetRefTypeInfo(type.hreftype, meant.Put());
+      return NameOf(*meant.Get(), MEMBERID_NIL);
+    }
+    default: return "type " + std::to_string(type.vt);
+  }
+}
+
+std::string FlagsOf(const PARAMDESC& parameter) {
+  std::string flags;
+  const auto add = [&](USHORT flag, const std::string& word) {
+    if (parameter.wParamFlags & flag) flags += (flags.empty() ? "" : " ") + word;
+  };
+  add(PARAMFLAG_FIN, "in");
+  add(PARAMFLAG_FOUT, "out");
+  add(PARAMFLAG_FRETVAL, "retval");
+  add(PARAMFLAG_FOPT, "optional");
+  if (parameter.wParamFlags & PARAMFLAG_FHASDEFAULT)
+    add(PARAMFLAG_FHASDEFAULT, "= " + std::to_string(As<std::int32_t>(parameter.pparamdescex->varDefaultValue)));
+  return flags;
+}
+
+/// A member as its declaration reads: "1 Name([in] short Len_Id)", with its identity and the way it is called.
+std::string Declaration(ITypeInfo& info, const FUNCDESC& function) {
+  std::array<BSTR, 16> names{};
+  UINT count = 0;
+  info.GetNames(function.memid, names.data(), static_cast<UINT>(names.size()), &count);
+  std::string text = std::to_string(function.memid) + " ";
+  if (function.invkind == INVOKE_PROPERTYGET) text += "get ";
+  if (function.invkind == INVOKE_PROPERTYPUT) text += "put ";
+  text += FromBstr(names[0]) + "(";
+  for (SHORT i = 0; i < function.cParams; ++i) {
+    const ELEMDESC& parameter = function.lprgelemdescParam[i];
+    text += (i ? ", [" : "[") + FlagsOf(parameter.paramdesc) + "] " + TypeOf(info, parameter.tdesc);
+  }
+  for (const BSTR name : names) SysFreeString(name);
+  return text + ")";
+}
+
+/// The members of an interface in their order. Those of a dual interface are its methods in memory, one behind the
+/// other after the seven of IDispatch.
+Texts Declarations(const IID& iid) {
   ComPtr<ITypeLib> library;
   ComPtr<ITypeInfo> info;
   if (FAILED(LoadRegTypeLib(LIBID_BrivaneVrijeKolom, 1, 0, LOCALE_NEUTRAL, library.Put()))) return {};
   if (FAILED(library->GetTypeInfoOfGuid(iid, info.Put()))) return {};
-  return MembersOf(*info.Get());
+  HREFTYPE methods = 0;
+  const bool isDual = info->GetRefTypeOfImplType(static_cast<UINT>(-1), &methods) == S_OK;
+  if (isDual) {
+    ComPtr<ITypeInfo> table;
+    info->GetRefTypeInfo(methods, table.Put());
+    info = table;
+  }
+  TYPEATTR* attributes = nullptr;
+  info->GetTypeAttr(&attributes);
+  Texts texts;
+  for (UINT i = 0; i < attributes->cFuncs; ++i) {
+    FUNCDESC* function = nullptr;
+    info->GetFuncDesc(i, &function);
+    texts.push_back(Declaration(*info.Get(), *function));
+    if (isDual) {
+      EXPECT_EQ(function->oVft, static_cast<SHORT>((7 + i) * sizeof(void*))) << texts.back();
+    }
+    EXPECT_EQ(function->elemdescFunc.tdesc.vt, isDual ? VT_HRESULT : VT_VOID) << texts.back();
+    info->ReleaseFuncDesc(function);
+  }
+  info->ReleaseTypeAttr(attributes);
+  return texts;
+}
+
+bool IsDual(const IID& iid) {
+  ComPtr<ITypeLib> library;
+  ComPtr<ITypeInfo> info;
+  LoadRegTypeLib(LIBID_BrivaneVrijeKolom, 1, 0, LOCALE_NEUTRAL, library.Put());
+  library->GetTypeInfoOfGuid(iid, info.Put());
+  TYPEATTR* attributes = nullptr;
+  info->GetTypeAttr(&attributes);
+  const bool isDual = attributes->typekind == TKIND_DISPATCH && (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
+  info->ReleaseTypeAttr(attributes);
+  return isDual;
 }
 
 TEST_F(InterfacesTest, TheEditorHasItsMembersInTheirOrder) {
-  EXPECT_EQ(RegisteredMembers(IID_IVrijeKolom), (Members{{"SetApplication", 1, INVOKE_FUNC},
-                                                         {"Validation", 2, INVOKE_FUNC},
-                                                         {"BackColor", -501, INVOKE_PROPERTYGET},
-                                                         {"BackColor", -501, INVOKE_PROPERTYPUT},
-                                                         {"BeeindigenZichtbaar", 3, INVOKE_PROPERTYGET},
-                                                         {"BeeindigenZichtbaar", 3, INVOKE_PROPERTYPUT},
-                                                         {"Toelichting", 4, INVOKE_PROPERTYGET},
-                                                         {"ProcedureTraceKlasse", 5, INVOKE_PROPERTYGET},
-                                                         {"ProcedureTraceKlasse", 5, INVOKE_PROPERTYPUT},
-                                                         {"DossierControleKlasse", 6, INVOKE_PROPERTYGET},
-                                                         {"DossierControleKlasse", 6, INVOKE_PROPERTYPUT}}));
+  EXPECT_TRUE(IsDual(IID_IVrijeKolom));
+  EXPECT_EQ(Declarations(IID_IVrijeKolom), (Texts{"1 SetApplication([in] IDispatch*, [in] short, [in] short)",
+                                                  "2 Validation([in out] VARIANT*, [in optional = 0] long)",
+                                                  "-501 get BackColor([out retval] long*)",
+                                                  "-501 put BackColor([in] long)",
+                                                  "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
+                                                  "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)",
+                                                  "4 get Toelichting([out retval] IToelichting**)",
+                                                  "5 get ProcedureTraceKlasse([out retval] BSTR*)",
+                                                  "5 put ProcedureTraceKlasse([in] BSTR)",
+                                                  "6 get DossierControleKlasse([out retval] BSTR*)",
+                                                  "6 put DossierControleKlasse([in] BSTR)"}));
 }
 
 TEST_F(InterfacesTest, TheExplanationHasItsMembersInTheirOrder) {
-  EXPECT_EQ(RegisteredMembers(IID_IToelichting), (Members{{"SetApplication", 1, INVOKE_FUNC},
-                                                          {"Validation", 2, INVOKE_FUNC},
-                                                          {"BackColor", -501, INVOKE_PROPERTYGET},
-                                                          {"BackColor", -501, INVOKE_PROPERTYPUT},
-                                                          {"ProcedureTraceKlasse", 3, INVOKE_PROPERTYGET},
-                                                          {"ProcedureTraceKlasse", 3, INVOKE_PROPERTYPUT}}));
+  EXPECT_TRUE(IsDual(IID_IToelichting));
+  EXPECT_EQ(Declarations(IID_IToelichting), (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
+                                                   "2 Validation([in out] VARIANT*, [in optional = 0] long)",
+                                                   "-501 get BackColor([out retval] long*)",
+                                                   "-501 put BackColor([in] long)",
+                                                   "3 get ProcedureTraceKlasse([out retval] BSTR*)",
+                                                   "3 put ProcedureTraceKlasse([in] BSTR)"}));
 }
 
 TEST_F(InterfacesTest, TheFormHasItsMembersInTheirOrder) {
-  EXPECT_EQ(RegisteredMembers(IID_IfrmScenario), (Members{{"Invoeren", 1, INVOKE_FUNC},
-                                                          {"DisableJaar", 2, INVOKE_PROPERTYPUT},
-                                                          {"SoortScenario", 3, INVOKE_PROPERTYGET},
-                                                          {"SoortScenario", 3, INVOKE_PROPERTYPUT},
-                                                          {"BackColor", -501, INVOKE_PROPERTYGET},
-                                                          {"BackColor", -501, INVOKE_PROPERTYPUT},
-                                                          {"Tonen", 4, INVOKE_FUNC}}));
+  EXPECT_TRUE(IsDual(IID_IfrmScenario));
+  EXPECT_EQ(Declarations(IID_IfrmScenario),
+            (Texts{"1 Invoeren([in] IDispatch*, [in] short, [in] long, [in] long, [in] VARIANT_BOOL, "
+                   "[in] VARIANT_BOOL, [in] double)",
+                   "2 put DisableJaar([in] short, [in] VARIANT_BOOL)", "3 get SoortScenario([out retval] short*)",
+                   "3 put SoortScenario([in] short)", "-501 get BackColor([out retval] long*)",
+                   "-501 put BackColor([in] long)", "4 Tonen([in optional] VARIANT)"}));
 }
 
 TEST_F(InterfacesTest, TheEventsAreInTheirOrder) {
-  EXPECT_EQ(RegisteredMembers(DIID_DVrijeKolomEvents),
-            (Members{{"RefreshTopDisplay", 1, INVOKE_FUNC}, {"HeightChanged", 2, INVOKE_FUNC}}));
-  EXPECT_EQ(RegisteredMembers(DIID_DToelichtingEvents), (Members{{"Changed", 1, INVOKE_FUNC}}));
+  EXPECT_FALSE(IsDual(DIID_DVrijeKolomEvents));
+  EXPECT_EQ(Declarations(DIID_DVrijeKolomEvents), (Texts{"1 RefreshTopDisplay([in] BSTR)", "2 HeightChanged()"}));
+  EXPECT_EQ(Declarations(DIID_DToelichtingEvents), (Texts{"1 Changed()"}));
 }
 
 TEST_F(InterfacesTest, EachClassTellsItsClassAndItsEvents) {
@@ -119,6 +196,42 @@ TEST_F(InterfacesTest, AnErrorRecordIsLeftForACompiledHost) {
   record->GetDescription(&text);
   EXPECT_EQ(FromBstr(text), "Subscript out of range");
   SysFreeString(text);
+}
+
+TEST_F(InterfacesTest, AnErrorRecordIsPromisedByWhatTheEditorHandsOut) {
+  FakeHost host;
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IToelichting> explanation;
+  ASSERT_EQ(editor->get_Toelichting(explanation.Put()), S_OK);
+  ASSERT_TRUE(explanation.As<ISupportErrorInfo>());
+  EXPECT_EQ(explanation.As<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(IID_IToelichting), S_OK);
+  EXPECT_EQ(explanation.As<ISupportErrorInfo>().As<IUnknown>().Get(), explanation.As<IUnknown>().Get());
+
+  ComPtr<IProcedureTrace> trace;
+  host.application->members[L"ReportError"] = [&](const std::vector<Variant>& arguments) {
+    trace = As<ComPtr<IDispatch>>(arguments.at(0)).As<IProcedureTrace>();
+    return Variant();
+  };
+  editor->SetApplication(host.application.Get(), 0, 7);  // there is no such column
+  ASSERT_TRUE(trace);
+  EXPECT_EQ(trace.As<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(IID_IProcedureTrace), S_OK);
+}
+
+TEST_F(InterfacesTest, ACallerWithoutAPlaceForTheAnswerIsRefused) {
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  EXPECT_EQ(editor->get_BackColor(nullptr), E_POINTER);
+  EXPECT_EQ(editor->get_BeeindigenZichtbaar(nullptr), E_POINTER);
+  EXPECT_EQ(editor->get_Toelichting(nullptr), E_POINTER);
+  EXPECT_EQ(editor->get_ProcedureTraceKlasse(nullptr), E_POINTER);
+  EXPECT_EQ(editor->get_DossierControleKlasse(nullptr), E_POINTER);
+  EXPECT_EQ(editor->Validation(nullptr, 0), E_POINTER);
+  const auto explanation = Create<IToelichting>(CLSID_Toelichting);
+  EXPECT_EQ(explanation->get_BackColor(nullptr), E_POINTER);
+  EXPECT_EQ(explanation->get_ProcedureTraceKlasse(nullptr), E_POINTER);
+  EXPECT_EQ(explanation->Validation(nullptr, 0), E_POINTER);
+  const auto form = Create<IfrmScenario>(CLSID_frmScenario);
+  EXPECT_EQ(form->get_SoortScenario(nullptr), E_POINTER);
+  EXPECT_EQ(form->get_BackColor(nullptr), E_POINTER);
 }
 
 TEST_F(InterfacesTest, AFailureOfTheHostReachesItsReportWhole) {
