@@ -4,7 +4,7 @@ Dim relais, host, editor, deur, luisteraar, kolom, dag
 Set relais = CreateObject("BrivaneProef.Relais")
 Set host = NewHost()
 Set kolom = host.Dossier.HuidigeLening.VrijeKolommen(1)
-Set editor = CreateObject("BrivaneVrijeKolom.VrijeKolom")
+Set editor = relais.Maak("BrivaneVrijeKolom.VrijeKolom")
 Set deur = relais.Deur(editor)
 deur.Set "today", DateSerial(2026, 11, 21)
 Set luisteraar = New Luisteraar
@@ -108,4 +108,9 @@ Same "changed", True, deur.Read("", "changed")
 Same "not filling", False, deur.Read("", "filling")
 Same "no failure at all", 0, host.reports
 
-Finish 53
+relais.Zwijg
+Set deur = Nothing
+Set editor = Nothing
+Same "unloaded", False, relais.Geladen
+
+Finish 54

@@ -68,7 +68,7 @@ Dim relais, host, editor, deur, gereedschap, wegnemer, formulier, cancel
 Set relais = CreateObject("BrivaneProef.Relais")
 Set host = NewHost()
 host.Dossier.HuidigeLening.kolommen.Add "2", New Weigeraar
-Set editor = CreateObject("BrivaneVrijeKolom.VrijeKolom")
+Set editor = relais.Maak("BrivaneVrijeKolom.VrijeKolom")
 Set deur = relais.Deur(editor)
 Set gereedschap = New Gereedschap
 gereedschap.tracers = 0
@@ -110,7 +110,7 @@ Same "check called", 1, gereedschap.kind
 Same "with the application itself", True, relais.Zelfde(host, gereedschap.checked)
 
 ' failures of the library reach the script
-Set formulier = CreateObject("BrivaneVrijeKolom.frmScenario")
+Set formulier = relais.Maak("BrivaneVrijeKolom.frmScenario")
 On Error Resume Next
 formulier.DisableJaar(51) = True
 Same "out of range", 9, Err.Number
@@ -133,4 +133,9 @@ editor.Bestaatniet
 Same "no such member", 438, Err.Number
 On Error Goto 0
 
-Finish 22
+Set deur = Nothing
+Set formulier = Nothing
+Set editor = Nothing
+Same "unloaded", False, relais.Geladen
+
+Finish 23

@@ -29,7 +29,7 @@ Set bedrag = New BedragHost
 Set invuller = New Invuller
 invuller.opened = 0
 
-Set formulier = CreateObject("BrivaneVrijeKolom.frmScenario")
+Set formulier = relais.Maak("BrivaneVrijeKolom.frmScenario")
 Set deur = relais.Deur(formulier)
 deur.Callback = invuller
 formulier.SoortScenario = 1
@@ -75,7 +75,7 @@ Set deur = Nothing
 
 ' by the editor's button
 Set host = NewHost()
-Set editor = CreateObject("BrivaneVrijeKolom.VrijeKolom")
+Set editor = relais.Maak("BrivaneVrijeKolom.VrijeKolom")
 Set deur = relais.Deur(editor)
 deur.Callback = invuller
 deur.Set "today", DateSerial(2026, 11, 21)
@@ -88,4 +88,8 @@ Same "amount of the first row", 100, host.Dossier.HuidigeLening.VrijeKolommen(1)
 Same "shown in the editor", 100, deur.Read("TxtBd", "value")
 Same "no failure", 0, host.reports
 
-Finish 22
+Set deur = Nothing
+Set editor = Nothing
+Same "unloaded", False, relais.Geladen
+
+Finish 23

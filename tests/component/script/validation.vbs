@@ -4,7 +4,7 @@ Dim relais, host, editor, deur, antwoorder, kolom, tweede, cancel
 Set relais = CreateObject("BrivaneProef.Relais")
 Set host = NewHost()
 Set kolom = host.Dossier.HuidigeLening.VrijeKolommen(1)
-Set editor = CreateObject("BrivaneVrijeKolom.VrijeKolom")
+Set editor = relais.Maak("BrivaneVrijeKolom.VrijeKolom")
 Set deur = relais.Deur(editor)
 Set antwoorder = New Antwoorder
 deur.Callback = antwoorder
@@ -73,4 +73,8 @@ Same "explanation refused", True, cancel
 Same "its own message", "Onjuiste invoer|Overgangspercentage partner van 1% t/m 100% invullen.|48;", antwoorder.shown
 Same "no failure", 0, host.reports
 
-Finish 22
+Set deur = Nothing
+Set editor = Nothing
+Same "unloaded", False, relais.Geladen
+
+Finish 23
