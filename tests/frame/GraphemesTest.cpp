@@ -41,6 +41,42 @@ TEST(Graphemes, AnAccentedLetterIsOneComposedOrNot) {
   EXPECT_EQ(Split("\u20AC5"), (Characters{"\u20AC", "5"}));
 }
 
+TEST(Graphemes, AVowelSignStaysWithItsLetterInEveryScript) {
+  struct Case {
+    const char* script;
+    std::string letter;
+    std::string withSign;
+  };
+  for (const Case& c : {Case{"Hebrew", "\u05D1", "\u05D1\u05BC"}, Case{"Arabic", "\u0628", "\u0628\u08F0"},
+                        Case{"Devanagari", "\u0915", "\u0915\u093F"}, Case{"Bengali", "\u0995", "\u0995\u09D7"},
+                        Case{"Gurmukhi", "\u0A15", "\u0A15\u0A71"}, Case{"Gujarati", "\u0A95", "\u0A95\u0ABF"},
+                        Case{"Oriya", "\u0B15", "\u0B15\u0B3E"}, Case{"Tamil", "\u0B95", "\u0B95\u0BD7"},
+                        Case{"Telugu", "\u0C24", "\u0C24\u0C46"}, Case{"Kannada", "\u0C95", "\u0C95\u0CBF"},
+                        Case{"Malayalam", "\u0D15", "\u0D15\u0D3F"}, Case{"Sinhala", "\u0D9A", "\u0D9A\u0DD2"},
+                        Case{"Thai", "\u0E01", "\u0E01\u0E33"}, Case{"Tibetan", "\u0F40", "\u0F40\u0F74"},
+                        Case{"Myanmar", "\u1000", "\u1000\u102D"}, Case{"Khmer", "\u1780", "\u1780\u17B6"}}) {
+    EXPECT_EQ(Split(c.letter + c.withSign), (Characters{c.letter, c.withSign})) << c.script;
+    EXPECT_EQ(Split(c.withSign + c.letter), (Characters{c.withSign, c.letter})) << c.script;
+  }
+}
+
+TEST(Graphemes, AMarkIsFoundByItsPlaceInTheTable) {
+  // The first and the last range, and their neighbours, which are letters or nothing.
+  EXPECT_EQ(Split("a\u0300"), Characters{"a\u0300"});
+  EXPECT_EQ(Split("a\u036F"), Characters{"a\u036F"});
+  EXPECT_EQ(Split("a\u02FF"), (Characters{"a", "\u02FF"}));
+  EXPECT_EQ(Split("a\u0370"), (Characters{"a", "\u0370"}));
+  EXPECT_EQ(Split("a\U000E0100"), Characters{"a\U000E0100"});
+  EXPECT_EQ(Split("a\U000E01EF"), Characters{"a\U000E01EF"});
+  EXPECT_EQ(Split("a\U000E01F0"), (Characters{"a", "\U000E01F0"}));
+}
+
+TEST(Graphemes, ASignBeforeItsCharacterIsPartOfIt) {
+  EXPECT_EQ(Split("a\u0600\u0661"), (Characters{"a", "\u0600\u0661"}));
+  EXPECT_EQ(Split("a\u0600"), (Characters{"a", "\u0600"}));
+  EXPECT_EQ(Split("\u0600\n"), (Characters{"\u0600", "\n"}));
+}
+
 TEST(Graphemes, ALineEndIsOneAndTakesNoMarks) {
   EXPECT_EQ(Split("a\r\nb"), (Characters{"a", "\r\n", "b"}));
   EXPECT_EQ(Split("\n\r"), (Characters{"\n", "\r"}));
@@ -81,6 +117,8 @@ TEST(Graphemes, AHangulSyllableIsOneComposedOrOfLetters) {
   EXPECT_EQ(Split("\uD55C\uAE00"), (Characters{"\uD55C", "\uAE00"}));
   EXPECT_EQ(Split("\u1112\u1161\u11AB\u1100\u1173"), (Characters{"\u1112\u1161\u11AB", "\u1100\u1173"}));
   EXPECT_EQ(Split("\uAC00\u11A8"), Characters{"\uAC00\u11A8"});
+  // Letters of the old spelling: a lead, a vowel and a tail.
+  EXPECT_EQ(Split("\uA960\uD7B0\uD7CB\uA960"), (Characters{"\uA960\uD7B0\uD7CB", "\uA960"}));
   // A syllable with a tail takes no vowel any more.
   EXPECT_EQ(Split("\uAC01\u1161"), (Characters{"\uAC01", "\u1161"}));
 }
