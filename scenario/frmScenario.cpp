@@ -145,7 +145,12 @@ void frmScenario::BouwRooster(std::int16_t AantalJaar, std::int32_t Labeltype, b
   host::CheckBox& aanvullen = controls_[chkAanvullen];
   if (IsOverbrugging()) aanvullen.SetCaption(Vervang(aanvullen.Caption(), kVervolgjaren, kVervolgmaanden));
   opzet_.soort = SoortVan(Bron().Invoersoort());
-  controls_[lblRente].SetCaption(std::string(Kop(opzet_.soort)));
+  host::Label& kop = controls_[lblRente];
+  kop.SetCaption(std::string(Kop(opzet_.soort)));
+  // It stands over two boxes then, and is too long for the narrowest column with larger text.
+  if (opzet_.MetBedrag() && opzet_.MetPercentage())
+    kop.Write(host::Measure::Width,
+              (controls_[txtBedrag].Place().width + kTussen + controls_[txtPercentage].Place().width).value);
   if (Labeltype == 0) controls_[lblJaar].Write(host::Measure::Width, kSmalLabel.value);
 
   const Indeling indeling = DeelIn(opzet_, rooster_.Templates());

@@ -113,6 +113,8 @@ TEST_F(Rooster, AmountsAndPercentages) {
   EXPECT_EQ(Plaats("txtBedrag", 1), (Maten{435, 1020, 1470, 315}));
   EXPECT_EQ(Plaats("txtPercentage", 1), (Maten{1965, 1020, 780, 315}));
   EXPECT_EQ(Plaats("lblPercentage", 1), (Maten{2805, 1070, 180, 225}));
+  // Over both boxes: 1470 + 60 + 780.
+  EXPECT_EQ(Plaats("lblRente", 1), (Maten{435, 810, 2310, 195}));
   // A column is 240 + 60 + 1470 + 60 + 780 + 60 + 180 + 120 = 2970 wide.
   EXPECT_EQ(Links("lblJaar", 25), 9045);
   EXPECT_EQ(Plaats("fraScenario"), (Maten{120, 120, 12030, 3960}));
