@@ -48,10 +48,11 @@ DumpValue ReadShown(const std::string& text, frame::Format format) {
   return format == frame::Format::Text ? DumpValue(std::string()) : DumpValue(0.0);
 }
 
-host::Place ShownPlace(HWND window, const host::Place& asked, const Edge& edge) {
+/// In the container of the design, whatever window it really stands in.
+host::Place ShownPlace(HWND window, HWND container, const host::Place& asked, const Edge& edge) {
   RECT shown{};
   GetWindowRect(window, &shown);
-  MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&shown), 2);
+  MapWindowPoints(nullptr, container, reinterpret_cast<POINT*>(&shown), 2);
   const RECT wanted = edge.Pixels(asked);
   if (EqualRect(&shown, &wanted) != FALSE) return asked;
   return {edge.ToTwips(shown.left), edge.ToTwips(shown.top), edge.ToTwips(WidthOf(shown)),
@@ -126,7 +127,7 @@ void ReadWindow(const ControlWindow& shown, ControlDump& dump, const Edge& edge)
   dump.kind = KindOf(window, dump.kind);
   dump.visible = HasStyle(window, WS_VISIBLE);
   dump.enabled = !HasStyle(window, WS_DISABLED);
-  dump.place = ShownPlace(window, dump.place, edge);
+  dump.place = ShownPlace(window, AreaOf(*shown.Control().Container()), dump.place, edge);
   if (dump.caption) dump.caption = CaptionOf(Narrow(HeldTextOf(window)), row, *dump.caption);
   switch (dump.kind) {
     case Kind::TextBox:
