@@ -97,8 +97,23 @@ LRESULT CheckWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   const auto life = Life();
   const bool before = std::exchange(busy_, true);
   const LRESULT result = ButtonWindow::OnMessage(message, wParam, lParam);
-  if (!life.expired()) busy_ = before;
+  if (life.expired()) return result;
+  busy_ = before;
+  if (check_.Caption().empty() && Handle() != nullptr) {
+    if (message == WM_SETFOCUS || message == WM_KILLFOCUS) InvalidateRect(Handle(), nullptr, TRUE);
+    if (message == WM_PAINT) DrawFocus();
+  }
   return result;
+}
+
+/// The class shows the focus around the text, so not at all where there is none.
+void CheckWindow::DrawFocus() const {
+  if (GetFocus() != Handle()) return;
+  RECT area{};
+  GetClientRect(Handle(), &area);
+  const HDC context = GetDC(Handle());
+  FrameRect(context, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
+  ReleaseDC(Handle(), context);
 }
 
 void CheckWindow::Choose() {

@@ -62,6 +62,8 @@ class CheckWindow final : public ButtonWindow {
   void OnClick() override;
 
  private:
+  void DrawFocus() const;
+
   headless::CheckBox& check_;
   bool busy_ = false;  ///< handling a message
 };

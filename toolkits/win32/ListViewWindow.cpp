@@ -115,9 +115,10 @@ void ListViewWindow::ShowSelection() {
   state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
   Show([&] {
     SendMessageW(Handle(), LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&state));
-    if (list_.Selected() == 0) return;
-    state.state = LVIS_SELECTED | LVIS_FOCUSED;
-    SendMessageW(Handle(), LVM_SETITEMSTATE, list_.Selected() - 1, reinterpret_cast<LPARAM>(&state));
+    // Where no row is marked the first shows that the list has the focus.
+    const std::size_t selected = list_.Selected();
+    state.state = selected == 0 ? LVIS_FOCUSED : LVIS_SELECTED | LVIS_FOCUSED;
+    SendMessageW(Handle(), LVM_SETITEMSTATE, selected == 0 ? 0 : selected - 1, reinterpret_cast<LPARAM>(&state));
   });
 }
 

@@ -85,7 +85,11 @@ class Pictures {
   bool Take(FormState state) {
     bool written = false;
     toolkit_.modal = [&](headless::Form& form) {
-      written = Write(std::string(NameOf(state)), GetAncestor(win32::AreaOf(form), GA_ROOT));
+      const HWND window = GetAncestor(win32::AreaOf(form), GA_ROOT);
+      written = Write(std::string(NameOf(state)), window);
+      if (state != FormState::Amounts) return;
+      Press(VK_TAB);
+      written = Write("in-gebruik-vinkje", window) && written;
     };
     win32::Hoofdvenster owner(stage_.Window());
     ShowForm(toolkit_, state, &owner);
