@@ -16,8 +16,44 @@ constexpr int kButtonWidth = 17;
 /// Of the sheet of a calendar that is drawn on it.
 constexpr int kSheetWidth = 12;
 constexpr int kSheetHeight = 11;
+constexpr UINT kClickedElsewhere = WM_APP + 4;
+
+bool IsPress(WPARAM message) {
+  switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_NCLBUTTONDOWN:
+    case WM_NCRBUTTONDOWN:
+    case WM_NCMBUTTONDOWN: return true;
+    default: return false;
+  }
+}
 
 }  // namespace
+
+/// Sees the clicks of the thread while it exists; most of what a person clicks on takes no focus.
+class DateWindow::ClickWatch {
+ public:
+  ClickWatch() : hook_(SetWindowsHookExW(WH_MOUSE, &Clicked, nullptr, GetCurrentThreadId())) {}
+  ClickWatch(const ClickWatch&) = delete;
+  ClickWatch& operator=(const ClickWatch&) = delete;
+  ~ClickWatch() { UnhookWindowsHookEx(hook_); }
+
+ private:
+  static LRESULT CALLBACK Clicked(int code, WPARAM message, LPARAM info) {
+    const auto* const box = dynamic_cast<const DateWindow*>(Window::Of(GetFocus()));
+    if (code == HC_ACTION && IsPress(message) && box != nullptr && box->calendar_) {
+      const HWND calendar = box->calendar_->Handle();
+      const HWND clicked = reinterpret_cast<const MOUSEHOOKSTRUCT*>(info)->hwnd;
+      const bool inside = clicked == box->Handle() || clicked == calendar || IsChild(calendar, clicked) != FALSE;
+      if (!inside) PostMessageW(box->Handle(), kClickedElsewhere, 0, 0);
+    }
+    return CallNextHookEx(nullptr, code, message, info);
+  }
+
+  HHOOK hook_;
+};
 
 DateWindow::DateWindow(headless::TextBox& box, win32::Toolkit& toolkit) : BoxWindow(box, toolkit) {
   // The frame was measured before there was anyone to make room in it.
@@ -73,9 +109,13 @@ void DateWindow::OpenCalendar() {
   const auto typed = entry::ReadDate(Narrow(TextOf(Handle())));
   const host::Date date = typed.IsRefused() || typed.IsEmpty() ? Toolkit().Desktop().Today() : *typed;
   calendar_ = std::make_unique<Calendar>(Toolkit(), Handle(), date, Font(), [this](host::Date day) { Pick(day); });
+  clicks_ = std::make_unique<ClickWatch>();
 }
 
-void DateWindow::CloseCalendar() { calendar_.reset(); }
+void DateWindow::CloseCalendar() {
+  clicks_.reset();
+  calendar_.reset();
+}
 
 void DateWindow::Pick(host::Date date) {
   if (!calendar_) return;  // a double click reports the day twice
@@ -110,6 +150,8 @@ LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KILLFOCUS:
       if (calendar_ && IsChild(calendar_->Handle(), reinterpret_cast<HWND>(wParam)) == FALSE) CloseCalendar();
       break;
+    case WM_LBUTTONDOWN:
+    case kClickedElsewhere: CloseCalendar(); break;
     case WM_NCCALCSIZE: {
       const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
       RECT& inside = *reinterpret_cast<RECT*>(lParam);  // also the first of the structure

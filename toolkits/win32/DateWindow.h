@@ -9,7 +9,7 @@ class Calendar;
 
 /// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its button. The focus stays
 /// in the box; arrows, Page Up and Page Down move the day, Enter or a click picks it and hands it over at once,
-/// Escape closes the calendar and changes nothing.
+/// Escape or a click elsewhere closes the calendar and changes nothing.
 class DateWindow final : public BoxWindow {
  public:
   DateWindow(headless::TextBox& box, win32::Toolkit& toolkit);
@@ -31,7 +31,10 @@ class DateWindow final : public BoxWindow {
   void PaintButton(HDC context) const;
   void PressButton();
 
+  class ClickWatch;
+
   std::unique_ptr<Calendar> calendar_;
+  std::unique_ptr<ClickWatch> clicks_;
 };
 
 }  // namespace brivane::win32

@@ -362,6 +362,17 @@ TEST_F(Dates, ASecondClickOnTheButtonAndLeavingTheBoxCloseTheCalendar) {
   EXPECT_THAT(log_, IsEmpty());
 }
 
+TEST_F(Dates, AClickOnSomethingThatTakesNoFocusClosesTheCalendar) {
+  Click(WindowOf("txtDatum"), Button());
+  Click(win32::Toolkit::WindowOf(*surface_), {790, 410});
+  EXPECT_EQ(Date().CalendarShown(), nullptr);
+  Click(WindowOf("txtDatum"), Button());
+  Focus("txtDatum");
+  EXPECT_EQ(Date().CalendarShown(), nullptr);
+  EXPECT_EQ(Focused(), "txtDatum");
+  EXPECT_THAT(log_, IsEmpty());
+}
+
 TEST_F(Dates, AnEmptyBoxOpensTheCalendarOnToday) {
   toolkit_.Desktop().clock = [] { return frame::MakeDate({2026, 11, 21}); };
   Focus("txtDatum");

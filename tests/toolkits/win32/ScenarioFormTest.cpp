@@ -158,11 +158,13 @@ TEST_F(ScenarioForm, TicksAndHelpIconsAreStopsOfTheirRow) {
     Press(VK_TAB);
     EXPECT_EQ(Focused(), "chkEenmalig(1)");
     EXPECT_EQ(win32::TextOf(GetFocus()), L"Op jaarbasis jaar 1");
-    // Heard and not seen: beside the box there is nothing.
-    UpdateWindow(GetFocus());
-    const HDC context = GetDC(GetFocus());
+    // Heard and not seen: beside a box that has no focus there is nothing.
+    const HWND below = Shown(Cell("chkEenmalig", 2)).Handle();
+    EXPECT_EQ(win32::TextOf(below), L"Op jaarbasis jaar 2");
+    UpdateWindow(below);
+    const HDC context = GetDC(below);
     for (const int y : {6, 8, 10, 12}) EXPECT_EQ(GetPixel(context, 16, y), GetSysColor(COLOR_BTNFACE)) << y;
-    ReleaseDC(GetFocus(), context);
+    ReleaseDC(below, context);
     Press(VK_SPACE);
     auto& tick = static_cast<host::CheckBox&>(Cell("chkEenmalig", 1).Host());
     EXPECT_EQ(tick.Value(), host::kTicked);
