@@ -25,7 +25,6 @@ void VrijeKolom::SetApplication(const std::shared_ptr<host::Application>& Applic
                                 std::int16_t Vrij_Id) {
   tracing_.Handled("SetApplication", [&] {
     Filling_ = true;
-    AndereApplication_ = AndereApplication_ || Application != Application_;
     Application_ = Application;
     Dossier_ = host::Need(Application_).Dossier();
     // Both are asked: the host must answer the look-up by identifier for the current situation too.
@@ -34,8 +33,8 @@ void VrijeKolom::SetApplication(const std::shared_ptr<host::Application>& Applic
     Lening_ = Len_Id == kHuidigeSituatie ? huidig : genummerd;
     Item_ = host::Need(Lening_).VrijeKolommen(Vrij_Id);
     // Another column brings no changes of its own yet; the same one bound anew keeps its mark.
-    if (AndereApplication_ || Len_Id != Len_Id_ || Vrij_Id != Vrij_Id_) Gewijzigd_ = false;
-    AndereApplication_ = false;
+    if (Application != Gebonden_.lock() || Len_Id != Len_Id_ || Vrij_Id != Vrij_Id_) Gewijzigd_ = false;
+    Gebonden_ = Application;
     Len_Id_ = Len_Id;
     Vrij_Id_ = Vrij_Id;
     HuidigeSituatie_ = Len_Id == kHuidigeSituatie;

@@ -151,7 +151,7 @@ class VrijeKolom {
   std::shared_ptr<host::VrijeKolomItem> Item_;
   std::int16_t Len_Id_ = 0;
   std::int16_t Vrij_Id_ = 0;
-  bool AndereApplication_ = false;  ///< handed another application since the last binding that found its column
+  std::weak_ptr<host::Application> Gebonden_;  ///< the application that the two identifiers belong to
   bool Filling_ = false;
   bool Gewijzigd_ = false;
   bool HuidigeSituatie_ = false;

@@ -368,6 +368,16 @@ TEST_F(LoadingTest, ClearsTheMarkForAnotherColumnAndKeepsItForTheSame) {
   EXPECT_FALSE(marked(0, 9)) << "no such column, but its identifier is kept";
 }
 
+TEST_F(LoadingTest, KeepsTheMarkWhereAnotherApplicationWasTriedInVain) {
+  Bind();
+  MarkChanged();
+  const auto other = std::make_shared<TestApplication>(host_.journal);
+  host_.journal.Fail("HuidigeLening", Op::Get);
+  editor_->SetApplication(other, 0, 1);
+  Bind();
+  EXPECT_TRUE(editor_->Gewijzigd()) << "bound anew to the column that was never left";
+}
+
 TEST_F(LoadingTest, ClearsTheMarkForAnotherApplication) {
   Bind();
   MarkChanged();
