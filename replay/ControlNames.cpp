@@ -40,19 +40,19 @@ std::optional<NamedControl> FormControl(std::string_view name) {
 
 std::string_view InWords(host::Kind kind) {
   switch (kind) {
-    case host::Kind::Frame: return "frame";
-    case host::Kind::Label: return "label";
-    case host::Kind::TextBox: return "text box";
-    case host::Kind::JaNee: return "yes/no toggle";
-    case host::Kind::Hint: return "help icon";
-    case host::Kind::OptionButton: return "option";
-    case host::Kind::CheckBox: return "check box";
-    case host::Kind::ListBox: return "list";
-    case host::Kind::Button: return "button";
-    case host::Kind::ListView: return "report list";
-    case host::Kind::Surface: return "embedded control";
+    case host::Kind::Frame: return "a frame";
+    case host::Kind::Label: return "a label";
+    case host::Kind::TextBox: return "a text box";
+    case host::Kind::JaNee: return "a yes/no toggle";
+    case host::Kind::Hint: return "a help icon";
+    case host::Kind::OptionButton: return "an option";
+    case host::Kind::CheckBox: return "a check box";
+    case host::Kind::ListBox: return "a list";
+    case host::Kind::Button: return "a button";
+    case host::Kind::ListView: return "a report list";
+    case host::Kind::Surface: return "an embedded control";
   }
-  return "control";
+  return "a control";
 }
 
 std::string ElementName(std::string_view name, std::optional<int> index) {

@@ -25,7 +25,7 @@ struct NamedControl {
 /// A control of the year-by-year form (`txtBedrag`, `cmdOK`). Which rows there are, only the open form knows.
 [[nodiscard]] std::optional<NamedControl> FormControl(std::string_view name);
 
-/// "text box": the kind in words.
+/// "a text box": the kind in words, with its article.
 [[nodiscard]] std::string_view InWords(host::Kind kind);
 
 /// "optLast(2)", "TxtBd".

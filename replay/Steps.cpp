@@ -99,7 +99,7 @@ NamedControl ReadControl(const Value& step, StepList list, ActStep& act) {
 }
 
 [[noreturn]] void RefuseKind(const Value& step, const NamedControl& control, const ActStep& act) {
-  step.Member("control").Refuse(Quoted(act.control) + " is a " + std::string(InWords(control.kind)) + ": " +
+  step.Member("control").Refuse(Quoted(act.control) + " is " + std::string(InWords(control.kind)) + ": " +
                                 Quoted(step.Member("do").Text()) + " does not work on it");
 }
 
