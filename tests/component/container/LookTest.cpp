@@ -87,7 +87,11 @@ class LookTest : public ::testing::Test {
     ::SetFocus(window_.Note());
     Pump();
   }
-  void TearDown() override { EXPECT_TRUE(window_.Close()); }
+  void TearDown() override {
+    EXPECT_TRUE(window_.Close());
+    Pump();
+    EXPECT_TRUE(library_.CanUnload());
+  }
 
   [[nodiscard]] HWND Frame() const {
     HWND frame = nullptr;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "component/automation/Windows.h"
+#include "tests/component/replay/LateBound.h"
 
 namespace brivane::latebound {
 
@@ -12,5 +13,12 @@ class Apartment : public testing::Environment {
   void SetUp() override { ASSERT_HRESULT_SUCCEEDED(OleInitialize(nullptr)); }
   void TearDown() override { OleUninitialize(); }
 };
+
+/// After a session nothing that it made is left, on either side.
+inline void ExpectNothingLeft() {
+  EXPECT_EQ(LateBound::Live(), 0) << "the component still holds objects of the host";
+  CoFreeUnusedLibrariesEx(0, 0);
+  EXPECT_EQ(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), nullptr) << "objects of the component live on";
+}
 
 }  // namespace brivane::latebound

@@ -13,7 +13,6 @@
 
 #include "replay/HeadlessSubject.h"
 #include "tests/component/replay/Apartment.h"
-#include "tests/component/replay/LateBound.h"
 #include "tests/component/replay/RegisteredSubject.h"
 #include "tests/component/replay/Transcripts.h"
 
@@ -43,12 +42,6 @@ std::vector<std::string> Lines(const std::string& text) {
     start = end + 1;
   }
   return lines;
-}
-
-void ExpectNothingLeft() {
-  EXPECT_EQ(LateBound::Live(), 0) << "the component still holds objects of the host";
-  CoFreeUnusedLibrariesEx(0, 0);
-  EXPECT_EQ(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), nullptr) << "objects of the component live on";
 }
 
 class RegisteredGoldenTest : public testing::TestWithParam<std::string> {};

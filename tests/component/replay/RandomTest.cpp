@@ -10,7 +10,6 @@
 #include "fuzz/SessionFromBytes.h"
 #include "replay/HeadlessSubject.h"
 #include "tests/component/replay/Apartment.h"
-#include "tests/component/replay/LateBound.h"
 #include "tests/component/replay/RegisteredSubject.h"
 #include "tests/component/replay/Transcripts.h"
 
@@ -38,7 +37,8 @@ TEST(RandomSessions, GiveTheSameTranscriptThroughAutomation) {
     const Played actual = Play(document, MakeRegisteredSubject);
     ASSERT_EQ(expected.refusal, actual.refusal) << text;
     ASSERT_EQ(FirstDifference(expected.lines, actual.lines), std::nullopt) << "session " << i << ": " << text;
-    ASSERT_EQ(LateBound::Live(), 0) << text;
+    ExpectNothingLeft();
+    ASSERT_FALSE(HasFailure()) << text;
     lines += expected.lines.size();
   }
   RecordProperty("lines", static_cast<int>(lines));
