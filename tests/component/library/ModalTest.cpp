@@ -9,11 +9,11 @@ namespace {
 
 class ModalTest : public ComponentTest {
  protected:
-  ModalTest() {
-    owner_ = CreateWindowExW(0, L"STATIC", L"host", WS_POPUP | WS_VISIBLE, 100, 100, 600, 400, nullptr, nullptr, nullptr,
-                             nullptr);
+  ModalTest() { SetActiveWindow(active_); }
+  ~ModalTest() override {
+    DestroyWindow(active_);
+    DestroyWindow(owner_);
   }
-  ~ModalTest() override { DestroyWindow(owner_); }
 
   /// A form for five years of the host's amount.
   ComPtr<IfrmScenario> NewForm() {
@@ -34,9 +34,16 @@ class ModalTest : public ComponentTest {
   }
   Variant Owner() const { return Variant(static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(owner_))); }
 
+  static HWND MakeWindow() {
+    return CreateWindowExW(0, L"STATIC", L"host", WS_POPUP | WS_VISIBLE, 100, 100, 600, 400, nullptr, nullptr, nullptr,
+                           nullptr);
+  }
+
   static inline std::function<void(HWND)> body_;
   FakeHost host_;
-  HWND owner_;
+  /// The window that the host names, and another one, which the person is in.
+  const HWND owner_ = MakeWindow();
+  const HWND active_ = MakeWindow();
 };
 
 TEST_F(ModalTest, TheFormBelongsToTheWindowThatTheHostNames) {
@@ -59,11 +66,10 @@ TEST_F(ModalTest, TheFormBelongsToTheWindowThatTheHostNames) {
 
 TEST_F(ModalTest, WithoutANameTheFormBelongsToTheWindowThatIsActive) {
   const auto form = NewForm();
-  SetActiveWindow(owner_);
   bool seen = false;
   WhenOpen([&](HWND window) {
     seen = true;
-    EXPECT_EQ(GetWindow(window, GW_OWNER), owner_);
+    EXPECT_EQ(GetWindow(window, GW_OWNER), active_);
   });
   EXPECT_EQ(form->Tonen(Variant::Missing().Raw()), S_OK);
   EXPECT_TRUE(seen);
