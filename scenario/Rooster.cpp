@@ -159,7 +159,7 @@ double Rooster::Totaal() const {
   double totaal = static_cast<const host::TextBox&>(form_.At(txtBedrag.row)).Number();
   for (const Rij& rij : rijen_)
     if (rij.bedrag != nullptr) totaal += rij.bedrag->Number();
-  return totaal;
+  return frame::Finite(totaal);
 }
 
 }  // namespace brivane::scenario

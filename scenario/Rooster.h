@@ -30,7 +30,7 @@ class Rooster {
   void ZetKorting(int rij, double korting);
   [[nodiscard]] bool Eenmalig(int rij) const;
   void ZetEenmalig(int rij, bool eenmalig);
-  /// Sum of all amount boxes, the template included.
+  /// Sum of all amount boxes, the template included. Fails with error 6 where a double cannot hold it.
   [[nodiscard]] double Totaal() const;
 
   /// A row was edited in one of its boxes.

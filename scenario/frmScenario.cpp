@@ -342,7 +342,7 @@ void frmScenario::Bewaar(Invoersoort soort) {
 }
 
 void frmScenario::ToonTotaal() {
-  controls_[txtTotaal].SetNumber(frame::Finite(rooster_.Totaal()));
+  controls_[txtTotaal].SetNumber(rooster_.Totaal());
 }
 
 host::BedragObject& frmScenario::Bron() const {

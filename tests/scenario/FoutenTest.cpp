@@ -134,6 +134,22 @@ TEST_F(Fouten, AnAmountThatGrowsPastADoubleOverflows) {
   EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(6, "Overflow")}));
 }
 
+TEST_F(Fouten, ATotalThatNoDoubleHoldsIsNeitherShownNorHeldAgainstTheMaximum) {
+  scenario->naam = "Overbruggingskrediet";
+  for (const double bedrag : {1e308, -1e308}) {
+    Nieuw();
+    Open(1, 2, {.maxOpname = 25000});
+    Zet("txtBedrag", {bedrag, 0});
+    berichten.clear();
+    Typ("txtBedrag", 2, bedrag);
+    EXPECT_EQ(Vak("txtTotaal").Number(), 0);
+    DrukOK();
+    EXPECT_EQ(berichten, (std::vector<Bericht>{Foutbericht(6, "Overflow"), Foutbericht(6, "Overflow")}));
+    EXPECT_TRUE(scenario->log.empty());
+    EXPECT_FALSE(Venster().IsUnloaded());
+  }
+}
+
 TEST_F(Fouten, ANetPercentageThatNoDoubleHoldsIsNotWritten) {
   Open(2, 2, {.korting = true});
   Typ("txtKorting", 1, -1e308);
