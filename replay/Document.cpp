@@ -24,6 +24,13 @@ std::set<Log> ReadLog(const Value& value) {
   return logs;
 }
 
+host::Date ReadToday(const Value& value) {
+  const host::Date today = value.CalendarDate();
+  // It would be taken for a document that leaves the date to the system.
+  if (today.IsNone()) value.Refuse("30 December 1899 stands for no date");
+  return today;
+}
+
 float ReadTwipsPerPixel(const std::optional<Value>& value, float otherwise) {
   if (!value) return otherwise;
   const float twips = value->Single();
@@ -71,7 +78,7 @@ Document ReadDocument(std::string_view text) {
   const Value value(json, "");
   value.Keys({"today", "title", "locale", "screen", "headers", "log", "dossier", "faults", "steps"});
   Document document;
-  if (const auto today = value.Find("today")) document.today = today->CalendarDate();
+  if (const auto today = value.Find("today")) document.today = ReadToday(*today);
   if (const auto title = value.Find("title")) document.title = title->Text();
   if (const auto locale = value.Find("locale")) document.locale = locale->Text();
   if (const auto screen = value.Find("screen")) {
