@@ -11,6 +11,8 @@ using headless::Aspect;
 namespace {
 
 constexpr int kMostShown = 12;
+/// Beside the text of an entry in the dropped list.
+constexpr int kEntryMargin = 8;
 
 }  // namespace
 
@@ -45,6 +47,16 @@ void ComboWindow::AddEntry(const headless::ListBox::Entry& entry) const {
 
 void ComboWindow::ShowIndex() const {
   SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+}
+
+/// The dropped list is as wide as its longest entry, so that a person reads what there is to choose.
+void ComboWindow::WidenDropped() const {
+  const Measuring measuring(Font());
+  int longest = 0;
+  for (const headless::ListBox::Entry& entry : list_.Entries())
+    longest = std::max(longest, measuring.Width(Wide(entry.text)));
+  const int beside = GetSystemMetrics(SM_CXVSCROLL) + Toolkit().Edge().Designed(kEntryMargin);
+  SendMessageW(Handle(), CB_SETDROPPEDWIDTH, static_cast<WPARAM>(longest + beside), 0);
 }
 
 bool ComboWindow::IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE; }
@@ -85,7 +97,10 @@ void ComboWindow::Take() {
 
 void ComboWindow::OnCommand(int code) {
   switch (code) {
-    case CBN_DROPDOWN: givenUp_ = false; break;
+    case CBN_DROPDOWN:
+      givenUp_ = false;
+      WidenDropped();
+      break;
     case CBN_SELENDCANCEL: givenUp_ = true; break;
     case CBN_SELENDOK: givenUp_ = false; break;
     case CBN_SELCHANGE:

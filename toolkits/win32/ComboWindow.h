@@ -22,6 +22,7 @@ class ComboWindow final : public ControlWindow {
   [[nodiscard]] bool IsDropped() const;
   void AddEntry(const headless::ListBox::Entry& entry) const;
   void ShowIndex() const;
+  void WidenDropped() const;
   void Take();
 
   headless::ListBox& list_;

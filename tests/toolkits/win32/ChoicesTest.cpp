@@ -157,6 +157,26 @@ TEST_F(Lists, KeepWhatStandsWhenABoxElsewhereRefuses) {
   EXPECT_EQ(Shown(), 0);
 }
 
+TEST_F(Lists, DropDownAsWideAsTheLongestEntry) {
+  const HWND window = WindowOf("cboTermijn");
+  const auto dropped = [&] {
+    SetFocus(window);
+    Press(VK_F4);
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    GetComboBoxInfo(window, &info);
+    RECT place{};
+    GetWindowRect(info.hwndList, &place);
+    Press(VK_ESCAPE);
+    return place.right - place.left;
+  };
+  // As wide as the box while that is enough: 2400 twips.
+  EXPECT_EQ(dropped(), 160);
+  list_.Add("Onderlinge Levensverzekering-Maatschappij tot Nut van het Algemeen", 6);
+  // 66 letters of at least a third of the 12 pixels of the font.
+  EXPECT_GT(dropped(), 66 * 12 / 3);
+}
+
 TEST_F(Lists, TurnOnlyWithTheFocusByTheWheel) {
   list_.SetListIndex(0);
   Focus("txtNaam");

@@ -332,6 +332,32 @@ TEST_F(ScenarioForm, AFormLargerThanTheScreenScrollsToWhatHasTheFocus) {
       true);
 }
 
+TEST_F(ScenarioForm, TheReasonStandsWhereItIsSeenAlsoInAScrolledForm) {
+  toolkit_.SetScale(6);
+  Open(
+      80,
+      [&] {
+        for (const int row : {80, 1, 14, 15, 16, 17}) {
+          const HWND box = Shown(Cell("txtBedrag", row)).Handle();
+          SetFocus(box);
+          TypeOver(L"12.50");
+          Press(VK_TAB);
+          const win32::Bubble* const reason = dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).ReasonShown();
+          ASSERT_NE(reason, nullptr);
+          RECT place{};
+          GetWindowRect(reason->Handle(), &place);
+          MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+          RECT seen{};
+          GetClientRect(window_, &seen);
+          EXPECT_GE(place.left, 0) << row;
+          EXPECT_GE(place.top, 0) << row;
+          EXPECT_LE(place.right, seen.right) << row;
+          EXPECT_LE(place.bottom, seen.bottom) << row;
+          Press(VK_ESCAPE);
+        }
+      });
+}
+
 TEST_F(ScenarioForm, EightyRowsShowToThePixelWhatTheControlsHold) {
   scenario_->naam = "Rente";
   scenario_->invoersoort = 2;
