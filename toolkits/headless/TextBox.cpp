@@ -32,7 +32,7 @@ std::string TextBox::Text() const { return As<std::string>(content_); }
 double TextBox::Number() const { return As<double>(content_); }
 host::Date TextBox::DateValue() const { return As<host::Date>(content_); }
 
-void TextBox::Put(BoxValue value) {
+void TextBox::SetContent(BoxValue value) {
   if (Empties(value, Format())) value = std::monostate{};
   if (value == content_ && !edited_) return;
   content_ = std::move(value);
@@ -44,11 +44,11 @@ void TextBox::SetText(const std::string& text) {
   // Filling the same text again is common and costs no copy.
   if (const auto* present = std::get_if<std::string>(&content_); present != nullptr && *present == text && !edited_)
     return;
-  Put(text);
+  SetContent(text);
 }
 
-void TextBox::SetNumber(double number) { Put(number); }
-void TextBox::SetDate(host::Date date) { Put(date); }
+void TextBox::SetNumber(double number) { SetContent(number); }
+void TextBox::SetDate(host::Date date) { SetContent(date); }
 
 void TextBox::SetFocus() {
   if (GetPeer() != nullptr) GetPeer()->TakeFocus();
@@ -58,7 +58,7 @@ void TextBox::SetFocus() {
 Outcome TextBox::Act(const Action& action) {
   const auto* enter = std::get_if<Enter>(&action);
   if (enter == nullptr || locked_) return Outcome::Ignored;
-  Put(enter->value);
+  SetContent(enter->value);
   bool cancel = false;
   Validation.Raise(cancel);
   return cancel ? Outcome::Refused : Outcome::Done;

@@ -25,6 +25,7 @@ class TextBox final : public ControlOf<host::TextBox> {
 
   /// What the box holds, of whatever kind.
   [[nodiscard]] const BoxValue& Content() const { return content_; }
+  void SetContent(BoxValue value);
   [[nodiscard]] frame::Format Format() const { return Row().format; }
   /// A person is typing something that was not entered yet: the next value written by code is shown,
   /// also when it equals the content.
@@ -35,8 +36,6 @@ class TextBox final : public ControlOf<host::TextBox> {
   void CopyFrom(const AnyControl& original) override;
 
  private:
-  void Put(BoxValue value);
-
   BoxValue content_;
   bool locked_;
   bool edited_ = false;

@@ -6,21 +6,6 @@ namespace brivane::qt {
 
 using frame::Format;
 
-namespace {
-
-void Write(headless::TextBox& box, const headless::BoxValue& content) {
-  if (const auto* text = std::get_if<std::string>(&content))
-    box.SetText(*text);
-  else if (const auto* number = std::get_if<double>(&content))
-    box.SetNumber(*number);
-  else if (const auto* date = std::get_if<host::Date>(&content))
-    box.SetDate(*date);
-  else
-    box.SetText({});
-}
-
-}  // namespace
-
 BoxLink::BoxLink(EntryBox& entry, Toolkit& toolkit) : entry_(entry), toolkit_(toolkit) {
   entry_.SetCommitter([this](const QString& typed) { return Commit(typed); });
   entry_.SetOnEdit([this] {
@@ -67,7 +52,7 @@ EntryBox::Verdict BoxLink::Commit(const QString& typed) {
 
 /// Refused content had reached the box: what stood there goes back into it.
 void BoxLink::PutBack() {
-  if (box_->Content() != standing_) Write(*box_, standing_);
+  if (box_->Content() != standing_) box_->SetContent(standing_);
 }
 
 }  // namespace brivane::qt

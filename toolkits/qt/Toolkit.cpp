@@ -2,7 +2,6 @@
 
 #include <QFontMetricsF>
 
-#include "frame/ErrorReport.h"
 #include "toolkits/qt/CellPeer.h"
 #include "toolkits/qt/EntryBox.h"
 #include "toolkits/qt/FormWindow.h"
@@ -11,16 +10,8 @@
 
 namespace brivane::qt {
 
-void Toolkit::Guard(const std::function<void()>& body) {
-  try {
-    body();
-  } catch (...) {
-    const host::Error failure = frame::CurrentError();
-    if (failureListener_) return failureListener_(failure);
-    const std::string text =
-        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description();
-    (void)desktop_.Ask(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
-  }
+void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
+  (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
 }
 
 bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget) {

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QWidget>
-#include <functional>
 #include <memory>
 
-#include "host/Error.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/headless/DrawnToolkit.h"
 #include "toolkits/qt/Desktop.h"
 #include "toolkits/qt/Edge.h"
 
@@ -15,17 +13,9 @@ namespace brivane::qt {
 /// here that shows it and hands over what a person does.
 ///
 /// Must outlive the surfaces and forms that it made.
-class Toolkit : public headless::ToolkitBase {
+class Toolkit : public headless::DrawnToolkit {
  public:
-  using FailureListener = std::function<void(const host::Error& failure)>;
-
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
-
-  /// Where a failure goes that no procedure handled: it would otherwise cross the event loop. Without a
-  /// listener a message box tells it.
-  void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
-  /// Runs something that a widget sets off, and hands its failure to the listener.
-  void Guard(const std::function<void()>& body);
 
   /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
   /// handed over first; where that is refused, the action is not done. False where it was not done.
@@ -43,11 +33,11 @@ class Toolkit : public headless::ToolkitBase {
  protected:
   [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
   [[nodiscard]] std::unique_ptr<headless::FormPeer> MakeFormPeer(headless::Form& form) override;
+  void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:
   qt::Desktop desktop_;
   qt::Edge edge_;
-  FailureListener failureListener_;
 };
 
 }  // namespace brivane::qt

@@ -25,17 +25,6 @@ Making BoxMaking(const headless::TextBox& box) {
           .extendedStyle = WS_EX_CLIENTEDGE};
 }
 
-void Write(headless::TextBox& box, const headless::BoxValue& content) {
-  if (const auto* text = std::get_if<std::string>(&content))
-    box.SetText(*text);
-  else if (const auto* number = std::get_if<double>(&content))
-    box.SetNumber(*number);
-  else if (const auto* date = std::get_if<host::Date>(&content))
-    box.SetDate(*date);
-  else
-    box.SetText({});
-}
-
 std::wstring ShownContent(const headless::BoxValue& content, Format format) {
   return Wide(entry::ShowContent(content, format));
 }
@@ -179,7 +168,7 @@ bool BoxWindow::Restore() {
 
 /// Refused content had reached the box: what stood there goes back into it.
 void BoxWindow::PutBack() {
-  if (box_.Content() != standing_) Write(box_, standing_);
+  if (box_.Content() != standing_) box_.SetContent(standing_);
 }
 
 /// Another window, a menu or a list that drops down borrows the focus: the box has not been left.

@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include "frame/ErrorReport.h"
 #include "toolkits/win32/BoxWindow.h"
 #include "toolkits/win32/FormWindow.h"
 #include "toolkits/win32/Navigation.h"
@@ -92,16 +91,8 @@ HWND Toolkit::MakeWindow(const Making& making, HWND parent) const {
   });
 }
 
-void Toolkit::Guard(const std::function<void()>& body) {
-  try {
-    body();
-  } catch (...) {
-    const host::Error failure = frame::CurrentError();
-    if (failureListener_) return failureListener_(failure);
-    const std::string text =
-        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description();
-    (void)desktop_.Ask(std::string(frame::kReportCaption), text, host::MessageStyle::OkExclamation);
-  }
+void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
+  (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
 }
 
 bool Toolkit::LeaveBox(const Window& target) {

@@ -5,9 +5,8 @@
 
 #include "toolkits/win32/WindowsApi.h"
 
-#include "host/Error.h"
 #include "host/model/Hoofdvenster.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/headless/DrawnToolkit.h"
 #include "toolkits/win32/Desktop.h"
 #include "toolkits/win32/Edge.h"
 #include "toolkits/win32/Fonts.h"
@@ -37,22 +36,14 @@ class Hoofdvenster : public host::Hoofdvenster {
 ///     if (!toolkit.Navigate(*surface, message)) { TranslateMessage(&message); DispatchMessageW(&message); }
 ///
 /// Everything happens on the thread that made it. Must outlive the surfaces and forms that it made.
-class Toolkit : public headless::ToolkitBase {
+class Toolkit : public headless::DrawnToolkit {
  public:
-  using FailureListener = std::function<void(const host::Error& failure)>;
-
   /// `module` is the program or library with this code. Where its resources hold a manifest (number 2, or
   /// 1 of a program) that asks for version 6 of the common controls, the controls look that way.
   explicit Toolkit(HINSTANCE module);
   ~Toolkit() override;
 
   [[nodiscard]] win32::Desktop& Desktop() override { return desktop_; }
-
-  /// Where a failure goes that no procedure handled: it would otherwise cross a window procedure. Without a
-  /// listener a message box tells it.
-  void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
-  /// Runs something that a window sets off, and hands its failure to the listener.
-  void Guard(const std::function<void()>& body);
 
   /// A person acts on a control through its window. A box that is being edited elsewhere in the same
   /// top-level window is handed over first; where that is refused, the action is not done. False where it
@@ -97,6 +88,7 @@ class Toolkit : public headless::ToolkitBase {
  protected:
   [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
   [[nodiscard]] std::unique_ptr<headless::FormPeer> MakeFormPeer(headless::Form& form) override;
+  void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:
   class Look;
@@ -104,7 +96,6 @@ class Toolkit : public headless::ToolkitBase {
   HINSTANCE module_;
   win32::Desktop desktop_;
   win32::Edge edge_;
-  FailureListener failureListener_;
   mutable Fonts fonts_;
   std::unique_ptr<Look> look_;
   HWND parking_ = nullptr;
