@@ -8,7 +8,7 @@ namespace brivane::component {
 /// The type library that describes an interface.
 template <class Interface> inline constexpr module::Library kLibraryOf = module::Library::Public;
 
-/// A dual interface's late-bound half, done by its type information, and the word that its failures leave an error record.
+/// A dual interface's late-bound half, done by its type information, and the word that failures leave an error record.
 template <class Interface> class Dispatching : public Interface, public ISupportErrorInfo {
  public:
   STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override { return iid == __uuidof(Interface) ? S_OK : S_FALSE; }

@@ -1,5 +1,5 @@
-// What a container asks of the library's two controls themselves: to be kept with a form, to tell of their properties, and
-// to be silent.
+// What a container asks of the library's two controls themselves: to be kept with a form, to tell of their properties,
+// and to be silent.
 
 #include <map>
 #include <string>
