@@ -1,8 +1,13 @@
 #include "toolkits/win32/BoxWindow.h"
 
+#include <windowsx.h>
+
+#include <algorithm>
+
 #include "toolkits/entry/Column.h"
 #include "toolkits/entry/Content.h"
 #include "toolkits/entry/Trim.h"
+#include "toolkits/win32/Fonts.h"
 #include "toolkits/win32/FormWindow.h"
 #include "toolkits/win32/Text.h"
 
@@ -14,6 +19,8 @@ using headless::Aspect;
 namespace {
 
 constexpr UINT kTakeFocusBack = WM_APP + 1;
+/// Between the edit control's edge and its text.
+constexpr LONG kInnerMargin = 1;
 
 bool IsDecimal(Format format) { return format == Format::Amount || format == Format::Number; }
 
@@ -91,7 +98,29 @@ void BoxWindow::ShowVisible() {
   ControlWindow::ShowVisible();
 }
 
-void BoxWindow::ShowBackColor() { InvalidateRect(Handle(), nullptr, TRUE); }
+void BoxWindow::ShowFont() {
+  ControlWindow::ShowFont();
+  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void BoxWindow::ShowBackColor() { RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME); }
+
+/// The room inside the edge above the text: an edit control of one line begins at its top, so that top is made
+/// lower for the text to stand in the middle. In pixels of the window.
+RECT BoxWindow::RoomAbove() const {
+  RECT window{};
+  GetWindowRect(Handle(), &window);
+  const LONG across = GetSystemMetrics(SM_CXEDGE);
+  const LONG along = GetSystemMetrics(SM_CYEDGE);
+  const LONG spare = (HeightOf(window) - 2 * along - Measuring(Font()).LineHeight()) / 2 - kInnerMargin;
+  return {across, along, std::max(across, WidthOf(window) - across), along + std::max<LONG>(0, spare)};
+}
+
+void BoxWindow::PaintRoomAbove(HDC context) {
+  const RECT room = RoomAbove();
+  const bool open = IsWindowEnabled(Handle()) != FALSE && !IsReadOnly();
+  if (const HBRUSH brush = OnColor(open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, context)) FillRect(context, &room, brush);
+}
 
 /// Nothing while the box is taking an entry: what was typed stays as typed until it is accepted.
 void BoxWindow::ShowContent() {
@@ -245,6 +274,39 @@ LRESULT BoxWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case kTakeFocusBack: CommitPending(); return 0;
     case WM_PASTE: Paste(); return 0;
+    case WM_NCCALCSIZE: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      RECT& inside = *reinterpret_cast<RECT*>(lParam);  // also the first of the structure
+      const LONG spare = (HeightOf(inside) - Measuring(Font()).LineHeight()) / 2 - kInnerMargin;
+      inside.top += std::max<LONG>(0, spare);
+      return result;
+    }
+    case WM_NCPAINT: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      const HDC context = GetWindowDC(Handle());
+      PaintRoomAbove(context);
+      ReleaseDC(Handle(), context);
+      return result;
+    }
+    case WM_PRINT: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      if ((lParam & PRF_NONCLIENT) != 0) PaintRoomAbove(reinterpret_cast<HDC>(wParam));
+      return result;
+    }
+    case WM_NCHITTEST: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      RECT window{};
+      GetWindowRect(Handle(), &window);
+      RECT room = RoomAbove();
+      OffsetRect(&room, window.left, window.top);
+      return PtInRect(&room, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}) != FALSE ? HTCLIENT : result;
+    }
+    case WM_ENABLE:
+    case EM_SETREADONLY: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+      return result;
+    }
     default: return ControlWindow::OnMessage(message, wParam, lParam);
   }
 }

@@ -39,6 +39,7 @@ class BoxWindow : public ControlWindow {
   void OnCommand(int code) override;
   bool OnKey(WPARAM key) override;
   void ShowVisible() override;
+  void ShowFont() override;
   void ShowBackColor() override;
   /// Makes a text the pending edit, as if typed.
   void TypeText(const std::wstring& text);
@@ -46,6 +47,8 @@ class BoxWindow : public ControlWindow {
   void SelectAll() const;
 
  private:
+  [[nodiscard]] RECT RoomAbove() const;
+  void PaintRoomAbove(HDC context);
   void ShowContent();
   void ShowText(const std::wstring& text);
   void OnEdited();

@@ -183,12 +183,6 @@ LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam != HTOBJECT) break;
       PressButton();
       return 0;
-    case WM_ENABLE:
-    case EM_SETREADONLY: {
-      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
-      RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
-      return result;
-    }
     default: break;
   }
   return BoxWindow::OnMessage(message, wParam, lParam);

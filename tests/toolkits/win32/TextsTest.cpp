@@ -68,11 +68,23 @@ class Texts : public testing::TestWithParam<double> {
       case Kind::TextBox: {
         SendMessageW(window, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&inside));
         ExpectLine(window, win32::TextOf(window), inside);
+        ExpectMiddle(window);
         break;
       }
       case Kind::ListView: ExpectColumnsWhole(window); break;
       default: break;
     }
+  }
+
+  /// The text of a box stands in its middle, level with the label beside it.
+  static void ExpectMiddle(HWND box) {
+    RECT outer{};
+    GetWindowRect(box, &outer);
+    RECT line{};
+    SendMessageW(box, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&line));
+    MapWindowPoints(box, nullptr, reinterpret_cast<POINT*>(&line), 2);
+    const LONG height = SizeOf(box, L"Ág", DT_SINGLELINE, 0).cy;
+    EXPECT_NEAR(line.top - outer.top, outer.bottom - (line.top + height), 2);
   }
 
   static void ExpectLine(HWND window, const std::wstring& text, const RECT& place) {
