@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -23,11 +24,31 @@ host::Date Datum(int dag, int maand, int jaar) {
   return frame::MakeDate({.year = jaar, .month = maand, .day = dag});
 }
 
+/// Closes each box that the window itself shows, and keeps what the first one said: nobody is there to read it.
+class Berichten final : public QObject {
+ public:
+  Berichten() { QApplication::instance()->installEventFilter(this); }
+  [[nodiscard]] const QString& Eerste() const { return eerste_; }
+
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* bericht = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
+    if (bericht != nullptr) {
+      if (eerste_.isEmpty()) eerste_ = (bericht->text() + u' ' + bericht->informativeText()).simplified();
+      QTimer::singleShot(0, bericht, &QDialog::reject);
+    }
+    return QObject::eventFilter(object, event);
+  }
+
+ private:
+  QString eerste_;
+};
+
 /// One session on an open file. A step that is not done as it should ends it with an exception.
 class Sessie {
  public:
-  Sessie(Hoofdvenster& venster, const QDir& map)
-      : venster_(venster),
+  Sessie(Hoofdvenster& venster, const QDir& map, const Berichten& berichten)
+      : berichten_(berichten),
+        venster_(venster),
         map_(map),
         scherm_(*venster.Scherm()),
         editor_(scherm_.Kolom().Editor()),
@@ -160,6 +181,8 @@ class Sessie {
     headless::AnyControl* control = vlak.Find(naam, index);
     Moet(control != nullptr && control->Perform(actie) == headless::Outcome::Done, naam);
     QApplication::processEvents();
+    if (!berichten_.Eerste().isEmpty())
+      throw std::runtime_error(std::string(naam) + " was answered: " + berichten_.Eerste().toStdString());
   }
 
   host::MessageAnswer Antwoord(const std::string& titel, const std::string& tekst, host::MessageStyle stijl) {
@@ -186,6 +209,7 @@ class Sessie {
     transcript_.Schrijf({{u"picture"_qs, naam}});
   }
 
+  const Berichten& berichten_;
   Hoofdvenster& venster_;
   QDir map_;
   Dossierscherm& scherm_;
@@ -201,13 +225,14 @@ QString SpeelSessie(const QString& uitvoermap, const QString& bestand) {
   if (!QDir().mkpath(uitvoermap)) return QStringLiteral("cannot make the folder '%1'").arg(uitvoermap);
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, terzijde.path());
   Logboek logboek(terzijde.filePath(QStringLiteral("logboek")));
+  const Berichten berichten;
   Hoofdvenster venster(logboek);
   // Pictures are alike on every machine, whatever its screen.
   venster.resize(Hoofdvenster::kEersteMaat);
   venster.show();
   try {
     venster.Toon(DossierBestand::Open(bestand));
-    Sessie(venster, QDir(uitvoermap)).Speel();
+    Sessie(venster, QDir(uitvoermap), berichten).Speel();
     if (!venster.SluitDossier()) return QStringLiteral("not done: closing the file");
   } catch (const std::exception& fout) {
     return QString::fromUtf8(fout.what());

@@ -70,6 +70,18 @@ TEST(Opdrachtregel, EenSessieOpEenAnderSoortBestandMisluktInEenRegel) {
   EXPECT_TRUE(uitvoer.fout.contains("is geen dossier"));
 }
 
+/// The session ends by taking the partner out, to whom a second one lets an amount go over.
+TEST(Opdrachtregel, EenSessieDieEenFoutmeldingKrijgtEindigtMetWatDieZegt) {
+  const QTemporaryDir map;
+  const QString bestand = map.filePath("s.dossier");
+  ASSERT_EQ(Draai({"--voorbeeld", bestand}).code, 0);
+  ASSERT_EQ(Draai({"--sessie", map.filePath("uit"), bestand}).code, 0);
+  const Uitvoer tweede = Draai({"--sessie", map.filePath("uit"), bestand});
+  EXPECT_EQ(tweede.code, 1);
+  EXPECT_TRUE(tweede.fout.contains("txtEinddatum was answered: Er is een fout opgetreden.")) << qPrintable(tweede.fout);
+  EXPECT_TRUE(tweede.fout.contains("Foutnummer: 91")) << qPrintable(tweede.fout);
+}
+
 TEST(Opdrachtregel, DeSessieLaatBeeldenEnEenTranscriptAchter) {
   const QTemporaryDir map;
   const QString bestand = map.filePath("s.dossier");
