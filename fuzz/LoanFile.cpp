@@ -36,12 +36,12 @@ struct Input {
 
 /// What follows the pages that the file's header speaks of is its log.
 Input Split(std::span<const std::uint8_t> bytes) {
-  constexpr qsizetype kPageSize = 16;
-  constexpr qsizetype kPageCount = 28;
+  constexpr std::size_t kPageSize = 16;
+  constexpr std::size_t kPageCount = 28;
   const QByteArray all(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
-  if (all.size() < kPageCount + 4) return {all, {}};
-  const qsizetype length = qsizetype{qFromBigEndian<quint16>(all.constData() + kPageSize)} *
-                           qFromBigEndian<quint32>(all.constData() + kPageCount);
+  if (bytes.size() < kPageCount + 4) return {all, {}};
+  const qsizetype length = qsizetype{qFromBigEndian<quint16>(bytes.data() + kPageSize)} *
+                           qFromBigEndian<quint32>(bytes.data() + kPageCount);
   return length == 0 ? Input{all, {}} : Input{all.first(std::min(length, all.size())), all.mid(length)};
 }
 
