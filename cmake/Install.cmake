@@ -1,4 +1,4 @@
-# What an embedding project gets: the logic and the headless toolkit as Brivane::VrijeKolom, the Qt toolkit as
+# What an embedding project gets: the logic and the toolkit in memory as Brivane::VrijeKolom, the Qt toolkit as
 # Brivane::Qt, their headers under include/brivane, and a package that find_package() finds.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -23,7 +23,7 @@ foreach(library IN LISTS libraries)
   if(folder MATCHES "^toolkits/qt")
     list(APPEND qt ${library})
     target_link_libraries(brivane_embedding_qt INTERFACE ${library})
-  elseif(folder MATCHES "^(host|frame|toelichting|scenario|vrijekolom|toolkits)")
+  elseif(folder MATCHES "^(host|frame|toelichting|scenario|vrijekolom|controls|toolkits)")
     list(APPEND core ${library})
     target_link_libraries(brivane_embedding INTERFACE ${library})
   endif()
@@ -37,7 +37,7 @@ if(parts GREATER 1)
   install(EXPORT Qt NAMESPACE Brivane:: FILE QtTargets.cmake DESTINATION ${package_dir})
 endif()
 
-install(DIRECTORY host frame toelichting scenario vrijekolom toolkits DESTINATION include/brivane
+install(DIRECTORY host frame toelichting scenario vrijekolom controls toolkits DESTINATION include/brivane
         FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE PATTERN "toolkits/win32" EXCLUDE)
 if(WIN32)
   install(DIRECTORY toolkits/win32 DESTINATION include/brivane/toolkits FILES_MATCHING PATTERN "*.h")

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "dossier/store/DossierBestand.h"
+#include "dossier/store/DossierFile.h"
 #include "host/Error.h"
 
 namespace brivane::fuzz {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "frame/Design.h"
-#include "replay/ControlNames.h"
+#include "replay/document/ControlNames.h"
 #include "scenario/Ontwerp.h"
 #include "vrijekolom/Ontwerp.h"
 

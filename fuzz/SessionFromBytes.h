@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fuzz/Bytes.h"
-#include "replay/Json.h"
+#include "replay/document/Json.h"
 
 namespace brivane::fuzz {
 

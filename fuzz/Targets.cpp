@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "fuzz/SessionFromBytes.h"
-#include "replay/Document.h"
-#include "replay/Session.h"
+#include "replay/document/Document.h"
+#include "replay/play/Session.h"
 
 namespace brivane::fuzz {
 

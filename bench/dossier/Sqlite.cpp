@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "dossier/store/Velden.h"
+#include "dossier/store/Fields.h"
 
 namespace bench {
 namespace {

@@ -7,9 +7,9 @@
 #include "bench/dossier/Sqlite.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
-#include "dossier/model/Voorbeeld.h"
-#include "dossier/store/DossierBestand.h"
-#include "toolkits/headless/Toolkit.h"
+#include "dossier/model/SampleCase.h"
+#include "dossier/store/DossierFile.h"
+#include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
 
@@ -39,7 +39,7 @@ struct Sides {
         editor(*surface, toolkit,
                {.MaakProcedureTrace = [this](std::string_view control) { return bestand->MaakTrace(control); },
                 .MaakDossierControle = {}}),
-        box(*headless::Surface::Of(*surface).Find("TxtBd")),
+        box(*controls::Surface::Of(*surface).Find("TxtBd")),
         database(bench::Open(kaal.toLocal8Bit().constData())),
         update(bench::Prepare(database, "UPDATE vrijekolom SET bedrag = ? WHERE sleutel = ?")) {
     // Both files were made alike, so the column has the same key in each.
@@ -47,7 +47,7 @@ struct Sides {
     editor.SetApplication(application, 0, 1);
   }
 
-  void Edit() { box.Perform(headless::Enter{++bedrag}); }
+  void Edit() { box.Perform(controls::Enter{++bedrag}); }
   void Update() {
     sqlite3_bind_double(update.get(), 1, ++bedrag);
     if (sqlite3_step(update.get()) != SQLITE_DONE || sqlite3_changes(database.get()) != 1) std::abort();
@@ -55,12 +55,12 @@ struct Sides {
   }
 
   double bedrag = 0;
-  headless::Toolkit toolkit;
+  memory::Toolkit toolkit;
   std::unique_ptr<dossier::DossierBestand> bestand;
   std::shared_ptr<host::Application> application;
   std::unique_ptr<host::Surface> surface;
   VrijeKolom editor;
-  headless::AnyControl& box;
+  controls::AnyControl& box;
   bench::Connection database;
   bench::Statement update;
 };

@@ -4,9 +4,9 @@
 #include "bench/Compare.h"
 #include "bench/qt/PlainEditor.h"
 #include "dossier/model/Application.h"
-#include "dossier/model/Omgeving.h"
+#include "dossier/model/Environment.h"
 #include "frame/Calendar.h"
-#include "toolkits/headless/TextBox.h"
+#include "controls/TextBox.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
 namespace {
@@ -92,12 +92,12 @@ int main(int argc, char** argv) {
         Paint();
       });
 
-  auto& amount = dynamic_cast<headless::TextBox&>(*headless::Surface::Of(editor.Surface()).Find("TxtBd"));
+  auto& amount = dynamic_cast<controls::TextBox&>(*controls::Surface::Of(editor.Surface()).Find("TxtBd"));
   auto& box = dynamic_cast<QLineEdit&>(plain.Find("TxtBd"));
   bench::Compare(
       "one edit and paint", {.measured = "editor", .yardstick = "set by hand", .aim = 1.2},
       [&] {
-        amount.Perform(headless::Enter{amount.Number() == 12.5 ? 25.0 : 12.5});
+        amount.Perform(controls::Enter{amount.Number() == 12.5 ? 25.0 : 12.5});
         Paint();
       },
       [&] {

@@ -11,8 +11,8 @@
 #include <QRadioButton>
 #include <QTreeWidget>
 
-#include "toolkits/qt/HelpIcon.h"
-#include "toolkits/qt/JaNeeToggle.h"
+#include "toolkits/qt/widgets/HelpIcon.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
 
 namespace bench {
 namespace {

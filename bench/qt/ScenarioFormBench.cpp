@@ -7,8 +7,8 @@
 #include "scenario/Ontwerp.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/qt/FormWindow.h"
+#include "controls/TextBox.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 namespace bench {
 namespace {
@@ -58,11 +58,11 @@ void CompareOpening(qt::Toolkit& toolkit) {
 
 /// An edit of row 1 that grows every later row, and the paint after it.
 void CompareGrowth(frmScenario& form, PlainForm& plain) {
-  auto& box = dynamic_cast<headless::TextBox&>(*dynamic_cast<headless::Form&>(form.Form()).Find("txtBedrag", 1));
+  auto& box = dynamic_cast<controls::TextBox&>(*dynamic_cast<controls::Form&>(form.Form()).Find("txtBedrag", 1));
   Compare(
       "80 rows of kind 3: grow and paint", {.measured = "form", .yardstick = "240 setText", .aim = 0.5},
       [&box] {
-        box.Perform(headless::Enter{box.Number() == 2000 ? 3000.0 : 2000.0});
+        box.Perform(controls::Enter{box.Number() == 2000 ? 3000.0 : 2000.0});
         QApplication::processEvents();
       },
       [&plain] {

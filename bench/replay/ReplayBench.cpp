@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "replay/Session.h"
+#include "replay/play/Session.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "frame/Design.h"
-#include "toolkits/headless/Surface.h"
+#include "controls/Surface.h"
 
 namespace brivane::component {
 
@@ -30,11 +30,11 @@ Extent SurfaceSubject::Extent() const {
 }
 
 void SurfaceSubject::SetWidth(host::Twips width) {
-  headless::Surface::Of(surface_).Size(width * (1 / Scale()), surface_.Place().height);
+  controls::Surface::Of(surface_).Size(width * (1 / Scale()), surface_.Place().height);
 }
 
 void SurfaceSubject::FollowFont(float points) {
-  const float designed = headless::Surface::Of(surface_).Table().fontSize;
+  const float designed = controls::Surface::Of(surface_).Table().fontSize;
   const double scale = std::max(1.0F, points / designed) * ScreenDpi() / kDesignedDpi;
   if (scale == toolkit_.Edge().Scale()) return;
   toolkit_.SetScale(scale);
@@ -47,7 +47,7 @@ void SurfaceSubject::Focus(TabEnd end) {
 
 std::wstring SurfaceSubject::Mnemonics() const {
   std::wstring letters;
-  Collect(headless::Surface::Of(surface_).Table(), letters);
+  Collect(controls::Surface::Of(surface_).Table(), letters);
   return letters;
 }
 

@@ -20,7 +20,7 @@ class CoObject : public Dispatching<Interface>,
                  public IProvideClassInfo2,
                  public IProefdeurHouder,
                  public Identity,
-                 private headless::ActionListener {
+                 private controls::ActionListener {
  public:
   CoObject(IUnknown* outer, const CLSID& classId, const IID& outgoing)
       : Identity(outer), classId_(classId), outgoing_(outgoing) {
@@ -59,7 +59,7 @@ class CoObject : public Dispatching<Interface>,
     return nullptr;
   }
   /// What the door for tests opens to.
-  [[nodiscard]] virtual headless::Surface& DoorSurface() = 0;
+  [[nodiscard]] virtual controls::Surface& DoorSurface() = 0;
   [[nodiscard]] virtual std::optional<Variant> DoorAspect(std::string_view) const { return std::nullopt; }
 
   /// Runs a method's body: no exception crosses, and the object stays until it is done.
@@ -94,8 +94,8 @@ class CoObject : public Dispatching<Interface>,
   [[nodiscard]] const CLSID& OwnClass() const { return classId_; }
 
  private:
-  void Before(headless::AnyControl&, const headless::Action&) override { Enter(); }
-  void After(headless::AnyControl&, const headless::Action&, std::optional<headless::Outcome>) override { Leave(); }
+  void Before(controls::AnyControl&, const controls::Action&) override { Enter(); }
+  void After(controls::AnyControl&, const controls::Action&, std::optional<controls::Outcome>) override { Leave(); }
 
   const CLSID& classId_;
   const IID& outgoing_;

@@ -17,7 +17,7 @@ ScenarioObject::ScenarioObject(IUnknown* outer)
 
 ScenarioObject::~ScenarioObject() = default;
 
-headless::Surface& ScenarioObject::DoorSurface() { return headless::Surface::Of(form_->Form()); }
+controls::Surface& ScenarioObject::DoorSurface() { return controls::Surface::Of(form_->Form()); }
 
 brivane::frmScenario& ScenarioObject::ToSet() {
   if (stage_ == Stage::Closed) {

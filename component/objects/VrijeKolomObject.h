@@ -29,7 +29,7 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
   class Ingesloten;
 
   IUnknown* Find(REFIID iid) override;
-  headless::Surface& DoorSurface() override { return headless::Surface::Of(*surface_); }
+  controls::Surface& DoorSurface() override { return controls::Surface::Of(*surface_); }
   std::optional<Variant> DoorAspect(std::string_view aspect) const override;
 
   std::unique_ptr<host::Surface> surface_;

@@ -4,13 +4,13 @@
 
 #include "component/testdoor/Proefdeur.h"
 #include "host/Error.h"
-#include "toolkits/headless/ListBox.h"
+#include "controls/ListBox.h"
 
 namespace brivane::component {
 
 namespace {
 
-headless::BoxValue Typed(const VARIANT& value) {
+controls::BoxValue Typed(const VARIANT& value) {
   const Variant plain = Variant::CopyOf(value);
   switch (plain.Type()) {
     case VT_EMPTY:
@@ -22,10 +22,10 @@ headless::BoxValue Typed(const VARIANT& value) {
   }
 }
 
-int Entry(const VARIANT& value, const headless::AnyControl& control) {
+int Entry(const VARIANT& value, const controls::AnyControl& control) {
   const Variant plain = Variant::CopyOf(value);
   if (plain.Type() != VT_BSTR) return As<std::int32_t>(plain);
-  const auto* const list = dynamic_cast<const headless::ListBox*>(&control);
+  const auto* const list = dynamic_cast<const controls::ListBox*>(&control);
   if (!list) throw NoSuch("list", control.ElementName());
   const std::string text = As<std::string>(plain);
   for (int i = 0; i < list->ListCount(); ++i)
@@ -35,7 +35,7 @@ int Entry(const VARIANT& value, const headless::AnyControl& control) {
 
 }  // namespace
 
-headless::AnyControl* FindElement(headless::Surface& surface, std::string_view element) {
+controls::AnyControl* FindElement(controls::Surface& surface, std::string_view element) {
   const std::size_t open = element.find('(');
   if (open == std::string_view::npos) return surface.Find(element);
   int index = frame::kNoIndex;
@@ -45,14 +45,14 @@ headless::AnyControl* FindElement(headless::Surface& surface, std::string_view e
   return surface.Find(element.substr(0, open), index);
 }
 
-headless::Action ActionOf(std::string_view name, const VARIANT& value, const headless::AnyControl& control) {
-  if (name == "press") return headless::Press{};
-  if (name == "select") return headless::Select{};
-  if (name == "tick") return headless::Tick{As<std::int32_t>(value)};
-  if (name == "toggle") return headless::Toggle{As<std::int32_t>(value)};
-  if (name == "choose") return headless::Choose{Entry(value, control)};
-  if (name == "enter") return headless::Enter{Typed(value)};
-  if (name == "close") return headless::Close{};
+controls::Action ActionOf(std::string_view name, const VARIANT& value, const controls::AnyControl& control) {
+  if (name == "press") return controls::Press{};
+  if (name == "select") return controls::Select{};
+  if (name == "tick") return controls::Tick{As<std::int32_t>(value)};
+  if (name == "toggle") return controls::Toggle{As<std::int32_t>(value)};
+  if (name == "choose") return controls::Choose{Entry(value, control)};
+  if (name == "enter") return controls::Enter{Typed(value)};
+  if (name == "close") return controls::Close{};
   throw NoSuch("action", name);
 }
 

@@ -12,7 +12,7 @@ namespace brivane::component {
 namespace {
 
 /// What a form's door tells of it beside its controls.
-std::optional<Variant> FormAspect(const headless::Form& window, const brivane::frmScenario* form,
+std::optional<Variant> FormAspect(const controls::Form& window, const brivane::frmScenario* form,
                                   std::string_view aspect) {
   if (aspect == "closed") return Variant(window.IsUnloaded());
   if (form == nullptr) return std::nullopt;
@@ -55,9 +55,9 @@ void Hooks::SetCallback(ComPtr<IDispatch> callback) {
       return Ask(title, text, style);
     };
   if (callback_.Has(L"Pending")) desktop.pending = [this] { callback_.Call(L"Pending"); };
-  if (callback_.Has(L"Form")) toolkit_.modal = [this](headless::Form& form) { RunForm(form); };
+  if (callback_.Has(L"Form")) toolkit_.modal = [this](controls::Form& form) { RunForm(form); };
   if (callback_.Has(L"Focus"))
-    toolkit_.focusMoved = [this](headless::AnyControl& control) {
+    toolkit_.focusMoved = [this](controls::AnyControl& control) {
       callback_.Call(L"Focus", std::array{Variant(control.ElementName())});
     };
 }
@@ -69,7 +69,7 @@ host::MessageAnswer Hooks::Ask(const std::string& title, const std::string& text
   return style == host::MessageStyle::YesNoQuestion ? host::MessageAnswer::No : host::MessageAnswer::Ok;
 }
 
-void Hooks::RunForm(headless::Form& form) {
+void Hooks::RunForm(controls::Form& form) {
   host::Event<>& unloaded = form.host::Form::Unloaded;
   if (callback_.Has(L"Closed"))
     unloaded.Connect([this, handOn = unloaded.Listener()] {

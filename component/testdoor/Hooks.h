@@ -28,7 +28,7 @@ class Hooks {
 
  private:
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
-  void RunForm(headless::Form& form);
+  void RunForm(controls::Form& form);
 
   Toolkit& toolkit_;
   HostSession& session_;

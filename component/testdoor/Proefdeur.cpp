@@ -8,19 +8,19 @@ namespace brivane::component {
 
 class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
  public:
-  Impl(ComPtr<IUnknown> object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects)
+  Impl(ComPtr<IUnknown> object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
       : object_(std::move(object)), surface_(&surface), hooks_(&hooks), aspects_(std::move(aspects)) {}
 
   void TakeBack() { surface_ = nullptr; }
 
   STDMETHODIMP Perform(BSTR element, BSTR action, VARIANT value, SHORT* outcome) override {
-    return OnSurface([&](headless::Surface& surface) {
-      headless::AnyControl& control = Named(surface, FromBstr(element));
+    return OnSurface([&](controls::Surface& surface) {
+      controls::AnyControl& control = Named(surface, FromBstr(element));
       *outcome = static_cast<SHORT>(control.Perform(ActionOf(FromBstr(action), value, control)));
     });
   }
   STDMETHODIMP Read(BSTR element, BSTR aspect, VARIANT* value) override {
-    return OnSurface([&](headless::Surface& surface) {
+    return OnSurface([&](controls::Surface& surface) {
       const std::string name = FromBstr(element);
       const std::string asked = FromBstr(aspect);
       if (name.empty()) {
@@ -30,20 +30,20 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
     });
   }
   STDMETHODIMP Dump(VARIANT* controls) override {
-    return OnSurface([&](headless::Surface& surface) { DumpOf(surface).MoveTo(controls); });
+    return OnSurface([&](controls::Surface& surface) { DumpOf(surface).MoveTo(controls); });
   }
   STDMETHODIMP Resize(BSTR element, double width, double height) override {
-    return OnSurface([&](headless::Surface& surface) {
-      auto* const sized = dynamic_cast<headless::Surface*>(&Named(surface, FromBstr(element)));
+    return OnSurface([&](controls::Surface& surface) {
+      auto* const sized = dynamic_cast<controls::Surface*>(&Named(surface, FromBstr(element)));
       if (!sized) throw NoSuch("surface", FromBstr(element));
       sized->Size({static_cast<float>(width)}, {static_cast<float>(height)});
     });
   }
   STDMETHODIMP Set(BSTR setting, VARIANT value) override {
-    return OnSurface([&](headless::Surface&) { hooks_->Set(FromBstr(setting), value); });
+    return OnSurface([&](controls::Surface&) { hooks_->Set(FromBstr(setting), value); });
   }
   STDMETHODIMP put_Callback(IDispatch* object) override {
-    return OnSurface([&](headless::Surface&) { hooks_->SetCallback(object); });
+    return OnSurface([&](controls::Surface&) { hooks_->SetCallback(object); });
   }
 
  private:
@@ -52,23 +52,23 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
     return Answering<IProefdeur>([&] { body(host::Need(surface_)); });
   }
 
-  static headless::AnyControl& Named(headless::Surface& surface, const std::string& element) {
-    headless::AnyControl* const control = element.empty() ? &surface : FindElement(surface, element);
+  static controls::AnyControl& Named(controls::Surface& surface, const std::string& element) {
+    controls::AnyControl* const control = element.empty() ? &surface : FindElement(surface, element);
     if (!control) throw host::Error(host::ErrorNumber::NoSuchElement);
     return *control;
   }
 
   ComPtr<IUnknown> object_;
-  headless::Surface* surface_;
+  controls::Surface* surface_;
   Hooks* hooks_;
   DoorAspects aspects_;
 };
 
-IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects) {
+IProefdeur* NewProefdeur(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects) {
   return new ProefdeurLening::Impl(&object, surface, hooks, std::move(aspects));
 }
 
-ProefdeurLening::ProefdeurLening(headless::Surface& surface, Hooks& hooks, DoorAspects aspects)
+ProefdeurLening::ProefdeurLening(controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
     : door_(new Impl({}, surface, hooks, std::move(aspects))) {}
 
 ProefdeurLening::~ProefdeurLening() {

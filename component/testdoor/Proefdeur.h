@@ -7,7 +7,7 @@
 #include "component/testdoor/Hooks.h"
 #include "component/testdoor/Interfaces.h"
 #include "host/Error.h"
-#include "toolkits/headless/Surface.h"
+#include "controls/Surface.h"
 
 namespace brivane::component {
 
@@ -15,12 +15,12 @@ namespace brivane::component {
 using DoorAspects = std::function<std::optional<Variant>(std::string_view aspect)>;
 
 /// A door to the surface of an object, counted. It keeps the object alive.
-[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, headless::Surface& surface, Hooks& hooks, DoorAspects aspects);
+[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
 
 /// A door to an open form, lent for the time of one call. What is kept of it longer fails with error 91.
 class ProefdeurLening {
  public:
-  ProefdeurLening(headless::Surface& surface, Hooks& hooks, DoorAspects aspects);
+  ProefdeurLening(controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
   ProefdeurLening(const ProefdeurLening&) = delete;
   ProefdeurLening& operator=(const ProefdeurLening&) = delete;
   ~ProefdeurLening();
@@ -29,7 +29,7 @@ class ProefdeurLening {
 
  private:
   class Impl;
-  friend IProefdeur* NewProefdeur(IUnknown&, headless::Surface&, Hooks&, DoorAspects);
+  friend IProefdeur* NewProefdeur(IUnknown&, controls::Surface&, Hooks&, DoorAspects);
 
   Impl* door_;
 };

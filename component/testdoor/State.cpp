@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "component/testdoor/Proefdeur.h"
-#include "toolkits/headless/Dump.h"
+#include "controls/Dump.h"
 
 namespace brivane::component {
 
@@ -16,7 +16,7 @@ Variant ListOf(const Values& values) { return Variant(std::span<const Variant>(v
 Variant Number(host::Twips twips) { return Variant(static_cast<double>(twips.value)); }
 Variant Whole(std::size_t number) { return Variant(static_cast<std::int32_t>(number)); }
 
-Variant ValueOf(const headless::DumpValue& value) {
+Variant ValueOf(const controls::DumpValue& value) {
   return std::visit(
       []<class T>(const T& held) {
         if constexpr (std::is_same_v<T, std::monostate>)
@@ -32,7 +32,7 @@ Variant ValueOf(const headless::DumpValue& value) {
 template <class T> Variant Optional(const std::optional<T>& value) { return value ? Variant(*value) : Variant(); }
 Variant Optional(const std::optional<host::Color>& color) { return color ? Variant(color->value) : Variant(); }
 
-Variant ListState(const headless::ControlDump::ListContent& list) {
+Variant ListState(const controls::ControlDump::ListContent& list) {
   Values values{Variant(static_cast<std::int32_t>(list.index))};
   for (const auto& entry : list.entries) {
     values.emplace_back(entry.text);
@@ -41,7 +41,7 @@ Variant ListState(const headless::ControlDump::ListContent& list) {
   return ListOf(values);
 }
 
-Variant ReportState(const headless::ControlDump::ListViewContent& report) {
+Variant ReportState(const controls::ControlDump::ListViewContent& report) {
   Values columns;
   for (const auto& column : report.columns)
     columns.push_back(ListOf({Variant(column.heading), Number(column.width)}));
@@ -54,7 +54,7 @@ Variant ReportState(const headless::ControlDump::ListViewContent& report) {
   return ListOf({Whole(report.selected), ListOf(columns), ListOf(rows)});
 }
 
-Variant Row(const headless::ControlDump& control) {
+Variant Row(const controls::ControlDump& control) {
   return ListOf({Variant(control.name), Whole(static_cast<std::size_t>(control.kind)), Variant(control.visible),
                  Variant(control.enabled), Number(control.place.left), Number(control.place.top),
                  Number(control.place.width), Number(control.place.height), ValueOf(control.value),
@@ -63,19 +63,19 @@ Variant Row(const headless::ControlDump& control) {
                  control.listView ? ReportState(*control.listView) : Variant()});
 }
 
-Variant SelectedText(const headless::ControlDump::ListContent& list) {
+Variant SelectedText(const controls::ControlDump::ListContent& list) {
   return list.index == host::kNoSelection ? Variant() : Variant(list.entries[static_cast<std::size_t>(list.index)].text);
 }
 
-Variant SelectedKey(const headless::ControlDump::ListViewContent& report) {
+Variant SelectedKey(const controls::ControlDump::ListViewContent& report) {
   return report.selected == 0 ? Variant() : Variant(report.items[report.selected - 1].key);
 }
 
 }  // namespace
 
-Variant AspectOf(const headless::AnyControl& control, std::string_view aspect) {
+Variant AspectOf(const controls::AnyControl& control, std::string_view aspect) {
   if (aspect == "reachable") return Variant(control.Reachable());
-  const headless::ControlDump dump = headless::Dump(control);
+  const controls::ControlDump dump = controls::Dump(control);
   if (aspect == "kind") return Whole(static_cast<std::size_t>(dump.kind));
   if (aspect == "visible") return Variant(dump.visible);
   if (aspect == "enabled") return Variant(dump.enabled);
@@ -93,9 +93,9 @@ Variant AspectOf(const headless::AnyControl& control, std::string_view aspect) {
   throw NoSuch("aspect", aspect);
 }
 
-Variant DumpOf(const headless::Surface& surface) {
+Variant DumpOf(const controls::Surface& surface) {
   Values rows;
-  for (const headless::ControlDump& control : headless::DumpAll(surface)) rows.push_back(Row(control));
+  for (const controls::ControlDump& control : controls::DumpAll(surface)) rows.push_back(Row(control));
   return ListOf(rows);
 }
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "dossier/model/Omgeving.h"
+#include "dossier/model/Environment.h"
 #include "host/model/BedragObject.h"
 
 namespace brivane::dossier {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "dossier/model/Lening.h"
-#include "dossier/model/Omgeving.h"
+#include "dossier/model/Environment.h"
 #include "dossier/model/Persoon.h"
 #include "host/model/Dossier.h"
 

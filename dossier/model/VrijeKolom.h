@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "dossier/model/Bedrag.h"
-#include "dossier/model/Omgeving.h"
+#include "dossier/model/Environment.h"
 #include "host/model/VrijeKolomItem.h"
 
 namespace brivane::dossier {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "dossier/store/Velden.h"
+#include "dossier/store/Fields.h"
 #include "host/Error.h"
 
 namespace brivane::dossier {

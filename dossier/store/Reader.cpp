@@ -9,7 +9,7 @@
 #include <numeric>
 #include <unordered_map>
 
-#include "dossier/store/Velden.h"
+#include "dossier/store/Fields.h"
 
 namespace brivane::dossier {
 namespace {

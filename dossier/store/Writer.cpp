@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <concepts>
 
-#include "dossier/store/Velden.h"
+#include "dossier/store/Fields.h"
 
 namespace brivane::dossier {
 namespace {

@@ -17,10 +17,10 @@
 ///
 /// Copy it as the starting point of a host of your own, and put your records behind the same functions.
 ///
-///     auto application = std::make_shared<memory::Application>();
-///     application->dossier->huidig->kolommen.push_back(std::make_shared<memory::VrijeKolomItem>());
+///     auto application = std::make_shared<memory_host::Application>();
+///     application->dossier->huidig->kolommen.push_back(std::make_shared<memory_host::VrijeKolomItem>());
 ///     editor.SetApplication(application, 0, 1);
-namespace memory {
+namespace memory_host {
 
 namespace host = brivane::host;
 
@@ -50,7 +50,7 @@ struct Periode final : host::Periode {
 struct BedragObject final : host::BedragObject {
   double basisbedrag = 0;
   std::int16_t invoersoort = 1;
-  std::vector<std::shared_ptr<memory::Periode>> periodes;
+  std::vector<std::shared_ptr<memory_host::Periode>> periodes;
 
   std::string Naam() const override { return "Vrije kolom"; }
   std::int16_t Invoersoort() const override { return invoersoort; }
@@ -60,7 +60,7 @@ struct BedragObject final : host::BedragObject {
   void SetBedrag(double value) override { basisbedrag = value; }
   std::shared_ptr<host::Periode> Periode(std::int16_t positie) override { return At(periodes, positie); }
   std::int16_t NieuwePeriode() override {
-    periodes.push_back(std::make_shared<memory::Periode>());
+    periodes.push_back(std::make_shared<memory_host::Periode>());
     return static_cast<std::int16_t>(periodes.size());
   }
   void VerwijderPeriode(std::int16_t positie) override { periodes.erase(periodes.begin() + positie - 1); }
@@ -75,7 +75,7 @@ struct VrijeKolomItem final : host::VrijeKolomItem {
   host::Date aanvang, vervaldatum, einddatum;
   std::string omschrijving, maatschappij, maatschappijNaam, soortOmschrijving, productnaam;
   std::array<std::string, 3> voorstel;
-  std::shared_ptr<memory::BedragObject> bedrag = std::make_shared<memory::BedragObject>();
+  std::shared_ptr<memory_host::BedragObject> bedrag = std::make_shared<memory_host::BedragObject>();
 
   std::int16_t Id() const override { return id; }
   std::int16_t CorrectieLast() const override { return last; }
@@ -136,7 +136,7 @@ struct VrijeKolomItem final : host::VrijeKolomItem {
 };
 
 struct Lening final : host::Lening {
-  std::vector<std::shared_ptr<memory::VrijeKolomItem>> kolommen;
+  std::vector<std::shared_ptr<memory_host::VrijeKolomItem>> kolommen;
 
   std::shared_ptr<host::VrijeKolomItem> VrijeKolommen(std::int16_t Vrij_Id) override {
     for (const auto& kolom : kolommen)
@@ -158,9 +158,9 @@ struct Persoon final : host::Persoon {
 
 /// Keeps no proposals: their registration is accepted and forgotten.
 struct Dossier final : host::Dossier {
-  std::shared_ptr<memory::Lening> huidig = std::make_shared<memory::Lening>();
-  std::vector<std::shared_ptr<memory::Lening>> nieuw;
-  std::vector<std::shared_ptr<memory::Persoon>> personen;
+  std::shared_ptr<memory_host::Lening> huidig = std::make_shared<memory_host::Lening>();
+  std::vector<std::shared_ptr<memory_host::Lening>> nieuw;
+  std::vector<std::shared_ptr<memory_host::Persoon>> personen;
 
   std::shared_ptr<host::Lening> HuidigeLening() override { return huidig; }
   std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override { return Len_Id == 0 ? huidig : At(nieuw, Len_Id); }
@@ -195,7 +195,7 @@ struct DossierControle final : host::DossierControle {
 };
 
 struct Application final : host::Application {
-  std::shared_ptr<memory::Dossier> dossier = std::make_shared<memory::Dossier>();
+  std::shared_ptr<memory_host::Dossier> dossier = std::make_shared<memory_host::Dossier>();
   std::vector<std::pair<std::string, std::string>> maatschappijen = {{"AB", "Alfa Bank"}, {"ZZ", "Anders"}};
   std::function<void(const Trace&)> onError;
 
@@ -223,7 +223,7 @@ struct Application final : host::Application {
   }
 
  private:
-  std::shared_ptr<host::Uitgangspunten> uitgangspunten_ = std::make_shared<memory::Uitgangspunten>();
+  std::shared_ptr<host::Uitgangspunten> uitgangspunten_ = std::make_shared<memory_host::Uitgangspunten>();
   std::shared_ptr<host::Hoofdvenster> hoofdvenster_ = std::make_shared<host::Hoofdvenster>();
   std::shared_ptr<host::Codetabellen> codetabellen_ = std::make_shared<host::Codetabellen>();
 };
@@ -234,4 +234,4 @@ inline host::HostFactories Factories() {
           .MaakDossierControle = [](std::string_view) { return std::make_shared<DossierControle>(); }};
 }
 
-}  // namespace memory
+}  // namespace memory_host

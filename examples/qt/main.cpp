@@ -15,15 +15,15 @@ using namespace brivane;
 
 namespace {
 
-std::shared_ptr<memory::Application> MakeApplication() {
-  auto column = std::make_shared<memory::VrijeKolomItem>();
+std::shared_ptr<memory_host::Application> MakeApplication() {
+  auto column = std::make_shared<memory_host::VrijeKolomItem>();
   column->omschrijving = "Vereniging";
   column->bedrag->basisbedrag = 12.5;
   column->aanvang = frame::MakeDate({2031, 4, 1});
-  auto client = std::make_shared<memory::Persoon>();
+  auto client = std::make_shared<memory_host::Persoon>();
   client->naam = {"J.", "van", "Dam"};
   client->geboren = frame::MakeDate({1975, 12, 31});
-  auto application = std::make_shared<memory::Application>();
+  auto application = std::make_shared<memory_host::Application>();
   application->dossier->huidig->kolommen.push_back(column);
   application->dossier->personen.push_back(client);
   return application;
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
   scroll->setWidgetResizable(true);
   window.setCentralWidget(scroll);
 
-  editor->SetHostFactories(memory::Factories());
+  editor->SetHostFactories(memory_host::Factories());
   QObject::connect(editor, &qt::VrijeKolomWidget::refreshTopDisplay, header, &QLabel::setText);
   auto application = MakeApplication();
   editor->SetApplication(application, 0, 1);  // column 1 of the current situation

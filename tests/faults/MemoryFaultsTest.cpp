@@ -62,12 +62,12 @@ void operator delete[](void* block, std::size_t) noexcept {
 namespace brivane::faults {
 namespace {
 
-using headless::Choose;
-using headless::Enter;
-using headless::Press;
-using headless::Select;
-using headless::Tick;
-using headless::Toggle;
+using controls::Choose;
+using controls::Enter;
+using controls::Press;
+using controls::Select;
+using controls::Tick;
+using controls::Toggle;
 
 /// Makes the n-th allocation from here on fail, and those after it as far as `together` says.
 class FailingMemory {
@@ -183,7 +183,7 @@ const Named kSessions[] = {
     {"scenario",
      [](Workbench& bench, const auto& act) {
        act([&] { bench.Bind(0, 1); });
-       bench.Toolkit().modal = [&](headless::Form& form) {
+       bench.Toolkit().modal = [&](controls::Form& form) {
          act([&] { form.Find("txtBedrag", 1)->Perform(Enter{150.0}); });
          act([&] { form.Find("txtBedrag", 2)->Perform(Enter{std::string("een tekst in een vak voor een bedrag")}); });
          act([&] { form.Find("txtBedrag", 2)->Perform(Enter{175.0}); });
@@ -232,7 +232,7 @@ bool Run(const Named& session, long nth, long together, Tried& tried) {
     // With memory again, a new binding makes it whole.
     const Traced start = bench.Trace();
     bench.Bind(0, 1);
-    EXPECT_EQ(bench.Do("TxtOm", Enter{std::string("hersteld")}), headless::Outcome::Done);
+    EXPECT_EQ(bench.Do("TxtOm", Enter{std::string("hersteld")}), controls::Outcome::Done);
     EXPECT_EQ(bench.Case().ZoekKolom(0, 1)->Omschrijving(), "hersteld");
     EXPECT_EQ(bench.Trace().reports, start.reports);
     EXPECT_EQ(bench.Trace().running, 0u);

@@ -12,7 +12,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "replay/Session.h"
+#include "replay/play/Session.h"
 #include "tests/faults/Rerun.h"
 #include "vrijekolom/VrijeKolom.h"
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "replay/Session.h"
+#include "replay/play/Session.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::faults {
@@ -137,7 +137,7 @@ Document WithRecovery(const Document& document) {
   Document longer = document;
   longer.steps.push_back(Binding(document));
   longer.steps.push_back(
-      Plain("enter", replay::ActStep{"TxtOm", {}, headless::Action{headless::Enter{std::string(kEdited)}}}));
+      Plain("enter", replay::ActStep{"TxtOm", {}, controls::Action{controls::Enter{std::string(kEdited)}}}));
   longer.steps.push_back(Plain("dump", replay::DumpStep{}));
   return longer;
 }

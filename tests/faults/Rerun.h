@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "replay/Document.h"
-#include "replay/Json.h"
+#include "replay/document/Document.h"
+#include "replay/document/Json.h"
 #include "tests/faults/Follower.h"
 
 namespace brivane::faults {

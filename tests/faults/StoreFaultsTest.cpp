@@ -4,9 +4,9 @@
 
 #include <iostream>
 
-#include "tests/dossier/store/Bestanden.h"
-#include "tests/dossier/store/Bewerkingen.h"
-#include "tests/dossier/store/Werkplek.h"
+#include "tests/dossier/store/Files.h"
+#include "tests/dossier/store/ScriptedEdits.h"
+#include "tests/dossier/store/Desk.h"
 #include "tests/faults/FaultyVfs.h"
 
 namespace brivane::faults {

@@ -42,11 +42,11 @@ class NoControle final : public host::DossierControle {
   void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
 };
 
-void Collect(const headless::Surface& surface, std::vector<headless::ControlDump>& dumps) {
+void Collect(const controls::Surface& surface, std::vector<controls::ControlDump>& dumps) {
   for (const auto& control : surface.Made()) {
     if (!control->Shown()) continue;
-    dumps.push_back(headless::Dump(*control));
-    if (control->ControlKind() == host::Kind::Surface) Collect(static_cast<const headless::Surface&>(*control), dumps);
+    dumps.push_back(controls::Dump(*control));
+    if (control->ControlKind() == host::Kind::Surface) Collect(static_cast<const controls::Surface&>(*control), dumps);
   }
 }
 
@@ -63,8 +63,8 @@ Workbench::Workbench(std::shared_ptr<dossier::Dossier> dossier)
   editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
 }
 
-std::vector<headless::ControlDump> Workbench::OnShow() {
-  std::vector<headless::ControlDump> dumps;
+std::vector<controls::ControlDump> Workbench::OnShow() {
+  std::vector<controls::ControlDump> dumps;
   Collect(Surface(), dumps);
   return dumps;
 }

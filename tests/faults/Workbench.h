@@ -9,8 +9,8 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/Dossier.h"
-#include "toolkits/headless/Dump.h"
-#include "toolkits/headless/Toolkit.h"
+#include "controls/Dump.h"
+#include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/VrijeKolom.h"
 
 namespace brivane::faults {
@@ -26,29 +26,29 @@ struct Traced {
   std::array<std::string_view, kDeepest> names;
 };
 
-/// The real editor on the headless toolkit and a case in memory, driven through the doors of its controls.
+/// The real editor on the toolkit in memory and a case in memory, driven through the doors of its controls.
 class Workbench {
  public:
   explicit Workbench(std::shared_ptr<dossier::Dossier> dossier);
 
   void Bind(std::int16_t Len_Id, std::int16_t Vrij_Id) { editor_->SetApplication(application_, Len_Id, Vrij_Id); }
-  headless::Outcome Do(std::string_view control, const headless::Action& action, int index = frame::kNoIndex) {
+  controls::Outcome Do(std::string_view control, const controls::Action& action, int index = frame::kNoIndex) {
     return Find(control, index).Perform(action);
   }
-  [[nodiscard]] headless::AnyControl& Find(std::string_view control, int index = frame::kNoIndex) {
-    return *headless::Surface::Of(*surface_).Find(control, index);
+  [[nodiscard]] controls::AnyControl& Find(std::string_view control, int index = frame::kNoIndex) {
+    return *controls::Surface::Of(*surface_).Find(control, index);
   }
-  [[nodiscard]] headless::Surface& Surface() { return headless::Surface::Of(*surface_); }
+  [[nodiscard]] controls::Surface& Surface() { return controls::Surface::Of(*surface_); }
   [[nodiscard]] brivane::VrijeKolom& Editor() { return *editor_; }
-  [[nodiscard]] headless::Toolkit& Toolkit() { return toolkit_; }
+  [[nodiscard]] memory::Toolkit& Toolkit() { return toolkit_; }
   [[nodiscard]] dossier::Dossier& Case() { return *application_->Bestand(); }
   [[nodiscard]] Traced& Trace() { return *traced_; }
 
   /// What a person sees: the state of every control on show.
-  [[nodiscard]] std::vector<headless::ControlDump> OnShow();
+  [[nodiscard]] std::vector<controls::ControlDump> OnShow();
 
  private:
-  headless::Toolkit toolkit_;
+  memory::Toolkit toolkit_;
   std::shared_ptr<Traced> traced_ = std::make_shared<Traced>();
   std::shared_ptr<dossier::Application> application_;
   std::unique_ptr<host::Surface> surface_;

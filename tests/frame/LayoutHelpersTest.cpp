@@ -7,7 +7,7 @@
 #include "frame/Handle.h"
 #include "frame/LayoutHelpers.h"
 #include "host/Error.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/memory/Toolkit.h"
 
 namespace brivane::frame {
 
@@ -47,7 +47,7 @@ class LayoutHelpers : public testing::Test {
     EXPECT_FLOAT_EQ(place.height.value, expected.height.value);
   }
 
-  headless::Toolkit toolkit;
+  memory::Toolkit toolkit;
   std::unique_ptr<host::Surface> surface = toolkit.MakeSurface(kDesign);
   Controls controls{*surface};
 };

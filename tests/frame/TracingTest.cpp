@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "frame/Tracing.h"
-#include "toolkits/headless/Desktop.h"
+#include "toolkits/memory/Desktop.h"
 
 namespace brivane::frame {
 
@@ -88,7 +88,7 @@ class TracingTest : public testing::Test {
   }
 
   Log log;
-  headless::Desktop desktop;
+  memory::Desktop desktop;
   std::shared_ptr<Host> application = std::make_shared<Host>(log);
   std::shared_ptr<Tracer> tracer = std::make_shared<Tracer>(log);
   int made = 0;

@@ -7,8 +7,8 @@
 
 #include "fuzz/SessionFromBytes.h"
 #include "fuzz/Targets.h"
-#include "replay/Document.h"
-#include "replay/Session.h"
+#include "replay/document/Document.h"
+#include "replay/play/Session.h"
 #include "tests/fuzz/Inputs.h"
 
 namespace brivane::fuzz {

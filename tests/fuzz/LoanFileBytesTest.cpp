@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <iostream>
 
-#include "dossier/model/Voorbeeld.h"
+#include "dossier/model/SampleCase.h"
 #include "dossier/store/Database.h"
-#include "dossier/store/DossierBestand.h"
+#include "dossier/store/DossierFile.h"
 #include "fuzz/LoanFile.h"
 
 namespace brivane::fuzz {

@@ -18,8 +18,8 @@ namespace brivane::random_sessions {
 namespace {
 
 using dossier::KolomGegevens;
-using headless::Action;
-using headless::Outcome;
+using controls::Action;
+using controls::Outcome;
 
 /// Draws; the same seed draws the same everywhere, as the engine's own numbers are used.
 class Draw {
@@ -119,19 +119,19 @@ dossier::DossierGegevens ACase(Draw& draw) {
 }
 
 /// An action that fits the control, or nothing for a control that no person acts on; now and then a malformed one.
-std::optional<Action> AnAction(Draw& draw, const headless::AnyControl& control) {
+std::optional<Action> AnAction(Draw& draw, const controls::AnyControl& control) {
   switch (control.ControlKind()) {
-    case host::Kind::OptionButton: return headless::Select{};
-    case host::Kind::CheckBox: return headless::Tick{draw.Between(0, 1)};
-    case host::Kind::JaNee: return headless::Toggle{draw.Between(1, 2)};
-    case host::Kind::ListBox: return headless::Choose{draw.Between(-1, 5)};
-    case host::Kind::Button: return headless::Press{};
+    case host::Kind::OptionButton: return controls::Select{};
+    case host::Kind::CheckBox: return controls::Tick{draw.Between(0, 1)};
+    case host::Kind::JaNee: return controls::Toggle{draw.Between(1, 2)};
+    case host::Kind::ListBox: return controls::Choose{draw.Between(-1, 5)};
+    case host::Kind::Button: return controls::Press{};
     case host::Kind::TextBox: {
       const bool malformed = draw.Once(12);
       const frame::Format format = control.Row().format;
-      if ((format == frame::Format::Text) != malformed) return headless::Enter{AText(draw)};
-      if (format == frame::Format::Date && !malformed) return headless::Enter{ADate(draw)};
-      return headless::Enter{ANumber(draw)};
+      if ((format == frame::Format::Text) != malformed) return controls::Enter{AText(draw)};
+      if (format == frame::Format::Date && !malformed) return controls::Enter{ADate(draw)};
+      return controls::Enter{ANumber(draw)};
     }
     default: return std::nullopt;
   }
@@ -144,7 +144,7 @@ class RandomSession {
         dossier_(std::make_shared<dossier::Dossier>(ACase(draw_), std::make_shared<dossier::Omgeving>())),
         bench_(dossier_),
         onlooker_(dossier_) {
-    headless::Desktop& desktop = bench_.Toolkit().Desktop();
+    memory::Desktop& desktop = bench_.Toolkit().Desktop();
     desktop.answer = [this](const std::string&, const std::string&, host::MessageStyle style) {
       ++boxes;
       if (style != host::MessageStyle::YesNoQuestion) return host::MessageAnswer::Ok;
@@ -153,7 +153,7 @@ class RandomSession {
     desktop.pending = [this] {
       if (draw_.Once(3)) ActOn(bench_.Surface());
     };
-    bench_.Toolkit().modal = [this](headless::Form& form) { OnForm(form); };
+    bench_.Toolkit().modal = [this](controls::Form& form) { OnForm(form); };
     bench_.Editor().SetBeeindigenZichtbaar(true);
     Bind();
   }
@@ -188,7 +188,7 @@ class RandomSession {
   long forms = 0;
 
  private:
-  [[nodiscard]] headless::Surface& Explanation() { return static_cast<headless::Surface&>(bench_.Find("Toelichting")); }
+  [[nodiscard]] controls::Surface& Explanation() { return static_cast<controls::Surface&>(bench_.Find("Toelichting")); }
   [[nodiscard]] KolomGegevens Record() const { return dossier_->ZoekKolom(Len_Id_, Vrij_Id_)->Gegevens(); }
 
   void Word(const std::string& what) {
@@ -217,7 +217,7 @@ class RandomSession {
       bench_.Editor().Toelichting().Validation(cancel, draw_.Once(2) ? 0 : draw_.Between(3, 6));
   }
 
-  void Perform(headless::AnyControl& control, const Action& action) {
+  void Perform(controls::AnyControl& control, const Action& action) {
     Word(control.ElementName());
     switch (control.Perform(action)) {
       case Outcome::Ignored: ++ignored; break;
@@ -226,19 +226,19 @@ class RandomSession {
     }
   }
 
-  void ActOn(headless::Surface& surface) {
+  void ActOn(controls::Surface& surface) {
     const auto& controls = surface.Made();
     while (true) {
-      headless::AnyControl& control =
+      controls::AnyControl& control =
           *controls[static_cast<std::size_t>(draw_.Between(0, static_cast<int>(controls.size()) - 1))];
       if (const std::optional<Action> action = AnAction(draw_, control)) return Perform(control, *action);
     }
   }
 
-  void OnForm(headless::Form& form) {
+  void OnForm(controls::Form& form) {
     ++forms;
     for (int n = draw_.Between(0, 12); n > 0 && !form.IsUnloaded(); --n) {
-      headless::AnyControl& control =
+      controls::AnyControl& control =
           *form.Made()[static_cast<std::size_t>(draw_.Between(0, static_cast<int>(form.Made().size()) - 1))];
       const std::optional<Action> action = AnAction(draw_, control);
       if (!action) continue;
@@ -248,7 +248,7 @@ class RandomSession {
   }
 
   /// A first row that holds an amount is the scenario's base value at once.
-  void FirstRow(headless::Form& form, headless::AnyControl& control) {
+  void FirstRow(controls::Form& form, controls::AnyControl& control) {
     if (&control != form.Find("txtBedrag", 1) || form.IsUnloaded()) return;
     const auto& box = dynamic_cast<const host::TextBox&>(control.Host());
     try {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "replay/Document.h"
+#include "replay/document/Document.h"
 #include "tests/replay/Program.h"
 
 namespace brivane::replay::test {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "frame/Calendar.h"
-#include "replay/ControlNames.h"
-#include "replay/Document.h"
-#include "replay/Session.h"
+#include "replay/document/ControlNames.h"
+#include "replay/document/Document.h"
+#include "replay/play/Session.h"
 #include "scenario/Ontwerp.h"
 #include "tests/replay/Program.h"
 #include "vrijekolom/Ontwerp.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "replay/Session.h"
+#include "replay/play/Session.h"
 
 namespace brivane::replay::test {
 namespace {

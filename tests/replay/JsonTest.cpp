@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-#include "replay/Json.h"
+#include "replay/document/Json.h"
 
 namespace brivane::replay::test {
 namespace {

@@ -13,7 +13,7 @@
 #include "scenario/Ontwerp.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/memory/Toolkit.h"
 
 namespace brivane::tests {
 
@@ -64,21 +64,21 @@ class Formulier : public testing::Test {
     scenario->log.clear();
   }
 
-  [[nodiscard]] headless::Form& Venster() {
-    return static_cast<headless::Form&>(headless::Surface::Of(form->Form()));
+  [[nodiscard]] controls::Form& Venster() {
+    return static_cast<controls::Form&>(controls::Surface::Of(form->Form()));
   }
   [[nodiscard]] static std::size_t Ontwerprij(std::string_view naam) {
     for (std::size_t rij = 0; rij < scenario::kOntwerp.rows.size(); ++rij)
       if (scenario::kOntwerp.rows[rij].name == naam) return rij;
     throw std::out_of_range(std::string(naam));
   }
-  [[nodiscard]] headless::AnyControl* Zoek(std::string_view naam, int index = frame::kNoIndex) {
+  [[nodiscard]] controls::AnyControl* Zoek(std::string_view naam, int index = frame::kNoIndex) {
     host::Control* gevonden = form->Form().Element(Ontwerprij(naam), index);
-    return gevonden != nullptr ? &headless::AnyControl::Of(*gevonden) : nullptr;
+    return gevonden != nullptr ? &controls::AnyControl::Of(*gevonden) : nullptr;
   }
   [[nodiscard]] bool Bestaat(std::string_view naam, int index) { return Zoek(naam, index) != nullptr; }
   [[nodiscard]] host::Control& Control(std::string_view naam, int index = frame::kNoIndex) {
-    headless::AnyControl* gevonden = Zoek(naam, index);
+    controls::AnyControl* gevonden = Zoek(naam, index);
     if (gevonden == nullptr) throw std::out_of_range(std::string(naam) + "(" + std::to_string(index) + ")");
     return gevonden->Host();
   }
@@ -92,13 +92,13 @@ class Formulier : public testing::Test {
     return dynamic_cast<host::Captioned&>(Control(naam, index)).Caption();
   }
 
-  headless::Outcome Typ(std::string_view naam, int rij, headless::BoxValue waarde) {
-    return Zoek(naam, rij)->Perform(headless::Enter{std::move(waarde)});
+  controls::Outcome Typ(std::string_view naam, int rij, controls::BoxValue waarde) {
+    return Zoek(naam, rij)->Perform(controls::Enter{std::move(waarde)});
   }
   void Kruis(std::string_view naam, int index = frame::kNoIndex, int waarde = host::kTicked) {
-    Zoek(naam, index)->Perform(headless::Tick{waarde});
+    Zoek(naam, index)->Perform(controls::Tick{waarde});
   }
-  void DrukOK() { Zoek("cmdOK")->Perform(headless::Press{}); }
+  void DrukOK() { Zoek("cmdOK")->Perform(controls::Press{}); }
 
   /// The values of the boxes of one kind, rows 1 to the last.
   [[nodiscard]] std::vector<double> Waarden(std::string_view naam) {
@@ -125,7 +125,7 @@ class Formulier : public testing::Test {
       doe(static_cast<Soort&>(*control));
   }
 
-  headless::Toolkit toolkit;
+  memory::Toolkit toolkit;
   std::vector<Bericht> berichten;
   std::shared_ptr<RecordingScenario> scenario = std::make_shared<RecordingScenario>();
   std::unique_ptr<frmScenario> form;

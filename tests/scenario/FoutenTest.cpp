@@ -57,7 +57,7 @@ TEST_F(Fouten, EveryAccessOfAnEditIsShownOnceAndLeavesTheFormOpen) {
       Open(geval.soort, 3, {.korting = true});
       berichten.clear();
       FaalBij(nummer);
-      EXPECT_EQ(Typ(geval.vak, 1, 5.0), headless::Outcome::Done);
+      EXPECT_EQ(Typ(geval.vak, 1, 5.0), controls::Outcome::Done);
       EXPECT_EQ(berichten.size(), 1U) << geval.vak << nummer;
       EXPECT_FALSE(form->Gewijzigd());
       EXPECT_FALSE(Venster().IsUnloaded());

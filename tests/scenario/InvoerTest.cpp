@@ -13,7 +13,7 @@ TEST_F(Invoer, AmountsFillForwardWhenTicked) {
   Open(1, 5);
   Zet("txtBedrag", {10, 20, 30, 40, 50});
   Kruis("chkAanvullen");
-  EXPECT_EQ(Typ("txtBedrag", 2, 300.0), headless::Outcome::Done);
+  EXPECT_EQ(Typ("txtBedrag", 2, 300.0), controls::Outcome::Done);
   EXPECT_EQ(Waarden("txtBedrag"), (Reeks{10, 300, 300, 300, 300}));
   EXPECT_TRUE(scenario->log.empty());
   EXPECT_TRUE(form->Gewijzigd());
@@ -199,7 +199,7 @@ TEST_F(Invoer, ALockedRowTakesPartInFillingAndGrowth) {
   form->SetDisableJaar(2, true);
   Open(1, 3);
   Kruis("chkAanvullen");
-  EXPECT_EQ(Typ("txtBedrag", 2, 1.0), headless::Outcome::Ignored);
+  EXPECT_EQ(Typ("txtBedrag", 2, 1.0), controls::Outcome::Ignored);
   Typ("txtBedrag", 1, 100.0);
   EXPECT_EQ(Waarden("txtBedrag"), (Reeks{100, 100, 100}));
 

@@ -267,7 +267,7 @@ TEST_F(LadenEnBewaren, TheCloseBoxStoresNoRows) {
   Open(1, 2);
   Typ("txtBedrag", 1, 150.0);
   Typ("txtBedrag", 2, 200.0);
-  Venster().Perform(headless::Close{});
+  Venster().Perform(controls::Close{});
   EXPECT_EQ(scenario->log, (Regels{"Bedrag = 150"}));
   EXPECT_TRUE(scenario->perioden.empty());
 }

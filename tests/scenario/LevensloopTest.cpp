@@ -13,10 +13,10 @@ TEST_F(Levensloop, ItIsModalAndReleasesTheScenarioWhenItCloses) {
   EXPECT_EQ(form->Scenario(), scenario);
   EXPECT_EQ(scenario.use_count(), 2);
   bool open = false;
-  toolkit.modal = [&](headless::Form& venster) {
+  toolkit.modal = [&](controls::Form& venster) {
     open = true;
     EXPECT_EQ(form->Scenario(), scenario);
-    venster.Find("cmdOK")->Perform(headless::Press{});
+    venster.Find("cmdOK")->Perform(controls::Press{});
     EXPECT_TRUE(venster.IsUnloaded());
   };
   form->ShowModal(nullptr);
@@ -27,7 +27,7 @@ TEST_F(Levensloop, ItIsModalAndReleasesTheScenarioWhenItCloses) {
 
 TEST_F(Levensloop, TheCloseBoxReleasesTheScenarioToo) {
   Open(1, 3);
-  toolkit.modal = [](headless::Form& venster) { venster.Perform(headless::Close{}); };
+  toolkit.modal = [](controls::Form& venster) { venster.Perform(controls::Close{}); };
   form->ShowModal(nullptr);
   EXPECT_EQ(scenario.use_count(), 1);
 }
@@ -39,7 +39,7 @@ TEST_F(Levensloop, ShowingGivesEveryButtonFaceTheFormsColour) {
   EXPECT_EQ(Control("fraScenario").BackColor(), host::kButtonFace);
   const auto vak = Control("txtBedrag", 1).BackColor();
   Control("lblJaar", 2).SetBackColor(host::Color{7});
-  toolkit.modal = [&](headless::Form&) {
+  toolkit.modal = [&](controls::Form&) {
     EXPECT_EQ(Control("fraScenario").BackColor(), kRood);
     EXPECT_EQ(Control("lblJaar", 1).BackColor(), kRood);
     EXPECT_EQ(Control("cmdOK").BackColor(), kRood);

@@ -10,7 +10,7 @@ Lines Only(const Lines& lines, std::string_view kind) {
 }
 
 ControlTest::ControlTest(const frame::Design& design) : surface_(toolkit_.MakeSurface(design)), on_(*surface_) {
-  headless::Desktop& desktop = toolkit_.Desktop();
+  memory::Desktop& desktop = toolkit_.Desktop();
   desktop.today = D(2026, 11, 21);
   desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
     host_.journal.Add("message " + title + '|' + text + '|' + std::to_string(static_cast<int>(style)));
@@ -25,19 +25,19 @@ ControlTest::ControlTest(const frame::Design& design) : surface_(toolkit_.MakeSu
     host_.journal.Add("pending");
     if (pending_) pending_();
   };
-  toolkit_.focusMoved = [this](headless::AnyControl& control) {
+  toolkit_.focusMoved = [this](controls::AnyControl& control) {
     host_.journal.Add("focus " + control.ElementName());
   };
 }
 
-headless::Outcome ControlTest::Try(host::Control& control, const headless::Action& action) {
-  return headless::AnyControl::Of(control).Perform(action);
+controls::Outcome ControlTest::Try(host::Control& control, const controls::Action& action) {
+  return controls::AnyControl::Of(control).Perform(action);
 }
 
-bool ControlTest::Act(host::Control& control, const headless::Action& action) {
-  const headless::Outcome outcome = Try(control, action);
-  EXPECT_NE(outcome, headless::Outcome::Ignored) << control.Name();
-  return outcome == headless::Outcome::Refused;
+bool ControlTest::Act(host::Control& control, const controls::Action& action) {
+  const controls::Outcome outcome = Try(control, action);
+  EXPECT_NE(outcome, controls::Outcome::Ignored) << control.Name();
+  return outcome == controls::Outcome::Refused;
 }
 
 }  // namespace brivane::test

@@ -10,7 +10,7 @@
 #include "frame/Calendar.h"
 #include "frame/Handle.h"
 #include "tests/support/TestHost.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/memory/Toolkit.h"
 
 namespace brivane::test {
 
@@ -21,14 +21,14 @@ inline host::Date D(int year, int month, int day) { return frame::MakeDate({year
 /// The lines of a kind, such as "set" or "report", in their order.
 [[nodiscard]] Lines Only(const Lines& lines, std::string_view kind);
 
-/// A control on the headless toolkit against the host in memory, on 21 November 2026. Message boxes, the
+/// A control on the toolkit in memory against the host in memory, on 21 November 2026. Message boxes, the
 /// focus and pending events are written into the host's journal.
 class ControlTest : public ::testing::Test {
  protected:
   explicit ControlTest(const frame::Design& design);
 
   TestHost host_;
-  headless::Toolkit toolkit_;
+  memory::Toolkit toolkit_;
   /// What message boxes answer, in turn; after them "Nee" to a question and OK to everything else.
   std::deque<host::MessageAnswer> answers_;
   /// What runs when the logic lets pending events run.
@@ -37,9 +37,9 @@ class ControlTest : public ::testing::Test {
   frame::Controls on_;
 
   /// A person acts on a control that can be reached; answers whether a box refused.
-  bool Act(host::Control& control, const headless::Action& action);
+  bool Act(host::Control& control, const controls::Action& action);
   /// A person acts on a control; answers what became of it.
-  headless::Outcome Try(host::Control& control, const headless::Action& action);
+  controls::Outcome Try(host::Control& control, const controls::Action& action);
   /// What happened since the last time.
   [[nodiscard]] Lines Log() { return host_.journal.Take(); }
   void Forget() { (void)host_.journal.Take(); }

@@ -74,9 +74,9 @@ TEST_F(ToelichtingBindingTest, EnablesTheTransitionWithTheDeathToggleAlone) {
 TEST_F(ToelichtingBindingTest, NeverDisablesTheCaptionsOfTheTransition) {
   Bind();
   for (const char* caption : {"LblEinddatum", "LblEindjaar"})
-    EXPECT_TRUE(headless::Surface::Of(*surface_).Find(caption)->Host().Enabled()) << caption;
+    EXPECT_TRUE(controls::Surface::Of(*surface_).Find(caption)->Host().Enabled()) << caption;
   for (const int index : {1, 2})
-    EXPECT_TRUE(headless::Surface::Of(*surface_).Find("lblPcOvergang", index)->Host().Enabled());
+    EXPECT_TRUE(controls::Surface::Of(*surface_).Find("lblPcOvergang", index)->Host().Enabled());
 }
 
 TEST_F(ToelichtingBindingTest, ShowsADateBefore1900AsNoDate) {
@@ -110,7 +110,7 @@ TEST_F(ToelichtingBindingTest, ReplacesEverythingOnABindingAnew) {
   Bind(7);
   EXPECT_EQ(on_[jnAO].Value(), host::kNee);
   Forget();
-  Act(on_[jnAO], headless::Toggle{host::kJa});
+  Act(on_[jnAO], controls::Toggle{host::kJa});
   EXPECT_FALSE(other.velden.UitsluitenAO);
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set UitsluitenAO=false"));
 }
@@ -121,11 +121,11 @@ TEST_F(ToelichtingBindingTest, ReportsAFailureOfLoadingAsItsOwnAndStaysSilentAft
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.SetApplication", "enter Toelichting.Show_Keuze",
                                  "leave Toelichting", "enter Toelichting.Fill_Controls",
                                  "error Toelichting.SetApplication", "report Toelichting 1004"));
-  Act(on_[jnAO], headless::Toggle{host::kNee});
+  Act(on_[jnAO], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), IsEmpty()) << "still loading: the toggles write nothing";
   Bind();
   Forget();
-  Act(on_[jnAO], headless::Toggle{host::kNee});
+  Act(on_[jnAO], controls::Toggle{host::kNee});
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set UitsluitenAO=true"));
 }
 
@@ -148,7 +148,7 @@ TEST_F(ToelichtingBindingTest, WritesTheWholeErrorRecordInOrder) {
 }
 
 TEST_F(ToelichtingBindingTest, LeavesTheReportOutWhereNobodyIsBound) {
-  Act(on_[jnAO], headless::Toggle{host::kJa});
+  Act(on_[jnAO], controls::Toggle{host::kJa});
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.jnAO_Change", "error Toelichting.jnAO_Change"));
 }
 

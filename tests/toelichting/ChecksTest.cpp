@@ -123,7 +123,7 @@ TEST_F(ToelichtingChecksTest, ChecksNothingWithDeathTurnedOff) {
 
 TEST_F(ToelichtingChecksTest, TakesAWaitingEditIntoACompleteCheck) {
   BindOverlijden();
-  pending_ = [this] { Act(on_[TxtPcOvergang], headless::Enter{120.0}); };
+  pending_ = [this] { Act(on_[TxtPcOvergang], controls::Enter{120.0}); };
   EXPECT_TRUE(Validate(0));
   // Once refused as an edit, once by the complete check that finds it still there.
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.Validation", "pending",
@@ -134,7 +134,7 @@ TEST_F(ToelichtingChecksTest, TakesAWaitingEditIntoACompleteCheck) {
 
 TEST_F(ToelichtingChecksTest, TakesAWaitingToggleIntoACompleteCheck) {
   BindWrong();
-  pending_ = [this] { Act(on_[jnOverlijden], headless::Toggle{host::kNee}); };
+  pending_ = [this] { Act(on_[jnOverlijden], controls::Toggle{host::kNee}); };
   EXPECT_FALSE(Validate(0));
   EXPECT_THAT(Only(Log(), "message"), IsEmpty());
 }

@@ -2,7 +2,7 @@
 
 #include "tests/toelichting/ToelichtingTest.h"
 #include "toelichting/Effecttabel.h"
-#include "toolkits/headless/ListView.h"
+#include "controls/ListView.h"
 
 namespace brivane::test {
 
@@ -13,7 +13,7 @@ using namespace toelichting;
 
 class EffectListTest : public ToelichtingTest {
  protected:
-  [[nodiscard]] headless::ListView& List() { return dynamic_cast<headless::ListView&>(on_[lstToelichting]); }
+  [[nodiscard]] controls::ListView& List() { return dynamic_cast<controls::ListView&>(on_[lstToelichting]); }
   /// Texts of a row from 1, the bold ones marked with a star.
   [[nodiscard]] Lines Texts(std::size_t row) {
     Lines texts;
@@ -89,7 +89,7 @@ TEST_F(EffectListTest, MovesTheMarkInAllFourColumns) {
 
 TEST_F(EffectListTest, KeepsItsMarkThroughEditsOfTheControl) {
   BindCodes(2, 2);
-  Act(on_[jnAO], headless::Toggle{host::kNee});
+  Act(on_[jnAO], controls::Toggle{host::kNee});
   EXPECT_EQ(List().Selected(), 3U);
 }
 

@@ -24,7 +24,7 @@ class ToelichtingLayoutTest : public ToelichtingTest {
     on_[jnAO].Move({{2040}, {480}, {900}, {315}});
   }
   void Size(float width, float height) {
-    headless::Surface::Of(*surface_).Size({width}, {height});
+    controls::Surface::Of(*surface_).Size({width}, {height});
   }
 };
 

@@ -119,7 +119,7 @@ TEST_F(CarryOverTest, IsNotAskedOfAColumnOfTheNewSituation) {
 TEST_F(CarryOverTest, ComesBeforeTheCheckOfASingleDate) {
   host_.VoegLening({1});
   BindChanged();
-  EXPECT_TRUE(Act(on_[TxtDtAanvang], headless::Enter{host::kNoDate}));
+  EXPECT_TRUE(Act(on_[TxtDtAanvang], controls::Enter{host::kNoDate}));
   EXPECT_THAT(Log(), ElementsAre("enter TxtDtAanvang_Validation", "enter Validation", kVraag, kAanvang, "leave",
                                  "leave"));
   EXPECT_FALSE(editor_->Gewijzigd());
@@ -313,7 +313,7 @@ TEST_F(FiscalOptionsTest, FollowTheBurdenOption) {
 
 TEST_F(FiscalOptionsTest, MakeAContributionATaxableAddition) {
   BindCodes(1, 1);
-  Act(on_(optLast, 2), headless::Select{});
+  Act(on_(optLast, 2), controls::Select{});
   EXPECT_THAT(Log(), ElementsAreArray(Join(
                          {{"enter optLast_Click", "set CorrectieLast=2", "enter Check_FraFiscaal"},
                           {"enter optFiscaal_Click", "set CorrectieFiscaal=2"},
@@ -329,7 +329,7 @@ TEST_F(FiscalOptionsTest, MakeAContributionATaxableAddition) {
 TEST_F(FiscalOptionsTest, TakeTheIncomeFromWorkOfACost) {
   kolom_.velden.InkomenUitArbeid = kolom_.velden.InDagloon = true;
   BindCodes(2, 2);
-  Act(on_(optLast, 1), headless::Select{});
+  Act(on_(optLast, 1), controls::Select{});
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set CorrectieLast=1", "set CorrectieFiscaal=1",
                                               "set InkomenUitArbeid=false", "set InDagloon=false"));
   ExpectAllowed(true, false, true);
@@ -341,7 +341,7 @@ TEST_F(FiscalOptionsTest, TakeTheIncomeFromWorkOfACost) {
 
 TEST_F(FiscalOptionsTest, GiveANeutralBurdenADeduction) {
   BindCodes(2, 2);
-  Act(on_(optLast, 3), headless::Select{});
+  Act(on_(optLast, 3), controls::Select{});
   ExpectAllowed(true, true, false);
   EXPECT_TRUE(on_(optFiscaal, 1).Value());
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set CorrectieLast=3", "set CorrectieFiscaal=1"));
@@ -350,7 +350,7 @@ TEST_F(FiscalOptionsTest, GiveANeutralBurdenADeduction) {
 TEST_F(FiscalOptionsTest, AreNotWrittenAnewWhereTheRightOneIsSelected) {
   kolom_.velden.InkomenUitArbeid = true;
   BindCodes(1, 1);
-  Act(on_(optLast, 3), headless::Select{});
+  Act(on_(optLast, 3), controls::Select{});
   EXPECT_THAT(Log(), ElementsAreArray(Join({{"enter optLast_Click", "set CorrectieLast=3", "enter Check_FraFiscaal",
                                              "enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "leave",
                                              "leave"},

@@ -21,7 +21,7 @@ class DurationTest : public EditorTest {
   }
   void EnterMonths(double jaar, double maand) {
     on_[TxtAnJaar].SetNumber(jaar);
-    Act(on_[TxtAnMaand], headless::Enter{maand});
+    Act(on_[TxtAnMaand], controls::Enter{maand});
   }
   void ExpectShown(std::int32_t looptijd, double jaar, double maand, host::Date einde) {
     EXPECT_EQ(kolom_.velden.Looptijd, looptijd);
@@ -40,7 +40,7 @@ TEST_F(DurationTest, TurnsFourteenMonthsIntoAYearAndTwo) {
 TEST_F(DurationTest, LeavesTheMonthsAsTypedUntilTheyAreLeft) {
   BindFrom(D(2024, 1, 31));
   on_[TxtAnMaand].SetNumber(14);
-  Act(on_[TxtAnJaar], headless::Enter{0.0});
+  Act(on_[TxtAnJaar], controls::Enter{0.0});
   ExpectShown(14, 0, 14, D(2025, 3, 31));
 }
 
@@ -65,13 +65,13 @@ TEST_F(DurationTest, EmptiesTheEndDateWithTheDuration) {
   EnterMonths(0, 0);
   ExpectShown(0, 0, 0, host::kNoDate);
   BindFrom(D(2024, 1, 31), 12);
-  Act(on_[TxtAnJaar], headless::Enter{0.0});
+  Act(on_[TxtAnJaar], controls::Enter{0.0});
   ExpectShown(0, 0, 0, host::kNoDate);
 }
 
 TEST_F(DurationTest, HasNoEndDateWithoutAStartDate) {
   BindFrom(host::kNoDate);
-  Act(on_[TxtAnJaar], headless::Enter{2.0});
+  Act(on_[TxtAnJaar], controls::Enter{2.0});
   EXPECT_EQ(kolom_.velden.Looptijd, 24);
   EXPECT_EQ(on_[TxtDtEind].DateValue(), host::kNoDate);
   EXPECT_THAT(Only(Log(), "report"), IsEmpty());
@@ -136,7 +136,7 @@ TEST_F(DurationTest, ShowsTheDurationAsTheRecordKeepsIt) {
   };
   EnterMonths(5, 0);
   ExpectShown(13, 1, 1, D(2025, 2, 28));
-  Act(on_[TxtDtEind], headless::Enter{D(2030, 1, 1)});
+  Act(on_[TxtDtEind], controls::Enter{D(2030, 1, 1)});
   ExpectShown(13, 1, 1, D(2025, 2, 28));
 }
 
@@ -150,25 +150,25 @@ TEST_F(DurationTest, ReadsTheDurationBackForEachBox) {
 
 TEST_F(DurationTest, SnapsTheEndDateToTheDayOfTheStart) {
   BindFrom(D(2024, 1, 31));
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{D(2024, 2, 1)}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{D(2024, 2, 1)}));
   ExpectShown(1, 0, 1, D(2024, 2, 29));
   BindFrom(D(2023, 1, 31));
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{D(2023, 2, 1)}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{D(2023, 2, 1)}));
   ExpectShown(1, 0, 1, D(2023, 2, 28));
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{D(2025, 3, 1)}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{D(2025, 3, 1)}));
   ExpectShown(26, 2, 2, D(2025, 3, 31));
 }
 
 TEST_F(DurationTest, CountsMonthsFromTheBoxAndSnapsFromTheRecord) {
   BindFrom(D(2024, 1, 31));
   on_[TxtDtAanvang].SetDate(D(2024, 3, 10));
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{D(2024, 5, 20)}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{D(2024, 5, 20)}));
   ExpectShown(2, 0, 2, D(2024, 3, 31));
 }
 
 TEST_F(DurationTest, EmptiesTheDurationWithTheEndDate) {
   BindFrom(D(2024, 1, 31), 14);
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{host::kNoDate}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{host::kNoDate}));
   ExpectShown(0, 0, 0, host::kNoDate);
   EXPECT_THAT(Log(), ElementsAre("enter TxtDtEind_Validation", "enter Validation", "leave", "set Looptijd=0",
                                  "event RefreshTopDisplay de kopregel", "leave"));
@@ -177,7 +177,7 @@ TEST_F(DurationTest, EmptiesTheDurationWithTheEndDate) {
 
 TEST_F(DurationTest, RefusesAnEndDateThatIsNotLater) {
   BindFrom(D(2024, 1, 31), 14);
-  EXPECT_TRUE(Act(on_[TxtDtEind], headless::Enter{D(2024, 1, 31)}));
+  EXPECT_TRUE(Act(on_[TxtDtEind], controls::Enter{D(2024, 1, 31)}));
   EXPECT_THAT(Log(), ElementsAre("enter TxtDtEind_Validation", "enter Validation",
                                  "message Onjuiste invoer|De einddatum dient na de aanvangsdatum te liggen.|48",
                                  "leave", "leave"));
@@ -187,19 +187,19 @@ TEST_F(DurationTest, RefusesAnEndDateThatIsNotLater) {
 
 TEST_F(DurationTest, FailsOnMoreCalendarMonthsThan16Bits) {
   BindFrom(D(100, 1, 1));
-  EXPECT_FALSE(Act(on_[TxtDtEind], headless::Enter{D(9999, 1, 1)}));
+  EXPECT_FALSE(Act(on_[TxtDtEind], controls::Enter{D(9999, 1, 1)}));
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 6"));
   EXPECT_EQ(kolom_.velden.Looptijd, 0);
 }
 
 TEST_F(DurationTest, MovesTheEndDateAlongWithTheStartDate) {
   BindFrom(D(2024, 1, 15), 1);
-  EXPECT_FALSE(Act(on_[TxtDtAanvang], headless::Enter{D(2024, 1, 31)}));
+  EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 1, 31)}));
   EXPECT_EQ(on_[TxtDtEind].DateValue(), D(2024, 2, 29));
   kolom_.adjust = [](KolomVelden& velden, std::string_view veld) {
     if (veld == "DatumAanvang") velden.DatumAanvang = D(2030, 6, 1);
   };
-  EXPECT_FALSE(Act(on_[TxtDtAanvang], headless::Enter{D(2024, 3, 3)}));
+  EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 3, 3)}));
   EXPECT_EQ(on_[TxtDtEind].DateValue(), D(2030, 7, 1)) << "from the start date as the record keeps it";
 }
 
@@ -207,7 +207,7 @@ TEST_F(DurationTest, LeavesTheEndDateWhereThereIsNoDuration) {
   for (const std::int32_t looptijd : {0, -3}) {
     BindFrom(D(2024, 1, 15), looptijd);
     on_[TxtDtEind].SetDate(D(2029, 9, 9));
-    EXPECT_FALSE(Act(on_[TxtDtAanvang], headless::Enter{D(2024, 2, 15)}));
+    EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 2, 15)}));
     EXPECT_EQ(on_[TxtDtEind].DateValue(), D(2029, 9, 9)) << looptijd;
   }
 }
@@ -215,7 +215,7 @@ TEST_F(DurationTest, LeavesTheEndDateWhereThereIsNoDuration) {
 TEST_F(DurationTest, EnablesTheDurationByTheTermWhenTheStartDateIsLeft) {
   BindFrom(host::kNoDate);
   EXPECT_FALSE(on_[TxtDtEind].Enabled());
-  EXPECT_FALSE(Act(on_[TxtDtAanvang], headless::Enter{D(2024, 2, 15)}));
+  EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 2, 15)}));
   EXPECT_TRUE(on_[TxtDtEind].Enabled());
 
   (void)Validate(2);  // deals with the mark of the edit
@@ -224,7 +224,7 @@ TEST_F(DurationTest, EnablesTheDurationByTheTermWhenTheStartDateIsLeft) {
   on_[TxtAnJaar].SetEnabled(true);
   on_[TxtAnMaand].SetEnabled(true);
   host_.journal.reads = true;
-  EXPECT_FALSE(Act(on_[TxtDtAanvang], headless::Enter{D(2024, 2, 15)}));
+  EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 2, 15)}));
   EXPECT_FALSE(on_[TxtDtEind].Enabled());
   EXPECT_FALSE(on_[TxtAnJaar].Enabled());
   EXPECT_FALSE(on_[TxtAnMaand].Enabled());
@@ -234,7 +234,7 @@ TEST_F(DurationTest, EnablesTheDurationByTheTermWhenTheStartDateIsLeft) {
 
 TEST_F(DurationTest, RefusesAnEmptyStartDateAndTouchesNothing) {
   BindFrom(D(2024, 1, 31), 14);
-  EXPECT_TRUE(Act(on_[TxtDtAanvang], headless::Enter{host::kNoDate}));
+  EXPECT_TRUE(Act(on_[TxtDtAanvang], controls::Enter{host::kNoDate}));
   EXPECT_THAT(Log(), ElementsAre("enter TxtDtAanvang_Validation", "enter Validation",
                                  "message Ontbrekende invoer|Voer s.v.p. een aanvangsdatum in.|48", "leave",
                                  "leave"));
@@ -247,21 +247,21 @@ TEST_F(DurationTest, ReportsWhatCannotBeConverted) {
   BindFrom(D(2024, 1, 31));
   struct Case {
     host::TextBox& box;
-    headless::BoxValue value;
+    controls::BoxValue value;
     const char* procedure;
   };
   for (const Case& c : {Case{on_[TxtBd], std::string("veel"), "TxtBd_Validation"},
                         Case{on_[TxtOm], 5.0, "TxtOm_Validation"},
                         Case{on_[TxtAnJaar], std::string("een"), "TxtAnJaar_Validation"},
                         Case{on_[TxtAnMaand], std::string("een"), "TxtAnMaand_Validation"}}) {
-    EXPECT_FALSE(Act(c.box, headless::Enter{c.value}));
+    EXPECT_FALSE(Act(c.box, controls::Enter{c.value}));
     EXPECT_THAT(Log(), ElementsAre(std::string("enter ") + c.procedure, std::string("error ") + c.procedure,
                                    "report VrijeKolom 13"));
     c.box.SetText("");
   }
   for (const Case& c : {Case{on_[TxtDtAanvang], std::string("gisteren"), "TxtDtAanvang_Validation"},
                         Case{on_[TxtDtEind], 45000.0, "TxtDtEind_Validation"}}) {
-    EXPECT_FALSE(Act(c.box, headless::Enter{c.value}));
+    EXPECT_FALSE(Act(c.box, controls::Enter{c.value}));
     // The check fails on it first, and then the handler.
     EXPECT_THAT(Log(), ElementsAre(std::string("enter ") + c.procedure, "enter Validation", "error Validation",
                                    "report VrijeKolom 13", std::string("error ") + c.procedure,

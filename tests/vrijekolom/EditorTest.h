@@ -33,14 +33,14 @@ class EditorTest : public ControlTest {
   }
   /// Leaves the mark of an edit that changes nothing else that matters to a test.
   void MarkChanged() {
-    Act(on_[vrijekolom::TxtOm], headless::Enter{std::string("anders")});
+    Act(on_[vrijekolom::TxtOm], controls::Enter{std::string("anders")});
     Forget();
   }
   /// A list entry by its text.
   void Pick(host::ListBox& list, const std::string& text) {
     for (int i = 0; i < list.ListCount(); ++i)
       if (list.List(i) == text) {
-        Act(list, headless::Choose{i});
+        Act(list, controls::Choose{i});
         return;
       }
     FAIL() << "no entry " << text;

@@ -55,22 +55,22 @@ void PrintTo(const Handler& handler, std::ostream* out) { *out << handler.name; 
 
 const Handler kHandlers[] = {
     {"jnInDagloon_Change", Guard::Filling, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.on_[jnInDagloon], headless::Toggle{host::kJa}); },
+     [](FieldHandlers& t) { t.Act(t.on_[jnInDagloon], controls::Toggle{host::kJa}); },
      {"enter jnInDagloon_Change", "set InDagloon=true", "leave"}},
     {"jnInkUitArbeid_Change", Guard::Filling, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.on_[jnInkUitArbeid], headless::Toggle{host::kJa}); },
+     [](FieldHandlers& t) { t.Act(t.on_[jnInkUitArbeid], controls::Toggle{host::kJa}); },
      {"enter jnInkUitArbeid_Change", "set InkomenUitArbeid=true", "leave"}},
     {"jnUwBemiddeling_Change", Guard::Filling, Dirty::No,
-     [](FieldHandlers& t) { t.Act(t.on_[jnUwBemiddeling], headless::Toggle{host::kJa}); },
+     [](FieldHandlers& t) { t.Act(t.on_[jnUwBemiddeling], controls::Toggle{host::kJa}); },
      {"enter jnUwBemiddeling_Change", "set UwBemiddeling=true", "leave"}},
     {"optAanvrager_Click", Guard::Filling, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.on_(optAanvrager, 2), headless::Select{}); },
+     [](FieldHandlers& t) { t.Act(t.on_(optAanvrager, 2), controls::Select{}); },
      Join({{"enter optAanvrager_Click", "set HeffingBij=2"}, kKopregel, {"leave"}})},
     {"optFiscaal_Click", Guard::Filling, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.on_(optFiscaal, 3), headless::Select{}); },
+     [](FieldHandlers& t) { t.Act(t.on_(optFiscaal, 3), controls::Select{}); },
      Join({{"enter optFiscaal_Click", "set CorrectieFiscaal=3"}, kHerbonden, kKopregel, {"leave"}})},
     {"optLast_Click", Guard::Filling, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.on_(optLast, 1), headless::Select{}); },
+     [](FieldHandlers& t) { t.Act(t.on_(optLast, 1), controls::Select{}); },
      Join({{"enter optLast_Click", "set CorrectieLast=1", "enter Check_FraFiscaal", "enter optFiscaal_Click",
             "set CorrectieFiscaal=1"},
            kHerbonden,
@@ -80,43 +80,43 @@ const Handler kHandlers[] = {
            kKopregel,
            {"leave"}})},
     {"TxtBd_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtBd], headless::Enter{1200.5})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtBd], controls::Enter{1200.5})); },
      Join({{"enter TxtBd_Validation", "set Basisbedrag=1200.5"}, kKopregel, {"leave"}})},
     {"TxtOm_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtOm], headless::Enter{std::string("Krant")})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtOm], controls::Enter{std::string("Krant")})); },
      Join({{"enter TxtOm_Validation", "set Omschrijving=\"Krant\""}, kKopregel, {"leave"}})},
     {"TxtAnJaar_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtAnJaar], headless::Enter{2.0})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtAnJaar], controls::Enter{2.0})); },
      Join({{"enter TxtAnJaar_Validation", "set Looptijd=25"}, kKopregel, {"leave"}})},
     {"TxtAnMaand_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtAnMaand], headless::Enter{14.0})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtAnMaand], controls::Enter{14.0})); },
      Join({{"enter TxtAnMaand_Validation", "set Looptijd=14"}, kKopregel, {"leave"}})},
     {"TxtDtAanvang_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtDtAanvang], headless::Enter{D(2024, 2, 1)})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtDtAanvang], controls::Enter{D(2024, 2, 1)})); },
      Join({{"enter TxtDtAanvang_Validation", "enter Validation", "leave", "set DatumAanvang=2024-2-1"},
            kKopregel,
            {"leave"}})},
     {"TxtDtEind_Validation", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtDtEind], headless::Enter{D(2024, 7, 1)})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtDtEind], controls::Enter{D(2024, 7, 1)})); },
      Join({{"enter TxtDtEind_Validation", "enter Validation", "leave", "set Looptijd=6"}, kKopregel, {"leave"}})},
     {"txtMaatschappij_Validation", Guard::None, Dirty::No,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtMaatschappij], headless::Enter{std::string("Bank")})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtMaatschappij], controls::Enter{std::string("Bank")})); },
      {"enter txtMaatschappij_Validation", "set MaatschappijNaam=\"Bank\"", "leave"}},
     {"txtProductsoort_Validation", Guard::None, Dirty::No,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductsoort], headless::Enter{std::string("Koor")})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductsoort], controls::Enter{std::string("Koor")})); },
      {"enter txtProductsoort_Validation", "set ProductsoortOmschrijving=\"Koor\"", "leave"}},
     {"txtProductnaam_Validation", Guard::None, Dirty::No,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductnaam], headless::Enter{std::string("Extra")})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductnaam], controls::Enter{std::string("Extra")})); },
      {"enter txtProductnaam_Validation", "set Productnaam=\"Extra\"", "leave"}},
     {"txtVervaldatum_Validation", Guard::None, Dirty::No,
-     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtVervaldatum], headless::Enter{D(2030, 6, 1)})); },
+     [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtVervaldatum], controls::Enter{D(2030, 6, 1)})); },
      {"enter txtVervaldatum_Validation", "set Contractvervaldatum=2030-6-1", "leave"},
      [](FieldHandlers& t) { t.BindContract(); }},
     {"txtProducttype_Validation", Guard::None, Dirty::No,
      [](FieldHandlers& t) { t.editor_->txtProducttype_Validation(); },
      {"enter txtProducttype_Validation", "leave"}},
     {"Toelichting_Changed", Guard::None, Dirty::Yes,
-     [](FieldHandlers& t) { t.Act(t.InToelichting()[toelichting::jnOverlijden], headless::Toggle{host::kJa}); },
+     [](FieldHandlers& t) { t.Act(t.InToelichting()[toelichting::jnOverlijden], controls::Toggle{host::kJa}); },
      {"enter Toelichting.jnOverlijden_Change", "set ScenarioOverlijden=true", "set PercentageOvergang=0",
       "set EinddatumOvergang=0", "set EindleeftijdOvergang=0", "leave Toelichting"}},
 };
@@ -164,12 +164,12 @@ TEST_F(NestingTest, IncomeFromWorkEnablesTheDayWage) {
   kolom_.velden.InkomenUitArbeid = true;
   kolom_.velden.InDagloon = true;
   BindEverything();
-  Act(on_[jnInkUitArbeid], headless::Toggle{host::kNee});
+  Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
                                  "enter jnInDagloon_Change", "set InDagloon=false", "leave", "leave"));
   EXPECT_FALSE(on_[jnInDagloon].Enabled());
   EXPECT_EQ(on_[jnInDagloon].Value(), host::kNee);
-  Act(on_[jnInkUitArbeid], headless::Toggle{host::kJa});
+  Act(on_[jnInkUitArbeid], controls::Toggle{host::kJa});
   EXPECT_TRUE(on_[jnInDagloon].Enabled());
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set InkomenUitArbeid=true")) << "the day wage stays \"Nee\"";
 }
@@ -177,7 +177,7 @@ TEST_F(NestingTest, IncomeFromWorkEnablesTheDayWage) {
 TEST_F(NestingTest, OnlyATaxableContributionKeepsItsIncomeFromWork) {
   kolom_.velden.InkomenUitArbeid = kolom_.velden.InDagloon = true;
   BindEverything();
-  Act(on_(optFiscaal, 3), headless::Select{});
+  Act(on_(optFiscaal, 3), controls::Select{});
   EXPECT_THAT(Log(), ElementsAreArray(Join(
                          {{"enter optFiscaal_Click", "set CorrectieFiscaal=3", "enter jnInkUitArbeid_Change",
                            "set InkomenUitArbeid=false", "enter jnInDagloon_Change", "set InDagloon=false", "leave",
@@ -186,7 +186,7 @@ TEST_F(NestingTest, OnlyATaxableContributionKeepsItsIncomeFromWork) {
                           kKopregel,
                           {"leave"}})));
   EXPECT_FALSE(on_[jnInkUitArbeid].Enabled());
-  Act(on_(optFiscaal, 2), headless::Select{});
+  Act(on_(optFiscaal, 2), controls::Select{});
   EXPECT_TRUE(on_[jnInkUitArbeid].Enabled());
   EXPECT_EQ(on_[jnInkUitArbeid].Value(), host::kNee);
 }
@@ -196,7 +196,7 @@ TEST_F(NestingTest, AFailureInsideEndsTheInnerProcedureAlone) {
   kolom_.velden.InkomenUitArbeid = true;
   BindEverything();
   host_.journal.Fail("InDagloon", Op::Set);
-  Act(on_[jnInkUitArbeid], headless::Toggle{host::kNee});
+  Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
                                  "enter jnInDagloon_Change", "error jnInDagloon_Change", "report VrijeKolom 1004",
                                  "leave"));
@@ -207,9 +207,9 @@ TEST_F(NestingTest, TheExplanationListFollowsTheCorrections) {
   BindEverything();
   host::ListView& list = InToelichting()[toelichting::lstToelichting];
   EXPECT_EQ(list.Selected(), 3U);
-  Act(on_(optFiscaal, 3), headless::Select{});
+  Act(on_(optFiscaal, 3), controls::Select{});
   EXPECT_EQ(list.Selected(), 4U);
-  Act(on_(optLast, 1), headless::Select{});
+  Act(on_(optLast, 1), controls::Select{});
   EXPECT_EQ(list.Selected(), 1U);
 }
 
@@ -218,7 +218,7 @@ class ErrorReportTest : public FieldHandlers {};
 TEST_F(ErrorReportTest, FillsTheRecordInOrderAndReportsOnce) {
   BindEverything();
   host_.journal.Fail("Omschrijving", Op::Set, 1, {13, "Type mismatch", "Kwandero.Record"});
-  Act(on_[TxtOm], headless::Enter{std::string("x")});
+  Act(on_[TxtOm], controls::Enter{std::string("x")});
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "error TxtOm_Validation", "report VrijeKolom 13"));
   EXPECT_THAT(host_.traces.at(1)->Take(),
               ElementsAre("ApplicationTitle=Dossier", "ObjectName=VrijeKolom", "Caption=Kwandero",
@@ -232,14 +232,14 @@ TEST_F(ErrorReportTest, ResetsThePointerFirst) {
   BindEverything();
   host_.journal.Fail("Omschrijving", Op::Set);
   host_.journal.Fail("ApplicationTitle", Op::Set);
-  EXPECT_THROW(Act(on_[TxtOm], headless::Enter{std::string("x")}), host::Error);
+  EXPECT_THROW(Act(on_[TxtOm], controls::Enter{std::string("x")}), host::Error);
   EXPECT_EQ(toolkit_.Desktop().pointerResets, 1);
 }
 
 TEST_F(ErrorReportTest, UndoesNothing) {
   BindEverything();
   host_.journal.Fail("Kopregel", Op::Get);
-  Act(on_[TxtOm], headless::Enter{std::string("geschreven")});
+  Act(on_[TxtOm], controls::Enter{std::string("geschreven")});
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "set Omschrijving=\"geschreven\"",
                                  "error TxtOm_Validation", "report VrijeKolom 1004"));
   EXPECT_EQ(kolom_.velden.Omschrijving, "geschreven");
@@ -250,7 +250,7 @@ TEST_F(ErrorReportTest, BelongsToTheCallerWhenItFailsItself) {
   BindEverything();
   host_.journal.Fail("Omschrijving", Op::Set);
   host_.journal.Fail("ReportError", Op::Call);
-  EXPECT_THROW(Act(on_[TxtOm], headless::Enter{std::string("x")}), host::Error);
+  EXPECT_THROW(Act(on_[TxtOm], controls::Enter{std::string("x")}), host::Error);
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "error TxtOm_Validation"));
 }
 
@@ -260,7 +260,7 @@ TEST_F(ErrorReportTest, FailsTheTracedProcedureAroundIt) {
   host_.journal.Fail("ReportError", Op::Call, 1, {70, "Geen toegang", "Kwandero"});
   kolom_.velden.InDagloon = kolom_.velden.InkomenUitArbeid = true;
   BindUnheard();
-  Act(on_[jnInkUitArbeid], headless::Toggle{host::kNee});
+  Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
                                  "enter jnInDagloon_Change", "error jnInDagloon_Change",
                                  "error jnInkUitArbeid_Change", "report VrijeKolom 70"));
@@ -269,7 +269,7 @@ TEST_F(ErrorReportTest, FailsTheTracedProcedureAroundIt) {
 TEST_F(ErrorReportTest, NamesAnExceptionOfAnotherKindByItsText) {
   BindEverything();
   editor_->RefreshTopDisplay.Connect([](const std::string&) { throw std::runtime_error("de luisteraar"); });
-  Act(on_[TxtBd], headless::Enter{1.0});
+  Act(on_[TxtBd], controls::Enter{1.0});
   EXPECT_THAT(Log(), ElementsAre("enter TxtBd_Validation", "set Basisbedrag=1", "error TxtBd_Validation",
                                  "report VrijeKolom 440"));
   const Lines record = host_.traces.at(1)->Take();

@@ -27,9 +27,9 @@ class EditorLayoutTest : public EditorTest {
                                         std::pair{fraHeffing, 660}})
       on_[kader].Write(host::Measure::Height, static_cast<float>(hoogte));
     InToelichting()[toelichting::fraContent].Move({{135}, {2115}, {5760}, {1890}});
-    headless::Surface::Of(dynamic_cast<host::Surface&>(on_[ToelichtingVlak])).Size({6030}, {4065});
+    controls::Surface::Of(dynamic_cast<host::Surface&>(on_[ToelichtingVlak])).Size({6030}, {4065});
   }
-  void Size(float width, float height) { headless::Surface::Of(*surface_).Size({width}, {height}); }
+  void Size(float width, float height) { controls::Surface::Of(*surface_).Size({width}, {height}); }
   [[nodiscard]] Twips Top(host::Control& control) { return control.Place().top; }
   [[nodiscard]] Twips Height(host::Control& control) { return control.Place().height; }
 };

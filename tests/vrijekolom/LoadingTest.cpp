@@ -322,7 +322,7 @@ TEST_F(LoadingTest, KeepsTheOldColumnWhereTheLoanIsNotFound) {
   Bind(5, 1);
   Forget();
   EXPECT_EQ(editor_->Item()->Id(), 1);
-  Act(on_[TxtOm], headless::Enter{std::string("nog steeds")});
+  Act(on_[TxtOm], controls::Enter{std::string("nog steeds")});
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set Omschrijving=\"nog steeds\"")) << "boxes are not guarded";
 }
 

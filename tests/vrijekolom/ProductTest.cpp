@@ -210,7 +210,7 @@ TEST_F(ProductTest, LooksTheCompanyUpBeforeItNeedsTheColumn) {
 
 TEST_F(ProductTest, IsFilledWhenItBecomesAProduct) {
   BindUnheard();
-  Act(on_[chkProduct], headless::Tick{host::kTicked});
+  Act(on_[chkProduct], controls::Tick{host::kTicked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true",
                                  "enter Fill_Product", "enter Fill_cboMaatschappij",
                                  "call VulCombo(MaatschappijType, cboMaatschappij, \"\", \"\")", "leave",
@@ -223,7 +223,7 @@ TEST_F(ProductTest, IsFilledWhenItBecomesAProduct) {
 
 TEST_F(ProductTest, EmptiesTheProductDataOfAContractAndItsDuration) {
   BindProduct("ZZ", 45);
-  Act(on_[chkProduct], headless::Tick{host::kUnticked});
+  Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=false", "set Maatschappij=\"\"",
                                  "set MaatschappijNaam=\"\"", "set Productsoort=0",
                                  "set ProductsoortOmschrijving=\"\"", "set Productnaam=\"\"",
@@ -238,7 +238,7 @@ TEST_F(ProductTest, EmptiesTheProductDataOfAContractAndItsDuration) {
 
 TEST_F(ProductTest, KeepsTheDurationOfAProductThatIsNoContract) {
   BindProduct("AB", 99);
-  Act(on_[chkProduct], headless::Tick{host::kUnticked});
+  Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=false", "set Maatschappij=\"\"",
                                  "set MaatschappijNaam=\"\"", "set Productsoort=0",
                                  "set ProductsoortOmschrijving=\"\"", "set Productnaam=\"\"",
@@ -247,7 +247,7 @@ TEST_F(ProductTest, KeepsTheDurationOfAProductThatIsNoContract) {
 }
 
 TEST_F(ProductTest, ShowsTheFramesThoughNothingIsBound) {
-  Act(on_[chkProduct], headless::Tick{host::kTicked});
+  Act(on_[chkProduct], controls::Tick{host::kTicked});
   ExpectFrames(true);
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "error chkProduct_Click"));
 }
@@ -265,7 +265,7 @@ TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
   BindUnheard();
   on_[txtMaatschappij].SetText("van een andere kolom");
   host_.journal.Fail("VulCombo", Op::Call);
-  Act(on_[chkProduct], headless::Tick{host::kTicked});
+  Act(on_[chkProduct], controls::Tick{host::kTicked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true",
                                  "enter Fill_Product", "enter Fill_cboMaatschappij", "error Fill_cboMaatschappij",
                                  "report VrijeKolom 1004", "enter Fill_cboProductsoort", "set Productsoort=99",
@@ -278,7 +278,7 @@ TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
 TEST_F(ProductTest, KeepsWhatItEmptiedBeforeAFailure) {
   BindProduct("ZZ", 45);
   host_.journal.Fail("Productnaam", Op::Set);
-  Act(on_[chkProduct], headless::Tick{host::kUnticked});
+  Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 1004"));
   EXPECT_FALSE(kolom_.velden.IsProduct);
   EXPECT_EQ(kolom_.velden.Productsoort, 0);
@@ -293,7 +293,7 @@ TEST_F(ProductTest, LeavesFillingSetWhereTheLayoutFails) {
   Pick(on_[cboProductsoort], "Krant");
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 6"));
   EXPECT_TRUE(editor_->Filling());
-  Act(on_[jnUwBemiddeling], headless::Toggle{host::kNee});
+  Act(on_[jnUwBemiddeling], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), IsEmpty());
 }
 

@@ -95,7 +95,7 @@ class ProposalTest : public EditorTest {
     editor_->SetBeeindigenZichtbaar(true);
     BindUnheard();
   }
-  void Tick(int voorstel, int value) { Act(on_(ChkVoorstel, voorstel), headless::Tick{value}); }
+  void Tick(int voorstel, int value) { Act(on_(ChkVoorstel, voorstel), controls::Tick{value}); }
 };
 
 TEST_F(ProposalTest, TakesOutOneAndRegistersEveryOther) {
@@ -136,7 +136,7 @@ TEST_F(ProposalTest, GoesByTheMembershipAsTheRecordKeepsIt) {
 
 TEST_F(ProposalTest, CannotBeTickedWhileItsFrameIsHidden) {
   BindUnheard();
-  EXPECT_EQ(Try(on_(ChkVoorstel, 1), headless::Tick{host::kTicked}), headless::Outcome::Ignored);
+  EXPECT_EQ(Try(on_(ChkVoorstel, 1), controls::Tick{host::kTicked}), controls::Outcome::Ignored);
 }
 
 class ScenarioLaunchTest : public EditorTest {
@@ -156,7 +156,7 @@ class ScenarioLaunchTest : public EditorTest {
 TEST_F(ScenarioLaunchTest, OpensTheFormOnTheColumnsAmount) {
   editor_->SetBackColor({0x00FF00});
   BindUnheard();
-  Act(on_[cmdScenario], headless::Press{});
+  Act(on_[cmdScenario], controls::Press{});
   EXPECT_THAT(Log(), ElementsAre("enter cmdScenario_Click", "opened 17", "event RefreshTopDisplay de weergave",
                                  "leave"));
   EXPECT_EQ(color_, host::Color{0x00FF00});
@@ -177,7 +177,7 @@ TEST_F(ScenarioLaunchTest, CountsCalendarYearsToThePersonsAgeLimit) {
     kolom_.velden.HeffingBij = c.heffingBij;
     toolkit_.Desktop().today = c.today;
     BindUnheard();
-    Act(on_[cmdScenario], headless::Press{});
+    Act(on_[cmdScenario], controls::Press{});
     EXPECT_THAT(Only(Log(), "opened"), ElementsAre(c.opened));
   }
 }
@@ -185,11 +185,11 @@ TEST_F(ScenarioLaunchTest, CountsCalendarYearsToThePersonsAgeLimit) {
 TEST_F(ScenarioLaunchTest, ShowsTheAmountThatTheFormWrote) {
   kolom_.bedrag->bedrag = 100;
   BindUnheard();
-  toolkit_.modal = [this](headless::Form& form) {
-    (void)form.Find("txtBedrag", 1)->Perform(headless::Enter{250.0});
+  toolkit_.modal = [this](controls::Form& form) {
+    (void)form.Find("txtBedrag", 1)->Perform(controls::Enter{250.0});
     EXPECT_EQ(on_[TxtBd].Number(), 100) << "not before the form closes";
   };
-  Act(on_[cmdScenario], headless::Press{});
+  Act(on_[cmdScenario], controls::Press{});
   EXPECT_EQ(on_[TxtBd].Number(), 250);
   EXPECT_THAT(Log(), ElementsAre("enter cmdScenario_Click", "opened 17", "set Scenario.Bedrag=250",
                                  "event RefreshTopDisplay de weergave", "leave"));
@@ -199,13 +199,13 @@ TEST_F(ScenarioLaunchTest, OpensNoFormWithoutThePerson) {
   host_.dossier.personen.pop_back();
   kolom_.velden.HeffingBij = 2;
   BindUnheard();
-  Act(on_[cmdScenario], headless::Press{});
+  Act(on_[cmdScenario], controls::Press{});
   EXPECT_THAT(Log(), ElementsAre("enter cmdScenario_Click", "error cmdScenario_Click", "report VrijeKolom 91"));
   EXPECT_FALSE(editor_->Gewijzigd());
 }
 
 TEST_F(ScenarioLaunchTest, AsksForNoOwnerBeforeTheFirstBinding) {
-  Act(on_[cmdScenario], headless::Press{});
+  Act(on_[cmdScenario], controls::Press{});
   EXPECT_THAT(Log(), ElementsAre("enter cmdScenario_Click", "error cmdScenario_Click"));
 }
 

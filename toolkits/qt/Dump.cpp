@@ -8,19 +8,19 @@
 #include <QLineEdit>
 #include <QTreeWidget>
 
-#include "toolkits/headless/Choices.h"
-#include "toolkits/qt/CellPeer.h"
+#include "controls/Choices.h"
+#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Edge.h"
-#include "toolkits/qt/JaNeeToggle.h"
-#include "toolkits/qt/Peers.h"
-#include "toolkits/qt/RowCanvas.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
+#include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/rows/RowCanvas.h"
 #include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
 namespace {
 
-using headless::ControlDump;
-using headless::DumpValue;
+using controls::ControlDump;
+using controls::DumpValue;
 using host::Kind;
 
 DumpValue ReadShown(const QString& text, frame::Format format) {
@@ -68,7 +68,7 @@ void ReadListView(const QTreeWidget& tree, const Edge& edge, ControlDump& dump) 
   for (int row = 0; row < tree.topLevelItemCount(); ++row) {
     const auto place = static_cast<std::size_t>(row);
     const std::size_t cells = place < asked.items.size() ? asked.items[place].cells.size() : 0;
-    headless::ListView::Item item{place < asked.items.size() ? asked.items[place].key : "", {}};
+    controls::ListView::Item item{place < asked.items.size() ? asked.items[place].key : "", {}};
     const QTreeWidgetItem& line = *tree.topLevelItem(row);
     for (int i = 0; i < static_cast<int>(cells); ++i) item.cells.push_back({FromQt(line.text(i)), line.font(i).bold()});
     shown.items.push_back(item);
@@ -77,7 +77,7 @@ void ReadListView(const QTreeWidget& tree, const Edge& edge, ControlDump& dump) 
   dump.listView = shown;
 }
 
-void ReadWidget(const headless::AnyControl& control, const QWidget& widget, const Edge& edge, ControlDump& dump) {
+void ReadWidget(const controls::AnyControl& control, const QWidget& widget, const Edge& edge, ControlDump& dump) {
   dump.visible = !widget.isHidden();
   dump.enabled = widget.isEnabledTo(widget.parentWidget());
   dump.place = ShownPlace(widget.geometry(), dump.place, edge);
@@ -118,17 +118,17 @@ void ReadCell(const CellPeer& cell, const Edge& edge, ControlDump& dump) {
 
 }  // namespace
 
-std::vector<ControlDump> DumpShown(const headless::Surface& surface, const Toolkit& toolkit) {
+std::vector<ControlDump> DumpShown(const controls::Surface& surface, const Toolkit& toolkit) {
   std::vector<ControlDump> dumps;
   for (const auto& control : surface.Made()) {
-    ControlDump dump = headless::Dump(*control);
+    ControlDump dump = controls::Dump(*control);
     if (const auto* cell = dynamic_cast<const CellPeer*>(control->GetPeer()))
       ReadCell(*cell, toolkit.Edge(), dump);
     else
       ReadWidget(*control, *dynamic_cast<AreaHolder&>(*control->GetPeer()).Area(), toolkit.Edge(), dump);
     dumps.push_back(std::move(dump));
     if (control->ControlKind() != Kind::Surface) continue;
-    std::vector<ControlDump> inner = DumpShown(static_cast<const headless::Surface&>(*control), toolkit);
+    std::vector<ControlDump> inner = DumpShown(static_cast<const controls::Surface&>(*control), toolkit);
     dumps.insert(dumps.end(), std::make_move_iterator(inner.begin()), std::make_move_iterator(inner.end()));
   }
   return dumps;

@@ -3,9 +3,9 @@
 #include <QFontInfo>
 #include <limits>
 
-#include "toolkits/entry/Content.h"
-#include "toolkits/headless/Caption.h"
-#include "toolkits/headless/Pixels.h"
+#include "controls/entry/Content.h"
+#include "controls/Caption.h"
+#include "controls/Pixels.h"
 #include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
@@ -22,11 +22,11 @@ Edge Edge::OfFont(const QFont& font) {
 }
 
 int Edge::Pixel(float twips) const {
-  return headless::Pixel(twips, scale_);
+  return controls::Pixel(twips, scale_);
 }
 
 QRect Edge::Pixels(const host::Place& place) const {
-  const headless::PixelPlace pixels = headless::Pixels(place, scale_);
+  const controls::PixelPlace pixels = controls::Pixels(place, scale_);
   return {pixels.left, pixels.top, pixels.width, pixels.height};
 }
 
@@ -58,19 +58,19 @@ QColor TextOn(const QColor& background) {
 }
 
 QString ShownCaption(const frame::Row& row, const std::string& caption) {
-  return ToQt(headless::MarkedCaption(row, caption));
+  return ToQt(controls::MarkedCaption(row, caption));
 }
 
 QString PlainCaption(const std::string& caption) {
   return ToQt(caption);
 }
 
-QString ShownContent(const headless::BoxValue& content, frame::Format format) {
-  return ToQt(entry::ShowContent(content, format));
+QString ShownContent(const controls::BoxValue& content, frame::Format format) {
+  return ToQt(controls::ShowContent(content, format));
 }
 
 TypedContent ReadContent(const QString& typed, frame::Format format) {
-  entry::TypedContent content = entry::ReadContent(FromQt(typed), format);
+  controls::TypedContent content = controls::ReadContent(FromQt(typed), format);
   return {std::move(content.value), ToQt(content.refusal)};
 }
 

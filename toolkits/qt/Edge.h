@@ -9,7 +9,7 @@
 #include "frame/Design.h"
 #include "host/Color.h"
 #include "host/Twips.h"
-#include "toolkits/headless/Action.h"
+#include "controls/Action.h"
 
 /// Where twips, colours, captions and box contents become what Qt draws, and back.
 namespace brivane::qt {
@@ -51,11 +51,11 @@ class Edge {
 [[nodiscard]] QString PlainCaption(const std::string& caption);
 
 /// How a box of a format shows its content.
-[[nodiscard]] QString ShownContent(const headless::BoxValue& content, frame::Format format);
+[[nodiscard]] QString ShownContent(const controls::BoxValue& content, frame::Format format);
 
 /// What a typed text is as content of a box; a reason to refuse it where it is not of the format.
 struct TypedContent {
-  headless::BoxValue value;
+  controls::BoxValue value;
   QString refusal;
 };
 [[nodiscard]] TypedContent ReadContent(const QString& typed, frame::Format format);

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "toelichting/Toelichting.h"
-#include "toolkits/qt/ControlWidget.h"
+#include "toolkits/qt/widgets/ControlWidget.h"
 
 namespace brivane::qt {
 

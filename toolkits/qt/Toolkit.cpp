@@ -2,10 +2,10 @@
 
 #include <QFontMetricsF>
 
-#include "toolkits/qt/CellPeer.h"
-#include "toolkits/qt/EntryBox.h"
-#include "toolkits/qt/FormWindow.h"
-#include "toolkits/qt/Peers.h"
+#include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/widgets/EntryBox.h"
+#include "toolkits/qt/widgets/FormWindow.h"
+#include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
@@ -14,12 +14,12 @@ void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
   (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
 }
 
-bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget) {
+bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget) {
   EntryBox* const elsewhere = EntryBox::PendingWithin(*widget.window());
   if (elsewhere != nullptr && elsewhere != &widget && !elsewhere->CommitPending()) return false;
-  headless::Outcome outcome = headless::Outcome::Done;
+  controls::Outcome outcome = controls::Outcome::Done;
   Guard([&] { outcome = control.Perform(action); });
-  return outcome == headless::Outcome::Done;
+  return outcome == controls::Outcome::Done;
 }
 
 host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
@@ -29,16 +29,16 @@ host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view t
 }
 
 QWidget& Toolkit::WidgetOf(host::Surface& surface) {
-  return *dynamic_cast<AreaHolder&>(*headless::Surface::Of(surface).GetPeer()).Area();
+  return *dynamic_cast<AreaHolder&>(*controls::Surface::Of(surface).GetPeer()).Area();
 }
 
-std::unique_ptr<headless::Peer> Toolkit::MakePeer(headless::AnyControl& control) {
+std::unique_ptr<controls::Peer> Toolkit::MakePeer(controls::AnyControl& control) {
   // The many rows of a form are painted by what they stand on.
   if (control.Row().index == frame::kTemplateIndex) return std::make_unique<CellPeer>(control, *this);
   return MakeWidgetPeer(control, *this);
 }
 
-std::unique_ptr<headless::FormPeer> Toolkit::MakeFormPeer(headless::Form& form) {
+std::unique_ptr<controls::FormPeer> Toolkit::MakeFormPeer(controls::Form& form) {
   return std::make_unique<FormWindow>(form, *this);
 }
 

@@ -3,23 +3,23 @@
 #include <QWidget>
 #include <memory>
 
-#include "toolkits/headless/DrawnToolkit.h"
+#include "controls/DrawnToolkit.h"
 #include "toolkits/qt/Desktop.h"
 #include "toolkits/qt/Edge.h"
 
 namespace brivane::qt {
 
-/// Shows design tables as Qt widgets. What a control does stands in the headless controls; each has a peer
+/// Shows design tables as Qt widgets. What a control does stands in the controls in memory; each has a peer
 /// here that shows it and hands over what a person does.
 ///
 /// Must outlive the surfaces and forms that it made.
-class Toolkit : public headless::DrawnToolkit {
+class Toolkit : public controls::DrawnToolkit {
  public:
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
 
   /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
   /// handed over first; where that is refused, the action is not done. False where it was not done.
-  bool Act(headless::AnyControl& control, const headless::Action& action, const QWidget& widget);
+  bool Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget);
 
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }
   /// What is shown later has this scale; what is shown already is to be shown anew.
@@ -31,8 +31,8 @@ class Toolkit : public headless::DrawnToolkit {
   [[nodiscard]] static QWidget& WidgetOf(host::Surface& surface);
 
  protected:
-  [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
-  [[nodiscard]] std::unique_ptr<headless::FormPeer> MakeFormPeer(headless::Form& form) override;
+  [[nodiscard]] std::unique_ptr<controls::Peer> MakePeer(controls::AnyControl& control) override;
+  [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
   void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:

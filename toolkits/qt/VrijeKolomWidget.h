@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "toolkits/qt/ControlWidget.h"
+#include "toolkits/qt/widgets/ControlWidget.h"
 #include "vrijekolom/VrijeKolom.h"
 
 namespace brivane::qt {

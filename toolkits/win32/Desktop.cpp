@@ -3,8 +3,8 @@
 #include <cmath>
 
 #include "frame/Calendar.h"
-#include "toolkits/headless/Desktop.h"
-#include "toolkits/win32/Text.h"
+#include "frame/GroupedNumber.h"
+#include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
 
@@ -110,7 +110,7 @@ void Desktop::DoPendingEvents() {
 
 std::string Desktop::FormatWhole(double number) const {
   const double whole = std::round(number);
-  return headless::FormatGrouped(whole == 0 ? 0.0 : whole, groupSeparator ? *groupSeparator : UserSeparator());
+  return frame::FormatGrouped(whole == 0 ? 0.0 : whole, groupSeparator ? *groupSeparator : UserSeparator());
 }
 
 }  // namespace brivane::win32

@@ -4,10 +4,10 @@
 #include <optional>
 #include <string>
 
-#include "toolkits/win32/WindowsApi.h"
+#include "toolkits/win32/window/WindowsApi.h"
 
 #include "host/controls/Desktop.h"
-#include "toolkits/headless/Pixels.h"
+#include "controls/Pixels.h"
 
 namespace brivane::win32 {
 
@@ -29,8 +29,8 @@ class Desktop final : public host::Desktop {
   /// Separates groups of three digits instead of what the user chose, when set.
   std::optional<std::string> groupSeparator;
   /// Twips to a pixel as the logic sees them: the windows are scaled to the screen themselves.
-  float twipsPerPixelX = static_cast<float>(headless::kTwipsPerPixel);
-  float twipsPerPixelY = static_cast<float>(headless::kTwipsPerPixel);
+  float twipsPerPixelX = static_cast<float>(controls::kTwipsPerPixel);
+  float twipsPerPixelY = static_cast<float>(controls::kTwipsPerPixel);
 
   /// A message box of the toolkit's own: as MessageBox, and nobody is told.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text, host::MessageStyle style);

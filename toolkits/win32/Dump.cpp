@@ -2,16 +2,16 @@
 
 #include <commctrl.h>
 
-#include "toolkits/entry/Content.h"
-#include "toolkits/headless/Caption.h"
-#include "toolkits/win32/ControlWindow.h"
-#include "toolkits/win32/Text.h"
-#include "toolkits/win32/ToggleWindow.h"
+#include "controls/entry/Content.h"
+#include "controls/Caption.h"
+#include "toolkits/win32/window/ControlWindow.h"
+#include "toolkits/win32/window/Text.h"
+#include "toolkits/win32/controls/ToggleWindow.h"
 
 namespace brivane::win32 {
 
-using headless::ControlDump;
-using headless::DumpValue;
+using controls::ControlDump;
+using controls::DumpValue;
 using host::Kind;
 
 namespace {
@@ -39,7 +39,7 @@ Kind KindOf(HWND window, Kind made) {
 }
 
 DumpValue ReadShown(const std::string& text, frame::Format format) {
-  const entry::TypedContent content = entry::ReadContent(text, format);
+  const controls::TypedContent content = controls::ReadContent(text, format);
   if (!content.refusal.empty()) return text;
   if (const auto* number = std::get_if<double>(&content.value)) return *number;
   if (const auto* date = std::get_if<host::Date>(&content.value)) return *date;
@@ -63,7 +63,7 @@ host::Place ShownPlace(HWND window, HWND container, const host::Place& asked, co
 /// blank after it.
 std::string CaptionOf(std::string shown, const frame::Row& row, const std::string& asked) {
   if (row.kind == Kind::Frame && shown.ends_with(' ')) shown.pop_back();
-  return shown == headless::MarkedCaption(row, asked) ? asked : shown;
+  return shown == controls::MarkedCaption(row, asked) ? asked : shown;
 }
 
 std::wstring EntryOf(HWND combo, int index) {
@@ -107,7 +107,7 @@ ControlDump::ListViewContent ReadListView(HWND list, const ControlDump::ListView
     SendMessageW(list, LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
     if ((item.state & LVIS_SELECTED) != 0) shown.selected = row + 1;
     const bool known = row < asked.items.size();
-    headless::ListView::Item read{known ? asked.items[row].key : "", {}};
+    controls::ListView::Item read{known ? asked.items[row].key : "", {}};
     for (std::size_t i = 0; i < (known ? asked.items[row].cells.size() : 0); ++i) {
       LVITEMW cell{};
       cell.iSubItem = static_cast<int>(i);
@@ -145,14 +145,14 @@ void ReadWindow(const ControlWindow& shown, ControlDump& dump, const Edge& edge)
 
 }  // namespace
 
-std::vector<ControlDump> DumpShown(const headless::Surface& surface, const Toolkit& toolkit) {
+std::vector<ControlDump> DumpShown(const controls::Surface& surface, const Toolkit& toolkit) {
   std::vector<ControlDump> dumps;
   for (const auto& control : surface.Made()) {
-    ControlDump dump = headless::Dump(*control);
+    ControlDump dump = controls::Dump(*control);
     ReadWindow(WindowFor(*control), dump, toolkit.Edge());
     dumps.push_back(std::move(dump));
     if (control->ControlKind() != Kind::Surface) continue;
-    std::vector<ControlDump> inner = DumpShown(static_cast<const headless::Surface&>(*control), toolkit);
+    std::vector<ControlDump> inner = DumpShown(static_cast<const controls::Surface&>(*control), toolkit);
     dumps.insert(dumps.end(), std::make_move_iterator(inner.begin()), std::make_move_iterator(inner.end()));
   }
   return dumps;

@@ -2,10 +2,10 @@
 
 #include <commctrl.h>
 
-#include "toolkits/win32/BoxWindow.h"
-#include "toolkits/win32/FormWindow.h"
-#include "toolkits/win32/Navigation.h"
-#include "toolkits/win32/Text.h"
+#include "toolkits/win32/controls/BoxWindow.h"
+#include "toolkits/win32/form/FormWindow.h"
+#include "toolkits/win32/window/Navigation.h"
+#include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
 
@@ -100,18 +100,18 @@ bool Toolkit::LeaveBox(const Window& target) {
   return box == nullptr || static_cast<const Window*>(box) == &target || box->CommitPending();
 }
 
-bool Toolkit::Act(headless::AnyControl& control, const headless::Action& action, const Window& window) {
+bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const Window& window) {
   const auto life = window.Life();
   if (!LeaveBox(window) || life.expired()) return false;
-  headless::Outcome outcome = headless::Outcome::Ignored;
+  controls::Outcome outcome = controls::Outcome::Ignored;
   Guard([&] { outcome = control.Perform(action); });
-  return outcome == headless::Outcome::Done;
+  return outcome == controls::Outcome::Done;
 }
 
-HWND Toolkit::WindowOf(host::Surface& surface) { return AreaOf(headless::Surface::Of(surface)); }
+HWND Toolkit::WindowOf(host::Surface& surface) { return AreaOf(controls::Surface::Of(surface)); }
 
 bool Toolkit::Navigate(host::Surface& surface, const MSG& message) {
-  const headless::Surface& area = headless::Surface::Of(surface);
+  const controls::Surface& area = controls::Surface::Of(surface);
   auto* const control = dynamic_cast<ControlWindow*>(Window::Of(message.hwnd));
   const bool inside = control != nullptr && &RootOf(control->Control()) == &area;
   if (message.message == WM_SYSCHAR && !inside) return PressMnemonic(area, static_cast<wchar_t>(message.wParam));
@@ -119,24 +119,24 @@ bool Toolkit::Navigate(host::Surface& surface, const MSG& message) {
 }
 
 bool Toolkit::FocusFirst(host::Surface& surface) {
-  return FocusEnd(headless::Surface::Of(surface), Direction::Forward);
+  return FocusEnd(controls::Surface::Of(surface), Direction::Forward);
 }
-bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(headless::Surface::Of(surface), Direction::Back); }
+bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(controls::Surface::Of(surface), Direction::Back); }
 
 bool Toolkit::CommitPending(host::Surface& surface) {
-  BoxWindow* const box = BoxWindow::PendingOn(headless::Surface::Of(surface));
+  BoxWindow* const box = BoxWindow::PendingOn(controls::Surface::Of(surface));
   return box == nullptr || box->CommitPending();
 }
 
 void Toolkit::Rescale(host::Surface& surface) {
-  const std::function<void(const headless::Surface&)> rescale = [&](const headless::Surface& area) {
+  const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {
     for (const auto& control : area.Made()) {
       dynamic_cast<ControlWindow&>(*control->GetPeer()).Rescale();
-      if (control->ControlKind() == host::Kind::Surface) rescale(static_cast<const headless::Surface&>(*control));
+      if (control->ControlKind() == host::Kind::Surface) rescale(static_cast<const controls::Surface&>(*control));
     }
-    area.GetPeer()->Refresh(headless::Aspect::Place);
+    area.GetPeer()->Refresh(controls::Aspect::Place);
   };
-  rescale(headless::Surface::Of(surface));
+  rescale(controls::Surface::Of(surface));
 }
 
 host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
@@ -150,11 +150,11 @@ HFONT Toolkit::FontOf(const frame::Design& design, float points, Weight weight) 
   return fonts_.Get(design.fontName, edge_.FontPixels(points), weight);
 }
 
-std::unique_ptr<headless::Peer> Toolkit::MakePeer(headless::AnyControl& control) {
+std::unique_ptr<controls::Peer> Toolkit::MakePeer(controls::AnyControl& control) {
   return MakeControlWindow(control, *this);
 }
 
-std::unique_ptr<headless::FormPeer> Toolkit::MakeFormPeer(headless::Form& form) {
+std::unique_ptr<controls::FormPeer> Toolkit::MakeFormPeer(controls::Form& form) {
   return std::make_unique<FormWindow>(form, *this);
 }
 

@@ -3,13 +3,13 @@
 #include <functional>
 #include <memory>
 
-#include "toolkits/win32/WindowsApi.h"
+#include "toolkits/win32/window/WindowsApi.h"
 
 #include "host/model/Hoofdvenster.h"
-#include "toolkits/headless/DrawnToolkit.h"
+#include "controls/DrawnToolkit.h"
 #include "toolkits/win32/Desktop.h"
-#include "toolkits/win32/Edge.h"
-#include "toolkits/win32/Fonts.h"
+#include "toolkits/win32/window/Edge.h"
+#include "toolkits/win32/window/Fonts.h"
 
 namespace brivane::win32 {
 
@@ -26,7 +26,7 @@ class Hoofdvenster : public host::Hoofdvenster {
   HWND venster_;
 };
 
-/// Shows design tables as native controls. What a control does stands in the headless controls; each has a
+/// Shows design tables as native controls. What a control does stands in the controls in memory; each has a
 /// peer here that shows it and hands over what a person does.
 ///
 ///     win32::Toolkit toolkit(module);
@@ -36,7 +36,7 @@ class Hoofdvenster : public host::Hoofdvenster {
 ///     if (!toolkit.Navigate(*surface, message)) { TranslateMessage(&message); DispatchMessageW(&message); }
 ///
 /// Everything happens on the thread that made it. Must outlive the surfaces and forms that it made.
-class Toolkit : public headless::DrawnToolkit {
+class Toolkit : public controls::DrawnToolkit {
  public:
   /// `module` is the program or library with this code. Where its resources hold a manifest (number 2, or
   /// 1 of a program) that asks for version 6 of the common controls, the controls look that way.
@@ -48,14 +48,14 @@ class Toolkit : public headless::DrawnToolkit {
   /// A person acts on a control through its window. A box that is being edited elsewhere in the same
   /// top-level window is handed over first; where that is refused, the action is not done. False where it
   /// was not done.
-  bool Act(headless::AnyControl& control, const headless::Action& action, const Window& window);
+  bool Act(controls::AnyControl& control, const controls::Action& action, const Window& window);
   /// Hands over the box that is being edited in the top-level window around `target`, unless it is the
   /// target itself; false where that was refused and the focus is kept.
   bool LeaveBox(const Window& target);
 
   /// Runs while a form is open, on the screen and in its message loop; a form that it leaves open is closed
   /// after it. For scripts and tests.
-  std::function<void(headless::Form&)> modal;
+  std::function<void(controls::Form&)> modal;
 
   /// The child window of a surface that this toolkit made. Until the container takes it in with SetParent it
   /// stands under a hidden window. Its size is the surface's own; the container moves it.
@@ -86,8 +86,8 @@ class Toolkit : public headless::DrawnToolkit {
   [[nodiscard]] HWND MakeWindow(const Making& making, HWND parent) const;
 
  protected:
-  [[nodiscard]] std::unique_ptr<headless::Peer> MakePeer(headless::AnyControl& control) override;
-  [[nodiscard]] std::unique_ptr<headless::FormPeer> MakeFormPeer(headless::Form& form) override;
+  [[nodiscard]] std::unique_ptr<controls::Peer> MakePeer(controls::AnyControl& control) override;
+  [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
   void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:

@@ -11,7 +11,7 @@
 #include "component/automation/Vensterhouder.h"
 #include "host/Error.h"
 #include "tests/component/automation/FakeObject.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::component {
@@ -132,7 +132,7 @@ TEST_F(AdaptersTest, TheAmountIsOneObjectUnderTwoNames) {
 }
 
 TEST_F(AdaptersTest, TheHostFillsTheListThatItIsLent) {
-  headless::Toolkit toolkit;
+  memory::Toolkit toolkit;
   const auto surface = toolkit.MakeSurface(vrijekolom::kOntwerp);
   frame::Controls controls(*surface);
   host::ListBox& list = controls[vrijekolom::cboMaatschappij];
@@ -172,7 +172,7 @@ TEST_F(AdaptersTest, TheHostFillsTheListThatItIsLent) {
 }
 
 TEST_F(AdaptersTest, AListEntryThatIsNotThereFailsTheHostsCall) {
-  headless::Toolkit toolkit;
+  memory::Toolkit toolkit;
   const auto surface = toolkit.MakeSurface(vrijekolom::kOntwerp);
   frame::Controls controls(*surface);
   const auto application = FakeObject::Make();

@@ -13,15 +13,15 @@ struct Word {
   Variant value;
 };
 
-Word InWords(const headless::Action& action) {
+Word InWords(const controls::Action& action) {
   struct Wording {
-    Word operator()(const headless::Press&) const { return {L"press", Missing()}; }
-    Word operator()(const headless::Select&) const { return {L"select", Missing()}; }
-    Word operator()(const headless::Tick& tick) const { return {L"tick", ToVariant(tick.value)}; }
-    Word operator()(const headless::Toggle& toggle) const { return {L"toggle", ToVariant(toggle.value)}; }
-    Word operator()(const headless::Choose& choose) const { return {L"choose", ToVariant(choose.index)}; }
-    Word operator()(const headless::Close&) const { return {L"close", Missing()}; }
-    Word operator()(const headless::Enter& enter) const {
+    Word operator()(const controls::Press&) const { return {L"press", Missing()}; }
+    Word operator()(const controls::Select&) const { return {L"select", Missing()}; }
+    Word operator()(const controls::Tick& tick) const { return {L"tick", ToVariant(tick.value)}; }
+    Word operator()(const controls::Toggle& toggle) const { return {L"toggle", ToVariant(toggle.value)}; }
+    Word operator()(const controls::Choose& choose) const { return {L"choose", ToVariant(choose.index)}; }
+    Word operator()(const controls::Close&) const { return {L"close", Missing()}; }
+    Word operator()(const controls::Enter& enter) const {
       return {L"enter", std::visit(
                             []<class T>(const T& typed) {
                               if constexpr (std::is_same_v<T, std::monostate>)
@@ -35,7 +35,7 @@ Word InWords(const headless::Action& action) {
   return std::visit(Wording{}, action);
 }
 
-headless::DumpValue ToValue(const Variant& value) {
+controls::DumpValue ToValue(const Variant& value) {
   switch (value.Type()) {
     case VT_EMPTY: return std::monostate{};
     case VT_BOOL: return FromVariant<bool>(value.get());
@@ -51,9 +51,9 @@ host::Twips ToTwips(const Variant& value) {
 }
 
 /// The index, then text and item data of each entry.
-headless::ControlDump::ListContent ToList(const Variant& value) {
+controls::ControlDump::ListContent ToList(const Variant& value) {
   const std::vector<Variant> parts = Elements(value.get());
-  headless::ControlDump::ListContent list;
+  controls::ControlDump::ListContent list;
   list.index = FromVariant<std::int32_t>(parts.at(0).get());
   for (std::size_t i = 1; i + 1 < parts.size(); i += 2)
     list.entries.push_back(
@@ -62,9 +62,9 @@ headless::ControlDump::ListContent ToList(const Variant& value) {
 }
 
 /// The selected row, the columns (heading, width), the rows (key, cells (text, bold)).
-headless::ControlDump::ListViewContent ToListView(const Variant& value) {
+controls::ControlDump::ListViewContent ToListView(const Variant& value) {
   const std::vector<Variant> parts = Elements(value.get());
-  headless::ControlDump::ListViewContent list;
+  controls::ControlDump::ListViewContent list;
   list.selected = static_cast<std::size_t>(FromVariant<std::int32_t>(parts.at(0).get()));
   for (const Variant& column : Elements(parts.at(1).get())) {
     const std::vector<Variant> of = Elements(column.get());
@@ -72,7 +72,7 @@ headless::ControlDump::ListViewContent ToListView(const Variant& value) {
   }
   for (const Variant& row : Elements(parts.at(2).get())) {
     const std::vector<Variant> of = Elements(row.get());
-    headless::ListView::Item item{.key = FromVariant<std::string>(of.at(0).get()), .cells = {}};
+    controls::ListView::Item item{.key = FromVariant<std::string>(of.at(0).get()), .cells = {}};
     for (const Variant& cell : Elements(of.at(1).get())) {
       const std::vector<Variant> text = Elements(cell.get());
       item.cells.push_back(
@@ -87,9 +87,9 @@ bool IsThere(const Variant& value) {
   return value.Type() != VT_EMPTY && value.Type() != VT_NULL;
 }
 
-headless::ControlDump ToDump(const Variant& control) {
+controls::ControlDump ToDump(const Variant& control) {
   const std::vector<Variant> of = Elements(control.get());
-  headless::ControlDump dump;
+  controls::ControlDump dump;
   dump.name = FromVariant<std::string>(of.at(0).get());
   dump.visible = FromVariant<bool>(of.at(2).get());
   dump.enabled = FromVariant<bool>(of.at(3).get());
@@ -123,15 +123,15 @@ std::optional<bool> Door::Reachable(const std::string& element) const {
   }
 }
 
-headless::Outcome Door::Perform(const std::string& element, const headless::Action& action) const {
+controls::Outcome Door::Perform(const std::string& element, const controls::Action& action) const {
   Word word = InWords(action);
   const Variant outcome = Call(*door_.get(), L"Perform",
                                {ToVariant(element), ToVariant(ToUtf8(std::wstring_view(word.action))), word.value});
-  return static_cast<headless::Outcome>(FromVariant<std::int16_t>(outcome.get()));
+  return static_cast<controls::Outcome>(FromVariant<std::int16_t>(outcome.get()));
 }
 
-std::vector<headless::ControlDump> Door::Dump() const {
-  std::vector<headless::ControlDump> dump;
+std::vector<controls::ControlDump> Door::Dump() const {
+  std::vector<controls::ControlDump> dump;
   for (const Variant& control : Elements(Call(*door_.get(), L"Dump").get())) dump.push_back(ToDump(control));
   return dump;
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "replay/Subject.h"
+#include "replay/play/Subject.h"
 #include "tests/component/replay/LateBound.h"
 
 namespace brivane::latebound {
@@ -20,8 +20,8 @@ class Door {
 
   /// Nothing where there is no such control.
   [[nodiscard]] std::optional<bool> Reachable(const std::string& element) const;
-  [[nodiscard]] headless::Outcome Perform(const std::string& element, const headless::Action& action) const;
-  [[nodiscard]] std::vector<headless::ControlDump> Dump() const;
+  [[nodiscard]] controls::Outcome Perform(const std::string& element, const controls::Action& action) const;
+  [[nodiscard]] std::vector<controls::ControlDump> Dump() const;
   void Size(const std::string& element, float width, float height) const;
 
   /// An aspect of the surface itself.

@@ -1,5 +1,5 @@
 // Each document of tests/golden runs against the registered component, and gives the transcript that it gives on the
-// headless toolkit, to the letter: writes, calls, events, traces, reports, messages, failures and dumps. No line is
+// toolkit in memory, to the letter: writes, calls, events, traces, reports, messages, failures and dumps. No line is
 // left out. What a session made is gone after it, on both sides.
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "replay/HeadlessSubject.h"
+#include "replay/play/MemorySubject.h"
 #include "tests/component/replay/Apartment.h"
 #include "tests/component/replay/RegisteredSubject.h"
 #include "tests/component/replay/Transcripts.h"
@@ -57,11 +57,11 @@ TEST_P(RegisteredGoldenTest, GivesItsTranscript) {
   if (!HasFailure()) std::printf("%s: %zu lines alike\n", GetParam().c_str(), expected.size());
 }
 
-// The reviewed transcripts hold the reads of some documents; the headless toolkit has those of the others.
+// The reviewed transcripts hold the reads of some documents; the toolkit in memory has those of the others.
 TEST_P(RegisteredGoldenTest, ReadsTheHostAlike) {
   replay::Document document = replay::ReadDocument(Contents(GetParam() + ".json"));
   document.log.insert(replay::Log::Reads);
-  const Played expected = Play(document, replay::MakeHeadlessSubject);
+  const Played expected = Play(document, replay::MakeMemorySubject);
   const Played played = Play(document, MakeRegisteredSubject);
   EXPECT_EQ(FirstDifference(expected.lines, played.lines), std::nullopt);
   ExpectNothingLeft();

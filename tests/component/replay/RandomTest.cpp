@@ -1,4 +1,4 @@
-// Random sessions run twice in one program, on the headless toolkit and against the registered component, and give the
+// Random sessions run twice in one program, on the toolkit in memory and against the registered component, and give the
 // same transcript, every read of the host included.
 
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "fuzz/SessionFromBytes.h"
-#include "replay/HeadlessSubject.h"
+#include "replay/play/MemorySubject.h"
 #include "tests/component/replay/Apartment.h"
 #include "tests/component/replay/RegisteredSubject.h"
 #include "tests/component/replay/Transcripts.h"
@@ -33,7 +33,7 @@ TEST(RandomSessions, GiveTheSameTranscriptThroughAutomation) {
     replay::Document document = replay::ReadDocument(text);
     document.log.insert(replay::Log::Reads);
 
-    const Played expected = Play(document, replay::MakeHeadlessSubject);
+    const Played expected = Play(document, replay::MakeMemorySubject);
     const Played actual = Play(document, MakeRegisteredSubject);
     ASSERT_EQ(expected.refusal, actual.refusal) << text;
     ASSERT_EQ(FirstDifference(expected.lines, actual.lines), std::nullopt) << "session " << i << ": " << text;

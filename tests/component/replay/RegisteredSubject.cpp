@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
-#include "replay/ControlNames.h"
+#include "frame/GroupedNumber.h"
+#include "replay/document/ControlNames.h"
 #include "tests/component/replay/Door.h"
 #include "tests/component/replay/HostObjects.h"
 #include "tests/component/replay/Sink.h"
-#include "toolkits/headless/Desktop.h"
+#include "toolkits/memory/Desktop.h"
 
 namespace brivane::latebound {
 
@@ -39,16 +40,16 @@ class OnDoor : public Interface {
   }
   [[nodiscard]] std::vector<std::string> Entries(const std::string& name) override {
     std::vector<std::string> texts;
-    for (const headless::ControlDump& control : door_.Dump())
+    for (const controls::ControlDump& control : door_.Dump())
       if (control.name == name)
         for (const auto& entry : control.list.value().entries) texts.push_back(entry.text);
     return texts;
   }
-  headless::Outcome Perform(const std::string& name, std::optional<int> index,
-                            const headless::Action& action) override {
+  controls::Outcome Perform(const std::string& name, std::optional<int> index,
+                            const controls::Action& action) override {
     return door_.Perform(replay::ElementName(name, index), action);
   }
-  [[nodiscard]] std::vector<headless::ControlDump> Dump() override { return door_.Dump(); }
+  [[nodiscard]] std::vector<controls::ControlDump> Dump() override { return door_.Dump(); }
 
  protected:
   explicit OnDoor(Ptr<IDispatch> door) : door_(std::move(door)) {}
@@ -70,7 +71,7 @@ class RegisteredForm final : public OnDoor<replay::FormScreen> {
   explicit RegisteredForm(Ptr<IDispatch> door) : OnDoor(std::move(door)) {}
 
   [[nodiscard]] bool IsClosed() override { return FromVariant<bool>(GetDoor().Read(L"closed").get()); }
-  void Close() override { (void)GetDoor().Perform("", headless::Close{}); }
+  void Close() override { (void)GetDoor().Perform("", controls::Close{}); }
   [[nodiscard]] host::Color BackColor() override {
     return {FromVariant<std::int32_t>(GetDoor().Read(L"backcolor").get())};
   }
@@ -124,7 +125,7 @@ void Equip(const Door& door, const replay::Document& document, IDispatch& callba
   door.Set(L"title", ToVariant(document.title));
   door.Set(L"twipsPerPixelX", ToVariant(document.twipsPerPixelX));
   door.Set(L"twipsPerPixelY", ToVariant(document.twipsPerPixelY));
-  door.Set(L"groupSeparator", ToVariant(headless::GroupSeparator(document.locale)));
+  door.Set(L"groupSeparator", ToVariant(frame::GroupSeparator(document.locale)));
   door.SetCallback(callback);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "replay/Subject.h"
+#include "replay/play/Subject.h"
 
 namespace brivane::latebound {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "replay/Document.h"
-#include "replay/Session.h"
+#include "replay/document/Document.h"
+#include "replay/play/Session.h"
 
 namespace brivane::latebound {
 

@@ -3,9 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "dossier/model/Voorbeeld.h"
+#include "dossier/model/SampleCase.h"
 #include "host/Error.h"
-#include "toolkits/headless/Toolkit.h"
+#include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::dossier {
@@ -33,10 +33,10 @@ class ApplicationTest : public testing::Test {
   }
 
   Application application_{std::make_shared<Dossier>(Gegevens(), std::make_shared<Omgeving>())};
-  headless::Toolkit toolkit_;
+  memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
   host::ListBox& lijst_ =
-      dynamic_cast<host::ListBox&>(headless::Surface::Of(*surface_).Find("cboMaatschappij")->Host());
+      dynamic_cast<host::ListBox&>(controls::Surface::Of(*surface_).Find("cboMaatschappij")->Host());
 };
 
 TEST_F(ApplicationTest, FillsAListInTableOrderAndSelectsTheCode) {

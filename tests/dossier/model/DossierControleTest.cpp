@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "dossier/model/Application.h"
-#include "dossier/model/Voorbeeld.h"
+#include "dossier/model/SampleCase.h"
 #include "frame/Calendar.h"
 #include "host/Error.h"
 

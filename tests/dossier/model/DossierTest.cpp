@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "dossier/model/Voorbeeld.h"
+#include "dossier/model/SampleCase.h"
 #include "host/Error.h"
 
 namespace brivane::dossier {

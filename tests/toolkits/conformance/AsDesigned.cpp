@@ -4,7 +4,7 @@
 namespace brivane::test {
 
 TEST_P(Conformance, EveryRowIsMadeWithItsNameKindAndPlace) {
-  const std::vector<headless::ControlDump> shown = subject->Shown(Area());
+  const std::vector<controls::ControlDump> shown = subject->Shown(Area());
   // The embedded surface is followed by its own two controls.
   ASSERT_EQ(shown.size(), std::size(kSurfaceRows) + std::size(kInnerRows));
   for (std::size_t i = 0; i < std::size(kSurfaceRows); ++i) {
@@ -24,34 +24,34 @@ TEST_P(Conformance, EveryRowIsMadeWithItsNameKindAndPlace) {
 }
 
 TEST_P(Conformance, EverythingStartsEnabledAndVisible) {
-  for (const headless::ControlDump& dump : subject->Shown(Area())) {
+  for (const controls::ControlDump& dump : subject->Shown(Area())) {
     EXPECT_TRUE(dump.enabled) << dump.name;
     EXPECT_TRUE(dump.visible) << dump.name;
   }
 }
 
 TEST_P(Conformance, BoxesStartEmptyAndOpen) {
-  EXPECT_EQ(Shown("txtNaam").value, headless::DumpValue(std::string()));
-  EXPECT_EQ(Shown("txtBedrag").value, headless::DumpValue(0.0));
-  EXPECT_EQ(Shown("txtJaren").value, headless::DumpValue(0.0));
-  EXPECT_EQ(Shown("txtDatum").value, headless::DumpValue(host::kNoDate));
+  EXPECT_EQ(Shown("txtNaam").value, controls::DumpValue(std::string()));
+  EXPECT_EQ(Shown("txtBedrag").value, controls::DumpValue(0.0));
+  EXPECT_EQ(Shown("txtJaren").value, controls::DumpValue(0.0));
+  EXPECT_EQ(Shown("txtDatum").value, controls::DumpValue(host::kNoDate));
   EXPECT_EQ(Shown("txtNaam").locked, false);
   EXPECT_EQ(Shown("txtTotaal").locked, true);
 }
 
 TEST_P(Conformance, TogglesStartAtNeeAndNothingIsTickedOrSelected) {
-  EXPECT_EQ(Shown("jnDiep").value, headless::DumpValue(1));
-  EXPECT_EQ(Shown("Binnenste.jnBinnen").value, headless::DumpValue(1));
-  EXPECT_EQ(Shown("chkVinkje").value, headless::DumpValue(0));
+  EXPECT_EQ(Shown("jnDiep").value, controls::DumpValue(1));
+  EXPECT_EQ(Shown("Binnenste.jnBinnen").value, controls::DumpValue(1));
+  EXPECT_EQ(Shown("chkVinkje").value, controls::DumpValue(0));
   for (const char* option : {"optSoort(1)", "optSoort(2)", "optSoort(3)", "optAnder(1)", "optAnder(2)"})
-    EXPECT_EQ(Shown(option).value, headless::DumpValue(false)) << option;
+    EXPECT_EQ(Shown(option).value, controls::DumpValue(false)) << option;
 }
 
 TEST_P(Conformance, AListStartsWithItsDesignedEntriesAndNoneSelected) {
   const auto termijn = Shown("cboTermijn").list;
   ASSERT_TRUE(termijn);
   EXPECT_EQ(termijn->entries,
-            (std::vector<headless::ListBox::Entry>{{"per maand", 1}, {"per kwartaal", 3}, {"per jaar", 12}}));
+            (std::vector<controls::ListBox::Entry>{{"per maand", 1}, {"per kwartaal", 3}, {"per jaar", 12}}));
   EXPECT_EQ(termijn->index, -1);
   const auto leeg = Shown("cboLeeg").list;
   ASSERT_TRUE(leeg);
@@ -67,7 +67,7 @@ TEST_P(Conformance, CaptionsAreThoseOfTheDesign) {
   EXPECT_EQ(Shown("cmdDoen").caption, "&Doen");
   for (const char* bare : {"txtNaam", "jnDiep", "hntDiep", "cboTermijn", "lvwLijst", "Binnenste"})
     EXPECT_FALSE(Shown(bare).caption) << bare;
-  EXPECT_EQ(Get<headless::Hint>("hntDiep").HelpText(), "Zo diep als het kan.");
+  EXPECT_EQ(Get<controls::Hint>("hntDiep").HelpText(), "Zo diep als het kan.");
 }
 
 TEST_P(Conformance, BoxesAndListsHaveTheWindowBackgroundAndTheRestTheButtonFace) {

@@ -3,14 +3,14 @@
 /// Toggles, check boxes, options and buttons: which event a person and code set off.
 namespace brivane::test {
 
-using headless::CheckBox;
-using headless::DumpValue;
-using headless::JaNee;
-using headless::OptionButton;
-using headless::Press;
-using headless::Select;
-using headless::Tick;
-using headless::Toggle;
+using controls::CheckBox;
+using controls::DumpValue;
+using controls::JaNee;
+using controls::OptionButton;
+using controls::Press;
+using controls::Select;
+using controls::Tick;
+using controls::Toggle;
 
 TEST_P(Conformance, AToggleRaisesChangeWhenAPersonChangesIt) {
   auto& toggle = Get<JaNee>("jnDiep");
@@ -115,7 +115,7 @@ TEST_P(Conformance, GroupsInOneFrameAreApart) {
 }
 
 TEST_P(Conformance, AButtonRaisesClickEachTimeItIsPressed) {
-  auto& button = Get<headless::Button>("cmdDoen");
+  auto& button = Get<controls::Button>("cmdDoen");
   button.Click.Connect([&] { log.emplace_back("Click"); });
   Act(button, Press{});
   Act(button, Press{});

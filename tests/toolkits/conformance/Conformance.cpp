@@ -11,7 +11,7 @@ Conformance::Conformance() : subject(GetParam().make()), surface(subject->Toolki
   subject->Settle();
 }
 
-void Conformance::Act(headless::AnyControl& control, const headless::Action& action) {
+void Conformance::Act(controls::AnyControl& control, const controls::Action& action) {
   if (GetParam().way == Way::Gesture)
     subject->Gesture(control, action);
   else
@@ -19,15 +19,15 @@ void Conformance::Act(headless::AnyControl& control, const headless::Action& act
   subject->Settle();
 }
 
-headless::Outcome Conformance::Door(headless::AnyControl& control, const headless::Action& action) {
-  const headless::Outcome outcome = control.Perform(action);
+controls::Outcome Conformance::Door(controls::AnyControl& control, const controls::Action& action) {
+  const controls::Outcome outcome = control.Perform(action);
   subject->Settle();
   return outcome;
 }
 
-headless::ControlDump Conformance::Shown(std::string_view elementName) {
+controls::ControlDump Conformance::Shown(std::string_view elementName) {
   subject->Settle();
-  for (const headless::ControlDump& dump : subject->Shown(Area()))
+  for (const controls::ControlDump& dump : subject->Shown(Area()))
     if (dump.name == elementName) return dump;
   throw std::logic_error("not shown: " + std::string(elementName));
 }

@@ -10,21 +10,21 @@
 #include <vector>
 
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/Dump.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/headless/ListView.h"
-#include "toolkits/headless/Plain.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/headless/Toolkit.h"
+#include "controls/Choices.h"
+#include "controls/Dump.h"
+#include "controls/Form.h"
+#include "controls/ListBox.h"
+#include "controls/ListView.h"
+#include "controls/Plain.h"
+#include "controls/TextBox.h"
+#include "toolkits/memory/Toolkit.h"
 
 /// What every toolkit does alike, as tests that are written once.
 ///
 /// A toolkit's test program compiles these files in, wraps its toolkit, and names the ways in which a
 /// person's actions reach its controls, by defining Subjects():
 ///
-///     std::vector<Subject> Subjects() { return {{"Headless", &MakeHeadless, Way::Door}}; }
+///     std::vector<Subject> Subjects() { return {{"Memory", &MakeMemory, Way::Door}}; }
 namespace brivane::test {
 
 /// A toolkit and the little that the tests need to work it.
@@ -32,19 +32,19 @@ class ToolkitUnderTest {
  public:
   virtual ~ToolkitUnderTest() = default;
 
-  [[nodiscard]] virtual headless::ToolkitBase& Toolkit() = 0;
+  [[nodiscard]] virtual controls::ToolkitBase& Toolkit() = 0;
   /// Lets the toolkit finish what it has under way. Called after everything the tests do.
   virtual void Settle() {}
   /// Puts a surface on the screen, so that gestures reach it.
-  virtual void Show(headless::Surface&) {}
+  virtual void Show(controls::Surface&) {}
   /// Does an action by the events of a real mouse and keyboard. Where nothing can be hit (a hidden or
   /// disabled control) it tries nevertheless.
-  virtual void Gesture(headless::AnyControl&, const headless::Action&) {}
+  virtual void Gesture(controls::AnyControl&, const controls::Action&) {}
   /// Runs while the next forms are open.
-  virtual void WhileOpen(std::function<void(headless::Form&)> script) = 0;
+  virtual void WhileOpen(std::function<void(controls::Form&)> script) = 0;
   /// What is really on the surface.
-  [[nodiscard]] virtual std::vector<headless::ControlDump> Shown(const headless::Surface& surface) {
-    return headless::DumpAll(surface);
+  [[nodiscard]] virtual std::vector<controls::ControlDump> Shown(const controls::Surface& surface) {
+    return controls::DumpAll(surface);
   }
 };
 
@@ -73,19 +73,19 @@ class Conformance : public testing::TestWithParam<Subject> {
     return Get<T>(Area(), name, index);
   }
   template <class T>
-  [[nodiscard]] static T& Get(headless::Surface& surface, std::string_view name, int index = frame::kNoIndex) {
-    headless::AnyControl* control = surface.Find(name, index);
+  [[nodiscard]] static T& Get(controls::Surface& surface, std::string_view name, int index = frame::kNoIndex) {
+    controls::AnyControl* control = surface.Find(name, index);
     if (control == nullptr) throw std::logic_error("no control " + std::string(name));
     return dynamic_cast<T&>(*control);
   }
-  [[nodiscard]] headless::Surface& Area() { return headless::Surface::Of(*surface); }
+  [[nodiscard]] controls::Surface& Area() { return controls::Surface::Of(*surface); }
 
   /// A person acts, in the way under test; everything that follows has happened when this returns.
-  void Act(headless::AnyControl& control, const headless::Action& action);
+  void Act(controls::AnyControl& control, const controls::Action& action);
   /// The same through the door alone, for what no real gesture can do.
-  headless::Outcome Door(headless::AnyControl& control, const headless::Action& action);
+  controls::Outcome Door(controls::AnyControl& control, const controls::Action& action);
   /// The state of a control as the toolkit really shows it.
-  [[nodiscard]] headless::ControlDump Shown(std::string_view elementName);
+  [[nodiscard]] controls::ControlDump Shown(std::string_view elementName);
 
   std::unique_ptr<ToolkitUnderTest> subject;
   std::unique_ptr<host::Surface> surface;

@@ -3,7 +3,7 @@
 /// Forms: templates and the elements made from them, showing, closing and sizes.
 namespace brivane::test {
 
-using headless::Outcome;
+using controls::Outcome;
 
 class FormConformance : public Conformance {
  protected:
@@ -23,16 +23,16 @@ class FormConformance : public Conformance {
   template <Kind K> frame::TypeOf<K>& Create(frame::Handle<K> handle, int index) {
     return static_cast<frame::TypeOf<K>&>(form->Create(handle.row, index));
   }
-  [[nodiscard]] headless::Form& Window() { return dynamic_cast<headless::Form&>(*form); }
-  [[nodiscard]] headless::ControlDump ShownOnForm(std::string_view name) {
+  [[nodiscard]] controls::Form& Window() { return dynamic_cast<controls::Form&>(*form); }
+  [[nodiscard]] controls::ControlDump ShownOnForm(std::string_view name) {
     subject->Settle();
-    for (const headless::ControlDump& dump : subject->Shown(Window()))
+    for (const controls::ControlDump& dump : subject->Shown(Window()))
       if (dump.name == name) return dump;
     throw std::logic_error("not on the form: " + std::string(name));
   }
   /// Shows the form and runs a script while it is open.
   void Open(const std::function<void()>& script) {
-    subject->WhileOpen([&](headless::Form& open) {
+    subject->WhileOpen([&](controls::Form& open) {
       EXPECT_EQ(&open, &Window());
       log.emplace_back("open");
       subject->Settle();
@@ -73,7 +73,7 @@ TEST_P(FormConformance, AnElementCopiesItsTemplateAndStartsInvisible) {
   EXPECT_FALSE(box.Enabled());
   EXPECT_TRUE(box.Locked());
   EXPECT_FALSE(box.Visible());
-  const headless::ControlDump shown = ShownOnForm("txtBedrag(1)");
+  const controls::ControlDump shown = ShownOnForm("txtBedrag(1)");
   EXPECT_EQ(shown.place, (host::Place{{700}, {310}, {1000}, {285}}));
   EXPECT_FALSE(shown.visible);
   EXPECT_FALSE(shown.enabled);
@@ -120,7 +120,7 @@ TEST_P(FormConformance, EightyRowsOfElementsAreMade) {
     Create(txtBedrag, i).SetNumber(i);
   }
   EXPECT_EQ(ShownOnForm("lblJaar(80)").caption, "80");
-  EXPECT_EQ(ShownOnForm("txtBedrag(41)").value, headless::DumpValue(41.0));
+  EXPECT_EQ(ShownOnForm("txtBedrag(41)").value, controls::DumpValue(41.0));
 }
 
 TEST_P(FormConformance, TheWindowIsLargerThanItsInsideByFrameAndTitle) {
@@ -160,8 +160,8 @@ TEST_P(FormConformance, APersonWorksTheFormWhileItIsOpen) {
     log.emplace_back("OK ends");
   });
   Open([&] {
-    Act(*Window().Find("txtBedrag", 1), headless::Enter{12.5});
-    Act(*Window().Find("cmdOK"), headless::Press{});
+    Act(*Window().Find("txtBedrag", 1), controls::Enter{12.5});
+    Act(*Window().Find("cmdOK"), controls::Press{});
   });
   EXPECT_EQ(log, (std::vector<std::string>{"Activate", "open", "entered 12.500000", "OK", "Unloaded", "OK ends",
                                            "closed"}));
@@ -169,8 +169,8 @@ TEST_P(FormConformance, APersonWorksTheFormWhileItIsOpen) {
 
 TEST_P(FormConformance, TheCloseBoxUnloads) {
   Open([this] {
-    EXPECT_EQ(Door(Window(), headless::Close{}), Outcome::Done);
-    EXPECT_EQ(Door(Window(), headless::Close{}), Outcome::Ignored);
+    EXPECT_EQ(Door(Window(), controls::Close{}), Outcome::Done);
+    EXPECT_EQ(Door(Window(), controls::Close{}), Outcome::Ignored);
   });
   EXPECT_EQ(log, (std::vector<std::string>{"Activate", "open", "Unloaded", "closed"}));
 }
@@ -193,15 +193,15 @@ TEST_P(FormConformance, AFormUnloadedInItsActivateDoesNotOpen) {
 TEST_P(FormConformance, AnActionAfterUnloadingIsIgnored) {
   At(cmdOK).Click.Connect([this] { log.emplace_back("OK"); });
   form->Unload();
-  EXPECT_EQ(Door(*Window().Find("cmdOK"), headless::Press{}), Outcome::Ignored);
+  EXPECT_EQ(Door(*Window().Find("cmdOK"), controls::Press{}), Outcome::Ignored);
   EXPECT_EQ(log, std::vector<std::string>{"Unloaded"});
 }
 
 TEST_P(FormConformance, ATemplateAndAHiddenElementTakeNoAction) {
   Create(txtBedrag, 1);
   Open([this] {
-    EXPECT_EQ(Door(*Window().Find("txtBedrag", 0), headless::Enter{1.0}), Outcome::Ignored);
-    EXPECT_EQ(Door(*Window().Find("txtBedrag", 1), headless::Enter{1.0}), Outcome::Ignored);
+    EXPECT_EQ(Door(*Window().Find("txtBedrag", 0), controls::Enter{1.0}), Outcome::Ignored);
+    EXPECT_EQ(Door(*Window().Find("txtBedrag", 1), controls::Enter{1.0}), Outcome::Ignored);
   });
   EXPECT_EQ(At(txtBedrag).Number(), 0);
 }

@@ -3,9 +3,9 @@
 /// The drop-down list and the report list.
 namespace brivane::test {
 
-using headless::Choose;
-using headless::ListBox;
-using headless::ListView;
+using controls::Choose;
+using controls::ListBox;
+using controls::ListView;
 
 TEST_P(Conformance, AListRaisesClickWhenAPersonPicksAnotherEntry) {
   auto& list = Get<ListBox>("cboTermijn");
@@ -123,7 +123,7 @@ TEST_P(Conformance, ClearingTheReportListSelectsNone) {
   list.ClearColumns();
   const auto shown = Shown("lvwLijst").listView;
   ASSERT_TRUE(shown);
-  EXPECT_EQ(*shown, headless::ControlDump::ListViewContent{});
+  EXPECT_EQ(*shown, controls::ControlDump::ListViewContent{});
 }
 
 TEST_P(Conformance, ARowThatIsNotThereFailsWith9) {

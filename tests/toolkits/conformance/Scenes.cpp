@@ -4,7 +4,7 @@
 #include "scenario/Teksten.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "toolkits/headless/Surface.h"
+#include "controls/Surface.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::test {
@@ -80,7 +80,7 @@ std::string_view NameOf(FormState state) { return SettingOf(state).name; }
 EditorScene::EditorScene(frame::Toolkit& toolkit, EditorState state)
     : surface_(toolkit.MakeSurface(vrijekolom::kOntwerp)), editor_(*surface_, toolkit, host_.Factories()) {
   const host::Place place = surface_->Place();
-  headless::Surface::Of(*surface_).Size(place.width, place.height);
+  controls::Surface::Of(*surface_).Size(place.width, place.height);
   if (state == EditorState::Designed) return;
   Fill(host_, state);
   editor_.SetApplication(host_.application, 0, 1);

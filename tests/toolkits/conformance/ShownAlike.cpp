@@ -4,8 +4,8 @@
 
 #include "tests/toolkits/conformance/Conformance.h"
 #include "tests/toolkits/conformance/Scenes.h"
-#include "toolkits/entry/Content.h"
-#include "toolkits/headless/Pixels.h"
+#include "controls/entry/Content.h"
+#include "controls/Pixels.h"
 
 /// What a toolkit really made of the editor and the form, held against one text for all toolkits: kind, name,
 /// caption, state, and the place in pixels at 96 dots per inch.
@@ -33,8 +33,8 @@ const char* KindName(host::Kind kind) {
   return "Surface";
 }
 
-std::string ValueText(const headless::DumpValue& value, frame::Format format) {
-  const auto content = [&](const headless::BoxValue& held) { return entry::ShowContent(held, format); };
+std::string ValueText(const controls::DumpValue& value, frame::Format format) {
+  const auto content = [&](const controls::BoxValue& held) { return controls::ShowContent(held, format); };
   if (const auto* selected = std::get_if<bool>(&value)) return *selected ? "selected" : "";
   if (const auto* number = std::get_if<int>(&value)) return std::to_string(*number);
   if (const auto* text = std::get_if<std::string>(&value)) return *text;
@@ -43,16 +43,16 @@ std::string ValueText(const headless::DumpValue& value, frame::Format format) {
   return {};
 }
 
-std::string ListText(const headless::ControlDump::ListContent& list) {
+std::string ListText(const controls::ControlDump::ListContent& list) {
   std::string text = "entry " + std::to_string(list.index) + " of";
   for (const auto& entry : list.entries) text += " [" + entry.text + "]";
   return text;
 }
 
-std::string ListViewText(const headless::ControlDump::ListViewContent& list) {
+std::string ListViewText(const controls::ControlDump::ListViewContent& list) {
   std::string text = "row " + std::to_string(list.selected) + " of";
   for (const auto& column : list.columns)
-    text += " <" + column.heading + " " + std::to_string(headless::Pixel(column.width.value, 1)) + ">";
+    text += " <" + column.heading + " " + std::to_string(controls::Pixel(column.width.value, 1)) + ">";
   for (const auto& item : list.items) {
     text += " [";
     for (const auto& cell : item.cells) text += (cell.bold ? "*" : "") + cell.text + "|";
@@ -61,8 +61,8 @@ std::string ListViewText(const headless::ControlDump::ListViewContent& list) {
   return text;
 }
 
-std::string Line(const headless::ControlDump& dump, frame::Format format) {
-  const headless::PixelPlace place = headless::Pixels(dump.place, 1);
+std::string Line(const controls::ControlDump& dump, frame::Format format) {
+  const controls::PixelPlace place = controls::Pixels(dump.place, 1);
   std::ostringstream line;
   line << KindName(dump.kind) << ' ' << dump.name << " at " << place.left << ',' << place.top << " of " << place.width
        << 'x' << place.height;
@@ -79,9 +79,9 @@ std::string Line(const headless::ControlDump& dump, frame::Format format) {
 
 class ShownAlike : public testing::TestWithParam<Subject> {
  protected:
-  [[nodiscard]] std::string TextOf(headless::Surface& surface) const {
+  [[nodiscard]] std::string TextOf(controls::Surface& surface) const {
     std::string text;
-    for (const headless::ControlDump& dump : subject_->Shown(surface)) {
+    for (const controls::ControlDump& dump : subject_->Shown(surface)) {
       std::string_view name = dump.name;
       int index = frame::kNoIndex;
       if (const std::size_t bracket = name.find('('); bracket != std::string_view::npos) {
@@ -121,7 +121,7 @@ TEST_P(ShownAlike, TheEditorIsShownAsEveryToolkitShowsIt) {
        {EditorState::Designed, EditorState::Recurring, EditorState::Product, EditorState::Transition}) {
     SCOPED_TRACE(NameOf(state));
     EditorScene scene(subject_->Toolkit(), state);
-    auto& surface = headless::Surface::Of(scene.Surface());
+    auto& surface = controls::Surface::Of(scene.Surface());
     subject_->Show(surface);
     subject_->Settle();
     Hold(NameOf(state), TextOf(surface));
@@ -133,7 +133,7 @@ TEST_P(ShownAlike, TheFormIsShownAsEveryToolkitShowsIt) {
        {FormState::Amounts, FormState::PercentagesAndDiscount, FormState::Growth, FormState::Bridging}) {
     SCOPED_TRACE(NameOf(state));
     bool opened = false;
-    subject_->WhileOpen([&](headless::Form& form) {
+    subject_->WhileOpen([&](controls::Form& form) {
       opened = true;
       subject_->Settle();
       Hold(NameOf(state), TextOf(form));

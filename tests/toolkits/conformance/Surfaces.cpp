@@ -40,7 +40,7 @@ TEST_P(Conformance, ResizingInsideTheResizeRaisesANestedOne) {
 }
 
 TEST_P(Conformance, AnEmbeddedSurfaceResizesByItself) {
-  auto& inner = Get<headless::ControlSurface>("Binnenste");
+  auto& inner = Get<controls::ControlSurface>("Binnenste");
   surface->Resize.Connect([&] { log.emplace_back("outer"); });
   inner.Resize.Connect([&] { log.emplace_back("inner"); });
   inner.Write(Measure::Height, 600);
@@ -51,7 +51,7 @@ TEST_P(Conformance, AnEmbeddedSurfaceResizesByItself) {
 }
 
 TEST_P(Conformance, EachMeasureIsReadAndWrittenAsItStands) {
-  auto& box = Get<headless::TextBox>("txtNaam");
+  auto& box = Get<controls::TextBox>("txtNaam");
   box.Write(Measure::Left, 30);
   box.Write(Measure::Top, 45);
   box.Write(Measure::Width, 1500);
@@ -65,7 +65,7 @@ TEST_P(Conformance, EachMeasureIsReadAndWrittenAsItStands) {
 }
 
 TEST_P(Conformance, MeasuresKeepTheirFractions) {
-  auto& box = Get<headless::TextBox>("txtNaam");
+  auto& box = Get<controls::TextBox>("txtNaam");
   box.Write(Measure::Left, 100.25F);
   EXPECT_EQ(box.Read(Measure::Left), 100.25F);
   box.Move({{100.5F}, {200.125F}, {1000.75F}, {300.5F}});
@@ -85,13 +85,13 @@ TEST_P(Conformance, EveryControlHasPlaceAndSizeAndAFontButForASurface) {
 }
 
 TEST_P(Conformance, WritingAMeasureThatIsNotThereIsIgnored) {
-  auto& inner = Get<headless::ControlSurface>("Binnenste");
+  auto& inner = Get<controls::ControlSurface>("Binnenste");
   const host::Place before = inner.Place();
   inner.Write(Measure::FontSize, 12);
   inner.Write(Measure::X1, 12);
   EXPECT_EQ(inner.Place(), before);
   EXPECT_FALSE(inner.Read(Measure::FontSize));
-  auto& label = Get<headless::Label>("lblNaam");
+  auto& label = Get<controls::Label>("lblNaam");
   label.Write(Measure::FontSize, 7.2F);
   EXPECT_EQ(label.Read(Measure::FontSize), 7.2F);
 }
@@ -102,14 +102,14 @@ TEST_P(Conformance, EveryControlTakesABackgroundColour) {
     EXPECT_EQ(control->BackColor(), host::Color{255}) << control->Name();
   }
   subject->Settle();
-  for (const headless::ControlDump& dump : subject->Shown(Area()))
+  for (const controls::ControlDump& dump : subject->Shown(Area()))
     if (dump.name.find('.') == std::string::npos) {
       EXPECT_EQ(dump.backColor, host::Color{255}) << dump.name;
     }
 }
 
 TEST_P(Conformance, ASurfaceTellsThatItsBackgroundWasSet) {
-  auto& inner = Get<headless::ControlSurface>("Binnenste");
+  auto& inner = Get<controls::ControlSurface>("Binnenste");
   surface->BackColorSet.Connect([&](host::Color color) { log.push_back("outer " + std::to_string(color.value)); });
   inner.BackColorSet.Connect([&](host::Color color) {
     log.push_back("inner " + std::to_string(color.value));

@@ -4,10 +4,10 @@
 /// What a text box holds, reads and refuses.
 namespace brivane::test {
 
-using headless::DumpValue;
-using headless::Enter;
-using headless::Outcome;
-using headless::TextBox;
+using controls::DumpValue;
+using controls::Enter;
+using controls::Outcome;
+using controls::TextBox;
 
 namespace {
 const host::Date kDate = frame::MakeDate({2024, 1, 31});
@@ -77,7 +77,7 @@ TEST_P(Conformance, AValueOfAnotherKindIsHeldAsTypedAndFailsWhenItIsRead) {
   auto& amount = Get<TextBox>("txtBedrag");
   EXPECT_EQ(Door(amount, Enter{std::string("1200")}), Outcome::Done);
   EXPECT_EQ(ErrorOf([&] { (void)amount.Number(); }), 13);
-  EXPECT_EQ(amount.Content(), headless::BoxValue(std::string("1200")));
+  EXPECT_EQ(amount.Content(), controls::BoxValue(std::string("1200")));
   auto& date = Get<TextBox>("txtDatum");
   Door(date, Enter{std::string("31-01-2024")});
   EXPECT_EQ(ErrorOf([&] { (void)date.DateValue(); }), 13);
@@ -171,7 +171,7 @@ TEST_P(Conformance, CodeMayWriteIntoTheBoxThatIsBeingValidated) {
 }
 
 TEST_P(Conformance, SetFocusMovesTheFocusOnce) {
-  subject->Toolkit().focusMoved = [&](headless::AnyControl& control) { log.push_back(control.ElementName()); };
+  subject->Toolkit().focusMoved = [&](controls::AnyControl& control) { log.push_back(control.ElementName()); };
   Get<TextBox>("txtDatum").SetFocus();
   subject->Settle();
   EXPECT_EQ(log, std::vector<std::string>{"txtDatum"});

@@ -2,7 +2,7 @@
 
 #include "frame/Calendar.h"
 #include "tests/toolkits/qt/SurfaceTest.h"
-#include "toolkits/qt/DateBox.h"
+#include "toolkits/qt/widgets/DateBox.h"
 
 /// Boxes worked by keys alone.
 namespace brivane::test {
@@ -90,7 +90,7 @@ TEST_F(Boxes, RefuseMalformedTypingBesideTheBoxAndKeepFocusAndText) {
 TEST_F(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
   Focus("txtDatum");
   TypeOver("31-2-2031");
-  Do(Control("jnDiep"), headless::Toggle{host::kJa});
+  Do(Control("jnDiep"), controls::Toggle{host::kJa});
   EXPECT_EQ(Focused(), "txtDatum");
   EXPECT_EQ(static_cast<host::JaNee&>(Control("jnDiep").Host()).Value(), host::kNee);
   EXPECT_EQ(qt::Bubble::ReasonOf(Entry("txtDatum")), "31 februari 2031 bestaat niet.");
@@ -155,7 +155,7 @@ TEST_F(Boxes, AnEmptiedBoxIsEmpty) {
   Focus("txtBedrag");
   TypeOver("");
   Press(Qt::Key_Tab);
-  EXPECT_EQ(Box("txtBedrag").Content(), headless::BoxValue());
+  EXPECT_EQ(Box("txtBedrag").Content(), controls::BoxValue());
 }
 
 TEST_F(Boxes, DecimalsThatAreNotShownSurviveARetypedText) {

@@ -5,11 +5,11 @@
 #include <QWheelEvent>
 
 #include "tests/toolkits/qt/SurfaceTest.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/headless/ListView.h"
-#include "toolkits/qt/HelpIcon.h"
-#include "toolkits/qt/JaNeeToggle.h"
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
+#include "controls/ListView.h"
+#include "toolkits/qt/widgets/HelpIcon.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
 
 /// Toggles, options, lists and help icons worked by keys and mouse.
 namespace brivane::test {
@@ -20,7 +20,7 @@ using testing::IsEmpty;
 
 class ToggleKeys : public SurfaceTest {
  protected:
-  headless::JaNee& toggle_ = static_cast<headless::JaNee&>(Control("jnDiep"));
+  controls::JaNee& toggle_ = static_cast<controls::JaNee&>(Control("jnDiep"));
   QWidget& widget_ = *WidgetFor(toggle_);
 };
 
@@ -65,39 +65,39 @@ class Options : public SurfaceTest {
  protected:
   Options() {
     for (int i = 1; i <= 3; ++i) {
-      auto& option = static_cast<headless::OptionButton&>(Control("optSoort", i));
+      auto& option = static_cast<controls::OptionButton&>(Control("optSoort", i));
       option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
     }
   }
   [[nodiscard]] int Selected() {
     for (int i = 1; i <= 3; ++i)
-      if (static_cast<headless::OptionButton&>(Control("optSoort", i)).Value()) return i;
+      if (static_cast<controls::OptionButton&>(Control("optSoort", i)).Value()) return i;
     return 0;
   }
 };
 
 TEST_F(Options, ArrowKeysMoveWithinTheGroupAlone) {
-  Do(Control("optSoort", 1), headless::Select{});
+  Do(Control("optSoort", 1), controls::Select{});
   Press(Qt::Key_Down);
   EXPECT_EQ(Selected(), 2);
   Press(Qt::Key_Down);
   EXPECT_EQ(Selected(), 3);
   Press(Qt::Key_Up);
   EXPECT_THAT(log_, ElementsAre("click 1", "click 2", "click 3", "click 2"));
-  EXPECT_FALSE(static_cast<headless::OptionButton&>(Control("optAnder", 1)).Value());
+  EXPECT_FALSE(static_cast<controls::OptionButton&>(Control("optAnder", 1)).Value());
 }
 
 TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
-  Do(Control("optSoort", 1), headless::Select{});
+  Do(Control("optSoort", 1), controls::Select{});
   Focus("txtBedrag");
   TypeOver("12.50");
-  Do(Control("optSoort", 3), headless::Select{});
+  Do(Control("optSoort", 3), controls::Select{});
   EXPECT_EQ(Selected(), 1);
   EXPECT_EQ(Focused(), "txtBedrag");
 }
 
 TEST_F(SurfaceTest, AListIsWorkedByKeysAndOnlyAFocusedOneByTheWheel) {
-  auto& list = static_cast<headless::ListBox&>(Control("cboTermijn"));
+  auto& list = static_cast<controls::ListBox&>(Control("cboTermijn"));
   auto& combo = dynamic_cast<QComboBox&>(*WidgetFor(list));
   list.Click.Connect([&] { log_.push_back(list.ListIndex() < 0 ? "none" : list.Text()); });
   combo.setFocus();
@@ -114,17 +114,17 @@ TEST_F(SurfaceTest, AListIsWorkedByKeysAndOnlyAFocusedOneByTheWheel) {
 }
 
 TEST_F(SurfaceTest, AListKeepsWhatStandsWhenABoxElsewhereRefuses) {
-  auto& list = static_cast<headless::ListBox&>(Control("cboTermijn"));
+  auto& list = static_cast<controls::ListBox&>(Control("cboTermijn"));
   list.SetListIndex(0);
   Focus("txtBedrag");
   TypeOver("12.50");
-  Do(list, headless::Choose{2});
+  Do(list, controls::Choose{2});
   EXPECT_EQ(list.ListIndex(), 0);
   EXPECT_EQ(dynamic_cast<QComboBox&>(*WidgetFor(list)).currentIndex(), 0);
 }
 
 TEST_F(SurfaceTest, ACheckBoxIsTickedBySpace) {
-  auto& check = static_cast<headless::CheckBox&>(Control("chkVinkje"));
+  auto& check = static_cast<controls::CheckBox&>(Control("chkVinkje"));
   WidgetFor(check)->setFocus();
   Press(Qt::Key_Space);
   EXPECT_EQ(check.Value(), host::kTicked);
@@ -148,7 +148,7 @@ TEST_F(SurfaceTest, AHelpIconShowsItsTextOnFocusClickAndHover) {
 }
 
 TEST_F(SurfaceTest, TheReportListMarksARowThatAPersonCannotMove) {
-  auto& list = static_cast<headless::ListView&>(Control("lvwLijst"));
+  auto& list = static_cast<controls::ListView&>(Control("lvwLijst"));
   list.AddColumn("Last", {1500});
   for (const std::size_t row : {1U, 2U, 3U}) list.AddItem(row, "KEY" + std::to_string(row), "rij");
   list.Select(2);

@@ -53,7 +53,7 @@ TEST(Colors, OfTheSystemAreLeftToThePalette) {
 
 TEST(Contents, AreShownByTheirFormat) {
   using frame::Format;
-  using headless::BoxValue;
+  using controls::BoxValue;
   EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::Amount), "1.500,00");
   EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::WholeNumber), "1500");
   EXPECT_EQ(ShownContent(BoxValue(1.5), Format::WholeNumber), "1,5");
@@ -64,7 +64,7 @@ TEST(Contents, AreShownByTheirFormat) {
 }
 
 TEST(Contents, OfATextBoxAreOneLine) {
-  using headless::BoxValue;
+  using controls::BoxValue;
   EXPECT_EQ(ReadContent("een\r\ntwee", frame::Format::Text).value, BoxValue(std::string("een twee")));
   EXPECT_EQ(ReadContent("", frame::Format::Text).value, BoxValue());
   EXPECT_EQ(ReadContent("12,50\r\n", frame::Format::Amount).value, BoxValue(12.5));

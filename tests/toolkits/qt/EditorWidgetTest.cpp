@@ -10,7 +10,7 @@
 #include "tests/toolkits/qt/Person.h"
 #include "toelichting/Ontwerp.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/EntryBox.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/ToelichtingWidget.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 #include "vrijekolom/Ontwerp.h"
@@ -42,8 +42,8 @@ class EditorWidget : public testing::Test {
     ShowActive(window_);
   }
 
-  [[nodiscard]] headless::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
-    return *headless::Surface::Of(editor_->Surface()).Find(name, index);
+  [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
+    return *controls::Surface::Of(editor_->Surface()).Find(name, index);
   }
   [[nodiscard]] QString TextOf(std::string_view name) {
     return dynamic_cast<qt::EntryBox&>(*WidgetFor(Control(name))).text();
@@ -121,8 +121,8 @@ TEST_F(EditorWidget, WhatTheWidgetsShowIsWhatTheControlsHoldToThePixel) {
   editor_->SetBeeindigenZichtbaar(true);
   editor_->SetApplication(host_.application, 0, 1);
   QApplication::processEvents();
-  const auto& surface = headless::Surface::Of(editor_->Surface());
-  const auto held = headless::DumpAll(surface);
+  const auto& surface = controls::Surface::Of(editor_->Surface());
+  const auto held = controls::DumpAll(surface);
   const auto shown = qt::DumpShown(surface, editor_->Toolkit());
   ASSERT_EQ(shown.size(), held.size());
   for (std::size_t i = 0; i < held.size(); ++i) EXPECT_TRUE(shown[i] == held[i]) << held[i].name;
@@ -204,7 +204,7 @@ TEST(ToelichtingWidget, IsBoundCheckedAndToldOfEdits) {
   toelichting->SetApplication(application, lening, 1);
   ShowActive(window);
   QSignalSpy changed(toelichting, &qt::ToelichtingWidget::changed);
-  headless::AnyControl& toggle = *headless::Surface::Of(toelichting->Surface()).Find("jnOverlijden");
+  controls::AnyControl& toggle = *controls::Surface::Of(toelichting->Surface()).Find("jnOverlijden");
   WidgetFor(toggle)->setFocus();
   Press(Qt::Key_J);
   EXPECT_EQ(changed.size(), 1);

@@ -5,14 +5,14 @@
 #include <QTest>
 #include <QWindow>
 
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/Surface.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/qt/CellPeer.h"
+#include "controls/Choices.h"
+#include "controls/Surface.h"
+#include "controls/TextBox.h"
+#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Edge.h"
-#include "toolkits/qt/FormWindow.h"
-#include "toolkits/qt/Peers.h"
-#include "toolkits/qt/RowCanvas.h"
+#include "toolkits/qt/widgets/FormWindow.h"
+#include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/rows/RowCanvas.h"
 
 namespace brivane::test {
 
@@ -49,13 +49,13 @@ void TypeOver(const QString& text) {
     Type(text);
 }
 
-QWidget* WidgetFor(headless::AnyControl& control) {
+QWidget* WidgetFor(controls::AnyControl& control) {
   if (const auto* cell = dynamic_cast<const qt::CellPeer*>(control.GetPeer()))
     return qt::RowCanvas::Of(*qt::ContainerWidget(cell->Control()));
   return dynamic_cast<qt::AreaHolder&>(*control.GetPeer()).Area();
 }
 
-QRect PlaceOn(headless::AnyControl& control) {
+QRect PlaceOn(controls::AnyControl& control) {
   if (const auto* cell = dynamic_cast<const qt::CellPeer*>(control.GetPeer())) return cell->Place();
   return WidgetFor(control)->rect();
 }
@@ -64,33 +64,33 @@ namespace {
 
 class Doer {
  public:
-  explicit Doer(headless::AnyControl& control)
+  explicit Doer(controls::AnyControl& control)
       : control_(control), widget_(*WidgetFor(control)), place_(PlaceOn(control)) {}
 
-  void operator()(const headless::Press&) const { Click(widget_, place_.center()); }
-  void operator()(const headless::Select&) const { Click(widget_, LeftEnd()); }
-  void operator()(const headless::Tick& tick) const {
-    if (static_cast<const headless::CheckBox&>(control_).Value() != tick.value) Click(widget_, LeftEnd());
+  void operator()(const controls::Press&) const { Click(widget_, place_.center()); }
+  void operator()(const controls::Select&) const { Click(widget_, LeftEnd()); }
+  void operator()(const controls::Tick& tick) const {
+    if (static_cast<const controls::CheckBox&>(control_).Value() != tick.value) Click(widget_, LeftEnd());
   }
-  void operator()(const headless::Toggle& toggle) const {
+  void operator()(const controls::Toggle& toggle) const {
     const int quarter = place_.width() / 4;
     Click(widget_, QPoint(toggle.value == host::kJa ? quarter : 3 * quarter, place_.center().y()));
   }
-  void operator()(const headless::Choose& choose) const {
+  void operator()(const controls::Choose& choose) const {
     Click(widget_, place_.center());
     if (QApplication::activePopupWidget() == nullptr) return;
     Press(Qt::Key_Home);
     for (int i = 0; i < choose.index; ++i) Press(Qt::Key_Down);
     Press(Qt::Key_Return);
   }
-  void operator()(const headless::Enter& enter) const {
+  void operator()(const controls::Enter& enter) const {
     Click(widget_, place_.center());
     if (QApplication::focusWidget() == nullptr || !Focused()) return;
-    const auto format = static_cast<const headless::TextBox&>(control_).Format();
+    const auto format = static_cast<const controls::TextBox&>(control_).Format();
     TypeOver(qt::ShownContent(enter.value, format));
     Press(Qt::Key_Tab);
   }
-  void operator()(const headless::Close&) const { widget_.window()->close(); }
+  void operator()(const controls::Close&) const { widget_.window()->close(); }
 
  private:
   [[nodiscard]] QPoint LeftEnd() const { return {place_.left() + 8, place_.center().y()}; }
@@ -99,14 +99,14 @@ class Doer {
     return focus == &widget_ || widget_.isAncestorOf(focus);
   }
 
-  headless::AnyControl& control_;
+  controls::AnyControl& control_;
   QWidget& widget_;
   QRect place_;
 };
 
 }  // namespace
 
-void Do(headless::AnyControl& control, const headless::Action& action) {
+void Do(controls::AnyControl& control, const controls::Action& action) {
   std::visit(Doer(control), action);
 }
 

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "toolkits/headless/Control.h"
+#include "controls/Control.h"
 
 /// What a person does with mouse and keyboard, by the events of the window system: a click lands on
 /// whatever is there, a key goes to whatever has the focus.
@@ -22,11 +22,11 @@ void Type(const QString& text);
 void TypeOver(const QString& text);
 
 /// The widget that shows a control, or the canvas that paints it.
-[[nodiscard]] QWidget* WidgetFor(headless::AnyControl& control);
+[[nodiscard]] QWidget* WidgetFor(controls::AnyControl& control);
 /// Where a control is on that widget.
-[[nodiscard]] QRect PlaceOn(headless::AnyControl& control);
+[[nodiscard]] QRect PlaceOn(controls::AnyControl& control);
 
 /// Does an action as a person does it.
-void Do(headless::AnyControl& control, const headless::Action& action);
+void Do(controls::AnyControl& control, const controls::Action& action);
 
 }  // namespace brivane::test

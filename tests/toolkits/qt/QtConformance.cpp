@@ -5,7 +5,7 @@
 #include "tests/toolkits/conformance/Conformance.h"
 #include "tests/toolkits/qt/Person.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/FormWindow.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 #include "toolkits/qt/Toolkit.h"
 
 namespace brivane::test {
@@ -17,7 +17,7 @@ class QtUnderTest final : public ToolkitUnderTest {
 
   void Settle() override { QApplication::processEvents(); }
 
-  void Show(headless::Surface& surface) override {
+  void Show(controls::Surface& surface) override {
     QWidget& area = qt::Toolkit::WidgetOf(surface.HostSurface());
     area.setParent(&window_);
     area.show();
@@ -25,9 +25,9 @@ class QtUnderTest final : public ToolkitUnderTest {
     ShowActive(window_);
   }
 
-  void Gesture(headless::AnyControl& control, const headless::Action& action) override { Do(control, action); }
+  void Gesture(controls::AnyControl& control, const controls::Action& action) override { Do(control, action); }
 
-  void WhileOpen(std::function<void(headless::Form&)> script) override {
+  void WhileOpen(std::function<void(controls::Form&)> script) override {
     QTimer::singleShot(0, &window_, [script = std::move(script)] {
       auto* const dialog = dynamic_cast<qt::FormWindow::Window*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
@@ -36,7 +36,7 @@ class QtUnderTest final : public ToolkitUnderTest {
     });
   }
 
-  [[nodiscard]] std::vector<headless::ControlDump> Shown(const headless::Surface& surface) override {
+  [[nodiscard]] std::vector<controls::ControlDump> Shown(const controls::Surface& surface) override {
     return qt::DumpShown(surface, toolkit_);
   }
 

@@ -15,12 +15,12 @@
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/qt/Bubble.h"
-#include "toolkits/qt/CellPeer.h"
+#include "controls/TextBox.h"
+#include "toolkits/qt/widgets/Bubble.h"
+#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/FormWindow.h"
-#include "toolkits/qt/RowCanvas.h"
+#include "toolkits/qt/widgets/FormWindow.h"
+#include "toolkits/qt/rows/RowCanvas.h"
 
 /// The year-by-year form as a person meets it: a dialog worked by keys.
 namespace brivane::test {
@@ -62,11 +62,11 @@ class ScenarioDialog : public testing::Test {
     form_ = nullptr;
   }
 
-  [[nodiscard]] headless::Form& Form() { return dynamic_cast<headless::Form&>(form_->Form()); }
-  [[nodiscard]] headless::AnyControl& Cell(std::string_view name, int row) { return *Form().Find(name, row); }
-  [[nodiscard]] double Amount(int row) { return static_cast<headless::TextBox&>(Cell("txtBedrag", row)).Number(); }
+  [[nodiscard]] controls::Form& Form() { return dynamic_cast<controls::Form&>(form_->Form()); }
+  [[nodiscard]] controls::AnyControl& Cell(std::string_view name, int row) { return *Form().Find(name, row); }
+  [[nodiscard]] double Amount(int row) { return static_cast<controls::TextBox&>(Cell("txtBedrag", row)).Number(); }
   [[nodiscard]] double Percentage(int row) {
-    return static_cast<headless::TextBox&>(Cell("txtPercentage", row)).Number();
+    return static_cast<controls::TextBox&>(Cell("txtPercentage", row)).Number();
   }
   [[nodiscard]] qt::RowCanvas& Canvas() { return *static_cast<qt::RowCanvas*>(WidgetFor(Cell("txtBedrag", 1))); }
   /// The cell or control with the focus: "txtBedrag(2)", "cmdOK".
@@ -251,7 +251,7 @@ TEST_F(ScenarioDialog, APastedColumnFillsTheRowsFromTheFocusedOne) {
 
 TEST_F(ScenarioDialog, APastedColumnIsEnteredAsIfTyped) {
   Open(4, [&] {
-    Do(Cell("chkAanvullen", frame::kNoIndex), headless::Tick{host::kTicked});
+    Do(Cell("chkAanvullen", frame::kNoIndex), controls::Tick{host::kTicked});
     Click(Canvas(), PlaceOn(Cell("txtBedrag", 1)).center());
     QGuiApplication::clipboard()->setText("10\n20");
     Press(Qt::Key_V, Qt::ControlModifier);
@@ -310,7 +310,7 @@ TEST_F(ScenarioDialog, ADisabledRowIsReachedByNoKeyAndNoClickButIsFilledForward)
     EXPECT_EQ(Focused(), "txtBedrag(3)");
     Click(Canvas(), PlaceOn(Cell("txtBedrag", 2)).center());
     EXPECT_EQ(Focused(), "txtBedrag(3)");
-    Do(Cell("chkAanvullen", frame::kNoIndex), headless::Tick{host::kTicked});
+    Do(Cell("chkAanvullen", frame::kNoIndex), controls::Tick{host::kTicked});
     Click(Canvas(), PlaceOn(Cell("txtBedrag", 1)).center());
     TypeOver("300");
     Press(Qt::Key_Return);
@@ -407,7 +407,7 @@ TEST_F(ScenarioDialog, WhatItShowsIsWhatTheControlsHoldToThePixel) {
   Open(
       31,
       [&] {
-        const auto held = headless::DumpAll(Form());
+        const auto held = controls::DumpAll(Form());
         const auto shown = qt::DumpShown(Form(), toolkit_);
         ASSERT_EQ(shown.size(), held.size());
         for (std::size_t i = 0; i < held.size(); ++i) EXPECT_TRUE(shown[i] == held[i]) << held[i].name;

@@ -10,9 +10,9 @@
 
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/qt/Bubble.h"
-#include "toolkits/qt/EntryBox.h"
+#include "controls/TextBox.h"
+#include "toolkits/qt/widgets/Bubble.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/Toolkit.h"
 
 namespace brivane::test {
@@ -32,17 +32,17 @@ class SurfaceTest : public testing::Test {
     };
   }
 
-  [[nodiscard]] headless::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
-    return *headless::Surface::Of(*surface_).Find(name, index);
+  [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
+    return *controls::Surface::Of(*surface_).Find(name, index);
   }
   template <class Box = qt::EntryBox>
   [[nodiscard]] Box& Entry(std::string_view name) {
     return dynamic_cast<Box&>(*WidgetFor(Control(name)));
   }
-  [[nodiscard]] headless::TextBox& Box(std::string_view name) { return static_cast<headless::TextBox&>(Control(name)); }
+  [[nodiscard]] controls::TextBox& Box(std::string_view name) { return static_cast<controls::TextBox&>(Control(name)); }
   /// Notes each Validation of a box; refuses while `refuse_` stands.
   void Follow(std::string_view name) {
-    headless::TextBox& box = Box(name);
+    controls::TextBox& box = Box(name);
     box.Validation.Connect([this, &box](bool& Cancel) {
       log_.push_back(box.ElementName() + " = " + qt::ShownContent(box.Content(), box.Format()).toStdString());
       Cancel = refuse_;

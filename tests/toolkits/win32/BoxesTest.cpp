@@ -1,9 +1,9 @@
 #include "frame/Calendar.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/Plain.h"
-#include "toolkits/win32/Calendar.h"
-#include "toolkits/win32/DateWindow.h"
+#include "controls/Choices.h"
+#include "controls/Plain.h"
+#include "toolkits/win32/controls/Calendar.h"
+#include "toolkits/win32/controls/DateWindow.h"
 
 /// Boxes worked by keys.
 namespace brivane::test {
@@ -116,13 +116,13 @@ TEST_F(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
     Click(WindowOf(name));
     EXPECT_EQ(Focused(), "txtDatum") << name;
   }
-  EXPECT_EQ(static_cast<headless::JaNee&>(Control("jnDiep")).Value(), host::kNee);
-  EXPECT_EQ(static_cast<headless::CheckBox&>(Control("chkVinkje")).Value(), host::kUnticked);
+  EXPECT_EQ(static_cast<controls::JaNee&>(Control("jnDiep")).Value(), host::kNee);
+  EXPECT_EQ(static_cast<controls::CheckBox&>(Control("chkVinkje")).Value(), host::kUnticked);
   EXPECT_EQ(Reason("txtDatum"), "31 februari 2031 bestaat niet.");
 }
 
 TEST_F(Boxes, HandOverBeforeAMnemonicPressesAButton) {
-  static_cast<headless::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
+  static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
   Focus("txtBedrag");
   TypeOver(L"5");
   Press('D', With::Alt);
@@ -178,7 +178,7 @@ TEST_F(Boxes, AnEmptiedBoxIsEmpty) {
   Focus("txtBedrag");
   TypeOver(L"");
   Press(VK_TAB);
-  EXPECT_EQ(Box("txtBedrag").Content(), headless::BoxValue());
+  EXPECT_EQ(Box("txtBedrag").Content(), controls::BoxValue());
 }
 
 TEST_F(Boxes, DecimalsThatAreNotShownSurviveARetypedText) {

@@ -2,11 +2,11 @@
 
 #include <commctrl.h>
 
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/headless/ListView.h"
-#include "toolkits/headless/Plain.h"
-#include "toolkits/win32/HintWindow.h"
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
+#include "controls/ListView.h"
+#include "controls/Plain.h"
+#include "toolkits/win32/controls/HintWindow.h"
 
 /// Toggles, options, lists and help icons worked by keys and mouse.
 namespace brivane::test {
@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 class ToggleKeys : public SurfaceTest {
  protected:
-  headless::JaNee& toggle_ = static_cast<headless::JaNee&>(Control("jnDiep"));
+  controls::JaNee& toggle_ = static_cast<controls::JaNee&>(Control("jnDiep"));
 };
 
 TEST_F(ToggleKeys, EachKeyPicksItsAnswer) {
@@ -50,19 +50,19 @@ class Options : public SurfaceTest {
  protected:
   Options() {
     for (int i = 1; i <= 3; ++i) {
-      auto& option = static_cast<headless::OptionButton&>(Control("optSoort", i));
+      auto& option = static_cast<controls::OptionButton&>(Control("optSoort", i));
       option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
     }
   }
   [[nodiscard]] int Selected() {
     for (int i = 1; i <= 3; ++i)
-      if (static_cast<headless::OptionButton&>(Control("optSoort", i)).Value()) return i;
+      if (static_cast<controls::OptionButton&>(Control("optSoort", i)).Value()) return i;
     return 0;
   }
 };
 
 TEST_F(Options, ArrowKeysMoveWithinTheGroupAlone) {
-  Do(Control("optSoort", 1), headless::Select{});
+  Do(Control("optSoort", 1), controls::Select{});
   Press(VK_DOWN);
   EXPECT_EQ(Selected(), 2);
   Press(VK_RIGHT);
@@ -70,7 +70,7 @@ TEST_F(Options, ArrowKeysMoveWithinTheGroupAlone) {
   Press(VK_UP);
   EXPECT_EQ(Focused(), "optSoort(2)");
   EXPECT_THAT(log_, ElementsAre("click 1", "click 2", "click 3", "click 2"));
-  EXPECT_FALSE(static_cast<headless::OptionButton&>(Control("optAnder", 1)).Value());
+  EXPECT_FALSE(static_cast<controls::OptionButton&>(Control("optAnder", 1)).Value());
 }
 
 TEST_F(Options, GettingTheFocusSelectsNothing) {
@@ -80,7 +80,7 @@ TEST_F(Options, GettingTheFocusSelectsNothing) {
 }
 
 TEST_F(Options, TabGoesToTheSelectedOne) {
-  static_cast<headless::OptionButton&>(Control("optSoort", 3)).SetValue(true);
+  static_cast<controls::OptionButton&>(Control("optSoort", 3)).SetValue(true);
   SetFocus(WindowOf("hntDiep"));
   Press(VK_TAB);
   EXPECT_EQ(Focused(), "optSoort(3)");
@@ -89,10 +89,10 @@ TEST_F(Options, TabGoesToTheSelectedOne) {
 }
 
 TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
-  Do(Control("optSoort", 1), headless::Select{});
+  Do(Control("optSoort", 1), controls::Select{});
   Focus("txtBedrag");
   TypeOver(L"12.50");
-  Do(Control("optSoort", 3), headless::Select{});
+  Do(Control("optSoort", 3), controls::Select{});
   EXPECT_EQ(Selected(), 1);
   EXPECT_EQ(Focused(), "txtBedrag");
 }
@@ -103,7 +103,7 @@ class Lists : public SurfaceTest {
     list_.Click.Connect([this] { log_.push_back(list_.ListIndex() < 0 ? "none" : list_.Text()); });
   }
   [[nodiscard]] LRESULT Shown() { return SendMessageW(WindowOf("cboTermijn"), CB_GETCURSEL, 0, 0); }
-  headless::ListBox& list_ = static_cast<headless::ListBox&>(Control("cboTermijn"));
+  controls::ListBox& list_ = static_cast<controls::ListBox&>(Control("cboTermijn"));
 };
 
 TEST_F(Lists, AreWorkedByKeysWhileTheyAreClosed) {
@@ -152,7 +152,7 @@ TEST_F(Lists, KeepWhatStandsWhenABoxElsewhereRefuses) {
   list_.SetListIndex(0);
   Focus("txtBedrag");
   TypeOver(L"12.50");
-  Do(list_, headless::Choose{2});
+  Do(list_, controls::Choose{2});
   EXPECT_EQ(list_.ListIndex(), 0);
   EXPECT_EQ(Shown(), 0);
 }
@@ -188,7 +188,7 @@ TEST_F(Lists, TurnOnlyWithTheFocusByTheWheel) {
 }
 
 TEST_F(SurfaceTest, ACheckBoxIsTickedBySpace) {
-  auto& check = static_cast<headless::CheckBox&>(Control("chkVinkje"));
+  auto& check = static_cast<controls::CheckBox&>(Control("chkVinkje"));
   SetFocus(WindowOf("chkVinkje"));
   Press(VK_SPACE);
   EXPECT_EQ(check.Value(), host::kTicked);
@@ -197,7 +197,7 @@ TEST_F(SurfaceTest, ACheckBoxIsTickedBySpace) {
 }
 
 TEST_F(SurfaceTest, AButtonIsPressedBySpaceAndByEnter) {
-  static_cast<headless::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
+  static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
   SetFocus(WindowOf("cmdDoen"));
   Press(VK_SPACE);
   Press(VK_RETURN);
@@ -230,7 +230,7 @@ TEST_F(SurfaceTest, AHelpIconShowsItsTextOnFocusClickAndHover) {
 }
 
 TEST_F(SurfaceTest, TheReportListMarksARowThatAPersonCannotMove) {
-  auto& list = static_cast<headless::ListView&>(Control("lvwLijst"));
+  auto& list = static_cast<controls::ListView&>(Control("lvwLijst"));
   list.AddColumn("Last", {1500});
   for (const std::size_t row : {1U, 2U, 3U}) list.AddItem(row, "KEY" + std::to_string(row), "rij");
   list.Select(2);

@@ -3,10 +3,10 @@
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/win32/DateWindow.h"
-#include "toolkits/win32/HintWindow.h"
+#include "controls/Form.h"
+#include "controls/ListBox.h"
+#include "toolkits/win32/controls/DateWindow.h"
+#include "toolkits/win32/controls/HintWindow.h"
 
 /// A host that goes while something is open: nothing fails, and nothing stays on the screen.
 namespace brivane::test {
@@ -118,7 +118,7 @@ TEST_P(ClosingTheWindow, TheContainersWindowIsDestroyedWhateverIsOpen) {
   EXPECT_EQ(win32::Toolkit::WindowOf(*surface_), nullptr);
   Box("txtNaam").SetText("later");
   Box("txtDatum").SetDate(host::kNoDate);
-  static_cast<headless::ListBox&>(Control("cboTermijn")).SetListIndex(1);
+  static_cast<controls::ListBox&>(Control("cboTermijn")).SetListIndex(1);
   Control("cboTermijn").Host().SetEnabled(false);
   Control("fraBoxen").Host().SetVisible(false);
   surface_.reset();
@@ -143,13 +143,13 @@ TEST_F(Closing, TheContainersWindowIsDestroyedWhileACheckAsks) {
 class ClosingTheForm : public Closing {
  protected:
   /// Opens the form on the stage; true when it came back unloaded.
-  bool OpenForm(const std::function<void(headless::Form&)>& script) {
+  bool OpenForm(const std::function<void(controls::Form&)>& script) {
     auto scenario = std::make_shared<tests::RecordingScenario>();
     scenario->basis = 100;
     frmScenario form(toolkit_);
     form.Invoeren(scenario, 3, 0, 0, false, false, 0);
     bool ran = false;
-    toolkit_.modal = [&](headless::Form& shown) {
+    toolkit_.modal = [&](controls::Form& shown) {
       script(shown);
       ran = true;
     };
@@ -161,7 +161,7 @@ class ClosingTheForm : public Closing {
 };
 
 TEST_F(ClosingTheForm, TheMainWindowIsDestroyedWhileARowIsBeingTyped) {
-  EXPECT_TRUE(OpenForm([&](headless::Form&) {
+  EXPECT_TRUE(OpenForm([&](controls::Form&) {
     TypeOver(L"250");
     DestroyWindow(stage_.Window());
   }));
@@ -171,7 +171,7 @@ TEST_F(ClosingTheForm, TheMainWindowIsDestroyedWhileARowIsBeingTyped) {
 
 TEST_F(ClosingTheForm, TheMainWindowIsDestroyedWhileTheFormAsks) {
   toolkit_.Desktop().answer = nullptr;
-  EXPECT_TRUE(OpenForm([&](headless::Form& form) {
+  EXPECT_TRUE(OpenForm([&](controls::Form& form) {
     TypeOver(L"250");
     Press(VK_TAB);
     const Meanwhile meanwhile(&BoxIsOpen, [this] { DestroyWindow(stage_.Window()); });
@@ -182,7 +182,7 @@ TEST_F(ClosingTheForm, TheMainWindowIsDestroyedWhileTheFormAsks) {
 }
 
 TEST_F(ClosingTheForm, TheProgramEndsWhileItIsOpen) {
-  EXPECT_TRUE(OpenForm([&](headless::Form&) { PostQuitMessage(7); }));
+  EXPECT_TRUE(OpenForm([&](controls::Form&) { PostQuitMessage(7); }));
   EXPECT_TRUE(IsWindowEnabled(stage_.Window()));
   EXPECT_EQ(ShownWindows(), 1);
   MSG message{};

@@ -5,7 +5,7 @@
 
 #include "frame/Calendar.h"
 #include "toolkits/win32/Desktop.h"
-#include "toolkits/win32/Text.h"
+#include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
 namespace {

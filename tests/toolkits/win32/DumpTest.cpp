@@ -5,9 +5,9 @@
 
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/headless/Pixels.h"
-#include "toolkits/win32/ControlWindow.h"
+#include "controls/Form.h"
+#include "controls/Pixels.h"
+#include "toolkits/win32/window/ControlWindow.h"
 #include "toolkits/win32/Dump.h"
 #include "toolkits/win32/Toolkit.h"
 
@@ -15,7 +15,7 @@
 namespace brivane::test {
 namespace {
 
-using headless::ControlDump;
+using controls::ControlDump;
 using host::Kind;
 
 class Dumps : public testing::Test {
@@ -23,7 +23,7 @@ class Dumps : public testing::Test {
   Dumps() : scene_(toolkit_, EditorState::Product) { stage_.Show(scene_.Surface()); }
 
   [[nodiscard]] std::vector<ControlDump> All() { return win32::DumpShown(Surface(), toolkit_); }
-  [[nodiscard]] headless::Surface& Surface() { return headless::Surface::Of(scene_.Surface()); }
+  [[nodiscard]] controls::Surface& Surface() { return controls::Surface::Of(scene_.Surface()); }
   /// The windows in the order of the dump.
   [[nodiscard]] std::vector<HWND> Windows() { return WindowsOf(Surface()); }
 
@@ -32,12 +32,12 @@ class Dumps : public testing::Test {
   EditorScene scene_;
 
  private:
-  static std::vector<HWND> WindowsOf(const headless::Surface& surface) {
+  static std::vector<HWND> WindowsOf(const controls::Surface& surface) {
     std::vector<HWND> windows;
     for (const auto& control : surface.Made()) {
       windows.push_back(Shown(*control).Handle());
       if (control->ControlKind() != Kind::Surface) continue;
-      const auto inner = WindowsOf(static_cast<const headless::Surface&>(*control));
+      const auto inner = WindowsOf(static_cast<const controls::Surface&>(*control));
       windows.insert(windows.end(), inner.begin(), inner.end());
     }
     return windows;
@@ -45,7 +45,7 @@ class Dumps : public testing::Test {
 };
 
 RECT PlaceOf(const ControlDump& dump) {
-  const headless::PixelPlace place = headless::Pixels(dump.place, 1);
+  const controls::PixelPlace place = controls::Pixels(dump.place, 1);
   return {place.left, place.top, place.left + place.width, place.top + place.height};
 }
 

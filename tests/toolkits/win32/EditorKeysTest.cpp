@@ -7,12 +7,12 @@
 #include "frame/Calendar.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/win32/DateWindow.h"
-#include "toolkits/win32/Navigation.h"
-#include "toolkits/win32/Text.h"
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
+#include "controls/TextBox.h"
+#include "toolkits/win32/controls/DateWindow.h"
+#include "toolkits/win32/window/Navigation.h"
+#include "toolkits/win32/window/Text.h"
 #include "toolkits/win32/Toolkit.h"
 
 /// The editor as an adviser works it, without a mouse.
@@ -25,8 +25,8 @@ class EditorKeys : public testing::TestWithParam<EditorState> {
     stage_.Show(scene_.Surface());
     toolkit_.FocusFirst(scene_.Surface());
   }
-  [[nodiscard]] headless::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
-    return *headless::Surface::Of(scene_.Surface()).Find(name, index);
+  [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
+    return *controls::Surface::Of(scene_.Surface()).Find(name, index);
   }
   [[nodiscard]] static std::string Typed() { return win32::Narrow(win32::TextOf(GetFocus())); }
   /// Everything selected, so that typing replaces it.
@@ -70,14 +70,14 @@ TEST_P(EveryState, TabGoesDownTheLeftSideAndThenDownTheRight) {
     }
     Press(VK_TAB);
   } while (GetFocus() != first && visited.size() < 60);
-  EXPECT_EQ(visited.size(), win32::Stops(headless::Surface::Of(scene_.Surface())).size());
+  EXPECT_EQ(visited.size(), win32::Stops(controls::Surface::Of(scene_.Surface())).size());
   EXPECT_GE(visited.size(), 16U);
 }
 
 TEST_P(EveryState, EachLetterOfTheAlphabetLeadsToOnePlace) {
   for (wchar_t letter = L'a'; letter <= L'z'; ++letter) {
     int found = 0;
-    for (const auto& control : headless::Surface::Of(scene_.Surface()).Made())
+    for (const auto& control : controls::Surface::Of(scene_.Surface()).Made())
       if (control->Reachable() && std::towlower(static_cast<wchar_t>(control->Row().mnemonic)) == letter) ++found;
     EXPECT_LE(found, 1) << static_cast<char>(letter);
   }
@@ -88,7 +88,7 @@ TEST_P(TheEditor, IsWorkedByLettersDatesListsAndToggles) {
   EXPECT_EQ(Focused(), "TxtDtAanvang");
   Type(L"010532");
   Press(VK_TAB);
-  EXPECT_EQ(static_cast<headless::TextBox&>(Control("TxtDtAanvang")).DateValue(), frame::MakeDate({2032, 5, 1}));
+  EXPECT_EQ(static_cast<controls::TextBox&>(Control("TxtDtAanvang")).DateValue(), frame::MakeDate({2032, 5, 1}));
   EXPECT_EQ(Focused(), "TxtDtEind");
   Press(VK_F4);
   Press(VK_NEXT);
@@ -101,13 +101,13 @@ TEST_P(TheEditor, IsWorkedByLettersDatesListsAndToggles) {
   Press(VK_DECIMAL);
   Type(L"5");
   Press(VK_TAB);
-  EXPECT_EQ(static_cast<headless::TextBox&>(Control("TxtBd")).Number(), 75.5);
+  EXPECT_EQ(static_cast<controls::TextBox&>(Control("TxtBd")).Number(), 75.5);
   EXPECT_EQ(Focused(), "cboTermijn");
   Press(VK_DOWN);
-  EXPECT_EQ(static_cast<headless::ListBox&>(Control("cboTermijn")).ListIndex(), 1);
+  EXPECT_EQ(static_cast<controls::ListBox&>(Control("cboTermijn")).ListIndex(), 1);
   Press('I', With::Alt);
   EXPECT_EQ(Focused(), "jnInkUitArbeid");
-  auto& work = static_cast<headless::JaNee&>(Control("jnInkUitArbeid"));
+  auto& work = static_cast<controls::JaNee&>(Control("jnInkUitArbeid"));
   Press('J');
   EXPECT_EQ(work.Value(), host::kJa);
   Press(VK_RIGHT);
@@ -127,7 +127,7 @@ TEST_P(TheEditor, KeysOfAnInputMethodNeitherHandOverNorLeadAway) {
   EXPECT_EQ(Typed(), "halfé");
   EXPECT_TRUE(dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).HasPendingEdit());
   Press(VK_RETURN);
-  EXPECT_EQ(static_cast<headless::TextBox&>(Control("TxtOm")).Text(), "halfé");
+  EXPECT_EQ(static_cast<controls::TextBox&>(Control("TxtOm")).Text(), "halfé");
 }
 
 }  // namespace

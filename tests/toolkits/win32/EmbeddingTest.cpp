@@ -2,8 +2,8 @@
 
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/ListBox.h"
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
 #include "toolkits/win32/Dump.h"
 
 /// A surface in a container that was not written for it.
@@ -32,11 +32,11 @@ TEST(Embedding, TheContainerMayDestroyTheWindowFirst) {
     stage.Show(*surface);
   }
   EXPECT_EQ(win32::Toolkit::WindowOf(*surface), nullptr);
-  auto& box = static_cast<headless::TextBox&>(*headless::Surface::Of(*surface).Find("txtNaam"));
+  auto& box = static_cast<controls::TextBox&>(*controls::Surface::Of(*surface).Find("txtNaam"));
   box.SetText("nog steeds");
   box.SetFocus();
   surface->SetBackColor({255});
-  static_cast<headless::ListBox&>(*headless::Surface::Of(*surface).Find("cboTermijn")).SetListIndex(1);
+  static_cast<controls::ListBox&>(*controls::Surface::Of(*surface).Find("cboTermijn")).SetListIndex(1);
   EXPECT_EQ(box.Text(), "nog steeds");
   EXPECT_FALSE(toolkit.FocusFirst(*surface));
   surface.reset();
@@ -86,7 +86,7 @@ TEST_F(PlainLoop, TabAndTheOtherKeysWorkAllTheSame) {
   EXPECT_EQ(Focused(), "txtBedrag");
   SetFocus(WindowOf("jnDiep"));
   Key('J');
-  EXPECT_EQ(static_cast<headless::JaNee&>(Control("jnDiep")).Value(), host::kJa);
+  EXPECT_EQ(static_cast<controls::JaNee&>(Control("jnDiep")).Value(), host::kJa);
   SetFocus(WindowOf("optSoort", 1));
   Key(VK_DOWN);
   EXPECT_EQ(Focused(), "optSoort(2)");

@@ -5,8 +5,8 @@
 
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/win32/Navigation.h"
+#include "controls/Form.h"
+#include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/Toolkit.h"
 
 /// A person sees where the focus is.
@@ -41,7 +41,7 @@ std::vector<std::uint32_t> Seen(HWND window) {
 class FocusSeen : public testing::Test {
  protected:
   /// Goes to each stop but the boxes, where the caret blinks, and away from it again.
-  void ExpectSeen(const headless::Surface& surface) {
+  void ExpectSeen(const controls::Surface& surface) {
     std::vector<win32::ControlWindow*> stops = win32::Stops(surface);
     std::erase_if(stops, [](const auto* stop) { return stop->Control().ControlKind() == host::Kind::TextBox; });
     EXPECT_GT(stops.size(), 2U);
@@ -73,12 +73,12 @@ TEST_F(FocusSeen, InEveryControlOfTheEditor) {
     SCOPED_TRACE(NameOf(state));
     EditorScene scene(toolkit_, state);
     stage_.Show(scene.Surface());
-    ExpectSeen(headless::Surface::Of(scene.Surface()));
+    ExpectSeen(controls::Surface::Of(scene.Surface()));
   }
 }
 
 TEST_F(FocusSeen, InEveryControlOfTheForm) {
-  toolkit_.modal = [&](headless::Form& form) {
+  toolkit_.modal = [&](controls::Form& form) {
     stage_.Settle();
     ExpectSeen(form);
   };

@@ -3,13 +3,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "toolkits/entry/Content.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/ListBox.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/win32/ControlWindow.h"
-#include "toolkits/win32/FormWindow.h"
-#include "toolkits/win32/Text.h"
+#include "controls/entry/Content.h"
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
+#include "controls/TextBox.h"
+#include "toolkits/win32/window/ControlWindow.h"
+#include "toolkits/win32/form/FormWindow.h"
+#include "toolkits/win32/window/Text.h"
 #include "toolkits/win32/Toolkit.h"
 
 namespace brivane::test {
@@ -87,7 +87,7 @@ void Stage::Settle() {
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
     const auto* const control = dynamic_cast<win32::ControlWindow*>(win32::Window::Of(message.hwnd));
     // A form that is open has its own.
-    headless::Surface* const root = control != nullptr ? &win32::RootOf(control->Control()) : nullptr;
+    controls::Surface* const root = control != nullptr ? &win32::RootOf(control->Control()) : nullptr;
     if (root != nullptr && toolkit_.Navigate(root->HostSurface(), message)) continue;
     const bool inside = root != nullptr && win32::AreaOf(*root) == area_;
     if (inside && message.message == WM_KEYDOWN && message.wParam == VK_TAB) {
@@ -153,7 +153,7 @@ void TypeOver(const std::wstring& text) {
     Type(text);
 }
 
-win32::ControlWindow& Shown(headless::AnyControl& control) { return win32::WindowFor(control); }
+win32::ControlWindow& Shown(controls::AnyControl& control) { return win32::WindowFor(control); }
 
 std::string Focused() {
   const auto* const control = dynamic_cast<win32::ControlWindow*>(win32::Window::Of(GetFocus()));
@@ -164,46 +164,46 @@ namespace {
 
 class Doer {
  public:
-  explicit Doer(headless::AnyControl& control) : control_(control) {
+  explicit Doer(controls::AnyControl& control) : control_(control) {
     const auto* const shown = dynamic_cast<win32::ControlWindow*>(control.GetPeer());
     window_ = shown != nullptr ? shown->Handle() : win32::AreaOf(control);
   }
 
-  void operator()(const headless::Press&) const { Click(window_); }
-  void operator()(const headless::Select&) const { Click(window_, LeftEnd()); }
-  void operator()(const headless::Tick& tick) const {
-    if (static_cast<const headless::CheckBox&>(control_).Value() != tick.value) Click(window_, LeftEnd());
+  void operator()(const controls::Press&) const { Click(window_); }
+  void operator()(const controls::Select&) const { Click(window_, LeftEnd()); }
+  void operator()(const controls::Tick& tick) const {
+    if (static_cast<const controls::CheckBox&>(control_).Value() != tick.value) Click(window_, LeftEnd());
   }
-  void operator()(const headless::Toggle& toggle) const {
+  void operator()(const controls::Toggle& toggle) const {
     POINT at = CenterOf(window_);
     at.x = toggle.value == host::kJa ? at.x / 2 : at.x * 3 / 2;
     Click(window_, at);
   }
-  void operator()(const headless::Choose& choose) const {
+  void operator()(const controls::Choose& choose) const {
     Click(window_);
     if (SendMessageW(window_, CB_GETDROPPEDSTATE, 0, 0) == FALSE) return;
     Press(VK_HOME);
     for (int i = 0; i < choose.index; ++i) Press(VK_DOWN);
     Press(VK_RETURN);
   }
-  void operator()(const headless::Enter& enter) const {
+  void operator()(const controls::Enter& enter) const {
     Click(window_, LeftEnd());
     if (GetFocus() != window_) return;
-    const auto format = static_cast<const headless::TextBox&>(control_).Format();
-    TypeOver(win32::Wide(entry::ShowContent(enter.value, format)));
+    const auto format = static_cast<const controls::TextBox&>(control_).Format();
+    TypeOver(win32::Wide(controls::ShowContent(enter.value, format)));
     Press(VK_TAB);
   }
-  void operator()(const headless::Close&) const { SendMessageW(GetAncestor(window_, GA_ROOT), WM_CLOSE, 0, 0); }
+  void operator()(const controls::Close&) const { SendMessageW(GetAncestor(window_, GA_ROOT), WM_CLOSE, 0, 0); }
 
  private:
   [[nodiscard]] POINT LeftEnd() const { return {8, CenterOf(window_).y}; }
 
-  headless::AnyControl& control_;
+  controls::AnyControl& control_;
   HWND window_;
 };
 
 }  // namespace
 
-void Do(headless::AnyControl& control, const headless::Action& action) { std::visit(Doer(control), action); }
+void Do(controls::AnyControl& control, const controls::Action& action) { std::visit(Doer(control), action); }
 
 }  // namespace brivane::test

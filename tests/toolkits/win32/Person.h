@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "toolkits/win32/WindowsApi.h"
+#include "toolkits/win32/window/WindowsApi.h"
 
 #include "host/controls/Surface.h"
-#include "toolkits/headless/Control.h"
+#include "controls/Control.h"
 
 /// What a person does with mouse and keyboard, through the input queue of Windows: a click lands on whatever is
 /// under the pointer, a key goes to whatever has the focus.
@@ -50,12 +50,12 @@ void Type(const std::wstring& text);
 /// Replaces what stands in the focused box.
 void TypeOver(const std::wstring& text);
 
-[[nodiscard]] win32::ControlWindow& Shown(headless::AnyControl& control);
+[[nodiscard]] win32::ControlWindow& Shown(controls::AnyControl& control);
 /// Name of the control that has the focus; empty where none of ours has it.
 [[nodiscard]] std::string Focused();
 [[nodiscard]] POINT CenterOf(HWND window);
 
 /// Does an action as a person does it.
-void Do(headless::AnyControl& control, const headless::Action& action);
+void Do(controls::AnyControl& control, const controls::Action& action);
 
 }  // namespace brivane::test

@@ -8,8 +8,8 @@
 
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/win32/ControlWindow.h"
+#include "controls/Form.h"
+#include "toolkits/win32/window/ControlWindow.h"
 #include "toolkits/win32/Toolkit.h"
 
 namespace brivane::test {
@@ -64,7 +64,7 @@ class Pictures {
     EditorScene scene(toolkit_, EditorState::Transition);
     stage_.Show(scene.Surface());
     const auto window = [&](std::string_view name) {
-      return Shown(*headless::Surface::Of(scene.Surface()).Find(name)).Handle();
+      return Shown(*controls::Surface::Of(scene.Surface()).Find(name)).Handle();
     };
     Click(window("TxtBd"), {8, 8});
     TypeOver(L"12.50");
@@ -84,7 +84,7 @@ class Pictures {
 
   bool Take(FormState state) {
     bool written = false;
-    toolkit_.modal = [&](headless::Form& form) {
+    toolkit_.modal = [&](controls::Form& form) {
       const HWND window = GetAncestor(win32::AreaOf(form), GA_ROOT);
       written = Write(std::string(NameOf(state)), window);
       if (state != FormState::Amounts) return;

@@ -6,12 +6,12 @@
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Choices.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/win32/BoxWindow.h"
+#include "controls/Choices.h"
+#include "controls/TextBox.h"
+#include "toolkits/win32/controls/BoxWindow.h"
 #include "toolkits/win32/Dump.h"
-#include "toolkits/win32/HintWindow.h"
-#include "toolkits/win32/Text.h"
+#include "toolkits/win32/controls/HintWindow.h"
+#include "toolkits/win32/window/Text.h"
 
 /// The year-by-year form as a person meets it: a modal window worked by keys.
 namespace brivane::test {
@@ -45,7 +45,7 @@ class ScenarioForm : public testing::Test {
     for (const int row : disabled_) formulier.SetDisableJaar(static_cast<std::int16_t>(row), true);
     formulier.Invoeren(scenario_, static_cast<std::int16_t>(rows), 0, 0, false, korting, 0);
     bool ran = false;
-    toolkit_.modal = [&](headless::Form& form) {
+    toolkit_.modal = [&](controls::Form& form) {
       window_ = GetAncestor(win32::AreaOf(form), GA_ROOT);
       stage_.Settle();
       script();
@@ -58,11 +58,11 @@ class ScenarioForm : public testing::Test {
     form_ = nullptr;
   }
 
-  [[nodiscard]] headless::Form& Form() { return dynamic_cast<headless::Form&>(form_->Form()); }
-  [[nodiscard]] headless::AnyControl& Cell(std::string_view name, int row = frame::kNoIndex) {
+  [[nodiscard]] controls::Form& Form() { return dynamic_cast<controls::Form&>(form_->Form()); }
+  [[nodiscard]] controls::AnyControl& Cell(std::string_view name, int row = frame::kNoIndex) {
     return *Form().Find(name, row);
   }
-  [[nodiscard]] double Amount(int row) { return static_cast<headless::TextBox&>(Cell("txtBedrag", row)).Number(); }
+  [[nodiscard]] double Amount(int row) { return static_cast<controls::TextBox&>(Cell("txtBedrag", row)).Number(); }
   [[nodiscard]] static std::string Typed() { return win32::Narrow(win32::TextOf(GetFocus())); }
   [[nodiscard]] static std::string Reason() {
     return win32::Narrow(dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(GetFocus())).Reason());
@@ -308,7 +308,7 @@ TEST_F(ScenarioForm, AFormLargerThanTheScreenScrollsToWhatHasTheFocus) {
         EXPECT_LE(window.bottom - window.top, screen.bottom - screen.top);
         EXPECT_NE(GetWindowLongPtrW(window_, GWL_STYLE) & WS_VSCROLL, 0);
         for (const char* name : {"txtBedrag", "cmdOK"}) {
-          headless::AnyControl& control = name == std::string("cmdOK") ? Cell(name) : Cell(name, 80);
+          controls::AnyControl& control = name == std::string("cmdOK") ? Cell(name) : Cell(name, 80);
           SetFocus(Shown(control).Handle());
           RECT place{};
           GetWindowRect(GetFocus(), &place);
@@ -374,7 +374,7 @@ TEST_F(ScenarioForm, EightyRowsShowToThePixelWhatTheControlsHold) {
         const auto count = [](HWND, LPARAM counted) -> BOOL { return ++*reinterpret_cast<int*>(counted), TRUE; };
         EnumChildWindows(window_, count, reinterpret_cast<LPARAM>(&windows));
         RecordProperty("windows", windows);
-        const auto held = headless::DumpAll(Form());
+        const auto held = controls::DumpAll(Form());
         const auto shown = win32::DumpShown(Form(), toolkit_);
         ASSERT_EQ(shown.size(), held.size());
         for (std::size_t i = 0; i < held.size(); ++i) EXPECT_TRUE(shown[i] == held[i]) << held[i].name;

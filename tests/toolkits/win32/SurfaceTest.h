@@ -9,10 +9,10 @@
 
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/entry/Content.h"
-#include "toolkits/headless/TextBox.h"
-#include "toolkits/win32/BoxWindow.h"
-#include "toolkits/win32/Text.h"
+#include "controls/entry/Content.h"
+#include "controls/TextBox.h"
+#include "toolkits/win32/controls/BoxWindow.h"
+#include "toolkits/win32/window/Text.h"
 #include "toolkits/win32/Toolkit.h"
 
 namespace brivane::test {
@@ -28,8 +28,8 @@ class SurfaceTest : public testing::Test {
     };
   }
 
-  [[nodiscard]] headless::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
-    return *headless::Surface::Of(*surface_).Find(name, index);
+  [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
+    return *controls::Surface::Of(*surface_).Find(name, index);
   }
   [[nodiscard]] HWND WindowOf(std::string_view name, int index = frame::kNoIndex) {
     return Shown(Control(name, index)).Handle();
@@ -37,14 +37,14 @@ class SurfaceTest : public testing::Test {
   template <class Window = win32::BoxWindow> [[nodiscard]] Window& Entry(std::string_view name) {
     return dynamic_cast<Window&>(Shown(Control(name)));
   }
-  [[nodiscard]] headless::TextBox& Box(std::string_view name) { return static_cast<headless::TextBox&>(Control(name)); }
+  [[nodiscard]] controls::TextBox& Box(std::string_view name) { return static_cast<controls::TextBox&>(Control(name)); }
   [[nodiscard]] std::string Typed(std::string_view name) { return win32::Narrow(win32::TextOf(WindowOf(name))); }
   [[nodiscard]] std::string Reason(std::string_view name) { return win32::Narrow(Entry(name).Reason()); }
   /// Notes each Validation of a box; refuses while `refuse_` stands.
   void Follow(std::string_view name) {
-    headless::TextBox& box = Box(name);
+    controls::TextBox& box = Box(name);
     box.Validation.Connect([this, &box](bool& Cancel) {
-      log_.push_back(box.ElementName() + " = " + entry::ShowContent(box.Content(), box.Format()));
+      log_.push_back(box.ElementName() + " = " + controls::ShowContent(box.Content(), box.Format()));
       Cancel = refuse_;
     });
   }

@@ -4,9 +4,9 @@
 
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/headless/Form.h"
-#include "toolkits/win32/ControlWindow.h"
-#include "toolkits/win32/Text.h"
+#include "controls/Form.h"
+#include "toolkits/win32/window/ControlWindow.h"
+#include "toolkits/win32/window/Text.h"
 #include "toolkits/win32/Toolkit.h"
 
 #include <commctrl.h>
@@ -38,9 +38,9 @@ class Texts : public testing::TestWithParam<double> {
  protected:
   Texts() { toolkit_.SetScale(GetParam()); }
 
-  void ExpectWhole(headless::Surface& surface) {
+  void ExpectWhole(controls::Surface& surface) {
     for (const auto& control : surface.Made()) {
-      if (control->ControlKind() == Kind::Surface) ExpectWhole(static_cast<headless::Surface&>(*control));
+      if (control->ControlKind() == Kind::Surface) ExpectWhole(static_cast<controls::Surface&>(*control));
       const HWND window = Shown(*control).Handle();
       if (IsWindowVisible(window) == FALSE) continue;
       SCOPED_TRACE(control->ElementName());
@@ -135,7 +135,7 @@ TEST_P(Texts, OfTheEditorStandWhole) {
     looked_ = 0;
     EditorScene scene(toolkit_, state);
     stage_.Show(scene.Surface());
-    ExpectWhole(headless::Surface::Of(scene.Surface()));
+    ExpectWhole(controls::Surface::Of(scene.Surface()));
     EXPECT_GE(looked_, 58);
   }
 }
@@ -145,7 +145,7 @@ TEST_P(Texts, OfTheFormStandWhole) {
        {FormState::Amounts, FormState::PercentagesAndDiscount, FormState::Growth, FormState::Bridging}) {
     SCOPED_TRACE(NameOf(state));
     looked_ = 0;
-    toolkit_.modal = [&](headless::Form& form) { ExpectWhole(form); };
+    toolkit_.modal = [&](controls::Form& form) { ExpectWhole(form); };
     ShowForm(toolkit_, state, nullptr);
     EXPECT_GT(looked_, 50);
   }

@@ -10,10 +10,10 @@ class Win32UnderTest final : public ToolkitUnderTest {
  public:
   [[nodiscard]] win32::Toolkit& Toolkit() override { return toolkit_; }
   void Settle() override { stage_.Settle(); }
-  void Show(headless::Surface& surface) override { stage_.Show(surface.HostSurface()); }
-  void Gesture(headless::AnyControl& control, const headless::Action& action) override { Do(control, action); }
-  void WhileOpen(std::function<void(headless::Form&)> script) override { toolkit_.modal = std::move(script); }
-  [[nodiscard]] std::vector<headless::ControlDump> Shown(const headless::Surface& surface) override {
+  void Show(controls::Surface& surface) override { stage_.Show(surface.HostSurface()); }
+  void Gesture(controls::AnyControl& control, const controls::Action& action) override { Do(control, action); }
+  void WhileOpen(std::function<void(controls::Form&)> script) override { toolkit_.modal = std::move(script); }
+  [[nodiscard]] std::vector<controls::ControlDump> Shown(const controls::Surface& surface) override {
     return win32::DumpShown(surface, toolkit_);
   }
 

@@ -1,0 +1,19 @@
+#include "app/program/Program.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include "app/program/DutchTranslator.h"
+
+namespace brivane::dossier {
+
+void StelProgrammaIn(QApplication& programma) {
+  QApplication::setOrganizationName(QStringLiteral("Brivane"));
+  QApplication::setApplicationName(QStringLiteral("dossier"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Dossier"));
+  QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
+  QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  QApplication::installTranslator(new Nederlands(&programma));
+}
+
+}  // namespace brivane::dossier

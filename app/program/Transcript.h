@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QFile>
+#include <QJsonObject>
+#include <QString>
+
+#include "dossier/model/Dossier.h"
+#include "controls/Action.h"
+#include "controls/Control.h"
+
+namespace brivane::dossier {
+
+/// Writes what happens in a session as JSON, one object a line: actions, messages, events, and after every
+/// change what is in the file now and was not before.
+class Transcript final : public controls::ActionListener {
+ public:
+  /// Replaces the file. `dossier` is the case whose changes are told.
+  Transcript(const QString& bestand, const Dossier& dossier);
+  [[nodiscard]] bool IsOpen() const { return bestand_.isOpen(); }
+
+  void Schrijf(const QJsonObject& regel);
+  /// The case was stored: tells the fields that differ from the last time.
+  void Opgeslagen();
+
+  void Before(controls::AnyControl&, const controls::Action&) override {}
+  void After(controls::AnyControl& control, const controls::Action& action,
+             std::optional<controls::Outcome> outcome) override;
+
+ private:
+  QFile bestand_;
+  const Dossier& dossier_;
+  QJsonObject velden_;
+};
+
+}  // namespace brivane::dossier

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "dossier/model/Gegevens.h"
+#include "host/Color.h"
+#include "host/Date.h"
+#include "host/controls/Desktop.h"
+#include "replay/document/Json.h"
+#include "replay/instrument/Members.h"
+#include "controls/Action.h"
+
+/// A session of edits as data: the case that it starts from, the faults of the host, and the steps.
+namespace brivane::replay {
+
+/// The lines that a transcript can hold besides steps and dumps.
+enum class Log : std::uint8_t { Trace, Writes, Calls, Events, Messages, Results, Reads };
+
+struct FaultPlan {
+  Member member;
+  Op op;
+  std::uint32_t nth;  ///< from 1, counted from the start of the session
+  std::int32_t number;
+  std::string description;
+  std::string source;
+};
+
+/// Where an action or a check goes.
+enum class Target : std::uint8_t { Editor, Toelichting };
+
+/// Binds the editor.
+struct BindStep {
+  std::int16_t Len_Id;
+  std::int16_t Vrij_Id;
+};
+/// The host's check.
+struct ValidationStep {
+  Target target;
+  std::int32_t ControleNr;
+  bool Cancel;
+};
+struct BackColorStep {
+  host::Color color;
+};
+/// The host shows or hides the proposals frame.
+struct BeeindigenStep {
+  bool visible;
+};
+/// The container sizes the editor or the embedded control; twips.
+struct ResizeStep {
+  Target target;
+  float width;
+  float height;
+};
+/// A person acts on a control. A list's entry may be picked by its text, which is looked up when the step runs.
+struct ActStep {
+  std::string control;
+  std::optional<int> index;
+  std::variant<controls::Action, std::string> action;
+};
+/// Opens the year-by-year form by itself on a column's amount.
+struct ScenarioStep {
+  std::int16_t Len_Id;
+  std::int16_t Vrij_Id;
+  std::int16_t AantalJaar;
+  std::int32_t Labeltype;
+  std::int32_t Anv_Leeftijd;
+  bool LooptijdExtra;
+  bool In_RenteKorting;
+  double Bd_MaxOpname;
+  std::int16_t SoortScenario;
+  std::vector<std::int16_t> DisableJaar;
+};
+/// The form's close box.
+struct CloseStep {};
+struct DumpStep {};
+
+struct Step {
+  std::string place;  ///< in the document: `steps[3].modal[0]`
+  std::string name;   ///< as written under `do`
+  std::variant<BindStep, ValidationStep, BackColorStep, BeeindigenStep, ResizeStep, ActStep, ScenarioStep, CloseStep,
+               DumpStep>
+      what;
+  std::vector<host::MessageAnswer> answers;
+  std::vector<Step> pending;
+  std::vector<Step> modal;
+};
+
+/// Where the host takes the header texts of a column from.
+enum class Headers : std::uint8_t {
+  Record,    ///< the fields `Weergave` and `Kopregel`
+  Computed,  ///< worded from the column, as the reference host does it
+};
+
+struct Document {
+  host::Date today;  ///< no date: the system's
+  std::string title = "Dossier";
+  std::string locale = "nl_NL";
+  float twipsPerPixelX = 15;
+  float twipsPerPixelY = 15;
+  Headers headers = Headers::Record;
+  std::set<Log> log = {Log::Trace, Log::Writes, Log::Calls, Log::Events, Log::Messages, Log::Results};
+  dossier::DossierGegevens dossier;
+  std::vector<FaultPlan> faults;
+  std::vector<Step> steps;
+};
+
+/// Reads and checks a document, all of it but what only a running session can tell: whether a list has the
+/// entry that a step picks, and whether the form has the row that a step names. Throws BadInput.
+[[nodiscard]] Document ReadDocument(std::string_view text);
+
+/// A document as text that reads back to the same one, each step on a line. What a step does decides its
+/// name: `Step::name` and `Step::place` may be left empty.
+[[nodiscard]] std::string WriteDocument(const Document& document);
+
+/// The records of a document as JSON, every field written out. Of a column, the host's keys and the
+/// members of its proposals are no part of a document.
+[[nodiscard]] Json ToJson(const dossier::BedragGegevens& bedrag);
+[[nodiscard]] Json ToJson(const dossier::KolomGegevens& kolom);
+[[nodiscard]] Json ToJson(const dossier::DossierGegevens& dossier);
+/// "YYYY-MM-DD", or 0 for none.
+[[nodiscard]] Json ToJson(host::Date date);
+
+}  // namespace brivane::replay

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "dossier/model/Gegevens.h"
+#include "replay/document/Reading.h"
+
+namespace brivane::replay {
+
+/// Reads `dossier`; what is left out has its default. Throws BadInput.
+[[nodiscard]] dossier::DossierGegevens ReadDossier(const Value& value);
+
+}  // namespace brivane::replay

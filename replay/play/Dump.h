@@ -1,0 +1,21 @@
+#pragma once
+
+#include <vector>
+
+#include "host/model/BedragObject.h"
+#include "host/model/VrijeKolomItem.h"
+#include "replay/document/Json.h"
+#include "controls/Dump.h"
+
+/// The state of controls and records as the dumps of a transcript show it.
+namespace brivane::replay {
+
+/// Every control on a surface, by name.
+[[nodiscard]] Json DumpControls(const controls::Surface& surface);
+[[nodiscard]] Json DumpControls(const std::vector<controls::ControlDump>& dump);
+/// A free column of any host, as in a document.
+[[nodiscard]] Json DumpRecord(host::VrijeKolomItem& kolom);
+/// An amount object of any host.
+[[nodiscard]] Json DumpRecord(host::BedragObject& bedrag);
+
+}  // namespace brivane::replay

@@ -1,0 +1,159 @@
+#include "replay/play/MemorySubject.h"
+
+#include <utility>
+
+#include "scenario/frmScenario.h"
+#include "controls/ListBox.h"
+#include "frame/GroupedNumber.h"
+#include "toolkits/memory/Toolkit.h"
+#include "vrijekolom/Ontwerp.h"
+#include "vrijekolom/VrijeKolom.h"
+
+namespace brivane::replay {
+
+namespace {
+
+/// A screen's part that is the same for the editor and for a form.
+template <class Interface>
+class OnSurface : public Interface {
+ public:
+  [[nodiscard]] std::optional<ControlState> Find(const std::string& name, std::optional<int> index) override {
+    const controls::AnyControl* const control = Control(name, index);
+    if (control == nullptr) return std::nullopt;
+    return ControlState{control->ControlKind(), control->Reachable()};
+  }
+  [[nodiscard]] std::vector<std::string> Entries(const std::string& name) override {
+    std::vector<std::string> texts;
+    for (const auto& entry : static_cast<const controls::ListBox&>(*Control(name, {})).Entries())
+      texts.push_back(entry.text);
+    return texts;
+  }
+  controls::Outcome Perform(const std::string& name, std::optional<int> index,
+                            const controls::Action& action) override {
+    return Control(name, index)->Perform(action);
+  }
+  [[nodiscard]] std::vector<controls::ControlDump> Dump() override { return controls::DumpAll(Surface()); }
+
+ protected:
+  [[nodiscard]] virtual controls::Surface& Surface() = 0;
+  [[nodiscard]] controls::AnyControl* Control(const std::string& name, std::optional<int> index) {
+    return Surface().Find(name, index.value_or(frame::kNoIndex));
+  }
+};
+
+class MemoryForm final : public OnSurface<FormScreen> {
+ public:
+  MemoryForm(controls::Form& window, const frmScenario& form) : window_(window), form_(form) {}
+
+  [[nodiscard]] bool IsClosed() override { return window_.IsUnloaded(); }
+  void Close() override { window_.Perform(controls::Close{}); }
+  [[nodiscard]] host::Color BackColor() override { return form_.BackColor(); }
+  [[nodiscard]] std::int16_t AantalJaar() override { return form_.AantalJaar(); }
+  [[nodiscard]] std::shared_ptr<host::BedragObject> Scenario() override { return form_.Scenario(); }
+
+ protected:
+  [[nodiscard]] controls::Surface& Surface() override { return window_; }
+
+ private:
+  controls::Form& window_;
+  const frmScenario& form_;
+};
+
+class MemorySubject final : public OnSurface<Subject> {
+ public:
+  MemorySubject(const Document& document, InstrumentedHost& host, Audience& audience)
+      : host_(host), audience_(audience) {
+    Equip(document);
+    surface_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
+    editor_ = std::make_unique<VrijeKolom>(*surface_, toolkit_, host_.Factories());
+    Listen();
+  }
+
+  void SetApplication(std::int16_t Len_Id, std::int16_t Vrij_Id) override {
+    editor_->SetApplication(host_.Application(), Len_Id, Vrij_Id);
+  }
+  bool Validation(Target target, bool cancel, std::int32_t ControleNr) override {
+    if (target == Target::Editor)
+      editor_->Validation(cancel, ControleNr);
+    else
+      editor_->Toelichting().Validation(cancel, ControleNr);
+    return cancel;
+  }
+  void SetBackColor(host::Color color) override { editor_->SetBackColor(color); }
+  void SetBeeindigenZichtbaar(bool visible) override { editor_->SetBeeindigenZichtbaar(visible); }
+  void Size(Target target, float width, float height) override {
+    controls::Surface* surface = &Surface();
+    if (target == Target::Toelichting) surface = static_cast<controls::Surface*>(surface->Find("Toelichting"));
+    surface->Size({width}, {height});
+  }
+  void ShowScenario(const ScenarioStep& step, const std::shared_ptr<host::BedragObject>& bedrag) override {
+    frmScenario form(toolkit_);
+    form.SetSoortScenario(step.SoortScenario);
+    for (const std::int16_t year : step.DisableJaar) form.SetDisableJaar(year, true);
+    form.Invoeren(bedrag, step.AantalJaar, step.Labeltype, step.Anv_Leeftijd, step.LooptijdExtra, step.In_RenteKorting,
+                  step.Bd_MaxOpname);
+    opening_ = &form;
+    form.ShowModal(nullptr);
+  }
+
+  [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> Item() override { return editor_->Item(); }
+  [[nodiscard]] bool Filling() override { return editor_->Filling(); }
+  [[nodiscard]] bool Gewijzigd() override { return editor_->Gewijzigd(); }
+  [[nodiscard]] VrijeKolom* Editor() override { return editor_.get(); }
+
+ protected:
+  [[nodiscard]] controls::Surface& Surface() override { return controls::Surface::Of(*surface_); }
+
+ private:
+  void Equip(const Document& document) {
+    memory::Desktop& desktop = toolkit_.Desktop();
+    desktop.today = document.today;
+    desktop.title = document.title;
+    desktop.twipsPerPixelX = document.twipsPerPixelX;
+    desktop.twipsPerPixelY = document.twipsPerPixelY;
+    desktop.groupSeparator = frame::GroupSeparator(document.locale);
+    desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
+      return audience_.OnMessage(title, text, style);
+    };
+    desktop.pending = [this] { audience_.OnPending(); };
+    toolkit_.focusMoved = [this](controls::AnyControl& control) { audience_.OnFocus(control.ElementName()); };
+    toolkit_.modal = [this](controls::Form& window) { RunModal(window); };
+  }
+
+  void Listen() {
+    editor_->RefreshTopDisplay.Connect([this](const std::string& text) { audience_.OnRefreshTopDisplay(text); });
+    editor_->HeightChanged.Connect([this] { audience_.OnHeightChanged(); });
+    editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
+    host::Event<>& changed = editor_->Toelichting().Changed;
+    changed.Connect([this, handOn = changed.Listener()] {
+      audience_.OnToelichtingChanged();
+      handOn();
+    });
+  }
+
+  void RunModal(controls::Form& window) {
+    MemoryForm form(window, *std::exchange(opening_, nullptr));
+    host::Event<>& unloaded = window.host::Form::Unloaded;
+    unloaded.Connect([this, handOn = unloaded.Listener()] {
+      audience_.OnClosed();
+      if (handOn) handOn();
+    });
+    audience_.OnShown(form);
+    form.Close();
+  }
+
+  InstrumentedHost& host_;
+  Audience& audience_;
+  memory::Toolkit toolkit_;
+  std::unique_ptr<host::Surface> surface_;
+  std::unique_ptr<VrijeKolom> editor_;
+  frmScenario* opening_ = nullptr;  ///< the form that is about to be shown
+};
+
+}  // namespace
+
+std::unique_ptr<Subject> MakeMemorySubject(const Document& document, InstrumentedHost& host, Audience& audience) {
+  return std::make_unique<MemorySubject>(document, host, audience);
+}
+
+}  // namespace brivane::replay

@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include "frame/Calendar.h"
+#include "frame/Dates.h"
+
+namespace brivane::frame {
+namespace {
+
+struct Accepted {
+  const char* typed;
+  frame::YearMonthDay date;
+};
+
+struct Refused {
+  const char* typed;
+  const char* reason;
+};
+
+TEST(TypedDate, IsReadInEveryUsualShape) {
+  const Accepted kTable[] = {
+      {"01-04-2031", {2031, 4, 1}}, {"1-4-2031", {2031, 4, 1}},   {"1.4.2031", {2031, 4, 1}},
+      {"1/4/2031", {2031, 4, 1}},   {"1 4 2031", {2031, 4, 1}},   {"01042031", {2031, 4, 1}},
+      {"010431", {2031, 4, 1}},     {"1-4-31", {2031, 4, 1}},     {" 1-4-31 ", {2031, 4, 1}},
+      {"29-2-2028", {2028, 2, 29}}, {"31129999", {9999, 12, 31}},
+  };
+  for (const Accepted& row : kTable) {
+    const Reading<host::Date> reading = ReadDate(row.typed);
+    ASSERT_FALSE(reading.IsRefused() || reading.IsEmpty()) << row.typed << ": " << reading.Reason();
+    EXPECT_EQ(frame::Split(*reading), row.date) << row.typed;
+  }
+}
+
+TEST(TypedDate, PutsAYearOfTwoDigitsBetween1980And2079) {
+  const Accepted kTable[] = {
+      {"1-1-80", {1980, 1, 1}}, {"1-1-99", {1999, 1, 1}}, {"1-1-00", {2000, 1, 1}}, {"1-1-79", {2079, 1, 1}}};
+  for (const Accepted& row : kTable) EXPECT_EQ(frame::Split(*ReadDate(row.typed)), row.date) << row.typed;
+}
+
+TEST(TypedDate, MayBeEmpty) {
+  EXPECT_TRUE(ReadDate("").IsEmpty());
+  EXPECT_TRUE(ReadDate("  ").IsEmpty());
+}
+
+TEST(TypedDate, IsRefusedWithTheReason) {
+  const char* const expected = "Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031.";
+  const Refused kTable[] = {
+      {"morgen", expected},
+      {"1-4", expected},
+      {"1-4-203", expected},
+      {"1-4-20310", expected},
+      {"0104", expected},
+      {"01042", expected},
+      {"1-4-2031-", expected},
+      {"--", expected},
+      {"001-4-2031", expected},
+      {"2031-04-01", expected},
+      {"1-13-2031", "Maand 13 bestaat niet. Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031."},
+      {"1-0-2031", "Maand 0 bestaat niet. Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031."},
+      {"31-4-2031", "31 april 2031 bestaat niet."},
+      {"29-2-2031", "29 februari 2031 bestaat niet."},
+      {"0-1-2031", "0 januari 2031 bestaat niet."},
+      {"30-12-1899", "Vul een jaar vanaf 1900 in."},
+  };
+  for (const Refused& row : kTable) EXPECT_EQ(ReadDate(row.typed).Reason(), row.reason) << row.typed;
+}
+
+TEST(ShownDate, HasTwoDigitsForDayAndMonth) {
+  EXPECT_EQ(ShowDate(frame::MakeDate({2031, 4, 1})), "01-04-2031");
+  EXPECT_EQ(ShowDate(host::kNoDate), "");
+}
+
+}  // namespace
+}  // namespace brivane::frame

@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+#include "frame/Numbers.h"
+
+namespace brivane::frame {
+namespace {
+
+struct Accepted {
+  const char* typed;
+  double value;
+};
+
+struct Refused {
+  const char* typed;
+  const char* reason;
+};
+
+TEST(Amount, AcceptsWhatHasOneMeaning) {
+  const Accepted kTable[] = {
+      {"0", 0},
+      {"12", 12},
+      {"12,5", 12.5},
+      {"12,50", 12.5},
+      {"1.234,56", 1234.56},
+      {"1234,56", 1234.56},
+      {"1.500", 1500},
+      {"15.000.000", 1.5e7},
+      {"  7,25 ", 7.25},
+      {",50", 0.5},
+      {"€ 12,00", 12},
+      {"€12", 12},
+      {"12,-", 12},
+      {"12,--", 12},
+      {"-3,10", -3.1},
+      {"€ -3,10", -3.1},
+      {"-€ 3,10", -3.1},
+      {"\u22123", -3},
+      {"\u00A01.000,00\u00A0", 1000},
+      {"007", 7},
+      {"999999999999,99", 999999999999.99},
+  };
+  for (const Accepted& row : kTable) {
+    const Reading<double> reading = ReadAmount(row.typed);
+    ASSERT_FALSE(reading.IsRefused() || reading.IsEmpty()) << row.typed << ": " << reading.Reason();
+    EXPECT_EQ(*reading, row.value) << row.typed;
+  }
+}
+
+TEST(Amount, ReadsNothingFromABlankText) {
+  for (const char* typed : {"", "   ", "\t", "\u00A0"}) EXPECT_TRUE(ReadAmount(typed).IsEmpty()) << '"' << typed << '"';
+}
+
+TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
+  const Refused kTable[] = {
+      {"12.50", "Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen."},
+      {"12.5", "Bedoelt u 12,50 of 125? Typ een komma voor de decimalen."},
+      {"1234.56", "Bedoelt u 1.234,56 of 123.456? Typ een komma voor de decimalen."},
+      {"1.234.56", "Bedoelt u 1.234,56 of 123.456? Typ een komma voor de decimalen."},
+      {"0.500", "Bedoelt u 0,50 of 500? Typ een komma voor de decimalen."},
+      {"12.3456", "De punt staat niet tussen duizendtallen. Bedoelt u 123.456?"},
+      {"1234.567", "De punt staat niet tussen duizendtallen. Bedoelt u 1.234.567?"},
+      {"12.", "De punt staat niet tussen duizendtallen. Bedoelt u 12?"},
+      {".50", "De punt staat niet tussen duizendtallen. Bedoelt u 50?"},
+  };
+  for (const Refused& row : kTable) EXPECT_EQ(ReadAmount(row.typed).Reason(), row.reason) << row.typed;
+}
+
+TEST(Amount, RefusesMalformedTextAndSaysWhatIsExpected) {
+  const std::string expected = "Vul een bedrag in, bijvoorbeeld 1.234,56.";
+  for (const char* typed :
+       {"abc", "12a", "1,2,3", "12,", ",", ".", "-", "€", "1 500", "1,234.56", "--5", "1.23,45", "5-", "1e3"})
+    EXPECT_EQ(ReadAmount(typed).Reason(), expected) << typed;
+  EXPECT_EQ(ReadAmount("12,345").Reason(), "Een bedrag heeft ten hoogste twee cijfers achter de komma.");
+  EXPECT_EQ(ReadAmount("1000000000000").Reason(), "Dit getal is te groot.");
+}
+
+TEST(Amount, ShowsGroupsAndTwoDecimals) {
+  const Accepted kTable[] = {
+      {"0,00", 0},           {"0,00", -0.001}, {"12,50", 12.5},    {"1.234,56", 1234.56},
+      {"1.000.000,00", 1e6}, {"-3,10", -3.1},  {"999,99", 999.99}, {"1.000,00", 999.995},
+      {"0,13", 0.125},       {"1,01", 1.005},  {"-0,01", -0.005},  {"100,00", 99.999},
+  };
+  for (const Accepted& row : kTable) EXPECT_EQ(ShowAmount(row.value), row.typed) << row.value;
+  EXPECT_EQ(ShowAmount(std::numeric_limits<double>::infinity()), "");
+}
+
+TEST(Amount, ReadsBackWhatItShows) {
+  for (const double amount : {0.0, 0.01, 12.5, 1500.0, 1234567.89, -42.42})
+    EXPECT_EQ(*ReadAmount(ShowAmount(amount)), amount);
+}
+
+TEST(Number, TakesUpToFourDecimals) {
+  const Accepted kTable[] = {{"3,7", 3.7}, {"3,1234", 3.1234}, {"1.500", 1500}, {"-0,5", -0.5}, {"100", 100}};
+  for (const Accepted& row : kTable) EXPECT_EQ(*ReadNumber(row.typed), row.value) << row.typed;
+  EXPECT_EQ(ReadNumber("3,12345").Reason(), "Een getal heeft ten hoogste vier cijfers achter de komma.");
+  EXPECT_EQ(ReadNumber("3.7").Reason(), "Bedoelt u 3,7 of 37? Typ een komma voor de decimalen.");
+  EXPECT_EQ(ReadNumber("€ 3").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
+  EXPECT_EQ(ReadNumber("3,-").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
+}
+
+TEST(Number, ShowsNoMoreDecimalsThanItHas) {
+  const Accepted kTable[] = {{"0", 0},
+                             {"3,7", 3.7},
+                             {"3,7", static_cast<double>(3.7F)},
+                             {"33,3333", 100.0 / 3},
+                             {"-0,5", -0.5},
+                             {"1.234,5", 1234.5},
+                             {"0", 0.00001},
+                             {"100", 99.99996}};
+  for (const Accepted& row : kTable) EXPECT_EQ(ShowNumber(row.value), row.typed) << row.value;
+}
+
+TEST(Whole, TakesWholeNumbersAlone) {
+  const Accepted kTable[] = {{"0", 0}, {"14", 14}, {"-2", -2}, {"1.500", 1500}, {"2147483647", 2147483647}};
+  for (const Accepted& row : kTable)
+    EXPECT_EQ(*ReadWhole(row.typed), static_cast<std::int32_t>(row.value)) << row.typed;
+  EXPECT_TRUE(ReadWhole(" ").IsEmpty());
+  EXPECT_EQ(ReadWhole("1,5").Reason(), "Vul een geheel getal in, zonder cijfers achter de komma.");
+  EXPECT_EQ(ReadWhole("twee").Reason(), "Vul een geheel getal in, zonder cijfers achter de komma.");
+  EXPECT_EQ(ReadWhole("12.5").Reason(), "De punt staat niet tussen duizendtallen. Bedoelt u 125?");
+  EXPECT_EQ(ReadWhole("2147483648").Reason(), "Dit getal is te groot.");
+  EXPECT_EQ(ShowWhole(1500), "1500");
+}
+
+}  // namespace
+}  // namespace brivane::frame

@@ -1,0 +1,30 @@
+#include "toolkits/memory/Desktop.h"
+
+#include <chrono>
+#include <ctime>
+
+#include "frame/Calendar.h"
+#include "frame/GroupedNumber.h"
+
+namespace brivane::memory {
+
+host::MessageAnswer Desktop::MessageBox(const std::string& boxTitle, const std::string& text,
+                                        host::MessageStyle style) {
+  if (answer) return answer(boxTitle, text, style);
+  return style == host::MessageStyle::YesNoQuestion ? host::MessageAnswer::No : host::MessageAnswer::Ok;
+}
+
+host::Date Desktop::Today() const {
+  if (!today.IsNone()) return today;
+  const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+  const std::tm local = *std::localtime(&now);
+  return frame::MakeDate({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday});
+}
+
+void Desktop::DoPendingEvents() {
+  if (pending) pending();
+}
+
+std::string Desktop::FormatWhole(double number) const { return frame::FormatGrouped(number, groupSeparator); }
+
+}  // namespace brivane::memory

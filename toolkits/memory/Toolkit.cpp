@@ -1,0 +1,11 @@
+#include "toolkits/memory/Toolkit.h"
+
+#include "toolkits/memory/TextMeasure.h"
+
+namespace brivane::memory {
+
+host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
+  return TextWidth(text, design.fontSize, bold);
+}
+
+}  // namespace brivane::memory

@@ -1,0 +1,31 @@
+#include "toolkits/qt/peers/BoxPeer.h"
+
+#include "toolkits/qt/widgets/DateBox.h"
+
+namespace brivane::qt {
+
+using controls::Aspect;
+
+namespace {
+
+EntryBox* MakeBox(frame::Format format, QWidget* parent) {
+  return format == frame::Format::Date ? new DateBox(parent) : new EntryBox(parent);
+}
+
+}  // namespace
+
+BoxPeer::BoxPeer(controls::TextBox& box, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(box, toolkit, MakeBox(box.Format(), container)), box_(box), link_(Entry(), toolkit) {
+  link_.Tie(box);
+}
+
+void BoxPeer::Refresh(Aspect aspect) {
+  if (Widget() == nullptr) return;
+  switch (aspect) {
+    case Aspect::Value: link_.ShowContent(); break;
+    case Aspect::Locked: Entry().setReadOnly(box_.Locked()); break;
+    default: WidgetPeer::Refresh(aspect);
+  }
+}
+
+}  // namespace brivane::qt

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "controls/TextBox.h"
+#include "toolkits/qt/peers/BoxLink.h"
+#include "toolkits/qt/peers/Peers.h"
+
+namespace brivane::qt {
+
+/// Shows a text box by a line edit of its own.
+class BoxPeer final : public WidgetPeer {
+ public:
+  BoxPeer(controls::TextBox& box, qt::Toolkit& toolkit, QWidget* container);
+
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  [[nodiscard]] EntryBox& Entry() const { return static_cast<EntryBox&>(*Widget()); }
+
+  controls::TextBox& box_;
+  BoxLink link_;
+};
+
+}  // namespace brivane::qt

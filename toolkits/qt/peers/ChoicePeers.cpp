@@ -1,0 +1,169 @@
+#include "toolkits/qt/peers/ChoicePeers.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QWheelEvent>
+
+#include "controls/Surface.h"
+#include "toolkits/qt/Text.h"
+
+namespace brivane::qt {
+
+using controls::Aspect;
+
+namespace {
+
+JaNeeToggle::Answer AnswerOf(int value) {
+  return value == host::kJa ? JaNeeToggle::Answer::Ja : JaNeeToggle::Answer::Nee;
+}
+int ValueOf(JaNeeToggle::Answer answer) {
+  return answer == JaNeeToggle::Answer::Ja ? host::kJa : host::kNee;
+}
+
+/// The options of one control array are a group, whatever else stands in their frame.
+QButtonGroup& GroupOf(QWidget& container, const QString& array) {
+  auto* group = container.findChild<QButtonGroup*>(array, Qt::FindDirectChildrenOnly);
+  if (group == nullptr) {
+    group = new QButtonGroup(&container);
+    group->setObjectName(array);
+  }
+  return *group;
+}
+
+/// Turning the wheel over a list that has no focus scrolls the window and not the list.
+class Combo final : public QComboBox {
+ public:
+  explicit Combo(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus())
+      QComboBox::wheelEvent(event);
+    else
+      event->ignore();
+  }
+};
+
+}  // namespace
+
+TogglePeer::TogglePeer(controls::JaNee& toggle, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(toggle, toolkit, new JaNeeToggle(container)), toggle_(toggle) {
+  static_cast<JaNeeToggle*>(Widget())->SetOnPick(
+      [this](JaNeeToggle::Answer answer) { Toolkit().Act(toggle_, controls::Toggle{ValueOf(answer)}, *Widget()); });
+  Refresh(Aspect::Value);
+}
+
+void TogglePeer::Refresh(Aspect aspect) {
+  if (aspect != Aspect::Value) return WidgetPeer::Refresh(aspect);
+  if (Widget() != nullptr) static_cast<JaNeeToggle*>(Widget())->Show(AnswerOf(toggle_.Value()));
+}
+
+OptionPeer::OptionPeer(controls::OptionButton& option, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(option, toolkit, new QRadioButton(container)), option_(option) {
+  auto* const button = static_cast<QRadioButton*>(Widget());
+  GroupOf(*container, ToQt(option.DesignName())).addButton(button);
+  Refresh(Aspect::Caption);
+  Refresh(Aspect::Value);
+  QObject::connect(button, &QRadioButton::toggled, button, [this](bool selected) {
+    if (Showing() || !selected) return;
+    if (!Toolkit().Act(option_, controls::Select{}, *Widget())) ShowGroup();
+  });
+}
+
+void OptionPeer::Refresh(Aspect aspect) {
+  auto* const button = static_cast<QRadioButton*>(Widget());
+  if (button == nullptr) return;
+  if (aspect == Aspect::Value) {
+    Show([&] {
+      // Qt lets no one deselect the selected button of an exclusive group.
+      button->group()->setExclusive(option_.Value());
+      button->setChecked(option_.Value());
+      button->group()->setExclusive(true);
+    });
+  } else if (aspect == Aspect::Caption) {
+    button->setText(ShownCaption(option_.Row(), option_.Caption()));
+  } else {
+    WidgetPeer::Refresh(aspect);
+  }
+}
+
+/// After an action that was not done: the buttons show again what stands.
+void OptionPeer::ShowGroup() {
+  for (const auto& other : option_.Owner()->Made())
+    if (other->DesignName() == option_.DesignName()) other->GetPeer()->Refresh(Aspect::Value);
+}
+
+CheckPeer::CheckPeer(controls::CheckBox& check, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(check, toolkit, new QCheckBox(container)), check_(check) {
+  auto* const box = static_cast<QCheckBox*>(Widget());
+  Refresh(Aspect::Caption);
+  Refresh(Aspect::Value);
+  QObject::connect(box, &QCheckBox::toggled, box, [this](bool ticked) {
+    if (Showing()) return;
+    Toolkit().Act(check_, controls::Tick{ticked ? host::kTicked : host::kUnticked}, *Widget());
+    Refresh(Aspect::Value);
+  });
+}
+
+void CheckPeer::Refresh(Aspect aspect) {
+  auto* const box = static_cast<QCheckBox*>(Widget());
+  if (box == nullptr) return;
+  if (aspect == Aspect::Value)
+    Show([&] { box->setChecked(check_.Value() == host::kTicked); });
+  else if (aspect == Aspect::Caption)
+    box->setText(ShownCaption(check_.Row(), check_.Caption()));
+  else
+    WidgetPeer::Refresh(aspect);
+}
+
+ComboPeer::ComboPeer(controls::ListBox& list, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(list, toolkit, new qt::Combo(container)), list_(list) {
+  Refresh(Aspect::Entries);
+  QObject::connect(&Combo(), &QComboBox::activated, &Combo(), [this](int index) {
+    if (index == list_.ListIndex()) return;
+    Toolkit().Act(list_, controls::Choose{index}, *Widget());
+    Refresh(Aspect::ListIndex);
+  });
+}
+
+QComboBox& ComboPeer::Combo() const {
+  return static_cast<QComboBox&>(*Widget());
+}
+
+void ComboPeer::Refresh(Aspect aspect) {
+  if (Widget() == nullptr) return;
+  switch (aspect) {
+    case Aspect::Entries: {
+      Combo().clear();
+      QStringList texts;
+      for (const auto& entry : list_.Entries()) texts.append(ToQt(entry.text));
+      Combo().addItems(texts);
+      Combo().setCurrentIndex(list_.ListIndex());
+      break;
+    }
+    case Aspect::EntryAdded:
+      Combo().addItem(ToQt(list_.Entries().back().text));
+      Combo().setCurrentIndex(list_.ListIndex());  // Qt selects the first entry by itself
+      break;
+    case Aspect::ListIndex: Combo().setCurrentIndex(list_.ListIndex()); break;
+    default: WidgetPeer::Refresh(aspect);
+  }
+}
+
+ButtonPeer::ButtonPeer(controls::Button& button, qt::Toolkit& toolkit, QWidget* container)
+    : WidgetPeer(button, toolkit, new QPushButton(container)), button_(button) {
+  auto* const push = static_cast<QPushButton*>(Widget());
+  push->setAutoDefault(false);
+  Refresh(Aspect::Caption);
+  QObject::connect(push, &QPushButton::clicked, push, [this] { Toolkit().Act(button_, controls::Press{}, *Widget()); });
+}
+
+void ButtonPeer::Refresh(Aspect aspect) {
+  if (aspect != Aspect::Caption) return WidgetPeer::Refresh(aspect);
+  if (Widget() != nullptr) static_cast<QPushButton*>(Widget())->setText(ShownCaption(button_.Row(), button_.Caption()));
+}
+
+}  // namespace brivane::qt

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "controls/Choices.h"
+#include "controls/ListBox.h"
+#include "controls/Plain.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
+#include "toolkits/qt/peers/Peers.h"
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+class QRadioButton;
+
+/// The peers of what a person chooses with: toggle, option, check box, list and button.
+namespace brivane::qt {
+
+class TogglePeer final : public WidgetPeer {
+ public:
+  TogglePeer(controls::JaNee& toggle, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  controls::JaNee& toggle_;
+};
+
+class OptionPeer final : public WidgetPeer {
+ public:
+  OptionPeer(controls::OptionButton& option, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  void ShowGroup();
+  controls::OptionButton& option_;
+};
+
+class CheckPeer final : public WidgetPeer {
+ public:
+  CheckPeer(controls::CheckBox& check, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  controls::CheckBox& check_;
+};
+
+class ComboPeer final : public WidgetPeer {
+ public:
+  ComboPeer(controls::ListBox& list, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  [[nodiscard]] QComboBox& Combo() const;
+  controls::ListBox& list_;
+};
+
+class ButtonPeer final : public WidgetPeer {
+ public:
+  ButtonPeer(controls::Button& button, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
+
+ private:
+  controls::Button& button_;
+};
+
+}  // namespace brivane::qt

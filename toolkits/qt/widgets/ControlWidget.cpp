@@ -1,0 +1,77 @@
+#include "toolkits/qt/widgets/ControlWidget.h"
+
+#include <QEvent>
+
+#include "toolkits/qt/widgets/EntryBox.h"
+#include "toolkits/qt/widgets/SurfaceWidget.h"
+
+namespace brivane::qt {
+
+ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
+    : QWidget(parent), surface_(toolkit_.MakeSurface(design)) {
+  auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
+  area.setParent(this);
+  area.move(0, 0);
+  area.show();
+  area.sized = [this] { updateGeometry(); };
+  FollowFont();
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+ControlWidget::~ControlWidget() = default;
+
+void ControlWidget::FollowFont() {
+  const qt::Edge edge = Edge::OfFont(font());
+  if (edge == toolkit_.Edge()) return;
+  toolkit_.SetEdge(edge);
+  static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_)).Rescale();
+  updateGeometry();
+}
+
+void ControlWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FollowFont();
+}
+
+void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
+  toolkit_.Guard([&] {
+    MakeControl(factories);
+    if (backColor_) ColorControl(FromQt(*backColor_));
+    const host::Place place = surface_->Place();
+    controls::Surface::Of(*surface_).Size(place.width, place.height);
+  });
+}
+
+bool ControlWidget::CommitPending() {
+  EntryBox* const box = EntryBox::PendingWithin(*this);
+  return box == nullptr || box->CommitPending();
+}
+
+QColor ControlWidget::backColor() const {
+  return backColor_.value_or(palette().color(QPalette::Window));
+}
+
+void ControlWidget::setBackColor(const QColor& color) {
+  backColor_ = color;
+  toolkit_.Guard([&] { ColorControl(FromQt(color)); });
+}
+
+QSize ControlWidget::sizeHint() const {
+  const auto width = static_cast<float>(controls::Surface::Of(*surface_).Table().width);
+  return toolkit_.Edge().Pixels({width}, surface_->Place().height);
+}
+
+QSize ControlWidget::minimumSizeHint() const {
+  return sizeHint();
+}
+
+void ControlWidget::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const host::Place place = surface_->Place();
+  if (size() == toolkit_.Edge().Pixels(place.width, place.height)) return;
+  toolkit_.Guard([&] {
+    controls::Surface::Of(*surface_).Size(toolkit_.Edge().ToTwips(width()), toolkit_.Edge().ToTwips(height()));
+  });
+}
+
+}  // namespace brivane::qt

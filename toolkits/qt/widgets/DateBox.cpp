@@ -1,0 +1,112 @@
+#include "toolkits/qt/widgets/DateBox.h"
+
+#include <QAction>
+#include <QCalendarWidget>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "frame/Calendar.h"
+#include "frame/Dates.h"
+#include "toolkits/qt/Text.h"
+
+namespace brivane::qt {
+namespace {
+
+constexpr int kIconSize = 16;
+
+/// A sheet of a calendar in the colour of the text.
+QIcon CalendarIcon(const QColor& color, qreal ratio) {
+  QPixmap pixmap(QSize(kIconSize, kIconSize) * ratio);
+  pixmap.setDevicePixelRatio(ratio);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setPen(color);
+  painter.drawRect(2, 3, 11, 10);
+  painter.fillRect(2, 3, 12, 3, color);
+  for (int row = 0; row < 2; ++row)
+    for (int day = 0; day < 3; ++day) painter.fillRect(4 + 3 * day, 8 + 3 * row, 2, 2, color);
+  return pixmap;
+}
+
+}  // namespace
+
+DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
+  setInputMethodHints(Qt::ImhDate);
+  icon_->setText("Kalender");
+  icon_->setToolTip("Kalender (F4)");
+  addAction(icon_, QLineEdit::TrailingPosition);
+  DrawIcon();
+  QObject::connect(icon_, &QAction::triggered, this, [this] { OpenCalendar(); });
+}
+
+void DateBox::DrawIcon() {
+  icon_->setIcon(CalendarIcon(palette().color(QPalette::Text), devicePixelRatioF()));
+}
+
+void DateBox::changeEvent(QEvent* event) {
+  EntryBox::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange) DrawIcon();
+}
+
+QWidget* DateBox::Calendar() const {
+  return popup_;
+}
+
+void DateBox::OpenCalendar() {
+  if (!isEnabled() || isReadOnly() || popup_) return;
+  setFocus(Qt::OtherFocusReason);
+  if (!hasFocus() && window()->isActiveWindow()) return;  // another box kept the focus
+
+  popup_ = new QFrame(this, Qt::Popup);
+  popup_->setAttribute(Qt::WA_DeleteOnClose);
+  popup_->setFrameStyle(QFrame::StyledPanel);
+  auto* const layout = new QVBoxLayout(popup_);
+  layout->setContentsMargins(1, 1, 1, 1);
+  auto* const calendar = new QCalendarWidget(popup_);
+  layout->addWidget(calendar);
+  calendar->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  calendar->setFirstDayOfWeek(Qt::Monday);
+  calendar->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
+  calendar->setMinimumDate(QDate(frame::kFirstYear, 1, 1));
+  const auto typed = frame::ReadDate(FromQt(text()));
+  if (!typed.IsRefused() && !typed.IsEmpty()) {
+    const frame::YearMonthDay day = frame::Split(*typed);
+    calendar->setSelectedDate(QDate(day.year, day.month, day.day));
+  }
+  QObject::connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) { Pick(date); });
+  QObject::connect(calendar, &QCalendarWidget::activated, this, [this](QDate date) { Pick(date); });
+
+  popup_->adjustSize();
+  const QRect screen = this->screen()->availableGeometry();
+  QPoint place = mapToGlobal(QPoint(0, height()));
+  if (place.y() + popup_->height() > screen.bottom()) place.setY(place.y() - height() - popup_->height());
+  place.setX(qMax(screen.left(), qMin(place.x(), screen.right() - popup_->width())));
+  popup_->move(place);
+  popup_->show();
+  calendar->setFocus(Qt::PopupFocusReason);
+}
+
+void DateBox::Pick(QDate date) {
+  if (!popup_) return;  // a double click reports the day twice
+  popup_->close();
+  popup_ = nullptr;
+  setFocus(Qt::OtherFocusReason);
+  TypeText(ToQt(frame::ShowDate(frame::MakeDate({date.year(), date.month(), date.day()}))));
+  if (CommitPending()) selectAll();
+}
+
+void DateBox::keyPressEvent(QKeyEvent* event) {
+  const bool altDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
+  if (event->key() == Qt::Key_F4 || altDown) {
+    OpenCalendar();
+    event->accept();
+    return;
+  }
+  EntryBox::keyPressEvent(event);
+}
+
+}  // namespace brivane::qt
