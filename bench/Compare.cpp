@@ -75,15 +75,9 @@ void Print(const Entry& entry, double measured, double yardstick) {
 }  // namespace
 
 namespace detail {
-void Announce(const std::string& name, const Question& question) {
-  Entries().push_back({name, question});
-}
-std::string Measured(const std::string& name) {
-  return name + kMeasured;
-}
-std::string Yardstick(const std::string& name) {
-  return name + kYardstick;
-}
+void Announce(const std::string& name, const Question& question) { Entries().push_back({name, question}); }
+std::string Measured(const std::string& name) { return name + kMeasured; }
+std::string Yardstick(const std::string& name) { return name + kYardstick; }
 void Turn(const std::string& name, std::chrono::nanoseconds measured, std::chrono::nanoseconds yardstick) {
   Turns& turns = InTurn()[name];
   turns.measured.push_back(static_cast<double>(measured.count()));

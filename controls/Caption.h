@@ -15,7 +15,8 @@ namespace brivane::controls {
   for (const char c : caption) marked += c == '&' ? std::string("&&") : std::string(1, c);
   if (row.mnemonic == '\0') return marked;
   const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  const auto place = std::find_if(marked.begin(), marked.end(), [&](char c) { return lower(c) == lower(row.mnemonic); });
+  const auto place =
+      std::find_if(marked.begin(), marked.end(), [&](char c) { return lower(c) == lower(row.mnemonic); });
   if (place != marked.end()) marked.insert(place, '&');
   return marked;
 }

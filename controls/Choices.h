@@ -2,10 +2,10 @@
 
 #include <cassert>
 
+#include "controls/Control.h"
 #include "host/controls/CheckBox.h"
 #include "host/controls/JaNee.h"
 #include "host/controls/OptionButton.h"
-#include "controls/Control.h"
 
 /// The controls that choose between a few values: toggle, check box and option.
 namespace brivane::controls {

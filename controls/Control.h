@@ -6,10 +6,10 @@
 #include <string_view>
 #include <utility>
 
-#include "frame/Design.h"
-#include "host/controls/Control.h"
 #include "controls/Action.h"
 #include "controls/Peer.h"
+#include "frame/Design.h"
+#include "host/controls/Control.h"
 
 namespace brivane::controls {
 

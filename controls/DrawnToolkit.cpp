@@ -10,9 +10,9 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
   } catch (...) {
     const host::Error failure = frame::CurrentError();
     if (failureListener_) return failureListener_(failure);
-    ShowFailure(std::string(frame::kReportCaption), std::string(frame::kReportMessage) + "\r\n" +
-                                                        std::to_string(failure.Number()) + ": " +
-                                                        failure.Description());
+    ShowFailure(
+        std::string(frame::kReportCaption),
+        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description());
   }
 }
 

@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
-#include "host/Error.h"
 #include "controls/ToolkitBase.h"
+#include "host/Error.h"
 
 namespace brivane::controls {
 

@@ -6,13 +6,13 @@
 #include <variant>
 #include <vector>
 
+#include "controls/ListBox.h"
+#include "controls/ListView.h"
+#include "controls/Surface.h"
 #include "host/Color.h"
 #include "host/Date.h"
 #include "host/Twips.h"
 #include "host/controls/Control.h"
-#include "controls/ListBox.h"
-#include "controls/ListView.h"
-#include "controls/Surface.h"
 
 namespace brivane::controls {
 

@@ -3,8 +3,8 @@
 #include <cassert>
 #include <utility>
 
-#include "host/Error.h"
 #include "controls/ToolkitBase.h"
+#include "host/Error.h"
 
 namespace brivane::controls {
 

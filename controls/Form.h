@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/controls/Form.h"
 #include "controls/Surface.h"
+#include "host/controls/Form.h"
 
 namespace brivane::controls {
 

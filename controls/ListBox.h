@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/controls/ListBox.h"
 #include "controls/Control.h"
+#include "host/controls/ListBox.h"
 
 namespace brivane::controls {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "host/controls/ListView.h"
 #include "controls/Control.h"
+#include "host/controls/ListView.h"
 
 namespace brivane::controls {
 

@@ -8,7 +8,7 @@ namespace brivane::controls {
 
 /// A side of a control's state that a peer shows.
 enum class Aspect : std::uint8_t {
-  Value,       ///< content of a box; value of a toggle, option or check box
+  Value,  ///< content of a box; value of a toggle, option or check box
   Enabled,
   Visible,
   Caption,
@@ -19,9 +19,9 @@ enum class Aspect : std::uint8_t {
   Entries,     ///< a list's entries, all anew; the index goes with them
   EntryAdded,  ///< one more entry at the end of a list
   ListIndex,
-  Columns,     ///< a list view's columns
-  Rows,        ///< a list view's rows, with their bold marks
-  Selection,   ///< a list view's selected row
+  Columns,    ///< a list view's columns
+  Rows,       ///< a list view's rows, with their bold marks
+  Selection,  ///< a list view's selected row
 };
 
 /// What draws a control: shows the state that the control holds, and hands what a person does to

@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "controls/Control.h"
 #include "host/controls/Button.h"
 #include "host/controls/Frame.h"
 #include "host/controls/Hint.h"
 #include "host/controls/Label.h"
-#include "controls/Control.h"
 
 /// The controls without a value: frame, label, help icon and button.
 namespace brivane::controls {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/controls/Surface.h"
 #include "controls/Control.h"
+#include "host/controls/Surface.h"
 
 namespace brivane::controls {
 

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "host/Error.h"
 #include "controls/Surface.h"
 #include "controls/ToolkitBase.h"
+#include "host/Error.h"
 
 namespace brivane::controls {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/controls/TextBox.h"
 #include "controls/Control.h"
+#include "host/controls/TextBox.h"
 
 namespace brivane::controls {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/Toolkit.h"
 #include "controls/Form.h"
 #include "controls/Surface.h"
+#include "frame/Toolkit.h"
 
 namespace brivane::controls {
 

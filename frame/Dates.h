@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/Date.h"
 #include "frame/Reading.h"
+#include "host/Date.h"
 
 /// Dates as a Dutch reader writes them.
 namespace brivane::frame {

@@ -12,7 +12,8 @@
 ///
 ///     inline constexpr frame::Row kRijen[] = {
 ///         {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, 6000, 900}, .caption = "Correctie last"},
-///         {.name = "optLast", .kind = Kind::OptionButton, .place = {...}, .parent = "fraLast", .caption = "Last", .index = 1, .tab = 3},
+///         {.name = "optLast", .kind = Kind::OptionButton, .place = {...}, .parent = "fraLast", .caption = "Last",
+///         .index = 1, .tab = 3},
 ///     };
 ///     inline constexpr frame::Design kOntwerp{.name = "VrijeKolom", .rows = kRijen, .width = 12000, .height = 6000};
 ///     static_assert(frame::Check(kOntwerp) == frame::Fault::None);
@@ -23,7 +24,7 @@ using host::Kind;
 
 /// How a text box formats and accepts its content.
 enum class Format : std::uint8_t {
-  None,         ///< not a box
+  None,  ///< not a box
   Text,
   Amount,       ///< euros, two decimals, Dutch grouping
   Number,       ///< a number with up to four decimals
@@ -75,11 +76,11 @@ struct Row {
   int index = kNoIndex;           ///< place in a control array; kTemplateIndex is the template of run-time elements
   int tab = 0;                    ///< place in the tab order from 1; 0 for what takes no focus
   std::string_view label = {};    ///< the text that names a box, toggle or list to a screen reader
-  char mnemonic = '\0';           ///< letter of the caption that, with Alt, goes to the control (or to the box it labels)
+  char mnemonic = '\0';  ///< letter of the caption that, with Alt, goes to the control (or to the box it labels)
   Format format = Format::None;
-  bool bordered = true;           ///< frames: draws its border and caption
-  bool locked = false;            ///< text boxes: written by code alone
-  bool multiline = false;         ///< labels: wraps over lines
+  bool bordered = true;    ///< frames: draws its border and caption
+  bool locked = false;     ///< text boxes: written by code alone
+  bool multiline = false;  ///< labels: wraps over lines
   std::span<const ListEntry> entries = {};
   EmbeddedDesign embedded = {};  ///< kind Surface: the design of the embedded control
 };
@@ -87,17 +88,29 @@ struct Row {
 struct Design {
   std::string_view name;
   std::span<const Row> rows;
-  int width = 0;   ///< twips; of a form, its inside
+  int width = 0;  ///< twips; of a form, its inside
   int height = 0;
-  std::string_view caption = {};       ///< title of a form
+  std::string_view caption = {};  ///< title of a form
   std::string_view fontName = "Arial";
-  float fontSize = 9;                  ///< points
+  float fontSize = 9;  ///< points
 };
 
 /// What is wrong with a table.
 enum class Fault : std::uint8_t {
-  None, NoName, NameTwice, ParentMissing, ParentNotAFrame, OutsideParent, BoxWithoutLabel, BoxWithoutFormat, TabTwice,
-  TabGap, TabMissing, TabOnPassive, SurfaceWithoutDesign, ArrayScattered
+  None,
+  NoName,
+  NameTwice,
+  ParentMissing,
+  ParentNotAFrame,
+  OutsideParent,
+  BoxWithoutLabel,
+  BoxWithoutFormat,
+  TabTwice,
+  TabGap,
+  TabMissing,
+  TabOnPassive,
+  SurfaceWithoutDesign,
+  ArrayScattered
 };
 
 namespace detail {

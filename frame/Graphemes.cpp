@@ -12,8 +12,7 @@ namespace {
 constexpr char32_t kZeroWidthJoiner = 0x200D;
 
 /// Whether one of the ranges, which are sorted, holds the code point.
-template <class Ranges>
-bool In(const Ranges& ranges, char32_t c) {
+template <class Ranges> bool In(const Ranges& ranges, char32_t c) {
   const auto after = std::upper_bound(ranges.begin(), ranges.end(), c,
                                       [](char32_t point, CodePointRange range) { return point < range.first; });
   return after != ranges.begin() && c <= std::prev(after)->last;
@@ -57,8 +56,7 @@ CodePoint Before(std::string_view text, std::size_t end) {
   if (length != end - start) return {static_cast<unsigned char>(text[end - 1]), end - 1};
   if (length == 1) return {lead, start};
   char32_t value = lead & (0xFFU >> (length + 1));
-  for (std::size_t i = start + 1; i < end; ++i)
-    value = (value << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+  for (std::size_t i = start + 1; i < end; ++i) value = (value << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
   return {value, start};
 }
 

@@ -38,9 +38,7 @@ template <> struct KindType<Kind::Surface> { using type = host::Surface; };
 template <Kind K> using TypeOf = typename detail::KindType<K>::type;
 
 /// One control of a design, typed by its kind.
-template <Kind K> struct Handle {
-  std::size_t row;
-};
+template <Kind K> struct Handle { std::size_t row; };
 
 /// The designed elements `first` .. `last` of a control array.
 template <Kind K> struct ArrayHandle {
@@ -52,8 +50,7 @@ template <Kind K> struct ArrayHandle {
 namespace detail {
 
 /// Row of a control; fails to be a constant where there is none of that name and kind.
-template <Kind K>
-constexpr std::size_t FindRow(const Design& design, std::string_view name) {
+template <Kind K> constexpr std::size_t FindRow(const Design& design, std::string_view name) {
   for (std::size_t i = 0; i < design.rows.size(); ++i)
     if (design.rows[i].name == name) {
       if (design.rows[i].kind != K) throw "the control is of another kind";

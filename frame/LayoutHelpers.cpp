@@ -52,7 +52,8 @@ void ScaleToResolution(const host::Desktop& desktop, std::span<host::Control* co
   ScaleControls(controls, *factor, keepSize);
 }
 
-void ReplaceColor(std::span<host::Control* const> controls, host::Color color, ControlNames skip, host::Color replaced) {
+void ReplaceColor(std::span<host::Control* const> controls, host::Color color, ControlNames skip,
+                  host::Color replaced) {
   for (host::Control* control : controls) {
     try {
       if (control->BackColor() == replaced && !Contains(control->Name(), skip)) control->SetBackColor(color);

@@ -36,7 +36,8 @@ void ReplaceColor(std::span<host::Control* const> controls, host::Color color, C
 /// Shortens a UTF-8 text with "..." to a width, measured on `surface` in bold or not. Drops whole
 /// user-perceived characters. Without a surface the text comes back unchanged; when measuring fails it
 /// comes back as it stands at that moment.
-[[nodiscard]] std::string FitText(host::DrawingSurface* surface, std::string text, host::Twips width, bool bold = false);
+[[nodiscard]] std::string FitText(host::DrawingSurface* surface, std::string text, host::Twips width,
+                                  bool bold = false);
 
 /// The first when it is smaller than the second, else the second.
 template <class T> [[nodiscard]] constexpr T Smaller(T first, T second) { return first < second ? first : second; }

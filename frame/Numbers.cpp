@@ -164,12 +164,8 @@ std::string Show(double number, std::size_t decimals, TrailingZeros zeros) {
 
 }  // namespace
 
-Reading<double> ReadAmount(std::string_view text) {
-  return Read(text, kAmount);
-}
-Reading<double> ReadNumber(std::string_view text) {
-  return Read(text, kNumber);
-}
+Reading<double> ReadAmount(std::string_view text) { return Read(text, kAmount); }
+Reading<double> ReadNumber(std::string_view text) { return Read(text, kNumber); }
 
 Reading<std::int32_t> ReadWhole(std::string_view text) {
   const Reading<double> reading = Read(text, kWhole);
@@ -180,14 +176,8 @@ Reading<std::int32_t> ReadWhole(std::string_view text) {
   return static_cast<std::int32_t>(*reading);
 }
 
-std::string ShowAmount(double amount) {
-  return Show(amount, kAmount.decimals, TrailingZeros::Keep);
-}
-std::string ShowNumber(double number) {
-  return Show(number, kNumber.decimals, TrailingZeros::Drop);
-}
-std::string ShowWhole(std::int32_t number) {
-  return std::to_string(number);
-}
+std::string ShowAmount(double amount) { return Show(amount, kAmount.decimals, TrailingZeros::Keep); }
+std::string ShowNumber(double number) { return Show(number, kNumber.decimals, TrailingZeros::Drop); }
+std::string ShowWhole(std::int32_t number) { return std::to_string(number); }
 
 }  // namespace brivane::frame

@@ -7,8 +7,7 @@
 namespace brivane::frame {
 
 /// What a typed text means: a value, nothing at all, or a refusal with a Dutch reason for the person.
-template <class Value>
-class Reading {
+template <class Value> class Reading {
  public:
   Reading() = default;  ///< the text is empty
   Reading(Value value) : value_(std::move(value)) {}

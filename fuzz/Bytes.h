@@ -30,10 +30,7 @@ class Bytes {
     for (int i = 0; i < 4; ++i) value = value << 8U | Next();
     return static_cast<std::int32_t>(value);
   }
-  template <class List>
-  const auto& OneOf(const List& list) {
-    return list[Below(std::size(list))];
-  }
+  template <class List> const auto& OneOf(const List& list) { return list[Below(std::size(list))]; }
   std::string Text() {
     std::string text;
     for (std::size_t length = Below(12); length > 0; --length) text += static_cast<char>(' ' + Below(95));

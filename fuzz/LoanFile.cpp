@@ -40,8 +40,8 @@ Input Split(std::span<const std::uint8_t> bytes) {
   constexpr std::size_t kPageCount = 28;
   const QByteArray all(reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()));
   if (bytes.size() < kPageCount + 4) return {all, {}};
-  const qsizetype length = qsizetype{qFromBigEndian<quint16>(bytes.data() + kPageSize)} *
-                           qFromBigEndian<quint32>(bytes.data() + kPageCount);
+  const qsizetype length =
+      qsizetype{qFromBigEndian<quint16>(bytes.data() + kPageSize)} * qFromBigEndian<quint32>(bytes.data() + kPageCount);
   return length == 0 ? Input{all, {}} : Input{all.first(std::min(length, all.size())), all.mid(length)};
 }
 

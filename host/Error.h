@@ -56,8 +56,7 @@ class Error : public std::exception {
 };
 
 /// Hands back the object, or fails with error 91 where the host answered nothing.
-template <class Pointer>
-[[nodiscard]] decltype(auto) Need(const Pointer& object) {
+template <class Pointer> [[nodiscard]] decltype(auto) Need(const Pointer& object) {
   if (!object) throw Error(ErrorNumber::ObjectMissing);
   return *object;
 }

@@ -11,8 +11,7 @@ namespace brivane::host {
 ///
 /// Raising delivers at once, nested in the call that set it off; a failure of the listener is a
 /// failure of the raising call.
-template <class... Arguments>
-class Event {
+template <class... Arguments> class Event {
  public:
   void Connect(std::function<void(Arguments...)> listener) { listener_ = std::move(listener); }
   void Disconnect() { listener_ = nullptr; }

@@ -13,8 +13,7 @@ namespace brivane::scenario {
 /// A loaded percentage rounded to four decimals where storing the rounded value gives the same number
 /// again; else as it is, so that a percentage derived from two amounts is not disturbed. `opslag` answers
 /// what storing a percentage would write, `opgeslagen` is what the list holds.
-template <class Opslag>
-[[nodiscard]] double ZoalsIngevoerd(double percentage, double opgeslagen, Opslag&& opslag) {
+template <class Opslag> [[nodiscard]] double ZoalsIngevoerd(double percentage, double opgeslagen, Opslag&& opslag) {
   const double afgerond = VierDecimalen(percentage);
   return GelijkInSingle(opslag(afgerond), opgeslagen) ? afgerond : percentage;
 }

@@ -12,14 +12,11 @@ namespace brivane::scenario {
 [[nodiscard]] double Gegroeid(double bedrag, double percentage);
 
 /// The growth from one amount, which is not 0, to the next, in percent.
-[[nodiscard]] constexpr double Groeipercentage(double van, double naar) {
-  return 100 * (naar - van) / van;
-}
+[[nodiscard]] constexpr double Groeipercentage(double van, double naar) { return 100 * (naar - van) / van; }
 
 /// Grows every amount after row `van`. A row whose percentage is 0 or negative grows by the last positive
 /// percentage above it; the percentage of row `van` itself counts as it is.
-template <class Rijen>
-void Groei(Rijen& rijen, int van) {
+template <class Rijen> void Groei(Rijen& rijen, int van) {
   double bedrag = rijen.Bedrag(van);
   double percentage = rijen.Percentage(van);
   for (int r = van; r < rijen.Aantal(); ++r) {
@@ -36,8 +33,7 @@ void Groei(Rijen& rijen, int van) {
 
 /// Copies the percentage of row `van` down and grows the amounts by it, in doubles, row by row. The last row
 /// has no growth of its own and keeps its percentage.
-template <class Rijen>
-void GroeiGelijk(Rijen& rijen, int van) {
+template <class Rijen> void GroeiGelijk(Rijen& rijen, int van) {
   for (int r = van; r < rijen.Aantal(); ++r) {
     const double bedrag = rijen.Bedrag(r);
     const double percentage = rijen.Percentage(r);
@@ -48,22 +44,19 @@ void GroeiGelijk(Rijen& rijen, int van) {
 
 /// Derives the percentage of the row above from its amount and that of row `rij`; an amount of 0 or less
 /// leaves the percentage alone.
-template <class Rijen>
-void LeidPercentageAf(Rijen& rijen, int rij) {
+template <class Rijen> void LeidPercentageAf(Rijen& rijen, int rij) {
   const int boven = rij - 1;
   if (rij >= 2 && rijen.Bedrag(boven) > 0)
     rijen.ZetPercentage(boven, Groeipercentage(rijen.Bedrag(boven), rijen.Bedrag(rij)));
 }
 
 /// Copies the amount of row `van` to every later row.
-template <class Rijen>
-void VulBedragDoor(Rijen& rijen, int van) {
+template <class Rijen> void VulBedragDoor(Rijen& rijen, int van) {
   for (int r = van + 1; r <= rijen.Aantal(); ++r) rijen.ZetBedrag(r, rijen.Bedrag(van));
 }
 
 /// Copies the percentage of row `van` to every later row.
-template <class Rijen>
-void VulPercentageDoor(Rijen& rijen, int van) {
+template <class Rijen> void VulPercentageDoor(Rijen& rijen, int van) {
   for (int r = van + 1; r <= rijen.Aantal(); ++r) rijen.ZetPercentage(r, rijen.Percentage(van));
 }
 

@@ -68,17 +68,11 @@ Twips Kolomafstand(const Opzet& opzet, const Breedten& breedten) {
 
 }  // namespace
 
-int Rijaantal(int aantalJaar) {
-  return frame::Larger(frame::Smaller(aantalJaar, kMeesteRijen), kMinsteRijen);
-}
+int Rijaantal(int aantalJaar) { return frame::Larger(frame::Smaller(aantalJaar, kMeesteRijen), kMinsteRijen); }
 
-int Kolomaantal(int rijen) {
-  return rijen < kVeelRijen ? kWeinigKolommen : kVeelKolommen;
-}
+int Kolomaantal(int rijen) { return rijen < kVeelRijen ? kWeinigKolommen : kVeelKolommen; }
 
-int RijenPerKolom(int rijen) {
-  return (rijen + Kolomaantal(rijen) - 1) / Kolomaantal(rijen);
-}
+int RijenPerKolom(int rijen) { return (rijen + Kolomaantal(rijen) - 1) / Kolomaantal(rijen); }
 
 Indeling DeelIn(const Opzet& opzet, const Breedten& breedten) {
   Indeling indeling;

@@ -89,8 +89,8 @@ struct Kopplaats {
 struct Indeling {
   std::vector<Rijplaats> rijen;
   std::vector<Kopplaats> koppen;  ///< one for each column that has rows
-  Twips rechts = {};                   ///< right edge of the rightmost control of the grid
-  Twips kaderHoogte = {};              ///< height of the frame around the grid
+  Twips rechts = {};              ///< right edge of the rightmost control of the grid
+  Twips kaderHoogte = {};         ///< height of the frame around the grid
 };
 
 /// Places every row and header of a grid, column after column.

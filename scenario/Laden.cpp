@@ -11,8 +11,7 @@ namespace brivane::scenario {
 namespace {
 
 /// The rows from an entry's row on; none where no row holds its month.
-template <class Rij>
-std::span<Rij> Vanaf(std::vector<Rij>& rijen, std::int16_t maand) {
+template <class Rij> std::span<Rij> Vanaf(std::vector<Rij>& rijen, std::int16_t maand) {
   const std::optional<int> rij = RijVan(maand, static_cast<int>(rijen.size()));
   return rij ? std::span(rijen).subspan(static_cast<std::size_t>(*rij - 1)) : std::span<Rij>();
 }

@@ -31,6 +31,7 @@ inline constexpr int kKopHoog = 195;
 /// As wide as the narrowest column, so that neighbouring headers do not cover each other.
 inline constexpr int kKopBreed = 1440;
 
+// clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraScenario", .kind = Kind::Frame, .place = {120, 120, 6000, 1500}},
     {.name = "hntRentescenario", .kind = Kind::Hint, .place = {kKolomLinks, 255, 255, 255}, .parent = "fraScenario",
@@ -73,6 +74,7 @@ inline constexpr frame::Row kRijen[] = {
 
 inline constexpr frame::Design kOntwerp{.name = kFormuliernaam, .rows = kRijen, .width = 6240, .height = 2235,
                                         .caption = kTitel, .fontSize = 8.25F};
+// clang-format on
 static_assert(frame::Check(kOntwerp) == frame::Fault::None);
 
 inline constexpr auto fraScenario = frame::Find<Kind::Frame>(kOntwerp, "fraScenario");

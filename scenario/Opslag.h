@@ -69,8 +69,7 @@ void BewaarPercentages(const Rijen& rijen, Kortingkolom kolom, Schrijf&& schrijf
 }
 
 /// Growth percentages: each row whose percentage differs from the row above; above row 1 stands 0.
-template <class Rijen, class Schrijf>
-void BewaarGroei(const Rijen& rijen, Schrijf&& schrijf) {
+template <class Rijen, class Schrijf> void BewaarGroei(const Rijen& rijen, Schrijf&& schrijf) {
   double vorige = 0;
   for (int r = 1; r <= rijen.Aantal(); ++r) {
     const double percentage = rijen.Percentage(r);

@@ -14,15 +14,13 @@ namespace {
 using frame::Handle;
 using frame::TypeOf;
 
-template <class Control>
-Control& Bestaand(Control* control) {
+template <class Control> Control& Bestaand(Control* control) {
   if (control == nullptr) throw host::Error(host::ErrorNumber::NoSuchElement);
   return *control;
 }
 
 /// Makes an element of a control array at a place and shows it.
-template <Kind K>
-TypeOf<K>& Maak(host::Form& form, Handle<K> soort, int index, Twips links, Twips top) {
+template <Kind K> TypeOf<K>& Maak(host::Form& form, Handle<K> soort, int index, Twips links, Twips top) {
   auto& control = static_cast<TypeOf<K>&>(form.Create(soort.row, index));
   const host::Place was = control.Place();
   control.Move({links, top, was.width, was.height});
@@ -31,8 +29,7 @@ TypeOf<K>& Maak(host::Form& form, Handle<K> soort, int index, Twips links, Twips
 }
 
 /// Makes an element that keeps the top of its template.
-template <Kind K>
-void MaakKop(host::Form& form, Handle<K> soort, int index, Twips links) {
+template <Kind K> void MaakKop(host::Form& form, Handle<K> soort, int index, Twips links) {
   Maak(form, soort, index, links, form.At(soort.row).Place().top);
 }
 
@@ -121,17 +118,11 @@ void Rooster::BouwKop(int kolom, const Opzet& opzet, const Kopplaats& plaats) {
   if (opzet.korting == Kortingkolom::Met) MaakKop(form_, lblKorting, kolom, plaats.korting);
 }
 
-double Rooster::Bedrag(int rij) const {
-  return Bestaand(Van(rij).bedrag).Number();
-}
+double Rooster::Bedrag(int rij) const { return Bestaand(Van(rij).bedrag).Number(); }
 
-void Rooster::ZetBedrag(int rij, double bedrag) {
-  Bestaand(Van(rij).bedrag).SetNumber(frame::Finite(bedrag));
-}
+void Rooster::ZetBedrag(int rij, double bedrag) { Bestaand(Van(rij).bedrag).SetNumber(frame::Finite(bedrag)); }
 
-double Rooster::Percentage(int rij) const {
-  return Bestaand(Van(rij).percentage).Number();
-}
+double Rooster::Percentage(int rij) const { return Bestaand(Van(rij).percentage).Number(); }
 
 void Rooster::ZetPercentage(int rij, double percentage) {
   Bestaand(Van(rij).percentage).SetNumber(frame::Finite(percentage));
@@ -142,9 +133,7 @@ double Rooster::Korting(int rij) const {
   return vak != nullptr ? vak->Number() : 0;
 }
 
-void Rooster::ZetKorting(int rij, double korting) {
-  Bestaand(Van(rij).korting).SetNumber(korting);
-}
+void Rooster::ZetKorting(int rij, double korting) { Bestaand(Van(rij).korting).SetNumber(korting); }
 
 bool Rooster::Eenmalig(int rij) const {
   const host::CheckBox* vak = Van(rij).eenmalig;

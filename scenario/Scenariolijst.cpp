@@ -13,8 +13,7 @@ namespace {
 constexpr std::int16_t kEerste = 1;
 
 /// Walks the list and reads the entries that fall in the grid.
-template <class Lees>
-auto LeesPosten(host::BedragObject& scenario, int rijen, Lees&& lees) {
+template <class Lees> auto LeesPosten(host::BedragObject& scenario, int rijen, Lees&& lees) {
   std::vector<decltype(lees(std::int16_t{}, std::declval<host::Periode&>()))> posten;
   for (int positie = kEerste;; ++positie) {
     const auto periode = scenario.Periode(frame::ToInteger16(positie));

@@ -19,7 +19,8 @@ void MaakLeeg(host::BedragObject& scenario);
 
 /// Each appends one entry. Percentages go in single precision; error 6 where one is too large for it.
 void Schrijf(host::BedragObject& scenario, const Bedragpost& post, Overbrugging overbrugging);
-void Schrijf(host::BedragObject& scenario, std::int16_t maand, const std::function<Rentepost()>& lees, Kortingkolom kolom);
+void Schrijf(host::BedragObject& scenario, std::int16_t maand, const std::function<Rentepost()>& lees,
+             Kortingkolom kolom);
 void Schrijf(host::BedragObject& scenario, const Groeipost& post);
 
 }  // namespace brivane::scenario

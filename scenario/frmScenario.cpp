@@ -56,8 +56,7 @@ frmScenario::~frmScenario() {
   form_->Unloaded.Disconnect();
 }
 
-template <class Body>
-void frmScenario::Guarded(Body&& body) {
+template <class Body> void frmScenario::Guarded(Body&& body) {
   try {
     body();
   } catch (...) {
@@ -93,41 +92,23 @@ void frmScenario::SetDisableJaar(std::int16_t Jr, bool NewValue) {
   vergrendeld_[static_cast<std::size_t>(Jr - 1)] = NewValue;
 }
 
-std::int16_t frmScenario::SoortScenario() const {
-  return soortScenario_;
-}
+std::int16_t frmScenario::SoortScenario() const { return soortScenario_; }
 
-void frmScenario::SetSoortScenario(std::int16_t soort) {
-  soortScenario_ = soort;
-}
+void frmScenario::SetSoortScenario(std::int16_t soort) { soortScenario_ = soort; }
 
-host::Color frmScenario::BackColor() const {
-  return form_->BackColor().value_or(host::kButtonFace);
-}
+host::Color frmScenario::BackColor() const { return form_->BackColor().value_or(host::kButtonFace); }
 
-void frmScenario::SetBackColor(host::Color New_Color) {
-  form_->SetBackColor(New_Color);
-}
+void frmScenario::SetBackColor(host::Color New_Color) { form_->SetBackColor(New_Color); }
 
-void frmScenario::ShowModal(host::Hoofdvenster* eigenaar) {
-  form_->ShowModal(eigenaar);
-}
+void frmScenario::ShowModal(host::Hoofdvenster* eigenaar) { form_->ShowModal(eigenaar); }
 
-host::Form& frmScenario::Form() {
-  return *form_;
-}
+host::Form& frmScenario::Form() { return *form_; }
 
-std::int16_t frmScenario::AantalJaar() const {
-  return aantalJaar_;
-}
+std::int16_t frmScenario::AantalJaar() const { return aantalJaar_; }
 
-const std::shared_ptr<host::BedragObject>& frmScenario::Scenario() const {
-  return scenario_;
-}
+const std::shared_ptr<host::BedragObject>& frmScenario::Scenario() const { return scenario_; }
 
-bool frmScenario::Gewijzigd() const {
-  return gewijzigd_;
-}
+bool frmScenario::Gewijzigd() const { return gewijzigd_; }
 
 void frmScenario::Form_Load() {
   Guarded([this] { frame::ScaleToResolution(desktop_, form_->Controls(), *form_); });
@@ -325,9 +306,8 @@ void frmScenario::Bewaar(Invoersoort soort) {
       MaakLeeg(bron);
       const double netto = rooster_.Percentage(1) - rooster_.Korting(1);
       bron.SetBedrag(frame::Finite(netto));
-      BewaarPercentages(rooster_, opzet_.korting, [&](std::int16_t maand, const auto& lees) {
-        Schrijf(bron, maand, lees, opzet_.korting);
-      });
+      BewaarPercentages(rooster_, opzet_.korting,
+                        [&](std::int16_t maand, const auto& lees) { Schrijf(bron, maand, lees, opzet_.korting); });
       return;
     }
     case Invoersoort::BedragEnPercentage: {
@@ -341,16 +321,10 @@ void frmScenario::Bewaar(Invoersoort soort) {
   }
 }
 
-void frmScenario::ToonTotaal() {
-  controls_[txtTotaal].SetNumber(rooster_.Totaal());
-}
+void frmScenario::ToonTotaal() { controls_[txtTotaal].SetNumber(rooster_.Totaal()); }
 
-host::BedragObject& frmScenario::Bron() const {
-  return host::Need(scenario_);
-}
+host::BedragObject& frmScenario::Bron() const { return host::Need(scenario_); }
 
-bool frmScenario::Aanvullen() const {
-  return controls_[chkAanvullen].Value() == host::kTicked;
-}
+bool frmScenario::Aanvullen() const { return controls_[chkAanvullen].Value() == host::kTicked; }
 
 }  // namespace brivane

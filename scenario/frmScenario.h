@@ -73,8 +73,7 @@ class frmScenario {
   void txtKorting_Validation(int Index);
 
   /// Ends a handler at an unexpected failure and shows it once.
-  template <class Body>
-  void Guarded(Body&& body);
+  template <class Body> void Guarded(Body&& body);
   /// Shows the failure being handled.
   void ToonFout();
 

@@ -36,8 +36,8 @@ void Toelichting::Validation(bool& Cancel, std::int32_t ControleNr) {
 }
 
 void Toelichting::Weiger(bool& Cancel, std::string_view melding) {
-  Cancel = desktop_.MessageBox(std::string(kOnjuisteInvoer), std::string(melding),
-                               host::MessageStyle::OkExclamation) == host::MessageAnswer::Ok;
+  Cancel = desktop_.MessageBox(std::string(kOnjuisteInvoer), std::string(melding), host::MessageStyle::OkExclamation) ==
+           host::MessageAnswer::Ok;
 }
 
 }  // namespace brivane

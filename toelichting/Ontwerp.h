@@ -30,6 +30,7 @@ inline constexpr std::string_view kHintLangleven =
     "worden meegeteld.";
 
 /// A label with a mnemonic goes to the box in the row below it.
+// clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen"},
     {.name = "lstToelichting", .kind = Kind::ListView, .place = kLijstPlaats, .parent = "fraScenarios", .tab = 1,
@@ -75,6 +76,7 @@ inline constexpr frame::Row kRijen[] = {
 };
 
 inline constexpr frame::Design kOntwerp{.name = "Toelichting", .rows = kRijen, .width = kBreedte, .height = kHoogte};
+// clang-format on
 static_assert(frame::Check(kOntwerp) == frame::Fault::None);
 
 inline constexpr auto fraScenarios = frame::Find<Kind::Frame>(kOntwerp, "fraScenarios");

@@ -15,8 +15,7 @@ void VrijeKolom::Validation(bool& Cancel, std::int32_t ControleNr) {
     if (Gewijzigd_ && HuidigeSituatie_ && !Cancel) VraagOvernemen();
     if (!Item_) return;
     if (!Cancel && (ControleNr == kControleVolledig || ControleNr == kControleAanvang)) ControleerAanvang(Cancel);
-    if (controls_[TxtDtEind].Enabled() && !Cancel &&
-        (ControleNr == kControleVolledig || ControleNr == kControleEinde))
+    if (controls_[TxtDtEind].Enabled() && !Cancel && (ControleNr == kControleVolledig || ControleNr == kControleEinde))
       ControleerEinde(Cancel);
     if (ControleNr == kControleVolledig) WerkVoorstellenBij();
   });
@@ -24,8 +23,8 @@ void VrijeKolom::Validation(bool& Cancel, std::int32_t ControleNr) {
 
 void VrijeKolom::VraagOvernemen() {
   if (StaatInNieuweSituatie()) {
-    const host::MessageAnswer antwoord = desktop_.MessageBox(
-        std::string(kOvernemenTitel), std::string(kOvernemenVraag), host::MessageStyle::YesNoQuestion);
+    const host::MessageAnswer antwoord = desktop_.MessageBox(std::string(kOvernemenTitel), std::string(kOvernemenVraag),
+                                                             host::MessageStyle::YesNoQuestion);
     if (antwoord == host::MessageAnswer::Yes) VerwijderUitNieuweSituatie();
   }
   Gewijzigd_ = false;

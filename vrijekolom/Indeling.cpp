@@ -19,9 +19,7 @@ constexpr std::int32_t kLooptijdTop = 660;
 constexpr std::int32_t kRijstap = 360;
 constexpr std::int32_t kAlgemeenMarge = 60;
 
-Twips Heel(Twips lengte) {
-  return {static_cast<float>(frame::ToInteger32(static_cast<double>(lengte.value)))};
-}
+Twips Heel(Twips lengte) { return {static_cast<float>(frame::ToInteger32(static_cast<double>(lengte.value)))}; }
 
 void ZetTop(host::Control& control, std::int32_t top) { control.Write(Measure::Top, static_cast<float>(top)); }
 

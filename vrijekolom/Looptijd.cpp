@@ -5,9 +5,7 @@
 
 namespace brivane::vrijekolom {
 
-std::int16_t LooptijdUit(double jaren, double maanden) {
-  return frame::ToInteger16(jaren * kMaandenPerJaar + maanden);
-}
+std::int16_t LooptijdUit(double jaren, double maanden) { return frame::ToInteger16(jaren * kMaandenPerJaar + maanden); }
 
 std::int16_t LooptijdTussen(host::Date aanvang, host::Date einde) {
   return frame::ToInteger16(frame::MonthsBetween(aanvang, einde));

@@ -41,6 +41,7 @@ inline constexpr int kProductHoog = 2790;
 inline constexpr int kToelichtingTop = kProductHoog + kKaderAfstand;
 
 /// A label with a mnemonic goes to the box in the row below it.
+// clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last"},
     // The indexes run against the order on the screen.
@@ -178,6 +179,7 @@ inline constexpr frame::Design kOntwerp{.name = "VrijeKolom",
                                         .rows = kRijen,
                                         .width = kRechtsLinks + kRechtsBreed,
                                         .height = kToelichtingTop + toelichting::kHoogte};
+// clang-format on
 static_assert(frame::Check(kOntwerp) == frame::Fault::None);
 
 inline constexpr auto fraLast = frame::Find<Kind::Frame>(kOntwerp, "fraLast");

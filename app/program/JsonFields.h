@@ -10,12 +10,8 @@
 
 namespace brivane::dossier {
 
-inline QJsonValue AlsJson(host::Date datum) {
-  return QString::fromStdString(frame::ShowDate(datum));
-}
-inline QJsonValue AlsJson(const std::string& tekst) {
-  return QString::fromStdString(tekst);
-}
+inline QJsonValue AlsJson(host::Date datum) { return QString::fromStdString(frame::ShowDate(datum)); }
+inline QJsonValue AlsJson(const std::string& tekst) { return QString::fromStdString(tekst); }
 template <class Getal>
 requires std::is_arithmetic_v<Getal> QJsonValue AlsJson(Getal getal) {
   if constexpr (std::is_same_v<Getal, bool>) return getal;

@@ -8,21 +8,19 @@
 #include <QTimer>
 #include <stdexcept>
 
-#include "app/screen/MainWindow.h"
 #include "app/program/DarkPalette.h"
 #include "app/program/Transcript.h"
+#include "app/screen/MainWindow.h"
+#include "controls/Surface.h"
 #include "frame/Calendar.h"
 #include "scenario/frmScenario.h"
-#include "controls/Surface.h"
 
 namespace brivane::dossier {
 namespace {
 
 using controls::Enter;
 
-host::Date Datum(int dag, int maand, int jaar) {
-  return frame::MakeDate({.year = jaar, .month = maand, .day = dag});
-}
+host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
 
 /// Closes each box that the window itself shows, and keeps what the first one said: nobody is there to read it.
 class Berichten final : public QObject {

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "dossier/store/StoreTrace.h"
 #include "app/program/EventLog.h"
+#include "dossier/store/StoreTrace.h"
 
 namespace brivane::dossier {
 

@@ -4,9 +4,9 @@
 #include <QJsonObject>
 #include <QString>
 
-#include "dossier/model/Dossier.h"
 #include "controls/Action.h"
 #include "controls/Control.h"
+#include "dossier/model/Dossier.h"
 
 namespace brivane::dossier {
 

@@ -2,12 +2,12 @@
 #include <QStandardPaths>
 #include <cstdio>
 
-#include "dossier/model/SampleCase.h"
-#include "app/screen/MainWindow.h"
-#include "app/program/Settings.h"
 #include "app/program/CommandLine.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
+#include "app/program/Settings.h"
+#include "app/screen/MainWindow.h"
+#include "dossier/model/SampleCase.h"
 
 namespace {
 

@@ -25,7 +25,8 @@ std::optional<std::string> Keuze(const controls::AnyControl& control, const cont
   const auto& entries = static_cast<const controls::ListBox&>(control).Entries();
   if (keuze->index < 0 || keuze->index >= static_cast<int>(entries.size())) return std::nullopt;
   const std::string& tekst = entries[static_cast<std::size_t>(keuze->index)].text;
-  const auto eerste = std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return entry.text == tekst; });
+  const auto eerste =
+      std::find_if(entries.begin(), entries.end(), [&](const auto& entry) { return entry.text == tekst; });
   if (eerste - entries.begin() != keuze->index) return std::nullopt;
   return tekst;
 }

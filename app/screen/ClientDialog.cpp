@@ -21,9 +21,7 @@ constexpr std::size_t kAchternaam = 2;
 constexpr int kLaagsteLeeftijd = 1;
 constexpr int kHoogsteLeeftijd = 120;
 
-frame::Reading<host::Date> LeesDatum(const QLineEdit& vak) {
-  return frame::ReadDate(vak.text().toStdString());
-}
+frame::Reading<host::Date> LeesDatum(const QLineEdit& vak) { return frame::ReadDate(vak.text().toStdString()); }
 
 }  // namespace
 

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/program/Today.h"
+#include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
 #include "app/screen/Messages.h"
-#include "app/recording/Recording.h"
-#include "app/program/Today.h"
 #include "frame/ErrorReport.h"
 
 namespace brivane::dossier {

@@ -6,12 +6,12 @@
 #include <optional>
 #include <vector>
 
+#include "app/program/TraceLog.h"
+#include "app/screen/KolomScreen.h"
+#include "app/screen/KolommenTree.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/ScenarioTransaction.h"
-#include "app/screen/KolommenTree.h"
-#include "app/screen/KolomScreen.h"
-#include "app/program/TraceLog.h"
 
 namespace brivane::dossier {
 

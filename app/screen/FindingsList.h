@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "dossier/model/DossierControle.h"
 #include "app/screen/Place.h"
+#include "dossier/model/DossierControle.h"
 
 class QLabel;
 class QTreeWidget;

@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "app/screen/KopregelLabel.h"
 #include "app/recording/Recording.h"
+#include "app/screen/KopregelLabel.h"
 #include "frame/Handle.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
@@ -93,9 +93,7 @@ void Kolomscherm::FocusGeweigerd() {
   }
 }
 
-void Kolomscherm::FocusOmschrijving() {
-  ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]);
-}
+void Kolomscherm::FocusOmschrijving() { ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
 
 void Kolomscherm::FocusEerste() {
   if (plek_.Vrij_Id) ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);

@@ -3,8 +3,8 @@
 #include <QStackedWidget>
 #include <memory>
 
-#include "dossier/model/Application.h"
 #include "app/screen/Place.h"
+#include "dossier/model/Application.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
 namespace brivane::dossier {

@@ -86,9 +86,7 @@ int Kolommenmodel::rowCount(const QModelIndex& parent) const {
   return static_cast<int>(leningen_[static_cast<std::size_t>(parent.row())].size());
 }
 
-int Kolommenmodel::columnCount(const QModelIndex&) const {
-  return 1;
-}
+int Kolommenmodel::columnCount(const QModelIndex&) const { return 1; }
 
 QVariant Kolommenmodel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
@@ -115,9 +113,7 @@ Qt::ItemFlags Kolommenmodel::flags(const QModelIndex& index) const {
   return KolomVan(index) ? vlaggen | Qt::ItemIsDragEnabled : vlaggen;
 }
 
-QStringList Kolommenmodel::mimeTypes() const {
-  return {QLatin1String(kMimeType)};
-}
+QStringList Kolommenmodel::mimeTypes() const { return {QLatin1String(kMimeType)}; }
 
 QMimeData* Kolommenmodel::mimeData(const QModelIndexList& indexes) const {
   if (indexes.isEmpty()) return nullptr;

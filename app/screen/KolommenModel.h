@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "dossier/model/Dossier.h"
 #include "app/screen/Place.h"
+#include "dossier/model/Dossier.h"
 
 namespace brivane::dossier {
 

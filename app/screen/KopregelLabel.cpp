@@ -18,9 +18,7 @@ void Kopregel::Toon(const QString& tekst) {
   setToolTip(tekst);
 }
 
-QSize Kopregel::minimumSizeHint() const {
-  return {0, QLabel::minimumSizeHint().height()};
-}
+QSize Kopregel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
 
 void Kopregel::paintEvent(QPaintEvent*) {
   QPainter schilder(this);

@@ -10,8 +10,8 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
-#include "app/screen/FindingsList.h"
 #include "app/program/Settings.h"
+#include "app/screen/FindingsList.h"
 #include "app/screen/Messages.h"
 #include "app/screen/StartPage.h"
 #include "toolkits/qt/widgets/FormWindow.h"

@@ -4,9 +4,9 @@
 #include <QPointer>
 #include <memory>
 
+#include "app/recording/Recording.h"
 #include "app/screen/Actions.h"
 #include "app/screen/DossierScreen.h"
-#include "app/recording/Recording.h"
 
 class QLabel;
 class QStackedWidget;

@@ -6,12 +6,12 @@
 #include <QMenu>
 #include <QMessageBox>
 
-#include "dossier/model/SampleCase.h"
-#include "app/screen/FindingsList.h"
-#include "app/screen/ClientDialog.h"
-#include "app/screen/MainWindow.h"
-#include "app/program/Settings.h"
 #include "app/program/EventLogWindow.h"
+#include "app/program/Settings.h"
+#include "app/screen/ClientDialog.h"
+#include "app/screen/FindingsList.h"
+#include "app/screen/MainWindow.h"
+#include "dossier/model/SampleCase.h"
 
 namespace brivane::dossier {
 namespace {

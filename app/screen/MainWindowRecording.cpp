@@ -4,8 +4,8 @@
 #include <QFileDialog>
 #include <QStatusBar>
 
-#include "app/screen/MainWindow.h"
 #include "app/program/Settings.h"
+#include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
 
 namespace brivane::dossier {
@@ -50,15 +50,17 @@ void Hoofdvenster::StopOpname() {
   if (bewaard)
     statusBar()->showMessage(QStringLiteral("Opname bewaard: %1").arg(bestand));
   else
-    ToonMelding(this, QString::fromLatin1(kTitel), QStringLiteral("De opname kan niet worden bewaard:\n\n%1").arg(bestand));
+    ToonMelding(this, QString::fromLatin1(kTitel),
+                QStringLiteral("De opname kan niet worden bewaard:\n\n%1").arg(bestand));
 }
 
 void Hoofdvenster::OpnameGebroken() {
   if (!opname_.Loopt()) return;
   StopOpname();
-  ToonMelding(this, QString::fromLatin1(kTitel),
-              QStringLiteral("De opname is gestopt: het dossier is buiten de velden van de vrije kolom om gewijzigd, en "
-                             "dat kan niet worden nagespeeld.\n\nWat daarvoor is opgenomen, is bewaard."));
+  ToonMelding(
+      this, QString::fromLatin1(kTitel),
+      QStringLiteral("De opname is gestopt: het dossier is buiten de velden van de vrije kolom om gewijzigd, en "
+                     "dat kan niet worden nagespeeld.\n\nWat daarvoor is opgenomen, is bewaard."));
 }
 
 }  // namespace brivane::dossier

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "host/model/Application.h"
-#include "host/model/DossierControle.h"
 #include "host/controls/Button.h"
 #include "host/controls/CheckBox.h"
 #include "host/controls/Frame.h"
@@ -16,6 +14,8 @@
 #include "host/controls/OptionButton.h"
 #include "host/controls/Surface.h"
 #include "host/controls/TextBox.h"
+#include "host/model/Application.h"
+#include "host/model/DossierControle.h"
 
 namespace bench {
 

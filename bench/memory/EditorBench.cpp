@@ -58,7 +58,8 @@ struct Sides {
         controls(*editorSurface),
         bareSurface(toolkit.MakeSurface(vrijekolom::kOntwerp)),
         bare(*bareSurface, MakeApplication(kind), std::make_shared<memory_host::Trace>(),
-             std::make_shared<memory_host::DossierControle>(), [this](const std::string& text) { heard += text.size(); }) {
+             std::make_shared<memory_host::DossierControle>(),
+             [this](const std::string& text) { heard += text.size(); }) {
     toolkit.Desktop().today = MakeDate({2026, 11, 21});
     editor.RefreshTopDisplay.Connect([this](const std::string& text) { heard += text.size(); });
     editor.SetApplication(editorApplication, 0, 1);
@@ -95,7 +96,8 @@ void Box(const std::string& name, Sides& sides, host::TextBox* box, void (bench:
 
 /// Click and Change: the event of a control, without the change of value that led to it.
 template <class Event> void Signal(const std::string& name, Sides& sides, Event* event, void (bench::Bare::*calls)()) {
-  Handler(name, sides, [event] { event->Raise(); }, calls);
+  Handler(
+      name, sides, [event] { event->Raise(); }, calls);
 }
 
 void AddCost(Sides& s) {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "bench/Compare.h"
+#include "controls/Surface.h"
 #include "examples/host/MemoryHost.h"
 #include "scenario/frmScenario.h"
-#include "controls/Surface.h"
 #include "toolkits/memory/Toolkit.h"
 
 namespace {
@@ -29,7 +29,8 @@ void Grow(PlainRows& rows, double first) {
   rows.amounts[0] = first;
   double percentage = rows.percentages[0];
   for (std::size_t r = 0; r + 1 < kRows; ++r) {
-    rows.amounts[r + 1] = rows.amounts[r] * (static_cast<double>(static_cast<float>(percentage)) / 100) + rows.amounts[r];
+    rows.amounts[r + 1] =
+        rows.amounts[r] * (static_cast<double>(static_cast<float>(percentage)) / 100) + rows.amounts[r];
     if (rows.percentages[r + 1] > 0) percentage = rows.percentages[r + 1];
   }
   benchmark::DoNotOptimize(rows);

@@ -3,10 +3,10 @@
 
 #include "bench/Compare.h"
 #include "bench/qt/PlainEditor.h"
+#include "controls/TextBox.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Environment.h"
 #include "frame/Calendar.h"
-#include "controls/TextBox.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
 namespace {
@@ -54,9 +54,7 @@ std::shared_ptr<dossier::Application> MakeHost() {
       std::make_shared<dossier::Dossier>(gegevens, std::make_shared<dossier::Omgeving>()));
 }
 
-void Paint() {
-  QApplication::processEvents();
-}
+void Paint() { QApplication::processEvents(); }
 
 }  // namespace
 

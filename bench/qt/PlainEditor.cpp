@@ -100,9 +100,7 @@ std::function<void()> Capture(const QWidget& original, QWidget& copy) {
 
 }  // namespace
 
-PlainEditor::PlainEditor(const QWidget& original) {
-  Copy(original, nullptr);
-}
+PlainEditor::PlainEditor(const QWidget& original) { Copy(original, nullptr); }
 
 void PlainEditor::Copy(const QWidget& original, QWidget* parent) {
   QWidget* const copy = CopyOne(original, parent);
@@ -131,8 +129,6 @@ PlainEditor::State PlainEditor::Capture() const {
   return state;
 }
 
-QWidget& PlainEditor::Find(const QString& name) const {
-  return *copies_.front()->findChild<QWidget*>(name);
-}
+QWidget& PlainEditor::Find(const QString& name) const { return *copies_.front()->findChild<QWidget*>(name); }
 
 }  // namespace bench

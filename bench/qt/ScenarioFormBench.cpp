@@ -4,10 +4,10 @@
 
 #include "bench/Compare.h"
 #include "bench/qt/PlainForm.h"
+#include "controls/TextBox.h"
 #include "scenario/Ontwerp.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "controls/TextBox.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 
 namespace bench {

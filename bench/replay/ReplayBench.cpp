@@ -28,7 +28,8 @@ std::string LongSession() {
   };
   std::string text = R"({"dossier": {"personen": [{}], "HuidigeLening": {"VrijeKolommen": [{}]}}, "steps": [
 {"do": "SetApplication", "Len_Id": 0, "Vrij_Id": 1})";
-  for (int i = 0; i < kActions; ++i) text += std::string(",\n") + actions[static_cast<std::size_t>(i) % std::size(actions)];
+  for (int i = 0; i < kActions; ++i)
+    text += std::string(",\n") + actions[static_cast<std::size_t>(i) % std::size(actions)];
   return text + "]}";
 }
 

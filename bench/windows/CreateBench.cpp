@@ -42,8 +42,8 @@ int main() {
   const HMODULE library = LoadLibraryW(L"BrivaneVrijeKolom.dll");
   const double load = loading.Lap();
   using GetClassObject = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
-  const auto get = reinterpret_cast<GetClassObject>(reinterpret_cast<void*>(
-      library ? GetProcAddress(library, "DllGetClassObject") : nullptr));
+  const auto get = reinterpret_cast<GetClassObject>(
+      reinterpret_cast<void*>(library ? GetProcAddress(library, "DllGetClassObject") : nullptr));
   ComPtr<IClassFactory> factory;
   if (!get || FAILED(get(CLSID_VrijeKolom, IID_PPV_ARGS(factory.Put())))) {
     std::puts("BrivaneVrijeKolom.dll is not beside this program");

@@ -29,9 +29,7 @@ class Adapter {
   void Replace(ComPtr<IDispatch> object);
 
  protected:
-  template <class T> [[nodiscard]] T Get(std::wstring_view name) const {
-    return As<T>(Target().Get(name));
-  }
+  template <class T> [[nodiscard]] T Get(std::wstring_view name) const { return As<T>(Target().Get(name)); }
   template <class T, class... Arguments> [[nodiscard]] T Get(std::wstring_view name, Arguments... arguments) const {
     const Variant list[]{Variant(arguments)...};
     return As<T>(Target().Get(name, list));

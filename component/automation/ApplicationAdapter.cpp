@@ -48,8 +48,8 @@ void ApplicationAdapter::VulCombo(const std::shared_ptr<host::Codetabellen>& bro
                                   host::ListBox& lijst, const std::string& code, const std::string& leeg,
                                   std::optional<std::int32_t> keuze) {
   const KeuzelijstLening geleend(lijst);
-  const std::array arguments{Handed(bron), Variant(tabel),   Variant(geleend.Object()),
-                             Variant(code), Variant(leeg), keuze ? Variant(*keuze) : Variant::Missing()};
+  const std::array arguments{Handed(bron),  Variant(tabel), Variant(geleend.Object()),
+                             Variant(code), Variant(leeg),  keuze ? Variant(*keuze) : Variant::Missing()};
   Target().Call(L"VulCombo", arguments);
 }
 

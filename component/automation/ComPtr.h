@@ -1,8 +1,8 @@
 #pragma once
 
-#include <utility>
-
 #include "component/automation/Windows.h"
+
+#include <utility>
 
 namespace brivane::component {
 

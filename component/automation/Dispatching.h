@@ -25,8 +25,7 @@ template <class Interface> class Dispatching : public Interface, public ISupport
   }
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
     HRESULT result = E_UNEXPECTED;
-    const HRESULT described =
-        Answering<Interface>([&] { result = Described()->GetIDsOfNames(names, count, ids); });
+    const HRESULT described = Answering<Interface>([&] { result = Described()->GetIDsOfNames(names, count, ids); });
     return FAILED(described) ? described : result;
   }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* error,

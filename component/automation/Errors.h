@@ -1,8 +1,9 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <utility>
 
-#include "component/automation/Windows.h"
 #include "host/Error.h"
 
 /// The one translation of failures at the boundary: results and error records of Automation to the component's errors,

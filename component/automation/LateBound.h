@@ -1,13 +1,13 @@
 #pragma once
 
+#include <dispex.h>
+
 #include <map>
 #include <span>
 #include <string_view>
 
 #include "component/automation/ComPtr.h"
 #include "component/automation/Variant.h"
-
-#include <dispex.h>
 
 namespace brivane::component {
 

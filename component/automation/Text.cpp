@@ -28,8 +28,6 @@ BSTR NewBstr(std::string_view text) {
   return bstr;
 }
 
-std::string FromBstr(BSTR text) {
-  return text ? Narrow({text, SysStringLen(text)}) : std::string();
-}
+std::string FromBstr(BSTR text) { return text ? Narrow({text, SysStringLen(text)}) : std::string(); }
 
 }  // namespace brivane::component

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <string>
 #include <string_view>
-
-#include "component/automation/Windows.h"
 
 /// The logic's texts are UTF-8, those of Windows UTF-16.
 namespace brivane::component {

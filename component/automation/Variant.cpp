@@ -114,45 +114,27 @@ void Variant::MoveTo(VARIANT* out) noexcept {
   VariantInit(&value_);
 }
 
-template <>
-bool As<bool>(const VARIANT& value) {
-  return Changed(value, VT_BOOL).Raw().boolVal != VARIANT_FALSE;
-}
+template <> bool As<bool>(const VARIANT& value) { return Changed(value, VT_BOOL).Raw().boolVal != VARIANT_FALSE; }
 
-template <>
-std::int16_t As<std::int16_t>(const VARIANT& value) {
-  return Changed(value, VT_I2).Raw().iVal;
-}
+template <> std::int16_t As<std::int16_t>(const VARIANT& value) { return Changed(value, VT_I2).Raw().iVal; }
 
-template <>
-std::int32_t As<std::int32_t>(const VARIANT& value) {
-  return Changed(value, VT_I4).Raw().lVal;
-}
+template <> std::int32_t As<std::int32_t>(const VARIANT& value) { return Changed(value, VT_I4).Raw().lVal; }
 
-template <>
-float As<float>(const VARIANT& value) {
-  return Changed(value, VT_R4).Raw().fltVal;
-}
+template <> float As<float>(const VARIANT& value) { return Changed(value, VT_R4).Raw().fltVal; }
 
-template <>
-double As<double>(const VARIANT& value) {
-  return Changed(value, VT_R8).Raw().dblVal;
-}
+template <> double As<double>(const VARIANT& value) { return Changed(value, VT_R8).Raw().dblVal; }
 
-template <>
-std::string As<std::string>(const VARIANT& value) {
+template <> std::string As<std::string>(const VARIANT& value) {
   return FromBstr(Changed(value, VT_BSTR).Raw().bstrVal);
 }
 
-template <>
-host::Date As<host::Date>(const VARIANT& value) {
+template <> host::Date As<host::Date>(const VARIANT& value) {
   const double days = std::trunc(Changed(value, VT_DATE).Raw().date);
   if (!(days >= kFirstDay && days <= kLastDay)) throw host::Error(host::ErrorNumber::Overflow);
   return host::Date(static_cast<std::int32_t>(days));
 }
 
-template <>
-ComPtr<IDispatch> As<ComPtr<IDispatch>>(const VARIANT& value) {
+template <> ComPtr<IDispatch> As<ComPtr<IDispatch>>(const VARIANT& value) {
   const Variant plain = Variant::CopyOf(value);
   if (IsNothing(plain.Raw())) return {};
   if (plain.Type() != VT_DISPATCH && plain.Type() != VT_UNKNOWN) throw host::Error(host::ErrorNumber::TypeMismatch);
@@ -161,8 +143,7 @@ ComPtr<IDispatch> As<ComPtr<IDispatch>>(const VARIANT& value) {
   return object;
 }
 
-template <>
-std::vector<Variant> As<std::vector<Variant>>(const VARIANT& value) {
+template <> std::vector<Variant> As<std::vector<Variant>>(const VARIANT& value) {
   const Variant plain = Variant::CopyOf(value);
   if (!(plain.Type() & VT_ARRAY) || SafeArrayGetDim(plain.Raw().parray) != 1)
     throw host::Error(host::ErrorNumber::TypeMismatch);
@@ -187,8 +168,6 @@ std::vector<Variant> As<std::vector<Variant>>(const VARIANT& value) {
   return elements;
 }
 
-bool IsMissing(const VARIANT& value) {
-  return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
-}
+bool IsMissing(const VARIANT& value) { return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND; }
 
 }  // namespace brivane::component

@@ -70,9 +70,7 @@ template <> ComPtr<IDispatch> As<ComPtr<IDispatch>>(const VARIANT& value);
 /// The elements of an array of one dimension, of whatever type and from whatever bound on; error 13 for what is none.
 template <> std::vector<Variant> As<std::vector<Variant>>(const VARIANT& value);
 
-template <class T> [[nodiscard]] T As(const Variant& value) {
-  return As<T>(value.Raw());
-}
+template <class T> [[nodiscard]] T As(const Variant& value) { return As<T>(value.Raw()); }
 
 /// Whether an optional argument was left out.
 [[nodiscard]] bool IsMissing(const VARIANT& value);

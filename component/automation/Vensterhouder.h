@@ -1,8 +1,9 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <memory>
 
-#include "component/automation/Windows.h"
 #include "host/model/Hoofdvenster.h"
 
 namespace brivane::component {

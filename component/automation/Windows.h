@@ -6,13 +6,12 @@
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-#include <windows.h>
-
 #include <oaidl.h>
 #include <ocidl.h>
 #include <ole2.h>
 #include <oleauto.h>
 #include <olectl.h>
+#include <windows.h>
 
 // The interfaces of COM have no virtual destructor: an object goes when its count of references does.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"

@@ -13,9 +13,7 @@ namespace {
 // The title that a container may put in its own caption.
 constexpr wchar_t kNoTitle[] = L"";
 
-bool SameSize(SIZE a, SIZE b) {
-  return a.cx == b.cx && a.cy == b.cy;
-}
+bool SameSize(SIZE a, SIZE b) { return a.cx == b.cx && a.cy == b.cy; }
 
 TabEnd EndOf(const MSG* by) {
   const bool backwards = by && by->message == WM_KEYDOWN && by->wParam == VK_TAB && ::GetKeyState(VK_SHIFT) < 0;
@@ -173,9 +171,7 @@ void Activation::AskForOwnSize() {
   refused_ = own;
 }
 
-void Activation::FollowUserMode() {
-  window_.SetUsable(site_.AmbientUserMode());
-}
+void Activation::FollowUserMode() { window_.SetUsable(site_.AmbientUserMode()); }
 
 void Activation::FocusCame(TabEnd end) {
   Answer([&] {

@@ -7,8 +7,7 @@
 namespace brivane::component {
 
 /// Runs what a container asked for and answers its result: a failure becomes one, no exception crosses.
-template <class Body>
-HRESULT Answer(Body&& body) noexcept {
+template <class Body> HRESULT Answer(Body&& body) noexcept {
   try {
     return std::forward<Body>(body)();
   } catch (...) {

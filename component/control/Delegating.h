@@ -1,13 +1,13 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "component/control/Subject.h"
 
 namespace brivane::component {
 
 /// Interfaces of the control, whose identity and count of references are those of the object around it.
-template <class... Interfaces>
-class Delegating : public Interfaces... {
+template <class... Interfaces> class Delegating : public Interfaces... {
  public:
   explicit Delegating(Subject& subject) : subject_(subject) {}
   Delegating(const Delegating&) = delete;

@@ -22,9 +22,7 @@ HINSTANCE Module() {
   return module;
 }
 
-bool IsDown(int key) {
-  return ::GetKeyState(key) < 0;
-}
+bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
 }  // namespace
 
@@ -52,9 +50,7 @@ FrameWindow::ClassUse::~ClassUse() {
   if (--classUsers == 0) ::UnregisterClassW(ClassName(), Module());
 }
 
-FrameWindow::~FrameWindow() {
-  Destroy();
-}
+FrameWindow::~FrameWindow() { Destroy(); }
 
 bool FrameWindow::Create(HWND container) {
   const SIZE size = SizeOfWindow(subject_.Window());

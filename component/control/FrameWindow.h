@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "component/control/Subject.h"
 
 namespace brivane::component {

@@ -6,9 +6,7 @@ namespace brivane::component {
 
 namespace {
 
-bool IsDown(int key) {
-  return ::GetKeyState(key) < 0;
-}
+bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
 /// Whether a key is one by which text is edited. A container may have a use of its own for these (a page that scrolls
 /// by the arrow keys); as long as a box has the focus they belong to the box.
@@ -51,9 +49,7 @@ STDMETHODIMP InPlaceObject::GetWindow(HWND* window) {
   return *window ? S_OK : E_FAIL;
 }
 
-STDMETHODIMP InPlaceObject::ContextSensitiveHelp(BOOL) {
-  return E_NOTIMPL;
-}
+STDMETHODIMP InPlaceObject::ContextSensitiveHelp(BOOL) { return E_NOTIMPL; }
 
 STDMETHODIMP InPlaceObject::InPlaceDeactivate() {
   const ComPtr<IUnknown> keep(&TheSubject().Outer());
@@ -77,9 +73,7 @@ STDMETHODIMP InPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) {
   return Answer([&] { return activation_.Place(*place, clip ? *clip : *place); });
 }
 
-STDMETHODIMP InPlaceObject::ReactivateAndUndo() {
-  return INPLACE_E_NOTUNDOABLE;
-}
+STDMETHODIMP InPlaceObject::ReactivateAndUndo() { return INPLACE_E_NOTUNDOABLE; }
 
 STDMETHODIMP InPlaceObject::TranslateAccelerator(MSG* message) {
   if (!message) return E_POINTER;
@@ -101,17 +95,9 @@ STDMETHODIMP InPlaceObject::TranslateAccelerator(MSG* message) {
   });
 }
 
-STDMETHODIMP InPlaceObject::OnFrameWindowActivate(BOOL) {
-  return S_OK;
-}
-STDMETHODIMP InPlaceObject::OnDocWindowActivate(BOOL) {
-  return S_OK;
-}
-STDMETHODIMP InPlaceObject::ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, BOOL) {
-  return S_OK;
-}
-STDMETHODIMP InPlaceObject::EnableModeless(BOOL) {
-  return S_OK;
-}
+STDMETHODIMP InPlaceObject::OnFrameWindowActivate(BOOL) { return S_OK; }
+STDMETHODIMP InPlaceObject::OnDocWindowActivate(BOOL) { return S_OK; }
+STDMETHODIMP InPlaceObject::ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, BOOL) { return S_OK; }
+STDMETHODIMP InPlaceObject::EnableModeless(BOOL) { return S_OK; }
 
 }  // namespace brivane::component

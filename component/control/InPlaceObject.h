@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "component/control/Activation.h"
 #include "component/control/Delegating.h"
 #include "component/control/Site.h"

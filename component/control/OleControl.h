@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "component/control/Activation.h"
 #include "component/control/ControlFace.h"
 #include "component/control/InPlaceObject.h"

@@ -31,13 +31,9 @@ STDMETHODIMP OleObject::SetClientSite(IOleClientSite* client) {
   });
 }
 
-STDMETHODIMP OleObject::GetClientSite(IOleClientSite** client) {
-  return site_.Client().CopyTo(client);
-}
+STDMETHODIMP OleObject::GetClientSite(IOleClientSite** client) { return site_.Client().CopyTo(client); }
 
-STDMETHODIMP OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) {
-  return S_OK;
-}
+STDMETHODIMP OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
 
 STDMETHODIMP OleObject::Close(DWORD save) {
   const ComPtr<IUnknown> keep(this);
@@ -53,18 +49,14 @@ STDMETHODIMP OleObject::Close(DWORD save) {
   });
 }
 
-STDMETHODIMP OleObject::SetMoniker(DWORD, IMoniker*) {
-  return E_NOTIMPL;
-}
+STDMETHODIMP OleObject::SetMoniker(DWORD, IMoniker*) { return E_NOTIMPL; }
 
 STDMETHODIMP OleObject::GetMoniker(DWORD, DWORD, IMoniker** moniker) {
   if (moniker) *moniker = nullptr;
   return E_NOTIMPL;
 }
 
-STDMETHODIMP OleObject::InitFromData(IDataObject*, BOOL, DWORD) {
-  return E_NOTIMPL;
-}
+STDMETHODIMP OleObject::InitFromData(IDataObject*, BOOL, DWORD) { return E_NOTIMPL; }
 
 STDMETHODIMP OleObject::GetClipboardData(DWORD, IDataObject** data) {
   if (data) *data = nullptr;
@@ -98,12 +90,8 @@ STDMETHODIMP OleObject::EnumVerbs(IEnumOLEVERB** verbs) {
   return OLE_S_USEREG;
 }
 
-STDMETHODIMP OleObject::Update() {
-  return S_OK;
-}
-STDMETHODIMP OleObject::IsUpToDate() {
-  return S_OK;
-}
+STDMETHODIMP OleObject::Update() { return S_OK; }
+STDMETHODIMP OleObject::IsUpToDate() { return S_OK; }
 
 STDMETHODIMP OleObject::GetUserClassID(CLSID* id) {
   if (!id) return E_POINTER;
@@ -132,9 +120,7 @@ STDMETHODIMP OleObject::SetExtent(DWORD aspect, SIZEL* size) {
   });
 }
 
-STDMETHODIMP OleObject::GetExtent(DWORD aspect, SIZEL* size) {
-  return view_.GetExtent(aspect, -1, nullptr, size);
-}
+STDMETHODIMP OleObject::GetExtent(DWORD aspect, SIZEL* size) { return view_.GetExtent(aspect, -1, nullptr, size); }
 
 STDMETHODIMP OleObject::Advise(IAdviseSink* sink, DWORD* cookie) {
   if (!advised_) {
@@ -143,9 +129,7 @@ STDMETHODIMP OleObject::Advise(IAdviseSink* sink, DWORD* cookie) {
   return advised_->Advise(sink, cookie);
 }
 
-STDMETHODIMP OleObject::Unadvise(DWORD cookie) {
-  return advised_ ? advised_->Unadvise(cookie) : OLE_E_NOCONNECTION;
-}
+STDMETHODIMP OleObject::Unadvise(DWORD cookie) { return advised_ ? advised_->Unadvise(cookie) : OLE_E_NOCONNECTION; }
 
 STDMETHODIMP OleObject::EnumAdvise(IEnumSTATDATA** sinks) {
   if (!sinks) return E_POINTER;
@@ -159,8 +143,6 @@ STDMETHODIMP OleObject::GetMiscStatus(DWORD aspect, DWORD* status) {
   return S_OK;
 }
 
-STDMETHODIMP OleObject::SetColorScheme(LOGPALETTE*) {
-  return E_NOTIMPL;
-}
+STDMETHODIMP OleObject::SetColorScheme(LOGPALETTE*) { return E_NOTIMPL; }
 
 }  // namespace brivane::component

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "component/automation/ComPtr.h"
 #include "component/automation/Windows.h"
+
+#include "component/automation/ComPtr.h"
 #include "component/control/Activation.h"
 #include "component/control/Delegating.h"
 #include "component/control/Properties.h"

@@ -10,12 +10,8 @@ namespace brivane::component {
 
 namespace {
 
-bool HasStyle(HWND window, LONG style) {
-  return (::GetWindowLongW(window, GWL_STYLE) & style) != 0;
-}
-bool HasExtendedStyle(HWND window, LONG style) {
-  return (::GetWindowLongW(window, GWL_EXSTYLE) & style) != 0;
-}
+bool HasStyle(HWND window, LONG style) { return (::GetWindowLongW(window, GWL_STYLE) & style) != 0; }
+bool HasExtendedStyle(HWND window, LONG style) { return (::GetWindowLongW(window, GWL_EXSTYLE) & style) != 0; }
 
 /// A picture in memory, in the colours of the screen.
 class Picture {

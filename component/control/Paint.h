@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "host/Color.h"
 
 namespace brivane::component {

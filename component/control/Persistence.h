@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "component/control/Boundary.h"
 #include "component/control/Delegating.h"
 #include "component/control/Properties.h"
@@ -13,8 +14,7 @@ HRESULT WriteKept(IStream& stream, const Kept& kept);
 HRESULT ReadKept(IStream& stream, Kept& kept);
 
 /// What the ways of keeping have in common.
-template <class Interface>
-class Persistence : public Delegating<Interface> {
+template <class Interface> class Persistence : public Delegating<Interface> {
  public:
   Persistence(Subject& subject, Properties& properties) : Delegating<Interface>(subject), properties_(properties) {}
 

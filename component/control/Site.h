@@ -1,9 +1,10 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <optional>
 
 #include "component/automation/ComPtr.h"
-#include "component/automation/Windows.h"
 #include "host/Color.h"
 
 namespace brivane::component {

@@ -37,8 +37,6 @@ STDMETHODIMP StoragePersistence::SaveCompleted(IStorage*) {
 }
 
 // A storage is used while it is handed over and never held: there is nothing to let go of between two saves.
-STDMETHODIMP StoragePersistence::HandsOffStorage() {
-  return S_OK;
-}
+STDMETHODIMP StoragePersistence::HandsOffStorage() { return S_OK; }
 
 }  // namespace brivane::component

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <string>
 
-#include "component/automation/Windows.h"
 #include "component/control/Units.h"
 #include "host/Color.h"
 

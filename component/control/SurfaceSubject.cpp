@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "frame/Design.h"
 #include "controls/Surface.h"
+#include "frame/Design.h"
 
 namespace brivane::component {
 
@@ -20,9 +20,7 @@ void Collect(const frame::Design& design, std::wstring& letters) {
 
 }  // namespace
 
-float SurfaceSubject::Scale() const {
-  return static_cast<float>(toolkit_.Edge().Scale() * kDesignedDpi / ScreenDpi());
-}
+float SurfaceSubject::Scale() const { return static_cast<float>(toolkit_.Edge().Scale() * kDesignedDpi / ScreenDpi()); }
 
 Extent SurfaceSubject::Extent() const {
   const host::Place place = surface_.Place();

@@ -12,21 +12,15 @@ constexpr double kTwipsPerInch = 1440.0;
 
 }  // namespace
 
-LONG HimetricOf(host::Twips length) {
-  return std::lround(static_cast<double>(length.value) * kHimetricPerTwip);
-}
+LONG HimetricOf(host::Twips length) { return std::lround(static_cast<double>(length.value) * kHimetricPerTwip); }
 
-host::Twips TwipsOfHimetric(LONG length) {
-  return {static_cast<float>(length / kHimetricPerTwip)};
-}
+host::Twips TwipsOfHimetric(LONG length) { return {static_cast<float>(length / kHimetricPerTwip)}; }
 
 int PixelsOf(host::Twips length, int dpi) {
   return static_cast<int>(std::lround(static_cast<double>(length.value) * dpi / kTwipsPerInch));
 }
 
-host::Twips TwipsOfPixels(int pixels, int dpi) {
-  return {static_cast<float>(pixels * kTwipsPerInch / dpi)};
-}
+host::Twips TwipsOfPixels(int pixels, int dpi) { return {static_cast<float>(pixels * kTwipsPerInch / dpi)}; }
 
 int ScreenDpi() {
   const HDC screen = ::GetDC(nullptr);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/automation/Windows.h"
+
 #include "host/Twips.h"
 
 /// Containers measure in himetric (0.01 mm) and in pixels, the controls in twips (1/1440 inch).
@@ -25,12 +26,8 @@ struct Extent {
 /// Dots per inch of the screen.
 [[nodiscard]] int ScreenDpi();
 
-[[nodiscard]] inline int WidthOf(const RECT& rect) {
-  return rect.right - rect.left;
-}
-[[nodiscard]] inline int HeightOf(const RECT& rect) {
-  return rect.bottom - rect.top;
-}
+[[nodiscard]] inline int WidthOf(const RECT& rect) { return rect.right - rect.left; }
+[[nodiscard]] inline int HeightOf(const RECT& rect) { return rect.bottom - rect.top; }
 [[nodiscard]] SIZE SizeOfWindow(HWND window);
 
 }  // namespace brivane::component

@@ -5,9 +5,7 @@
 
 namespace brivane::component {
 
-SIZEL HimetricOf(const Extent& extent) {
-  return {HimetricOf(extent.width), HimetricOf(extent.height)};
-}
+SIZEL HimetricOf(const Extent& extent) { return {HimetricOf(extent.width), HimetricOf(extent.height)}; }
 
 void View::Changed() {
   if (!sink_ || !(aspects_ & DVASPECT_CONTENT)) return;
@@ -34,12 +32,8 @@ STDMETHODIMP View::GetColorSet(DWORD, LONG, void*, DVTARGETDEVICE*, HDC, LOGPALE
   return S_FALSE;
 }
 
-STDMETHODIMP View::Freeze(DWORD, LONG, void*, DWORD*) {
-  return E_NOTIMPL;
-}
-STDMETHODIMP View::Unfreeze(DWORD) {
-  return E_NOTIMPL;
-}
+STDMETHODIMP View::Freeze(DWORD, LONG, void*, DWORD*) { return E_NOTIMPL; }
+STDMETHODIMP View::Unfreeze(DWORD) { return E_NOTIMPL; }
 
 STDMETHODIMP View::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
   sink_ = ComPtr<IAdviseSink>(sink);

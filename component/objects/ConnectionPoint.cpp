@@ -139,9 +139,8 @@ STDMETHODIMP ConnectionPoint::EnumConnections(IEnumConnections** connections) {
 
 STDMETHODIMP ConnectionPoints::EnumConnectionPoints(IEnumConnectionPoints** points) {
   if (!points) return E_POINTER;
-  return Answering<IConnectionPointContainer>([&] {
-    *points = new WalkPoints(std::vector<ComPtr<IConnectionPoint>>(points_.begin(), points_.end()));
-  });
+  return Answering<IConnectionPointContainer>(
+      [&] { *points = new WalkPoints(std::vector<ComPtr<IConnectionPoint>>(points_.begin(), points_.end())); });
 }
 
 STDMETHODIMP ConnectionPoints::FindConnectionPoint(REFIID iid, IConnectionPoint** point) {

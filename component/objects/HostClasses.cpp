@@ -26,7 +26,8 @@ ComPtr<IDispatch> CreateByProgId(const std::string& progId) {
   HRESULT result = CLSIDFromProgID(Wide(progId).c_str(), &id);
   if (SUCCEEDED(result))
     result = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_PPV_ARGS(object.Put()));
-  if (FAILED(result)) throw host::Error(kCannotCreate, "Cannot create an object of class " + progId, "BrivaneVrijeKolom");
+  if (FAILED(result))
+    throw host::Error(kCannotCreate, "Cannot create an object of class " + progId, "BrivaneVrijeKolom");
   return object;
 }
 
@@ -58,12 +59,10 @@ HostClasses RegisteredHostClasses(const CLSID& control) {
 }
 
 host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks) {
-  return {.MaakProcedureTrace =
-              [&](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
-                return session.Make<TraceAdapter>([&classes, &hooks, name = std::string(control)] {
-                  return MakeTrace(classes, hooks, name);
-                });
-              },
+  return {.MaakProcedureTrace = [&](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
+            return session.Make<TraceAdapter>(
+                [&classes, &hooks, name = std::string(control)] { return MakeTrace(classes, hooks, name); });
+          },
           .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
             ComPtr<IDispatch> made = MakeControle(classes, hooks, control);
             if (!made) return std::make_shared<GeenControle>();

@@ -56,11 +56,11 @@ class Identity : private module::LiveObject {
 };
 
 /// The three methods of IUnknown for an object's interfaces: they are those of its identity.
-#define BRIVANE_IDENTITY()                                                                              \
-  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {                                        \
-    return this->Controlling().QueryInterface(iid, out);                                                \
-  }                                                                                                     \
-  STDMETHODIMP_(ULONG) AddRef() override { return this->Controlling().AddRef(); }                       \
+#define BRIVANE_IDENTITY()                                                        \
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {                  \
+    return this->Controlling().QueryInterface(iid, out);                          \
+  }                                                                               \
+  STDMETHODIMP_(ULONG) AddRef() override { return this->Controlling().AddRef(); } \
   STDMETHODIMP_(ULONG) Release() override { return this->Controlling().Release(); }
 
 }  // namespace brivane::component

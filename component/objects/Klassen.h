@@ -1,8 +1,8 @@
 #pragma once
 
-#include <span>
-
 #include "component/automation/Windows.h"
+
+#include <span>
 
 namespace brivane::component {
 

@@ -117,9 +117,8 @@ std::optional<Variant> VrijeKolomObject::DoorAspect(std::string_view aspect) con
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
-  return Binding(Application, [&] {
-    editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id);
-  });
+  return Binding(Application,
+                 [&] { editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id); });
 }
 
 STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {

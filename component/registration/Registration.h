@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "component/automation/Windows.h"
+
+#include <string>
 
 namespace brivane::component {
 

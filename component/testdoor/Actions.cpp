@@ -3,8 +3,8 @@
 #include <charconv>
 
 #include "component/testdoor/Proefdeur.h"
-#include "host/Error.h"
 #include "controls/ListBox.h"
+#include "host/Error.h"
 
 namespace brivane::component {
 

@@ -2,9 +2,8 @@
 
 /// The door for tests, as the interface definition makes it.
 
-#include "component/automation/Dispatching.h"
-
 #include "Proefdeur_idl.h"
+#include "component/automation/Dispatching.h"
 
 namespace brivane::component {
 

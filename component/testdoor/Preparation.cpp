@@ -46,9 +46,7 @@ class ClassDoor final : public DualObject<IProefdeur> {
 
 }  // namespace
 
-IProefdeur* NewClassDoor() {
-  return new ClassDoor;
-}
+IProefdeur* NewClassDoor() { return new ClassDoor; }
 
 void Prepare(Hooks& hooks) {
   for (const auto& [setting, value] : Prepared().settings) hooks.Set(setting, value.Raw());

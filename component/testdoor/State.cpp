@@ -43,8 +43,7 @@ Variant ListState(const controls::ControlDump::ListContent& list) {
 
 Variant ReportState(const controls::ControlDump::ListViewContent& report) {
   Values columns;
-  for (const auto& column : report.columns)
-    columns.push_back(ListOf({Variant(column.heading), Number(column.width)}));
+  for (const auto& column : report.columns) columns.push_back(ListOf({Variant(column.heading), Number(column.width)}));
   Values rows;
   for (const auto& item : report.items) {
     Values cells;
@@ -64,7 +63,8 @@ Variant Row(const controls::ControlDump& control) {
 }
 
 Variant SelectedText(const controls::ControlDump::ListContent& list) {
-  return list.index == host::kNoSelection ? Variant() : Variant(list.entries[static_cast<std::size_t>(list.index)].text);
+  return list.index == host::kNoSelection ? Variant()
+                                          : Variant(list.entries[static_cast<std::size_t>(list.index)].text);
 }
 
 Variant SelectedKey(const controls::ControlDump::ListViewContent& report) {

@@ -1,8 +1,8 @@
 #include "controls/entry/Column.h"
 
+#include "controls/Surface.h"
 #include "controls/entry/Content.h"
 #include "frame/Trim.h"
-#include "controls/Surface.h"
 
 namespace brivane::controls {
 

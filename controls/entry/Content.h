@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Design.h"
 #include "controls/Action.h"
+#include "frame/Design.h"
 
 /// Between the content of a text box and what stands in it to be read and typed over.
 namespace brivane::controls {

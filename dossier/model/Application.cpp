@@ -34,7 +34,8 @@ void Application::VulCombo(const std::shared_ptr<host::Codetabellen>& bron, std:
   std::int32_t nummer = 0;
   for (const Code& regel : regels) lijst.Add(regel.tekst, ++nummer);
 
-  const auto gezocht = std::find_if(regels.begin(), regels.end(), [&](const Code& regel) { return regel.code == code; });
+  const auto gezocht =
+      std::find_if(regels.begin(), regels.end(), [&](const Code& regel) { return regel.code == code; });
   if (gezocht != regels.end()) keuze = static_cast<std::int32_t>(gezocht - regels.begin() + 1);
   for (int index = eerste; keuze && index < lijst.ListCount(); ++index) {
     if (lijst.ItemData(index) != *keuze) continue;

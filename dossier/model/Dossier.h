@@ -6,8 +6,8 @@
 #include <set>
 #include <vector>
 
-#include "dossier/model/Lening.h"
 #include "dossier/model/Environment.h"
+#include "dossier/model/Lening.h"
 #include "dossier/model/Persoon.h"
 #include "host/model/Dossier.h"
 

@@ -69,9 +69,9 @@ std::vector<Bevinding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
   for (const std::int16_t voorstel : {1, 2, 3}) {
     for (const std::int16_t Vrij_Id : dossier.Voorstel(voorstel)) {
       if (dossier.ZoekKolom(Dossier::kHuidig, Vrij_Id)) continue;
-      bevindingen.push_back({Dossier::kHuidig, Vrij_Id,
-                             "Voorstel " + std::to_string(voorstel) +
-                                 " beëindigt een post die niet in de huidige situatie staat."});
+      bevindingen.push_back(
+          {Dossier::kHuidig, Vrij_Id,
+           "Voorstel " + std::to_string(voorstel) + " beëindigt een post die niet in de huidige situatie staat."});
     }
   }
   return bevindingen;

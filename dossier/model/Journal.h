@@ -12,10 +12,34 @@ namespace brivane::dossier {
 
 /// The fields of a free column that can be written, the base amount included.
 enum class KolomVeld : std::uint8_t {
-  CorrectieLast, CorrectieFiscaal, HeffingBij, Omschrijving, Termijn, InkomenUitArbeid, InDagloon, DatumAanvang,
-  Looptijd, Contractvervaldatum, IsProduct, Maatschappij, MaatschappijNaam, Productsoort, ProductsoortOmschrijving,
-  Productnaam, UwBemiddeling, Voorstel1, Voorstel2, Voorstel3, UitsluitenAO, UitsluitenWW, UitsluitenLangleven,
-  ScenarioOverlijden, PercentageOvergang, EinddatumOvergang, EindleeftijdOvergang, Bedrag
+  CorrectieLast,
+  CorrectieFiscaal,
+  HeffingBij,
+  Omschrijving,
+  Termijn,
+  InkomenUitArbeid,
+  InDagloon,
+  DatumAanvang,
+  Looptijd,
+  Contractvervaldatum,
+  IsProduct,
+  Maatschappij,
+  MaatschappijNaam,
+  Productsoort,
+  ProductsoortOmschrijving,
+  Productnaam,
+  UwBemiddeling,
+  Voorstel1,
+  Voorstel2,
+  Voorstel3,
+  UitsluitenAO,
+  UitsluitenWW,
+  UitsluitenLangleven,
+  ScenarioOverlijden,
+  PercentageOvergang,
+  EinddatumOvergang,
+  EindleeftijdOvergang,
+  Bedrag
 };
 inline constexpr int kKolomVelden = static_cast<int>(KolomVeld::Bedrag) + 1;
 

@@ -11,7 +11,15 @@
 namespace brivane::dossier {
 
 /// SQLite's primary result codes that the store tells apart.
-enum class SqliteCode : int { Busy = 5, ReadOnly = 8, IoError = 10, Corrupt = 11, Full = 13, CannotOpen = 14, NotADatabase = 26 };
+enum class SqliteCode : int {
+  Busy = 5,
+  ReadOnly = 8,
+  IoError = 10,
+  Corrupt = 11,
+  Full = 13,
+  CannotOpen = 14,
+  NotADatabase = 26
+};
 
 /// A statement, or the opening of a file, that SQLite refused.
 class DatabaseError : public std::runtime_error {

@@ -6,12 +6,34 @@
 namespace brivane::dossier {
 
 /// Column names in table `vrijekolom`, in the order of KolomVeld.
-inline constexpr const char* kKolomNamen[kKolomVelden] = {
-    "correctie_last", "correctie_fiscaal", "heffing_bij", "omschrijving", "termijn", "inkomen_uit_arbeid",
-    "in_dagloon", "datum_aanvang", "looptijd", "contractvervaldatum", "is_product", "maatschappij",
-    "maatschappij_naam", "productsoort", "productsoort_omschrijving", "productnaam", "uw_bemiddeling", "voorstel_1",
-    "voorstel_2", "voorstel_3", "uitsluiten_ao", "uitsluiten_ww", "uitsluiten_langleven", "scenario_overlijden",
-    "percentage_overgang", "einddatum_overgang", "eindleeftijd_overgang", "bedrag"};
+inline constexpr const char* kKolomNamen[kKolomVelden] = {"correctie_last",
+                                                          "correctie_fiscaal",
+                                                          "heffing_bij",
+                                                          "omschrijving",
+                                                          "termijn",
+                                                          "inkomen_uit_arbeid",
+                                                          "in_dagloon",
+                                                          "datum_aanvang",
+                                                          "looptijd",
+                                                          "contractvervaldatum",
+                                                          "is_product",
+                                                          "maatschappij",
+                                                          "maatschappij_naam",
+                                                          "productsoort",
+                                                          "productsoort_omschrijving",
+                                                          "productnaam",
+                                                          "uw_bemiddeling",
+                                                          "voorstel_1",
+                                                          "voorstel_2",
+                                                          "voorstel_3",
+                                                          "uitsluiten_ao",
+                                                          "uitsluiten_ww",
+                                                          "uitsluiten_langleven",
+                                                          "scenario_overlijden",
+                                                          "percentage_overgang",
+                                                          "einddatum_overgang",
+                                                          "eindleeftijd_overgang",
+                                                          "bedrag"};
 
 /// Column names in table `periode`, in the order of PeriodeVeld.
 inline constexpr const char* kPeriodeNamen[kPeriodeVelden] = {"maand", "bedrag", "percentage", "korting", "eenmalig"};

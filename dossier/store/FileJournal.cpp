@@ -203,9 +203,9 @@ void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
 
 void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
   Write([&](Database& database) {
-    QSqlQuery query = database.Prepare(
-        lidmaatschap == Lidmaatschap::Ja ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
-                                         : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
+    QSqlQuery query = database.Prepare(lidmaatschap == Lidmaatschap::Ja
+                                           ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
+                                           : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
     query.bindValue(0, static_cast<qlonglong>(voorstel));
     query.bindValue(1, static_cast<qlonglong>(Vrij_Id));
     RunForOne(query);

@@ -17,8 +17,9 @@ QString Tekst(OpeningProblem problem, const QString& naam, const QString& map) {
       return QStringLiteral("Het dossier \"%1\" is beschadigd en is niet geopend. Zet een reservekopie terug.")
           .arg(naam);
     case OpeningProblem::Newer:
-      return QStringLiteral("Het dossier \"%1\" is gemaakt met een nieuwere versie van dit programma. "
-                            "Werk het programma bij om het te openen.")
+      return QStringLiteral(
+                 "Het dossier \"%1\" is gemaakt met een nieuwere versie van dit programma. "
+                 "Werk het programma bij om het te openen.")
           .arg(naam);
     case OpeningProblem::ReadOnly:
       return QStringLiteral("Het dossier \"%1\" kan niet worden gewijzigd: het bestand of de map is alleen-lezen.")

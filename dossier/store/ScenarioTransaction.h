@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "dossier/store/Edits.h"
 #include "controls/Action.h"
 #include "controls/ToolkitBase.h"
+#include "dossier/store/Edits.h"
 #include "vrijekolom/VrijeKolom.h"
 
 namespace brivane::dossier {

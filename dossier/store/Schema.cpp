@@ -31,7 +31,8 @@ constexpr const char* kVersie1[] = {
     "eindleeftijd_overgang INTEGER NOT NULL, bedrag_naam TEXT NOT NULL, invoersoort INTEGER NOT NULL, "
     "bedrag REAL NOT NULL) STRICT",
     "CREATE INDEX vrijekolom_lening ON vrijekolom (lening)",
-    "CREATE TABLE periode (sleutel INTEGER PRIMARY KEY, kolom INTEGER NOT NULL REFERENCES vrijekolom ON DELETE CASCADE, "
+    "CREATE TABLE periode (sleutel INTEGER PRIMARY KEY, kolom INTEGER NOT NULL REFERENCES vrijekolom ON DELETE "
+    "CASCADE, "
     "maand INTEGER NOT NULL DEFAULT 0, bedrag REAL NOT NULL DEFAULT 0, percentage REAL NOT NULL DEFAULT 0, "
     "korting REAL NOT NULL DEFAULT 0, eenmalig INTEGER NOT NULL DEFAULT 0) STRICT",
     "CREATE INDEX periode_kolom ON periode (kolom)",

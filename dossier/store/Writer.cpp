@@ -32,7 +32,8 @@ class Insert {
 
 /// One INSERT of a row that is written once.
 template <class... Values>
-void Schrijf(Database& database, const char* tabel, std::initializer_list<const char*> namen, const Values&... waarden) {
+void Schrijf(Database& database, const char* tabel, std::initializer_list<const char*> namen,
+             const Values&... waarden) {
   Insert insert;
   const char* const* naam = namen.begin();
   (insert.Neem(*naam++, waarden), ...);

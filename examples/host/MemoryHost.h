@@ -163,7 +163,9 @@ struct Dossier final : host::Dossier {
   std::vector<std::shared_ptr<memory_host::Persoon>> personen;
 
   std::shared_ptr<host::Lening> HuidigeLening() override { return huidig; }
-  std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override { return Len_Id == 0 ? huidig : At(nieuw, Len_Id); }
+  std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override {
+    return Len_Id == 0 ? huidig : At(nieuw, Len_Id);
+  }
   std::shared_ptr<host::Persoon> Persoon(std::int16_t nummer) override { return At(personen, nummer); }
   void VoegToeAanVoorstel(std::int16_t, std::int16_t) override {}
   void VerwijderUitVoorstel(std::int16_t, std::int16_t, std::int16_t) override {}
@@ -213,7 +215,8 @@ struct Application final : host::Application {
     }
     if (gekozen != host::kNoSelection) lijst.SetListIndex(gekozen);
   }
-  std::string ZoekCode(const std::shared_ptr<host::Codetabellen>&, std::string_view, const std::string& tekst) override {
+  std::string ZoekCode(const std::shared_ptr<host::Codetabellen>&, std::string_view,
+                       const std::string& tekst) override {
     for (const auto& [code, naam] : maatschappijen)
       if (naam == tekst) return code;
     return {};

@@ -21,7 +21,9 @@ int main() {
   client->naam = {"J.", "van", "Dam"};
   client->geboren = frame::MakeDate({1975, 12, 31});
   application->dossier->personen.push_back(client);
-  application->onError = [](const memory_host::Trace& trace) { std::cerr << trace.number << ": " << trace.description << '\n'; };
+  application->onError = [](const memory_host::Trace& trace) {
+    std::cerr << trace.number << ": " << trace.description << '\n';
+  };
 
   // The editor on the toolkit in memory.
   memory::Toolkit toolkit;
@@ -42,7 +44,7 @@ int main() {
             << " maanden\n";
   bool cancel = false;
   editor.Validation(cancel);
-  const bool asExpected = !cancel && column->omschrijving == "Vereniging" && column->looptijd == 14 &&
-                          column->bedrag->basisbedrag == 12.5;
+  const bool asExpected =
+      !cancel && column->omschrijving == "Vereniging" && column->looptijd == 14 && column->bedrag->basisbedrag == 12.5;
   return asExpected ? 0 : 1;
 }

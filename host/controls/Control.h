@@ -13,7 +13,17 @@ namespace brivane::host {
 
 /// What a control is. Toolkits make one class for each.
 enum class Kind : std::uint8_t {
-  Frame, Label, TextBox, JaNee, Hint, OptionButton, CheckBox, ListBox, Button, ListView, Surface
+  Frame,
+  Label,
+  TextBox,
+  JaNee,
+  Hint,
+  OptionButton,
+  CheckBox,
+  ListBox,
+  Button,
+  ListView,
+  Surface
 };
 
 /// A measure that a control may have. Lengths are twips, the font size is points.

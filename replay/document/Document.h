@@ -8,13 +8,13 @@
 #include <variant>
 #include <vector>
 
+#include "controls/Action.h"
 #include "dossier/model/Gegevens.h"
 #include "host/Color.h"
 #include "host/Date.h"
 #include "host/controls/Desktop.h"
 #include "replay/document/Json.h"
 #include "replay/instrument/Members.h"
-#include "controls/Action.h"
 
 /// A session of edits as data: the case that it starts from, the faults of the host, and the steps.
 namespace brivane::replay {

@@ -69,8 +69,7 @@ class Builder {
     return &members.back().second;
   }
 
-  template <class Value>
-  bool Put(Value&& value) {
+  template <class Value> bool Put(Value&& value) {
     Add(Json(std::forward<Value>(value)));
     return true;
   }
@@ -130,9 +129,7 @@ std::string Below(const std::string& place, std::string_view key) {
   return place.empty() ? std::string(key) : place + '.' + std::string(key);
 }
 
-std::string Below(const std::string& place, std::size_t index) {
-  return place + '[' + std::to_string(index) + ']';
-}
+std::string Below(const std::string& place, std::size_t index) { return place + '[' + std::to_string(index) + ']'; }
 
 Json ParseJson(std::string_view text) {
   Builder builder(text);

@@ -84,9 +84,7 @@ std::size_t Value::Size() const {
   return json_->size();
 }
 
-Value Value::Element(std::size_t index) const {
-  return {(*json_)[index], Below(place_, index)};
-}
+Value Value::Element(std::size_t index) const { return {(*json_)[index], Below(place_, index)}; }
 
 const Value& Value::Keys(std::initializer_list<std::string_view> keys) const {
   return Keys(std::span(keys.begin(), keys.size()));

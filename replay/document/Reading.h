@@ -29,8 +29,7 @@ class Value {
   /// A number within single precision.
   [[nodiscard]] float Single() const;
   /// A whole number within the range of the type.
-  template <std::integral T>
-  [[nodiscard]] T Whole() const {
+  template <std::integral T> [[nodiscard]] T Whole() const {
     return static_cast<T>(WholeWithin(std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
   }
   [[nodiscard]] std::int64_t WholeWithin(std::int64_t low, std::int64_t high) const;

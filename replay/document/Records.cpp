@@ -19,27 +19,13 @@ using dossier::LeningGegevens;
 using dossier::PeriodeGegevens;
 using dossier::PersoonGegevens;
 
-void Read(const Value& value, bool& field) {
-  field = value.Bool();
-}
-void Read(const Value& value, std::int16_t& field) {
-  field = value.Whole<std::int16_t>();
-}
-void Read(const Value& value, std::int32_t& field) {
-  field = value.Whole<std::int32_t>();
-}
-void Read(const Value& value, float& field) {
-  field = value.Single();
-}
-void Read(const Value& value, double& field) {
-  field = value.Number();
-}
-void Read(const Value& value, std::string& field) {
-  field = value.Text();
-}
-void Read(const Value& value, host::Date& field) {
-  field = value.DateOrNone();
-}
+void Read(const Value& value, bool& field) { field = value.Bool(); }
+void Read(const Value& value, std::int16_t& field) { field = value.Whole<std::int16_t>(); }
+void Read(const Value& value, std::int32_t& field) { field = value.Whole<std::int32_t>(); }
+void Read(const Value& value, float& field) { field = value.Single(); }
+void Read(const Value& value, double& field) { field = value.Number(); }
+void Read(const Value& value, std::string& field) { field = value.Text(); }
+void Read(const Value& value, host::Date& field) { field = value.DateOrNone(); }
 
 void Read(const Value& value, std::array<std::string, 3>& field) {
   if (value.Size() != field.size()) value.Refuse("expected three texts");
@@ -47,33 +33,21 @@ void Read(const Value& value, std::array<std::string, 3>& field) {
 }
 
 /// Replaces the list by what the document gives.
-template <class Record>
-void Read(const Value& value, std::vector<Record>& records);
+template <class Record> void Read(const Value& value, std::vector<Record>& records);
 void Read(const Value& value, PeriodeGegevens& periode);
 void Read(const Value& value, BedragGegevens& bedrag);
 void Read(const Value& value, KolomGegevens& kolom);
 void Read(const Value& value, LeningGegevens& lening);
 
-template <class Scalar>
-Json Write(const Scalar& field) {
-  return field;
-}
-Json Write(float field) {
-  return static_cast<double>(field);
-}
-Json Write(host::Date field) {
-  return ToJson(field);
-}
-Json Write(const BedragGegevens& bedrag) {
-  return ToJson(bedrag);
-}
-template <class Record>
-Json Write(const std::vector<Record>& records);
+template <class Scalar> Json Write(const Scalar& field) { return field; }
+Json Write(float field) { return static_cast<double>(field); }
+Json Write(host::Date field) { return ToJson(field); }
+Json Write(const BedragGegevens& bedrag) { return ToJson(bedrag); }
+template <class Record> Json Write(const std::vector<Record>& records);
 
 // Each record names its fields once, in the order of the document; both directions walk that list.
 
-template <class Periode, class Visitor>
-void Fields(Periode& periode, Visitor&& visit) {
+template <class Periode, class Visitor> void Fields(Periode& periode, Visitor&& visit) {
   visit("Maand", periode.Maand);
   visit("Bedrag", periode.Bedrag);
   visit("Percentage", periode.Percentage);
@@ -81,16 +55,14 @@ void Fields(Periode& periode, Visitor&& visit) {
   visit("Eenmalig", periode.Eenmalig);
 }
 
-template <class Bedrag, class Visitor>
-void AmountFields(Bedrag& bedrag, Visitor&& visit) {
+template <class Bedrag, class Visitor> void AmountFields(Bedrag& bedrag, Visitor&& visit) {
   visit("Naam", bedrag.Naam);
   visit("Invoersoort", bedrag.Invoersoort);
   visit("Bedrag", bedrag.Bedrag);
   visit("Perioden", bedrag.Perioden);
 }
 
-template <class Kolom, class Visitor>
-void ColumnFields(Kolom& kolom, Visitor&& visit) {
+template <class Kolom, class Visitor> void ColumnFields(Kolom& kolom, Visitor&& visit) {
   visit("Id", kolom.Id);
   visit("CorrectieLast", kolom.CorrectieLast);
   visit("CorrectieFiscaal", kolom.CorrectieFiscaal);
@@ -122,20 +94,17 @@ void ColumnFields(Kolom& kolom, Visitor&& visit) {
   visit("Bedrag", kolom.Bedrag);
 }
 
-template <class Lening, class Visitor>
-void LoanFields(Lening& lening, Visitor&& visit) {
+template <class Lening, class Visitor> void LoanFields(Lening& lening, Visitor&& visit) {
   visit("VrijeKolommen", lening.VrijeKolommen);
 }
 
-template <class Persoon, class Visitor>
-void PersonFields(Persoon& persoon, Visitor&& visit) {
+template <class Persoon, class Visitor> void PersonFields(Persoon& persoon, Visitor&& visit) {
   visit("naam", persoon.Naam);
   visit("Geboortedatum", persoon.Geboortedatum);
 }
 
 /// Reads an object whose keys are the fields that `walk` names; a field that is left out keeps its value.
-template <class Walk>
-void ReadFields(const Value& value, Walk&& walk) {
+template <class Walk> void ReadFields(const Value& value, Walk&& walk) {
   std::vector<std::string_view> keys;
   walk([&](std::string_view key, const auto&) { keys.push_back(key); });
   value.Keys(keys);
@@ -157,15 +126,13 @@ void Read(const Value& value, LeningGegevens& lening) {
   ReadFields(value, [&](auto&& visit) { LoanFields(lening, visit); });
 }
 
-template <class Record>
-void Read(const Value& value, std::vector<Record>& records) {
+template <class Record> void Read(const Value& value, std::vector<Record>& records) {
   const std::size_t count = value.Size();
   records.assign(count, Record{});
   for (std::size_t i = 0; i < count; ++i) Read(value.Element(i), records[i]);
 }
 
-template <class Walk>
-Json WriteFields(Walk&& walk) {
+template <class Walk> Json WriteFields(Walk&& walk) {
   Json json = Json::object();
   walk([&](const char* key, const auto& field) { json[key] = Write(field); });
   return json;
@@ -174,9 +141,7 @@ Json WriteFields(Walk&& walk) {
 Json Write(const PeriodeGegevens& periode) {
   return WriteFields([&](auto&& visit) { Fields(periode, visit); });
 }
-Json Write(const KolomGegevens& kolom) {
-  return ToJson(kolom);
-}
+Json Write(const KolomGegevens& kolom) { return ToJson(kolom); }
 Json Write(const LeningGegevens& lening) {
   return WriteFields([&](auto&& visit) { LoanFields(lening, visit); });
 }
@@ -184,8 +149,7 @@ Json Write(const PersoonGegevens& persoon) {
   return WriteFields([&](auto&& visit) { PersonFields(persoon, visit); });
 }
 
-template <class Record>
-Json Write(const std::vector<Record>& records) {
+template <class Record> Json Write(const std::vector<Record>& records) {
   Json json = Json::array();
   for (const Record& record : records) json.push_back(Write(record));
   return json;

@@ -16,9 +16,7 @@ namespace {
 constexpr std::string_view kScenarioButton = "cmdScenario";
 constexpr std::string_view kEmbedded = "Toelichting";
 
-bool OnForm(StepList list) {
-  return list == StepList::Modal;
-}
+bool OnForm(StepList list) { return list == StepList::Modal; }
 
 /// Refuses keys that neither the step nor every step has.
 void Keys(const Value& step, std::initializer_list<std::string_view> own) {
@@ -27,8 +25,7 @@ void Keys(const Value& step, std::initializer_list<std::string_view> own) {
   step.Keys(keys);
 }
 
-template <class T>
-T Or(const std::optional<Value>& member, T (Value::*read)() const, T otherwise) {
+template <class T> T Or(const std::optional<Value>& member, T (Value::*read)() const, T otherwise) {
   return member ? ((*member).*read)() : otherwise;
 }
 

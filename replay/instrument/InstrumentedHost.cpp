@@ -77,9 +77,7 @@ InstrumentedHost::InstrumentedHost(std::shared_ptr<host::Application> applicatio
   };
 }
 
-AccessLedger& InstrumentedHost::Ledger() {
-  return shared_->ledger;
-}
+AccessLedger& InstrumentedHost::Ledger() { return shared_->ledger; }
 
 std::shared_ptr<host::BedragObject> InstrumentedHost::StandInFor(const std::shared_ptr<host::BedragObject>& bedrag) {
   return StandInOf<AmountStandIn>(shared_, bedrag);

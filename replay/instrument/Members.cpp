@@ -96,13 +96,9 @@ static_assert(InOrder(), "the table lists the members in the order of their enum
 
 }  // namespace
 
-std::string_view NameOf(Member member) {
-  return kMembers[static_cast<std::size_t>(member)].name;
-}
+std::string_view NameOf(Member member) { return kMembers[static_cast<std::size_t>(member)].name; }
 
-MemberKind KindOf(Member member) {
-  return kMembers[static_cast<std::size_t>(member)].kind;
-}
+MemberKind KindOf(Member member) { return kMembers[static_cast<std::size_t>(member)].kind; }
 
 std::optional<Member> FindMember(std::string_view name) {
   for (const Entry& entry : kMembers)

@@ -20,8 +20,7 @@ struct InstrumentedHost::Shared {
 };
 
 /// A number that a MemberValue holds as a double, anything else as it is.
-template <class T>
-[[nodiscard]] MemberValue ToMemberValue(T value) {
+template <class T> [[nodiscard]] MemberValue ToMemberValue(T value) {
   if constexpr (std::is_arithmetic_v<T> && !std::same_as<T, bool>)
     return static_cast<double>(value);
   else
@@ -29,8 +28,7 @@ template <class T>
 }
 
 /// Stands before an object of the inner host: each access is counted, handed on, and told.
-template <class Interface>
-class StandIn : public Interface {
+template <class Interface> class StandIn : public Interface {
  public:
   using SharedPtr = std::shared_ptr<InstrumentedHost::Shared>;
 
@@ -48,8 +46,7 @@ class StandIn : public Interface {
   }
 
   /// Does a write and tells the value that `read` then answers.
-  template <class Write, class Read>
-  void Set(Member member, MemberIndex index, Write write, Read read) {
+  template <class Write, class Read> void Set(Member member, MemberIndex index, Write write, Read read) {
     shared_->ledger.Pass(member, Op::Set);
     write(*inner_);
     shared_->listener.OnSet(member, ToMemberValue(read(std::as_const(*inner_))), index);
@@ -66,8 +63,7 @@ class StandIn : public Interface {
   }
 
   /// Does an operation and tells its arguments.
-  template <class... Numbers, class Operation>
-  auto Call(Member member, Operation operation, Numbers... arguments) {
+  template <class... Numbers, class Operation> auto Call(Member member, Operation operation, Numbers... arguments) {
     shared_->ledger.Pass(member, Op::Call);
     const std::array<std::int16_t, sizeof...(Numbers)> told{arguments...};
     if constexpr (std::is_void_v<decltype(((*inner_).*operation)(arguments...))>) {

@@ -110,9 +110,7 @@ dossier::KolomGegevens Read(host::VrijeKolomItem& kolom) {
 
 }  // namespace
 
-Json DumpControls(const controls::Surface& surface) {
-  return DumpControls(controls::DumpAll(surface));
-}
+Json DumpControls(const controls::Surface& surface) { return DumpControls(controls::DumpAll(surface)); }
 
 Json DumpControls(const std::vector<controls::ControlDump>& dump) {
   Json controls = Json::object();
@@ -122,12 +120,8 @@ Json DumpControls(const std::vector<controls::ControlDump>& dump) {
   return controls;
 }
 
-Json DumpRecord(host::VrijeKolomItem& kolom) {
-  return replay::ToJson(Read(kolom));
-}
+Json DumpRecord(host::VrijeKolomItem& kolom) { return replay::ToJson(Read(kolom)); }
 
-Json DumpRecord(host::BedragObject& bedrag) {
-  return replay::ToJson(Read(bedrag));
-}
+Json DumpRecord(host::BedragObject& bedrag) { return replay::ToJson(Read(bedrag)); }
 
 }  // namespace brivane::replay

@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "scenario/frmScenario.h"
 #include "controls/ListBox.h"
 #include "frame/GroupedNumber.h"
+#include "scenario/frmScenario.h"
 #include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
@@ -14,8 +14,7 @@ namespace brivane::replay {
 namespace {
 
 /// A screen's part that is the same for the editor and for a form.
-template <class Interface>
-class OnSurface : public Interface {
+template <class Interface> class OnSurface : public Interface {
  public:
   [[nodiscard]] std::optional<ControlState> Find(const std::string& name, std::optional<int> index) override {
     const controls::AnyControl* const control = Control(name, index);

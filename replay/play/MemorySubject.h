@@ -8,6 +8,6 @@ namespace brivane::replay {
 
 /// The real controls on the toolkit in memory.
 [[nodiscard]] std::unique_ptr<Subject> MakeMemorySubject(const Document& document, InstrumentedHost& host,
-                                                           Audience& audience);
+                                                         Audience& audience);
 
 }  // namespace brivane::replay

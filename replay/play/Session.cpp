@@ -25,8 +25,7 @@ host::HostFactories Factories() {
 }
 
 /// Keeps a step on the stack of those that run.
-template <class Stack, class Entry>
-class Pushed {
+template <class Stack, class Entry> class Pushed {
  public:
   Pushed(Stack& stack, Entry entry) : stack_(stack) { stack_.push_back(entry); }
   ~Pushed() { stack_.pop_back(); }
@@ -168,25 +167,17 @@ host::MessageAnswer Session::OnMessage(const std::string& title, const std::stri
   return answer;
 }
 
-void Session::Do(const BindStep& step, const Running&) {
-  subject_->SetApplication(step.Len_Id, step.Vrij_Id);
-}
+void Session::Do(const BindStep& step, const Running&) { subject_->SetApplication(step.Len_Id, step.Vrij_Id); }
 
 void Session::Do(const ValidationStep& step, const Running& running) {
   transcript_.Result(running.step->name, subject_->Validation(step.target, step.Cancel, step.ControleNr));
 }
 
-void Session::Do(const BackColorStep& step, const Running&) {
-  subject_->SetBackColor(step.color);
-}
+void Session::Do(const BackColorStep& step, const Running&) { subject_->SetBackColor(step.color); }
 
-void Session::Do(const BeeindigenStep& step, const Running&) {
-  subject_->SetBeeindigenZichtbaar(step.visible);
-}
+void Session::Do(const BeeindigenStep& step, const Running&) { subject_->SetBeeindigenZichtbaar(step.visible); }
 
-void Session::Do(const ResizeStep& step, const Running&) {
-  subject_->Size(step.target, step.width, step.height);
-}
+void Session::Do(const ResizeStep& step, const Running&) { subject_->Size(step.target, step.width, step.height); }
 
 void Session::Do(const ActStep& step, const Running& running) {
   const ControlState control = Find(step, running);
@@ -205,9 +196,7 @@ void Session::Do(const ScenarioStep& step, const Running&) {
   subject_->ShowScenario(step, host_.StandInFor(host::Need(kolom).Bedrag()));
 }
 
-void Session::Do(const CloseStep&, const Running& running) {
-  running.on->Close();
-}
+void Session::Do(const CloseStep&, const Running& running) { running.on->Close(); }
 
 void Session::Do(const DumpStep&, const Running& running) {
   Json dump = Json::object();

@@ -65,13 +65,9 @@ void Transcript::Failed(std::int32_t number, const std::string& description) {
   Print(Log::Results, {{"failed", {{"number", number}, {"description", description}}}});
 }
 
-void Transcript::Ignored(const std::string& control) {
-  Print(Log::Results, {{"ignored", control}});
-}
+void Transcript::Ignored(const std::string& control) { Print(Log::Results, {{"ignored", control}}); }
 
-void Transcript::Event(std::string_view name) {
-  Print(Log::Events, {{"event", name}});
-}
+void Transcript::Event(std::string_view name) { Print(Log::Events, {{"event", name}}); }
 
 void Transcript::RefreshTopDisplay(const std::string& text) {
   Print(Log::Events, {{"event", "RefreshTopDisplay"}, {"text", text}});
@@ -83,25 +79,17 @@ void Transcript::Message(const std::string& title, const std::string& text, host
                         {"answer", InWords(answer)}});
 }
 
-void Transcript::Focus(const std::string& control) {
-  Print(Log::Events, {{"focus", control}});
-}
+void Transcript::Focus(const std::string& control) { Print(Log::Events, {{"focus", control}}); }
 
-void Transcript::Pending() {
-  Print(Log::Events, {{"pending", true}});
-}
+void Transcript::Pending() { Print(Log::Events, {{"pending", true}}); }
 
 void Transcript::Opened(host::Color backColor, std::int16_t aantalJaar) {
   Print(Log::Events, {{"opened", kFormName}, {"BackColor", backColor.value}, {"AantalJaar", aantalJaar}});
 }
 
-void Transcript::Closed() {
-  Print(Log::Events, {{"closed", kFormName}});
-}
+void Transcript::Closed() { Print(Log::Events, {{"closed", kFormName}}); }
 
-void Transcript::Dump(const Json& state) {
-  Print({{"dump", state}});
-}
+void Transcript::Dump(const Json& state) { Print({{"dump", state}}); }
 
 void Transcript::Access(const char* verb, Member member, const MemberValue& value, MemberIndex index) {
   Json line{{verb, NameOf(member)}, {"value", ToJson(value)}};

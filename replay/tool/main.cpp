@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "replay/document/Document.h"
-#include "replay/tool/Help.h"
 #include "replay/play/Session.h"
+#include "replay/tool/Help.h"
 
 namespace {
 
@@ -61,9 +61,7 @@ std::string ReadAll(const std::string& name) {
   return text;
 }
 
-void Print(std::string_view text) {
-  std::fwrite(text.data(), 1, text.size(), stdout);
-}
+void Print(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
 
 void Replay(const Document& document) {
   // A line is on its way as soon as it is complete, also into a pipe.

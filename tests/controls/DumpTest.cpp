@@ -1,9 +1,8 @@
-#include "controls/Dump.h"
-
 #include <gtest/gtest.h>
 
-#include "tests/toolkits/conformance/TestDesign.h"
+#include "controls/Dump.h"
 #include "controls/TextBox.h"
+#include "tests/toolkits/conformance/TestDesign.h"
 #include "toolkits/memory/Toolkit.h"
 
 namespace brivane::controls {
@@ -26,8 +25,8 @@ TEST(Dump, EachKindHasItsOwnFieldsAlone) {
     SCOPED_TRACE(dump.name);
     using host::Kind;
     const Kind kind = dump.kind;
-    const bool valued = kind == Kind::TextBox || kind == Kind::JaNee || kind == Kind::OptionButton ||
-                        kind == Kind::CheckBox;
+    const bool valued =
+        kind == Kind::TextBox || kind == Kind::JaNee || kind == Kind::OptionButton || kind == Kind::CheckBox;
     const bool captioned = kind == Kind::Frame || kind == Kind::Label || kind == Kind::OptionButton ||
                            kind == Kind::CheckBox || kind == Kind::Button;
     EXPECT_EQ(dump.value != DumpValue(), valued);

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "controls/TextBox.h"
 #include "host/Error.h"
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "controls/TextBox.h"
 #include "toolkits/memory/Toolkit.h"
 
 namespace brivane::controls {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
-#include "host/Error.h"
-#include "tests/toolkits/conformance/TestDesign.h"
 #include "controls/Choices.h"
 #include "controls/Plain.h"
 #include "controls/TextBox.h"
+#include "host/Error.h"
+#include "tests/toolkits/conformance/TestDesign.h"
 #include "toolkits/memory/Toolkit.h"
 
 namespace brivane::controls {

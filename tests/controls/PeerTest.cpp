@@ -1,12 +1,11 @@
-#include "controls/Peer.h"
-
 #include <gtest/gtest.h>
 
-#include "tests/toolkits/conformance/TestDesign.h"
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
+#include "controls/Peer.h"
 #include "controls/Plain.h"
 #include "controls/TextBox.h"
+#include "tests/toolkits/conformance/TestDesign.h"
 #include "toolkits/memory/Toolkit.h"
 
 /// What a drawing toolkit hears of the controls that it shows.
@@ -17,9 +16,8 @@ namespace {
 using Log = std::vector<std::string>;
 
 const char* NameOf(Aspect aspect) {
-  static constexpr const char* kNames[] = {"value",  "enabled", "visible",    "caption", "place",
-                                           "font",   "colour",  "locked",     "entries", "entry",
-                                           "index",  "columns", "rows",       "selection"};
+  static constexpr const char* kNames[] = {"value",  "enabled", "visible", "caption", "place",   "font", "colour",
+                                           "locked", "entries", "entry",   "index",   "columns", "rows", "selection"};
   return kNames[static_cast<std::size_t>(aspect)];
 }
 

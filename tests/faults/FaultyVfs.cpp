@@ -38,13 +38,9 @@ struct File {
   sqlite3_file* real;
 };
 
-sqlite3_file* Real(sqlite3_file* file) {
-  return reinterpret_cast<File*>(file)->real;
-}
+sqlite3_file* Real(sqlite3_file* file) { return reinterpret_cast<File*>(file)->real; }
 
-int Close(sqlite3_file* file) {
-  return Real(file)->pMethods->xClose(Real(file));
-}
+int Close(sqlite3_file* file) { return Real(file)->pMethods->xClose(Real(file)); }
 int Read(sqlite3_file* file, void* to, int size, sqlite3_int64 at) {
   if (const int due = Due(SQLITE_IOERR_READ)) return due;
   return Real(file)->pMethods->xRead(Real(file), to, size, at);
@@ -57,9 +53,7 @@ int Truncate(sqlite3_file* file, sqlite3_int64 size) {
   if (const int due = Due(SQLITE_IOERR_TRUNCATE)) return due;
   return Real(file)->pMethods->xTruncate(Real(file), size);
 }
-int Sync(sqlite3_file*, int) {
-  return Due(SQLITE_IOERR_FSYNC);
-}
+int Sync(sqlite3_file*, int) { return Due(SQLITE_IOERR_FSYNC); }
 int FileSize(sqlite3_file* file, sqlite3_int64* size) {
   if (const int due = Due(SQLITE_IOERR_FSTAT)) return due;
   return Real(file)->pMethods->xFileSize(Real(file), size);
@@ -68,9 +62,7 @@ int Lock(sqlite3_file* file, int level) {
   if (const int due = Due(SQLITE_IOERR_LOCK)) return due;
   return Real(file)->pMethods->xLock(Real(file), level);
 }
-int Unlock(sqlite3_file* file, int level) {
-  return Real(file)->pMethods->xUnlock(Real(file), level);
-}
+int Unlock(sqlite3_file* file, int level) { return Real(file)->pMethods->xUnlock(Real(file), level); }
 int CheckReservedLock(sqlite3_file* file, int* reserved) {
   if (const int due = Due(SQLITE_IOERR_CHECKRESERVEDLOCK)) return due;
   return Real(file)->pMethods->xCheckReservedLock(Real(file), reserved);
@@ -78,12 +70,8 @@ int CheckReservedLock(sqlite3_file* file, int* reserved) {
 int FileControl(sqlite3_file* file, int what, void* with) {
   return Real(file)->pMethods->xFileControl(Real(file), what, with);
 }
-int SectorSize(sqlite3_file* file) {
-  return Real(file)->pMethods->xSectorSize(Real(file));
-}
-int DeviceCharacteristics(sqlite3_file* file) {
-  return Real(file)->pMethods->xDeviceCharacteristics(Real(file));
-}
+int SectorSize(sqlite3_file* file) { return Real(file)->pMethods->xSectorSize(Real(file)); }
+int DeviceCharacteristics(sqlite3_file* file) { return Real(file)->pMethods->xDeviceCharacteristics(Real(file)); }
 int ShmMap(sqlite3_file* file, int page, int size, int extend, void volatile** memory) {
   if (const int due = Due(SQLITE_IOERR_SHMMAP)) return due;
   return Real(file)->pMethods->xShmMap(Real(file), page, size, extend, memory);
@@ -91,12 +79,8 @@ int ShmMap(sqlite3_file* file, int page, int size, int extend, void volatile** m
 int ShmLock(sqlite3_file* file, int offset, int count, int flags) {
   return Real(file)->pMethods->xShmLock(Real(file), offset, count, flags);
 }
-void ShmBarrier(sqlite3_file* file) {
-  Real(file)->pMethods->xShmBarrier(Real(file));
-}
-int ShmUnmap(sqlite3_file* file, int remove) {
-  return Real(file)->pMethods->xShmUnmap(Real(file), remove);
-}
+void ShmBarrier(sqlite3_file* file) { Real(file)->pMethods->xShmBarrier(Real(file)); }
+int ShmUnmap(sqlite3_file* file, int remove) { return Real(file)->pMethods->xShmUnmap(Real(file), remove); }
 
 const sqlite3_io_methods kMethods{
     .iVersion = 2,
@@ -158,20 +142,12 @@ FaultyVfs::~FaultyVfs() {
   sqlite3_vfs_register(disk, 1);
 }
 
-void FaultyVfs::FailAt(int nth) {
-  plan = {.failing = nth};
-}
+void FaultyVfs::FailAt(int nth) { plan = {.failing = nth}; }
 
-void FaultyVfs::FullFrom(int nth) {
-  plan = {.fullFrom = nth};
-}
+void FaultyVfs::FullFrom(int nth) { plan = {.fullFrom = nth}; }
 
-int FaultyVfs::Calls() const {
-  return plan.calls;
-}
+int FaultyVfs::Calls() const { return plan.calls; }
 
-bool FaultyVfs::Struck() const {
-  return plan.struck;
-}
+bool FaultyVfs::Struck() const { return plan.struck; }
 
 }  // namespace brivane::faults

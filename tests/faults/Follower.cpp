@@ -17,9 +17,7 @@ std::string TextAfter(std::string_view line, std::string_view key) {
   return std::string(line.substr(start, line.find('"', start) - start));
 }
 
-std::string Quoted(const std::string& text) {
-  return '"' + text + '"';
-}
+std::string Quoted(const std::string& text) { return '"' + text + '"'; }
 
 std::string ErrorLine(const std::string& procedure, const std::string& control) {
   return R"({"error": )" + Quoted(procedure) + R"(, "in": )" + Quoted(control) + "}";
@@ -42,9 +40,7 @@ std::string FailedLine() {
   return R"({"failed": {"number": )" + std::to_string(kNumber) + R"(, "description": )" + Quoted(kDescription) + "}}";
 }
 
-bool OfScenario(Member member) {
-  return member >= Member::Scenario_Naam && member <= Member::Periode_Eenmalig;
-}
+bool OfScenario(Member member) { return member >= Member::Scenario_Naam && member <= Member::Periode_Eenmalig; }
 /// What only an error handler touches.
 bool OfHandler(Member member) {
   return member == Member::Application_ReportError || member >= Member::ProcedureTrace_ErrorInProcedure;

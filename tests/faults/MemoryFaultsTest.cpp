@@ -40,24 +40,12 @@ void Free(void* block) noexcept {
 
 }  // namespace
 
-void* operator new(std::size_t size) {
-  return Allocate(size);
-}
-void* operator new[](std::size_t size) {
-  return Allocate(size);
-}
-void operator delete(void* block) noexcept {
-  Free(block);
-}
-void operator delete[](void* block) noexcept {
-  Free(block);
-}
-void operator delete(void* block, std::size_t) noexcept {
-  Free(block);
-}
-void operator delete[](void* block, std::size_t) noexcept {
-  Free(block);
-}
+void* operator new(std::size_t size) { return Allocate(size); }
+void* operator new[](std::size_t size) { return Allocate(size); }
+void operator delete(void* block) noexcept { Free(block); }
+void operator delete[](void* block) noexcept { Free(block); }
+void operator delete(void* block, std::size_t) noexcept { Free(block); }
+void operator delete[](void* block, std::size_t) noexcept { Free(block); }
 
 namespace brivane::faults {
 namespace {
@@ -265,13 +253,9 @@ void TryAll(long together) {
   std::cout << "faults tried: " << tried.points << ", of which reached the caller: " << tried.escaped << '\n';
 }
 
-TEST(MemoryFaults, EveryAllocationFailsInTurn) {
-  TryAll(1);
-}
+TEST(MemoryFaults, EveryAllocationFailsInTurn) { TryAll(1); }
 
-TEST(MemoryFaults, EveryAllocationFailsInTurnWithTheThreeAfterIt) {
-  TryAll(4);
-}
+TEST(MemoryFaults, EveryAllocationFailsInTurnWithTheThreeAfterIt) { TryAll(4); }
 
 /// Making the editor either succeeds or leaves nothing behind.
 TEST(MemoryFaults, AnEditorThatCannotBeMadeLeavesNothing) {

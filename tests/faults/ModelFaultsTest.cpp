@@ -166,8 +166,7 @@ class Faults {
   }
 
  private:
-  template <class Require>
-  void Recovered(const Run& run, const Require& require) {
+  template <class Require> void Recovered(const Run& run, const Require& require) {
     const auto steps =
         std::ranges::count_if(run.lines, [](const auto& line) { return line.starts_with(R"({"step")"); });
     require(steps > 0, "no step ran");
@@ -225,18 +224,12 @@ void TryAll(Handling handling) {
   std::cout << "faults tried: " << tried << '\n';
 }
 
-TEST(ModelFaults, EveryAccessFailsInTurn) {
-  TryAll(Handling::Works);
-}
+TEST(ModelFaults, EveryAccessFailsInTurn) { TryAll(Handling::Works); }
 
 /// The failure of a handler belongs to the procedure around it.
-TEST(ModelFaults, EveryAccessFailsInTurnAndItsHandlerCannotBegin) {
-  TryAll(Handling::CannotBegin);
-}
+TEST(ModelFaults, EveryAccessFailsInTurnAndItsHandlerCannotBegin) { TryAll(Handling::CannotBegin); }
 
-TEST(ModelFaults, EveryAccessFailsInTurnAndItsHandlerCannotReport) {
-  TryAll(Handling::CannotReport);
-}
+TEST(ModelFaults, EveryAccessFailsInTurnAndItsHandlerCannotReport) { TryAll(Handling::CannotReport); }
 
 TEST(ModelFaults, TheProcedureOfNoControlFailsLikeAnyOther) {
   const Document& document = Documents().front().document;

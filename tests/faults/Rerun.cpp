@@ -16,9 +16,7 @@ using replay::Op;
 using replay::Session;
 using replay::Step;
 
-const char* InWords(Op op) {
-  return op == Op::Get ? " get" : op == Op::Set ? " set" : " call";
-}
+const char* InWords(Op op) { return op == Op::Get ? " get" : op == Op::Set ? " set" : " call"; }
 
 replay::Member FailingToo(Handling handling) {
   return handling == Handling::CannotBegin ? replay::Member::ProcedureTrace_ErrorInProcedure
@@ -71,8 +69,7 @@ std::optional<std::string> RunOnce(const Document& document, std::uint64_t posit
   return std::nullopt;
 }
 
-template <class Wanted>
-const Step* FirstOf(const Document& document) {
+template <class Wanted> const Step* FirstOf(const Document& document) {
   for (const Step& step : document.steps)
     if (std::holds_alternative<Wanted>(step.what)) return &step;
   return nullptr;

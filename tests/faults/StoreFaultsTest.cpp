@@ -4,9 +4,9 @@
 
 #include <iostream>
 
+#include "tests/dossier/store/Desk.h"
 #include "tests/dossier/store/Files.h"
 #include "tests/dossier/store/ScriptedEdits.h"
-#include "tests/dossier/store/Desk.h"
 #include "tests/faults/FaultyVfs.h"
 
 namespace brivane::faults {
@@ -128,13 +128,9 @@ void TryAll(Kind kind) {
   std::cout << "faults tried: " << tried << ", edits that failed: " << lost << '\n';
 }
 
-TEST(StoreFaults, EveryCallFailsInTurn) {
-  TryAll(Kind::OneCall);
-}
+TEST(StoreFaults, EveryCallFailsInTurn) { TryAll(Kind::OneCall); }
 
-TEST(StoreFaults, TheDiskIsFullFromEveryCallOn) {
-  TryAll(Kind::FullDisk);
-}
+TEST(StoreFaults, TheDiskIsFullFromEveryCallOn) { TryAll(Kind::FullDisk); }
 
 /// A new file is there complete, or not at all and with nothing beside it.
 TEST(StoreFaults, ANewFileIsCompleteOrNotThere) {

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/Dump.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Dossier.h"
-#include "controls/Dump.h"
 #include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/VrijeKolom.h"
 

@@ -16,8 +16,7 @@ std::string Text(host::Date date) {
   return std::to_string(d.year) + '-' + std::to_string(d.month) + '-' + std::to_string(d.day);
 }
 
-template <class Call>
-int ErrorOf(Call&& call) {
+template <class Call> int ErrorOf(Call&& call) {
   try {
     call();
   } catch (const host::Error& error) {

@@ -19,8 +19,7 @@ struct Case {
   std::optional<std::int64_t> whole;  ///< nothing: an overflow
 };
 
-template <class Convert>
-void Check(const Case& c, Convert convert) {
+template <class Convert> void Check(const Case& c, Convert convert) {
   if (c.whole) {
     EXPECT_EQ(convert(c.number), *c.whole) << c.number;
     return;

@@ -10,8 +10,7 @@ namespace {
 
 constexpr Design kEmbedded{.name = "Binnenste", .rows = {}, .width = 300, .height = 300};
 
-template <std::size_t N>
-constexpr Fault CheckRows(const Row (&rows)[N]) {
+template <std::size_t N> constexpr Fault CheckRows(const Row (&rows)[N]) {
   return Check(Design{.name = "Proef", .rows = rows, .width = 6000, .height = 3000});
 }
 

@@ -131,8 +131,6 @@ TEST(Graphemes, BytesThatAreNotUtf8StandAlone) {
   EXPECT_EQ(Split("\xFF\xFE"), (Characters{"\xFF", "\xFE"}));
 }
 
-TEST(Graphemes, AMarkWithoutALetterStandsAlone) {
-  EXPECT_EQ(Split("\u0301"), Characters{"\u0301"});
-}
+TEST(Graphemes, AMarkWithoutALetterStandsAlone) { EXPECT_EQ(Split("\u0301"), Characters{"\u0301"}); }
 
 }  // namespace brivane::frame

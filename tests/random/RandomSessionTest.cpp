@@ -17,9 +17,9 @@
 namespace brivane::random_sessions {
 namespace {
 
-using dossier::KolomGegevens;
 using controls::Action;
 using controls::Outcome;
+using dossier::KolomGegevens;
 
 /// Draws; the same seed draws the same everywhere, as the engine's own numbers are used.
 class Draw {
@@ -30,10 +30,7 @@ class Draw {
     return low + static_cast<int>(engine_() % static_cast<std::uint64_t>(high - low + 1));
   }
   bool Once(int in) { return Between(1, in) == 1; }
-  template <class T, std::size_t N>
-  const T& One(const T (&of)[N]) {
-    return of[Between(0, static_cast<int>(N) - 1)];
-  }
+  template <class T, std::size_t N> const T& One(const T (&of)[N]) { return of[Between(0, static_cast<int>(N) - 1)]; }
 
  private:
   std::mt19937_64 engine_;

@@ -31,9 +31,7 @@ host::Date MonthsOn(host::Date date, int months) {
   return host::Date(static_cast<std::int32_t>((end - kZero).count()));
 }
 
-bool IsContractKind(const KolomGegevens& record) {
-  return record.Productsoort >= 42 && record.Productsoort <= 45;
-}
+bool IsContractKind(const KolomGegevens& record) { return record.Productsoort >= 42 && record.Productsoort <= 45; }
 
 /// Row of the effect list for a pair of corrections; 0 for none.
 std::size_t EffectRow(const KolomGegevens& record) {
@@ -42,21 +40,17 @@ std::size_t EffectRow(const KolomGegevens& record) {
   return found == std::end(kPairs) ? 0 : static_cast<std::size_t>(found - std::begin(kPairs)) + 1;
 }
 
-std::ostream& operator<<(std::ostream& out, host::Date date) {
-  return out << "day " << date.Days();
-}
+std::ostream& operator<<(std::ostream& out, host::Date date) { return out << "day " << date.Days(); }
 
 /// Compares, and words what differs.
 class Comparison {
  public:
   explicit Comparison(Workbench& bench) : bench_(bench) {}
 
-  template <class Kind>
-  Kind& At(const char* name, int index = frame::kNoIndex) {
+  template <class Kind> Kind& At(const char* name, int index = frame::kNoIndex) {
     return dynamic_cast<Kind&>(bench_.Find(name, index).Host());
   }
-  template <class T>
-  void Same(const char* what, const T& shown, const T& wanted) {
+  template <class T> void Same(const char* what, const T& shown, const T& wanted) {
     if (shown == wanted) return;
     std::ostringstream text;
     text.precision(17);

@@ -19,9 +19,7 @@ struct BadDocument {
   std::string line;
 };
 
-void PrintTo(const BadDocument& bad, std::ostream* out) {
-  *out << bad.name;
-}
+void PrintTo(const BadDocument& bad, std::ostream* out) { *out << bad.name; }
 
 std::string WithDossier(std::string document) {
   const std::string placeholder = "$DOSSIER";

@@ -17,9 +17,7 @@
 namespace brivane::replay::test {
 namespace {
 
-Document Smallest() {
-  return ReadDocument(R"({"dossier": {"personen": [{}, {}]}, "steps": []})");
-}
+Document Smallest() { return ReadDocument(R"({"dossier": {"personen": [{}, {}]}, "steps": []})"); }
 
 TEST(Document, WhatIsLeftOutHasItsDefault) {
   const Document document = Smallest();

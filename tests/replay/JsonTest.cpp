@@ -33,9 +33,7 @@ TEST(Json, TextsStayUtf8AndControlCharactersAreEscaped) {
   EXPECT_EQ(Line("€ \"é\"\r\n\x01/"), "\"€ \\\"é\\\"\\r\\n\\u0001/\"");
 }
 
-TEST(Json, BytesThatAreNotUtf8AreReplaced) {
-  EXPECT_EQ(Line("a\xff"), "\"a\uFFFD\"");
-}
+TEST(Json, BytesThatAreNotUtf8AreReplaced) { EXPECT_EQ(Line("a\xff"), "\"a\uFFFD\""); }
 
 TEST(Json, NumbersAreShort) {
   EXPECT_EQ(Number(0), "0");
@@ -69,9 +67,7 @@ TEST(Json, ParsingKeepsTheOrderOfKeys) {
             R"({"b": 1, "a": {"d": 2, "c": [{"z": 0, "y": 0}]}})");
 }
 
-TEST(Json, TheSameKeyMayStandInTwoObjects) {
-  EXPECT_NO_THROW((void)ParseJson(R"([{"a": {"a": 1}}, {"a": 2}])"));
-}
+TEST(Json, TheSameKeyMayStandInTwoObjects) { EXPECT_NO_THROW((void)ParseJson(R"([{"a": {"a": 1}}, {"a": 2}])")); }
 
 TEST(Json, AKeyThatStandsTwiceIsToldByItsPlace) {
   try {

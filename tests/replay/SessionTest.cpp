@@ -261,12 +261,11 @@ TEST(Faults, AnObjectIsAGetAndACallAlikeAndPrintsNoLine) {
 }
 
 TEST(Faults, OfTwoThatAreDueAtOnceTheFirstInTheDocumentStrikes) {
-  const auto lines =
-      RunSteps(R"("results")", R"({"do": "frmScenario", "Len_Id": 0, "Vrij_Id": 1, "AantalJaar": 2})",
-               R"({"Bedrag": {"Perioden": [{"Maand": 25}]}})",
-               R"(, "faults": [{"member": "Scenario.Periode", "op": "call", "nth": 2, "number": 8},
+  const auto lines = RunSteps(R"("results")", R"({"do": "frmScenario", "Len_Id": 0, "Vrij_Id": 1, "AantalJaar": 2})",
+                              R"({"Bedrag": {"Perioden": [{"Maand": 25}]}})",
+                              R"(, "faults": [{"member": "Scenario.Periode", "op": "call", "nth": 2, "number": 8},
                                {"member": "Scenario.Periode", "op": "get", "nth": 2, "number": 7}])")
-          .lines;
+                         .lines;
   EXPECT_EQ(lines.back(), R"({"failed": {"number": 8, "description": ""}})");
 }
 

@@ -1,9 +1,9 @@
-#include "scenario/Afronding.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+#include "scenario/Afronding.h"
 
 namespace brivane::scenario {
 namespace {
@@ -12,8 +12,8 @@ TEST(VierDecimalen, RoundsHalfToEven) {
   EXPECT_EQ(VierDecimalen(3.7000000476837158), 3.7);
   EXPECT_EQ(VierDecimalen(-2.30004), -2.3);
   // An odd number of 32nds times 10,000 is a whole number and a half.
-  EXPECT_EQ(VierDecimalen(0.03125), 0.0312);   // 312.5
-  EXPECT_EQ(VierDecimalen(0.09375), 0.0938);   // 937.5
+  EXPECT_EQ(VierDecimalen(0.03125), 0.0312);  // 312.5
+  EXPECT_EQ(VierDecimalen(0.09375), 0.0938);  // 937.5
   EXPECT_EQ(VierDecimalen(-0.03125), -0.0312);
   EXPECT_EQ(VierDecimalen(0), 0);
 }

@@ -64,9 +64,7 @@ class Formulier : public testing::Test {
     scenario->log.clear();
   }
 
-  [[nodiscard]] controls::Form& Venster() {
-    return static_cast<controls::Form&>(controls::Surface::Of(form->Form()));
-  }
+  [[nodiscard]] controls::Form& Venster() { return static_cast<controls::Form&>(controls::Surface::Of(form->Form())); }
   [[nodiscard]] static std::size_t Ontwerprij(std::string_view naam) {
     for (std::size_t rij = 0; rij < scenario::kOntwerp.rows.size(); ++rij)
       if (scenario::kOntwerp.rows[rij].name == naam) return rij;
@@ -118,8 +116,7 @@ class Formulier : public testing::Test {
     return kruisen;
   }
 
-  template <class Soort, class Doe>
-  void VanElkeRij(std::string_view naam, Doe&& doe) {
+  template <class Soort, class Doe> void VanElkeRij(std::string_view naam, Doe&& doe) {
     const std::size_t ontwerprij = Ontwerprij(naam);
     for (int rij = 1; host::Control* control = form->Form().Element(ontwerprij, rij); ++rij)
       doe(static_cast<Soort&>(*control));

@@ -48,8 +48,8 @@ TEST_F(Fouten, EveryAccessOfAnEditIsShownOnceAndLeavesTheFormOpen) {
     std::int16_t soort;
     const char* vak;
     int toegangen;
-  } gevallen[] = {{1, "txtBedrag", 2}, {3, "txtBedrag", 2}, {2, "txtPercentage", 2}, {3, "txtPercentage", 1},
-                  {2, "txtKorting", 3}};
+  } gevallen[] = {
+      {1, "txtBedrag", 2}, {3, "txtBedrag", 2}, {2, "txtPercentage", 2}, {3, "txtPercentage", 1}, {2, "txtKorting", 3}};
   for (const auto& geval : gevallen) {
     for (int nummer = 1; nummer <= geval.toegangen; ++nummer) {
       Nieuw();

@@ -1,9 +1,8 @@
-#include "scenario/Groei.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
+#include "scenario/Groei.h"
 #include "tests/scenario/Rijentabel.h"
 
 namespace brivane::scenario {

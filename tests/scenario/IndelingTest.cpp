@@ -1,14 +1,22 @@
-#include "scenario/Indeling.h"
-
 #include <gtest/gtest.h>
+
+#include "scenario/Indeling.h"
 
 namespace brivane::scenario {
 namespace {
 
 /// Widths that are easy to add.
-constexpr Breedten kBreedten{.jaar = {240},       .bedrag = {1000},    .eenmalig = {200},       .hint = {300},
-                             .percentage = {600}, .eenheid = {100},    .korting = {500},        .kortingeenheid = {90},
-                             .maandkop = {250},   .waardekop = {700},  .kortingkop = {400}};
+constexpr Breedten kBreedten{.jaar = {240},
+                             .bedrag = {1000},
+                             .eenmalig = {200},
+                             .hint = {300},
+                             .percentage = {600},
+                             .eenheid = {100},
+                             .korting = {500},
+                             .kortingeenheid = {90},
+                             .maandkop = {250},
+                             .waardekop = {700},
+                             .kortingkop = {400}};
 
 Opzet Grid(int rijen, Invoersoort soort, Overbrugging overbrugging = Overbrugging::Nee,
            Kortingkolom korting = Kortingkolom::Zonder) {
@@ -44,8 +52,8 @@ TEST(Indeling, SpreadsTheRowsOverThreeOrFourColumns) {
   const struct {
     int rijen;
     std::vector<int> kolommen;
-  } gevallen[] = {{1, {1}},          {2, {1, 1}},       {3, {1, 1, 1}},     {4, {2, 2}},
-                  {7, {3, 3, 1}},    {30, {10, 10, 10}}, {31, {8, 8, 8, 7}}, {80, {20, 20, 20, 20}}};
+  } gevallen[] = {{1, {1}},       {2, {1, 1}},        {3, {1, 1, 1}},     {4, {2, 2}},
+                  {7, {3, 3, 1}}, {30, {10, 10, 10}}, {31, {8, 8, 8, 7}}, {80, {20, 20, 20, 20}}};
   for (const auto& geval : gevallen) {
     const Indeling indeling = DeelIn(Grid(geval.rijen, Invoersoort::Bedrag), kBreedten);
     EXPECT_EQ(RijenInKolommen(indeling), geval.kolommen) << geval.rijen;
@@ -79,8 +87,13 @@ TEST(Indeling, Amounts) {
   const Indeling indeling = DeelIn(Grid(7, Invoersoort::Bedrag), kBreedten);
   // 240 + 60 + 1000 + 120 + 200 + 60 + 300 = 1980 from column to column.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 2115, 4095}));
-  const Rijplaats verwacht{.eersteInKolom = true, .labelTop = {1070}, .vakTop = {1020}, .jaar = {135},
-                           .bedrag = {435}, .eenmalig = {1495}, .hint = {1755}};
+  const Rijplaats verwacht{.eersteInKolom = true,
+                           .labelTop = {1070},
+                           .vakTop = {1020},
+                           .jaar = {135},
+                           .bedrag = {435},
+                           .eenmalig = {1495},
+                           .hint = {1755}};
   EXPECT_EQ(indeling.rijen[0], verwacht);
   EXPECT_EQ(indeling.koppen[1], (Kopplaats{.waarde = {2415}}));
   // 4095 + 240 + 60 + 1000 + 60 + 200 + 60 + 300.
@@ -101,20 +114,28 @@ TEST(Indeling, Percentages) {
   const Indeling indeling = DeelIn(Grid(30, Invoersoort::Percentage), kBreedten);
   // 240 + 60 + 600 + 60 + 100 + 120 = 1180.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 1315, 2495}));
-  const Rijplaats verwacht{.eersteInKolom = true, .labelTop = {1070}, .vakTop = {1020}, .jaar = {1315},
-                           .percentage = {1615}, .eenheid = {2275}};
+  const Rijplaats verwacht{.eersteInKolom = true,
+                           .labelTop = {1070},
+                           .vakTop = {1020},
+                           .jaar = {1315},
+                           .percentage = {1615},
+                           .eenheid = {2275}};
   EXPECT_EQ(indeling.rijen[10], verwacht);
   // The "%" of the last column reaches to 2495 + 240 + 60 + 600 + 60 + 100, the header to 2495 + 300 + 700.
   EXPECT_EQ(indeling.rechts.value, 3555);
 }
 
 TEST(Indeling, PercentagesWithDiscount) {
-  const Indeling indeling =
-      DeelIn(Grid(80, Invoersoort::Percentage, Overbrugging::Nee, Kortingkolom::Met), kBreedten);
+  const Indeling indeling = DeelIn(Grid(80, Invoersoort::Percentage, Overbrugging::Nee, Kortingkolom::Met), kBreedten);
   // 240 + 60 + 600 + 60 + 100 + 60 + 500 + 60 + 90 + 120 = 1890.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 2025, 3915, 5805}));
-  const Rijplaats verwacht{.labelTop = {7910}, .vakTop = {7860}, .jaar = {135}, .percentage = {435},
-                           .eenheid = {1095}, .korting = {1255}, .kortingeenheid = {1815}};
+  const Rijplaats verwacht{.labelTop = {7910},
+                           .vakTop = {7860},
+                           .jaar = {135},
+                           .percentage = {435},
+                           .eenheid = {1095},
+                           .korting = {1255},
+                           .kortingeenheid = {1815}};
   EXPECT_EQ(indeling.rijen[19], verwacht);
   EXPECT_EQ(indeling.koppen[0], (Kopplaats{.waarde = {435}, .korting = {1350}}));
   // The "%" of the discount reaches to 5805 + 1770, the discount header to 5805 + 300 + 915 + 400.
@@ -125,8 +146,8 @@ TEST(Indeling, AmountsAndPercentages) {
   const Indeling indeling = DeelIn(Grid(7, Invoersoort::BedragEnPercentage), kBreedten);
   // 240 + 60 + 1000 + 60 + 600 + 60 + 100 + 120 = 2240.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 2375, 4615}));
-  const Rijplaats verwacht{.labelTop = {1790}, .vakTop = {1740}, .jaar = {135}, .bedrag = {435},
-                           .percentage = {1495}, .eenheid = {2155}};
+  const Rijplaats verwacht{
+      .labelTop = {1790}, .vakTop = {1740}, .jaar = {135}, .bedrag = {435}, .percentage = {1495}, .eenheid = {2155}};
   EXPECT_EQ(indeling.rijen[2], verwacht);
   EXPECT_EQ(indeling.rechts.value, 6735);
 }
@@ -136,16 +157,21 @@ TEST(Indeling, AmountsAndPercentagesWithDiscount) {
       DeelIn(Grid(31, Invoersoort::BedragEnPercentage, Overbrugging::Nee, Kortingkolom::Met), kBreedten);
   // 2240 + 60 + 500 + 60 + 90 = 2950.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 3085, 6035, 8985}));
-  const Rijplaats verwacht{.eersteInKolom = true, .labelTop = {1070}, .vakTop = {1020}, .jaar = {135},
-                           .bedrag = {435}, .percentage = {1495}, .eenheid = {2155}, .korting = {2315},
+  const Rijplaats verwacht{.eersteInKolom = true,
+                           .labelTop = {1070},
+                           .vakTop = {1020},
+                           .jaar = {135},
+                           .bedrag = {435},
+                           .percentage = {1495},
+                           .eenheid = {2155},
+                           .korting = {2315},
                            .kortingeenheid = {2875}};
   EXPECT_EQ(indeling.rijen[0], verwacht);
   EXPECT_EQ(indeling.rechts.value, 8985 + 2830);
 }
 
 TEST(Indeling, AnUnknownKindHasLabelsAndHeadersOnly) {
-  const Indeling indeling =
-      DeelIn(Grid(4, Invoersoort::Onbekend, Overbrugging::Nee, Kortingkolom::Met), kBreedten);
+  const Indeling indeling = DeelIn(Grid(4, Invoersoort::Onbekend, Overbrugging::Nee, Kortingkolom::Met), kBreedten);
   // 240 + 120 = 360.
   EXPECT_EQ(Kolommen(indeling), (std::vector<float>{135, 495}));
   const Rijplaats verwacht{.labelTop = {1430}, .vakTop = {1380}, .jaar = {495}};

@@ -265,8 +265,7 @@ TEST_F(Opname, TheMaximumIsWrittenAsTheLocaleWritesIt) {
   OpenKrediet(1234567.5, {2000000});
   DrukOK();
   ASSERT_EQ(berichten.size(), 1U);
-  EXPECT_EQ(berichten[0].tekst,
-            "Onjuiste invoer:\r\n- De som van alle opnames bedraagt maximaal € 1,234,568,-.");
+  EXPECT_EQ(berichten[0].tekst, "Onjuiste invoer:\r\n- De som van alle opnames bedraagt maximaal € 1,234,568,-.");
 }
 
 TEST_F(Opname, AtTheMaximumOrWithoutOneItPasses) {

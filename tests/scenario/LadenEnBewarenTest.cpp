@@ -40,8 +40,8 @@ TEST_F(LadenEnBewaren, AmountsByTheMonth) {
   Open(1, 5);
   Zet("txtBedrag", {100, 100, 200, 200, 150});
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"NieuwePeriode", "1.Maand = 25", "1.Bedrag = 200", "1.Eenmalig = 0",
-                                   "NieuwePeriode", "2.Maand = 49", "2.Bedrag = 150", "2.Eenmalig = 0"}));
+  EXPECT_EQ(scenario->log, (Regels{"NieuwePeriode", "1.Maand = 25", "1.Bedrag = 200", "1.Eenmalig = 0", "NieuwePeriode",
+                                   "2.Maand = 49", "2.Bedrag = 150", "2.Eenmalig = 0"}));
   EXPECT_EQ(scenario->basis, 100);
   OpenOpnieuw(1, 5);
   EXPECT_EQ(Waarden("txtBedrag"), (Reeks{100, 100, 200, 200, 150}));
@@ -54,10 +54,9 @@ TEST_F(LadenEnBewaren, AYearlyAmountFallsInTheLastMonthOfItsRow) {
   Zet("txtBedrag", {100, 100, 200, 200, 150});
   Kruis("chkEenmalig", 3);
   DrukOK();
-  EXPECT_EQ(scenario->log,
-            (Regels{"NieuwePeriode", "1.Maand = 36", "1.Bedrag = 200", "1.Eenmalig = 1",  //
-                    "NieuwePeriode", "2.Maand = 37", "2.Bedrag = 200", "2.Eenmalig = 0",  //
-                    "NieuwePeriode", "3.Maand = 49", "3.Bedrag = 150", "3.Eenmalig = 0"}));
+  EXPECT_EQ(scenario->log, (Regels{"NieuwePeriode", "1.Maand = 36", "1.Bedrag = 200", "1.Eenmalig = 1",  //
+                                   "NieuwePeriode", "2.Maand = 37", "2.Bedrag = 200", "2.Eenmalig = 0",  //
+                                   "NieuwePeriode", "3.Maand = 49", "3.Bedrag = 150", "3.Eenmalig = 0"}));
   OpenOpnieuw(1, 5);
   EXPECT_EQ(Waarden("txtBedrag"), (Reeks{100, 100, 200, 200, 150}));
   EXPECT_EQ(Kruisen(), (std::vector<int>{0, 0, 1, 0, 0}));
@@ -100,8 +99,7 @@ TEST_F(LadenEnBewaren, ABridgingLoanCountsAsUntickedByTheMonth) {
   Open(1, 2);
   Zet("txtBedrag", {10, 20});
   DrukOK();
-  EXPECT_EQ(scenario->Inhoud(),
-            (std::vector<PeriodeWaarden>{{.maand = 1, .bedrag = 10}, {.maand = 13, .bedrag = 20}}));
+  EXPECT_EQ(scenario->Inhoud(), (std::vector<PeriodeWaarden>{{.maand = 1, .bedrag = 10}, {.maand = 13, .bedrag = 20}}));
 }
 
 TEST_F(LadenEnBewaren, TheOldListIsTakenAwayFromTheFront) {
@@ -129,8 +127,8 @@ TEST_F(LadenEnBewaren, PercentagesAreStoredRelativeToTheFirst) {
   Open(2, 4);
   Zet("txtPercentage", {4, 4, 4.5, 3});
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 4", "NieuwePeriode", "1.Maand = 25", "1.Percentage = 0.5",
-                                   "NieuwePeriode", "2.Maand = 37", "2.Percentage = -1"}));
+  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 4", "NieuwePeriode", "1.Maand = 25", "1.Percentage = 0.5", "NieuwePeriode",
+                                   "2.Maand = 37", "2.Percentage = -1"}));
   OpenOpnieuw(2, 4);
   EXPECT_EQ(Waarden("txtPercentage"), (Reeks{4, 4, 4.5, 3}));
 }
@@ -152,9 +150,9 @@ TEST_F(LadenEnBewaren, DiscountsAreStoredBesideTheNetPercentage) {
   Zet("txtKorting", {0.5, 0.5, 0.5, 0.75, 0});
   DrukOK();
   EXPECT_EQ(scenario->log,
-            (Regels{"Bedrag = 4.5",                                                             //
-                    "NieuwePeriode", "1.Maand = 1", "1.Percentage = 0", "1.Korting = 0.5",      //
-                    "NieuwePeriode", "2.Maand = 25", "2.Percentage = 0.5", "2.Korting = 0.5",   //
+            (Regels{"Bedrag = 4.5",                                                              //
+                    "NieuwePeriode", "1.Maand = 1", "1.Percentage = 0", "1.Korting = 0.5",       //
+                    "NieuwePeriode", "2.Maand = 25", "2.Percentage = 0.5", "2.Korting = 0.5",    //
                     "NieuwePeriode", "3.Maand = 37", "3.Percentage = 0.25", "3.Korting = 0.75",  //
                     "NieuwePeriode", "4.Maand = 49", "4.Percentage = 0.5", "4.Korting = 0"}));
   OpenOpnieuw(2, 5, {.korting = true});
@@ -170,8 +168,8 @@ TEST_F(LadenEnBewaren, AFirstRowWithoutDiscountHasNoEntry) {
   Zet("txtPercentage", {5, 5});
   Zet("txtKorting", {0, 0.5});
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 5", "NieuwePeriode", "1.Maand = 13", "1.Percentage = -0.5",
-                                   "1.Korting = 0.5"}));
+  EXPECT_EQ(scenario->log,
+            (Regels{"Bedrag = 5", "NieuwePeriode", "1.Maand = 13", "1.Percentage = -0.5", "1.Korting = 0.5"}));
 }
 
 TEST_F(LadenEnBewaren, TheEntryOfTheFirstRowHasNoPercentageWhateverTheHostKeepsAsBaseValue) {
@@ -192,8 +190,8 @@ TEST_F(LadenEnBewaren, TheBaseValueOfPercentagesIsWrittenBeforeTheEntriesAndAfte
   scenario->basis = 2;
   Open(2, 2);
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"VerwijderPeriode 1", "Bedrag = 2", "NieuwePeriode", "1.Maand = 13",
-                                   "1.Percentage = 1"}));
+  EXPECT_EQ(scenario->log,
+            (Regels{"VerwijderPeriode 1", "Bedrag = 2", "NieuwePeriode", "1.Maand = 13", "1.Percentage = 1"}));
 }
 
 TEST_F(LadenEnBewaren, AmountsThatGrowAreStoredAsTheFirstAndThePercentages) {
@@ -202,7 +200,7 @@ TEST_F(LadenEnBewaren, AmountsThatGrowAreStoredAsTheFirstAndThePercentages) {
   Typ("txtBedrag", 1, 1000.0);
   scenario->log.clear();
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 1000",                                      //
+  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 1000",                                       //
                                    "NieuwePeriode", "1.Maand = 13", "1.Percentage = 10",  //
                                    "NieuwePeriode", "2.Maand = 37", "2.Percentage = -5",  //
                                    "NieuwePeriode", "3.Maand = 49", "3.Percentage = 0"}));
@@ -220,8 +218,7 @@ TEST_F(LadenEnBewaren, AFirstPercentageOtherThanZeroIsStored) {
   Open(3, 2);
   Zet("txtPercentage", {3.7, 3.7});
   DrukOK();
-  EXPECT_EQ(scenario->log,
-            (Regels{"Bedrag = 0", "NieuwePeriode", "1.Maand = 1", "1.Percentage = 3.700000047683716"}));
+  EXPECT_EQ(scenario->log, (Regels{"Bedrag = 0", "NieuwePeriode", "1.Maand = 1", "1.Percentage = 3.700000047683716"}));
   OpenOpnieuw(3, 2);
   EXPECT_EQ(Waarden("txtPercentage"), (Reeks{3.7, 3.7}));
 }
@@ -247,8 +244,8 @@ TEST_F(LadenEnBewaren, ADiscountOfKindThreeIsNeitherStoredNorLoaded) {
   EXPECT_EQ(Waarden("txtKorting"), (Reeks{0, 0}));
   Zet("txtKorting", {1, 2});
   DrukOK();
-  EXPECT_EQ(scenario->log, (Regels{"VerwijderPeriode 1", "Bedrag = 100", "NieuwePeriode", "1.Maand = 1",
-                                   "1.Percentage = 2"}));
+  EXPECT_EQ(scenario->log,
+            (Regels{"VerwijderPeriode 1", "Bedrag = 100", "NieuwePeriode", "1.Maand = 1", "1.Percentage = 2"}));
 }
 
 TEST_F(LadenEnBewaren, AnUnknownKindLoadsAndStoresNothing) {
@@ -281,8 +278,8 @@ TEST_F(LadenEnBewaren, TheHostIsReadInOrderWhenTheFormFills) {
                              "Periode.Eenmalig", "Periode", "Periode.Maand", "Periode"}));
   toegang.clear();
   OpenOpnieuw(3, 2);
-  EXPECT_EQ(toegang, (Regels{"Naam", "Invoersoort", "Naam", "Periode", "Periode.Maand", "Periode.Percentage",
-                             "Periode", "Periode.Maand", "Periode", "Bedrag"}));
+  EXPECT_EQ(toegang, (Regels{"Naam", "Invoersoort", "Naam", "Periode", "Periode.Maand", "Periode.Percentage", "Periode",
+                             "Periode.Maand", "Periode", "Bedrag"}));
 }
 
 TEST_F(LadenEnBewaren, TheHostIsWrittenInOrderWhenTheFormStores) {

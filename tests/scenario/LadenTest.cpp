@@ -4,12 +4,8 @@
 
 namespace brivane::scenario {
 
-void PrintTo(const Bedragrij& rij, std::ostream* uit) {
-  *uit << "{" << rij.bedrag << ", " << rij.eenmalig << "}";
-}
-void PrintTo(const Renterij& rij, std::ostream* uit) {
-  *uit << "{" << rij.percentage << ", " << rij.korting << "}";
-}
+void PrintTo(const Bedragrij& rij, std::ostream* uit) { *uit << "{" << rij.bedrag << ", " << rij.eenmalig << "}"; }
+void PrintTo(const Renterij& rij, std::ostream* uit) { *uit << "{" << rij.percentage << ", " << rij.korting << "}"; }
 
 namespace {
 

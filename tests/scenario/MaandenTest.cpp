@@ -1,8 +1,7 @@
-#include "scenario/Maanden.h"
-
 #include <gtest/gtest.h>
 
 #include "scenario/Invoersoort.h"
+#include "scenario/Maanden.h"
 
 namespace brivane::scenario {
 namespace {
@@ -13,8 +12,8 @@ TEST(Maanden, ARowStandsForTwelveMonths) {
     int rijen;
     std::optional<int> rij;
   } gevallen[] = {
-      {1, 5, 1},   {12, 5, 1},  {13, 5, 2},          {24, 5, 2},         {25, 5, 3},           {49, 5, 5},
-      {60, 5, 5},  {61, 5, {}}, {0, 5, {}},          {-1, 5, {}},        {-12, 5, {}},         {960, 80, 80},
+      {1, 5, 1},     {12, 5, 1},    {13, 5, 2},      {24, 5, 2},       {25, 5, 3},   {49, 5, 5},
+      {60, 5, 5},    {61, 5, {}},   {0, 5, {}},      {-1, 5, {}},      {-12, 5, {}}, {960, 80, 80},
       {949, 80, 80}, {961, 80, {}}, {32767, 80, {}}, {-32768, 80, {}},
   };
   for (const auto& geval : gevallen) EXPECT_EQ(RijVan(geval.maand, geval.rijen), geval.rij) << geval.maand;
@@ -42,9 +41,9 @@ TEST(Maanden, TheBasisFollowsTheKindOfScenarioAndTheTick) {
     Maandbasis vorige;
     Maandbasis nieuw;
   } gevallen[] = {
-      {1, false, Maandbasis::Jaar, Maandbasis::Maand}, {1, true, Maandbasis::Jaar, Maandbasis::Maand},
-      {2, false, Maandbasis::Jaar, Maandbasis::Maand}, {2, true, Maandbasis::Maand, Maandbasis::Jaar},
-      {0, false, Maandbasis::Jaar, Maandbasis::Jaar},  {0, true, Maandbasis::Maand, Maandbasis::Maand},
+      {1, false, Maandbasis::Jaar, Maandbasis::Maand},  {1, true, Maandbasis::Jaar, Maandbasis::Maand},
+      {2, false, Maandbasis::Jaar, Maandbasis::Maand},  {2, true, Maandbasis::Maand, Maandbasis::Jaar},
+      {0, false, Maandbasis::Jaar, Maandbasis::Jaar},   {0, true, Maandbasis::Maand, Maandbasis::Maand},
       {3, false, Maandbasis::Maand, Maandbasis::Maand}, {-1, false, Maandbasis::Jaar, Maandbasis::Jaar},
   };
   for (const auto& geval : gevallen)

@@ -1,6 +1,6 @@
-#include "scenario/Opnamecontrole.h"
-
 #include <gtest/gtest.h>
+
+#include "scenario/Opnamecontrole.h"
 
 namespace brivane::scenario {
 namespace {

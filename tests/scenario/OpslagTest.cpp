@@ -13,9 +13,7 @@ void PrintTo(const Bedragpost& post, std::ostream* uit) {
 void PrintTo(const Rentepost& post, std::ostream* uit) {
   *uit << "{" << post.maand << ", " << post.netto << ", " << post.korting << "}";
 }
-void PrintTo(const Groeipost& post, std::ostream* uit) {
-  *uit << "{" << post.maand << ", " << post.percentage << "}";
-}
+void PrintTo(const Groeipost& post, std::ostream* uit) { *uit << "{" << post.maand << ", " << post.percentage << "}"; }
 
 namespace {
 

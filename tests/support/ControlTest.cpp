@@ -25,9 +25,7 @@ ControlTest::ControlTest(const frame::Design& design) : surface_(toolkit_.MakeSu
     host_.journal.Add("pending");
     if (pending_) pending_();
   };
-  toolkit_.focusMoved = [this](controls::AnyControl& control) {
-    host_.journal.Add("focus " + control.ElementName());
-  };
+  toolkit_.focusMoved = [this](controls::AnyControl& control) { host_.journal.Add("focus " + control.ElementName()); };
 }
 
 controls::Outcome ControlTest::Try(host::Control& control, const controls::Action& action) {

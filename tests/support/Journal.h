@@ -48,8 +48,7 @@ class Journal {
   [[nodiscard]] std::vector<std::string> Take() { return std::exchange(lines_, {}); }
 
   /// Lets the nth such operation from now on fail, once.
-  void Fail(std::string member, Op op, int nth = 1,
-            host::Error error = {kPlannedFailure, "Mislukt", "Testhost"}) {
+  void Fail(std::string member, Op op, int nth = 1, host::Error error = {kPlannedFailure, "Mislukt", "Testhost"}) {
     planned_.push_back({std::move(member), op, nth, std::move(error)});
   }
   /// To be called by the host's objects before they do anything.

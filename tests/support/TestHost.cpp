@@ -139,13 +139,12 @@ TestHost::TestHost() {
 }
 
 host::HostFactories TestHost::Factories() {
-  return {[this](std::string_view control) {
-            return traces.emplace_back(std::make_shared<TestTrace>(journal, control));
-          },
-          [this](std::string_view) {
-            ++controles;
-            return std::make_shared<TestControle>(journal, application.get());
-          }};
+  return {
+      [this](std::string_view control) { return traces.emplace_back(std::make_shared<TestTrace>(journal, control)); },
+      [this](std::string_view) {
+        ++controles;
+        return std::make_shared<TestControle>(journal, application.get());
+      }};
 }
 
 TestKolom& TestHost::Kolom(std::int16_t id) {

@@ -79,7 +79,7 @@ class Told {
 };
 
 // A getter and a setter of a field that an interface names.
-#define BRIVANE_TOLD(Type, Parameter, Name)                               \
+#define BRIVANE_TOLD(Type, Parameter, Name)                                    \
   [[nodiscard]] Type Name() const override { return Get(#Name, velden.Name); } \
   void Set##Name(Parameter waarde) override { Set(#Name, velden.Name, waarde); }
 

@@ -16,14 +16,14 @@ TEST_F(ToelichtingBindingTest, ReadsEveryFieldInOrderAndWritesNothing) {
   host_.journal.reads = true;
   kolom_.velden.EinddatumOvergang = D(2040, 1, 1);
   Bind();
-  EXPECT_THAT(Log(), ElementsAre("enter Toelichting.SetApplication", "get Lening(0).VrijeKolom(1)",  //
-                                 "enter Toelichting.Show_Keuze", "get CorrectieFiscaal=1", "get CorrectieLast=1",
-                                 "leave Toelichting",  //
-                                 "enter Toelichting.Fill_Controls", "get UitsluitenLangleven=false",
-                                 "get UitsluitenAO=false", "get UitsluitenWW=false", "get ScenarioOverlijden=false",
-                                 "get PercentageOvergang=0", "get EinddatumOvergang=2040-1-1",
-                                 "get EinddatumOvergang=2040-1-1", "get EindleeftijdOvergang=0", "leave Toelichting",
-                                 "leave Toelichting"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter Toelichting.SetApplication", "get Lening(0).VrijeKolom(1)",  //
+                          "enter Toelichting.Show_Keuze", "get CorrectieFiscaal=1", "get CorrectieLast=1",
+                          "leave Toelichting",  //
+                          "enter Toelichting.Fill_Controls", "get UitsluitenLangleven=false", "get UitsluitenAO=false",
+                          "get UitsluitenWW=false", "get ScenarioOverlijden=false", "get PercentageOvergang=0",
+                          "get EinddatumOvergang=2040-1-1", "get EinddatumOvergang=2040-1-1",
+                          "get EindleeftijdOvergang=0", "leave Toelichting", "leave Toelichting"));
 }
 
 TEST_F(ToelichtingBindingTest, ShowsThreeExclusionsAndOneInclusion) {
@@ -84,9 +84,9 @@ TEST_F(ToelichtingBindingTest, ShowsADateBefore1900AsNoDate) {
     host::Date stored;
     host::Date shown;
   };
-  for (const Case& c : {Case{host::kNoDate, host::kNoDate}, Case{D(1899, 12, 31), host::kNoDate},
-                        Case{D(1850, 6, 1), host::kNoDate}, Case{D(1900, 1, 1), D(1900, 1, 1)},
-                        Case{D(2040, 1, 1), D(2040, 1, 1)}}) {
+  for (const Case& c :
+       {Case{host::kNoDate, host::kNoDate}, Case{D(1899, 12, 31), host::kNoDate}, Case{D(1850, 6, 1), host::kNoDate},
+        Case{D(1900, 1, 1), D(1900, 1, 1)}, Case{D(2040, 1, 1), D(2040, 1, 1)}}) {
     kolom_.velden.EinddatumOvergang = c.stored;
     Bind();
     EXPECT_EQ(on_[txtEinddatum].DateValue(), c.shown) << Show(c.stored);

@@ -126,10 +126,10 @@ TEST_F(ToelichtingChecksTest, TakesAWaitingEditIntoACompleteCheck) {
   pending_ = [this] { Act(on_[TxtPcOvergang], controls::Enter{120.0}); };
   EXPECT_TRUE(Validate(0));
   // Once refused as an edit, once by the complete check that finds it still there.
-  EXPECT_THAT(Log(), ElementsAre("enter Toelichting.Validation", "pending",
-                                 "enter Toelichting.TxtPcOvergang_Validation", "enter Toelichting.Validation",
-                                 kPercentage, "leave Toelichting", "leave Toelichting", kPercentage,
-                                 "leave Toelichting"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter Toelichting.Validation", "pending", "enter Toelichting.TxtPcOvergang_Validation",
+                          "enter Toelichting.Validation", kPercentage, "leave Toelichting", "leave Toelichting",
+                          kPercentage, "leave Toelichting"));
 }
 
 TEST_F(ToelichtingChecksTest, TakesAWaitingToggleIntoACompleteCheck) {
@@ -150,8 +150,8 @@ TEST_F(ToelichtingChecksTest, ReportsAPersonWhoIsMissing) {
   host_.dossier.personen.pop_back();
   BindOverlijden();
   EXPECT_FALSE(Validate(5));
-  EXPECT_THAT(Log(), ElementsAre("enter Toelichting.Validation", "error Toelichting.Validation",
-                                 "report Toelichting 91"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter Toelichting.Validation", "error Toelichting.Validation", "report Toelichting 91"));
 }
 
 }  // namespace

@@ -24,9 +24,9 @@ TEST_F(ToelichtingEditingTest, StoresThreeTogglesAsExclusions) {
                         Case{on_[jnLangleven], "jnLangleven_Change", "UitsluitenLangleven"}}) {
     for (const auto& [value, stored] : {std::pair{host::kNee, "true"}, std::pair{host::kJa, "false"}}) {
       Act(c.toggle, controls::Toggle{value});
-      EXPECT_THAT(Log(), ElementsAre(std::string("enter Toelichting.") + c.procedure,
-                                     std::string("set ") + c.field + '=' + stored, "event Changed",
-                                     "leave Toelichting"));
+      EXPECT_THAT(Log(),
+                  ElementsAre(std::string("enter Toelichting.") + c.procedure,
+                              std::string("set ") + c.field + '=' + stored, "event Changed", "leave Toelichting"));
     }
   }
 }
@@ -122,10 +122,9 @@ TEST_F(ToelichtingEditingTest, FailsWithoutThePersonWhoseColumnItIs) {
   kolom_.velden.HeffingBij = 2;
   BindOverlijden();
   EXPECT_FALSE(Act(on_[txtEinddatum], controls::Enter{D(2041, 5, 6)}));
-  EXPECT_THAT(Log(),
-              ElementsAre("enter Toelichting.TxtEinddatum_Validation", "enter Toelichting.Validation",
-                          "leave Toelichting", "set EinddatumOvergang=2041-5-6",
-                          "error Toelichting.TxtEinddatum_Validation", "report Toelichting 91"));
+  EXPECT_THAT(Log(), ElementsAre("enter Toelichting.TxtEinddatum_Validation", "enter Toelichting.Validation",
+                                 "leave Toelichting", "set EinddatumOvergang=2041-5-6",
+                                 "error Toelichting.TxtEinddatum_Validation", "report Toelichting 91"));
   EXPECT_EQ(kolom_.velden.EindleeftijdOvergang, 65) << "not completed";
 }
 
@@ -146,13 +145,12 @@ TEST_F(ToelichtingEditingTest, WritesNothingAfterARefusal) {
     const char* procedure;
     const char* message;
   };
-  for (const Case& c :
-       {Case{on_[TxtPcOvergang], 0.0, "TxtPcOvergang_Validation",
-             "message Onjuiste invoer|Overgangspercentage partner van 1% t/m 100% invullen.|48"},
-        Case{on_[txtEinddatum], D(2026, 11, 21), "TxtEinddatum_Validation",
-             "message Onjuiste invoer|Einddatum overgang partner moet in de toekomst liggen.|48"},
-        Case{on_[TxtEindjaar], 50.0, "TxtEindjaar_Validation",
-             "message Onjuiste invoer|Eindleeftijd overgang partner moet in de toekomst liggen.|48"}}) {
+  for (const Case& c : {Case{on_[TxtPcOvergang], 0.0, "TxtPcOvergang_Validation",
+                             "message Onjuiste invoer|Overgangspercentage partner van 1% t/m 100% invullen.|48"},
+                        Case{on_[txtEinddatum], D(2026, 11, 21), "TxtEinddatum_Validation",
+                             "message Onjuiste invoer|Einddatum overgang partner moet in de toekomst liggen.|48"},
+                        Case{on_[TxtEindjaar], 50.0, "TxtEindjaar_Validation",
+                             "message Onjuiste invoer|Eindleeftijd overgang partner moet in de toekomst liggen.|48"}}) {
     EXPECT_TRUE(Act(c.box, controls::Enter{c.value})) << c.procedure;
     EXPECT_THAT(Log(), ElementsAre(std::string("enter Toelichting.") + c.procedure, "enter Toelichting.Validation",
                                    c.message, "leave Toelichting", "leave Toelichting"));
@@ -175,10 +173,9 @@ TEST_F(ToelichtingEditingTest, ReportsWhatCannotBeConverted) {
                         Case{on_[TxtEindjaar], std::string("oud"), "TxtEindjaar_Validation"}}) {
     EXPECT_FALSE(Act(c.box, controls::Enter{c.value}));
     // The check fails on the content first, and the handler on it after that.
-    EXPECT_THAT(Log(),
-                ElementsAre(std::string("enter Toelichting.") + c.procedure, "enter Toelichting.Validation",
-                            "error Toelichting.Validation", "report Toelichting 13",
-                            std::string("error Toelichting.") + c.procedure, "report Toelichting 13"));
+    EXPECT_THAT(Log(), ElementsAre(std::string("enter Toelichting.") + c.procedure, "enter Toelichting.Validation",
+                                   "error Toelichting.Validation", "report Toelichting 13",
+                                   std::string("error Toelichting.") + c.procedure, "report Toelichting 13"));
   }
 }
 

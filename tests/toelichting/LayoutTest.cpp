@@ -6,8 +6,8 @@ namespace brivane::test {
 
 namespace {
 
-using ::testing::IsEmpty;
 using host::Place;
+using ::testing::IsEmpty;
 using namespace toelichting;
 
 class ToelichtingLayoutTest : public ToelichtingTest {
@@ -23,9 +23,7 @@ class ToelichtingLayoutTest : public ToelichtingTest {
     on_[fraContent].Move({{1}, {2}, {5760}, {1890}});
     on_[jnAO].Move({{2040}, {480}, {900}, {315}});
   }
-  void Size(float width, float height) {
-    controls::Surface::Of(*surface_).Size({width}, {height});
-  }
+  void Size(float width, float height) { controls::Surface::Of(*surface_).Size({width}, {height}); }
 };
 
 // The content frame is 1890 high: 300 + 1695 + 120 + 1890 + 60 = 4065.
@@ -109,7 +107,7 @@ TEST_F(ScaledToelichtingTest, ScalesTheListAndTheContentButNotTheDistances) {
   EXPECT_EQ(on_[fraContent].Place(), (Place{{135}, {1716}, {4608}, {1512}}));  // 240 + 1356 + 120
   EXPECT_EQ(on_[fraScenarios].Place(), (Place{{0}, {0}, {4824}, {3288}}));     // 1716 + 1512 + 60
   EXPECT_EQ(surface_->Place().height, host::Twips{3288});
-  EXPECT_EQ(on_[jnAO].Place(), (Place{{1632}, {384}, {720}, {252}}));  // 0.8 of 2040, 480, 900, 315
+  EXPECT_EQ(on_[jnAO].Place(), (Place{{1632}, {384}, {720}, {252}}));      // 0.8 of 2040, 480, 900, 315
   EXPECT_FLOAT_EQ(on_[jnAO].Read(host::Measure::FontSize).value(), 7.2F);  // 0.8 of 9 points
 }
 

@@ -17,9 +17,7 @@ class ToelichtingTest : public ControlTest {
     control_->Changed.Connect([this] { host_.journal.Add("event Changed"); });
     Forget();
   }
-  void Bind(std::int16_t Vrij_Id = 1) {
-    control_->SetApplication(application_, lening_, Vrij_Id);
-  }
+  void Bind(std::int16_t Vrij_Id = 1) { control_->SetApplication(application_, lening_, Vrij_Id); }
   /// Binds a column that counts on death, for 50 % until 1 January 2040.
   void BindOverlijden() {
     kolom_.velden.ScenarioOverlijden = true;

@@ -120,8 +120,8 @@ TEST_F(CarryOverTest, ComesBeforeTheCheckOfASingleDate) {
   host_.VoegLening({1});
   BindChanged();
   EXPECT_TRUE(Act(on_[TxtDtAanvang], controls::Enter{host::kNoDate}));
-  EXPECT_THAT(Log(), ElementsAre("enter TxtDtAanvang_Validation", "enter Validation", kVraag, kAanvang, "leave",
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter TxtDtAanvang_Validation", "enter Validation", kVraag, kAanvang, "leave", "leave"));
   EXPECT_FALSE(editor_->Gewijzigd());
 }
 
@@ -180,8 +180,8 @@ TEST_F(DateChecksTest, RunsTheChecksOfItsNumber) {
     Lines withoutStart;
     Lines withEarlyEnd;
   };
-  for (const Case& c : {Case{0, {kAanvang}, {kEinde}}, Case{1, {kAanvang}, {}}, Case{2, {}, {kEinde}},
-                        Case{3, {}, {}}, Case{-1, {}, {}}}) {
+  for (const Case& c : {Case{0, {kAanvang}, {kEinde}}, Case{1, {kAanvang}, {}}, Case{2, {}, {kEinde}}, Case{3, {}, {}},
+                        Case{-1, {}, {}}}) {
     BindDates(host::kNoDate, D(2024, 5, 5));
     EXPECT_EQ(Validate(c.nummer), !c.withoutStart.empty());
     EXPECT_EQ(Only(Log(), "message"), c.withoutStart) << c.nummer;
@@ -232,8 +232,8 @@ TEST_F(BookkeepingTest, RunsAfterARefusalToo) {
   kolom_.velden.Voorstel = {"J", "J", ""};
   BindUnheard();
   EXPECT_TRUE(Validate(0));
-  EXPECT_THAT(Log(), ElementsAre("enter Validation", kAanvang, "call VerwijderUitVoorstel(3, 1, 0)", kControleer,
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter Validation", kAanvang, "call VerwijderUitVoorstel(3, 1, 0)", kControleer, "leave"));
   EXPECT_TRUE(Validate(0, true));
   EXPECT_THAT(Log(), ElementsAre("enter Validation", "call VerwijderUitVoorstel(3, 1, 0)", kControleer, "leave"));
 }
@@ -314,13 +314,12 @@ TEST_F(FiscalOptionsTest, FollowTheBurdenOption) {
 TEST_F(FiscalOptionsTest, MakeAContributionATaxableAddition) {
   BindCodes(1, 1);
   Act(on_(optLast, 2), controls::Select{});
-  EXPECT_THAT(Log(), ElementsAreArray(Join(
-                         {{"enter optLast_Click", "set CorrectieLast=2", "enter Check_FraFiscaal"},
-                          {"enter optFiscaal_Click", "set CorrectieFiscaal=2"},
-                          kHerbonden,
-                          {"event RefreshTopDisplay de kopregel", "leave", "leave"},
-                          kHerbonden,
-                          {"event RefreshTopDisplay de kopregel", "leave"}})));
+  EXPECT_THAT(Log(), ElementsAreArray(Join({{"enter optLast_Click", "set CorrectieLast=2", "enter Check_FraFiscaal"},
+                                            {"enter optFiscaal_Click", "set CorrectieFiscaal=2"},
+                                            kHerbonden,
+                                            {"event RefreshTopDisplay de kopregel", "leave", "leave"},
+                                            kHerbonden,
+                                            {"event RefreshTopDisplay de kopregel", "leave"}})));
   ExpectAllowed(false, true, true);
   EXPECT_TRUE(on_(optFiscaal, 2).Value());
   EXPECT_TRUE(on_[jnInkUitArbeid].Enabled());
@@ -351,11 +350,11 @@ TEST_F(FiscalOptionsTest, AreNotWrittenAnewWhereTheRightOneIsSelected) {
   kolom_.velden.InkomenUitArbeid = true;
   BindCodes(1, 1);
   Act(on_(optLast, 3), controls::Select{});
-  EXPECT_THAT(Log(), ElementsAreArray(Join({{"enter optLast_Click", "set CorrectieLast=3", "enter Check_FraFiscaal",
-                                             "enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "leave",
-                                             "leave"},
-                                            kHerbonden,
-                                            {"event RefreshTopDisplay de kopregel", "leave"}})));
+  EXPECT_THAT(Log(),
+              ElementsAreArray(Join({{"enter optLast_Click", "set CorrectieLast=3", "enter Check_FraFiscaal",
+                                      "enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "leave", "leave"},
+                                     kHerbonden,
+                                     {"event RefreshTopDisplay de kopregel", "leave"}})));
 }
 
 }  // namespace

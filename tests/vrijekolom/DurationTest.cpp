@@ -89,9 +89,9 @@ TEST_F(DurationTest, RoundsTheSumOnceHalfToEven) {
     double maanden;
     std::int16_t looptijd;
   };
-  for (const Case& c : {Case{0.125, 0, 2}, Case{0, 0.5, 0}, Case{0, 2.5, 2}, Case{0, 3.5, 4}, Case{0.0625, 0.25, 1},
-                        Case{1.5, 0.4, 18}, Case{0, -1.5, -2}, Case{0, -0.5, 0}, Case{2730, 7, 32767},
-                        Case{2730, 7.25, 32767}, Case{-2730, -8, -32768}})
+  for (const Case& c :
+       {Case{0.125, 0, 2}, Case{0, 0.5, 0}, Case{0, 2.5, 2}, Case{0, 3.5, 4}, Case{0.0625, 0.25, 1}, Case{1.5, 0.4, 18},
+        Case{0, -1.5, -2}, Case{0, -0.5, 0}, Case{2730, 7, 32767}, Case{2730, 7.25, 32767}, Case{-2730, -8, -32768}})
     EXPECT_EQ(LooptijdUit(c.jaren, c.maanden), c.looptijd) << c.jaren << ' ' << c.maanden;
   EXPECT_THROW((void)LooptijdUit(2730, 8), host::Error);
   EXPECT_THROW((void)LooptijdUit(2730, 7.5), host::Error);
@@ -114,8 +114,7 @@ TEST_F(DurationTest, SplitsADurationTowardZero) {
 TEST_F(DurationTest, WritesNoDurationPast16Bits) {
   BindFrom(D(2024, 1, 31), 14);
   EnterMonths(3000, 1);
-  EXPECT_THAT(Log(), ElementsAre("enter TxtAnMaand_Validation", "error TxtAnMaand_Validation",
-                                 "report VrijeKolom 6"));
+  EXPECT_THAT(Log(), ElementsAre("enter TxtAnMaand_Validation", "error TxtAnMaand_Validation", "report VrijeKolom 6"));
   ExpectShown(14, 3000, 1, D(2025, 3, 31));
   EXPECT_FALSE(editor_->Gewijzigd());
 }
@@ -144,8 +143,8 @@ TEST_F(DurationTest, ReadsTheDurationBackForEachBox) {
   BindFrom(D(2024, 1, 31));
   host_.journal.reads = true;
   EnterMonths(0, 1);
-  EXPECT_THAT(Only(Log(), "get"), ElementsAre("get Looptijd=1", "get Looptijd=1", "get Looptijd=1",
-                                              "get Kopregel=\"de kopregel\""));
+  EXPECT_THAT(Only(Log(), "get"),
+              ElementsAre("get Looptijd=1", "get Looptijd=1", "get Looptijd=1", "get Kopregel=\"de kopregel\""));
 }
 
 TEST_F(DurationTest, SnapsTheEndDateToTheDayOfTheStart) {
@@ -236,8 +235,7 @@ TEST_F(DurationTest, RefusesAnEmptyStartDateAndTouchesNothing) {
   BindFrom(D(2024, 1, 31), 14);
   EXPECT_TRUE(Act(on_[TxtDtAanvang], controls::Enter{host::kNoDate}));
   EXPECT_THAT(Log(), ElementsAre("enter TxtDtAanvang_Validation", "enter Validation",
-                                 "message Ontbrekende invoer|Voer s.v.p. een aanvangsdatum in.|48", "leave",
-                                 "leave"));
+                                 "message Ontbrekende invoer|Voer s.v.p. een aanvangsdatum in.|48", "leave", "leave"));
   EXPECT_EQ(kolom_.velden.DatumAanvang, D(2024, 1, 31));
   ExpectShown(14, 1, 2, D(2025, 3, 31));
   EXPECT_FALSE(editor_->Gewijzigd());
@@ -250,10 +248,10 @@ TEST_F(DurationTest, ReportsWhatCannotBeConverted) {
     controls::BoxValue value;
     const char* procedure;
   };
-  for (const Case& c : {Case{on_[TxtBd], std::string("veel"), "TxtBd_Validation"},
-                        Case{on_[TxtOm], 5.0, "TxtOm_Validation"},
-                        Case{on_[TxtAnJaar], std::string("een"), "TxtAnJaar_Validation"},
-                        Case{on_[TxtAnMaand], std::string("een"), "TxtAnMaand_Validation"}}) {
+  for (const Case& c :
+       {Case{on_[TxtBd], std::string("veel"), "TxtBd_Validation"}, Case{on_[TxtOm], 5.0, "TxtOm_Validation"},
+        Case{on_[TxtAnJaar], std::string("een"), "TxtAnJaar_Validation"},
+        Case{on_[TxtAnMaand], std::string("een"), "TxtAnMaand_Validation"}}) {
     EXPECT_FALSE(Act(c.box, controls::Enter{c.value}));
     EXPECT_THAT(Log(), ElementsAre(std::string("enter ") + c.procedure, std::string("error ") + c.procedure,
                                    "report VrijeKolom 13"));
@@ -263,9 +261,9 @@ TEST_F(DurationTest, ReportsWhatCannotBeConverted) {
                         Case{on_[TxtDtEind], 45000.0, "TxtDtEind_Validation"}}) {
     EXPECT_FALSE(Act(c.box, controls::Enter{c.value}));
     // The check fails on it first, and then the handler.
-    EXPECT_THAT(Log(), ElementsAre(std::string("enter ") + c.procedure, "enter Validation", "error Validation",
-                                   "report VrijeKolom 13", std::string("error ") + c.procedure,
-                                   "report VrijeKolom 13"));
+    EXPECT_THAT(Log(),
+                ElementsAre(std::string("enter ") + c.procedure, "enter Validation", "error Validation",
+                            "report VrijeKolom 13", std::string("error ") + c.procedure, "report VrijeKolom 13"));
     c.box.SetDate(D(2024, 1, 31));
   }
   EXPECT_FALSE(editor_->Gewijzigd());

@@ -45,18 +45,19 @@ class EditorTest : public ControlTest {
       }
     FAIL() << "no entry " << text;
   }
-  [[nodiscard]] frame::Controls InToelichting() {
-    return frame::Controls(on_[vrijekolom::ToelichtingVlak]);
-  }
+  [[nodiscard]] frame::Controls InToelichting() { return frame::Controls(on_[vrijekolom::ToelichtingVlak]); }
 
   TestKolom& kolom_ = host_.Kolom(1);
   std::optional<VrijeKolom> editor_;
 };
 
 /// The lines of a binding of the explanation control.
-inline const Lines kHerbonden{"enter Toelichting.SetApplication", "enter Toelichting.Show_Keuze",
-                              "leave Toelichting",                "enter Toelichting.Fill_Controls",
-                              "leave Toelichting",                "leave Toelichting"};
+inline const Lines kHerbonden{"enter Toelichting.SetApplication",
+                              "enter Toelichting.Show_Keuze",
+                              "leave Toelichting",
+                              "enter Toelichting.Fill_Controls",
+                              "leave Toelichting",
+                              "leave Toelichting"};
 
 /// Pieces of a log, one after the other.
 inline Lines Join(std::initializer_list<Lines> pieces) {

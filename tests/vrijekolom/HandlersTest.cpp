@@ -54,13 +54,19 @@ struct Handler {
 void PrintTo(const Handler& handler, std::ostream* out) { *out << handler.name; }
 
 const Handler kHandlers[] = {
-    {"jnInDagloon_Change", Guard::Filling, Dirty::Yes,
+    {"jnInDagloon_Change",
+     Guard::Filling,
+     Dirty::Yes,
      [](FieldHandlers& t) { t.Act(t.on_[jnInDagloon], controls::Toggle{host::kJa}); },
      {"enter jnInDagloon_Change", "set InDagloon=true", "leave"}},
-    {"jnInkUitArbeid_Change", Guard::Filling, Dirty::Yes,
+    {"jnInkUitArbeid_Change",
+     Guard::Filling,
+     Dirty::Yes,
      [](FieldHandlers& t) { t.Act(t.on_[jnInkUitArbeid], controls::Toggle{host::kJa}); },
      {"enter jnInkUitArbeid_Change", "set InkomenUitArbeid=true", "leave"}},
-    {"jnUwBemiddeling_Change", Guard::Filling, Dirty::No,
+    {"jnUwBemiddeling_Change",
+     Guard::Filling,
+     Dirty::No,
      [](FieldHandlers& t) { t.Act(t.on_[jnUwBemiddeling], controls::Toggle{host::kJa}); },
      {"enter jnUwBemiddeling_Change", "set UwBemiddeling=true", "leave"}},
     {"optAanvrager_Click", Guard::Filling, Dirty::Yes,
@@ -99,23 +105,35 @@ const Handler kHandlers[] = {
     {"TxtDtEind_Validation", Guard::None, Dirty::Yes,
      [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[TxtDtEind], controls::Enter{D(2024, 7, 1)})); },
      Join({{"enter TxtDtEind_Validation", "enter Validation", "leave", "set Looptijd=6"}, kKopregel, {"leave"}})},
-    {"txtMaatschappij_Validation", Guard::None, Dirty::No,
+    {"txtMaatschappij_Validation",
+     Guard::None,
+     Dirty::No,
      [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtMaatschappij], controls::Enter{std::string("Bank")})); },
      {"enter txtMaatschappij_Validation", "set MaatschappijNaam=\"Bank\"", "leave"}},
-    {"txtProductsoort_Validation", Guard::None, Dirty::No,
+    {"txtProductsoort_Validation",
+     Guard::None,
+     Dirty::No,
      [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductsoort], controls::Enter{std::string("Koor")})); },
      {"enter txtProductsoort_Validation", "set ProductsoortOmschrijving=\"Koor\"", "leave"}},
-    {"txtProductnaam_Validation", Guard::None, Dirty::No,
+    {"txtProductnaam_Validation",
+     Guard::None,
+     Dirty::No,
      [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtProductnaam], controls::Enter{std::string("Extra")})); },
      {"enter txtProductnaam_Validation", "set Productnaam=\"Extra\"", "leave"}},
-    {"txtVervaldatum_Validation", Guard::None, Dirty::No,
+    {"txtVervaldatum_Validation",
+     Guard::None,
+     Dirty::No,
      [](FieldHandlers& t) { EXPECT_FALSE(t.Act(t.on_[txtVervaldatum], controls::Enter{D(2030, 6, 1)})); },
      {"enter txtVervaldatum_Validation", "set Contractvervaldatum=2030-6-1", "leave"},
      [](FieldHandlers& t) { t.BindContract(); }},
-    {"txtProducttype_Validation", Guard::None, Dirty::No,
+    {"txtProducttype_Validation",
+     Guard::None,
+     Dirty::No,
      [](FieldHandlers& t) { t.editor_->txtProducttype_Validation(); },
      {"enter txtProducttype_Validation", "leave"}},
-    {"Toelichting_Changed", Guard::None, Dirty::Yes,
+    {"Toelichting_Changed",
+     Guard::None,
+     Dirty::Yes,
      [](FieldHandlers& t) { t.Act(t.InToelichting()[toelichting::jnOverlijden], controls::Toggle{host::kJa}); },
      {"enter Toelichting.jnOverlijden_Change", "set ScenarioOverlijden=true", "set PercentageOvergang=0",
       "set EinddatumOvergang=0", "set EindleeftijdOvergang=0", "leave Toelichting"}},
@@ -178,13 +196,12 @@ TEST_F(NestingTest, OnlyATaxableContributionKeepsItsIncomeFromWork) {
   kolom_.velden.InkomenUitArbeid = kolom_.velden.InDagloon = true;
   BindEverything();
   Act(on_(optFiscaal, 3), controls::Select{});
-  EXPECT_THAT(Log(), ElementsAreArray(Join(
-                         {{"enter optFiscaal_Click", "set CorrectieFiscaal=3", "enter jnInkUitArbeid_Change",
-                           "set InkomenUitArbeid=false", "enter jnInDagloon_Change", "set InDagloon=false", "leave",
-                           "leave"},
-                          kHerbonden,
-                          kKopregel,
-                          {"leave"}})));
+  EXPECT_THAT(Log(), ElementsAreArray(Join({{"enter optFiscaal_Click", "set CorrectieFiscaal=3",
+                                             "enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
+                                             "enter jnInDagloon_Change", "set InDagloon=false", "leave", "leave"},
+                                            kHerbonden,
+                                            kKopregel,
+                                            {"leave"}})));
   EXPECT_FALSE(on_[jnInkUitArbeid].Enabled());
   Act(on_(optFiscaal, 2), controls::Select{});
   EXPECT_TRUE(on_[jnInkUitArbeid].Enabled());
@@ -197,9 +214,9 @@ TEST_F(NestingTest, AFailureInsideEndsTheInnerProcedureAlone) {
   BindEverything();
   host_.journal.Fail("InDagloon", Op::Set);
   Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
-  EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
-                                 "enter jnInDagloon_Change", "error jnInDagloon_Change", "report VrijeKolom 1004",
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "enter jnInDagloon_Change",
+                          "error jnInDagloon_Change", "report VrijeKolom 1004", "leave"));
   EXPECT_TRUE(editor_->Gewijzigd()) << "the outer one came to its end";
 }
 
@@ -240,8 +257,8 @@ TEST_F(ErrorReportTest, UndoesNothing) {
   BindEverything();
   host_.journal.Fail("Kopregel", Op::Get);
   Act(on_[TxtOm], controls::Enter{std::string("geschreven")});
-  EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "set Omschrijving=\"geschreven\"",
-                                 "error TxtOm_Validation", "report VrijeKolom 1004"));
+  EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "set Omschrijving=\"geschreven\"", "error TxtOm_Validation",
+                                 "report VrijeKolom 1004"));
   EXPECT_EQ(kolom_.velden.Omschrijving, "geschreven");
   EXPECT_FALSE(editor_->Gewijzigd());
 }
@@ -261,9 +278,9 @@ TEST_F(ErrorReportTest, FailsTheTracedProcedureAroundIt) {
   kolom_.velden.InDagloon = kolom_.velden.InkomenUitArbeid = true;
   BindUnheard();
   Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
-  EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false",
-                                 "enter jnInDagloon_Change", "error jnInDagloon_Change",
-                                 "error jnInkUitArbeid_Change", "report VrijeKolom 70"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "enter jnInDagloon_Change",
+                          "error jnInDagloon_Change", "error jnInkUitArbeid_Change", "report VrijeKolom 70"));
 }
 
 TEST_F(ErrorReportTest, NamesAnExceptionOfAnotherKindByItsText) {

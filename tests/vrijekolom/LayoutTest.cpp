@@ -6,10 +6,10 @@ namespace brivane::test {
 
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using host::Place;
 using host::Twips;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 using namespace vrijekolom;
 
 class EditorLayoutTest : public EditorTest {
@@ -23,8 +23,8 @@ class EditorLayoutTest : public EditorTest {
     for (const auto& kader : {fraFiscaal, fraAlgemeen, fraGegevens, fraHeffing}) on_[kader].Move({{1}, {2}, {3}, {4}});
     on_[fraLast].Move({{0}, {0}, {6300}, {660}});
     on_[fraProduct].Move({{1}, {2}, {6030}, {2790}});
-    for (const auto& [kader, hoogte] : {std::pair{fraFiscaal, 660}, std::pair{fraGegevens, 2220},
-                                        std::pair{fraHeffing, 660}})
+    for (const auto& [kader, hoogte] :
+         {std::pair{fraFiscaal, 660}, std::pair{fraGegevens, 2220}, std::pair{fraHeffing, 660}})
       on_[kader].Write(host::Measure::Height, static_cast<float>(hoogte));
     InToelichting()[toelichting::fraContent].Move({{135}, {2115}, {5760}, {1890}});
     controls::Surface::Of(dynamic_cast<host::Surface&>(on_[ToelichtingVlak])).Size({6030}, {4065});

@@ -53,8 +53,8 @@ TEST_F(LoadingTest, AsksForBothLoansWhicheverItNeeds) {
   Bind(2, 5);
   Lines log = Log();
   log.resize(4);
-  EXPECT_THAT(log, ElementsAre("enter SetApplication", "get HuidigeLening", "get Lening(2)",
-                               "get Lening(2).VrijeKolommen(5)"));
+  EXPECT_THAT(
+      log, ElementsAre("enter SetApplication", "get HuidigeLening", "get Lening(2)", "get Lening(2).VrijeKolommen(5)"));
   EXPECT_EQ(editor_->Item()->Id(), 5);
 }
 
@@ -151,8 +151,8 @@ TEST_F(LoadingTest, SwitchesFramesAndCaptionWithTheContractKinds) {
     std::int16_t soort;
     bool contract;
   };
-  for (const Case& c : {Case{0, false}, Case{41, false}, Case{42, true}, Case{43, true}, Case{44, true},
-                        Case{45, true}, Case{46, false}, Case{99, false}}) {
+  for (const Case& c : {Case{0, false}, Case{41, false}, Case{42, true}, Case{43, true}, Case{44, true}, Case{45, true},
+                        Case{46, false}, Case{99, false}}) {
     kolom_.velden.Productsoort = c.soort;
     Bind();
     EXPECT_EQ(on_[fraVervaldatum].Visible(), c.contract) << c.soort;

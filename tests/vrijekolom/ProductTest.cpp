@@ -66,10 +66,9 @@ TEST_F(ProductTest, FillsTheListsInsideTheFillOfTheProduct) {
   const Lines log = Log();
   const auto begin = std::find(log.begin(), log.end(), "enter Fill_Product");
   const auto end = std::find(begin, log.end(), "enter Toelichting.SetApplication");
-  EXPECT_THAT(Lines(begin, end),
-              ElementsAre("enter Fill_Product", "enter Fill_cboMaatschappij",
-                          "call VulCombo(MaatschappijType, cboMaatschappij, \"AB\", \"\")", "leave",
-                          "enter Fill_cboProductsoort", "leave", "leave"));
+  EXPECT_THAT(Lines(begin, end), ElementsAre("enter Fill_Product", "enter Fill_cboMaatschappij",
+                                             "call VulCombo(MaatschappijType, cboMaatschappij, \"AB\", \"\")", "leave",
+                                             "enter Fill_cboProductsoort", "leave", "leave"));
 }
 
 TEST_F(ProductTest, FillsTheListsAnewEachTime) {
@@ -123,9 +122,9 @@ TEST_F(ProductTest, SelectsNoKindForAnUnknownCode) {
 TEST_F(ProductTest, RunsAFixedKindUntilAContractExpiryDate) {
   BindProduct();
   Pick(on_[cboProductsoort], "Krant");
-  EXPECT_THAT(Log(), ElementsAre("enter cboProductsoort_Click", "set Productsoort=44",
-                                 "set ProductsoortOmschrijving=\"Krant\"", "set Looptijd=999",
-                                 "enter Fill_fraAlgemeen", "leave", "event HeightChanged", "leave"));
+  EXPECT_THAT(
+      Log(), ElementsAre("enter cboProductsoort_Click", "set Productsoort=44", "set ProductsoortOmschrijving=\"Krant\"",
+                         "set Looptijd=999", "enter Fill_fraAlgemeen", "leave", "event HeightChanged", "leave"));
   EXPECT_EQ(on_[txtProductsoort].Text(), "Krant");
   EXPECT_FALSE(on_[txtProductsoort].Enabled());
   EXPECT_TRUE(on_[fraVervaldatum].Visible());
@@ -159,13 +158,15 @@ TEST_F(ProductTest, GoesByTheKindAsTheRecordKeepsIt) {
   BindProduct();
   kolom_.adjust = [](KolomVelden& velden, std::string_view veld) {
     if (veld == "Productsoort") velden.Productsoort = 99;
-    if (veld == "ProductsoortOmschrijving") velden.ProductsoortOmschrijving = "[" + velden.ProductsoortOmschrijving + "]";
+    if (veld == "ProductsoortOmschrijving")
+      velden.ProductsoortOmschrijving = "[" + velden.ProductsoortOmschrijving + "]";
   };
   Pick(on_[cboProductsoort], "Krant");
   EXPECT_EQ(kolom_.velden.Looptijd, 0);
   EXPECT_TRUE(on_[fraLooptijd].Visible());
   kolom_.adjust = [](KolomVelden& velden, std::string_view veld) {
-    if (veld == "ProductsoortOmschrijving") velden.ProductsoortOmschrijving = "[" + velden.ProductsoortOmschrijving + "]";
+    if (veld == "ProductsoortOmschrijving")
+      velden.ProductsoortOmschrijving = "[" + velden.ProductsoortOmschrijving + "]";
   };
   Pick(on_[cboProductsoort], "Vereniging");
   EXPECT_EQ(on_[txtProductsoort].Text(), "[Vereniging]") << "as read back";
@@ -193,9 +194,9 @@ TEST_F(ProductTest, ShowsTheCompanyNameAsTheRecordKeepsIt) {
 TEST_F(ProductTest, LetsThePersonNameAnotherCompany) {
   BindProduct();
   Pick(on_[cboMaatschappij], "Anders");
-  EXPECT_THAT(Log(), ElementsAre("enter cboMaatschappij_Click", "call ZoekCode(MaatschappijType, \"Anders\")",
-                                 "set Maatschappij=\"ZZ\"", "set MaatschappijNaam=\"\"", "focus txtMaatschappij",
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter cboMaatschappij_Click", "call ZoekCode(MaatschappijType, \"Anders\")",
+                          "set Maatschappij=\"ZZ\"", "set MaatschappijNaam=\"\"", "focus txtMaatschappij", "leave"));
   EXPECT_EQ(on_[txtMaatschappij].Text(), "");
   EXPECT_TRUE(on_[txtMaatschappij].Enabled());
 }
@@ -211,10 +212,10 @@ TEST_F(ProductTest, LooksTheCompanyUpBeforeItNeedsTheColumn) {
 TEST_F(ProductTest, IsFilledWhenItBecomesAProduct) {
   BindUnheard();
   Act(on_[chkProduct], controls::Tick{host::kTicked});
-  EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true",
-                                 "enter Fill_Product", "enter Fill_cboMaatschappij",
-                                 "call VulCombo(MaatschappijType, cboMaatschappij, \"\", \"\")", "leave",
-                                 "enter Fill_cboProductsoort", "set Productsoort=99", "leave", "leave", "leave"));
+  EXPECT_THAT(
+      Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true", "enter Fill_Product",
+                         "enter Fill_cboMaatschappij", "call VulCombo(MaatschappijType, cboMaatschappij, \"\", \"\")",
+                         "leave", "enter Fill_cboProductsoort", "set Productsoort=99", "leave", "leave", "leave"));
   ExpectFrames(true);
   EXPECT_EQ(on_[jnUwBemiddeling].Value(), host::kJa);
   EXPECT_FALSE(editor_->Filling());
@@ -225,10 +226,9 @@ TEST_F(ProductTest, EmptiesTheProductDataOfAContractAndItsDuration) {
   BindProduct("ZZ", 45);
   Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=false", "set Maatschappij=\"\"",
-                                 "set MaatschappijNaam=\"\"", "set Productsoort=0",
-                                 "set ProductsoortOmschrijving=\"\"", "set Productnaam=\"\"",
-                                 "set UwBemiddeling=false", "set Looptijd=0", "enter Fill_fraAlgemeen", "leave",
-                                 "event HeightChanged", "leave"));
+                                 "set MaatschappijNaam=\"\"", "set Productsoort=0", "set ProductsoortOmschrijving=\"\"",
+                                 "set Productnaam=\"\"", "set UwBemiddeling=false", "set Looptijd=0",
+                                 "enter Fill_fraAlgemeen", "leave", "event HeightChanged", "leave"));
   ExpectFrames(false);
   EXPECT_TRUE(on_[fraLooptijd].Visible());
   EXPECT_FALSE(on_[fraVervaldatum].Visible());
@@ -240,9 +240,8 @@ TEST_F(ProductTest, KeepsTheDurationOfAProductThatIsNoContract) {
   BindProduct("AB", 99);
   Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=false", "set Maatschappij=\"\"",
-                                 "set MaatschappijNaam=\"\"", "set Productsoort=0",
-                                 "set ProductsoortOmschrijving=\"\"", "set Productnaam=\"\"",
-                                 "set UwBemiddeling=false", "leave"));
+                                 "set MaatschappijNaam=\"\"", "set Productsoort=0", "set ProductsoortOmschrijving=\"\"",
+                                 "set Productnaam=\"\"", "set UwBemiddeling=false", "leave"));
   EXPECT_EQ(kolom_.velden.Looptijd, 24);
 }
 
@@ -257,8 +256,8 @@ TEST_F(ProductTest, ReportsAListWithoutASelectionBeforeItTraces) {
   on_[cboProductsoort].Click.Raise();
   EXPECT_THAT(Log(), ElementsAre("error cboProductsoort_Click", "report VrijeKolom 381"));
   on_[cboMaatschappij].Click.Raise();
-  EXPECT_THAT(Log(), ElementsAre("enter cboMaatschappij_Click", "error cboMaatschappij_Click",
-                                 "report VrijeKolom 381"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter cboMaatschappij_Click", "error cboMaatschappij_Click", "report VrijeKolom 381"));
 }
 
 TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
@@ -266,10 +265,10 @@ TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
   on_[txtMaatschappij].SetText("van een andere kolom");
   host_.journal.Fail("VulCombo", Op::Call);
   Act(on_[chkProduct], controls::Tick{host::kTicked});
-  EXPECT_THAT(Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true",
-                                 "enter Fill_Product", "enter Fill_cboMaatschappij", "error Fill_cboMaatschappij",
-                                 "report VrijeKolom 1004", "enter Fill_cboProductsoort", "set Productsoort=99",
-                                 "leave", "leave", "leave"));
+  EXPECT_THAT(
+      Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true", "enter Fill_Product",
+                         "enter Fill_cboMaatschappij", "error Fill_cboMaatschappij", "report VrijeKolom 1004",
+                         "enter Fill_cboProductsoort", "set Productsoort=99", "leave", "leave", "leave"));
   EXPECT_EQ(on_[txtMaatschappij].Text(), "");
   EXPECT_FALSE(on_[txtMaatschappij].Enabled());
   EXPECT_FALSE(editor_->Filling());

@@ -25,9 +25,9 @@ class TermTest : public EditorTest {
 TEST_F(TermTest, EmptiesDurationAndScenarioOfAOneOff) {
   BindRecurring();
   Pick(on_[cboTermijn], "eenmalig");
-  EXPECT_THAT(Log(), ElementsAre("enter CboTermijn_Click", "set Termijn=99", "set Looptijd=0",
-                                 "call VerwijderPeriode(1)", "call VerwijderPeriode(1)",
-                                 "event RefreshTopDisplay de weergave", "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter CboTermijn_Click", "set Termijn=99", "set Looptijd=0", "call VerwijderPeriode(1)",
+                          "call VerwijderPeriode(1)", "event RefreshTopDisplay de weergave", "leave"));
   EXPECT_EQ(on_[TxtDtEind].DateValue(), host::kNoDate);
   EXPECT_EQ(on_[TxtAnJaar].Number(), 0);
   EXPECT_EQ(on_[TxtAnMaand].Number(), 0);
@@ -43,8 +43,8 @@ TEST_F(TermTest, RestoresNothingWhenAOneOffBecomesRecurring) {
   Pick(on_[cboTermijn], "eenmalig");
   Forget();
   Pick(on_[cboTermijn], "per jaar");
-  EXPECT_THAT(Log(), ElementsAre("enter CboTermijn_Click", "set Termijn=12", "event RefreshTopDisplay de weergave",
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter CboTermijn_Click", "set Termijn=12", "event RefreshTopDisplay de weergave", "leave"));
   EXPECT_TRUE(on_[TxtDtEind].Enabled());
   EXPECT_TRUE(on_[TxtAnJaar].Enabled());
   EXPECT_TRUE(on_[TxtAnMaand].Enabled());
@@ -64,9 +64,9 @@ TEST_F(TermTest, EnablesNoEndDateWithoutAStartDate) {
 TEST_F(TermTest, StoresTheCodeOfEachEntry) {
   kolom_.velden.Termijn = 99;
   BindUnheard();
-  for (const auto& [text, code] : {std::pair{"per maand", 1}, std::pair{"per kwartaal", 3},
-                                   std::pair{"per half jaar", 6}, std::pair{"per jaar", 12},
-                                   std::pair{"eenmalig", 99}}) {
+  for (const auto& [text, code] :
+       {std::pair{"per maand", 1}, std::pair{"per kwartaal", 3}, std::pair{"per half jaar", 6},
+        std::pair{"per jaar", 12}, std::pair{"eenmalig", 99}}) {
     Pick(on_[cboTermijn], text);
     EXPECT_EQ(kolom_.velden.Termijn, code);
   }
@@ -129,9 +129,8 @@ TEST_F(ProposalTest, GoesByTheMembershipAsTheRecordKeepsIt) {
   BindIn({"J", "", ""});
   kolom_.adjust = [](KolomVelden& velden, std::string_view) { velden.Voorstel = {"N", "N", "J"}; };
   Tick(1, host::kUnticked);
-  EXPECT_THAT(Only(Log(), "call"),
-              ElementsAre("call VoegToeAanVoorstel(3, 1)", "call VerwijderUitVoorstel(1, 1, 0)",
-                          "call VerwijderUitVoorstel(2, 1, 0)"));
+  EXPECT_THAT(Only(Log(), "call"), ElementsAre("call VoegToeAanVoorstel(3, 1)", "call VerwijderUitVoorstel(1, 1, 0)",
+                                               "call VerwijderUitVoorstel(2, 1, 0)"));
 }
 
 TEST_F(ProposalTest, CannotBeTickedWhileItsFrameIsHidden) {
@@ -157,8 +156,8 @@ TEST_F(ScenarioLaunchTest, OpensTheFormOnTheColumnsAmount) {
   editor_->SetBackColor({0x00FF00});
   BindUnheard();
   Act(on_[cmdScenario], controls::Press{});
-  EXPECT_THAT(Log(), ElementsAre("enter cmdScenario_Click", "opened 17", "event RefreshTopDisplay de weergave",
-                                 "leave"));
+  EXPECT_THAT(Log(),
+              ElementsAre("enter cmdScenario_Click", "opened 17", "event RefreshTopDisplay de weergave", "leave"));
   EXPECT_EQ(color_, host::Color{0x00FF00});
   EXPECT_EQ(scenario_, kolom_.bedrag);
   EXPECT_TRUE(editor_->Gewijzigd()) << "also where nothing was entered";

@@ -13,9 +13,7 @@
 
 namespace brivane::qt {
 
-std::string Desktop::ApplicationTitle() const {
-  return FromQt(QGuiApplication::applicationDisplayName());
-}
+std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::applicationDisplayName()); }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
   const host::MessageAnswer given = Ask(title, text, style);
@@ -42,12 +40,8 @@ host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& te
   return box.clickedButton() == yes ? host::MessageAnswer::Yes : host::MessageAnswer::No;
 }
 
-float Desktop::TwipsPerPixelX() const {
-  return kTwipsPerPixel;
-}
-float Desktop::TwipsPerPixelY() const {
-  return kTwipsPerPixel;
-}
+float Desktop::TwipsPerPixelX() const { return kTwipsPerPixel; }
+float Desktop::TwipsPerPixelY() const { return kTwipsPerPixel; }
 
 void Desktop::ResetMousePointer() {
   while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
@@ -59,9 +53,7 @@ host::Date Desktop::Today() const {
   return frame::MakeDate({today.year(), today.month(), today.day()});
 }
 
-void Desktop::DoPendingEvents() {
-  QCoreApplication::processEvents();
-}
+void Desktop::DoPendingEvents() { QCoreApplication::processEvents(); }
 
 std::string Desktop::FormatWhole(double number) const {
   QLocale locale;

@@ -9,12 +9,12 @@
 #include <QTreeWidget>
 
 #include "controls/Choices.h"
-#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Edge.h"
-#include "toolkits/qt/widgets/JaNeeToggle.h"
-#include "toolkits/qt/peers/Peers.h"
-#include "toolkits/qt/rows/RowCanvas.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/rows/RowCanvas.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
 
 namespace brivane::qt {
 namespace {

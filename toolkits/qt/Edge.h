@@ -6,10 +6,10 @@
 #include <QString>
 #include <optional>
 
+#include "controls/Action.h"
 #include "frame/Design.h"
 #include "host/Color.h"
 #include "host/Twips.h"
-#include "controls/Action.h"
 
 /// Where twips, colours, captions and box contents become what Qt draws, and back.
 namespace brivane::qt {

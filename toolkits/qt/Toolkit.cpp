@@ -2,11 +2,11 @@
 
 #include <QFontMetricsF>
 
+#include "toolkits/qt/Text.h"
+#include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/widgets/FormWindow.h"
-#include "toolkits/qt/peers/Peers.h"
-#include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
 

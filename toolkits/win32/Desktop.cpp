@@ -69,8 +69,7 @@ std::string UserSeparator() {
 
 std::string Desktop::ApplicationTitle() const { return title.empty() ? Narrow(ProgramName()) : title; }
 
-host::MessageAnswer Desktop::MessageBox(const std::string& caption, const std::string& text,
-                                        host::MessageStyle style) {
+host::MessageAnswer Desktop::MessageBox(const std::string& caption, const std::string& text, host::MessageStyle style) {
   const host::MessageAnswer given = Ask(caption, text, style);
   if (answered) answered(given);
   return given;

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <functional>
 #include <optional>
 #include <string>
 
-#include "toolkits/win32/window/WindowsApi.h"
-
-#include "host/controls/Desktop.h"
 #include "controls/Pixels.h"
+#include "host/controls/Desktop.h"
 
 namespace brivane::win32 {
 

@@ -2,11 +2,11 @@
 
 #include <commctrl.h>
 
-#include "controls/entry/Content.h"
 #include "controls/Caption.h"
+#include "controls/entry/Content.h"
+#include "toolkits/win32/controls/ToggleWindow.h"
 #include "toolkits/win32/window/ControlWindow.h"
 #include "toolkits/win32/window/Text.h"
-#include "toolkits/win32/controls/ToggleWindow.h"
 
 namespace brivane::win32 {
 

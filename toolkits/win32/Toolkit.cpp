@@ -74,8 +74,8 @@ double SystemScale() {
 Toolkit::Toolkit(HINSTANCE module) : module_(module), edge_(SystemScale()), look_(std::make_unique<Look>(module)) {
   RegisterClasses(module);
   look_->During([] {
-    INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES |
-                                                   ICC_BAR_CLASSES};
+    INITCOMMONCONTROLSEX wanted{sizeof wanted,
+                                ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES | ICC_BAR_CLASSES};
     return InitCommonControlsEx(&wanted);
   });
   parking_ = CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr);

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <functional>
 #include <memory>
 
-#include "toolkits/win32/window/WindowsApi.h"
-
-#include "host/model/Hoofdvenster.h"
 #include "controls/DrawnToolkit.h"
+#include "host/model/Hoofdvenster.h"
 #include "toolkits/win32/Desktop.h"
 #include "toolkits/win32/window/Edge.h"
 #include "toolkits/win32/window/Fonts.h"

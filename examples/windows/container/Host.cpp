@@ -21,9 +21,7 @@ Value At(const std::vector<ComPtr<IDispatch>>& objects, long position) {
   return Value(objects[static_cast<std::size_t>(position) - 1]);
 }
 
-ComPtr<IDispatch> Plain(const ComPtr<Object>& object) {
-  return {object.Get()};
-}
+ComPtr<IDispatch> Plain(const ComPtr<Object>& object) { return {object.Get()}; }
 
 ComPtr<IDispatch> NewPeriode() {
   const auto periode = NewObject();

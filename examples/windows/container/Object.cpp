@@ -32,18 +32,14 @@ Value Texts(const std::vector<std::wstring>& texts) {
   return array;
 }
 
-void Object::Field(const std::wstring& name, Value value) {
-  members_[name].values = {std::move(value)};
-}
+void Object::Field(const std::wstring& name, Value value) { members_[name].values = {std::move(value)}; }
 
 void Object::Fields(const std::wstring& name, std::vector<Value> values) {
   members_[name].values = std::move(values);
   members_[name].indexed = true;
 }
 
-void Object::Function(const std::wstring& name, Body body) {
-  members_[name].body = std::move(body);
-}
+void Object::Function(const std::wstring& name, Body body) { members_[name].body = std::move(body); }
 
 STDMETHODIMP Object::QueryInterface(REFIID iid, void** out) {
   *out = iid == IID_IUnknown || iid == IID_IDispatch ? this : nullptr;

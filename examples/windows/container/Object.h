@@ -125,8 +125,6 @@ class Object final : public IDispatch {
   std::vector<std::map<std::wstring, Member>::iterator> byId_;  ///< a member's identifier is its place here, from 1
 };
 
-[[nodiscard]] inline ComPtr<Object> NewObject() {
-  return {new Object};
-}
+[[nodiscard]] inline ComPtr<Object> NewObject() { return {new Object}; }
 
 }  // namespace automation

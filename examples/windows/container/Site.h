@@ -124,8 +124,6 @@ class Site final : public IOleClientSite,
   ComPtr<IOleInPlaceActiveObject> active_;
 };
 
-[[nodiscard]] inline ComPtr<Site> NewSite(HWND window) {
-  return {new Site(window)};
-}
+[[nodiscard]] inline ComPtr<Site> NewSite(HWND window) { return {new Site(window)}; }
 
 }  // namespace voorbeeld

@@ -4,12 +4,12 @@
 
 #include <utility>
 
+#include "controls/Form.h"
+#include "controls/Surface.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/model/SampleCase.h"
 #include "frame/Calendar.h"
 #include "replay/play/Session.h"
-#include "controls/Form.h"
-#include "controls/Surface.h"
 
 namespace brivane::dossier {
 namespace {
@@ -40,9 +40,7 @@ std::shared_ptr<Dossier> Voorbeeld() {
 
 host::HostFactories Fabrieken() {
   return {[](std::string_view) { return std::make_shared<Tracer>(); },
-          [](std::string_view) {
-            return std::make_shared<DossierControle>([] { return Datum(21, 11, 2026); });
-          }};
+          [](std::string_view) { return std::make_shared<DossierControle>([] { return Datum(21, 11, 2026); }); }};
 }
 
 }  // namespace

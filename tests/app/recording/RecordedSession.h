@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "dossier/model/Application.h"
 #include "app/recording/Recorder.h"
-#include "replay/play/Transcript.h"
+#include "dossier/model/Application.h"
 #include "replay/instrument/InstrumentedHost.h"
+#include "replay/play/Transcript.h"
 #include "scenario/frmScenario.h"
 #include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/VrijeKolom.h"

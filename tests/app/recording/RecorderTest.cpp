@@ -8,11 +8,11 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "controls/Form.h"
+#include "controls/Surface.h"
 #include "frame/Calendar.h"
 #include "replay/play/Session.h"
 #include "tests/app/recording/RecordedSession.h"
-#include "controls/Form.h"
-#include "controls/Surface.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::dossier {

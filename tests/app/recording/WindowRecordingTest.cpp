@@ -10,13 +10,13 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "dossier/model/SampleCase.h"
 #include "app/screen/MainWindow.h"
+#include "controls/Form.h"
+#include "controls/Surface.h"
+#include "dossier/model/SampleCase.h"
 #include "frame/Calendar.h"
 #include "replay/play/Session.h"
 #include "tests/app/recording/RecordedSession.h"
-#include "controls/Form.h"
-#include "controls/Surface.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
 namespace brivane::dossier {
@@ -45,9 +45,8 @@ class MetWidget final : public Opnamesessie {
     Volg(editor);
     editor.ScenarioGeopend.Connect([this, verder = editor.ScenarioGeopend.Listener()](frmScenario& formulier) {
       verder(formulier);
-      QTimer::singleShot(0, &widget_, [this, &formulier] {
-        std::exchange(werk_, nullptr)(controls::Surface::Of(formulier.Form()));
-      });
+      QTimer::singleShot(
+          0, &widget_, [this, &formulier] { std::exchange(werk_, nullptr)(controls::Surface::Of(formulier.Form())); });
     });
     widget_.show();
     QApplication::processEvents();

@@ -8,9 +8,7 @@
 namespace brivane::dossier {
 namespace {
 
-host::Date Datum(int dag, int maand, int jaar) {
-  return frame::MakeDate({.year = jaar, .month = maand, .day = dag});
-}
+host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
 
 KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
   KolomGegevens kolom;

@@ -19,8 +19,7 @@ class Fout : public Venstertest {
   }
 
   /// Runs a body while the loan file's log cannot grow, as on a full disk.
-  template <class Body>
-  void OpVolleSchijf(Body&& body) {
+  template <class Body> void OpVolleSchijf(Body&& body) {
     rlimit grens{};
     getrlimit(RLIMIT_FSIZE, &grens);
     const auto vorige = std::signal(SIGXFSZ, SIG_IGN);

@@ -9,8 +9,8 @@
 #include <QTest>
 #include <memory>
 
-#include "dossier/model/SampleCase.h"
 #include "app/screen/MainWindow.h"
+#include "dossier/model/SampleCase.h"
 #include "tests/app/screen/Dialogs.h"
 
 namespace brivane::dossier {

@@ -7,7 +7,11 @@ using frame::Kind;
 
 constexpr frame::Row kRijen[] = {
     {.name = "lblOm", .kind = Kind::Label, .place = {0, 0, 1500, 300}},
-    {.name = "TxtOm", .kind = Kind::TextBox, .place = {1500, 0, 3000, 300}, .tab = 1, .label = "Omschrijving",
+    {.name = "TxtOm",
+     .kind = Kind::TextBox,
+     .place = {1500, 0, 3000, 300},
+     .tab = 1,
+     .label = "Omschrijving",
      .format = frame::Format::Text},
     {.name = "jnAO", .kind = Kind::JaNee, .place = {0, 300, 1500, 300}, .tab = 2, .label = "AO"},
 };

@@ -1,11 +1,10 @@
-#include "component/automation/Errors.h"
-
 #include <gtest/gtest.h>
 
 #include <new>
 #include <stdexcept>
 
 #include "component/automation/ComPtr.h"
+#include "component/automation/Errors.h"
 #include "component/automation/Text.h"
 
 namespace brivane::component {

@@ -1,9 +1,8 @@
-#include "component/automation/LateBound.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
 
+#include "component/automation/LateBound.h"
 #include "host/Error.h"
 #include "tests/component/automation/FakeObject.h"
 

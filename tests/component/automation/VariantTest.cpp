@@ -1,10 +1,9 @@
-#include "component/automation/Variant.h"
-
 #include <gtest/gtest.h>
 
 #include <array>
 #include <functional>
 
+#include "component/automation/Variant.h"
 #include "host/Error.h"
 
 namespace brivane::component {

@@ -24,8 +24,7 @@ class AtlEditorTest : public ::testing::Test {
     EXPECT_TRUE(library_.CanUnload());
     ::FreeLibrary(atl_);
   }
-  template <class Function>
-  [[nodiscard]] Function* Get(const char* name) const {
+  template <class Function> [[nodiscard]] Function* Get(const char* name) const {
     Function* function = nullptr;
     const FARPROC found = ::GetProcAddress(atl_, name);
     std::memcpy(&function, &found, sizeof function);

@@ -1,17 +1,17 @@
-#include "tests/component/container/Counts.h"
+#include "component/automation/Windows.h"
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
-#include "component/automation/Windows.h"
+#include "tests/component/container/Counts.h"
 
 namespace brivane::component::test {
 
 namespace {
 
-// The system's own counters (GetGuiResources and the process's memory) are not kept under Wine, so what they would count
-// is counted here.
+// The system's own counters (GetGuiResources and the process's memory) are not kept under Wine, so what they would
+// count is counted here.
 
 /// An identifier names its object by the lower half; the upper half may be left out.
 std::size_t CountWindows() {

@@ -13,8 +13,8 @@ struct Counts {
 
 [[nodiscard]] Counts CountNow();
 
-/// A label of the version 6 controls that was given a font leaves 24 bytes behind under Wine, by whomever it was made. An
-/// editor has 27 labels.
+/// A label of the version 6 controls that was given a font leaves 24 bytes behind under Wine, by whomever it was made.
+/// An editor has 27 labels.
 inline constexpr std::size_t kLeftByLabels = 27 * 24 + 32;
 
 }  // namespace brivane::component::test

@@ -1,10 +1,10 @@
 // The counts by which the hundredfold tests see what is left behind.
 
-#include "tests/component/container/Counts.h"
+#include "component/automation/Windows.h"
 
 #include <gtest/gtest.h>
 
-#include "component/automation/Windows.h"
+#include "tests/component/container/Counts.h"
 
 namespace brivane::component::test {
 namespace {

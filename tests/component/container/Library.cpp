@@ -7,8 +7,7 @@ namespace brivane::component::test {
 
 namespace {
 
-template <class Function>
-Function* Find(HMODULE module, const char* name) {
+template <class Function> Function* Find(HMODULE module, const char* name) {
   Function* function = nullptr;
   const FARPROC found = ::GetProcAddress(module, name);
   std::memcpy(&function, &found, sizeof function);
@@ -50,9 +49,7 @@ bool Library::CanUnload() {
   return can;
 }
 
-bool IsLibraryInMemory() {
-  return ::GetModuleHandleW(BRIVANE_LIBRARY) != nullptr;
-}
+bool IsLibraryInMemory() { return ::GetModuleHandleW(BRIVANE_LIBRARY) != nullptr; }
 
 void Pump() {
   MSG message{};

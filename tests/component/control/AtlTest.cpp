@@ -10,8 +10,7 @@ class Library {
   ~Library() { ::FreeLibrary(handle_); }
   Library(const Library&) = delete;
   Library& operator=(const Library&) = delete;
-  template <class Function>
-  [[nodiscard]] Function* Get(const char* name) const {
+  template <class Function> [[nodiscard]] Function* Get(const char* name) const {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(handle_, name)));
   }
 

@@ -32,9 +32,7 @@ void Container::Forget() {
   object_.Reset();
 }
 
-HRESULT Container::Do(LONG verb, MSG* message) {
-  return object_->DoVerb(verb, message, this, 0, window_, &place);
-}
+HRESULT Container::Do(LONG verb, MSG* message) { return object_->DoVerb(verb, message, this, 0, window_, &place); }
 
 bool Container::Key(UINT message, WPARAM key) {
   MSG posted{};

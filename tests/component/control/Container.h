@@ -40,10 +40,7 @@ class Container final : public IOleClientSite,
 
   [[nodiscard]] HWND Window() const { return window_; }
   [[nodiscard]] IOleObject& Object() const { return *object_.Get(); }
-  template <class Interface>
-  [[nodiscard]] ComPtr<Interface> As() const {
-    return object_.As<Interface>();
-  }
+  template <class Interface> [[nodiscard]] ComPtr<Interface> As() const { return object_.As<Interface>(); }
   /// References that others hold to this.
   [[nodiscard]] long Held() const { return count_; }
   [[nodiscard]] ComPtr<IOleInPlaceActiveObject> Active() const { return active_; }

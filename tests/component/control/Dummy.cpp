@@ -119,9 +119,7 @@ DummyFactory::DummyFactory() {
   ::CoRegisterClassObject(kDummyClass, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie_);
 }
 
-DummyFactory::~DummyFactory() {
-  ::CoRevokeClassObject(cookie_);
-}
+DummyFactory::~DummyFactory() { ::CoRevokeClassObject(cookie_); }
 
 STDMETHODIMP DummyFactory::QueryInterface(REFIID iid, void** out) {
   *out = iid == IID_IUnknown || iid == IID_IClassFactory ? this : nullptr;

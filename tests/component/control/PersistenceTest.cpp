@@ -13,9 +13,7 @@ ComPtr<IStream> NewStream() {
   return stream;
 }
 
-void Rewind(IStream& stream) {
-  stream.Seek({}, STREAM_SEEK_SET, nullptr);
-}
+void Rewind(IStream& stream) { stream.Seek({}, STREAM_SEEK_SET, nullptr); }
 
 /// Properties as text, as a form's file keeps them.
 class TextBag final : public IPropertyBag {

@@ -8,8 +8,7 @@ FakeHost::FakeHost() {
   const Variant nothing(static_cast<IDispatch*>(nullptr));
   for (const wchar_t* name : {L"CorrectieLast", L"CorrectieFiscaal", L"HeffingBij", L"Termijn", L"Id"})
     kolom->Answers(name, Variant(std::int16_t{1}));
-  for (const wchar_t* name : {L"Productsoort", L"EindleeftijdOvergang"})
-    kolom->Answers(name, Variant(std::int16_t{0}));
+  for (const wchar_t* name : {L"Productsoort", L"EindleeftijdOvergang"}) kolom->Answers(name, Variant(std::int16_t{0}));
   for (const wchar_t* name : {L"InkomenUitArbeid", L"InDagloon", L"IsProduct", L"UwBemiddeling", L"UitsluitenAO",
                               L"UitsluitenWW", L"UitsluitenLangleven", L"ScenarioOverlijden"})
     kolom->Answers(name, Variant(false));

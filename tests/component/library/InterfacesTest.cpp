@@ -118,27 +118,22 @@ bool IsDual(const IID& iid) {
 
 TEST_F(InterfacesTest, TheEditorHasItsMembersInTheirOrder) {
   EXPECT_TRUE(IsDual(IID_IVrijeKolom));
-  EXPECT_EQ(Declarations(IID_IVrijeKolom), (Texts{"1 SetApplication([in] IDispatch*, [in] short, [in] short)",
-                                                  "2 Validation([in out] VARIANT*, [in optional = 0] long)",
-                                                  "-501 get BackColor([out retval] long*)",
-                                                  "-501 put BackColor([in] long)",
-                                                  "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
-                                                  "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)",
-                                                  "4 get Toelichting([out retval] IToelichting**)",
-                                                  "5 get ProcedureTraceKlasse([out retval] BSTR*)",
-                                                  "5 put ProcedureTraceKlasse([in] BSTR)",
-                                                  "6 get DossierControleKlasse([out retval] BSTR*)",
-                                                  "6 put DossierControleKlasse([in] BSTR)"}));
+  EXPECT_EQ(Declarations(IID_IVrijeKolom),
+            (Texts{"1 SetApplication([in] IDispatch*, [in] short, [in] short)",
+                   "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] long*)",
+                   "-501 put BackColor([in] long)", "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
+                   "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)", "4 get Toelichting([out retval] IToelichting**)",
+                   "5 get ProcedureTraceKlasse([out retval] BSTR*)", "5 put ProcedureTraceKlasse([in] BSTR)",
+                   "6 get DossierControleKlasse([out retval] BSTR*)", "6 put DossierControleKlasse([in] BSTR)"}));
 }
 
 TEST_F(InterfacesTest, TheExplanationHasItsMembersInTheirOrder) {
   EXPECT_TRUE(IsDual(IID_IToelichting));
-  EXPECT_EQ(Declarations(IID_IToelichting), (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
-                                                   "2 Validation([in out] VARIANT*, [in optional = 0] long)",
-                                                   "-501 get BackColor([out retval] long*)",
-                                                   "-501 put BackColor([in] long)",
-                                                   "3 get ProcedureTraceKlasse([out retval] BSTR*)",
-                                                   "3 put ProcedureTraceKlasse([in] BSTR)"}));
+  EXPECT_EQ(Declarations(IID_IToelichting),
+            (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
+                   "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] long*)",
+                   "-501 put BackColor([in] long)", "3 get ProcedureTraceKlasse([out retval] BSTR*)",
+                   "3 put ProcedureTraceKlasse([in] BSTR)"}));
 }
 
 TEST_F(InterfacesTest, TheFormHasItsMembersInTheirOrder) {
@@ -171,15 +166,16 @@ TEST_F(InterfacesTest, EachClassTellsItsClassAndItsEvents) {
 
   EXPECT_EQ(Create<IProvideClassInfo2>(CLSID_Toelichting)->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
   EXPECT_EQ(events, DIID_DToelichtingEvents);
-  EXPECT_TRUE(FAILED(Create<IProvideClassInfo2>(CLSID_frmScenario)->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events)));
+  EXPECT_TRUE(
+      FAILED(Create<IProvideClassInfo2>(CLSID_frmScenario)->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events)));
 }
 
 TEST_F(InterfacesTest, AClassThatTheLibraryDoesNotHaveIsRefused) {
   ComPtr<IClassFactory> factory;
   ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
   using Function = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
-  const auto get = reinterpret_cast<Function>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllGetClassObject")));
+  const auto get = reinterpret_cast<Function>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllGetClassObject")));
   void* out = factory.Get();
   EXPECT_EQ(get(CLSID_StdGlobalInterfaceTable, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);

@@ -1,12 +1,12 @@
 // What keeps the library in memory, and that nothing does when its objects are gone.
 
+#include <malloc.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
 
 #include "tests/component/library/ComponentTest.h"
-
-#include <malloc.h>
 
 namespace brivane::component {
 namespace {

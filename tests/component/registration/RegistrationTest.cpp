@@ -1,12 +1,13 @@
 // Where the keys go. The key of all users stands on one of the test's own, which can be taken the rights of.
 
-#include "component/registration/Registration.h"
+#include "component/automation/Windows.h"
 
 #include <gtest/gtest.h>
 #include <sddl.h>
 
 #include "component/automation/Module.h"
 #include "component/registration/Keys.h"
+#include "component/registration/Registration.h"
 
 namespace brivane::component {
 namespace {

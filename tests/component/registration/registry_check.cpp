@@ -1,5 +1,5 @@
-// registry_check all|user|gone: compares what the registry holds of the library, for all users and for the current user,
-// with what it must hold. Run from the folder of the library; ends with 0 when all is right.
+// registry_check all|user|gone: compares what the registry holds of the library, for all users and for the current
+// user, with what it must hold. Run from the folder of the library; ends with 0 when all is right.
 
 #include <windows.h>
 
@@ -33,14 +33,13 @@ struct InterfaceText {
   bool dual;
 };
 
-constexpr InterfaceText kInterfaces[]{
-    {L"{BC77270D-3D67-481D-ABF4-3DC2F2366DB0}", L"IVrijeKolom", true},
-    {L"{D04D372A-057C-435B-9272-F24E5B182071}", L"IToelichting", true},
-    {L"{D0F3427E-6B8F-4272-B91D-7A01A3976222}", L"IfrmScenario", true},
-    {L"{96AD7658-EC15-4747-B2C1-A478A23E9F65}", L"DVrijeKolomEvents", false},
-    {L"{9C9F9E0A-4DDE-47A2-ADD6-78A21D8E8DF0}", L"DToelichtingEvents", false},
-    {L"{E69FA292-69C4-4051-86A6-F7099CB4024F}", L"IKeuzelijst", true},
-    {L"{199125B5-D67A-4FF3-96CE-3B42DE48DD4D}", L"IProcedureTrace", true}};
+constexpr InterfaceText kInterfaces[]{{L"{BC77270D-3D67-481D-ABF4-3DC2F2366DB0}", L"IVrijeKolom", true},
+                                      {L"{D04D372A-057C-435B-9272-F24E5B182071}", L"IToelichting", true},
+                                      {L"{D0F3427E-6B8F-4272-B91D-7A01A3976222}", L"IfrmScenario", true},
+                                      {L"{96AD7658-EC15-4747-B2C1-A478A23E9F65}", L"DVrijeKolomEvents", false},
+                                      {L"{9C9F9E0A-4DDE-47A2-ADD6-78A21D8E8DF0}", L"DToelichtingEvents", false},
+                                      {L"{E69FA292-69C4-4051-86A6-F7099CB4024F}", L"IKeuzelijst", true},
+                                      {L"{199125B5-D67A-4FF3-96CE-3B42DE48DD4D}", L"IProcedureTrace", true}};
 
 const std::wstring kLibraryId = L"{9D3C9E98-DF70-481B-B98D-C42901F1DD65}";
 
@@ -107,7 +106,8 @@ void Collect(HKEY root, const std::wstring& key, Values& values) {
     DWORD nameSize = 512;
     DWORD size = sizeof(text) - sizeof(wchar_t);
     DWORD type = 0;
-    if (RegEnumValueW(opened, i, name, &nameSize, nullptr, &type, reinterpret_cast<BYTE*>(text), &size) != ERROR_SUCCESS)
+    if (RegEnumValueW(opened, i, name, &nameSize, nullptr, &type, reinterpret_cast<BYTE*>(text), &size) !=
+        ERROR_SUCCESS)
       break;
     text[size / sizeof(wchar_t)] = 0;
     empty = false;

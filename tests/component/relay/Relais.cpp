@@ -105,9 +105,10 @@ STDAPI DllCanUnloadNow() { return S_FALSE; }
 
 STDAPI DllRegisterServer() {
   const std::wstring key = kClass;
-  const bool done = Write(std::wstring(kProgId) + L"\\CLSID", nullptr, L"{6B0C2F59-3D64-4C39-9A55-0B2F0E7D8D11}") == 0 &&
-                    Write(key + L"\\InprocServer32", nullptr, brivane::component::module::Path()) == 0 &&
-                    Write(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") == 0;
+  const bool done =
+      Write(std::wstring(kProgId) + L"\\CLSID", nullptr, L"{6B0C2F59-3D64-4C39-9A55-0B2F0E7D8D11}") == 0 &&
+      Write(key + L"\\InprocServer32", nullptr, brivane::component::module::Path()) == 0 &&
+      Write(key + L"\\InprocServer32", L"ThreadingModel", L"Apartment") == 0;
   return done ? S_OK : SELFREG_E_CLASS;
 }
 

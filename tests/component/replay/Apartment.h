@@ -1,8 +1,9 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <gtest/gtest.h>
 
-#include "component/automation/Windows.h"
 #include "tests/component/replay/LateBound.h"
 
 namespace brivane::latebound {

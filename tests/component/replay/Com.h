@@ -1,19 +1,18 @@
 #pragma once
 
+#include "component/automation/Windows.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
-
-#include "component/automation/Windows.h"
 
 /// What the programs of these tests need of COM, written apart from the component's own boundary so that a mistake
 /// there is not made here as well.
 namespace brivane::latebound {
 
 /// A counted reference.
-template <class T>
-class Ptr {
+template <class T> class Ptr {
  public:
   Ptr() = default;
   Ptr(std::nullptr_t) {}

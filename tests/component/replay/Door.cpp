@@ -46,9 +46,7 @@ controls::DumpValue ToValue(const Variant& value) {
   }
 }
 
-host::Twips ToTwips(const Variant& value) {
-  return {FromVariant<float>(value.get())};
-}
+host::Twips ToTwips(const Variant& value) { return {FromVariant<float>(value.get())}; }
 
 /// The index, then text and item data of each entry.
 controls::ControlDump::ListContent ToList(const Variant& value) {
@@ -83,9 +81,7 @@ controls::ControlDump::ListViewContent ToListView(const Variant& value) {
   return list;
 }
 
-bool IsThere(const Variant& value) {
-  return value.Type() != VT_EMPTY && value.Type() != VT_NULL;
-}
+bool IsThere(const Variant& value) { return value.Type() != VT_EMPTY && value.Type() != VT_NULL; }
 
 controls::ControlDump ToDump(const Variant& control) {
   const std::vector<Variant> of = Elements(control.get());
@@ -149,12 +145,8 @@ void Door::Set(const wchar_t* setting, Variant value) const {
   (void)Call(*door_.get(), L"Set", {ToVariant(ToUtf8(std::wstring_view(setting))), std::move(value)});
 }
 
-void Door::SetCallback(IDispatch& callback) const {
-  Put(*door_.get(), L"Callback", {ToVariant(&callback)});
-}
+void Door::SetCallback(IDispatch& callback) const { Put(*door_.get(), L"Callback", {ToVariant(&callback)}); }
 
-void Door::EndCallback() const {
-  Put(*door_.get(), L"Callback", {ToVariant(static_cast<IDispatch*>(nullptr))});
-}
+void Door::EndCallback() const { Put(*door_.get(), L"Callback", {ToVariant(static_cast<IDispatch*>(nullptr))}); }
 
 }  // namespace brivane::latebound

@@ -76,9 +76,7 @@ std::string TestName(const testing::TestParamInfo<std::string>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Sessions, RegisteredGoldenTest, testing::ValuesIn(GoldenNames()), TestName);
 
-TEST(RegisteredGolden, ThereAreSessions) {
-  EXPECT_GE(GoldenNames().size(), 24U);
-}
+TEST(RegisteredGolden, ThereAreSessions) { EXPECT_GE(GoldenNames().size(), 24U); }
 
 }  // namespace
 }  // namespace brivane::latebound

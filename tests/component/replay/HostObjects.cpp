@@ -10,18 +10,15 @@ namespace {
 
 using Arguments = LateBound::Arguments;
 
-template <class T>
-using Plain = std::remove_cvref_t<T>;
+template <class T> using Plain = std::remove_cvref_t<T>;
 
 /// Lists the members of one object of the host.
-template <class Interface>
-class Members {
+template <class Interface> class Members {
  public:
   Members(LateBound& object, std::shared_ptr<Interface> inner) : object_(object), inner_(std::move(inner)) {}
 
   /// A value that is read.
-  template <class T>
-  Members& Value(std::wstring name, T (Interface::*read)() const) {
+  template <class T> Members& Value(std::wstring name, T (Interface::*read)() const) {
     object_.Add(std::move(name), Reached::Property, 0,
                 [inner = inner_, read](Arguments) { return ToVariant(((*inner).*read)()); });
     return *this;
@@ -60,8 +57,7 @@ class Members {
     return *this;
   }
   /// Something that the host does.
-  template <class T, class... Given>
-  Members& Operation(std::wstring name, T (Interface::*operation)(Given...)) {
+  template <class T, class... Given> Members& Operation(std::wstring name, T (Interface::*operation)(Given...)) {
     object_.Add(std::move(name), Reached::Method, sizeof...(Given), [inner = inner_, operation](Arguments given) {
       return Spread<Given...>(given, [&](const Plain<Given>&... values) {
         if constexpr (std::is_void_v<T>) {
@@ -76,11 +72,8 @@ class Members {
   }
 
  private:
-  template <class... Given, class Use>
-  static Variant Spread(Arguments given, Use use) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>) {
-      return use(FromVariant<Held<Given>>(*given[I])...);
-    }
+  template <class... Given, class Use> static Variant Spread(Arguments given, Use use) {
+    return [&]<std::size_t... I>(std::index_sequence<I...>) { return use(FromVariant<Held<Given>>(*given[I])...); }
     (std::index_sequence_for<Given...>());
   }
   /// A text that is handed on as a view is held as a text meanwhile.

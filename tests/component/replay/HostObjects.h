@@ -23,8 +23,7 @@ class HostObjects {
 
   /// The object of the host behind a reference that came back; nothing for nothing. Fails with error 13 for an
   /// object that this host did not hand out.
-  template <class Interface>
-  [[nodiscard]] static std::shared_ptr<Interface> Behind(IDispatch* object) {
+  template <class Interface> [[nodiscard]] static std::shared_ptr<Interface> Behind(IDispatch* object) {
     if (object == nullptr) return nullptr;
     LateBound* const behind = LateBound::Behind(object);
     const auto* const held = behind == nullptr ? nullptr : std::any_cast<std::shared_ptr<Interface>>(&behind->subject);

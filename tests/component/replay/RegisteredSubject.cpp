@@ -30,8 +30,7 @@ Ptr<IDispatch> Make(const wchar_t* progId) {
 }
 
 /// A screen's part that is the same for the editor and for a form.
-template <class Interface>
-class OnDoor : public Interface {
+template <class Interface> class OnDoor : public Interface {
  public:
   [[nodiscard]] std::optional<replay::ControlState> Find(const std::string& name, std::optional<int> index) override {
     const std::optional<bool> reachable = door_.Reachable(replay::ElementName(name, index));
@@ -57,8 +56,7 @@ class OnDoor : public Interface {
   [[nodiscard]] const Door& GetDoor() const { return door_; }
 
   /// The object of the host that the screen is bound to.
-  template <class Held>
-  [[nodiscard]] std::shared_ptr<Held> Bound() const {
+  template <class Held> [[nodiscard]] std::shared_ptr<Held> Bound() const {
     return HostObjects::Behind<Held>(FromVariant<Ptr<IDispatch>>(door_.Read(L"record").get()).get());
   }
 

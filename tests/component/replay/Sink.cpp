@@ -54,8 +54,6 @@ Connection::Connection(IDispatch& object, const Handlers& handlers) {
   Check(point_->Advise(sink.get(), &cookie_), "the object refuses the connection");
 }
 
-Connection::~Connection() {
-  point_->Unadvise(cookie_);
-}
+Connection::~Connection() { point_->Unadvise(cookie_); }
 
 }  // namespace brivane::latebound

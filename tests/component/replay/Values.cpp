@@ -6,17 +6,14 @@ namespace brivane::latebound {
 
 namespace {
 
-template <class Fill>
-Variant Made(VARTYPE type, Fill fill) {
+template <class Fill> Variant Made(VARTYPE type, Fill fill) {
   Variant made;
   made.get().vt = type;
   fill(made.get());
   return made;
 }
 
-[[noreturn]] void Mismatch() {
-  throw host::Error(host::ErrorNumber::TypeMismatch);
-}
+[[noreturn]] void Mismatch() { throw host::Error(host::ErrorNumber::TypeMismatch); }
 
 bool IsNumber(VARTYPE type) {
   switch (type) {
@@ -37,8 +34,7 @@ bool IsNumber(VARTYPE type) {
 }
 
 /// A number in another type, exactly: a host's property of 16 bits is no place for a half or a million.
-template <class T>
-T Number(const VARIANT& value, VARTYPE type, T VARIANT::*member) {
+template <class T> T Number(const VARIANT& value, VARTYPE type, T VARIANT::*member) {
   Variant plain(value);
   if (!IsNumber(plain.Type())) Mismatch();
   Variant changed;
@@ -93,42 +89,30 @@ Variant Missing() {
   return Made(VT_ERROR, [](VARIANT& v) { v.scode = DISP_E_PARAMNOTFOUND; });
 }
 
-template <>
-bool FromVariant<bool>(const VARIANT& value) {
+template <> bool FromVariant<bool>(const VARIANT& value) {
   const Variant plain(value);
   if (plain.Type() != VT_BOOL) Mismatch();
   return plain.get().boolVal != VARIANT_FALSE;
 }
-template <>
-std::int16_t FromVariant<std::int16_t>(const VARIANT& value) {
+template <> std::int16_t FromVariant<std::int16_t>(const VARIANT& value) {
   return Number(value, VT_I2, &VARIANT::iVal);
 }
-template <>
-std::int32_t FromVariant<std::int32_t>(const VARIANT& value) {
+template <> std::int32_t FromVariant<std::int32_t>(const VARIANT& value) {
   return Number(value, VT_I4, &VARIANT::lVal);
 }
-template <>
-float FromVariant<float>(const VARIANT& value) {
-  return Number(value, VT_R4, &VARIANT::fltVal);
-}
-template <>
-double FromVariant<double>(const VARIANT& value) {
-  return Number(value, VT_R8, &VARIANT::dblVal);
-}
-template <>
-std::string FromVariant<std::string>(const VARIANT& value) {
+template <> float FromVariant<float>(const VARIANT& value) { return Number(value, VT_R4, &VARIANT::fltVal); }
+template <> double FromVariant<double>(const VARIANT& value) { return Number(value, VT_R8, &VARIANT::dblVal); }
+template <> std::string FromVariant<std::string>(const VARIANT& value) {
   const Variant plain(value);
   if (plain.Type() != VT_BSTR) Mismatch();
   return ToUtf8(plain.get().bstrVal);
 }
-template <>
-host::Date FromVariant<host::Date>(const VARIANT& value) {
+template <> host::Date FromVariant<host::Date>(const VARIANT& value) {
   const Variant plain(value);
   if (plain.Type() != VT_DATE) Mismatch();
   return host::Date(static_cast<std::int32_t>(std::floor(plain.get().date)));
 }
-template <>
-Ptr<IDispatch> FromVariant<Ptr<IDispatch>>(const VARIANT& value) {
+template <> Ptr<IDispatch> FromVariant<Ptr<IDispatch>>(const VARIANT& value) {
   const Variant plain(value);
   if (plain.Type() == VT_EMPTY) return nullptr;
   if (plain.Type() != VT_DISPATCH && plain.Type() != VT_UNKNOWN) Mismatch();
@@ -137,8 +121,7 @@ Ptr<IDispatch> FromVariant<Ptr<IDispatch>>(const VARIANT& value) {
   if (FAILED(plain.get().punkVal->QueryInterface(IID_IDispatch, object.OutVoid()))) Mismatch();
   return object;
 }
-template <>
-std::optional<std::int32_t> FromVariant<std::optional<std::int32_t>>(const VARIANT& value) {
+template <> std::optional<std::int32_t> FromVariant<std::optional<std::int32_t>>(const VARIANT& value) {
   if (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND) return std::nullopt;
   return FromVariant<std::int32_t>(value);
 }

@@ -29,28 +29,18 @@ namespace brivane::latebound {
 [[nodiscard]] Variant Missing();
 
 /// In: the value, or error 13 where the types are not of one kind: numbers are no texts and no dates.
-template <class T>
-[[nodiscard]] T FromVariant(const VARIANT& value);
-template <>
-bool FromVariant<bool>(const VARIANT& value);
-template <>
-std::int16_t FromVariant<std::int16_t>(const VARIANT& value);
-template <>
-std::int32_t FromVariant<std::int32_t>(const VARIANT& value);
-template <>
-float FromVariant<float>(const VARIANT& value);
-template <>
-double FromVariant<double>(const VARIANT& value);
-template <>
-std::string FromVariant<std::string>(const VARIANT& value);
-template <>
-host::Date FromVariant<host::Date>(const VARIANT& value);
+template <class T> [[nodiscard]] T FromVariant(const VARIANT& value);
+template <> bool FromVariant<bool>(const VARIANT& value);
+template <> std::int16_t FromVariant<std::int16_t>(const VARIANT& value);
+template <> std::int32_t FromVariant<std::int32_t>(const VARIANT& value);
+template <> float FromVariant<float>(const VARIANT& value);
+template <> double FromVariant<double>(const VARIANT& value);
+template <> std::string FromVariant<std::string>(const VARIANT& value);
+template <> host::Date FromVariant<host::Date>(const VARIANT& value);
 /// Nothing for an object that is nothing.
-template <>
-Ptr<IDispatch> FromVariant<Ptr<IDispatch>>(const VARIANT& value);
+template <> Ptr<IDispatch> FromVariant<Ptr<IDispatch>>(const VARIANT& value);
 /// Nothing for an argument that is left out.
-template <>
-std::optional<std::int32_t> FromVariant<std::optional<std::int32_t>>(const VARIANT& value);
+template <> std::optional<std::int32_t> FromVariant<std::optional<std::int32_t>>(const VARIANT& value);
 
 /// The elements of an array of any VARIANTs.
 [[nodiscard]] std::vector<Variant> Elements(const VARIANT& array);

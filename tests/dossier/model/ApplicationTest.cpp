@@ -1,8 +1,7 @@
-#include "dossier/model/Application.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "dossier/model/Application.h"
 #include "dossier/model/SampleCase.h"
 #include "host/Error.h"
 #include "toolkits/memory/Toolkit.h"
@@ -102,8 +101,8 @@ TEST_F(ApplicationTest, GivesTheAgeLimitOfTheCase) {
 TEST_F(ApplicationTest, HandsTheErrorRecordToItsListener) {
   std::vector<std::string> gemeld;
   application_.FoutGemeld.Connect([&](const Foutrecord& fout) {
-    gemeld = {fout.ApplicationTitle, fout.ObjectName,       fout.Caption,    fout.ObjectDescription, fout.Message,
-              fout.ErrorNumber,      fout.ErrorDescription, fout.ErrorSource};
+    gemeld = {fout.ApplicationTitle, fout.ObjectName,  fout.Caption,          fout.ObjectDescription,
+              fout.Message,          fout.ErrorNumber, fout.ErrorDescription, fout.ErrorSource};
   });
   Tracer tracer;
   tracer.EnterProcedure("A");

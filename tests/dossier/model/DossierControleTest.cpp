@@ -1,9 +1,8 @@
-#include "dossier/model/DossierControle.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "dossier/model/Application.h"
+#include "dossier/model/DossierControle.h"
 #include "dossier/model/SampleCase.h"
 #include "frame/Calendar.h"
 #include "host/Error.h"

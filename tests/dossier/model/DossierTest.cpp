@@ -1,8 +1,7 @@
-#include "dossier/model/Dossier.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "dossier/model/Dossier.h"
 #include "dossier/model/SampleCase.h"
 #include "host/Error.h"
 
@@ -344,7 +343,9 @@ TEST(Journal, RefusingAChangeLeavesTheMemoryAsItWas) {
       [&] { dossier->Verplaats(0, 2, 1); },
       [&] { dossier->MaakAfwijking(2, 1); },
       [&] { dossier->NieuweLening("x"); },
-      [&] { dossier->SetClient({{.Naam = {"a", "b", "c"}, .Geboortedatum = {}}}, 1); },
+      [&] {
+        dossier->SetClient({{.Naam = {"a", "b", "c"}, .Geboortedatum = {}}}, 1);
+      },
   };
   for (std::size_t nummer = 0; nummer < wijzigingen.size(); ++nummer) {
     SCOPED_TRACE(nummer);

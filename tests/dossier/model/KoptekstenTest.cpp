@@ -1,6 +1,6 @@
-#include "dossier/model/Kopteksten.h"
-
 #include <gtest/gtest.h>
+
+#include "dossier/model/Kopteksten.h"
 
 namespace brivane::dossier {
 namespace {

@@ -108,13 +108,9 @@ TEST(Beschadigd, AnyLetterOfTheStoredLayout) {
   EXPECT_EQ(map.Inhoud(), QStringList("test.dossier"));
 }
 
-TEST(Beschadigd, AnIndexThatIsGone) {
-  VerwachtBeschadigdNa({"DROP INDEX periode_kolom"});
-}
+TEST(Beschadigd, AnIndexThatIsGone) { VerwachtBeschadigdNa({"DROP INDEX periode_kolom"}); }
 
-TEST(Beschadigd, AnIndexTooMany) {
-  VerwachtBeschadigdNa({"CREATE INDEX erbij ON periode (maand)"});
-}
+TEST(Beschadigd, AnIndexTooMany) { VerwachtBeschadigdNa({"CREATE INDEX erbij ON periode (maand)"}); }
 
 TEST(Beschadigd, AnIndexOfAConstraintThatIsGone) {
   VerwachtBeschadigdNa(
@@ -126,33 +122,21 @@ TEST(Beschadigd, AColumnTooMany) {
   VerwachtBeschadigdNa({"ALTER TABLE vrijekolom ADD COLUMN erbij TEXT NOT NULL DEFAULT ''"});
 }
 
-TEST(Beschadigd, AColumnThatIsGone) {
-  VerwachtBeschadigdNa({"ALTER TABLE periode DROP COLUMN korting"});
-}
+TEST(Beschadigd, AColumnThatIsGone) { VerwachtBeschadigdNa({"ALTER TABLE periode DROP COLUMN korting"}); }
 
-TEST(Beschadigd, AColumnWithAnotherName) {
-  VerwachtBeschadigdNa({"ALTER TABLE periode RENAME COLUMN maand TO jaar"});
-}
+TEST(Beschadigd, AColumnWithAnotherName) { VerwachtBeschadigdNa({"ALTER TABLE periode RENAME COLUMN maand TO jaar"}); }
 
-TEST(Beschadigd, ATableTooMany) {
-  VerwachtBeschadigdNa({"CREATE TABLE erbij (x INTEGER)"});
-}
+TEST(Beschadigd, ATableTooMany) { VerwachtBeschadigdNa({"CREATE TABLE erbij (x INTEGER)"}); }
 
-TEST(Beschadigd, ATableThatIsGone) {
-  VerwachtBeschadigdNa({"DROP TABLE voorstel"});
-}
+TEST(Beschadigd, ATableThatIsGone) { VerwachtBeschadigdNa({"DROP TABLE voorstel"}); }
 
-TEST(Beschadigd, ATableWithAnotherName) {
-  VerwachtBeschadigdNa({"ALTER TABLE persoon RENAME TO personen"});
-}
+TEST(Beschadigd, ATableWithAnotherName) { VerwachtBeschadigdNa({"ALTER TABLE persoon RENAME TO personen"}); }
 
 TEST(Beschadigd, ATrigger) {
   VerwachtBeschadigdNa({"CREATE TRIGGER wis AFTER UPDATE ON vrijekolom BEGIN DELETE FROM periode; END"});
 }
 
-TEST(Beschadigd, AView) {
-  VerwachtBeschadigdNa({"CREATE VIEW alles AS SELECT * FROM vrijekolom"});
-}
+TEST(Beschadigd, AView) { VerwachtBeschadigdNa({"CREATE VIEW alles AS SELECT * FROM vrijekolom"}); }
 
 TEST(Beschadigd, AViewInPlaceOfATable) {
   VerwachtBeschadigdNa({"DROP TABLE voorstel", "CREATE VIEW voorstel AS SELECT 1 AS voorstel, 1 AS vrij_id"});

@@ -1,7 +1,7 @@
 #include <QtEndian>
 
-#include "tests/dossier/store/Files.h"
 #include "tests/dossier/store/Desk.h"
+#include "tests/dossier/store/Files.h"
 
 // The real editor on a loan file: what an adviser accepts is in the file before the handler returns.
 namespace brivane::dossier {

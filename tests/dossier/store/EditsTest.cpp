@@ -1,7 +1,7 @@
-#include "dossier/store/Edits.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "dossier/store/Edits.h"
 
 namespace brivane::dossier {
 namespace {
@@ -221,8 +221,7 @@ TEST_F(EditsTest, AfterAFailedEditAModalFormStoresAgain) {
   WijzigMetFout("1");
   edits_.BeginModal();
   Wijzig("2");
-  EXPECT_THAT(Regels(),
-              ElementsAre("begin", "1 fails", "rollback", "reload", "failed, told", "begin", "2", "commit"));
+  EXPECT_THAT(Regels(), ElementsAre("begin", "1 fails", "rollback", "reload", "failed, told", "begin", "2", "commit"));
 }
 
 TEST_F(EditsTest, AProcedureInsideAModalFormIsAnEditOfItsOwn) {

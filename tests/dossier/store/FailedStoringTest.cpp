@@ -4,8 +4,8 @@
 
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Reader.h"
-#include "tests/dossier/store/Files.h"
 #include "tests/dossier/store/Desk.h"
+#include "tests/dossier/store/Files.h"
 
 // A change that cannot be stored reaches the adviser once, and the memory shows what is stored.
 namespace brivane::dossier {
@@ -167,9 +167,9 @@ TEST_F(MislukteOpslag, TheFirstRowOfTheScenarioFormThatCannotBeStoredIsToldByThe
 struct EigenVerbinding {
   explicit EigenVerbinding(const QString& pad) : database(new Database(pad, Access::ReadWrite)) {
     GelezenDossier gelezen = LeesDossier(*database);
-    journal = std::make_shared<FileJournal>(
-        std::unique_ptr<Database>(database), gelezen.hoogste + 1,
-        [this](Database& opnieuw) { dossier->Herlaad(LeesDossier(opnieuw).gegevens); });
+    journal =
+        std::make_shared<FileJournal>(std::unique_ptr<Database>(database), gelezen.hoogste + 1,
+                                      [this](Database& opnieuw) { dossier->Herlaad(LeesDossier(opnieuw).gegevens); });
     auto omgeving = std::make_shared<Omgeving>();
     omgeving->Journal = journal;
     dossier = std::make_shared<dossier::Dossier>(std::move(gelezen.gegevens), std::move(omgeving));

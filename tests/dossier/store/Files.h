@@ -24,7 +24,9 @@ class Map {
     return Pad(naam);
   }
   /// The names of all that stands in the folder.
-  [[nodiscard]] QStringList Inhoud() const { return QDir(map_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+  [[nodiscard]] QStringList Inhoud() const {
+    return QDir(map_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+  }
 
  private:
   QTemporaryDir map_;
@@ -47,6 +49,8 @@ class Map {
 }
 
 /// What the file holds, read anew.
-[[nodiscard]] inline DossierGegevens Gelezen(const QString& pad) { return DossierBestand::Open(pad)->Dossier()->Gegevens(); }
+[[nodiscard]] inline DossierGegevens Gelezen(const QString& pad) {
+  return DossierBestand::Open(pad)->Dossier()->Gegevens();
+}
 
 }  // namespace brivane::dossier

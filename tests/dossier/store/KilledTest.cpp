@@ -56,7 +56,7 @@ TEST(Gedood, TwoHundredTimesAtAnyMomentTheFileHoldsEveryAcceptedEdit) {
   const QString pad = map.Maak();
   Verwachting verwacht;
   std::mt19937 toeval(20261121);
-  int gedaan = 0;       // edits that the file holds
+  int gedaan = 0;        // edits that the file holds
   int tijdens_werk = 0;  // kills that struck after an accepted edit
   for (int keer = 0; keer < kKeren; ++keer) {
     TweedeProces proces({"bewerk", pad, QString::number(gedaan + 1), QString::number(kZonderEinde)});

@@ -65,7 +65,8 @@ TEST(Openen, AFolder) {
 TEST(Openen, AnEmptyFile) {
   const Map map;
   Schrijf(map.Pad(), {});
-  VerwachtGeweigerd(map, map.Pad(), OpeningProblem::Empty, "Het bestand \"test.dossier\" is leeg en bevat geen dossier.");
+  VerwachtGeweigerd(map, map.Pad(), OpeningProblem::Empty,
+                    "Het bestand \"test.dossier\" is leeg en bevat geen dossier.");
 }
 
 TEST(Openen, AFileOfAnotherKind) {
@@ -119,10 +120,10 @@ TEST(Openen, AFileWithValuesThatNoEditWrites) {
   for (const char* sql :
        {"UPDATE vrijekolom SET termijn = 32768 WHERE id = 2", "UPDATE vrijekolom SET is_product = 2 WHERE id = 2",
         "UPDATE vrijekolom SET looptijd = 2147483648 WHERE id = 2",
-        "UPDATE vrijekolom SET percentage_overgang = 1e300 WHERE id = 2", "UPDATE lening SET nummer = 9 WHERE nummer = 1",
-        "DELETE FROM dossier", "DELETE FROM persoon", "DELETE FROM lening WHERE nummer = 0",
-        "UPDATE vrijekolom SET lening = 999 WHERE id = 2", "UPDATE periode SET kolom = 999",
-        "INSERT INTO voorstel VALUES (1, 40000)"}) {
+        "UPDATE vrijekolom SET percentage_overgang = 1e300 WHERE id = 2",
+        "UPDATE lening SET nummer = 9 WHERE nummer = 1", "DELETE FROM dossier", "DELETE FROM persoon",
+        "DELETE FROM lening WHERE nummer = 0", "UPDATE vrijekolom SET lening = 999 WHERE id = 2",
+        "UPDATE periode SET kolom = 999", "INSERT INTO voorstel VALUES (1, 40000)"}) {
     const Map map;
     const QString pad = map.Maak();
     Wijzig(pad, sql);
@@ -141,7 +142,8 @@ TEST(Openen, AFileWithoutAVersion) {
 }
 
 const char kNieuwer[] =
-    "Het dossier \"test.dossier\" is gemaakt met een nieuwere versie van dit programma. Werk het programma bij om het te "
+    "Het dossier \"test.dossier\" is gemaakt met een nieuwere versie van dit programma. Werk het programma bij om het "
+    "te "
     "openen.";
 
 TEST(Openen, AFileOfANewerVersion) {

@@ -110,7 +110,8 @@ TEST(Rondreis, WhatEachSetterWritesIsInTheFile) {
     kolom->SetProductsoortOmschrijving(vol.ProductsoortOmschrijving);
     kolom->SetProductnaam(vol.Productnaam);
     kolom->SetUwBemiddeling(true);
-    for (const std::int16_t nummer : {1, 2, 3}) kolom->SetVoorstel(nummer, vol.Voorstel[static_cast<std::size_t>(nummer - 1)]);
+    for (const std::int16_t nummer : {1, 2, 3})
+      kolom->SetVoorstel(nummer, vol.Voorstel[static_cast<std::size_t>(nummer - 1)]);
     kolom->SetUitsluitenAO(true);
     kolom->SetUitsluitenWW(true);
     kolom->SetUitsluitenLangleven(true);

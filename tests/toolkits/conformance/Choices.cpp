@@ -94,8 +94,7 @@ TEST_P(Conformance, TheOthersAreDeselectedBeforeTheClickIsRaised) {
 TEST_P(Conformance, DeselectingByCodeRaisesNothingAndLeavesNoneSelected) {
   auto& option = Get<OptionButton>("optSoort", 2);
   option.SetValue(true);
-  for (int i = 1; i <= 3; ++i)
-    Get<OptionButton>("optSoort", i).Click.Connect([&] { log.emplace_back("Click"); });
+  for (int i = 1; i <= 3; ++i) Get<OptionButton>("optSoort", i).Click.Connect([&] { log.emplace_back("Click"); });
   option.SetValue(false);
   subject->Settle();
   EXPECT_EQ(log, std::vector<std::string>{});

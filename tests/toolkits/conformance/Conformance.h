@@ -9,7 +9,6 @@
 #include <string_view>
 #include <vector>
 
-#include "tests/toolkits/conformance/TestDesign.h"
 #include "controls/Choices.h"
 #include "controls/Dump.h"
 #include "controls/Form.h"
@@ -17,6 +16,7 @@
 #include "controls/ListView.h"
 #include "controls/Plain.h"
 #include "controls/TextBox.h"
+#include "tests/toolkits/conformance/TestDesign.h"
 #include "toolkits/memory/Toolkit.h"
 
 /// What every toolkit does alike, as tests that are written once.

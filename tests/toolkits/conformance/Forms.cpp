@@ -163,8 +163,8 @@ TEST_P(FormConformance, APersonWorksTheFormWhileItIsOpen) {
     Act(*Window().Find("txtBedrag", 1), controls::Enter{12.5});
     Act(*Window().Find("cmdOK"), controls::Press{});
   });
-  EXPECT_EQ(log, (std::vector<std::string>{"Activate", "open", "entered 12.500000", "OK", "Unloaded", "OK ends",
-                                           "closed"}));
+  EXPECT_EQ(log,
+            (std::vector<std::string>{"Activate", "open", "entered 12.500000", "OK", "Unloaded", "OK ends", "closed"}));
 }
 
 TEST_P(FormConformance, TheCloseBoxUnloads) {

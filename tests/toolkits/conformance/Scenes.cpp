@@ -1,10 +1,10 @@
 #include "tests/toolkits/conformance/Scenes.h"
 
+#include "controls/Surface.h"
 #include "frame/Calendar.h"
 #include "scenario/Teksten.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "controls/Surface.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::test {

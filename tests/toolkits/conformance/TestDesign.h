@@ -8,16 +8,20 @@ namespace brivane::test {
 using frame::Format;
 using frame::Kind;
 
+// clang-format off
 inline constexpr frame::Row kInnerRows[] = {
     {.name = "fraBinnen", .kind = Kind::Frame, .place = {0, 0, 3000, 900}, .caption = "Binnen"},
     {.name = "jnBinnen", .kind = Kind::JaNee, .place = {120, 300, 1200, 300}, .parent = "fraBinnen", .tab = 1,
      .label = "Binnen"},
 };
+
 inline constexpr frame::Design kInner{.name = "Binnenste", .rows = kInnerRows, .width = 3000, .height = 900};
+// clang-format on
 static_assert(frame::Check(kInner) == frame::Fault::None);
 
 inline constexpr frame::ListEntry kTermijnen[] = {{"per maand", 1}, {"per kwartaal", 3}, {"per jaar", 12}};
 
+// clang-format off
 inline constexpr frame::Row kSurfaceRows[] = {
     {.name = "fraBoxen", .kind = Kind::Frame, .place = {0, 0, 6000, 4200}, .caption = "Boxen"},
     {.name = "lblNaam", .kind = Kind::Label, .place = {120, 300, 1500, 300}, .parent = "fraBoxen", .caption = "&Naam",
@@ -62,9 +66,12 @@ inline constexpr frame::Row kSurfaceRows[] = {
     {.name = "lvwLijst", .kind = Kind::ListView, .place = {0, 4320, 6000, 1800}, .tab = 18, .label = "Lijst"},
     {.name = "Binnenste", .kind = Kind::Surface, .place = {6120, 4320, 3000, 900}, .tab = 19, .embedded = &kInner},
 };
+
 inline constexpr frame::Design kSurface{.name = "Proef", .rows = kSurfaceRows, .width = 12000, .height = 6300};
+// clang-format on
 static_assert(frame::Check(kSurface) == frame::Fault::None);
 
+// clang-format off
 inline constexpr frame::Row kFormRows[] = {
     {.name = "fraRooster", .kind = Kind::Frame, .place = {0, 0, 6000, 3000}, .caption = "Rooster"},
     {.name = "lblJaar", .kind = Kind::Label, .place = {135, 300, 480, 240}, .parent = "fraRooster", .caption = "2003",
@@ -76,8 +83,10 @@ inline constexpr frame::Row kFormRows[] = {
     {.name = "cmdOK", .kind = Kind::Button, .place = {4200, 3120, 1800, 375}, .caption = "&OK", .tab = 3,
      .mnemonic = 'O'},
 };
+
 inline constexpr frame::Design kForm{
     .name = "frmProef", .rows = kFormRows, .width = 6120, .height = 3600, .caption = "Proefformulier"};
+// clang-format on
 static_assert(frame::Check(kForm) == frame::Fault::None);
 
 }  // namespace brivane::test

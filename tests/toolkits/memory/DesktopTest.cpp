@@ -1,12 +1,10 @@
-#include "toolkits/memory/Desktop.h"
-
-#include "frame/GroupedNumber.h"
-
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "frame/Calendar.h"
+#include "frame/GroupedNumber.h"
+#include "toolkits/memory/Desktop.h"
 
 namespace brivane::memory {
 
@@ -17,9 +15,9 @@ TEST(MemoryDesktop, AWholeNumberIsGroupedAndHalvesGoAwayFromZero) {
   };
   const Desktop desktop;
   for (const Case& c : {Case{0, "0"}, Case{0.49, "0"}, Case{0.5, "1"}, Case{1.5, "2"}, Case{2.5, "3"}, Case{-0.4, "0"},
-                        Case{-0.5, "-1"}, Case{-2.5, "-3"}, Case{999, "999"}, Case{999.5, "1.000"},
-                        Case{1000, "1.000"}, Case{12345, "12.345"}, Case{1234567.4, "1.234.567"},
-                        Case{-100000, "-100.000"}, Case{1e15, "1.000.000.000.000.000"}})
+                        Case{-0.5, "-1"}, Case{-2.5, "-3"}, Case{999, "999"}, Case{999.5, "1.000"}, Case{1000, "1.000"},
+                        Case{12345, "12.345"}, Case{1234567.4, "1.234.567"}, Case{-100000, "-100.000"},
+                        Case{1e15, "1.000.000.000.000.000"}})
     EXPECT_EQ(desktop.FormatWhole(c.number), c.text) << c.number;
 }
 

@@ -1,6 +1,6 @@
-#include "toolkits/memory/TextMeasure.h"
-
 #include <gtest/gtest.h>
+
+#include "toolkits/memory/TextMeasure.h"
 
 namespace brivane::memory {
 
@@ -21,7 +21,11 @@ TEST(TextMeasure, CountsAUtf8CharacterOnceAndACombiningMarkNot) {
 TEST(TextMeasure, TakesABrokenByteForACharacter) {
   EXPECT_FLOAT_EQ(TextWidth("\xC3", 9, false).value, 0.556F * 180);
   EXPECT_FLOAT_EQ(TextWidth("\xE2\x82", 9, false).value, 2 * 0.556F * 180);
-  EXPECT_FLOAT_EQ(TextWidth("\xC3" "a", 9, false).value, 2 * 0.556F * 180);
+  EXPECT_FLOAT_EQ(TextWidth("\xC3"
+                            "a",
+                            9, false)
+                      .value,
+                  2 * 0.556F * 180);
 }
 
 }  // namespace brivane::memory

@@ -4,10 +4,10 @@
 #include <QTreeWidget>
 #include <QWheelEvent>
 
-#include "tests/toolkits/qt/SurfaceTest.h"
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
 #include "controls/ListView.h"
+#include "tests/toolkits/qt/SurfaceTest.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
 #include "toolkits/qt/widgets/JaNeeToggle.h"
 

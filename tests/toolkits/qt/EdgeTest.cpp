@@ -52,8 +52,8 @@ TEST(Colors, OfTheSystemAreLeftToThePalette) {
 }
 
 TEST(Contents, AreShownByTheirFormat) {
-  using frame::Format;
   using controls::BoxValue;
+  using frame::Format;
   EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::Amount), "1.500,00");
   EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::WholeNumber), "1500");
   EXPECT_EQ(ShownContent(BoxValue(1.5), Format::WholeNumber), "1,5");

@@ -10,9 +10,9 @@
 #include "tests/toolkits/qt/Person.h"
 #include "toelichting/Ontwerp.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/ToelichtingWidget.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
 
 /// The embeddable controls in a window of their host, worked by keys.

@@ -8,11 +8,11 @@
 #include "controls/Choices.h"
 #include "controls/Surface.h"
 #include "controls/TextBox.h"
-#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Edge.h"
-#include "toolkits/qt/widgets/FormWindow.h"
 #include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/rows/RowCanvas.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 namespace brivane::test {
 
@@ -27,9 +27,7 @@ void Click(QWidget& widget, QPoint at) {
   QTest::mouseClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, widget.mapTo(window, at));
 }
 
-void Click(QWidget& widget) {
-  Click(widget, widget.rect().center());
-}
+void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
 
 void Press(int key, Qt::KeyboardModifiers modifiers) {
   QWindow* const window = QGuiApplication::focusWindow();
@@ -106,8 +104,6 @@ class Doer {
 
 }  // namespace
 
-void Do(controls::AnyControl& control, const controls::Action& action) {
-  std::visit(Doer(control), action);
-}
+void Do(controls::AnyControl& control, const controls::Action& action) { std::visit(Doer(control), action); }
 
 }  // namespace brivane::test

@@ -5,8 +5,8 @@
 #include "tests/toolkits/conformance/Conformance.h"
 #include "tests/toolkits/qt/Person.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/widgets/FormWindow.h"
 #include "toolkits/qt/Toolkit.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 namespace brivane::test {
 namespace {
@@ -45,14 +45,10 @@ class QtUnderTest final : public ToolkitUnderTest {
   qt::Toolkit toolkit_;
 };
 
-std::unique_ptr<ToolkitUnderTest> MakeQt() {
-  return std::make_unique<QtUnderTest>();
-}
+std::unique_ptr<ToolkitUnderTest> MakeQt() { return std::make_unique<QtUnderTest>(); }
 
 }  // namespace
 
-std::vector<Subject> Subjects() {
-  return {{"QtDoor", &MakeQt, Way::Door}, {"QtGesture", &MakeQt, Way::Gesture}};
-}
+std::vector<Subject> Subjects() { return {{"QtDoor", &MakeQt, Way::Door}, {"QtGesture", &MakeQt, Way::Gesture}}; }
 
 }  // namespace brivane::test

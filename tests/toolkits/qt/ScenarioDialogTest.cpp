@@ -12,15 +12,15 @@
 #include <QTest>
 #include <QTimer>
 
+#include "controls/TextBox.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/qt/Person.h"
-#include "controls/TextBox.h"
-#include "toolkits/qt/widgets/Bubble.h"
-#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/Dump.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/rows/RowCanvas.h"
+#include "toolkits/qt/widgets/Bubble.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 /// The year-by-year form as a person meets it: a dialog worked by keys.
 namespace brivane::test {

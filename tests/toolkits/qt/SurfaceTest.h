@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "controls/TextBox.h"
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/qt/Person.h"
-#include "controls/TextBox.h"
+#include "toolkits/qt/Toolkit.h"
 #include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/widgets/EntryBox.h"
-#include "toolkits/qt/Toolkit.h"
 
 namespace brivane::test {
 
@@ -35,8 +35,7 @@ class SurfaceTest : public testing::Test {
   [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
     return *controls::Surface::Of(*surface_).Find(name, index);
   }
-  template <class Box = qt::EntryBox>
-  [[nodiscard]] Box& Entry(std::string_view name) {
+  template <class Box = qt::EntryBox> [[nodiscard]] Box& Entry(std::string_view name) {
     return dynamic_cast<Box&>(*WidgetFor(Control(name)));
   }
   [[nodiscard]] controls::TextBox& Box(std::string_view name) { return static_cast<controls::TextBox&>(Control(name)); }

@@ -1,7 +1,7 @@
-#include "frame/Calendar.h"
-#include "tests/toolkits/win32/SurfaceTest.h"
 #include "controls/Choices.h"
 #include "controls/Plain.h"
+#include "frame/Calendar.h"
+#include "tests/toolkits/win32/SurfaceTest.h"
 #include "toolkits/win32/controls/Calendar.h"
 #include "toolkits/win32/controls/DateWindow.h"
 
@@ -211,8 +211,8 @@ TEST_F(Boxes, TextOutsideAsciiIsTakenAndShown) {
 TEST_F(Boxes, AnotherWindowDoesNotHandOverButAnotherControlOfTheContainerDoes) {
   Focus("txtBedrag");
   TypeOver(L"5");
-  const HWND other = CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr,
-                                     nullptr);
+  const HWND other =
+      CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
   SetForegroundWindow(other);
   SetFocus(other);
   stage_.Settle();

@@ -1,4 +1,4 @@
-#include "tests/toolkits/win32/SurfaceTest.h"
+#include "toolkits/win32/window/WindowsApi.h"
 
 #include <commctrl.h>
 
@@ -6,6 +6,7 @@
 #include "controls/ListBox.h"
 #include "controls/ListView.h"
 #include "controls/Plain.h"
+#include "tests/toolkits/win32/SurfaceTest.h"
 #include "toolkits/win32/controls/HintWindow.h"
 
 /// Toggles, options, lists and help icons worked by keys and mouse.
@@ -26,11 +27,11 @@ TEST_F(ToggleKeys, EachKeyPicksItsAnswer) {
     int after;
   };
   SetFocus(WindowOf("jnDiep"));
-  for (const Case& c : {Case{'J', host::kNee, host::kJa}, Case{'J', host::kJa, host::kJa},
-                        Case{'N', host::kJa, host::kNee}, Case{VK_LEFT, host::kNee, host::kJa},
-                        Case{VK_RIGHT, host::kJa, host::kNee}, Case{VK_UP, host::kNee, host::kJa},
-                        Case{VK_DOWN, host::kJa, host::kNee}, Case{VK_SPACE, host::kNee, host::kJa},
-                        Case{VK_SPACE, host::kJa, host::kNee}, Case{'A', host::kNee, host::kNee}}) {
+  for (const Case& c :
+       {Case{'J', host::kNee, host::kJa}, Case{'J', host::kJa, host::kJa}, Case{'N', host::kJa, host::kNee},
+        Case{VK_LEFT, host::kNee, host::kJa}, Case{VK_RIGHT, host::kJa, host::kNee}, Case{VK_UP, host::kNee, host::kJa},
+        Case{VK_DOWN, host::kJa, host::kNee}, Case{VK_SPACE, host::kNee, host::kJa},
+        Case{VK_SPACE, host::kJa, host::kNee}, Case{'A', host::kNee, host::kNee}}) {
     toggle_.SetValue(c.before);
     Press(c.key);
     EXPECT_EQ(toggle_.Value(), c.after) << c.key << " from " << c.before;

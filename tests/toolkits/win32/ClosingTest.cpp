@@ -1,10 +1,10 @@
 #include <functional>
 
+#include "controls/Form.h"
+#include "controls/ListBox.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "controls/Form.h"
-#include "controls/ListBox.h"
 #include "toolkits/win32/controls/DateWindow.h"
 #include "toolkits/win32/controls/HintWindow.h"
 

@@ -73,8 +73,8 @@ TEST(Win32Desktop, WholeNumbersAreGroupedByTheLocaleAndHalvesGoAwayFromZero) {
     double number;
     std::string text;
   };
-  for (const Case& c : {Case{0, "0"}, Case{2.5, "3"}, Case{-2.5, "-3"}, Case{-0.4, "0"}, Case{25000, "25" + group + "000"},
-                        Case{1234567.4, "1" + group + "234" + group + "567"}})
+  for (const Case& c : {Case{0, "0"}, Case{2.5, "3"}, Case{-2.5, "-3"}, Case{-0.4, "0"},
+                        Case{25000, "25" + group + "000"}, Case{1234567.4, "1" + group + "234" + group + "567"}})
     EXPECT_EQ(desktop.FormatWhole(c.number), c.text) << c.number;
 }
 

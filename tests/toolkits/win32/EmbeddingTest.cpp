@@ -1,9 +1,9 @@
 #include <cmath>
 
-#include "tests/toolkits/conformance/Scenes.h"
-#include "tests/toolkits/win32/SurfaceTest.h"
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
+#include "tests/toolkits/conformance/Scenes.h"
+#include "tests/toolkits/win32/SurfaceTest.h"
 #include "toolkits/win32/Dump.h"
 
 /// A surface in a container that was not written for it.

@@ -1,6 +1,8 @@
-#include "tests/toolkits/win32/SurfaceTest.h"
+#include "toolkits/win32/window/WindowsApi.h"
 
 #include <oleacc.h>
+
+#include "tests/toolkits/win32/SurfaceTest.h"
 
 /// What a screen reader hears, asked of the standard accessibility proxies of Windows.
 namespace brivane::test {

@@ -3,14 +3,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "controls/entry/Content.h"
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
 #include "controls/TextBox.h"
-#include "toolkits/win32/window/ControlWindow.h"
-#include "toolkits/win32/form/FormWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include "controls/entry/Content.h"
 #include "toolkits/win32/Toolkit.h"
+#include "toolkits/win32/form/FormWindow.h"
+#include "toolkits/win32/window/ControlWindow.h"
+#include "toolkits/win32/window/Text.h"
 
 namespace brivane::test {
 

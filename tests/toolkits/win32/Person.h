@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string>
-
 #include "toolkits/win32/window/WindowsApi.h"
 
-#include "host/controls/Surface.h"
+#include <string>
+
 #include "controls/Control.h"
+#include "host/controls/Surface.h"
 
 /// What a person does with mouse and keyboard, through the input queue of Windows: a click lands on whatever is
 /// under the pointer, a key goes to whatever has the focus.

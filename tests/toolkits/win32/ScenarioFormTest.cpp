@@ -3,13 +3,13 @@
 
 #include <chrono>
 
+#include "controls/Choices.h"
+#include "controls/TextBox.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/Person.h"
-#include "controls/Choices.h"
-#include "controls/TextBox.h"
-#include "toolkits/win32/controls/BoxWindow.h"
 #include "toolkits/win32/Dump.h"
+#include "toolkits/win32/controls/BoxWindow.h"
 #include "toolkits/win32/controls/HintWindow.h"
 #include "toolkits/win32/window/Text.h"
 
@@ -334,28 +334,26 @@ TEST_F(ScenarioForm, AFormLargerThanTheScreenScrollsToWhatHasTheFocus) {
 
 TEST_F(ScenarioForm, TheReasonStandsWhereItIsSeenAlsoInAScrolledForm) {
   toolkit_.SetScale(6);
-  Open(
-      80,
-      [&] {
-        for (const int row : {80, 1, 14, 15, 16, 17}) {
-          const HWND box = Shown(Cell("txtBedrag", row)).Handle();
-          SetFocus(box);
-          TypeOver(L"12.50");
-          Press(VK_TAB);
-          const win32::Bubble* const reason = dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).ReasonShown();
-          ASSERT_NE(reason, nullptr);
-          RECT place{};
-          GetWindowRect(reason->Handle(), &place);
-          MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
-          RECT seen{};
-          GetClientRect(window_, &seen);
-          EXPECT_GE(place.left, 0) << row;
-          EXPECT_GE(place.top, 0) << row;
-          EXPECT_LE(place.right, seen.right) << row;
-          EXPECT_LE(place.bottom, seen.bottom) << row;
-          Press(VK_ESCAPE);
-        }
-      });
+  Open(80, [&] {
+    for (const int row : {80, 1, 14, 15, 16, 17}) {
+      const HWND box = Shown(Cell("txtBedrag", row)).Handle();
+      SetFocus(box);
+      TypeOver(L"12.50");
+      Press(VK_TAB);
+      const win32::Bubble* const reason = dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).ReasonShown();
+      ASSERT_NE(reason, nullptr);
+      RECT place{};
+      GetWindowRect(reason->Handle(), &place);
+      MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+      RECT seen{};
+      GetClientRect(window_, &seen);
+      EXPECT_GE(place.left, 0) << row;
+      EXPECT_GE(place.top, 0) << row;
+      EXPECT_LE(place.right, seen.right) << row;
+      EXPECT_LE(place.bottom, seen.bottom) << row;
+      Press(VK_ESCAPE);
+    }
+  });
 }
 
 TEST_F(ScenarioForm, EightyRowsShowToThePixelWhatTheControlsHold) {

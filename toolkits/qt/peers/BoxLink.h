@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/TextBox.h"
-#include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/Toolkit.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 
 namespace brivane::qt {
 

@@ -19,9 +19,7 @@ namespace {
 JaNeeToggle::Answer AnswerOf(int value) {
   return value == host::kJa ? JaNeeToggle::Answer::Ja : JaNeeToggle::Answer::Nee;
 }
-int ValueOf(JaNeeToggle::Answer answer) {
-  return answer == JaNeeToggle::Answer::Ja ? host::kJa : host::kNee;
-}
+int ValueOf(JaNeeToggle::Answer answer) { return answer == JaNeeToggle::Answer::Ja ? host::kJa : host::kNee; }
 
 /// The options of one control array are a group, whatever else stands in their frame.
 QButtonGroup& GroupOf(QWidget& container, const QString& array) {
@@ -129,9 +127,7 @@ ComboPeer::ComboPeer(controls::ListBox& list, qt::Toolkit& toolkit, QWidget* con
   });
 }
 
-QComboBox& ComboPeer::Combo() const {
-  return static_cast<QComboBox&>(*Widget());
-}
+QComboBox& ComboPeer::Combo() const { return static_cast<QComboBox&>(*Widget()); }
 
 void ComboPeer::Refresh(Aspect aspect) {
   if (Widget() == nullptr) return;

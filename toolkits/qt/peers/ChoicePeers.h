@@ -3,8 +3,8 @@
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
 #include "controls/Plain.h"
-#include "toolkits/qt/widgets/JaNeeToggle.h"
 #include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/widgets/JaNeeToggle.h"
 
 class QCheckBox;
 class QComboBox;

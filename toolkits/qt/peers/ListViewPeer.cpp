@@ -45,9 +45,7 @@ ListViewPeer::ListViewPeer(controls::ListView& list, qt::Toolkit& toolkit, QWidg
   ShowRows();
 }
 
-QTreeWidget& ListViewPeer::Tree() const {
-  return static_cast<QTreeWidget&>(*Widget());
-}
+QTreeWidget& ListViewPeer::Tree() const { return static_cast<QTreeWidget&>(*Widget()); }
 
 void ListViewPeer::Refresh(Aspect aspect) {
   if (Widget() == nullptr) return;

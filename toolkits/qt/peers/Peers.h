@@ -37,8 +37,7 @@ class WidgetPeer : public controls::Peer, public AreaHolder {
 
   /// Whether something is being shown and not done by a person.
   [[nodiscard]] bool Showing() const { return showing_; }
-  template <class Body>
-  void Show(const Body& body) {
+  template <class Body> void Show(const Body& body) {
     const bool before = std::exchange(showing_, true);
     body();
     showing_ = before;

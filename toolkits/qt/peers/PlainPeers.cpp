@@ -3,8 +3,8 @@
 #include <QGroupBox>
 #include <QLabel>
 
-#include "toolkits/qt/widgets/HelpIcon.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/widgets/HelpIcon.h"
 
 namespace brivane::qt {
 

@@ -1,5 +1,5 @@
-#include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/peers/Peers.h"
 
 namespace brivane::qt {
 
@@ -16,9 +16,7 @@ WidgetPeer::WidgetPeer(controls::AnyControl& control, qt::Toolkit& toolkit, QWid
   if (!control.AccessibleName().empty()) widget->setAccessibleName(ToQt(control.AccessibleName()));
 }
 
-WidgetPeer::~WidgetPeer() {
-  delete widget_;
-}
+WidgetPeer::~WidgetPeer() { delete widget_; }
 
 void WidgetPeer::Refresh(Aspect aspect) {
   if (!widget_) return;
@@ -42,13 +40,9 @@ void WidgetPeer::Rescale() {
   ShowPlace();
 }
 
-void WidgetPeer::ShowVisible() {
-  widget_->setVisible(control_.Host().Visible());
-}
+void WidgetPeer::ShowVisible() { widget_->setVisible(control_.Host().Visible()); }
 
-void WidgetPeer::ShowPlace() {
-  widget_->setGeometry(toolkit_.Edge().Pixels(control_.Host().Place()));
-}
+void WidgetPeer::ShowPlace() { widget_->setGeometry(toolkit_.Edge().Pixels(control_.Host().Place())); }
 
 void WidgetPeer::ShowFont() {
   const controls::Surface* const owner = control_.Owner();

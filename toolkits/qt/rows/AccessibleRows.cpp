@@ -4,9 +4,9 @@
 #include <unordered_map>
 
 #include "controls/Plain.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/rows/RowCanvas.h"
-#include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
 

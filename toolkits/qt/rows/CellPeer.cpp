@@ -21,9 +21,7 @@ CellPeer::~CellPeer() {
   if (canvas_) canvas_->Remove(*this);
 }
 
-void CellPeer::PutPlace() {
-  place_ = toolkit_.Edge().Pixels(control_.Host().Place());
-}
+void CellPeer::PutPlace() { place_ = toolkit_.Edge().Pixels(control_.Host().Place()); }
 
 void CellPeer::Refresh(Aspect aspect) {
   if (!canvas_) return;
@@ -60,8 +58,6 @@ bool CellPeer::IsStop() const {
   return visible_ && (kind == Kind::TextBox || kind == Kind::CheckBox || kind == Kind::Hint) && control_.Reachable();
 }
 
-bool CellPeer::Ticked() const {
-  return static_cast<const controls::CheckBox&>(control_).Value() == host::kTicked;
-}
+bool CellPeer::Ticked() const { return static_cast<const controls::CheckBox&>(control_).Value() == host::kTicked; }
 
 }  // namespace brivane::qt

@@ -12,16 +12,16 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "controls/entry/Column.h"
 #include "controls/Choices.h"
 #include "controls/Plain.h"
 #include "controls/Surface.h"
+#include "controls/entry/Column.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/AccessibleRows.h"
-#include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/rows/CellEditor.h"
 #include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
-#include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
 
@@ -157,17 +157,11 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   lower();
 }
 
-QWidget& RowCanvas::LineEdit() const {
-  return *editor_;
-}
+QWidget& RowCanvas::LineEdit() const { return *editor_; }
 
-EntryBox* RowCanvas::Editor() const {
-  return edited_ != nullptr ? editor_ : nullptr;
-}
+EntryBox* RowCanvas::Editor() const { return edited_ != nullptr ? editor_ : nullptr; }
 
-void RowCanvas::Add(CellPeer& cell) {
-  cells_.push_back(&cell);
-}
+void RowCanvas::Add(CellPeer& cell) { cells_.push_back(&cell); }
 
 void RowCanvas::Remove(CellPeer& cell) {
   if (edited_ == &cell) StopEditing();

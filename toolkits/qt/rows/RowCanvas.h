@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "toolkits/qt/peers/BoxLink.h"
 #include "toolkits/qt/Toolkit.h"
+#include "toolkits/qt/peers/BoxLink.h"
 
 namespace brivane::qt {
 

@@ -47,9 +47,7 @@ bool ControlWidget::CommitPending() {
   return box == nullptr || box->CommitPending();
 }
 
-QColor ControlWidget::backColor() const {
-  return backColor_.value_or(palette().color(QPalette::Window));
-}
+QColor ControlWidget::backColor() const { return backColor_.value_or(palette().color(QPalette::Window)); }
 
 void ControlWidget::setBackColor(const QColor& color) {
   backColor_ = color;
@@ -61,9 +59,7 @@ QSize ControlWidget::sizeHint() const {
   return toolkit_.Edge().Pixels({width}, surface_->Place().height);
 }
 
-QSize ControlWidget::minimumSizeHint() const {
-  return sizeHint();
-}
+QSize ControlWidget::minimumSizeHint() const { return sizeHint(); }
 
 void ControlWidget::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);

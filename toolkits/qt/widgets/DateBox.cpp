@@ -43,18 +43,14 @@ DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
   QObject::connect(icon_, &QAction::triggered, this, [this] { OpenCalendar(); });
 }
 
-void DateBox::DrawIcon() {
-  icon_->setIcon(CalendarIcon(palette().color(QPalette::Text), devicePixelRatioF()));
-}
+void DateBox::DrawIcon() { icon_->setIcon(CalendarIcon(palette().color(QPalette::Text), devicePixelRatioF())); }
 
 void DateBox::changeEvent(QEvent* event) {
   EntryBox::changeEvent(event);
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange) DrawIcon();
 }
 
-QWidget* DateBox::Calendar() const {
-  return popup_;
-}
+QWidget* DateBox::Calendar() const { return popup_; }
 
 void DateBox::OpenCalendar() {
   if (!isEnabled() || isReadOnly() || popup_) return;

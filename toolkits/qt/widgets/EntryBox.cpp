@@ -24,9 +24,7 @@ void EntryBox::ShowText(const QString& text) {
   if (hasFocus()) selectAll();
 }
 
-bool EntryBox::HasPendingEdit() const {
-  return refused_ || edited_;
-}
+bool EntryBox::HasPendingEdit() const { return refused_ || edited_; }
 
 bool EntryBox::CommitPending() {
   if (committing_ || !HasPendingEdit()) return true;

@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 
 #include "controls/Messages.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/RowCanvas.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
-#include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
 
@@ -35,9 +35,7 @@ FormWindow::FormWindow(controls::Form& form, Toolkit& toolkit)
 
 FormWindow::~FormWindow() = default;
 
-QSize FormWindow::Inside() const {
-  return toolkit_.Edge().Pixels(form_.ScaleWidth(), form_.ScaleHeight());
-}
+QSize FormWindow::Inside() const { return toolkit_.Edge().Pixels(form_.ScaleWidth(), form_.ScaleHeight()); }
 
 void FormWindow::Refresh(Aspect aspect) {
   switch (aspect) {

@@ -3,8 +3,8 @@
 #include <QDialog>
 #include <memory>
 
-#include "host/model/Hoofdvenster.h"
 #include "controls/Form.h"
+#include "host/model/Hoofdvenster.h"
 #include "toolkits/qt/peers/Peers.h"
 
 class QScrollArea;

@@ -6,9 +6,7 @@
 
 namespace brivane::qt {
 
-QString WrappedToolTip(const QString& help) {
-  return "<qt>" + help.toHtmlEscaped() + "</qt>";
-}
+QString WrappedToolTip(const QString& help) { return "<qt>" + help.toHtmlEscaped() + "</qt>"; }
 
 void PaintHelpIcon(QPainter& painter, const QRect& rect, const QPalette& palette, bool focused) {
   painter.save();
@@ -42,9 +40,7 @@ HelpIcon::HelpIcon(const QString& help, QWidget* parent) : QAbstractButton(paren
   QObject::connect(this, &QAbstractButton::clicked, this, [this] { ShowHelp(); });
 }
 
-void HelpIcon::ShowHelp() {
-  QToolTip::showText(mapToGlobal(QPoint(width() / 2, height())), toolTip(), this);
-}
+void HelpIcon::ShowHelp() { QToolTip::showText(mapToGlobal(QPoint(width() / 2, height())), toolTip(), this); }
 
 void HelpIcon::paintEvent(QPaintEvent*) {
   QPainter painter(this);

@@ -7,14 +7,14 @@
 #include "controls/entry/Column.h"
 #include "controls/entry/Content.h"
 #include "frame/Trim.h"
-#include "toolkits/win32/window/Fonts.h"
 #include "toolkits/win32/form/FormWindow.h"
+#include "toolkits/win32/window/Fonts.h"
 #include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
 
-using frame::Format;
 using controls::Aspect;
+using frame::Format;
 
 namespace {
 
@@ -100,7 +100,8 @@ void BoxWindow::ShowVisible() {
 
 void BoxWindow::ShowFont() {
   ControlWindow::ShowFont();
-  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+               SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void BoxWindow::ShowBackColor() { RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME); }
@@ -119,7 +120,8 @@ RECT BoxWindow::RoomAbove() const {
 void BoxWindow::PaintRoomAbove(HDC context) {
   const RECT room = RoomAbove();
   const bool open = IsWindowEnabled(Handle()) != FALSE && !IsReadOnly();
-  if (const HBRUSH brush = OnColor(open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, context)) FillRect(context, &room, brush);
+  if (const HBRUSH brush = OnColor(open ? WM_CTLCOLOREDIT : WM_CTLCOLORSTATIC, context))
+    FillRect(context, &room, brush);
 }
 
 /// Nothing while the box is taking an entry: what was typed stays as typed until it is accepted.

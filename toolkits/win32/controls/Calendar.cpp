@@ -24,9 +24,7 @@ SYSTEMTIME ToSystem(host::Date date) {
   return system;
 }
 
-host::Date FromSystem(const SYSTEMTIME& system) {
-  return frame::MakeDate({system.wYear, system.wMonth, system.wDay});
-}
+host::Date FromSystem(const SYSTEMTIME& system) { return frame::MakeDate({system.wYear, system.wMonth, system.wDay}); }
 
 }  // namespace
 

@@ -17,9 +17,10 @@ constexpr int kEntryMargin = 8;
 }  // namespace
 
 ComboWindow::ComboWindow(controls::ListBox& list, win32::Toolkit& toolkit)
-    : ControlWindow(list, toolkit,
-                    {.className = L"COMBOBOX",
-                     .style = WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS}),
+    : ControlWindow(
+          list, toolkit,
+          {.className = L"COMBOBOX",
+           .style = WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS}),
       list_(list),
       name_(std::make_unique<NameLabel>(list, toolkit)) {
   SetWindowPos(Handle(), name_->Handle(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
@@ -45,9 +46,7 @@ void ComboWindow::AddEntry(const controls::ListBox::Entry& entry) const {
   SendMessageW(Handle(), CB_SETITEMDATA, static_cast<WPARAM>(place), entry.itemData);
 }
 
-void ComboWindow::ShowIndex() const {
-  SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
-}
+void ComboWindow::ShowIndex() const { SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0); }
 
 /// The dropped list is as wide as its longest entry, so that a person reads what there is to choose.
 void ComboWindow::WidenDropped() const {

@@ -57,7 +57,8 @@ class DateWindow::ClickWatch {
 
 DateWindow::DateWindow(controls::TextBox& box, win32::Toolkit& toolkit) : BoxWindow(box, toolkit) {
   // The frame was measured before there was anyone to make room in it.
-  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0, SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(Handle(), nullptr, 0, 0, 0, 0,
+               SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 DateWindow::~DateWindow() = default;

@@ -55,9 +55,7 @@ LRESULT HintWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONUP:
     case WM_KEYUP:
     case BM_SETSTATE: return 0;
-    case WM_KILLFOCUS:
-      tip_.Hide();
-      [[fallthrough]];
+    case WM_KILLFOCUS: tip_.Hide(); [[fallthrough]];
     case WM_ENABLE: InvalidateRect(Handle(), nullptr, TRUE); return 0;
     case WM_SETFOCUS:
       InvalidateRect(Handle(), nullptr, TRUE);

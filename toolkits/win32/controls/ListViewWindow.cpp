@@ -92,8 +92,7 @@ void ListViewWindow::ShowRows() {
   for (std::size_t row = 0; row < items.size(); ++row) {
     LVITEMW item{};
     item.iItem = static_cast<int>(row);
-    if (item.iItem >= CountItems(Handle()))
-      SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    if (item.iItem >= CountItems(Handle())) SendMessageW(Handle(), LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
     item.mask = LVIF_PARAM;
     item.lParam = BoldCells(items[row]);
     SendMessageW(Handle(), LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));

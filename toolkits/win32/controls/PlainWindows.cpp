@@ -19,7 +19,8 @@ Making FrameMaking(const frame::Row& row) {
 
 Making LabelMaking(const frame::Row& row) {
   const DWORD kind = row.multiline ? DWORD{SS_LEFT} : SS_LEFTNOWORDWRAP | SS_CENTERIMAGE;
-  return {.className = L"STATIC", .style = WS_CHILD | WS_CLIPSIBLINGS | kind | (row.mnemonic == '\0' ? SS_NOPREFIX : 0U)};
+  return {.className = L"STATIC",
+          .style = WS_CHILD | WS_CLIPSIBLINGS | kind | (row.mnemonic == '\0' ? SS_NOPREFIX : 0U)};
 }
 
 }  // namespace

@@ -88,7 +88,8 @@ void ToggleWindow::PaintHalf(HDC context, const RECT& half, int value) const {
   const bool enabled = IsWindowEnabled(Handle()) != FALSE;
   // A disabled toggle still tells its answer: its grey text turned inside out.
   const int back = !chosen ? COLOR_WINDOW : enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT;
-  const int text = chosen ? (enabled ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOW) : (enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
+  const int text =
+      chosen ? (enabled ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOW) : (enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
   FillRect(context, &half, GetSysColorBrush(back));
   SetTextColor(context, GetSysColor(text));
   SetBkMode(context, TRANSPARENT);

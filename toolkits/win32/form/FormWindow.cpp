@@ -118,9 +118,7 @@ void FormWindow::Refresh(Aspect aspect) {
       if (open_) Fit();
       break;
     }
-    case Aspect::BackColor:
-      RedrawWindow(Area(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-      break;
+    case Aspect::BackColor: RedrawWindow(Area(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN); break;
     default: break;
   }
 }

@@ -54,7 +54,8 @@ Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const s
   LONG top = place.bottom + gap;
   if (top + outerHeight > room.bottom) top = place.top - gap - outerHeight;
   const LONG left = std::max<LONG>(room.left + gap, std::min<LONG>(place.left, room.right - width - gap));
-  SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(room.top, top), width, outerHeight, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(room.top, top), width, outerHeight,
+               SWP_NOACTIVATE | SWP_SHOWWINDOW);
   NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 

@@ -25,9 +25,7 @@ bool IsHandledCharacter(WPARAM character) {
 
 }  // namespace
 
-HWND AreaOf(const controls::AnyControl& control) {
-  return dynamic_cast<const AreaHolder&>(*control.GetPeer()).Area();
-}
+HWND AreaOf(const controls::AnyControl& control) { return dynamic_cast<const AreaHolder&>(*control.GetPeer()).Area(); }
 
 controls::Surface& RootOf(controls::AnyControl& control) {
   controls::Surface* root = control.Owner();

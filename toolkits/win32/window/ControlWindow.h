@@ -3,12 +3,11 @@
 #include <memory>
 #include <utility>
 
-#include "toolkits/win32/window/Window.h"
-
 #include "controls/Control.h"
 #include "controls/Peer.h"
 #include "controls/Surface.h"
 #include "toolkits/win32/Toolkit.h"
+#include "toolkits/win32/window/Window.h"
 
 namespace brivane::win32 {
 

@@ -24,9 +24,7 @@ RECT Edge::Pixels(const host::Place& place) const {
 
 SIZE Edge::Pixels(host::Twips width, host::Twips height) const { return {Pixel(width.value), Pixel(height.value)}; }
 
-host::Twips Edge::ToTwips(int pixels) const {
-  return {static_cast<float>(pixels * controls::kTwipsPerPixel / scale_)};
-}
+host::Twips Edge::ToTwips(int pixels) const { return {static_cast<float>(pixels * controls::kTwipsPerPixel / scale_)}; }
 
 int Edge::FontPixels(float points) const { return std::max(1, Pixel(points * kTwipsPerPoint)); }
 

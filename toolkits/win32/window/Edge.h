@@ -1,10 +1,11 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <optional>
 
 #include "host/Color.h"
 #include "host/Twips.h"
-#include "toolkits/win32/window/WindowsApi.h"
 
 /// Where twips and colours become what Windows draws, and back.
 namespace brivane::win32 {

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <map>
 #include <string>
 #include <string_view>
 #include <tuple>
-
-#include "toolkits/win32/window/WindowsApi.h"
 
 namespace brivane::win32 {
 

@@ -1,9 +1,9 @@
 #include "toolkits/win32/window/HelpTip.h"
 
+#include <commctrl.h>
+
 #include "toolkits/win32/Toolkit.h"
 #include "toolkits/win32/window/Window.h"
-
-#include <commctrl.h>
 
 namespace brivane::win32 {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "toolkits/win32/window/WindowsApi.h"
+
+#include <string>
 
 namespace brivane::win32 {
 

@@ -69,9 +69,7 @@ void Collect(const controls::Surface& surface, std::vector<AnyControl*>& stops) 
   }
 }
 
-FormWindow* FormOf(ControlWindow& window) {
-  return dynamic_cast<FormWindow*>(RootOf(window.Control()).GetPeer());
-}
+FormWindow* FormOf(ControlWindow& window) { return dynamic_cast<FormWindow*>(RootOf(window.Control()).GetPeer()); }
 
 /// Hands over what is being typed in a window. False where it was refused, or where nothing is left to go on
 /// from.
@@ -136,7 +134,8 @@ bool Step(ControlWindow& from, Direction direction) {
   // What was handed over may have hidden or disabled anything.
   const std::vector<ControlWindow*> stops = Stops(root);
   const auto here = std::find_if(stops.begin(), stops.end(), [&](const ControlWindow* stop) {
-    return &stop->Control() == &current || (current.ControlKind() == Kind::OptionButton && IsOptionOf(stop->Control(), current));
+    return &stop->Control() == &current ||
+           (current.ControlKind() == Kind::OptionButton && IsOptionOf(stop->Control(), current));
   });
   if (stops.empty()) return form;
   if (here == stops.end()) return FocusEnd(root, direction);

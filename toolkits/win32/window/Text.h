@@ -1,10 +1,10 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "toolkits/win32/window/WindowsApi.h"
 
 /// Between the UTF-8 of the controls and the UTF-16 of Windows.
 namespace brivane::win32 {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "toolkits/win32/window/WindowsApi.h"
+
 #include <memory>
 #include <optional>
 #include <string>
-
-#include "toolkits/win32/window/WindowsApi.h"
 
 namespace brivane::win32 {
 
