@@ -2,27 +2,27 @@
 
 #include "dossier/store/Fields.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-QJsonObject Jsonvelden(const Dossier& dossier) {
-  QJsonObject velden;
+QJsonObject JsonFields(const dossier::Dossier& dossier) {
+  QJsonObject fields;
   for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
     for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) {
-      const KolomGegevens gegevens = kolom->Gegevens();
-      const QString plek = QStringLiteral("%1/%2/").arg(Len_Id).arg(gegevens.Id);
-      const auto zet = [&velden](const QString& ervoor) {
-        return [&velden, ervoor](const char* naam, const auto& waarde) {
-          velden.insert(ervoor + QLatin1String(naam), AlsJson(waarde));
+      const dossier::KolomGegevens gegevens = kolom->Gegevens();
+      const QString place = QStringLiteral("%1/%2/").arg(Len_Id).arg(gegevens.Id);
+      const auto put = [&fields](const QString& prefix) {
+        return [&fields, prefix](const char* name, const auto& value) {
+          fields.insert(prefix + QLatin1String(name), AsJson(value));
         };
       };
-      BezoekKolom(gegevens, zet(plek));
-      int nummer = 0;
-      for (const PeriodeGegevens& periode : gegevens.Bedrag.Perioden) {
-        BezoekPeriode(periode, zet(plek + QStringLiteral("periode %1/").arg(++nummer)));
+      dossier::BezoekKolom(gegevens, put(place));
+      int number = 0;
+      for (const dossier::PeriodeGegevens& periode : gegevens.Bedrag.Perioden) {
+        dossier::BezoekPeriode(periode, put(place + QStringLiteral("periode %1/").arg(++number)));
       }
     }
   }
-  return velden;
+  return fields;
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -15,66 +15,66 @@
 #include "frame/Calendar.h"
 #include "scenario/frmScenario.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 using controls::Enter;
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
 /// Closes each box that the window itself shows, and keeps what the first one said: nobody is there to read it.
-class Berichten final : public QObject {
+class Boxes final : public QObject {
  public:
-  Berichten() { QApplication::instance()->installEventFilter(this); }
-  [[nodiscard]] const QString& Eerste() const { return eerste_; }
+  Boxes() { QApplication::instance()->installEventFilter(this); }
+  [[nodiscard]] const QString& First() const { return first_; }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    auto* bericht = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
-    if (bericht != nullptr) {
-      if (eerste_.isEmpty()) eerste_ = (bericht->text() + u' ' + bericht->informativeText()).simplified();
-      QTimer::singleShot(0, bericht, &QDialog::reject);
+    auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
+    if (box != nullptr) {
+      if (first_.isEmpty()) first_ = (box->text() + u' ' + box->informativeText()).simplified();
+      QTimer::singleShot(0, box, &QDialog::reject);
     }
     return QObject::eventFilter(object, event);
   }
 
  private:
-  QString eerste_;
+  QString first_;
 };
 
 /// One session on an open file. A step that is not done as it should ends it with an exception.
-class Sessie {
+class Session {
  public:
-  Sessie(Hoofdvenster& venster, const QDir& map, const Berichten& berichten)
-      : berichten_(berichten),
-        venster_(venster),
-        map_(map),
-        scherm_(*venster.Scherm()),
-        editor_(scherm_.Kolom().Editor()),
-        transcript_(map.filePath(QStringLiteral("transcript.jsonl")), scherm_.Gegevens()) {
+  Session(MainWindow& window, const QDir& folder, const Boxes& boxes)
+      : boxes_(boxes),
+        window_(window),
+        folder_(folder),
+        screen_(*window.Screen()),
+        editor_(screen_.Kolom().Editor()),
+        transcript_(folder.filePath(QStringLiteral("transcript.jsonl")), screen_.Dossier()) {
     if (!transcript_.IsOpen()) throw std::runtime_error("cannot write the transcript");
     editor_.Toolkit().AddListener(transcript_);
-    editor_.Toolkit().Desktop().answer = [this](const std::string& titel, const std::string& tekst,
-                                                host::MessageStyle stijl) { return Antwoord(titel, tekst, stijl); };
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &venster_, [this](const QString& tekst) {
-      transcript_.Schrijf({{u"refreshTopDisplay"_qs, tekst}});
+    editor_.Toolkit().Desktop().answer = [this](const std::string& title, const std::string& text,
+                                                host::MessageStyle style) { return Answer(title, text, style); };
+    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &window_, [this](const QString& text) {
+      transcript_.Write({{u"refreshTopDisplay"_qs, text}});
     });
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &venster_, [this] {
-      transcript_.Schrijf({{u"heightChanged"_qs, editor_.sizeHint().height()}});
+    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &window_, [this] {
+      transcript_.Write({{u"heightChanged"_qs, editor_.sizeHint().height()}});
     });
-    QObject::connect(&scherm_, &Dossierscherm::opgeslagen, &venster_, [this] { transcript_.Opgeslagen(); });
+    QObject::connect(&screen_, &DossierScreen::stored, &window_, [this] { transcript_.Stored(); });
   }
-  ~Sessie() {
+  ~Session() {
     // A session that came to its end has closed the file, and the editor with it.
-    if (venster_.Scherm() == nullptr) return;
+    if (window_.Screen() == nullptr) return;
     editor_.Toolkit().RemoveListener(transcript_);
     editor_.Toolkit().Desktop().answer = nullptr;
-    editor_.disconnect(&venster_);
-    scherm_.disconnect(&venster_);
+    editor_.disconnect(&window_);
+    screen_.disconnect(&window_);
   }
-  Sessie(const Sessie&) = delete;
-  Sessie& operator=(const Sessie&) = delete;
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
 
-  void Speel() {
+  void Play() {
     TerugkerendeLast();
     Krant();
     Overlijden();
@@ -84,158 +84,158 @@ class Sessie {
   }
 
  private:
-  static void Moet(bool gedaan, const std::string& wat) {
-    if (!gedaan) throw std::runtime_error("not done: " + wat);
+  static void Must(bool done, const std::string& what) {
+    if (!done) throw std::runtime_error("not done: " + what);
   }
 
   void TerugkerendeLast() {
-    GaNaar({0, 1});
-    Doe("TxtDtAanvang", Enter{Datum(1, 9, 2025)});
-    Doe("TxtAnJaar", Enter{9.0});
-    Doe("TxtAnMaand", Enter{14.0});
-    Doe("TxtBd", Enter{512.75});
-    Beeld("recurring-cost");
+    GoTo({0, 1});
+    Do("TxtDtAanvang", Enter{DateOf(1, 9, 2025)});
+    Do("TxtAnJaar", Enter{9.0});
+    Do("TxtAnMaand", Enter{14.0});
+    Do("TxtBd", Enter{512.75});
+    Picture("recurring-cost");
   }
 
   void Krant() {
-    GaNaar({0, 2});
-    Doe("txtProductnaam", Enter{std::string("De Maasbode, dagelijks")});
-    Doe("txtVervaldatum", Enter{Datum(30, 6, 2029)});
-    Beeld("newspaper");
+    GoTo({0, 2});
+    Do("txtProductnaam", Enter{std::string("De Maasbode, dagelijks")});
+    Do("txtVervaldatum", Enter{DateOf(30, 6, 2029)});
+    Picture("newspaper");
   }
 
   void Overlijden() {
-    GaNaar({0, 3});
-    Doe("Toelichting.jnOverlijden", controls::Toggle{host::kJa});
-    Doe("Toelichting.TxtPcOvergang", Enter{62.5});
-    Doe("Toelichting.txtEinddatum", Enter{Datum(1, 3, 2049)});
-    Beeld("death-transition");
+    GoTo({0, 3});
+    Do("Toelichting.jnOverlijden", controls::Toggle{host::kJa});
+    Do("Toelichting.TxtPcOvergang", Enter{62.5});
+    Do("Toelichting.txtEinddatum", Enter{DateOf(1, 3, 2049)});
+    Picture("death-transition");
   }
 
   /// Left too early it is refused: a column needs a start date.
   void NieuweKolom() {
-    Moet(scherm_.VoegToe(), "adding a column");
+    Must(screen_.AddKolom(), "adding a column");
     QApplication::processEvents();
-    const Plek nieuw = scherm_.Getoond();
-    Doe("TxtOm", Enter{std::string("Contributie fotoclub")});
-    Doe("TxtBd", Enter{27.5});
-    Moet(!scherm_.GaNaar({0, 1}), "refusing to leave a column without a start date");
-    Doe("TxtDtAanvang", Enter{Datum(1, 1, 2027)});
-    Moet(scherm_.Getoond() == nieuw, "staying in the column");
+    const Place created = screen_.Shown();
+    Do("TxtOm", Enter{std::string("Contributie fotoclub")});
+    Do("TxtBd", Enter{27.5});
+    Must(!screen_.GoTo({0, 1}), "refusing to leave a column without a start date");
+    Do("TxtDtAanvang", Enter{DateOf(1, 1, 2027)});
+    Must(screen_.Shown() == created, "staying in the column");
   }
 
   void Scenario() {
-    GaNaar({0, 5});
+    GoTo({0, 5});
     // The form runs an event loop of its own, in which the timer goes off.
-    QTimer straks;
-    straks.setSingleShot(true);
-    bool gevuld = false;
-    scherm_.Scenario().Geopend.Connect([&](frmScenario& formulier) {
-      QObject::connect(&straks, &QTimer::timeout, &venster_, [&] {
-        VulScenario(formulier);
-        gevuld = true;
+    QTimer later;
+    later.setSingleShot(true);
+    bool filled = false;
+    screen_.Scenario().Geopend.Connect([&](frmScenario& form) {
+      QObject::connect(&later, &QTimer::timeout, &window_, [&] {
+        FillScenario(form);
+        filled = true;
       });
-      straks.start(100);
+      later.start(100);
     });
-    Doe("cmdScenario", controls::Press{});
-    scherm_.Scenario().Geopend.Disconnect();
-    if (!fout_.empty()) throw std::runtime_error(fout_);
-    Moet(gevuld, "showing the year-by-year form");
+    Do("cmdScenario", controls::Press{});
+    screen_.Scenario().Geopend.Disconnect();
+    if (!error_.empty()) throw std::runtime_error(error_);
+    Must(filled, "showing the year-by-year form");
   }
 
   /// The partner taken out of the case, on the column that goes over to a partner on death.
   void ZonderPartner() {
-    const std::vector<PersoonGegevens> aanvrager = {scherm_.Gegevens().Personen().front()};
-    Moet(scherm_.SetClient(aanvrager, scherm_.Gegevens().Leeftijd()), "taking the partner out of the case");
-    GaNaar({0, 3});
-    Beeld("without-partner");
+    const std::vector<dossier::PersoonGegevens> aanvrager = {screen_.Dossier().Personen().front()};
+    Must(screen_.SetClient(aanvrager, screen_.Dossier().Leeftijd()), "taking the partner out of the case");
+    GoTo({0, 3});
+    Picture("without-partner");
   }
 
-  void VulScenario(frmScenario& formulier) {
-    controls::Surface& vlak = controls::Surface::Of(formulier.Form());
+  void FillScenario(frmScenario& form) {
+    controls::Surface& surface = controls::Surface::Of(form.Form());
     try {
-      Doe(vlak, "txtBedrag", 1, Enter{6250.0});
-      Doe(vlak, "txtBedrag", 4, Enter{7000.0});
-      Doe(vlak, "chkAanvullen", frame::kNoIndex, controls::Tick{host::kTicked});
-      Doe(vlak, "txtBedrag", 8, Enter{8250.0});
-      Beeld("scenario", QApplication::activeModalWidget());
-      Doe(vlak, "cmdOK", frame::kNoIndex, controls::Press{});
-    } catch (const std::runtime_error& fout) {
-      fout_ = fout.what();
-      static_cast<void>(vlak.Perform(controls::Close{}));
+      Do(surface, "txtBedrag", 1, Enter{6250.0});
+      Do(surface, "txtBedrag", 4, Enter{7000.0});
+      Do(surface, "chkAanvullen", frame::kNoIndex, controls::Tick{host::kTicked});
+      Do(surface, "txtBedrag", 8, Enter{8250.0});
+      Picture("scenario", QApplication::activeModalWidget());
+      Do(surface, "cmdOK", frame::kNoIndex, controls::Press{});
+    } catch (const std::runtime_error& error) {
+      error_ = error.what();
+      static_cast<void>(surface.Perform(controls::Close{}));
     }
   }
 
-  void GaNaar(const Plek& plek) {
-    Moet(scherm_.GaNaar(plek), "going to column " + std::to_string(*plek.Vrij_Id));
-    transcript_.Schrijf({{u"column"_qs, *plek.Vrij_Id}, {u"loan"_qs, plek.Len_Id}});
+  void GoTo(const Place& place) {
+    Must(screen_.GoTo(place), "going to column " + std::to_string(*place.Vrij_Id));
+    transcript_.Write({{u"column"_qs, *place.Vrij_Id}, {u"loan"_qs, place.Len_Id}});
   }
 
-  void Doe(const char* naam, const controls::Action& actie) {
-    Doe(controls::Surface::Of(editor_.Surface()), naam, frame::kNoIndex, actie);
+  void Do(const char* name, const controls::Action& action) {
+    Do(controls::Surface::Of(editor_.Surface()), name, frame::kNoIndex, action);
   }
 
-  void Doe(controls::Surface& vlak, const char* naam, int index, const controls::Action& actie) {
-    controls::AnyControl* control = vlak.Find(naam, index);
-    Moet(control != nullptr && control->Perform(actie) == controls::Outcome::Done, naam);
+  void Do(controls::Surface& surface, const char* name, int index, const controls::Action& action) {
+    controls::AnyControl* control = surface.Find(name, index);
+    Must(control != nullptr && control->Perform(action) == controls::Outcome::Done, name);
     QApplication::processEvents();
-    if (!berichten_.Eerste().isEmpty())
-      throw std::runtime_error(std::string(naam) + " was answered: " + berichten_.Eerste().toStdString());
+    if (!boxes_.First().isEmpty())
+      throw std::runtime_error(std::string(name) + " was answered: " + boxes_.First().toStdString());
   }
 
-  host::MessageAnswer Antwoord(const std::string& titel, const std::string& tekst, host::MessageStyle stijl) {
-    const bool vraag = stijl == host::MessageStyle::YesNoQuestion;
-    transcript_.Schrijf({{u"message"_qs, QString::fromStdString(tekst)},
-                         {u"title"_qs, QString::fromStdString(titel)},
-                         {u"answer"_qs, vraag ? u"Nee"_qs : u"OK"_qs}});
-    return vraag ? host::MessageAnswer::No : host::MessageAnswer::Ok;
+  host::MessageAnswer Answer(const std::string& title, const std::string& text, host::MessageStyle style) {
+    const bool question = style == host::MessageStyle::YesNoQuestion;
+    transcript_.Write({{u"message"_qs, QString::fromStdString(text)},
+                       {u"title"_qs, QString::fromStdString(title)},
+                       {u"answer"_qs, question ? u"Nee"_qs : u"OK"_qs}});
+    return question ? host::MessageAnswer::No : host::MessageAnswer::Ok;
   }
 
-  void Beeld(const char* naam) { Beeld(naam, &venster_); }
-  void Beeld(const char* naam, QWidget* wat) {
-    Moet(wat != nullptr, naam);
-    const QPalette licht = QApplication::palette();
-    Leg(wat, QLatin1String(naam) + QStringLiteral("-light.png"));
-    QApplication::setPalette(DonkerPalet());
-    Leg(wat, QLatin1String(naam) + QStringLiteral("-dark.png"));
-    QApplication::setPalette(licht);
+  void Picture(const char* name) { Picture(name, &window_); }
+  void Picture(const char* name, QWidget* what) {
+    Must(what != nullptr, name);
+    const QPalette light = QApplication::palette();
+    Save(what, QLatin1String(name) + QStringLiteral("-light.png"));
+    QApplication::setPalette(DarkPalette());
+    Save(what, QLatin1String(name) + QStringLiteral("-dark.png"));
+    QApplication::setPalette(light);
   }
 
-  void Leg(QWidget* wat, const QString& naam) {
+  void Save(QWidget* what, const QString& name) {
     QApplication::processEvents();
-    Moet(wat->grab().save(map_.filePath(naam)), "writing " + naam.toStdString());
-    transcript_.Schrijf({{u"picture"_qs, naam}});
+    Must(what->grab().save(folder_.filePath(name)), "writing " + name.toStdString());
+    transcript_.Write({{u"picture"_qs, name}});
   }
 
-  const Berichten& berichten_;
-  Hoofdvenster& venster_;
-  QDir map_;
-  Dossierscherm& scherm_;
+  const Boxes& boxes_;
+  MainWindow& window_;
+  QDir folder_;
+  DossierScreen& screen_;
   qt::VrijeKolomWidget& editor_;
   Transcript transcript_;
-  std::string fout_;
+  std::string error_;
 };
 
 }  // namespace
 
-QString SpeelSessie(const QString& uitvoermap, const QString& bestand) {
-  const QTemporaryDir terzijde;
-  if (!QDir().mkpath(uitvoermap)) return QStringLiteral("cannot make the folder '%1'").arg(uitvoermap);
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, terzijde.path());
-  Logboek logboek(terzijde.filePath(QStringLiteral("logboek")));
-  const Berichten berichten;
-  Hoofdvenster venster(logboek);
+QString PlaySampleSession(const QString& outputFolder, const QString& file) {
+  const QTemporaryDir aside;
+  if (!QDir().mkpath(outputFolder)) return QStringLiteral("cannot make the folder '%1'").arg(outputFolder);
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, aside.path());
+  EventLog eventLog(aside.filePath(QStringLiteral("logboek")));
+  const Boxes boxes;
+  MainWindow window(eventLog);
   // Pictures are alike on every machine, whatever its screen.
-  venster.resize(Hoofdvenster::kEersteMaat);
-  venster.show();
+  window.resize(MainWindow::kFirstSize);
+  window.show();
   try {
-    venster.Toon(DossierBestand::Open(bestand));
-    Sessie(venster, QDir(uitvoermap), berichten).Speel();
-    if (!venster.SluitDossier()) return QStringLiteral("not done: closing the file");
-  } catch (const std::exception& fout) {
-    return QString::fromUtf8(fout.what());
+    window.Show(dossier::DossierFile::Open(file));
+    Session(window, QDir(outputFolder), boxes).Play();
+    if (!window.CloseDossier()) return QStringLiteral("not done: closing the file");
+  } catch (const std::exception& error) {
+    return QString::fromUtf8(error.what());
   }
   return {};
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

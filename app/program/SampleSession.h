@@ -2,12 +2,12 @@
 
 #include <QString>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Plays a sample session on a loan file in the real window: fills in columns, leaves one, opens the
 /// year-by-year form. Leaves pictures (light and dark) and `transcript.jsonl` in a folder.
 ///
 /// Answers what went wrong, in English; empty when nothing did. The user's settings and log stay untouched.
-[[nodiscard]] QString SpeelSessie(const QString& uitvoermap, const QString& bestand);
+[[nodiscard]] QString PlaySampleSession(const QString& outputFolder, const QString& file);
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

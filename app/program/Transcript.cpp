@@ -5,41 +5,41 @@
 
 #include "app/program/JsonFields.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 /// The action in words, and the value that goes with it.
-struct Actiewoorden {
-  QJsonObject& regel;
+struct ActionWords {
+  QJsonObject& line;
 
-  void operator()(const controls::Press&) const { regel.insert(u"action", u"press"_qs); }
-  void operator()(const controls::Select&) const { regel.insert(u"action", u"select"_qs); }
-  void operator()(const controls::Close&) const { regel.insert(u"action", u"close"_qs); }
-  void operator()(const controls::Tick& tick) const { Zet(u"tick"_qs, tick.value); }
-  void operator()(const controls::Toggle& toggle) const { Zet(u"toggle"_qs, toggle.value); }
-  void operator()(const controls::Choose& keuze) const { Zet(u"choose"_qs, keuze.index); }
-  void operator()(const controls::Enter& invoer) const {
-    Zet(u"enter"_qs, std::visit(
-                         [](const auto& waarde) -> QJsonValue {
-                           if constexpr (std::is_same_v<std::decay_t<decltype(waarde)>, std::monostate>) {
+  void operator()(const controls::Press&) const { line.insert(u"action", u"press"_qs); }
+  void operator()(const controls::Select&) const { line.insert(u"action", u"select"_qs); }
+  void operator()(const controls::Close&) const { line.insert(u"action", u"close"_qs); }
+  void operator()(const controls::Tick& tick) const { Put(u"tick"_qs, tick.value); }
+  void operator()(const controls::Toggle& toggle) const { Put(u"toggle"_qs, toggle.value); }
+  void operator()(const controls::Choose& choice) const { Put(u"choose"_qs, choice.index); }
+  void operator()(const controls::Enter& entered) const {
+    Put(u"enter"_qs, std::visit(
+                         [](const auto& value) -> QJsonValue {
+                           if constexpr (std::is_same_v<std::decay_t<decltype(value)>, std::monostate>) {
                              return QJsonValue::Null;
                            } else {
-                             return AlsJson(waarde);
+                             return AsJson(value);
                            }
                          },
-                         invoer.value));
+                         entered.value));
   }
 
  private:
-  void Zet(const QString& actie, const QJsonValue& waarde) const {
-    regel.insert(u"action", actie);
-    regel.insert(u"value", waarde);
+  void Put(const QString& action, const QJsonValue& value) const {
+    line.insert(u"action", action);
+    line.insert(u"value", value);
   }
 };
 
-QString Uitkomst(std::optional<controls::Outcome> uitkomst) {
-  if (!uitkomst) return u"failed"_qs;
-  switch (*uitkomst) {
+QString OutcomeText(std::optional<controls::Outcome> outcome) {
+  if (!outcome) return u"failed"_qs;
+  switch (*outcome) {
     case controls::Outcome::Done: return u"done"_qs;
     case controls::Outcome::Ignored: return u"ignored"_qs;
     case controls::Outcome::Refused: return u"refused"_qs;
@@ -49,34 +49,35 @@ QString Uitkomst(std::optional<controls::Outcome> uitkomst) {
 
 }  // namespace
 
-Transcript::Transcript(const QString& bestand, const Dossier& dossier)
-    : bestand_(bestand), dossier_(dossier), velden_(Jsonvelden(dossier)) {
-  bestand_.open(QIODevice::WriteOnly | QIODevice::Truncate);
+Transcript::Transcript(const QString& file, const dossier::Dossier& dossier)
+    : file_(file), dossier_(dossier), fields_(JsonFields(dossier)) {
+  file_.open(QIODevice::WriteOnly | QIODevice::Truncate);
 }
 
-void Transcript::Schrijf(const QJsonObject& regel) {
-  bestand_.write(QJsonDocument(regel).toJson(QJsonDocument::Compact) + '\n');
-  bestand_.flush();
+void Transcript::Write(const QJsonObject& line) {
+  file_.write(QJsonDocument(line).toJson(QJsonDocument::Compact) + '\n');
+  file_.flush();
 }
 
 void Transcript::After(controls::AnyControl& control, const controls::Action& action,
                        std::optional<controls::Outcome> outcome) {
-  QJsonObject regel{{u"control"_qs, QString::fromStdString(control.ElementName())}, {u"outcome"_qs, Uitkomst(outcome)}};
-  std::visit(Actiewoorden{regel}, action);
-  Schrijf(regel);
+  QJsonObject line{{u"control"_qs, QString::fromStdString(control.ElementName())},
+                   {u"outcome"_qs, OutcomeText(outcome)}};
+  std::visit(ActionWords{line}, action);
+  Write(line);
 }
 
-void Transcript::Opgeslagen() {
-  const QJsonObject nu = Jsonvelden(dossier_);
-  QJsonObject anders;
-  for (auto veld = nu.begin(); veld != nu.end(); ++veld) {
-    if (velden_.value(veld.key()) != veld.value()) anders.insert(veld.key(), veld.value());
+void Transcript::Stored() {
+  const QJsonObject now = JsonFields(dossier_);
+  QJsonObject changed;
+  for (auto field = now.begin(); field != now.end(); ++field) {
+    if (fields_.value(field.key()) != field.value()) changed.insert(field.key(), field.value());
   }
-  for (auto veld = velden_.begin(); veld != velden_.end(); ++veld) {
-    if (!nu.contains(veld.key())) anders.insert(veld.key(), QJsonValue::Null);
+  for (auto field = fields_.begin(); field != fields_.end(); ++field) {
+    if (!now.contains(field.key())) changed.insert(field.key(), QJsonValue::Null);
   }
-  velden_ = nu;
-  if (!anders.isEmpty()) Schrijf({{u"written"_qs, anders}});
+  fields_ = now;
+  if (!changed.isEmpty()) Write({{u"written"_qs, changed}});
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -8,7 +8,7 @@
 
 namespace brivane::dossier {
 
-Periode::Periode(std::shared_ptr<Omgeving> omgeving, PeriodeGegevens gegevens)
+Periode::Periode(std::shared_ptr<Environment> omgeving, PeriodeGegevens gegevens)
     : omgeving_(std::move(omgeving)), gegevens_(gegevens) {}
 
 void Periode::SetMaand(std::int16_t maand) {
@@ -36,7 +36,7 @@ void Periode::SetEenmalig(bool eenmalig) {
   gegevens_.Eenmalig = eenmalig;
 }
 
-BedragObject::BedragObject(std::shared_ptr<Omgeving> omgeving, KolomGegevens& kolom)
+BedragObject::BedragObject(std::shared_ptr<Environment> omgeving, KolomGegevens& kolom)
     : omgeving_(std::move(omgeving)), kolom_(kolom) {
   HerlaadPerioden();
 }

@@ -11,7 +11,7 @@ namespace brivane::dossier {
 /// One entry of a scenario.
 class Periode : public host::Periode {
  public:
-  Periode(std::shared_ptr<Omgeving> omgeving, PeriodeGegevens gegevens);
+  Periode(std::shared_ptr<Environment> omgeving, PeriodeGegevens gegevens);
 
   [[nodiscard]] std::int16_t Maand() const override { return gegevens_.Maand; }
   void SetMaand(std::int16_t maand) override;
@@ -29,7 +29,7 @@ class Periode : public host::Periode {
   void Herlaad(const PeriodeGegevens& gegevens) { gegevens_ = gegevens; }
 
  private:
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   PeriodeGegevens gegevens_;
 };
 
@@ -37,7 +37,7 @@ class Periode : public host::Periode {
 class BedragObject : public host::BedragObject {
  public:
   /// `kolom` holds the amount's name, kind and base value and outlives this object.
-  BedragObject(std::shared_ptr<Omgeving> omgeving, KolomGegevens& kolom);
+  BedragObject(std::shared_ptr<Environment> omgeving, KolomGegevens& kolom);
 
   [[nodiscard]] std::string Naam() const override;
   [[nodiscard]] std::int16_t Invoersoort() const override;
@@ -55,7 +55,7 @@ class BedragObject : public host::BedragObject {
   void HerlaadPerioden();
 
  private:
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   KolomGegevens& kolom_;
   std::vector<std::shared_ptr<dossier::Periode>> perioden_;
 };

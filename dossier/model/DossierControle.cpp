@@ -10,9 +10,9 @@ namespace brivane::dossier {
 namespace {
 
 /// Collects what is found about one column.
-class Kolomcontrole {
+class KolomCheck {
  public:
-  Kolomcontrole(Dossier& dossier, host::Date vandaag, std::vector<Bevinding>& bevindingen)
+  KolomCheck(Dossier& dossier, host::Date vandaag, std::vector<Finding>& bevindingen)
       : dossier_(dossier), vandaag_(vandaag), bevindingen_(bevindingen) {}
 
   void Controleer(std::int16_t Len_Id, const KolomGegevens& kolom) {
@@ -55,14 +55,14 @@ class Kolomcontrole {
 
   Dossier& dossier_;
   host::Date vandaag_;
-  std::vector<Bevinding>& bevindingen_;
+  std::vector<Finding>& bevindingen_;
 };
 
 }  // namespace
 
-std::vector<Bevinding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
-  std::vector<Bevinding> bevindingen;
-  Kolomcontrole controle(dossier, vandaag, bevindingen);
+std::vector<Finding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
+  std::vector<Finding> bevindingen;
+  KolomCheck controle(dossier, vandaag, bevindingen);
   for (std::int16_t Len_Id = Dossier::kHuidig; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
     for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) controle.Controleer(Len_Id, kolom->Gegevens());
   }

@@ -50,7 +50,7 @@ inline constexpr int kPeriodeVelden = static_cast<int>(PeriodeVeld::Eenmalig) + 
 using Waarde = std::variant<std::int64_t, double, std::string_view>;
 
 /// Whether a free column is ended in a proposal.
-enum class Lidmaatschap : bool { Nee, Ja };
+enum class Membership : bool { No, Yes };
 
 /// Told of every change of a case before the memory changes. An implementation that cannot keep a
 /// change throws host::Error, and the memory then stays as it was.
@@ -78,7 +78,7 @@ class Journal {
   virtual void SetPersons(const std::vector<PersoonGegevens>& personen);
   virtual void SetAgeLimit(std::int16_t leeftijd);
 
-  virtual void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap);
+  virtual void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
 
   /// Runs a body whose changes belong together: all are kept or none.
   virtual void InOneEdit(const std::function<void()>& body);

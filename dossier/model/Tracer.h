@@ -7,7 +7,7 @@
 namespace brivane::dossier {
 
 /// A filled error record, as a control hands it to the host.
-struct Foutrecord {
+struct ErrorRecord {
   std::string ApplicationTitle;
   std::string ObjectName;
   std::string Caption;
@@ -35,10 +35,10 @@ class Tracer : public host::ProcedureTrace {
   void SetErrorDescription(const std::string& tekst) override { record_.ErrorDescription = tekst; }
   void SetErrorSource(const std::string& tekst) override { record_.ErrorSource = tekst; }
 
-  [[nodiscard]] const Foutrecord& Record() const { return record_; }
+  [[nodiscard]] const ErrorRecord& Record() const { return record_; }
 
  private:
-  Foutrecord record_;
+  ErrorRecord record_;
 };
 
 }  // namespace brivane::dossier

@@ -20,7 +20,7 @@ std::size_t Plaats(std::int16_t voorstel) {
 
 }  // namespace
 
-VrijeKolom::VrijeKolom(std::shared_ptr<Omgeving> omgeving, KolomGegevens&& gegevens)
+VrijeKolom::VrijeKolom(std::shared_ptr<Environment> omgeving, KolomGegevens&& gegevens)
     : omgeving_(std::move(omgeving)), gegevens_(std::move(gegevens)), bedrag_(omgeving_, gegevens_) {}
 
 template <class Value> void VrijeKolom::Schrijf(KolomVeld veld, Value& plaats, const Value& waarde) {

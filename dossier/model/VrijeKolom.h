@@ -13,7 +13,7 @@ namespace brivane::dossier {
 /// Made by its loan and kept by it; whoever holds it after it was removed holds a column of no loan.
 class VrijeKolom : public host::VrijeKolomItem, public std::enable_shared_from_this<VrijeKolom> {
  public:
-  VrijeKolom(std::shared_ptr<Omgeving> omgeving, KolomGegevens&& gegevens);
+  VrijeKolom(std::shared_ptr<Environment> omgeving, KolomGegevens&& gegevens);
   VrijeKolom(const VrijeKolom&) = delete;
   VrijeKolom& operator=(const VrijeKolom&) = delete;
 
@@ -84,7 +84,7 @@ class VrijeKolom : public host::VrijeKolomItem, public std::enable_shared_from_t
  private:
   template <class Value> void Schrijf(KolomVeld veld, Value& plaats, const Value& waarde);
 
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   /// All but the periods, which stand in the amount object.
   KolomGegevens gegevens_;
   BedragObject bedrag_;

@@ -201,9 +201,9 @@ void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
   Write([&](Database& database) { database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd)); });
 }
 
-void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
+void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   Write([&](Database& database) {
-    QSqlQuery query = database.Prepare(lidmaatschap == Lidmaatschap::Ja
+    QSqlQuery query = database.Prepare(lidmaatschap == Membership::Yes
                                            ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
                                            : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
     query.bindValue(0, static_cast<qlonglong>(voorstel));

@@ -34,7 +34,7 @@ class FileJournal : public Journal, private Edits::Transactions {
   void AddLoan(LeningGegevens& lening) override;
   void SetPersons(const std::vector<PersoonGegevens>& personen) override;
   void SetAgeLimit(std::int16_t leeftijd) override;
-  void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) override;
+  void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) override;
   void InOneEdit(const std::function<void()>& body) override { edits_.InOneEdit(body); }
 
   [[nodiscard]] Edits& Bewerkingen() { return edits_; }

@@ -176,7 +176,7 @@ void Orden(Opbouw& opbouw) {
   opbouw.lening.VrijeKolommen = std::move(geordend);
 }
 
-void LeesInhoud(Database& database, GelezenDossier& gelezen) {
+void LeesInhoud(Database& database, StoredDossier& gelezen) {
   std::vector<Opbouw> leningen = LeesLeningen(database);
   LeesKolommen(database, leningen);
   gelezen.hoogste = LeesPerioden(database, leningen);
@@ -195,8 +195,8 @@ void LeesInhoud(Database& database, GelezenDossier& gelezen) {
 
 }  // namespace
 
-GelezenDossier LeesDossier(Database& database) {
-  GelezenDossier gelezen;
+StoredDossier LeesDossier(Database& database) {
+  StoredDossier gelezen;
   DossierGegevens& dossier = gelezen.gegevens;
   std::size_t dossiers = 0;
   VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {

@@ -12,7 +12,8 @@ bool DruktOpOk(const controls::AnyControl& control, const controls::Action& acti
 
 }  // namespace
 
-Scenarioopslag::Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen)
+ScenarioTransaction::ScenarioTransaction(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit,
+                                         Edits& bewerkingen)
     : editor_(editor), toolkit_(toolkit), bewerkingen_(bewerkingen) {
   editor_.ScenarioGeopend.Connect([this](frmScenario& formulier) {
     bewerkingen_.BeginModal();
@@ -21,17 +22,17 @@ Scenarioopslag::Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBas
   toolkit_.AddListener(*this);
 }
 
-Scenarioopslag::~Scenarioopslag() {
+ScenarioTransaction::~ScenarioTransaction() {
   toolkit_.RemoveListener(*this);
   editor_.ScenarioGeopend.Disconnect();
 }
 
-void Scenarioopslag::Before(controls::AnyControl& control, const controls::Action& action) {
+void ScenarioTransaction::Before(controls::AnyControl& control, const controls::Action& action) {
   if (DruktOpOk(control, action)) bewerking_ = bewerkingen_.BeginEdit();
 }
 
-void Scenarioopslag::After(controls::AnyControl& control, const controls::Action& action,
-                           std::optional<controls::Outcome>) {
+void ScenarioTransaction::After(controls::AnyControl& control, const controls::Action& action,
+                                std::optional<controls::Outcome>) {
   if (!bewerking_ || !DruktOpOk(control, action)) return;
   const std::size_t bewerking = *bewerking_;
   bewerking_.reset();

@@ -11,11 +11,11 @@ namespace brivane::dossier {
 
 /// Stores what the OK button of the year-by-year form writes in one transaction. What the form's boxes write
 /// before that is stored at once.
-class Scenarioopslag final : public controls::ActionListener {
+class ScenarioTransaction final : public controls::ActionListener {
  public:
   /// Follows the editor and its toolkit, which outlive this object, as does `bewerkingen`.
-  Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen);
-  ~Scenarioopslag() override;
+  ScenarioTransaction(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen);
+  ~ScenarioTransaction() override;
 
   /// The form is filled and about to be shown, for tools that follow an adviser's work.
   host::Event<frmScenario&> Geopend;

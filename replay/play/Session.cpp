@@ -36,8 +36,8 @@ template <class Stack, class Entry> class Pushed {
   Stack& stack_;
 };
 
-std::shared_ptr<dossier::Omgeving> Surroundings(Headers headers) {
-  auto surroundings = std::make_shared<dossier::Omgeving>();
+std::shared_ptr<dossier::Environment> Surroundings(Headers headers) {
+  auto surroundings = std::make_shared<dossier::Environment>();
   if (headers == Headers::Computed) surroundings->Kopteksten = std::make_shared<dossier::BerekendeKopteksten>();
   return surroundings;
 }

@@ -12,7 +12,7 @@
 namespace brivane::faults {
 namespace {
 
-using dossier::DossierBestand;
+using dossier::DossierFile;
 using dossier::DossierGegevens;
 using dossier::Map;
 using dossier::Told;
@@ -52,7 +52,7 @@ class Session {
 
  private:
   void Work() {
-    const auto file = DossierBestand::Open(pad_);
+    const auto file = DossierFile::Open(pad_);
     Werkplek bench(*file);
     int boxes = 0;
     bench.Toolkit().Desktop().answer = [&](const std::string& title, const std::string&, host::MessageStyle) {
@@ -93,7 +93,7 @@ class Session {
 
   /// Whatever happened, the file is whole and holds every edit that was not said to have failed.
   void Reopened() {
-    const auto file = DossierBestand::Open(pad_);
+    const auto file = DossierFile::Open(pad_);
     EXPECT_TRUE(file->ControleerHeelheid().isEmpty()) << file->ControleerHeelheid().join("; ").toStdString();
     EXPECT_TRUE(file->Dossier()->Gegevens() == stored_) << "the file does not hold what was stored";
     Werkplek bench(*file);

@@ -138,7 +138,7 @@ class RandomSession {
  public:
   explicit RandomSession(std::uint64_t seed)
       : draw_(seed),
-        dossier_(std::make_shared<dossier::Dossier>(ACase(draw_), std::make_shared<dossier::Omgeving>())),
+        dossier_(std::make_shared<dossier::Dossier>(ACase(draw_), std::make_shared<dossier::Environment>())),
         bench_(dossier_),
         onlooker_(dossier_) {
     memory::Desktop& desktop = bench_.Toolkit().Desktop();

@@ -38,7 +38,7 @@ class InstrumentedHostTest : public testing::Test {
     gegevens.HuidigeLening.VrijeKolommen.resize(1);
     gegevens.Leningen.resize(1);
     return std::make_shared<dossier::Application>(
-        std::make_shared<dossier::Dossier>(std::move(gegevens), std::make_shared<dossier::Omgeving>()));
+        std::make_shared<dossier::Dossier>(std::move(gegevens), std::make_shared<dossier::Environment>()));
   }
 
   std::shared_ptr<dossier::Application> inner_ = MakeApplication();
@@ -88,7 +88,7 @@ TEST_F(InstrumentedHostTest, TheInnerHostMeetsItsOwnObjects) {
   EXPECT_EQ(controle_->given, inner_);
 
   std::string reported;
-  inner_->FoutGemeld.Connect([&](const dossier::Foutrecord& record) { reported = record.ErrorNumber; });
+  inner_->FoutGemeld.Connect([&](const dossier::ErrorRecord& record) { reported = record.ErrorNumber; });
   const auto trace = host_.Factories().MaakProcedureTrace("VrijeKolom");
   trace->SetErrorNumber("13");
   host_.Application()->ReportError(*trace);

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "host/model/VrijeKolomItem.h"
-#include "tests/support/Journal.h"
+#include "tests/support/CallLog.h"
 
 /// The record of a free column, its amount and its periods, with their data open to the test.
 namespace brivane::test {
@@ -52,27 +52,27 @@ struct KolomVelden {
   std::int16_t EindleeftijdOvergang = 0;
 };
 
-/// Tells reads and writes of fields to the journal under "PREFIX.FIELD", or fails as planned.
+/// Tells reads and writes of fields to the calls under "PREFIX.FIELD", or fails as planned.
 class Told {
  public:
-  Told(Journal& journal, std::string prefix) : journal_(journal), prefix_(std::move(prefix)) {}
+  Told(CallLog& calls, std::string prefix) : calls_(calls), prefix_(std::move(prefix)) {}
 
  protected:
   template <class T> const T& Get(std::string_view naam, const T& veld) const {
-    journal_.Reach(naam, Op::Get);
-    journal_.AddRead("get " + prefix_ + std::string(naam) + '=' + Show(veld));
+    calls_.Reach(naam, Op::Get);
+    calls_.AddRead("get " + prefix_ + std::string(naam) + '=' + Show(veld));
     return veld;
   }
   template <class T> void Set(std::string_view naam, T& veld, const T& waarde) {
-    journal_.Reach(naam, Op::Set);
+    calls_.Reach(naam, Op::Set);
     veld = waarde;
     Adjust(naam);
-    journal_.Add("set " + prefix_ + std::string(naam) + '=' + Show(veld));
+    calls_.Add("set " + prefix_ + std::string(naam) + '=' + Show(veld));
   }
   virtual void Adjust(std::string_view) {}
   ~Told() = default;
 
-  Journal& journal_;
+  CallLog& calls_;
 
  private:
   std::string prefix_;
@@ -85,7 +85,7 @@ class Told {
 
 class TestPeriode final : public host::Periode, private Told {
  public:
-  explicit TestPeriode(Journal& journal, PeriodeVelden begin = {}) : Told(journal, "Periode."), velden(begin) {}
+  explicit TestPeriode(CallLog& calls, PeriodeVelden begin = {}) : Told(calls, "Periode."), velden(begin) {}
   PeriodeVelden velden;
 
   BRIVANE_TOLD(std::int16_t, std::int16_t, Maand)
@@ -97,13 +97,13 @@ class TestPeriode final : public host::Periode, private Told {
 
 class TestBedrag final : public host::BedragObject, private Told {
  public:
-  explicit TestBedrag(Journal& journal) : Told(journal, "") {}
+  explicit TestBedrag(CallLog& calls) : Told(calls, "") {}
   std::string naam;
   std::int16_t invoersoort = 1;
   double bedrag = 0;
   std::vector<std::shared_ptr<TestPeriode>> perioden;
 
-  void Voeg(PeriodeVelden velden) { perioden.push_back(std::make_shared<TestPeriode>(journal_, velden)); }
+  void Voeg(PeriodeVelden velden) { perioden.push_back(std::make_shared<TestPeriode>(calls_, velden)); }
 
   [[nodiscard]] std::string Naam() const override { return naam; }
   [[nodiscard]] std::int16_t Invoersoort() const override { return invoersoort; }
@@ -117,20 +117,19 @@ class TestBedrag final : public host::BedragObject, private Told {
   }
   std::int16_t NieuwePeriode() override {
     Voeg({});
-    journal_.Add("call NieuwePeriode()");
+    calls_.Add("call NieuwePeriode()");
     return static_cast<std::int16_t>(perioden.size());
   }
   void VerwijderPeriode(std::int16_t positie) override {
-    journal_.Reach("VerwijderPeriode", Op::Call);
+    calls_.Reach("VerwijderPeriode", Op::Call);
     perioden.erase(perioden.begin() + (positie - 1));
-    journal_.Add("call VerwijderPeriode(" + Show(positie) + ')');
+    calls_.Add("call VerwijderPeriode(" + Show(positie) + ')');
   }
 };
 
 class TestKolom final : public host::VrijeKolomItem, private Told {
  public:
-  TestKolom(Journal& journal, std::int16_t id)
-      : Told(journal, ""), bedrag(std::make_shared<TestBedrag>(journal)), id_(id) {}
+  TestKolom(CallLog& calls, std::int16_t id) : Told(calls, ""), bedrag(std::make_shared<TestBedrag>(calls)), id_(id) {}
   KolomVelden velden;
   /// Nothing stands for a record without an amount object.
   std::shared_ptr<TestBedrag> bedrag;
@@ -139,7 +138,7 @@ class TestKolom final : public host::VrijeKolomItem, private Told {
 
   [[nodiscard]] std::int16_t Id() const override { return id_; }
   [[nodiscard]] std::shared_ptr<host::BedragObject> Bedrag() override {
-    journal_.Reach("Bedrag", Op::Get);
+    calls_.Reach("Bedrag", Op::Get);
     return bedrag;
   }
   [[nodiscard]] std::string Weergave() const override { return Get("Weergave", velden.Weergave); }

@@ -13,7 +13,7 @@ using namespace toelichting;
 class ToelichtingBindingTest : public ToelichtingTest {};
 
 TEST_F(ToelichtingBindingTest, ReadsEveryFieldInOrderAndWritesNothing) {
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   kolom_.velden.EinddatumOvergang = D(2040, 1, 1);
   Bind();
   EXPECT_THAT(Log(),
@@ -116,7 +116,7 @@ TEST_F(ToelichtingBindingTest, ReplacesEverythingOnABindingAnew) {
 }
 
 TEST_F(ToelichtingBindingTest, ReportsAFailureOfLoadingAsItsOwnAndStaysSilentAfterIt) {
-  host_.journal.Fail("UitsluitenWW", Op::Get);
+  host_.calls.Fail("UitsluitenWW", Op::Get);
   Bind();
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.SetApplication", "enter Toelichting.Show_Keuze",
                                  "leave Toelichting", "enter Toelichting.Fill_Controls",
@@ -138,7 +138,7 @@ TEST_F(ToelichtingBindingTest, FailsWithMissingObjects) {
 }
 
 TEST_F(ToelichtingBindingTest, WritesTheWholeErrorRecordInOrder) {
-  host_.journal.Fail("UitsluitenAO", Op::Get, 1, {13, "Type mismatch", "Kwandero.Record"});
+  host_.calls.Fail("UitsluitenAO", Op::Get, 1, {13, "Type mismatch", "Kwandero.Record"});
   Bind();
   EXPECT_THAT(host_.traces.at(0)->Take(),
               ElementsAre("ApplicationTitle=Dossier", "ObjectName=Toelichting", "Caption=Kwandero",

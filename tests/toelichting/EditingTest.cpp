@@ -69,7 +69,7 @@ TEST_F(ToelichtingEditingTest, ClearsTheTransitionWhenDeathIsTurnedOff) {
 
 TEST_F(ToelichtingEditingTest, StopsTurningDeathOffAtTheFailingWrite) {
   BindOverlijden();
-  host_.journal.Fail("EinddatumOvergang", Op::Set);
+  host_.calls.Fail("EinddatumOvergang", Op::Set);
   Act(on_[jnOverlijden], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.jnOverlijden_Change", "set ScenarioOverlijden=false",
                                  "set PercentageOvergang=0", "error Toelichting.jnOverlijden_Change",
@@ -130,7 +130,7 @@ TEST_F(ToelichtingEditingTest, FailsWithoutThePersonWhoseColumnItIs) {
 
 TEST_F(ToelichtingEditingTest, ShowsTheEndAgeThatItCannotStore) {
   BindOverlijden();
-  host_.journal.Fail("EindleeftijdOvergang", Op::Set);
+  host_.calls.Fail("EindleeftijdOvergang", Op::Set);
   Act(on_[txtEinddatum], controls::Enter{D(2041, 5, 6)});
   EXPECT_EQ(on_[TxtEindjaar].Number(), 66);
   EXPECT_EQ(kolom_.velden.EindleeftijdOvergang, 65);

@@ -101,7 +101,7 @@ TEST_F(EffectListTest, LosesItsMarkWhereNoColumnIsFound) {
 }
 
 TEST_F(EffectListTest, FailsInTheBindingAndNotByItself) {
-  host_.journal.Fail("CorrectieLast", Op::Get);
+  host_.calls.Fail("CorrectieLast", Op::Get);
   Bind();
   EXPECT_THAT(Log(), ElementsAre("enter Toelichting.SetApplication", "enter Toelichting.Show_Keuze",
                                  "error Toelichting.SetApplication", "report Toelichting 1004"));

@@ -14,7 +14,7 @@ class ToelichtingTest : public ControlTest {
   void SetUp() override { Make(); }
   void Make() {
     control_.emplace(*surface_, toolkit_.Desktop(), host_.Factories());
-    control_->Changed.Connect([this] { host_.journal.Add("event Changed"); });
+    control_->Changed.Connect([this] { host_.calls.Add("event Changed"); });
     Forget();
   }
   void Bind(std::int16_t Vrij_Id = 1) { control_->SetApplication(application_, lening_, Vrij_Id); }

@@ -67,7 +67,7 @@ TEST_F(CarryOverTest, StopsLookingAtTheFirstColumnFound) {
   host_.VoegLening({2, 1, 1});
   host_.VoegLening({1});
   BindChanged();
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   EXPECT_FALSE(Validate(kVraagAlleen));
   EXPECT_THAT(Log(), ElementsAre("enter Validation", "get Lening(1)", "get Lening(1).VrijeKolomOp(1)",
                                  "get Lening(1).VrijeKolomOp(2)", "get Lening(1).VrijeKolomOp(3)", "get Lening(2)",
@@ -129,7 +129,7 @@ TEST_F(CarryOverTest, KeepsTheMarkWhereARemovalFails) {
   host_.VoegLening({1});
   BindChanged();
   answers_ = {host::MessageAnswer::Yes};
-  host_.journal.Fail("VerwijderVrijeKolom", Op::Call);
+  host_.calls.Fail("VerwijderVrijeKolom", Op::Call);
   EXPECT_FALSE(Validate(0));
   EXPECT_THAT(Log(), ElementsAre("enter Validation", kVraag, "error Validation", "report VrijeKolom 1004"));
   EXPECT_TRUE(editor_->Gewijzigd());
@@ -260,7 +260,7 @@ TEST_F(BookkeepingTest, KnowsTheCurrentLoanByIdentity) {
   EXPECT_EQ(Only(Log(), "call").size(), 4U) << "the same loan under another number";
 
   BindUnheard(0, 1);
-  host_.dossier.huidig = std::make_shared<TestLening>(host_.journal, 0);
+  host_.dossier.huidig = std::make_shared<TestLening>(host_.calls, 0);
   (void)Validate(0);
   EXPECT_THAT(Only(Log(), "call"), ElementsAre(kControleer)) << "the case has another current loan by now";
 }
@@ -279,7 +279,7 @@ TEST_F(BookkeepingTest, ReportsAFailureOfTheHostsCheck) {
   kolom_.velden.DatumAanvang = D(2024, 1, 1);
   kolom_.velden.Voorstel = {"N", "N", "N"};
   BindUnheard();
-  host_.journal.Fail("Controleer", Op::Call);
+  host_.calls.Fail("Controleer", Op::Call);
   EXPECT_FALSE(Validate(0));
   EXPECT_THAT(Log(), ElementsAre("enter Validation", "error Validation", "report VrijeKolom 1004"));
 }

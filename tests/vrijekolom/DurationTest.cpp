@@ -141,7 +141,7 @@ TEST_F(DurationTest, ShowsTheDurationAsTheRecordKeepsIt) {
 
 TEST_F(DurationTest, ReadsTheDurationBackForEachBox) {
   BindFrom(D(2024, 1, 31));
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   EnterMonths(0, 1);
   EXPECT_THAT(Only(Log(), "get"),
               ElementsAre("get Looptijd=1", "get Looptijd=1", "get Looptijd=1", "get Kopregel=\"de kopregel\""));
@@ -222,7 +222,7 @@ TEST_F(DurationTest, EnablesTheDurationByTheTermWhenTheStartDateIsLeft) {
   on_[TxtDtEind].SetEnabled(true);
   on_[TxtAnJaar].SetEnabled(true);
   on_[TxtAnMaand].SetEnabled(true);
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   EXPECT_FALSE(Act(on_[TxtDtAanvang], controls::Enter{D(2024, 2, 15)}));
   EXPECT_FALSE(on_[TxtDtEind].Enabled());
   EXPECT_FALSE(on_[TxtAnJaar].Enabled());

@@ -152,7 +152,7 @@ TEST_P(FieldHandler, WritesAndTellsInOrder) {
 TEST_P(FieldHandler, IsSilentWhileFillingWhereItIsGuarded) {
   const Handler& handler = GetParam();
   handler.bind(*this);
-  host_.journal.Fail("HuidigeLening", Op::Get);
+  host_.calls.Fail("HuidigeLening", Op::Get);
   Bind();  // fails in the binding itself, which leaves filling set and the column bound
   ASSERT_TRUE(editor_->Filling());
   Forget();
@@ -212,7 +212,7 @@ TEST_F(NestingTest, AFailureInsideEndsTheInnerProcedureAlone) {
   kolom_.velden.InDagloon = true;
   kolom_.velden.InkomenUitArbeid = true;
   BindEverything();
-  host_.journal.Fail("InDagloon", Op::Set);
+  host_.calls.Fail("InDagloon", Op::Set);
   Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
   EXPECT_THAT(Log(),
               ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=false", "enter jnInDagloon_Change",
@@ -234,7 +234,7 @@ class ErrorReportTest : public FieldHandlers {};
 
 TEST_F(ErrorReportTest, FillsTheRecordInOrderAndReportsOnce) {
   BindEverything();
-  host_.journal.Fail("Omschrijving", Op::Set, 1, {13, "Type mismatch", "Kwandero.Record"});
+  host_.calls.Fail("Omschrijving", Op::Set, 1, {13, "Type mismatch", "Kwandero.Record"});
   Act(on_[TxtOm], controls::Enter{std::string("x")});
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "error TxtOm_Validation", "report VrijeKolom 13"));
   EXPECT_THAT(host_.traces.at(1)->Take(),
@@ -247,15 +247,15 @@ TEST_F(ErrorReportTest, FillsTheRecordInOrderAndReportsOnce) {
 
 TEST_F(ErrorReportTest, ResetsThePointerFirst) {
   BindEverything();
-  host_.journal.Fail("Omschrijving", Op::Set);
-  host_.journal.Fail("ApplicationTitle", Op::Set);
+  host_.calls.Fail("Omschrijving", Op::Set);
+  host_.calls.Fail("ApplicationTitle", Op::Set);
   EXPECT_THROW(Act(on_[TxtOm], controls::Enter{std::string("x")}), host::Error);
   EXPECT_EQ(toolkit_.Desktop().pointerResets, 1);
 }
 
 TEST_F(ErrorReportTest, UndoesNothing) {
   BindEverything();
-  host_.journal.Fail("Kopregel", Op::Get);
+  host_.calls.Fail("Kopregel", Op::Get);
   Act(on_[TxtOm], controls::Enter{std::string("geschreven")});
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "set Omschrijving=\"geschreven\"", "error TxtOm_Validation",
                                  "report VrijeKolom 1004"));
@@ -265,16 +265,16 @@ TEST_F(ErrorReportTest, UndoesNothing) {
 
 TEST_F(ErrorReportTest, BelongsToTheCallerWhenItFailsItself) {
   BindEverything();
-  host_.journal.Fail("Omschrijving", Op::Set);
-  host_.journal.Fail("ReportError", Op::Call);
+  host_.calls.Fail("Omschrijving", Op::Set);
+  host_.calls.Fail("ReportError", Op::Call);
   EXPECT_THROW(Act(on_[TxtOm], controls::Enter{std::string("x")}), host::Error);
   EXPECT_THAT(Log(), ElementsAre("enter TxtOm_Validation", "error TxtOm_Validation"));
 }
 
 TEST_F(ErrorReportTest, FailsTheTracedProcedureAroundIt) {
   BindEverything();
-  host_.journal.Fail("InDagloon", Op::Set);
-  host_.journal.Fail("ReportError", Op::Call, 1, {70, "Geen toegang", "Kwandero"});
+  host_.calls.Fail("InDagloon", Op::Set);
+  host_.calls.Fail("ReportError", Op::Call, 1, {70, "Geen toegang", "Kwandero"});
   kolom_.velden.InDagloon = kolom_.velden.InkomenUitArbeid = true;
   BindUnheard();
   Act(on_[jnInkUitArbeid], controls::Toggle{host::kNee});
@@ -305,7 +305,7 @@ TEST_F(ErrorReportTest, MakesTheTracerOnFirstUseAndKeepsIt) {
 }
 
 TEST_F(ErrorReportTest, LeavesATracerThatRefusesToTheCaller) {
-  host_.journal.Fail("EnterProcedure", Op::Call);
+  host_.calls.Fail("EnterProcedure", Op::Call);
   EXPECT_THROW(Bind(), host::Error);
   EXPECT_FALSE(editor_->Filling()) << "nothing was begun";
 }

@@ -19,7 +19,7 @@ TEST_F(LoadingTest, ReadsEveryFieldInOrder) {
   kolom_.velden.Termijn = 12;
   kolom_.velden.Omschrijving = "Schaakclub";
   kolom_.bedrag->bedrag = 12.5;
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   Bind();
   EXPECT_THAT(
       Log(),
@@ -49,7 +49,7 @@ TEST_F(LoadingTest, ReadsEveryFieldInOrder) {
 TEST_F(LoadingTest, AsksForBothLoansWhicheverItNeeds) {
   host_.VoegLening({4});
   host_.VoegLening({5});
-  host_.journal.reads = true;
+  host_.calls.reads = true;
   Bind(2, 5);
   Lines log = Log();
   log.resize(4);
@@ -278,7 +278,7 @@ TEST_F(LoadingTest, ReportsAPersonOptionThatDoesNotExistAfterTheCaptions) {
 
 TEST_F(LoadingTest, EndsTheGeneralFrameAloneWhereThatFails) {
   kolom_.velden.Omschrijving = "wel getoond";
-  host_.journal.Fail("Voorstel(2)", Op::Get);
+  host_.calls.Fail("Voorstel(2)", Op::Get);
   Bind();
   EXPECT_THAT(Log(), ElementsAreArray(Join({{"enter SetApplication", "enter Fill_Controls", "enter Check_FraFiscaal",
                                              "leave", "enter Fill_fraAlgemeen", "error Fill_fraAlgemeen",
@@ -289,7 +289,7 @@ TEST_F(LoadingTest, EndsTheGeneralFrameAloneWhereThatFails) {
 }
 
 TEST_F(LoadingTest, GoesOnWhereTheExplanationControlFails) {
-  host_.journal.Fail("UitsluitenAO", Op::Get);
+  host_.calls.Fail("UitsluitenAO", Op::Get);
   Bind();
   const Lines log = Log();
   EXPECT_THAT(Only(log, "report"), ElementsAre("report Toelichting 1004"));
@@ -297,7 +297,7 @@ TEST_F(LoadingTest, GoesOnWhereTheExplanationControlFails) {
 }
 
 TEST_F(LoadingTest, LeavesFillingSetAfterAFailureOfTheBindingItself) {
-  host_.journal.Fail("Lening", Op::Get, 1, {13, "Type mismatch", "Kwandero"});
+  host_.calls.Fail("Lening", Op::Get, 1, {13, "Type mismatch", "Kwandero"});
   Bind();
   EXPECT_THAT(Log(), ElementsAre("enter SetApplication", "error SetApplication", "report VrijeKolom 13"));
   EXPECT_TRUE(editor_->Filling());
@@ -330,7 +330,7 @@ TEST_F(LoadingTest, FailsWithoutAnAmountOrAnApplicant) {
   kolom_.bedrag = nullptr;
   Bind();
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 91"));
-  kolom_.bedrag = std::make_shared<TestBedrag>(host_.journal);
+  kolom_.bedrag = std::make_shared<TestBedrag>(host_.calls);
   host_.dossier.personen.clear();
   Bind();
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 91"));
@@ -371,8 +371,8 @@ TEST_F(LoadingTest, ClearsTheMarkForAnotherColumnAndKeepsItForTheSame) {
 TEST_F(LoadingTest, KeepsTheMarkWhereAnotherApplicationWasTriedInVain) {
   Bind();
   MarkChanged();
-  const auto other = std::make_shared<TestApplication>(host_.journal);
-  host_.journal.Fail("HuidigeLening", Op::Get);
+  const auto other = std::make_shared<TestApplication>(host_.calls);
+  host_.calls.Fail("HuidigeLening", Op::Get);
   editor_->SetApplication(other, 0, 1);
   Bind();
   EXPECT_TRUE(editor_->Gewijzigd()) << "bound anew to the column that was never left";
@@ -381,10 +381,10 @@ TEST_F(LoadingTest, KeepsTheMarkWhereAnotherApplicationWasTriedInVain) {
 TEST_F(LoadingTest, ClearsTheMarkForAnotherApplication) {
   Bind();
   MarkChanged();
-  const auto other = std::make_shared<TestApplication>(host_.journal);
+  const auto other = std::make_shared<TestApplication>(host_.calls);
   other->dossier->huidig->Voeg(1);
   other->dossier->personen = host_.dossier.personen;
-  host_.journal.Fail("HuidigeLening", Op::Get);
+  host_.calls.Fail("HuidigeLening", Op::Get);
   editor_->SetApplication(other, 0, 1);
   EXPECT_TRUE(editor_->Gewijzigd()) << "failed before the identifiers were kept";
   editor_->SetApplication(other, 0, 1);

@@ -143,7 +143,7 @@ class ScenarioLaunchTest : public EditorTest {
   void SetUp() override {
     EditorTest::SetUp();
     editor_->ScenarioGeopend.Connect([this](frmScenario& form) {
-      host_.journal.Add("opened " + std::to_string(form.AantalJaar()));
+      host_.calls.Add("opened " + std::to_string(form.AantalJaar()));
       color_ = form.BackColor();
       scenario_ = form.Scenario();
     });

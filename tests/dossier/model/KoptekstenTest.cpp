@@ -35,10 +35,10 @@ TEST(TermijnTekst, NamesTheFiveTermsAndNoOther) {
   EXPECT_EQ(TermijnTekst(2), "");
 }
 
-KolomGegevens Product(const char* soort, const char* omschrijving, const char* productnaam) {
+KolomGegevens Product(const char* kind, const char* omschrijving, const char* productnaam) {
   KolomGegevens kolom;
   kolom.IsProduct = true;
-  kolom.ProductsoortOmschrijving = soort;
+  kolom.ProductsoortOmschrijving = kind;
   kolom.Omschrijving = omschrijving;
   kolom.Productnaam = productnaam;
   kolom.Bedrag.Bedrag = 12.5;

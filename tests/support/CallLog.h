@@ -35,7 +35,7 @@ enum class Op { Get, Set, Call };
 inline constexpr std::int32_t kPlannedFailure = 1004;
 
 /// Everything that happens around a control, one line each, in order; and the failures that a test plans.
-class Journal {
+class CallLog {
  public:
   /// Reads are told as well.
   bool reads = false;
