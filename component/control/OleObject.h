@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include "component/automation/ComPtr.h"
 #include "component/control/Activation.h"

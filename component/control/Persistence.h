@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include "component/control/Boundary.h"
 #include "component/control/Delegating.h"

@@ -2,6 +2,6 @@
 
 /// The public interfaces, as the interface definition makes them.
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include "BrivaneVrijeKolom_idl.h"

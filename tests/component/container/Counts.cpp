@@ -1,4 +1,4 @@
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include <array>
 #include <cstdint>

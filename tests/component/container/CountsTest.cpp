@@ -1,6 +1,6 @@
 // The counts by which the hundredfold tests see what is left behind.
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Where the keys go. The key of all users stands on one of the test's own, which can be taken the rights of.
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include <gtest/gtest.h>
 #include <sddl.h>
