@@ -20,7 +20,7 @@ dossier::KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
 }
 
 /// One fault in each column but the second.
-DossierGegevens WithFaults() {
+dossier::DossierGegevens WithFaults() {
   dossier::DossierGegevens dossier = dossier::LeegDossier();
   dossier::KolomGegevens withoutDate = Kolom(1, host::kNoDate);
   dossier::KolomGegevens sound = Kolom(2, DateOf(1, 1, 2027));
