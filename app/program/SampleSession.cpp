@@ -130,7 +130,7 @@ class Sessie {
     QTimer straks;
     straks.setSingleShot(true);
     bool gevuld = false;
-    scherm_.Scenario().Geopend.Connect([&](frmScenario& formulier) {
+    const host::Subscription geopend = scherm_.Scenario().Geopend.Connect([&](frmScenario& formulier) {
       QObject::connect(&straks, &QTimer::timeout, &venster_, [&] {
         VulScenario(formulier);
         gevuld = true;
@@ -138,7 +138,6 @@ class Sessie {
       straks.start(100);
     });
     Doe("cmdScenario", controls::Press{});
-    scherm_.Scenario().Geopend.Disconnect();
     if (!fout_.empty()) throw std::runtime_error(fout_);
     Moet(gevuld, "showing the year-by-year form");
   }

@@ -33,7 +33,7 @@ class Controleur {
       meldingen_.push_back(tekst);
       return host::MessageAnswer::Ok;
     };
-    application_->FoutGemeld.Connect([this](const Foutrecord& fout) {
+    fouten_ = application_->FoutGemeld.Connect([this](const Foutrecord& fout) {
       meldingen_.push_back("De post kan niet worden gecontroleerd: " + fout.ErrorDescription + ".");
     });
   }
@@ -54,6 +54,7 @@ class Controleur {
   memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
   brivane::VrijeKolom editor_;
+  host::Subscription fouten_;
 };
 
 }  // namespace

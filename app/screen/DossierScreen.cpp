@@ -66,9 +66,7 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
 }
 
 Dossierscherm::~Dossierscherm() {
-  application_->FoutGemeld.Disconnect();
-  bestand_->Bewerkingen().Failed.Disconnect();
-  bestand_->Bewerkingen().Stored.Disconnect();
+  subscriptions_.Reset();
   scenarioopslag_.reset();
   // The editor holds records of the file, which goes before its widgets otherwise.
   delete kolom_;
@@ -79,7 +77,7 @@ host::HostFactories Dossierscherm::Fabrieken() {
           .MaakDossierControle =
               [this](std::string_view) {
                 auto controle = std::make_shared<DossierControle>([] { return Vandaag(); });
-                controle->Gecontroleerd.Connect(
+                subscriptions_ += controle->Gecontroleerd.Connect(
                     [this](const std::vector<Bevinding>& bevindingen) { emit aandachtspunten(bevindingen.size()); });
                 return controle;
               }};
@@ -100,8 +98,8 @@ void Dossierscherm::Verbind(Opname& opname) {
     MeldFout(RecordVan(eigen ? *eigen
                              : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
   });
-  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
-  bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
+  subscriptions_ += application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
+  subscriptions_ += bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
     // The edit is undone, as no replay would do.
     opname.Breek();
     PlanHerbinden();
@@ -109,7 +107,7 @@ void Dossierscherm::Verbind(Opname& opname) {
     QMetaObject::invokeMethod(
         this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);
   });
-  bestand_->Bewerkingen().Stored.Connect([this] {
+  subscriptions_ += bestand_->Bewerkingen().Stored.Connect([this] {
     // The memory follows the file: only then do the texts show the change.
     QMetaObject::invokeMethod(
         this,

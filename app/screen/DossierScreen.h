@@ -80,6 +80,7 @@ class Dossierscherm final : public QSplitter {
 
   Logboek& logboek_;
   std::shared_ptr<Traceerlog> traceerlog_;
+  host::Subscriptions subscriptions_;
   std::unique_ptr<DossierBestand> bestand_;
   std::shared_ptr<Application> application_;
   Kolommenboom* boom_;

@@ -13,18 +13,15 @@ bool DruktOpOk(const controls::AnyControl& control, const controls::Action& acti
 }  // namespace
 
 Scenarioopslag::Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen)
-    : editor_(editor), toolkit_(toolkit), bewerkingen_(bewerkingen) {
-  editor_.ScenarioGeopend.Connect([this](frmScenario& formulier) {
+    : toolkit_(toolkit), bewerkingen_(bewerkingen) {
+  geopend_ = editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
     bewerkingen_.BeginModal();
     Geopend.Raise(formulier);
   });
   toolkit_.AddListener(*this);
 }
 
-Scenarioopslag::~Scenarioopslag() {
-  toolkit_.RemoveListener(*this);
-  editor_.ScenarioGeopend.Disconnect();
-}
+Scenarioopslag::~Scenarioopslag() { toolkit_.RemoveListener(*this); }
 
 void Scenarioopslag::Before(controls::AnyControl& control, const controls::Action& action) {
   if (DruktOpOk(control, action)) bewerking_ = bewerkingen_.BeginEdit();

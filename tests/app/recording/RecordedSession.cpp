@@ -58,18 +58,10 @@ void Opnamesessie::NeemOp(controls::Surface& vlak) {
 
 void Opnamesessie::Volg(brivane::VrijeKolom& editor) {
   editor_ = &editor;
-  host::Event<>& gewijzigd = editor.Toelichting().Changed;
-  gewijzigd.Connect([this, verder = gewijzigd.Listener()] {
-    transcript_.Event("Toelichting.Changed");
-    verder();
-  });
-  editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
+  subscriptions_ += editor.Toelichting().Changed.Connect([this] { transcript_.Event("Toelichting.Changed"); });
+  subscriptions_ += editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
     transcript_.Opened(formulier.BackColor(), formulier.AantalJaar());
-    host::Event<>& weg = formulier.Form().Unloaded;
-    weg.Connect([this, verder = weg.Listener()] {
-      transcript_.Closed();
-      if (verder) verder();
-    });
+    gesloten_ = formulier.Form().Unloaded.Connect([this] { transcript_.Closed(); });
   });
 }
 

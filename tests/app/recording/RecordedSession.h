@@ -61,6 +61,7 @@ class Opnamesessie {
   replay::Transcript transcript_;
   replay::InstrumentedHost host_;
   brivane::VrijeKolom* editor_ = nullptr;
+  host::Subscriptions subscriptions_;
 
  private:
   controls::Outcome Doe(controls::Surface& vlak, const std::string& naam, const controls::Action& actie, int index);
@@ -75,6 +76,7 @@ class Opnamesessie {
   controls::Surface* vlak_ = nullptr;
   std::unique_ptr<Opnemer> opnemer_;
   std::deque<host::MessageAnswer> antwoorden_;
+  host::Subscription gesloten_;  ///< to the form that was opened last
 };
 
 /// Replays a document and answers its lines, without those that mark the steps.

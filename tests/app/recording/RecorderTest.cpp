@@ -52,8 +52,9 @@ class ZonderScherm final : public Opnamesessie {
     };
     toolkit_.modal = [this](controls::Form& formulier) { std::exchange(werk_, nullptr)(formulier); };
     NeemOp(controls::Surface::Of(*vlak_));
-    editor_.RefreshTopDisplay.Connect([this](const std::string& tekst) { transcript_.RefreshTopDisplay(tekst); });
-    editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
+    subscriptions_ +=
+        editor_.RefreshTopDisplay.Connect([this](const std::string& tekst) { transcript_.RefreshTopDisplay(tekst); });
+    subscriptions_ += editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
     Volg(editor_);
   }
   ~ZonderScherm() override { LaatLos(); }
@@ -175,7 +176,8 @@ TEST(Opnemer, TheHostInTheMiddleOfAStepEndsTheRecordingBeforeThatStep) {
   ZonderScherm sessie;
   sessie.Bind(0, 1);
   const std::size_t stappen = sessie.Opname().Document().steps.size();
-  sessie.Editor().RefreshTopDisplay.Connect([&](const std::string&) { sessie.Vlak().Size({10000}, {4000}); });
+  const host::Subscription luistert =
+      sessie.Editor().RefreshTopDisplay.Connect([&](const std::string&) { sessie.Vlak().Size({10000}, {4000}); });
   sessie.Doe("TxtOm", Enter{std::string("Opvang")});
   EXPECT_FALSE(sessie.Opname().Loopt());
   EXPECT_EQ(sessie.Opname().Document().steps.size(), stappen);

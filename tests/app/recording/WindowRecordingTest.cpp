@@ -43,8 +43,7 @@ class MetWidget final : public Opnamesessie {
     widget_.SetHostFactories(host_.Factories());
     brivane::VrijeKolom& editor = *widget_.Control();
     Volg(editor);
-    editor.ScenarioGeopend.Connect([this, verder = editor.ScenarioGeopend.Listener()](frmScenario& formulier) {
-      verder(formulier);
+    subscriptions_ += editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
       QTimer::singleShot(
           0, &widget_, [this, &formulier] { std::exchange(werk_, nullptr)(controls::Surface::Of(formulier.Form())); });
     });

@@ -140,7 +140,8 @@ TEST(ControleerDossier, SaysWhereItFoundSomething) {
 TEST(DossierControle, TellsItsListenerWhatThereIsToLookAt) {
   DossierControle controle([] { return kVandaag; });
   std::vector<std::string> gevonden;
-  controle.Gecontroleerd.Connect([&](const std::vector<Bevinding>& bevindingen) { gevonden = Teksten(bevindingen); });
+  const host::Subscription luistert = controle.Gecontroleerd.Connect(
+      [&](const std::vector<Bevinding>& bevindingen) { gevonden = Teksten(bevindingen); });
   DossierGegevens gegevens = VoorbeeldDossier();
   gegevens.HuidigeLening.VrijeKolommen[0].Omschrijving.clear();
   const auto application =
