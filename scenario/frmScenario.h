@@ -106,6 +106,7 @@ class frmScenario {
   /// Loading never makes it monthly, so it starts by the year and storing alone changes it.
   scenario::Maandbasis maandbasis_ = scenario::Maandbasis::Jaar;
   bool gewijzigd_ = false;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane

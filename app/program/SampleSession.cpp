@@ -130,7 +130,7 @@ class Session {
     QTimer later;
     later.setSingleShot(true);
     bool filled = false;
-    screen_.Scenario().Geopend.Connect([&](frmScenario& form) {
+    const host::Subscription opened = screen_.Scenario().Geopend.Connect([&](frmScenario& form) {
       QObject::connect(&later, &QTimer::timeout, &window_, [&] {
         FillScenario(form);
         filled = true;
@@ -138,7 +138,6 @@ class Session {
       later.start(100);
     });
     Do("cmdScenario", controls::Press{});
-    screen_.Scenario().Geopend.Disconnect();
     if (!error_.empty()) throw std::runtime_error(error_);
     Must(filled, "showing the year-by-year form");
   }

@@ -33,7 +33,7 @@ class Checker {
       messages_.push_back(text);
       return host::MessageAnswer::Ok;
     };
-    application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) {
+    errors_ = application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) {
       messages_.push_back("De post kan niet worden gecontroleerd: " + error.ErrorDescription + ".");
     });
   }
@@ -54,6 +54,7 @@ class Checker {
   memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
   brivane::VrijeKolom editor_;
+  host::Subscription errors_;
 };
 
 }  // namespace

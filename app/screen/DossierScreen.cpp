@@ -67,9 +67,7 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
 }
 
 DossierScreen::~DossierScreen() {
-  application_->FoutGemeld.Disconnect();
-  file_->Bewerkingen().Failed.Disconnect();
-  file_->Bewerkingen().Stored.Disconnect();
+  subscriptions_.Reset();
   scenario_.reset();
   // The editor holds records of the file, which goes before its widgets otherwise.
   delete kolom_;
@@ -80,7 +78,7 @@ host::HostFactories DossierScreen::Factories() {
           .MaakDossierControle =
               [this](std::string_view) {
                 auto check = std::make_shared<dossier::DossierControle>([] { return Today(); });
-                check->Gecontroleerd.Connect(
+                subscriptions_ += check->Gecontroleerd.Connect(
                     [this](const std::vector<dossier::Finding>& findings) { emit findingsCounted(findings.size()); });
                 return check;
               }};
@@ -101,8 +99,8 @@ void DossierScreen::Connect(Recording& recording) {
     TellFailure(
         RecordOf(own ? *own : host::Error(static_cast<int>(host::ErrorNumber::Foreign), error.what(), kObjectName)));
   });
-  application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) { TellFailure(error); });
-  file_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
+  subscriptions_ += application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) { TellFailure(error); });
+  subscriptions_ += file_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
     // The edit is undone, as no replay would do.
     recording.Break();
     PlanRebind();
@@ -110,7 +108,7 @@ void DossierScreen::Connect(Recording& recording) {
     QMetaObject::invokeMethod(
         this, [this, record = RecordOf(failed.error)] { TellFailure(record); }, Qt::QueuedConnection);
   });
-  file_->Bewerkingen().Stored.Connect([this] {
+  subscriptions_ += file_->Bewerkingen().Stored.Connect([this] {
     // The memory follows the file: only then do the texts show the change.
     QMetaObject::invokeMethod(
         this,

@@ -80,6 +80,7 @@ class DossierScreen final : public QSplitter {
 
   EventLog& eventLog_;
   std::shared_ptr<TraceLog> traceLog_;
+  host::Subscriptions subscriptions_;
   std::unique_ptr<dossier::DossierFile> file_;
   std::shared_ptr<dossier::Application> application_;
   KolommenTree* tree_;

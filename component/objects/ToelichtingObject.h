@@ -29,6 +29,7 @@ class ToelichtingObject final : public CoObject<IToelichting> {
   ConnectionPoint events_;
   ControlPart part_;
   ConnectionPoints points_;
+  host::Subscription changed_;
 };
 
 }  // namespace brivane::component

@@ -86,18 +86,17 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
             TheToolkit(), *surface_),
       points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
-  editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
+  subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
   });
-  editor_->HeightChanged.Connect([this] {
+  subscriptions_ += editor_->HeightChanged.Connect([this] {
     part_.Control().SizeChanged();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
   });
-  editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Hooks().Opening(form); });
-  host::Event<>& changed = editor_->Toelichting().Changed;
-  changed.Connect([this, handOn = changed.Listener()] {
+  subscriptions_ +=
+      editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Hooks().Opening(form); });
+  subscriptions_ += editor_->Toelichting().Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) toelichting_->Changed();
-    handOn();
   });
 }
 

@@ -38,6 +38,7 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
   ConnectionPoint events_;
   ControlPart part_;
   ConnectionPoints points_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::component

@@ -35,7 +35,7 @@ class Codetabellen : public host::Codetabellen {
 /// The application object of a case: the root that the controls are bound to.
 ///
 ///     auto application = std::make_shared<Application>(dossier);
-///     application->FoutGemeld.Connect([](const ErrorRecord& fout) { ... });
+///     const auto fouten = application->FoutGemeld.Connect([](const ErrorRecord& fout) { ... });
 ///     editor.SetApplication(application, 0, 1);
 class Application : public host::Application {
  public:

@@ -22,7 +22,8 @@ class FileJournal;
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
 ///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
 ///     ScenarioTransaction scenario(editor, toolkit, bestand->Bewerkingen());
-///     bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */ });
+///     const auto failed = bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */
+///     });
 ///
 /// The objects of the case may outlive it; a change then fails.
 class DossierFile {

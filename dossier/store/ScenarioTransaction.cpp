@@ -14,18 +14,15 @@ bool DruktOpOk(const controls::AnyControl& control, const controls::Action& acti
 
 ScenarioTransaction::ScenarioTransaction(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit,
                                          Edits& bewerkingen)
-    : editor_(editor), toolkit_(toolkit), bewerkingen_(bewerkingen) {
-  editor_.ScenarioGeopend.Connect([this](frmScenario& formulier) {
+    : toolkit_(toolkit), bewerkingen_(bewerkingen) {
+  geopend_ = editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
     bewerkingen_.BeginModal();
     Geopend.Raise(formulier);
   });
   toolkit_.AddListener(*this);
 }
 
-ScenarioTransaction::~ScenarioTransaction() {
-  toolkit_.RemoveListener(*this);
-  editor_.ScenarioGeopend.Disconnect();
-}
+ScenarioTransaction::~ScenarioTransaction() { toolkit_.RemoveListener(*this); }
 
 void ScenarioTransaction::Before(controls::AnyControl& control, const controls::Action& action) {
   if (DruktOpOk(control, action)) bewerking_ = bewerkingen_.BeginEdit();

@@ -25,10 +25,10 @@ class ScenarioTransaction final : public controls::ActionListener {
              std::optional<controls::Outcome> outcome) override;
 
  private:
-  brivane::VrijeKolom& editor_;
   controls::ToolkitBase& toolkit_;
   Edits& bewerkingen_;
   std::optional<std::size_t> bewerking_;
+  host::Subscription geopend_;
 };
 
 }  // namespace brivane::dossier

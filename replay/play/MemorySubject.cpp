@@ -120,23 +120,16 @@ class MemorySubject final : public OnSurface<Subject> {
   }
 
   void Listen() {
-    editor_->RefreshTopDisplay.Connect([this](const std::string& text) { audience_.OnRefreshTopDisplay(text); });
-    editor_->HeightChanged.Connect([this] { audience_.OnHeightChanged(); });
-    editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
-    host::Event<>& changed = editor_->Toelichting().Changed;
-    changed.Connect([this, handOn = changed.Listener()] {
-      audience_.OnToelichtingChanged();
-      handOn();
-    });
+    subscriptions_ +=
+        editor_->RefreshTopDisplay.Connect([this](const std::string& text) { audience_.OnRefreshTopDisplay(text); });
+    subscriptions_ += editor_->HeightChanged.Connect([this] { audience_.OnHeightChanged(); });
+    subscriptions_ += editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
+    subscriptions_ += editor_->Toelichting().Changed.Connect([this] { audience_.OnToelichtingChanged(); });
   }
 
   void RunModal(controls::Form& window) {
     MemoryForm form(window, *std::exchange(opening_, nullptr));
-    host::Event<>& unloaded = window.host::Form::Unloaded;
-    unloaded.Connect([this, handOn = unloaded.Listener()] {
-      audience_.OnClosed();
-      if (handOn) handOn();
-    });
+    const host::Subscription closed = window.host::Form::Unloaded.Connect([this] { audience_.OnClosed(); });
     audience_.OnShown(form);
     form.Close();
   }
@@ -147,6 +140,7 @@ class MemorySubject final : public OnSurface<Subject> {
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<VrijeKolom> editor_;
   frmScenario* opening_ = nullptr;  ///< the form that is about to be shown
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace

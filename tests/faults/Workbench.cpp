@@ -56,7 +56,7 @@ Workbench::Workbench(std::shared_ptr<dossier::Dossier> dossier)
     : application_(std::make_shared<dossier::Application>(std::move(dossier))),
       surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
   toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-  application_->FoutGemeld.Connect([traced = traced_](const dossier::ErrorRecord&) { ++traced->reports; });
+  reports_ = application_->FoutGemeld.Connect([traced = traced_](const dossier::ErrorRecord&) { ++traced->reports; });
   const host::HostFactories factories{
       .MaakProcedureTrace = [traced = traced_](std::string_view) { return std::make_shared<CountingTracer>(traced); },
       .MaakDossierControle = [](std::string_view) { return std::make_shared<NoControle>(); }};

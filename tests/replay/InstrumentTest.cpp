@@ -88,7 +88,8 @@ TEST_F(InstrumentedHostTest, TheInnerHostMeetsItsOwnObjects) {
   EXPECT_EQ(controle_->given, inner_);
 
   std::string reported;
-  inner_->FoutGemeld.Connect([&](const dossier::ErrorRecord& record) { reported = record.ErrorNumber; });
+  const host::Subscription reports =
+      inner_->FoutGemeld.Connect([&](const dossier::ErrorRecord& record) { reported = record.ErrorNumber; });
   const auto trace = host_.Factories().MaakProcedureTrace("VrijeKolom");
   trace->SetErrorNumber("13");
   host_.Application()->ReportError(*trace);

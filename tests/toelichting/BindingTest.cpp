@@ -169,6 +169,33 @@ TEST_F(ToelichtingBindingTest, HoldsCountedReferencesUntilItGoes) {
   EXPECT_TRUE(kolom.expired());
 }
 
+TEST_F(ToelichtingBindingTest, ASurfaceThatOutlivesTheControlCallsNothing) {
+  const auto work = [this](float width, host::Color color) {
+    for (const auto& toggle : {jnAO, jnWW, jnLangleven, jnOverlijden})
+      on_[toggle].SetValue(on_[toggle].Value() == host::kJa ? host::kNee : host::kJa);
+    on_[TxtPcOvergang].SetEnabled(true);
+    on_[txtEinddatum].SetEnabled(true);
+    on_[TxtEindjaar].SetEnabled(true);
+    Act(on_[TxtPcOvergang], controls::Enter{40.0});
+    Act(on_[txtEinddatum], controls::Enter{D(2040, 1, 1)});
+    Act(on_[TxtEindjaar], controls::Enter{65.0});
+    controls::Surface::Of(*surface_).Size({width}, {1});
+    surface_->SetBackColor(color);
+  };
+  BindOverlijden();
+  work(7000, {0x00FF00});
+  EXPECT_EQ(Only(Log(), "event").size(), 7U) << "each of the seven raised Changed";
+  EXPECT_EQ(on_[fraScenarios].Place().width, host::Twips{7000});
+  EXPECT_EQ(on_[fraScenarios].BackColor(), host::Color{0x00FF00});
+
+  control_.reset();
+  on_[fraScenarios].SetBackColor(host::kButtonFace);
+  work(6000, {0x0000FF});
+  EXPECT_THAT(Log(), IsEmpty());
+  EXPECT_EQ(on_[fraScenarios].Place().width, host::Twips{7000});
+  EXPECT_EQ(on_[fraScenarios].BackColor(), host::kButtonFace);
+}
+
 }  // namespace
 
 }  // namespace brivane::test

@@ -204,7 +204,7 @@ TEST_F(ToelichtingEditingTest, LeavesTheTransitionBoxesToTheDeathToggle) {
 TEST_F(ToelichtingEditingTest, ReportsAListenerThatFails) {
   Bind();
   Forget();
-  control_->Changed.Connect([] { throw std::runtime_error("listener"); });
+  subscriptions_ += control_->Changed.Connect([] { throw std::runtime_error("listener"); });
   Act(on_[jnWW], controls::Toggle{host::kNee});
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report Toelichting 440"));
 }

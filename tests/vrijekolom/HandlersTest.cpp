@@ -285,10 +285,11 @@ TEST_F(ErrorReportTest, FailsTheTracedProcedureAroundIt) {
 
 TEST_F(ErrorReportTest, NamesAnExceptionOfAnotherKindByItsText) {
   BindEverything();
-  editor_->RefreshTopDisplay.Connect([](const std::string&) { throw std::runtime_error("de luisteraar"); });
+  subscriptions_ +=
+      editor_->RefreshTopDisplay.Connect([](const std::string&) { throw std::runtime_error("de luisteraar"); });
   Act(on_[TxtBd], controls::Enter{1.0});
-  EXPECT_THAT(Log(), ElementsAre("enter TxtBd_Validation", "set Basisbedrag=1", "error TxtBd_Validation",
-                                 "report VrijeKolom 440"));
+  EXPECT_THAT(Log(), ElementsAre("enter TxtBd_Validation", "set Basisbedrag=1", "event RefreshTopDisplay de kopregel",
+                                 "error TxtBd_Validation", "report VrijeKolom 440"));
   const Lines record = host_.traces.at(1)->Take();
   EXPECT_THAT(record, ::testing::Contains("ErrorDescription=de luisteraar"));
   EXPECT_FALSE(editor_->Gewijzigd());

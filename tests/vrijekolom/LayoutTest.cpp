@@ -108,10 +108,10 @@ TEST_F(EditorLayoutTest, TellsItsHeightOncePerLayout) {
 
 TEST_F(EditorLayoutTest, IsSilentFromAFailureOn) {
   Bind();
-  editor_->HeightChanged.Connect([] { throw host::Error(5, "luisteraar", "host"); });
+  host::Subscription listener = editor_->HeightChanged.Connect([] { throw host::Error(5, "luisteraar", "host"); });
   EXPECT_THROW(Size(9000, 4000), host::Error) << "untraced: the one who resized is told";
   int told = 0;
-  editor_->HeightChanged.Connect([&told] { ++told; });
+  listener = editor_->HeightChanged.Connect([&told] { ++told; });
   Size(9000, 5000);
   Bind();
   EXPECT_EQ(told, 0);
@@ -119,7 +119,7 @@ TEST_F(EditorLayoutTest, IsSilentFromAFailureOn) {
 }
 
 TEST_F(EditorLayoutTest, FailsTheBindingThatCalledIt) {
-  editor_->HeightChanged.Connect([] { throw host::Error(5, "luisteraar", "host"); });
+  subscriptions_ += editor_->HeightChanged.Connect([] { throw host::Error(5, "luisteraar", "host"); });
   Bind();
   const Lines log = Log();
   ASSERT_GE(log.size(), 2U);

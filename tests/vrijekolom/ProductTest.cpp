@@ -288,7 +288,7 @@ TEST_F(ProductTest, KeepsWhatItEmptiedBeforeAFailure) {
 
 TEST_F(ProductTest, LeavesFillingSetWhereTheLayoutFails) {
   BindProduct();
-  editor_->HeightChanged.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
+  subscriptions_ += editor_->HeightChanged.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
   Pick(on_[cboProductsoort], "Krant");
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 6"));
   EXPECT_TRUE(editor_->Filling());

@@ -142,7 +142,7 @@ class ScenarioLaunchTest : public EditorTest {
  protected:
   void SetUp() override {
     EditorTest::SetUp();
-    editor_->ScenarioGeopend.Connect([this](frmScenario& form) {
+    subscriptions_ += editor_->ScenarioGeopend.Connect([this](frmScenario& form) {
       host_.calls.Add("opened " + std::to_string(form.AantalJaar()));
       color_ = form.BackColor();
       scenario_ = form.Scenario();

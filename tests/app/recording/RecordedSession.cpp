@@ -59,18 +59,10 @@ void RecordedSession::Record(controls::Surface& surface) {
 
 void RecordedSession::Follow(brivane::VrijeKolom& editor) {
   editor_ = &editor;
-  host::Event<>& changed = editor.Toelichting().Changed;
-  changed.Connect([this, onward = changed.Listener()] {
-    transcript_.Event("Toelichting.Changed");
-    onward();
-  });
-  editor.ScenarioGeopend.Connect([this](frmScenario& form) {
+  subscriptions_ += editor.Toelichting().Changed.Connect([this] { transcript_.Event("Toelichting.Changed"); });
+  subscriptions_ += editor.ScenarioGeopend.Connect([this](frmScenario& form) {
     transcript_.Opened(form.BackColor(), form.AantalJaar());
-    host::Event<>& away = form.Form().Unloaded;
-    away.Connect([this, onward = away.Listener()] {
-      transcript_.Closed();
-      if (onward) onward();
-    });
+    closed_ = form.Form().Unloaded.Connect([this] { transcript_.Closed(); });
   });
 }
 

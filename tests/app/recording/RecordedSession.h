@@ -60,6 +60,7 @@ class RecordedSession {
   replay::Transcript transcript_;
   replay::InstrumentedHost host_;
   brivane::VrijeKolom* editor_ = nullptr;
+  host::Subscriptions subscriptions_;
 
  private:
   controls::Outcome Do(controls::Surface& surface, const std::string& name, const controls::Action& action, int index);
@@ -74,6 +75,7 @@ class RecordedSession {
   controls::Surface* surface_ = nullptr;
   std::unique_ptr<app::Recorder> recorder_;
   std::deque<host::MessageAnswer> answers_;
+  host::Subscription closed_;  ///< to the form that was opened last
 };
 
 /// Replays a document and answers its lines, without those that mark the steps.

@@ -53,8 +53,9 @@ class WithoutScreen final : public RecordedSession {
     };
     toolkit_.modal = [this](controls::Form& form) { std::exchange(work_, nullptr)(form); };
     Record(controls::Surface::Of(*surface_));
-    editor_.RefreshTopDisplay.Connect([this](const std::string& text) { transcript_.RefreshTopDisplay(text); });
-    editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
+    subscriptions_ +=
+        editor_.RefreshTopDisplay.Connect([this](const std::string& text) { transcript_.RefreshTopDisplay(text); });
+    subscriptions_ += editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
     Follow(editor_);
   }
   ~WithoutScreen() override { LetGo(); }
@@ -176,7 +177,7 @@ TEST(RecorderTest, TheHostInTheMiddleOfAStepEndsTheRecordingBeforeThatStep) {
   WithoutScreen session;
   session.Bind(0, 1);
   const std::size_t steps = session.Recorder().Document().steps.size();
-  session.Editor().RefreshTopDisplay.Connect(
+  const host::Subscription listening = session.Editor().RefreshTopDisplay.Connect(
       [&](const std::string&) { session.EditorSurface().Size({10000}, {4000}); });
   session.Do("TxtOm", Enter{std::string("Opvang")});
   EXPECT_FALSE(session.Recorder().IsRunning());

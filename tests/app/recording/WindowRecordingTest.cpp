@@ -43,8 +43,7 @@ class OnWidget final : public RecordedSession {
     widget_.SetHostFactories(host_.Factories());
     brivane::VrijeKolom& editor = *widget_.Control();
     Follow(editor);
-    editor.ScenarioGeopend.Connect([this, onward = editor.ScenarioGeopend.Listener()](frmScenario& form) {
-      onward(form);
+    subscriptions_ += editor.ScenarioGeopend.Connect([this](frmScenario& form) {
       QTimer::singleShot(0, &widget_,
                          [this, &form] { std::exchange(work_, nullptr)(controls::Surface::Of(form.Form())); });
     });

@@ -139,7 +139,8 @@ TEST(ControleerDossier, SaysWhereItFoundSomething) {
 TEST(DossierControle, TellsItsListenerWhatThereIsToLookAt) {
   DossierControle check([] { return kToday; });
   std::vector<std::string> found;
-  check.Gecontroleerd.Connect([&](const std::vector<Finding>& findings) { found = Texts(findings); });
+  const host::Subscription listening =
+      check.Gecontroleerd.Connect([&](const std::vector<Finding>& findings) { found = Texts(findings); });
   DossierGegevens gegevens = VoorbeeldDossier();
   gegevens.HuidigeLening.VrijeKolommen[0].Omschrijving.clear();
   const auto application =

@@ -26,8 +26,8 @@ class Desk {
         edits_(std::move(edits)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
     toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-    application_->FoutGemeld.Connect([this](const ErrorRecord& error) { reports.push_back(error); });
-    edits_->Failed.Connect([this](const StoreFailure& failure) { failed.push_back(failure); });
+    subscriptions_ += application_->FoutGemeld.Connect([this](const ErrorRecord& error) { reports.push_back(error); });
+    subscriptions_ += edits_->Failed.Connect([this](const StoreFailure& failure) { failed.push_back(failure); });
     const host::HostFactories factories{
         .MaakProcedureTrace =
             [this](std::string_view control) { return std::make_shared<StoreTrace>(control, edits_, nullptr); },
@@ -69,6 +69,7 @@ class Desk {
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
   std::unique_ptr<ScenarioTransaction> scenario_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::dossier

@@ -34,7 +34,7 @@ class LoggedTransactions : public Edits::Transactions {
 class EditsTest : public testing::Test {
  protected:
   EditsTest() {
-    edits_.Failed.Connect([this](const StoreFailure& failure) {
+    failed_ = edits_.Failed.Connect([this](const StoreFailure& failure) {
       file_.lines.push_back(failure.told == Told::Yes ? "failed, told" : "failed, not told");
       EXPECT_EQ(failure.error.Number(), 1013);
     });
@@ -52,6 +52,7 @@ class EditsTest : public testing::Test {
 
   LoggedTransactions file_;
   Edits edits_{file_};
+  host::Subscription failed_;
 };
 
 TEST_F(EditsTest, AProcedureThatChangesNothingTouchesTheFileNot) {
@@ -319,7 +320,7 @@ TEST_F(EditsTest, OneEditInsideAProcedureIsPartOfItsEdit) {
 }
 
 TEST_F(EditsTest, TellsOfWhatWasStoredOnceItIsInTheFile) {
-  edits_.Stored.Connect([this] { Lines().emplace_back("stored"); });
+  const host::Subscription stored = edits_.Stored.Connect([this] { Lines().emplace_back("stored"); });
   edits_.Enter("A");
   edits_.Enter("B");
   edits_.Leave();
@@ -329,7 +330,7 @@ TEST_F(EditsTest, TellsOfWhatWasStoredOnceItIsInTheFile) {
 }
 
 TEST_F(EditsTest, TellsNotOfWhatWasNotStored) {
-  edits_.Stored.Connect([this] { Lines().emplace_back("stored"); });
+  const host::Subscription stored = edits_.Stored.Connect([this] { Lines().emplace_back("stored"); });
   edits_.Enter("A");
   Change("1");
   file_.refused = "commit";

@@ -97,7 +97,8 @@ TEST_F(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
 }
 
 TEST_F(Boxes, HandOverBeforeAMnemonicPressesAButton) {
-  static_cast<host::Button&>(Control("cmdDoen").Host()).Click.Connect([this] { log_.emplace_back("pressed"); });
+  subscriptions_ +=
+      static_cast<host::Button&>(Control("cmdDoen").Host()).Click.Connect([this] { log_.emplace_back("pressed"); });
   Focus("txtBedrag");
   TypeOver("5");
   Press(Qt::Key_D, Qt::AltModifier);
@@ -189,7 +190,9 @@ TEST_F(Boxes, AnotherWindowDoesNotHandOver) {
 }
 
 TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheEventLoop) {
-  Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  subscriptions_.Reset();
+  host::Subscription listener =
+      Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
   Focus("txtNaam");
   TypeOver("x");
   Press(Qt::Key_Tab);
@@ -199,7 +202,7 @@ TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheEventLoop) {
   TypeOver("y");
   Press(Qt::Key_Tab);
   EXPECT_EQ(log_.back(), "Object missing");
-  Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
+  listener = Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
   Focus("txtNaam");
   TypeOver("z");
   Press(Qt::Key_Tab);

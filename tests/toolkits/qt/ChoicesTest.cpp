@@ -66,7 +66,7 @@ class Options : public SurfaceTest {
   Options() {
     for (int i = 1; i <= 3; ++i) {
       auto& option = static_cast<controls::OptionButton&>(Control("optSoort", i));
-      option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
+      subscriptions_ += option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
     }
   }
   [[nodiscard]] int Selected() {
@@ -99,7 +99,7 @@ TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
 TEST_F(SurfaceTest, AListIsWorkedByKeysAndOnlyAFocusedOneByTheWheel) {
   auto& list = static_cast<controls::ListBox&>(Control("cboTermijn"));
   auto& combo = dynamic_cast<QComboBox&>(*WidgetFor(list));
-  list.Click.Connect([&] { log_.push_back(list.ListIndex() < 0 ? "none" : list.Text()); });
+  subscriptions_ += list.Click.Connect([&] { log_.push_back(list.ListIndex() < 0 ? "none" : list.Text()); });
   combo.setFocus();
   Press(Qt::Key_Down);
   Press(Qt::Key_Down);

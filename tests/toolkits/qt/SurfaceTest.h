@@ -42,7 +42,7 @@ class SurfaceTest : public testing::Test {
   /// Notes each Validation of a box; refuses while `refuse_` stands.
   void Follow(std::string_view name) {
     controls::TextBox& box = Box(name);
-    box.Validation.Connect([this, &box](bool& Cancel) {
+    subscriptions_ += box.Validation.Connect([this, &box](bool& Cancel) {
       log_.push_back(box.ElementName() + " = " + qt::ShownContent(box.Content(), box.Format()).toStdString());
       Cancel = refuse_;
     });
@@ -56,6 +56,7 @@ class SurfaceTest : public testing::Test {
   QWidget window_;
   qt::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
+  host::Subscriptions subscriptions_;
   std::vector<std::string> log_;
   bool refuse_ = false;
 };

@@ -122,7 +122,8 @@ TEST_F(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
 }
 
 TEST_F(Boxes, HandOverBeforeAMnemonicPressesAButton) {
-  static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
+  subscriptions_ +=
+      static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
   Focus("txtBedrag");
   TypeOver(L"5");
   Press('D', With::Alt);
@@ -246,7 +247,9 @@ TEST_F(Boxes, AHostHandsOverWhatIsBeingTyped) {
 }
 
 TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheWindowProcedure) {
-  Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  subscriptions_.Reset();
+  host::Subscription listener =
+      Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
   Focus("txtNaam");
   TypeOver(L"x");
   Press(VK_TAB);
@@ -256,7 +259,7 @@ TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheWindowProcedure) {
   TypeOver(L"y");
   Press(VK_TAB);
   EXPECT_EQ(log_.back(), "Object missing");
-  Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
+  listener = Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
   Focus("txtNaam");
   TypeOver(L"z");
   Press(VK_TAB);
@@ -273,7 +276,7 @@ TEST_F(Boxes, ALockedBoxTakesTheFocusButNoTyping) {
 }
 
 TEST_F(Boxes, ABoxMayTakeItsSurfaceAwayWhenItIsLeft) {
-  Box("txtNaam").Validation.Connect([this](bool&) { surface_.reset(); });
+  subscriptions_ += Box("txtNaam").Validation.Connect([this](bool&) { surface_.reset(); });
   Focus("txtNaam");
   TypeOver(L"x");
   Press(VK_TAB);

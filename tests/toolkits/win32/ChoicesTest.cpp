@@ -52,7 +52,7 @@ class Options : public SurfaceTest {
   Options() {
     for (int i = 1; i <= 3; ++i) {
       auto& option = static_cast<controls::OptionButton&>(Control("optSoort", i));
-      option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
+      subscriptions_ += option.Click.Connect([this, i] { log_.push_back("click " + std::to_string(i)); });
     }
   }
   [[nodiscard]] int Selected() {
@@ -101,7 +101,7 @@ TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
 class Lists : public SurfaceTest {
  protected:
   Lists() {
-    list_.Click.Connect([this] { log_.push_back(list_.ListIndex() < 0 ? "none" : list_.Text()); });
+    subscriptions_ += list_.Click.Connect([this] { log_.push_back(list_.ListIndex() < 0 ? "none" : list_.Text()); });
   }
   [[nodiscard]] LRESULT Shown() { return SendMessageW(WindowOf("cboTermijn"), CB_GETCURSEL, 0, 0); }
   controls::ListBox& list_ = static_cast<controls::ListBox&>(Control("cboTermijn"));
@@ -198,7 +198,8 @@ TEST_F(SurfaceTest, ACheckBoxIsTickedBySpace) {
 }
 
 TEST_F(SurfaceTest, AButtonIsPressedBySpaceAndByEnter) {
-  static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
+  subscriptions_ +=
+      static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
   SetFocus(WindowOf("cmdDoen"));
   Press(VK_SPACE);
   Press(VK_RETURN);
