@@ -31,10 +31,10 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 STDAPI DllGetClassObject(REFCLSID id, REFIID iid, LPVOID* out) {
   if (!out) return E_POINTER;
   *out = nullptr;
-  const component::Klasse* const klasse = component::FindKlasse(id);
-  if (!klasse) return CLASS_E_CLASSNOTAVAILABLE;
+  const component::LibraryClass* const entry = component::FindClass(id);
+  if (!entry) return CLASS_E_CLASSNOTAVAILABLE;
   return Outcome([&] {
-    const auto factory = component::ComPtr<IClassFactory>::Attach(component::NewClassFactory(*klasse));
+    const auto factory = component::ComPtr<IClassFactory>::Attach(component::NewClassFactory(*entry));
     return factory->QueryInterface(iid, out);
   });
 }

@@ -8,17 +8,17 @@ namespace brivane::component {
 
 namespace {
 
-class ClassFactory final : public IClassFactory, public IProefdeurHouder, private module::LiveObject {
+class ClassFactory final : public IClassFactory, public ITestDoorHolder, private module::LiveObject {
  public:
-  explicit ClassFactory(const Klasse& klasse) : klasse_(klasse) {}
+  explicit ClassFactory(const LibraryClass& entry) : class_(entry) {}
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
     *out = nullptr;
     if (iid == IID_IUnknown || iid == IID_IClassFactory)
       *out = static_cast<IClassFactory*>(this);
-    else if (iid == __uuidof(IProefdeurHouder))
-      *out = static_cast<IProefdeurHouder*>(this);
+    else if (iid == __uuidof(ITestDoorHolder))
+      *out = static_cast<ITestDoorHolder*>(this);
     else
       return E_NOINTERFACE;
     AddRef();
@@ -37,7 +37,7 @@ class ClassFactory final : public IClassFactory, public IProefdeurHouder, privat
     // Who makes the object a part of his own must keep hold of its inner identity.
     if (outer && iid != IID_IUnknown) return CLASS_E_NOAGGREGATION;
     Identity* object = nullptr;
-    const HRESULT made = Answering<IClassFactory>([&] { object = klasse_.make(outer); });
+    const HRESULT made = Answering<IClassFactory>([&] { object = class_.make(outer); });
     if (FAILED(made)) return made;
     const HRESULT found = object->Inner().QueryInterface(iid, out);
     object->Inner().Release();
@@ -51,20 +51,20 @@ class ClassFactory final : public IClassFactory, public IProefdeurHouder, privat
     return S_OK;
   }
 
-  STDMETHODIMP Proefdeur(IProefdeur** door) override {
+  STDMETHODIMP TestDoor(ITestDoor** door) override {
     if (!door) return E_POINTER;
-    return Answering<IProefdeurHouder>([&] { *door = NewClassDoor(); });
+    return Answering<ITestDoorHolder>([&] { *door = NewClassDoor(); });
   }
 
  private:
   ~ClassFactory() = default;
 
-  const Klasse& klasse_;
+  const LibraryClass& class_;
   ULONG count_ = 1;
 };
 
 }  // namespace
 
-IClassFactory* NewClassFactory(const Klasse& klasse) { return new ClassFactory(klasse); }
+IClassFactory* NewClassFactory(const LibraryClass& entry) { return new ClassFactory(entry); }
 
 }  // namespace brivane::component

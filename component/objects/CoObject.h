@@ -7,7 +7,7 @@
 #include "component/idl/Interfaces.h"
 #include "component/objects/HostClasses.h"
 #include "component/objects/Identity.h"
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 
 namespace brivane::component {
 
@@ -18,7 +18,7 @@ namespace brivane::component {
 template <class Interface>
 class CoObject : public Dispatching<Interface>,
                  public IProvideClassInfo2,
-                 public IProefdeurHouder,
+                 public ITestDoorHolder,
                  public Identity,
                  private controls::ActionListener {
  public:
@@ -43,11 +43,11 @@ class CoObject : public Dispatching<Interface>,
     *id = outgoing_;
     return S_OK;
   }
-  STDMETHODIMP Proefdeur(IProefdeur** door) override {
+  STDMETHODIMP TestDoor(ITestDoor** door) override {
     if (!door) return E_POINTER;
-    return Answering<IProefdeurHouder>([&] {
-      *door = NewProefdeur(Controlling(), DoorSurface(), hooks_,
-                           [this](std::string_view aspect) { return DoorAspect(aspect); });
+    return Answering<ITestDoorHolder>([&] {
+      *door = NewTestDoor(Controlling(), DoorSurface(), hooks_,
+                          [this](std::string_view aspect) { return DoorAspect(aspect); });
     });
   }
 
@@ -55,7 +55,7 @@ class CoObject : public Dispatching<Interface>,
   [[nodiscard]] IUnknown* Find(REFIID iid) override {
     if (IUnknown* const own = this->Own(iid)) return own;
     if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) return static_cast<IProvideClassInfo2*>(this);
-    if (iid == __uuidof(IProefdeurHouder)) return static_cast<IProefdeurHouder*>(this);
+    if (iid == __uuidof(ITestDoorHolder)) return static_cast<ITestDoorHolder*>(this);
     return nullptr;
   }
   /// What the door for tests opens to.

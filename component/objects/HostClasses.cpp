@@ -15,7 +15,7 @@ namespace {
 constexpr std::int32_t kCannotCreate = 429;
 
 /// The check of a host that has none.
-class GeenControle final : public host::DossierControle {
+class NoCheck final : public host::DossierControle {
  public:
   void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
 };
@@ -36,7 +36,7 @@ ComPtr<IDispatch> MakeTrace(const HostClasses& classes, Hooks& hooks, std::strin
   return classes.procedureTrace.empty() ? MakeStandardTrace() : CreateByProgId(classes.procedureTrace);
 }
 
-ComPtr<IDispatch> MakeControle(const HostClasses& classes, Hooks& hooks, std::string_view control) {
+ComPtr<IDispatch> MakeCheck(const HostClasses& classes, Hooks& hooks, std::string_view control) {
   if (ComPtr<IDispatch> made = hooks.MadeByCallback(L"MakeDossierControle", control)) return made;
   return classes.dossierControle.empty() ? ComPtr<IDispatch>() : CreateByProgId(classes.dossierControle);
 }
@@ -64,11 +64,11 @@ host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classe
                 [&classes, &hooks, name = std::string(control)] { return MakeTrace(classes, hooks, name); });
           },
           .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
-            ComPtr<IDispatch> made = MakeControle(classes, hooks, control);
-            if (!made) return std::make_shared<GeenControle>();
+            ComPtr<IDispatch> made = MakeCheck(classes, hooks, control);
+            if (!made) return std::make_shared<NoCheck>();
             return session.Make<ControleAdapter>(
                 [&classes, &hooks, name = std::string(control), first = std::move(made)]() mutable {
-                  return first ? std::exchange(first, {}) : MakeControle(classes, hooks, name);
+                  return first ? std::exchange(first, {}) : MakeCheck(classes, hooks, name);
                 });
           }};
 }

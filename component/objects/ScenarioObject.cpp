@@ -1,7 +1,7 @@
 #include "component/objects/ScenarioObject.h"
 
+#include "component/automation/HostWindow.h"
 #include "component/automation/RecordAdapter.h"
-#include "component/automation/Vensterhouder.h"
 #include "host/Error.h"
 
 namespace brivane::component {
@@ -64,7 +64,7 @@ STDMETHODIMP ScenarioObject::Tonen(VARIANT Eigenaar) {
   return Doing([&] {
     if (stage_ == Stage::Open) throw WrongMoment();
     brivane::frmScenario& form = ToSet();
-    const auto eigenaar = VensterVan(Eigenaar);
+    const auto eigenaar = WindowNamedBy(Eigenaar);
     stage_ = Stage::Open;
     Hooks().Opening(form);
     try {

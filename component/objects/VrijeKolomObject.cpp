@@ -21,11 +21,11 @@ VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 }  // namespace
 
 /// The explanation control inside the editor, as hosts reach it: an object of its own, with the editor's count.
-class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
+class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
  public:
-  explicit Ingesloten(VrijeKolomObject& owner)
+  explicit Embedded(VrijeKolomObject& owner)
       : owner_(owner), events_(Known(), DIID_DToelichtingEvents), points_(Known(), {&events_}) {}
-  virtual ~Ingesloten() = default;
+  virtual ~Embedded() = default;
 
   /// The adviser changed something.
   void Changed() { events_.Raise(kChanged); }
@@ -80,7 +80,7 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
     : CoObject(outer, CLSID_VrijeKolom, DIID_DVrijeKolomEvents),
       surface_(TheToolkit().MakeSurface(vrijekolom::kOntwerp)),
       editor_(std::make_unique<brivane::VrijeKolom>(*surface_, TheToolkit(), Factories())),
-      toelichting_(std::make_unique<Ingesloten>(*this)),
+      toelichting_(std::make_unique<Embedded>(*this)),
       events_(Controlling(), DIID_DVrijeKolomEvents),
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},

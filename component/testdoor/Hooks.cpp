@@ -4,7 +4,7 @@
 
 #include "component/automation/RecordAdapter.h"
 #include "component/testdoor/Preparation.h"
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 #include "host/Error.h"
 
 namespace brivane::component {
@@ -77,8 +77,7 @@ void Hooks::RunForm(controls::Form& form) {
       if (handOn) handOn();
     });
   const auto* const shown = std::exchange(opening_, nullptr);
-  const ProefdeurLening door(form, *this,
-                             [&form, shown](std::string_view aspect) { return FormAspect(form, shown, aspect); });
+  const LentDoor door(form, *this, [&form, shown](std::string_view aspect) { return FormAspect(form, shown, aspect); });
   callback_.Call(L"Form", std::array{Variant(door.Object())});
 }
 

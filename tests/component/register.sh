@@ -9,4 +9,4 @@ wineserver=$(command -v wineserver || ls /usr/lib/wine/wineserver* | head -n 1)
 "$wineserver" -k 2>/dev/null || true
 rm -rf "$WINEPREFIX"
 "$wine" regsvr32 /s BrivaneVrijeKolom.dll
-"$wine" regsvr32 /s BrivaneProef.dll
+"$wine" regsvr32 /s BrivaneTestRelay.dll

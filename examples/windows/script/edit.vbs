@@ -4,7 +4,7 @@
 '   cscript //nologo edit.vbs
 '
 ' The library must be registered (regsvr32 BrivaneVrijeKolom.dll). A script has no hands: what an adviser would do is
-' done here through the relay that the library's tests use (regsvr32 BrivaneProef.dll). A real host leaves that to the
+' done here through the relay that the library's tests use (regsvr32 BrivaneTestRelay.dll). A real host leaves that to the
 ' person before the screen, and needs the first half of this file alone.
 Option Explicit
 
@@ -128,10 +128,10 @@ editor.SetApplication application, 0, 1
 
 ' The adviser, by way of the relay.
 Dim relay, adviser
-Set relay = CreateObject("BrivaneProef.Relais")
-Set adviser = relay.Deur(editor)
+Set relay = CreateObject("BrivaneTest.Relay")
+Set adviser = relay.Door(editor)
 adviser.Callback = New Answers
-relay.Luister editor, New Listener
+relay.Listen editor, New Listener
 
 cancel = False
 editor.Validation cancel, 1
@@ -149,7 +149,7 @@ editor.Validation cancel
 WScript.Echo "everything checked, refused: " & CStr(cancel)
 
 ' Let go of the host's objects, then of the editor.
-relay.Zwijg
+relay.Silence
 editor.SetApplication Nothing, 0, 0
 Set adviser = Nothing
 Set editor = Nothing

@@ -31,12 +31,12 @@ class ComponentTest : public testing::Test {
     EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object.Put())), S_OK);
     return object;
   }
-  template <class Interface> static ComPtr<IProefdeur> DoorOf(const ComPtr<Interface>& object) {
-    ComPtr<IProefdeur> door;
-    object.template As<IProefdeurHouder>()->Proefdeur(door.Put());
+  template <class Interface> static ComPtr<ITestDoor> DoorOf(const ComPtr<Interface>& object) {
+    ComPtr<ITestDoor> door;
+    object.template As<ITestDoorHolder>()->TestDoor(door.Put());
     return door;
   }
-  static SHORT Perform(const ComPtr<IProefdeur>& door, const wchar_t* element, const wchar_t* action, Variant value) {
+  static SHORT Perform(const ComPtr<ITestDoor>& door, const wchar_t* element, const wchar_t* action, Variant value) {
     SHORT outcome = -1;
     const BSTR name = SysAllocString(element);
     const BSTR verb = SysAllocString(action);

@@ -370,11 +370,11 @@ TEST_F(InterfacesTest, TheHostsClassesAreMadeByTheirNames) {
   FakeHost host;
   host.application->members[L"ReportError"] = [](const auto&) { return Variant(); };
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  BSTR name = SysAllocString(L"Brivane.BestaatNiet");
+  BSTR name = SysAllocString(L"Brivane.DoesNotExist");
   EXPECT_EQ(editor->put_ProcedureTraceKlasse(name), S_OK);
   SysFreeString(name);
   EXPECT_EQ(editor->get_ProcedureTraceKlasse(&name), S_OK);
-  EXPECT_EQ(FromBstr(name), "Brivane.BestaatNiet");
+  EXPECT_EQ(FromBstr(name), "Brivane.DoesNotExist");
   SysFreeString(name);
   // A tracer that cannot be made fails the procedure that needs it.
   EXPECT_EQ(editor->SetApplication(host.application.Get(), 0, 1), static_cast<HRESULT>(0x800A0000 + 429));
