@@ -1,4 +1,4 @@
-// What the system calls of the library.
+// What the system calls of the library by name.
 
 #include <string_view>
 
@@ -19,14 +19,6 @@ template <class Body> HRESULT Outcome(Body&& body) noexcept {
 }
 
 }  // namespace
-
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) {
-    component::module::Attach(instance);
-    DisableThreadLibraryCalls(instance);
-  }
-  return TRUE;
-}
 
 STDAPI DllGetClassObject(REFCLSID id, REFIID iid, LPVOID* out) {
   if (!out) return E_POINTER;

@@ -1,26 +1,21 @@
 #include "component/objects/ClassFactory.h"
 
 #include "component/automation/Errors.h"
+#include "component/objects/Companion.h"
 #include "component/objects/Identity.h"
-#include "component/testdoor/Preparation.h"
 
 namespace brivane::component {
 
 namespace {
 
-class ClassFactory final : public IClassFactory, public ITestDoorHolder, private module::LiveObject {
+class ClassFactory final : public IClassFactory, private module::LiveObject {
  public:
   explicit ClassFactory(const LibraryClass& entry) : class_(entry) {}
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
-    *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IClassFactory)
-      *out = static_cast<IClassFactory*>(this);
-    else if (iid == __uuidof(ITestDoorHolder))
-      *out = static_cast<ITestDoorHolder*>(this);
-    else
-      return E_NOINTERFACE;
+    if (iid != IID_IUnknown && iid != IID_IClassFactory) return Companions::Used().Query(*this, iid, out);
+    *out = static_cast<IClassFactory*>(this);
     AddRef();
     return S_OK;
   }
@@ -49,11 +44,6 @@ class ClassFactory final : public IClassFactory, public ITestDoorHolder, private
     else
       module::LetGo();
     return S_OK;
-  }
-
-  STDMETHODIMP TestDoor(ITestDoor** door) override {
-    if (!door) return E_POINTER;
-    return Answering<ITestDoorHolder>([&] { *door = NewClassDoor(); });
   }
 
  private:

@@ -17,7 +17,7 @@ ScenarioObject::ScenarioObject(IUnknown* outer)
 
 ScenarioObject::~ScenarioObject() = default;
 
-controls::Surface& ScenarioObject::DoorSurface() { return controls::Surface::Of(form_->Form()); }
+controls::Surface& ScenarioObject::Shown() { return controls::Surface::Of(form_->Form()); }
 
 brivane::frmScenario& ScenarioObject::ToSet() {
   if (stage_ == Stage::Closed) {
@@ -66,7 +66,7 @@ STDMETHODIMP ScenarioObject::Tonen(VARIANT Eigenaar) {
     brivane::frmScenario& form = ToSet();
     const auto eigenaar = WindowNamedBy(Eigenaar);
     stage_ = Stage::Open;
-    Hooks().Opening(form);
+    Opening(form);
     try {
       form.ShowModal(eigenaar.get());
     } catch (...) {

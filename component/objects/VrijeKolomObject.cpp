@@ -93,7 +93,7 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
     part_.Control().SizeChanged();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
   });
-  editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Hooks().Opening(form); });
+  editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Opening(form); });
   host::Event<>& changed = editor_->Toelichting().Changed;
   changed.Connect([this, handOn = changed.Listener()] {
     if (!part_.Control().EventsFrozen()) toelichting_->Changed();
@@ -107,13 +107,6 @@ IUnknown* VrijeKolomObject::Find(REFIID iid) {
   if (iid == IID_IConnectionPointContainer) return &points_;
   IUnknown* const own = CoObject::Find(iid);
   return own ? own : part_.Control().Find(iid);
-}
-
-std::optional<Variant> VrijeKolomObject::DoorAspect(std::string_view aspect) const {
-  if (aspect == "filling") return Variant(editor_->Filling());
-  if (aspect == "changed") return Variant(editor_->Gewijzigd());
-  if (aspect == "record") return HandedBack<RecordAdapter>(editor_->Item());
-  return std::nullopt;
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {

@@ -29,8 +29,8 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
   class Embedded;
 
   IUnknown* Find(REFIID iid) override;
-  controls::Surface& DoorSurface() override { return controls::Surface::Of(*surface_); }
-  std::optional<Variant> DoorAspect(std::string_view aspect) const override;
+  controls::Surface& Shown() override { return controls::Surface::Of(*surface_); }
+  brivane::VrijeKolom* Editor() override { return editor_.get(); }
 
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;

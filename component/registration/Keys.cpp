@@ -44,7 +44,7 @@ struct InterfaceEntry {
 
 /// The interfaces of the type library that another apartment can be handed.
 std::vector<InterfaceEntry> Interfaces() {
-  const ComPtr<ITypeLib> library = module::TypeLibrary(module::Library::Public);
+  const ComPtr<ITypeLib> library = module::TypeLibrary(module::kOwnTypeLibrary);
   std::vector<InterfaceEntry> interfaces;
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     ComPtr<ITypeInfo> info;

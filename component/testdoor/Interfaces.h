@@ -7,6 +7,6 @@
 
 namespace brivane::component {
 
-template <> inline constexpr module::Library kLibraryOf<ITestDoor> = module::Library::Door;
+template <> inline constexpr int kTypeLibraryOf<ITestDoor> = 2;
 
 }  // namespace brivane::component

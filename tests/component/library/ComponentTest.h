@@ -9,7 +9,10 @@
 
 namespace brivane::component {
 
-/// Tests of the registered library, as a compiled host reaches it. After each the library must be out of memory.
+inline constexpr const wchar_t* kLibrary = L"BrivaneVrijeKolomTest.dll";
+
+/// Tests of the registered library with the door, as a compiled host reaches it. After each the library must be out of
+/// memory.
 class ComponentTest : public testing::Test {
  protected:
   ComponentTest() { OleInitialize(nullptr); }
@@ -19,7 +22,7 @@ class ComponentTest : public testing::Test {
     OleUninitialize();
   }
 
-  static bool IsLoaded() { return GetModuleHandleW(L"BrivaneVrijeKolom.dll") != nullptr; }
+  static bool IsLoaded() { return GetModuleHandleW(kLibrary) != nullptr; }
   /// Takes the messages that wait, and lets go of libraries that are not in use.
   static void Unload() {
     MSG message;

@@ -175,7 +175,7 @@ TEST_F(InterfacesTest, AClassThatTheLibraryDoesNotHaveIsRefused) {
   ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
   using Function = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
   const auto get = reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllGetClassObject")));
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(kLibrary), "DllGetClassObject")));
   void* out = factory.Get();
   EXPECT_EQ(get(CLSID_StdGlobalInterfaceTable, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);

@@ -38,7 +38,7 @@ class Relay final : public DualObject<IRelay> {
   }
   STDMETHODIMP get_Loaded(VARIANT_BOOL* loaded) override {
     CoFreeUnusedLibrariesEx(0, 0);
-    *loaded = GetModuleHandleW(L"BrivaneVrijeKolom.dll") ? VARIANT_TRUE : VARIANT_FALSE;
+    *loaded = GetModuleHandleW(L"BrivaneVrijeKolomTest.dll") ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;
   }
   STDMETHODIMP Make(BSTR progId, IDispatch** object) override {
