@@ -22,7 +22,7 @@ class ToelichtingObject final : public CoObject<IToelichting> {
 
  private:
   IUnknown* Find(REFIID iid) override;
-  controls::Surface& DoorSurface() override { return controls::Surface::Of(*surface_); }
+  controls::Surface& Shown() override { return controls::Surface::Of(*surface_); }
 
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::Toelichting> control_;

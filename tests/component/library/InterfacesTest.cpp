@@ -175,7 +175,7 @@ TEST_F(InterfacesTest, AClassThatTheLibraryDoesNotHaveIsRefused) {
   ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
   using Function = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
   const auto get = reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllGetClassObject")));
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(kLibrary), "DllGetClassObject")));
   void* out = factory.Get();
   EXPECT_EQ(get(CLSID_StdGlobalInterfaceTable, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);
@@ -370,11 +370,11 @@ TEST_F(InterfacesTest, TheHostsClassesAreMadeByTheirNames) {
   FakeHost host;
   host.application->members[L"ReportError"] = [](const auto&) { return Variant(); };
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  BSTR name = SysAllocString(L"Brivane.BestaatNiet");
+  BSTR name = SysAllocString(L"Brivane.DoesNotExist");
   EXPECT_EQ(editor->put_ProcedureTraceKlasse(name), S_OK);
   SysFreeString(name);
   EXPECT_EQ(editor->get_ProcedureTraceKlasse(&name), S_OK);
-  EXPECT_EQ(FromBstr(name), "Brivane.BestaatNiet");
+  EXPECT_EQ(FromBstr(name), "Brivane.DoesNotExist");
   SysFreeString(name);
   // A tracer that cannot be made fails the procedure that needs it.
   EXPECT_EQ(editor->SetApplication(host.application.Get(), 0, 1), static_cast<HRESULT>(0x800A0000 + 429));

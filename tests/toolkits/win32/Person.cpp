@@ -60,10 +60,10 @@ Stage::Stage(win32::Toolkit& toolkit) : toolkit_(toolkit) {
   entry.cbSize = sizeof entry;
   entry.lpfnWndProc = DefWindowProcW;
   entry.hInstance = toolkit.Module();
-  entry.lpszClassName = L"BrivaneProefvenster";
+  entry.lpszClassName = L"BrivaneTestWindow";
   entry.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   RegisterClassExW(&entry);
-  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, entry.lpszClassName, L"Proef", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, entry.lpszClassName, L"Test", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                             40, 40, 900, 640, nullptr, nullptr, toolkit.Module(), nullptr);
   stage = this;
 }

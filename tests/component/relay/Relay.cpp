@@ -1,60 +1,60 @@
-// The relay of the tests: BrivaneProef.Relais.
+// The relay of the tests: BrivaneTest.Relay.
 
 #include <initguid.h>
 
 #include <vector>
 
-#include "Relais_idl.h"
+#include "Relay_idl.h"
 #include "component/automation/Dispatching.h"
 #include "component/testdoor/Interfaces.h"
 #include "tests/component/relay/EventSink.h"
 
-namespace brivane::proef {
+namespace brivane::relay {
 
 using namespace component;
 
 namespace {
 
-constexpr const wchar_t* kProgId = L"Software\\Classes\\BrivaneProef.Relais";
+constexpr const wchar_t* kProgId = L"Software\\Classes\\BrivaneTest.Relay";
 constexpr const wchar_t* kClass = L"Software\\Classes\\CLSID\\{6B0C2F59-3D64-4C39-9A55-0B2F0E7D8D11}";
 
-class Relais final : public DualObject<IRelais> {
+class Relay final : public DualObject<IRelay> {
  public:
-  ~Relais() override { Silence(); }
+  ~Relay() override { EndAll(); }
 
-  STDMETHODIMP Deur(IDispatch* object, IDispatch** door) override {
-    return Answering<IRelais>([&] {
-      const auto holder = ComPtr<IDispatch>(object).As<IProefdeurHouder>();
-      ComPtr<IProefdeur> opened;
-      Check(holder ? holder->Proefdeur(opened.Put()) : E_NOINTERFACE);
+  STDMETHODIMP Door(IDispatch* object, IDispatch** door) override {
+    return Answering<IRelay>([&] {
+      const auto holder = ComPtr<IDispatch>(object).As<ITestDoorHolder>();
+      ComPtr<ITestDoor> opened;
+      Check(holder ? holder->TestDoor(opened.Put()) : E_NOINTERFACE);
       Check(opened.As<IDispatch>().CopyTo(door));
     });
   }
-  STDMETHODIMP Luister(IDispatch* object, IDispatch* listener) override {
-    return Answering<IRelais>([&] { sinks_.push_back(EventSink::Connect(object, listener)); });
+  STDMETHODIMP Listen(IDispatch* object, IDispatch* listener) override {
+    return Answering<IRelay>([&] { sinks_.push_back(EventSink::Connect(object, listener)); });
   }
-  STDMETHODIMP Zwijg() override {
-    return Answering<IRelais>([&] { Silence(); });
+  STDMETHODIMP Silence() override {
+    return Answering<IRelay>([&] { EndAll(); });
   }
-  STDMETHODIMP get_Geladen(VARIANT_BOOL* loaded) override {
+  STDMETHODIMP get_Loaded(VARIANT_BOOL* loaded) override {
     CoFreeUnusedLibrariesEx(0, 0);
-    *loaded = GetModuleHandleW(L"BrivaneVrijeKolom.dll") ? VARIANT_TRUE : VARIANT_FALSE;
+    *loaded = GetModuleHandleW(L"BrivaneVrijeKolomTest.dll") ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;
   }
-  STDMETHODIMP Maak(BSTR progId, IDispatch** object) override {
-    return Answering<IRelais>([&] {
+  STDMETHODIMP Make(BSTR progId, IDispatch** object) override {
+    return Answering<IRelay>([&] {
       CLSID id{};
       Check(CLSIDFromProgID(progId, &id));
       Check(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object)));
     });
   }
-  STDMETHODIMP Zelfde(IDispatch* one, IDispatch* other, VARIANT_BOOL* same) override {
+  STDMETHODIMP Same(IDispatch* one, IDispatch* other, VARIANT_BOOL* same) override {
     *same = ComPtr<IDispatch>(one).IsSameObject(ComPtr<IDispatch>(other)) ? VARIANT_TRUE : VARIANT_FALSE;
     return S_OK;
   }
 
  private:
-  void Silence() {
+  void EndAll() {
     for (const auto& sink : std::exchange(sinks_, {})) sink->Disconnect();
   }
 
@@ -74,7 +74,7 @@ class Factory final : public IClassFactory {
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
     *out = nullptr;
     if (outer) return CLASS_E_NOAGGREGATION;
-    return ComPtr<Relais>::Attach(new Relais)->QueryInterface(iid, out);
+    return ComPtr<Relay>::Attach(new Relay)->QueryInterface(iid, out);
   }
   STDMETHODIMP LockServer(BOOL) override { return S_OK; }
 };
@@ -86,9 +86,9 @@ LSTATUS Write(const std::wstring& key, const wchar_t* name, const std::wstring& 
 
 }  // namespace
 
-}  // namespace brivane::proef
+}  // namespace brivane::relay
 
-using namespace brivane::proef;
+using namespace brivane::relay;
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
   if (reason == DLL_PROCESS_ATTACH) brivane::component::module::Attach(instance);
@@ -98,7 +98,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
 STDAPI DllGetClassObject(REFCLSID id, REFIID iid, LPVOID* out) {
   static Factory factory;
   *out = nullptr;
-  return id == CLSID_Relais ? factory.QueryInterface(iid, out) : CLASS_E_CLASSNOTAVAILABLE;
+  return id == CLSID_Relay ? factory.QueryInterface(iid, out) : CLASS_E_CLASSNOTAVAILABLE;
 }
 
 STDAPI DllCanUnloadNow() { return S_FALSE; }

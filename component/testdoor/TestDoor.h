@@ -15,21 +15,21 @@ namespace brivane::component {
 using DoorAspects = std::function<std::optional<Variant>(std::string_view aspect)>;
 
 /// A door to the surface of an object, counted. It keeps the object alive.
-[[nodiscard]] IProefdeur* NewProefdeur(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
+[[nodiscard]] ITestDoor* NewTestDoor(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
 
 /// A door to an open form, lent for the time of one call. What is kept of it longer fails with error 91.
-class ProefdeurLening {
+class LentDoor {
  public:
-  ProefdeurLening(controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
-  ProefdeurLening(const ProefdeurLening&) = delete;
-  ProefdeurLening& operator=(const ProefdeurLening&) = delete;
-  ~ProefdeurLening();
+  LentDoor(controls::Surface& surface, Hooks& hooks, DoorAspects aspects);
+  LentDoor(const LentDoor&) = delete;
+  LentDoor& operator=(const LentDoor&) = delete;
+  ~LentDoor();
 
   [[nodiscard]] IDispatch* Object() const;
 
  private:
   class Impl;
-  friend IProefdeur* NewProefdeur(IUnknown&, controls::Surface&, Hooks&, DoorAspects);
+  friend ITestDoor* NewTestDoor(IUnknown&, controls::Surface&, Hooks&, DoorAspects);
 
   Impl* door_;
 };

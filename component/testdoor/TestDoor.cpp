@@ -1,4 +1,4 @@
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 
 #include "component/automation/Text.h"
 #include "component/testdoor/Actions.h"
@@ -6,7 +6,7 @@
 
 namespace brivane::component {
 
-class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
+class LentDoor::Impl final : public DualObject<ITestDoor> {
  public:
   Impl(ComPtr<IUnknown> object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
       : object_(std::move(object)), surface_(&surface), hooks_(&hooks), aspects_(std::move(aspects)) {}
@@ -48,8 +48,8 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
 
  private:
   template <class Body> HRESULT OnSurface(Body&& body) {
-    const ComPtr<IProefdeur> self(this);
-    return Answering<IProefdeur>([&] { body(host::Need(surface_)); });
+    const ComPtr<ITestDoor> self(this);
+    return Answering<ITestDoor>([&] { body(host::Need(surface_)); });
   }
 
   static controls::AnyControl& Named(controls::Surface& surface, const std::string& element) {
@@ -64,19 +64,19 @@ class ProefdeurLening::Impl final : public DualObject<IProefdeur> {
   DoorAspects aspects_;
 };
 
-IProefdeur* NewProefdeur(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects) {
-  return new ProefdeurLening::Impl(&object, surface, hooks, std::move(aspects));
+ITestDoor* NewTestDoor(IUnknown& object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects) {
+  return new LentDoor::Impl(&object, surface, hooks, std::move(aspects));
 }
 
-ProefdeurLening::ProefdeurLening(controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
+LentDoor::LentDoor(controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
     : door_(new Impl({}, surface, hooks, std::move(aspects))) {}
 
-ProefdeurLening::~ProefdeurLening() {
+LentDoor::~LentDoor() {
   door_->TakeBack();
   door_->Release();
 }
 
-IDispatch* ProefdeurLening::Object() const { return door_; }
+IDispatch* LentDoor::Object() const { return door_; }
 
 host::Error NoSuch(std::string_view what, std::string_view name) {
   return {5, "No such " + std::string(what) + ": " + std::string(name), "BrivaneVrijeKolom"};

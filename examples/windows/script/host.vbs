@@ -1,11 +1,11 @@
-' Binds the free-column editor to a host that is written as classes of this script, edits the column without a window,
-' and has the host's check done.
+' Binds the free-column editor to a host that is written as classes of this script, has the column checked, and lets
+' everything go.
 '
-'   cscript //nologo edit.vbs
+'   cscript //nologo host.vbs
 '
-' The library must be registered (regsvr32 BrivaneVrijeKolom.dll). A script has no hands: what an adviser would do is
-' done here through the relay that the library's tests use (regsvr32 BrivaneProef.dll). A real host leaves that to the
-' person before the screen, and needs the first half of this file alone.
+' The library must be registered (regsvr32 BrivaneVrijeKolom.dll). The script hears the editor's events through the relay
+' that the library's tests use (regsvr32 BrivaneTestRelay.dll). What an adviser does with the editor on the screen is for
+' a host with a window: see ../container.
 Option Explicit
 
 ' The host's objects. The library reads and writes their members by name; docs/windows.md lists them all.
@@ -98,21 +98,17 @@ Class Listener
     WScript.Echo "header: " & text
   End Sub
   Public Sub HeightChanged()
+    WScript.Echo "laid out"
   End Sub
 End Class
 
-' Answers the editor's message boxes.
-Class Answers
-  Public Function Message(title, text, style)
-    WScript.Echo title & ": " & text
-    Message = 1  ' OK
-  End Function
-End Class
-
-' One loan with one column.
+' One loan with one column: 12 euro a month from April 2031 on, for 14 months.
 Dim application, column1
 Set column1 = New Column
 column1.Omschrijving = "Krant"
+column1.Bedrag.Basisbedrag = 12
+column1.DatumAanvang = DateSerial(2031, 4, 1)
+column1.Looptijd = 14
 Set application = New Host
 Set application.Dossier = New LoanFile
 Set application.Dossier.HuidigeLening = New Loan
@@ -121,36 +117,25 @@ Set application.Dossier.applicant = New Person
 application.Dossier.applicant.Naam = Array("J.", "van", "Dam")
 application.Dossier.applicant.Geboortedatum = DateSerial(1975, 12, 31)
 
-' The editor.
-Dim editor, cancel
+' The editor, bound to column 1 of the current situation.
+Dim editor, relay, cancel
 Set editor = CreateObject("BrivaneVrijeKolom.VrijeKolom")
+Set relay = CreateObject("BrivaneTest.Relay")
+relay.Listen editor, New Listener
 editor.SetApplication application, 0, 1
 
-' The adviser, by way of the relay.
-Dim relay, adviser
-Set relay = CreateObject("BrivaneProef.Relais")
-Set adviser = relay.Deur(editor)
-adviser.Callback = New Answers
-relay.Luister editor, New Listener
-
-cancel = False
-editor.Validation cancel, 1
-WScript.Echo "start date checked, refused: " & CStr(cancel)
-
-adviser.Perform "TxtOm", "enter", "Vereniging"
-adviser.Perform "TxtBd", "enter", 12
-adviser.Perform "TxtDtAanvang", "enter", DateSerial(2031, 4, 1)
-adviser.Perform "TxtAnMaand", "enter", 14
-
-' Each accepted edit is in the record already.
-WScript.Echo column1.Omschrijving & ", " & column1.Bedrag.Basisbedrag & " euro, " & column1.Looptijd & " maanden"
+' The check before the column is left. Where something is wrong, the editor says so in a message box and refuses.
 cancel = False
 editor.Validation cancel
 WScript.Echo "everything checked, refused: " & CStr(cancel)
+editor.BackColor = RGB(255, 255, 255)
+WScript.Echo "background: " & Hex(editor.BackColor)
+
+' A column that there is not.
+editor.SetApplication application, 0, 7
 
 ' Let go of the host's objects, then of the editor.
-relay.Zwijg
+relay.Silence
 editor.SetApplication Nothing, 0, 0
-Set adviser = Nothing
 Set editor = Nothing
 WScript.Echo "done"

@@ -12,7 +12,7 @@ class Identity;
 enum class Usage { Control, Object };
 
 /// One of the library's classes that hosts create.
-struct Klasse {
+struct LibraryClass {
   const CLSID& id;
   const wchar_t* name;         ///< "VrijeKolom"; its ProgID is BrivaneVrijeKolom.VrijeKolom
   const wchar_t* description;  ///< as a person reads it
@@ -25,8 +25,8 @@ struct Klasse {
 inline constexpr int kMajor = 1;
 inline constexpr int kMinor = 0;
 
-[[nodiscard]] std::span<const Klasse> Klassen();
+[[nodiscard]] std::span<const LibraryClass> LibraryClasses();
 /// The class with that identity, or nothing.
-[[nodiscard]] const Klasse* FindKlasse(const CLSID& id);
+[[nodiscard]] const LibraryClass* FindClass(const CLSID& id);
 
 }  // namespace brivane::component

@@ -1,4 +1,4 @@
-#include "component/automation/Vensterhouder.h"
+#include "component/automation/HostWindow.h"
 
 #include "component/automation/LateBound.h"
 #include "component/automation/Toolkit.h"
@@ -30,7 +30,7 @@ HWND FromObject(const ComPtr<IDispatch>& object) {
 
 }  // namespace
 
-HWND HandleVan(const VARIANT& eigenaar) {
+HWND HandleNamedBy(const VARIANT& eigenaar) {
   const Variant plain = Variant::CopyOf(eigenaar);
   switch (plain.Type()) {
     case VT_DISPATCH:
@@ -45,9 +45,9 @@ HWND HandleVan(const VARIANT& eigenaar) {
   }
 }
 
-std::shared_ptr<host::Hoofdvenster> VensterVan(const VARIANT& eigenaar) {
-  const HWND handle = HandleVan(eigenaar);
-  return handle ? std::make_shared<Venster>(handle) : nullptr;
+std::shared_ptr<host::Hoofdvenster> WindowNamedBy(const VARIANT& eigenaar) {
+  const HWND handle = HandleNamedBy(eigenaar);
+  return handle ? std::make_shared<HostWindow>(handle) : nullptr;
 }
 
 }  // namespace brivane::component

@@ -11,8 +11,8 @@ namespace brivane::component {
 /// The owner of a modal form as a host names it: a window handle as a number, an object that is a window
 /// (IOleWindow), or an object with a property `hWnd`. Nothing for Nothing, an argument left out, and an object that
 /// tells no window.
-[[nodiscard]] std::shared_ptr<host::Hoofdvenster> VensterVan(const VARIANT& eigenaar);
+[[nodiscard]] std::shared_ptr<host::Hoofdvenster> WindowNamedBy(const VARIANT& eigenaar);
 /// The window handle that such a value names, or null.
-[[nodiscard]] HWND HandleVan(const VARIANT& eigenaar);
+[[nodiscard]] HWND HandleNamedBy(const VARIANT& eigenaar);
 
 }  // namespace brivane::component
