@@ -11,8 +11,8 @@ QJsonObject Jsonvelden(const Dossier& dossier) {
       const KolomGegevens gegevens = kolom->Gegevens();
       const QString plek = QStringLiteral("%1/%2/").arg(Len_Id).arg(gegevens.Id);
       const auto zet = [&velden](const QString& ervoor) {
-        return [&velden, ervoor](const char* naam, const auto& waarde) {
-          velden.insert(ervoor + QLatin1String(naam), AlsJson(waarde));
+        return [&velden, ervoor](std::string_view naam, const auto& waarde) {
+          velden.insert(ervoor + QString::fromStdString(ColumnName(naam)), AlsJson(waarde));
         };
       };
       BezoekKolom(gegevens, zet(plek));
