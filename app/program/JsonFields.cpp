@@ -11,8 +11,8 @@ QJsonObject JsonFields(const dossier::Dossier& dossier) {
       const dossier::KolomGegevens gegevens = kolom->Gegevens();
       const QString place = QStringLiteral("%1/%2/").arg(Len_Id).arg(gegevens.Id);
       const auto put = [&fields](const QString& prefix) {
-        return [&fields, prefix](const char* name, const auto& value) {
-          fields.insert(prefix + QLatin1String(name), AsJson(value));
+        return [&fields, prefix](std::string_view name, const auto& value) {
+          fields.insert(prefix + QString::fromStdString(dossier::ColumnName(name)), AsJson(value));
         };
       };
       dossier::BezoekKolom(gegevens, put(place));

@@ -5,30 +5,27 @@
 
 #include "dossier/model/Environment.h"
 #include "host/model/BedragObject.h"
+#include "host/model/PeriodeFields.h"
 
 namespace brivane::dossier {
 
 /// One entry of a scenario.
-class Periode : public host::Periode {
+class Periode : public host::PeriodeByField<Periode> {
  public:
   Periode(std::shared_ptr<Environment> omgeving, PeriodeGegevens gegevens);
-
-  [[nodiscard]] std::int16_t Maand() const override { return gegevens_.Maand; }
-  void SetMaand(std::int16_t maand) override;
-  [[nodiscard]] double Bedrag() const override { return gegevens_.Bedrag; }
-  void SetBedrag(double bedrag) override;
-  [[nodiscard]] double Percentage() const override { return gegevens_.Percentage; }
-  void SetPercentage(double percentage) override;
-  [[nodiscard]] double Korting() const override { return gegevens_.Korting; }
-  void SetKorting(double korting) override;
-  [[nodiscard]] bool Eenmalig() const override { return gegevens_.Eenmalig; }
-  void SetEenmalig(bool eenmalig) override;
 
   [[nodiscard]] const PeriodeGegevens& Gegevens() const { return gegevens_; }
   /// Takes over what is stored, telling nobody.
   void Herlaad(const PeriodeGegevens& gegevens) { gegevens_ = gegevens; }
 
  private:
+  friend host::PeriodeByField<Periode>;
+  template <class Field> auto ReadField(const Field& field) const { return gegevens_.*field.value; }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld{field.name}, AlsWaarde(waarde));
+    gegevens_.*field.value = waarde;
+  }
+
   std::shared_ptr<Environment> omgeving_;
   PeriodeGegevens gegevens_;
 };

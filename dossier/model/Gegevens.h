@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "host/Date.h"
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
 
 /// The contents of a loan file as plain values: what a file is read into and a case is made from.
 namespace brivane::dossier {
@@ -16,13 +18,8 @@ namespace brivane::dossier {
 /// that was not stored yet. Not shown to anyone.
 using Sleutel = std::int64_t;
 
-struct PeriodeGegevens {
+struct PeriodeGegevens : host::PeriodeValues {
   dossier::Sleutel Sleutel = 0;
-  std::int16_t Maand = 0;
-  double Bedrag = 0;
-  double Percentage = 0;
-  double Korting = 0;
-  bool Eenmalig = false;
 
   friend bool operator==(const PeriodeGegevens&, const PeriodeGegevens&) = default;
 };
@@ -36,37 +33,9 @@ struct BedragGegevens {
   friend bool operator==(const BedragGegevens&, const BedragGegevens&) = default;
 };
 
-/// One free column. The defaults are a valid recurring cost of the applicant.
-struct KolomGegevens {
+/// One free column.
+struct KolomGegevens : host::VrijeKolomValues {
   dossier::Sleutel Sleutel = 0;
-  std::int16_t Id = 1;
-  std::int16_t CorrectieLast = 1;
-  std::int16_t CorrectieFiscaal = 1;
-  std::int16_t HeffingBij = 1;
-  std::string Omschrijving;
-  std::int16_t Termijn = 1;
-  bool InkomenUitArbeid = false;
-  bool InDagloon = false;
-  host::Date DatumAanvang;
-  std::int32_t Looptijd = 0;
-  host::Date Contractvervaldatum;
-  bool IsProduct = false;
-  std::string Maatschappij;
-  std::string MaatschappijNaam;
-  std::int16_t Productsoort = 0;
-  std::string ProductsoortOmschrijving;
-  std::string Productnaam;
-  bool UwBemiddeling = false;
-  std::array<std::string, 3> Voorstel;
-  std::string Weergave;
-  std::string Kopregel;
-  bool UitsluitenAO = false;
-  bool UitsluitenWW = false;
-  bool UitsluitenLangleven = false;
-  bool ScenarioOverlijden = false;
-  float PercentageOvergang = 0;
-  host::Date EinddatumOvergang;
-  std::int16_t EindleeftijdOvergang = 0;
   BedragGegevens Bedrag;
 
   friend bool operator==(const KolomGegevens&, const KolomGegevens&) = default;

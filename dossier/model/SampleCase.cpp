@@ -27,7 +27,7 @@ KolomGegevens Kinderopvang() {
   kolom.CorrectieFiscaal = 3;
   kolom.DatumAanvang = Datum(1, 9, 2024);
   kolom.Looptijd = 96;
-  kolom.Bedrag.Perioden = {{.Maand = 36, .Bedrag = 310}, {.Maand = 60, .Bedrag = 165}};
+  kolom.Bedrag.Perioden = {{{.Maand = 36, .Bedrag = 310}}, {{.Maand = 60, .Bedrag = 165}}};
   return kolom;
 }
 
@@ -78,7 +78,7 @@ KolomGegevens Lijfrente() {
   kolom.CorrectieFiscaal = 2;
   kolom.Termijn = 12;
   kolom.Bedrag.Invoersoort = 3;
-  kolom.Bedrag.Perioden = {{.Maand = 13, .Percentage = 2}};
+  kolom.Bedrag.Perioden = {{{.Maand = 13, .Percentage = 2}}};
   kolom.DatumAanvang = Datum(31, 1, 2028);
   kolom.Looptijd = 240;
   kolom.ScenarioOverlijden = true;
@@ -127,7 +127,7 @@ DossierGegevens VoorbeeldDossier() {
   // In the first new loan the childcare is reckoned lower; all else follows the current situation.
   KolomGegevens afwijking = Kinderopvang();
   afwijking.Bedrag.Bedrag = 310;
-  afwijking.Bedrag.Perioden = {{.Maand = 36, .Bedrag = 165}};
+  afwijking.Bedrag.Perioden = {{{.Maand = 36, .Bedrag = 165}}};
   KolomGegevens onderhoud = Kolom(7, "Onderhoud zonnepanelen", 95);
   onderhoud.Termijn = 12;
   onderhoud.DatumAanvang = Datum(1, 3, 2027);

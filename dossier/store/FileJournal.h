@@ -2,8 +2,10 @@
 
 #include <QSqlQuery>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "dossier/model/Journal.h"
 #include "dossier/store/Database.h"
@@ -62,8 +64,9 @@ class FileJournal : public Journal, private Edits::Transactions {
   bool unreadable_ = false;
   std::optional<QSqlQuery> begin_;
   std::optional<QSqlQuery> commit_;
-  std::optional<QSqlQuery> kolomvelden_[kKolomVelden];
-  std::optional<QSqlQuery> periodevelden_[kPeriodeVelden];
+  /// By the name of the field.
+  std::map<std::string_view, std::optional<QSqlQuery>> kolomvelden_;
+  std::map<std::string_view, std::optional<QSqlQuery>> periodevelden_;
   std::optional<QSqlQuery> verwijder_periode_;
   Edits edits_{*this};
 };

@@ -70,8 +70,8 @@ class Rij {
   int plaats_ = 0;
 };
 
-template <class Value> QString Uitdrukking(const char* naam, const Value&) {
-  const QString kolom = QString::fromLatin1(naam);
+template <class Value> QString Uitdrukking(std::string_view naam, const Value&) {
+  const QString kolom = QString::fromStdString(ColumnName(naam));
   return std::same_as<Value, std::string> ? QStringLiteral("CAST(%1 AS BLOB)").arg(kolom) : kolom;
 }
 
@@ -118,7 +118,7 @@ std::vector<Opbouw> LeesLeningen(Database& database) {
 void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
   QStringList namen = {QStringLiteral("lening"), QStringLiteral("volgorde"), QStringLiteral("sleutel")};
   const KolomGegevens voorbeeld;
-  BezoekKolom(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekKolom(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
   const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
   VoorElkeRij(database, sql, [&](Rij& rij) {
     Sleutel sleutel = 0;
@@ -129,7 +129,7 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
     rij.LeesSleutel(opbouw->volgorde.emplace_back());
     KolomGegevens& kolom = opbouw->lening.VrijeKolommen.emplace_back();
     rij.LeesSleutel(kolom.Sleutel);
-    BezoekKolom(kolom, [&](const char*, auto& waarde) { rij.Lees(waarde); });
+    BezoekKolom(kolom, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
   });
 }
 
@@ -138,7 +138,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
   Sleutel hoogste = 0;
   QStringList namen = {QStringLiteral("kolom"), QStringLiteral("sleutel")};
   const PeriodeGegevens voorbeeld;
-  BezoekPeriode(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekPeriode(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
   std::unordered_map<Sleutel, std::vector<PeriodeGegevens>*> perioden;
   const auto aantal = [](std::size_t som, const Opbouw& opbouw) { return som + opbouw.volgorde.size(); };
   perioden.reserve(std::accumulate(leningen.begin(), leningen.end(), std::size_t{0}, aantal));
@@ -157,7 +157,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
     if (eigenaar == perioden.end()) Beschadigd();
     PeriodeGegevens& periode = eigenaar->second->emplace_back();
     rij.LeesSleutel(periode.Sleutel);
-    BezoekPeriode(periode, [&](const char*, auto& waarde) { rij.Lees(waarde); });
+    BezoekPeriode(periode, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
     hoogste = periode.Sleutel;
   });
   return hoogste;

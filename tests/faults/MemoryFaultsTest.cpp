@@ -94,7 +94,7 @@ dossier::DossierGegevens Gegevens() {
   kolom.EinddatumOvergang = host::Date(51136);
   kolom.EindleeftijdOvergang = 65;
   kolom.Bedrag.Bedrag = 100;
-  kolom.Bedrag.Perioden = {{.Maand = 13, .Bedrag = 200}, {.Maand = 25, .Bedrag = 250, .Eenmalig = true}};
+  kolom.Bedrag.Perioden = {{{.Maand = 13, .Bedrag = 200}}, {{.Maand = 25, .Bedrag = 250, .Eenmalig = true}}};
   dossier::DossierGegevens gegevens;
   gegevens.Personen = {{{"Johannes Wilhelmus", "van den", "Oudenaarden-Wittewaal"}, host::Date(25000)},
                        {{"Anna", "de", "Wit"}, host::Date(26000)}};

@@ -8,48 +8,20 @@
 #include <utility>
 #include <vector>
 
-#include "host/model/VrijeKolomItem.h"
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
 #include "tests/support/CallLog.h"
 
 /// The record of a free column, its amount and its periods, with their data open to the test.
 namespace brivane::test {
 
-struct PeriodeVelden {
-  std::int16_t Maand = 0;
-  double Bedrag = 0;
-  double Percentage = 0;
-  double Korting = 0;
-  bool Eenmalig = false;
-};
+using PeriodeVelden = host::PeriodeValues;
 
-struct KolomVelden {
-  std::int16_t CorrectieLast = 1;
-  std::int16_t CorrectieFiscaal = 1;
-  std::int16_t HeffingBij = 1;
-  std::string Omschrijving;
-  std::int16_t Termijn = 1;
-  bool InkomenUitArbeid = false;
-  bool InDagloon = false;
-  host::Date DatumAanvang;
-  std::int32_t Looptijd = 0;
-  host::Date Contractvervaldatum;
-  bool IsProduct = false;
-  std::string Maatschappij;
-  std::string MaatschappijNaam;
-  std::int16_t Productsoort = 0;
-  std::string ProductsoortOmschrijving;
-  std::string Productnaam;
-  bool UwBemiddeling = false;
-  std::array<std::string, 3> Voorstel;
-  std::string Weergave = "de weergave";
-  std::string Kopregel = "de kopregel";
-  bool UitsluitenAO = false;
-  bool UitsluitenWW = false;
-  bool UitsluitenLangleven = false;
-  bool ScenarioOverlijden = false;
-  float PercentageOvergang = 0;
-  host::Date EinddatumOvergang;
-  std::int16_t EindleeftijdOvergang = 0;
+struct KolomVelden : host::VrijeKolomValues {
+  KolomVelden() {
+    Weergave = "de weergave";
+    Kopregel = "de kopregel";
+  }
 };
 
 /// Tells reads and writes of fields to the calls under "PREFIX.FIELD", or fails as planned.
@@ -78,21 +50,17 @@ class Told {
   std::string prefix_;
 };
 
-// A getter and a setter of a field that an interface names.
-#define BRIVANE_TOLD(Type, Parameter, Name)                                    \
-  [[nodiscard]] Type Name() const override { return Get(#Name, velden.Name); } \
-  void Set##Name(Parameter waarde) override { Set(#Name, velden.Name, waarde); }
-
-class TestPeriode final : public host::Periode, private Told {
+class TestPeriode final : public host::PeriodeByField<TestPeriode>, private Told {
  public:
   explicit TestPeriode(CallLog& calls, PeriodeVelden begin = {}) : Told(calls, "Periode."), velden(begin) {}
   PeriodeVelden velden;
 
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Maand)
-  BRIVANE_TOLD(double, double, Bedrag)
-  BRIVANE_TOLD(double, double, Percentage)
-  BRIVANE_TOLD(double, double, Korting)
-  BRIVANE_TOLD(bool, bool, Eenmalig)
+ private:
+  friend host::PeriodeByField<TestPeriode>;
+  template <class Field> auto ReadField(const Field& field) const { return Get(field.name, velden.*field.value); }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    Set(field.name, velden.*field.value, waarde);
+  }
 };
 
 class TestBedrag final : public host::BedragObject, private Told {
@@ -127,7 +95,7 @@ class TestBedrag final : public host::BedragObject, private Told {
   }
 };
 
-class TestKolom final : public host::VrijeKolomItem, private Told {
+class TestKolom final : public host::VrijeKolomByField<TestKolom>, private Told {
  public:
   TestKolom(CallLog& calls, std::int16_t id) : Told(calls, ""), bedrag(std::make_shared<TestBedrag>(calls)), id_(id) {}
   KolomVelden velden;
@@ -141,8 +109,6 @@ class TestKolom final : public host::VrijeKolomItem, private Told {
     calls_.Reach("Bedrag", Op::Get);
     return bedrag;
   }
-  [[nodiscard]] std::string Weergave() const override { return Get("Weergave", velden.Weergave); }
-  [[nodiscard]] std::string Kopregel() const override { return Get("Kopregel", velden.Kopregel); }
   [[nodiscard]] std::string Voorstel(std::int16_t nummer) const override {
     return Get("Voorstel(" + Show(nummer) + ')', velden.Voorstel.at(static_cast<std::size_t>(nummer - 1)));
   }
@@ -150,38 +116,16 @@ class TestKolom final : public host::VrijeKolomItem, private Told {
     Set("Voorstel(" + Show(nummer) + ')', velden.Voorstel.at(static_cast<std::size_t>(nummer - 1)), lidmaatschap);
   }
 
-  BRIVANE_TOLD(std::int16_t, std::int16_t, CorrectieLast)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, CorrectieFiscaal)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, HeffingBij)
-  BRIVANE_TOLD(std::string, const std::string&, Omschrijving)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Termijn)
-  BRIVANE_TOLD(bool, bool, InkomenUitArbeid)
-  BRIVANE_TOLD(bool, bool, InDagloon)
-  BRIVANE_TOLD(host::Date, host::Date, DatumAanvang)
-  BRIVANE_TOLD(std::int32_t, std::int32_t, Looptijd)
-  BRIVANE_TOLD(host::Date, host::Date, Contractvervaldatum)
-  BRIVANE_TOLD(bool, bool, IsProduct)
-  BRIVANE_TOLD(std::string, const std::string&, Maatschappij)
-  BRIVANE_TOLD(std::string, const std::string&, MaatschappijNaam)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Productsoort)
-  BRIVANE_TOLD(std::string, const std::string&, ProductsoortOmschrijving)
-  BRIVANE_TOLD(std::string, const std::string&, Productnaam)
-  BRIVANE_TOLD(bool, bool, UwBemiddeling)
-  BRIVANE_TOLD(bool, bool, UitsluitenAO)
-  BRIVANE_TOLD(bool, bool, UitsluitenWW)
-  BRIVANE_TOLD(bool, bool, UitsluitenLangleven)
-  BRIVANE_TOLD(bool, bool, ScenarioOverlijden)
-  BRIVANE_TOLD(float, float, PercentageOvergang)
-  BRIVANE_TOLD(host::Date, host::Date, EinddatumOvergang)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, EindleeftijdOvergang)
-
  private:
+  friend host::VrijeKolomByField<TestKolom>;
+  template <class Field> auto ReadField(const Field& field) const { return Get(field.name, velden.*field.value); }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    Set(field.name, velden.*field.value, waarde);
+  }
   void Adjust(std::string_view naam) override {
     if (adjust) adjust(velden, naam);
   }
   std::int16_t id_;
 };
-
-#undef BRIVANE_TOLD
 
 }  // namespace brivane::test

@@ -26,7 +26,7 @@ class ScenarioTest : public WindowTest {
     kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 1});
     kolom.Bedrag.Invoersoort = 3;
     kolom.Bedrag.Bedrag = 900;
-    kolom.Bedrag.Perioden = {{.Maand = 1, .Percentage = 1}};
+    kolom.Bedrag.Perioden = {{{.Maand = 1, .Percentage = 1}}};
     gegevens.HuidigeLening.VrijeKolommen = {kolom};
     gegevens.Leningen[0].VrijeKolommen.clear();
     file_ = folder_.filePath("scenario.dossier");

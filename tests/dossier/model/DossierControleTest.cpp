@@ -60,7 +60,7 @@ TEST(ControleerDossier, FindsWhatAColumnLacks) {
 TEST(ControleerDossier, TakesAScenarioForAnAmount) {
   EXPECT_THAT(Found([](KolomGegevens& kolom) {
                 kolom.Bedrag.Bedrag = 0;
-                kolom.Bedrag.Perioden = {{.Maand = 12, .Bedrag = 5}};
+                kolom.Bedrag.Perioden = {{{.Maand = 12, .Bedrag = 5}}};
               }),
               IsEmpty());
 }

@@ -53,8 +53,8 @@ KolomGegevens FullKolom() {
   kolom.Bedrag.Naam = "Overbruggingskrediet";
   kolom.Bedrag.Invoersoort = 3;
   kolom.Bedrag.Bedrag = 0.1 + 0.2;
-  kolom.Bedrag.Perioden = {{.Maand = 25, .Bedrag = -200.05, .Percentage = 1.5, .Korting = 0.25, .Eenmalig = true},
-                           {.Maand = 13, .Bedrag = 1e300, .Percentage = -7, .Korting = 3, .Eenmalig = false}};
+  kolom.Bedrag.Perioden = {{{.Maand = 25, .Bedrag = -200.05, .Percentage = 1.5, .Korting = 0.25, .Eenmalig = true}},
+                           {{.Maand = 13, .Bedrag = 1e300, .Percentage = -7, .Korting = 3, .Eenmalig = false}}};
   return kolom;
 }
 
