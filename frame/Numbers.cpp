@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "frame/Doubles.h"
 #include "frame/Trim.h"
 
 namespace brivane::frame {
@@ -121,8 +122,7 @@ Reading<double> Read(std::string_view text, const Style& style) {
   std::string plain = digits.empty() ? "0" : digits;
   plain += '.';
   plain += parts.decimals.empty() ? "0" : parts.decimals;
-  double value = 0;
-  std::from_chars(plain.data(), plain.data() + plain.size(), value);
+  const double value = NearestDouble(plain);
   return parts.negative && value != 0 ? -value : value;
 }
 

@@ -1,6 +1,5 @@
 #include "scenario/Laden.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 
@@ -44,7 +43,10 @@ std::vector<Renterij> LaadPercentages(int rijen, Kortingkolom kolom, double basi
                                       std::span<const RelatievePost> posten) {
   const Renterij begin{ZoalsIngevoerd(basis, basis, [](double ingevoerd) { return ingevoerd; }), 0};
   std::vector<Renterij> resultaat(static_cast<std::size_t>(rijen), begin);
-  for (const RelatievePost& post : posten) std::ranges::fill(Vanaf(resultaat, post.maand), RijVoor(post, kolom, basis));
+  for (const RelatievePost& post : posten) {
+    const Renterij nieuw = RijVoor(post, kolom, basis);
+    for (Renterij& rij : Vanaf(resultaat, post.maand)) rij = nieuw;
+  }
   return resultaat;
 }
 
@@ -53,7 +55,7 @@ std::vector<double> LaadGroei(int rijen, std::span<const Groeipost> posten) {
   for (const Groeipost& post : posten) {
     const double percentage =
         ZoalsIngevoerd(post.percentage, post.percentage, [](double ingevoerd) { return ingevoerd; });
-    std::ranges::fill(Vanaf(resultaat, post.maand), percentage);
+    for (double& rij : Vanaf(resultaat, post.maand)) rij = percentage;
   }
   return resultaat;
 }

@@ -1,0 +1,36 @@
+#include "frame/Doubles.h"
+
+#include <charconv>
+#include <limits>
+#include <locale>
+#include <sstream>
+#include <string>
+#include <system_error>
+
+namespace brivane::frame {
+
+double NearestDouble(std::string_view digits) {
+#ifdef __cpp_lib_to_chars
+  double value = 0;
+  const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  // Too large and too small to tell from zero are the same error; without an exponent only the first has a digit in
+  // front.
+  if (read.ec != std::errc::result_out_of_range) return value;
+  return digits.substr(0, digits.find('.')).find_first_not_of('0') == std::string_view::npos
+             ? 0
+             : std::numeric_limits<double>::infinity();
+#else
+  return NearestDoubleByStream(digits);
+#endif
+}
+
+double NearestDoubleByStream(std::string_view digits) {
+  std::istringstream stream{std::string(digits)};
+  stream.imbue(std::locale::classic());
+  double value = 0;
+  // Out of range the stream fails and stores the largest number.
+  if (stream >> value) return value;
+  return value == 0 ? 0 : std::numeric_limits<double>::infinity();
+}
+
+}  // namespace brivane::frame

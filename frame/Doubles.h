@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+/// Doubles as text for machines: plain digits with a point, whatever the locale of the process.
+namespace brivane::frame {
+
+/// The double that stands nearest to plain digits, "1234.5" (halfway: the even one); infinite where none is large
+/// enough. The text has no sign and no exponent, and a digit at its front.
+[[nodiscard]] double NearestDouble(std::string_view digits);
+
+/// The same for a standard library that reads doubles through streams alone.
+[[nodiscard]] double NearestDoubleByStream(std::string_view digits);
+
+}  // namespace brivane::frame
