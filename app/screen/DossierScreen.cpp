@@ -58,8 +58,7 @@ Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::share
   resize(boomBreed + kolom_->sizeHint().width(), height());
   setSizes({boomBreed, width() - boomBreed});
 
-  scenarioopslag_ = std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(),
-                                                     bestand_->Bewerkingen());
+  scenarioopslag_ = std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), bestand_->Bewerkingen());
   Verbind(opname);
   const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
   Toon(kolommen.empty() ? Plek{} : kolommen.front());

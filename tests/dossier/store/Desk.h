@@ -36,7 +36,7 @@ class Werkplek {
               return std::make_shared<DossierControle>([this] { return toolkit_.Desktop().Today(); });
             }};
     editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
-    scenario_ = std::make_unique<Scenarioopslag>(*editor_, toolkit_, *edits_);
+    scenario_ = std::make_unique<Scenarioopslag>(*editor_, *edits_);
   }
   explicit Werkplek(DossierBestand& bestand) : Werkplek(bestand.Dossier(), bestand.GedeeldeBewerkingen()) {}
 

@@ -213,6 +213,30 @@ TEST_F(EditorOpBestand, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWithI
   EXPECT_TRUE(werk_.fouten.empty());
 }
 
+TEST_F(EditorOpBestand, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransactionBeforeItTells) {
+  int meldingen = 0;
+  werk_.Toolkit().Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
+    ++meldingen;
+    // Nothing is undone: the list was emptied before the third row could not be read.
+    EXPECT_EQ(KolomOpSchijf(1).Bedrag.Perioden, bestand_->Dossier()->ZoekKolom(0, 1)->Gegevens().Bedrag.Perioden);
+    EXPECT_NE(KolomOpSchijf(1).Bedrag.Perioden.size(), 2u);
+    return host::MessageAnswer::Ok;
+  };
+  werk_.Toolkit().modal = [&](controls::Form& form) {
+    form.Find("txtBedrag", 3)->Perform(Enter{std::string("drie")});
+    EXPECT_EQ(TransactiesVan([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_FALSE(form.IsUnloaded());
+    EXPECT_EQ(TransactiesVan([&] { form.Find("txtBedrag", 1)->Perform(Enter{700.0}); }), 1);
+    EXPECT_EQ(KolomOpSchijf(1).Bedrag.Bedrag, 700);
+    form.Find("txtBedrag", 3)->Perform(Enter{600.0});
+    EXPECT_EQ(TransactiesVan([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_TRUE(form.IsUnloaded());
+  };
+  EXPECT_EQ(werk_.Doe("cmdScenario", Press{}), Outcome::Done);
+  EXPECT_EQ(meldingen, 1);
+  EXPECT_EQ(bestand_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOpSchijf(1));
+}
+
 TEST_F(EditorOpBestand, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
   const std::vector<PeriodeGegevens> eerst = KolomOpSchijf(1).Bedrag.Perioden;
   werk_.Toolkit().modal = [&](controls::Form& form) { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); };
