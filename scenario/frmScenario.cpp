@@ -286,9 +286,20 @@ void frmScenario::cmdOK_Click() {
       ControleerOpname(Cancel, kControleOpname);
       if (Cancel) return;
     }
-    Bewaar(soort);
+    BewaarAlsGeheel(soort);
     form_->Unload();
   });
+}
+
+void frmScenario::BewaarAlsGeheel(Invoersoort soort) {
+  OpslagBegint.Raise();
+  try {
+    Bewaar(soort);
+  } catch (...) {
+    OpslagEindigt.Raise();
+    throw;
+  }
+  OpslagEindigt.Raise();
 }
 
 void frmScenario::Bewaar(Invoersoort soort) {

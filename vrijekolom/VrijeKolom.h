@@ -105,12 +105,18 @@ class VrijeKolom {
   void ControleerEinde(bool& Cancel);
   void Weiger(bool& Cancel, std::string_view titel, std::string_view melding);
   void WerkVoorstellenBij();
+
+  // Fiscal options
   void Check_FraFiscaal();
 
-  // Term, proposals and scenario
+  // Term
   void CboTermijn_Click();
   void LeegScenario();
+
+  // Proposals
   void ChkVoorstel_Click(std::int16_t Index);
+
+  // Scenario
   void cmdScenario_Click();
   [[nodiscard]] std::int16_t JarenTotLeeftijdsgrens();
 

@@ -59,8 +59,7 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
   resize(treeWidth + kolom_->sizeHint().width(), height());
   setSizes({treeWidth, width() - treeWidth});
 
-  scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(),
-                                                             file_->Bewerkingen());
+  scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), file_->Bewerkingen());
   Connect(recording);
   const std::vector<Place> kolommen = AllKolommen(Dossier());
   Show(kolommen.empty() ? Place{} : kolommen.front());

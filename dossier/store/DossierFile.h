@@ -21,7 +21,7 @@ class FileJournal;
 ///     auto bestand = DossierFile::Open(pad);   // OpeningError: show its Melding()
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
 ///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
-///     ScenarioTransaction scenario(editor, toolkit, bestand->Bewerkingen());
+///     ScenarioTransaction scenario(editor, bestand->Bewerkingen());
 ///     const auto failed = bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */
 ///     });
 ///

@@ -36,7 +36,7 @@ class Desk {
               return std::make_shared<DossierControle>([this] { return toolkit_.Desktop().Today(); });
             }};
     editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
-    scenario_ = std::make_unique<ScenarioTransaction>(*editor_, toolkit_, *edits_);
+    scenario_ = std::make_unique<ScenarioTransaction>(*editor_, *edits_);
   }
   explicit Desk(DossierFile& file) : Desk(file.Dossier(), file.GedeeldeBewerkingen()) {}
 

@@ -213,6 +213,30 @@ TEST_F(EditorOnFileTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWith
   EXPECT_TRUE(desk_.reports.empty());
 }
 
+TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransactionBeforeItTells) {
+  int messages = 0;
+  desk_.Toolkit().Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
+    ++messages;
+    // Nothing is undone: the list was emptied before the third row could not be read.
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, file_->Dossier()->ZoekKolom(0, 1)->Gegevens().Bedrag.Perioden);
+    EXPECT_NE(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
+    return host::MessageAnswer::Ok;
+  };
+  desk_.Toolkit().modal = [&](controls::Form& form) {
+    form.Find("txtBedrag", 3)->Perform(Enter{std::string("drie")});
+    EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_FALSE(form.IsUnloaded());
+    EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 1)->Perform(Enter{700.0}); }), 1);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Bedrag, 700);
+    form.Find("txtBedrag", 3)->Perform(Enter{600.0});
+    EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_TRUE(form.IsUnloaded());
+  };
+  EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
+  EXPECT_EQ(messages, 1);
+  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+}
+
 TEST_F(EditorOnFileTest, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
   const std::vector<PeriodeGegevens> before = KolomOnDisk(1).Bedrag.Perioden;
   desk_.Toolkit().modal = [&](controls::Form& form) { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); };
