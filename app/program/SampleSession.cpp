@@ -2,235 +2,154 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QMessageBox>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <stdexcept>
 
-#include "app/program/DarkPalette.h"
-#include "app/program/Transcript.h"
+#include "app/program/MessageBoxes.h"
+#include "app/program/Pictures.h"
+#include "app/program/WindowSubject.h"
 #include "app/screen/MainWindow.h"
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
-#include "scenario/frmScenario.h"
+#include "replay/play/Session.h"
+
+/// Resources of a library are there once somebody asked for them. The name is looked up in no namespace.
+static void InitResources() { Q_INIT_RESOURCE(program); }
 
 namespace brivane::app {
 namespace {
 
-using controls::Enter;
-
-host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
-
-/// Closes each box that the window itself shows, and keeps what the first one said: nobody is there to read it.
-class Boxes final : public QObject {
- public:
-  Boxes() { QApplication::instance()->installEventFilter(this); }
-  [[nodiscard]] const QString& First() const { return first_; }
-
-  bool eventFilter(QObject* object, QEvent* event) override {
-    auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
-    if (box != nullptr) {
-      if (first_.isEmpty()) first_ = (box->text() + u' ' + box->informativeText()).simplified();
-      QTimer::singleShot(0, box, &QDialog::reject);
-    }
-    return QObject::eventFilter(object, event);
-  }
-
- private:
-  QString first_;
+/// A picture, and the step of the session after which it is made.
+struct Moment {
+  const char* step;
+  const char* picture;
 };
 
-/// One session on an open file. A step that is not done as it should ends it with an exception.
-class Session {
- public:
-  Session(MainWindow& window, const QDir& folder, const Boxes& boxes)
-      : boxes_(boxes),
-        window_(window),
-        folder_(folder),
-        screen_(*window.Screen()),
-        editor_(screen_.Kolom().Editor()),
-        transcript_(folder.filePath(QStringLiteral("transcript.jsonl")), screen_.Dossier()) {
-    if (!transcript_.IsOpen()) throw std::runtime_error("cannot write the transcript");
-    editor_.Toolkit().AddListener(transcript_);
-    editor_.Toolkit().Desktop().answer = [this](const std::string& title, const std::string& text,
-                                                host::MessageStyle style) { return Answer(title, text, style); };
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &window_, [this](const QString& text) {
-      transcript_.Write({{u"refreshTopDisplay"_qs, text}});
-    });
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &window_, [this] {
-      transcript_.Write({{u"heightChanged"_qs, editor_.sizeHint().height()}});
-    });
-    QObject::connect(&screen_, &DossierScreen::stored, &window_, [this] { transcript_.Stored(); });
-  }
-  ~Session() {
-    // A session that came to its end has closed the file, and the editor with it.
-    if (window_.Screen() == nullptr) return;
-    editor_.Toolkit().RemoveListener(transcript_);
-    editor_.Toolkit().Desktop().answer = nullptr;
-    editor_.disconnect(&window_);
-    screen_.disconnect(&window_);
-  }
-  Session(const Session&) = delete;
-  Session& operator=(const Session&) = delete;
+constexpr Moment kMoments[] = {
+    {"10", "recurring-cost"}, {"13", "newspaper"}, {"17", "death-transition"}, {"19.4", "scenario"}};
 
-  void Play() {
-    TerugkerendeLast();
-    Krant();
-    Overlijden();
-    NieuweKolom();
-    Scenario();
-    ZonderPartner();
+/// The column that the session fills in first.
+constexpr Place kAdded{0, 8};
+/// A column of whose amount a part goes over to the partner on death.
+constexpr Place kToPartner{0, 3};
+
+void Must(bool done, const QString& what) {
+  if (!done) throw std::runtime_error("not done: " + what.toStdString());
+}
+
+/// What a step acts on.
+std::string NameOf(const replay::Step& step) {
+  const auto* act = std::get_if<replay::ActStep>(&step.what);
+  return act != nullptr ? act->control : step.name;
+}
+
+/// The session in a window of its own. What is not done as it should ends it with an exception.
+class Showing {
+ public:
+  Showing(const QDir& folder, const QString& log)
+      : folder_(folder),
+        transcript_(folder.filePath(QStringLiteral("transcript.jsonl"))),
+        eventLog_(log),
+        window_(eventLog_) {
+    if (!transcript_.open(QIODevice::WriteOnly | QIODevice::Truncate))
+      throw std::runtime_error("cannot write the transcript");
+    // Pictures are alike on every machine, whatever its screen.
+    window_.resize(MainWindow::kFirstSize);
+    window_.show();
+  }
+
+  void Play(const QString& path) {
+    Open(path);
+    if (!Dossier().ZoekKolom(kAdded.Len_Id, *kAdded.Vrij_Id)) Must(window_.Screen()->AddKolom(), "adding a column");
+    playing_ = true;
+    session_->Run();
+    playing_ = false;
+    if (!problem_.empty()) throw std::runtime_error(problem_);
+    Must(pictures_ == std::size(kMoments), "every picture");
+    TakePartnerOut();
+    Must(window_.CloseDossier(), "closing the file");
   }
 
  private:
-  static void Must(bool done, const std::string& what) {
-    if (!done) throw std::runtime_error("not done: " + what);
+  [[nodiscard]] dossier::Dossier& Dossier() { return window_.Screen()->Dossier(); }
+
+  /// Shows the file, with the session between its editor and its host.
+  void Open(const QString& path) {
+    std::unique_ptr<dossier::DossierFile> file = dossier::DossierFile::Open(path);
+    window_.instrument = [this, dossier = file->Dossier()](EditorHost host) {
+      const auto make = [this](const replay::Document& document, replay::InstrumentedHost&,
+                               replay::Audience& audience) {
+        return MakeWindowSubject(*window_.Screen(), document, audience);
+      };
+      session_ = std::make_unique<replay::Session>(
+          document_, [this](std::string_view line) { Note(line); },
+          replay::LiveHost{dossier, std::move(host.application), std::move(host.factories)}, make);
+      session_->stepped = [this](const std::string& number, const replay::Step& step) { return After(number, step); };
+      return EditorHost{session_->Host().Application(), session_->Host().Factories()};
+    };
+    window_.Show(std::move(file));
   }
 
-  void TerugkerendeLast() {
-    GoTo({0, 1});
-    Do("TxtDtAanvang", Enter{DateOf(1, 9, 2025)});
-    Do("TxtAnJaar", Enter{9.0});
-    Do("TxtAnMaand", Enter{14.0});
-    Do("TxtBd", Enter{512.75});
-    Picture("recurring-cost");
+  void Note(std::string_view line) {
+    if (!playing_) return;
+    transcript_.write(line.data(), static_cast<qint64>(line.size()));
+    transcript_.write("\n");
+    transcript_.flush();
+    if (problem_.empty() && (line.starts_with("{\"failed\"") || line.starts_with("{\"ignored\"")))
+      problem_ = "not done: " + std::string(line);
   }
 
-  void Krant() {
-    GoTo({0, 2});
-    Do("txtProductnaam", Enter{std::string("De Maasbode, dagelijks")});
-    Do("txtVervaldatum", Enter{DateOf(30, 6, 2029)});
-    Picture("newspaper");
-  }
-
-  void Overlijden() {
-    GoTo({0, 3});
-    Do("Toelichting.jnOverlijden", controls::Toggle{host::kJa});
-    Do("Toelichting.TxtPcOvergang", Enter{62.5});
-    Do("Toelichting.txtEinddatum", Enter{DateOf(1, 3, 2049)});
-    Picture("death-transition");
-  }
-
-  /// Left too early it is refused: a column needs a start date.
-  void NieuweKolom() {
-    Must(screen_.AddKolom(), "adding a column");
+  replay::Onward After(const std::string& number, const replay::Step& step) {
     QApplication::processEvents();
-    const Place created = screen_.Shown();
-    Do("TxtOm", Enter{std::string("Contributie fotoclub")});
-    Do("TxtBd", Enter{27.5});
-    Must(!screen_.GoTo({0, 1}), "refusing to leave a column without a start date");
-    Do("TxtDtAanvang", Enter{DateOf(1, 1, 2027)});
-    Must(screen_.Shown() == created, "staying in the column");
+    if (!boxes_.First().isEmpty()) problem_ = NameOf(step) + " was answered: " + boxes_.First().toStdString();
+    for (const Moment& moment : kMoments)
+      if (problem_.empty() && number == moment.step) Picture(moment.picture);
+    return problem_.empty() ? replay::Onward::GoOn : replay::Onward::Stop;
   }
 
-  void Scenario() {
-    GoTo({0, 5});
-    // The form runs an event loop of its own, in which the timer goes off.
-    QTimer later;
-    later.setSingleShot(true);
-    bool filled = false;
-    const host::Subscription opened = screen_.Scenario().Geopend.Connect([&](frmScenario& form) {
-      QObject::connect(&later, &QTimer::timeout, &window_, [&] {
-        FillScenario(form);
-        filled = true;
-      });
-      later.start(100);
-    });
-    Do("cmdScenario", controls::Press{});
-    if (!error_.empty()) throw std::runtime_error(error_);
-    Must(filled, "showing the year-by-year form");
+  void Picture(const char* name) {
+    QWidget* form = QApplication::activeModalWidget();
+    if (TakePictures(form != nullptr ? *form : window_, folder_, QLatin1String(name)))
+      ++pictures_;
+    else
+      problem_ = std::string("not done: writing picture ") + name;
   }
 
-  /// The partner taken out of the case, on the column that goes over to a partner on death.
-  void ZonderPartner() {
-    const std::vector<dossier::PersoonGegevens> aanvrager = {screen_.Dossier().Personen().front()};
-    Must(screen_.SetClient(aanvrager, screen_.Dossier().Leeftijd()), "taking the partner out of the case");
-    GoTo({0, 3});
-    Picture("without-partner");
+  void TakePartnerOut() {
+    const std::vector<dossier::PersoonGegevens> aanvrager = {Dossier().Personen().front()};
+    Must(window_.Screen()->SetClient(aanvrager, Dossier().Leeftijd()), "taking the partner out of the case");
+    Must(window_.Screen()->GoTo(kToPartner), "going to the column with a transition");
+    Must(TakePictures(window_, folder_, QStringLiteral("without-partner")), "writing picture without-partner");
   }
 
-  void FillScenario(frmScenario& form) {
-    controls::Surface& surface = controls::Surface::Of(form.Form());
-    try {
-      Do(surface, "txtBedrag", 1, Enter{6250.0});
-      Do(surface, "txtBedrag", 4, Enter{7000.0});
-      Do(surface, "chkAanvullen", frame::kNoIndex, controls::Tick{host::kTicked});
-      Do(surface, "txtBedrag", 8, Enter{8250.0});
-      Picture("scenario", QApplication::activeModalWidget());
-      Do(surface, "cmdOK", frame::kNoIndex, controls::Press{});
-    } catch (const std::runtime_error& error) {
-      error_ = error.what();
-      static_cast<void>(surface.Perform(controls::Close{}));
-    }
-  }
-
-  void GoTo(const Place& place) {
-    Must(screen_.GoTo(place), "going to column " + std::to_string(*place.Vrij_Id));
-    transcript_.Write({{u"column"_qs, *place.Vrij_Id}, {u"loan"_qs, place.Len_Id}});
-  }
-
-  void Do(const char* name, const controls::Action& action) {
-    Do(controls::Surface::Of(editor_.Surface()), name, frame::kNoIndex, action);
-  }
-
-  void Do(controls::Surface& surface, const char* name, int index, const controls::Action& action) {
-    controls::AnyControl* control = surface.Find(name, index);
-    Must(control != nullptr && control->Perform(action) == controls::Outcome::Done, name);
-    QApplication::processEvents();
-    if (!boxes_.First().isEmpty())
-      throw std::runtime_error(std::string(name) + " was answered: " + boxes_.First().toStdString());
-  }
-
-  host::MessageAnswer Answer(const std::string& title, const std::string& text, host::MessageStyle style) {
-    const bool question = style == host::MessageStyle::YesNoQuestion;
-    transcript_.Write({{u"message"_qs, QString::fromStdString(text)},
-                       {u"title"_qs, QString::fromStdString(title)},
-                       {u"answer"_qs, question ? u"Nee"_qs : u"OK"_qs}});
-    return question ? host::MessageAnswer::No : host::MessageAnswer::Ok;
-  }
-
-  void Picture(const char* name) { Picture(name, &window_); }
-  void Picture(const char* name, QWidget* what) {
-    Must(what != nullptr, name);
-    const QPalette light = QApplication::palette();
-    Save(what, QLatin1String(name) + QStringLiteral("-light.png"));
-    QApplication::setPalette(DarkPalette());
-    Save(what, QLatin1String(name) + QStringLiteral("-dark.png"));
-    QApplication::setPalette(light);
-  }
-
-  void Save(QWidget* what, const QString& name) {
-    QApplication::processEvents();
-    Must(what->grab().save(folder_.filePath(name)), "writing " + name.toStdString());
-    transcript_.Write({{u"picture"_qs, name}});
-  }
-
-  const Boxes& boxes_;
-  MainWindow& window_;
+  const replay::Document document_ = ReadSampleSession();
+  const MessageBoxes boxes_;
   QDir folder_;
-  DossierScreen& screen_;
-  qt::VrijeKolomWidget& editor_;
-  Transcript transcript_;
-  std::string error_;
+  QFile transcript_;
+  bool playing_ = false;
+  std::size_t pictures_ = 0;
+  std::string problem_;
+  /// Outlives the window, whose editor holds the objects that it handed out.
+  std::unique_ptr<replay::Session> session_;
+  EventLog eventLog_;
+  MainWindow window_;
 };
 
 }  // namespace
+
+replay::Document ReadSampleSession() {
+  InitResources();
+  QFile file(QStringLiteral(":/sample-session.json"));
+  Must(file.open(QIODevice::ReadOnly), file.fileName());
+  return replay::ReadDocument(file.readAll().toStdString());
+}
 
 QString PlaySampleSession(const QString& outputFolder, const QString& file) {
   const QTemporaryDir aside;
   if (!QDir().mkpath(outputFolder)) return QStringLiteral("cannot make the folder '%1'").arg(outputFolder);
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, aside.path());
-  EventLog eventLog(aside.filePath(QStringLiteral("logboek")));
-  const Boxes boxes;
-  MainWindow window(eventLog);
-  // Pictures are alike on every machine, whatever its screen.
-  window.resize(MainWindow::kFirstSize);
-  window.show();
   try {
-    window.Show(dossier::DossierFile::Open(file));
-    Session(window, QDir(outputFolder), boxes).Play();
-    if (!window.CloseDossier()) return QStringLiteral("not done: closing the file");
+    Showing(QDir(outputFolder), aside.filePath(QStringLiteral("logboek"))).Play(file);
   } catch (const std::exception& error) {
     return QString::fromUtf8(error.what());
   }

@@ -42,14 +42,14 @@ std::vector<Place> AllKolommen(const dossier::Dossier& dossier) {
 
 DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
                              std::shared_ptr<host::Hoofdvenster> hoofdvenster, EventLog& eventLog, Recording& recording,
-                             QWidget* parent)
+                             const Instrument& instrument, QWidget* parent)
     : QSplitter(parent),
       eventLog_(eventLog),
       traceLog_(std::make_shared<TraceLog>(eventLog)),
       file_(std::move(file)),
       application_(std::make_shared<dossier::Application>(file_->Dossier(), std::move(hoofdvenster))),
       tree_(new KolommenTree(file_->Dossier())),
-      kolom_(new KolomScreen(application_, Factories(), recording)) {
+      kolom_(new KolomScreen(file_->Dossier(), MakeEditorHost(instrument), recording)) {
   addWidget(tree_);
   addWidget(kolom_);
   setStretchFactor(0, 0);
@@ -70,6 +70,11 @@ DossierScreen::~DossierScreen() {
   scenario_.reset();
   // The editor holds records of the file, which goes before its widgets otherwise.
   delete kolom_;
+}
+
+EditorHost DossierScreen::MakeEditorHost(const Instrument& instrument) {
+  EditorHost host{application_, Factories()};
+  return instrument ? instrument(std::move(host)) : host;
 }
 
 host::HostFactories DossierScreen::Factories() {

@@ -9,6 +9,7 @@
 #include "app/program/TraceLog.h"
 #include "app/screen/KolomScreen.h"
 #include "app/screen/KolommenTree.h"
+#include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/ScenarioTransaction.h"
@@ -25,9 +26,11 @@ class DossierScreen final : public QSplitter {
   Q_OBJECT
 
  public:
-  /// `hoofdvenster` owns the editor's modal forms; `eventLog` and `recording` outlive the screen.
+  /// `hoofdvenster` owns the editor's modal forms; `eventLog` and `recording` outlive the screen. `instrument` may be
+  /// nothing.
   DossierScreen(std::unique_ptr<dossier::DossierFile> file, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
-                EventLog& eventLog, Recording& recording, QWidget* parent = nullptr);
+                EventLog& eventLog, Recording& recording, const Instrument& instrument = nullptr,
+                QWidget* parent = nullptr);
   ~DossierScreen() override;
 
   [[nodiscard]] const dossier::DossierFile& File() const { return *file_; }
@@ -68,6 +71,7 @@ class DossierScreen final : public QSplitter {
   void findingsCounted(std::size_t count);
 
  private:
+  EditorHost MakeEditorHost(const Instrument& instrument);
   host::HostFactories Factories();
   void Connect(Recording& recording);
   void Show(const Place& place);

@@ -14,9 +14,12 @@
 
 namespace brivane::app {
 
-KolomScreen::KolomScreen(std::shared_ptr<dossier::Application> application, const host::HostFactories& factories,
-                         Recording& recording, QWidget* parent)
-    : QStackedWidget(parent), application_(std::move(application)), recording_(recording) {
+KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost host, Recording& recording,
+                         QWidget* parent)
+    : QStackedWidget(parent),
+      dossier_(std::move(dossier)),
+      application_(std::move(host.application)),
+      recording_(recording) {
   auto* hint = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
   hint->setAlignment(Qt::AlignCenter);
   hint->setWordWrap(true);
@@ -24,8 +27,8 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Application> application, cons
 
   editor_ = new qt::VrijeKolomWidget;
   editor_->setObjectName(QStringLiteral("editor"));
-  recording_.Begin(application_->Bestand(), *editor_);
-  editor_->SetHostFactories(factories);
+  recording_.Begin(dossier_, *editor_);
+  editor_->SetHostFactories(host.factories);
   auto* area = new QWidget;
   auto* stack = new QVBoxLayout(area);
   stack->setContentsMargins(0, 0, 0, 0);
@@ -68,7 +71,7 @@ void KolomScreen::Show(const Place& place) {
 
 void KolomScreen::RefreshHeader() {
   if (!place_.Vrij_Id) return;
-  if (const auto kolom = application_->Bestand()->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
+  if (const auto kolom = dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
     header_->Show(QString::fromStdString(kolom->Kopregel()));
   }
 }

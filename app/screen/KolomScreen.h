@@ -3,8 +3,9 @@
 #include <QStackedWidget>
 #include <memory>
 
+#include "app/screen/EditorHost.h"
 #include "app/screen/Place.h"
-#include "dossier/model/Application.h"
+#include "dossier/model/Dossier.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
 namespace brivane::app {
@@ -17,8 +18,8 @@ class Recording;
 class KolomScreen final : public QStackedWidget {
  public:
   /// `recording` outlives the screen.
-  KolomScreen(std::shared_ptr<dossier::Application> application, const host::HostFactories& factories,
-              Recording& recording, QWidget* parent = nullptr);
+  KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost host, Recording& recording,
+              QWidget* parent = nullptr);
 
   /// Binds the editor to a column; for a loan without one a hint is shown in its place.
   void Show(const Place& place);
@@ -44,7 +45,8 @@ class KolomScreen final : public QStackedWidget {
   void FocusRefused();
   void PutFocus(host::TextBox& box);
 
-  std::shared_ptr<dossier::Application> application_;
+  std::shared_ptr<dossier::Dossier> dossier_;
+  std::shared_ptr<host::Application> application_;
   Recording& recording_;
   Place place_;
   QWidget* empty_;

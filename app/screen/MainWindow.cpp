@@ -65,7 +65,7 @@ bool MainWindow::Open(const QString& file) {
 
 void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   Settings::SetLastFile(file->Pad());
-  screen_ = new DossierScreen(std::move(file), owner_, eventLog_, recording_);
+  screen_ = new DossierScreen(std::move(file), owner_, eventLog_, recording_, instrument);
   stack_->addWidget(screen_);
   stack_->setCurrentWidget(screen_);
   screen_->restoreState(Settings::Split());

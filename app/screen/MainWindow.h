@@ -43,6 +43,9 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] DossierScreen* Screen() const { return screen_; }
   [[nodiscard]] const app::Actions& Actions() const { return actions_; }
 
+  /// Put between the next file's editor and its host, when set.
+  Instrument instrument;
+
   /// Opens the file anew and records what is done in its columns, until it is closed or the recording stopped.
   bool Record(const QString& file);
   /// Ends the recording, if any, and writes it.

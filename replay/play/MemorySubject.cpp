@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "controls/ListBox.h"
 #include "frame/GroupedNumber.h"
-#include "scenario/frmScenario.h"
+#include "replay/play/OnSurface.h"
 #include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
@@ -12,51 +11,6 @@
 namespace brivane::replay {
 
 namespace {
-
-/// A screen's part that is the same for the editor and for a form.
-template <class Interface> class OnSurface : public Interface {
- public:
-  [[nodiscard]] std::optional<ControlState> Find(const std::string& name, std::optional<int> index) override {
-    const controls::AnyControl* const control = Control(name, index);
-    if (control == nullptr) return std::nullopt;
-    return ControlState{control->ControlKind(), control->Reachable()};
-  }
-  [[nodiscard]] std::vector<std::string> Entries(const std::string& name) override {
-    std::vector<std::string> texts;
-    for (const auto& entry : static_cast<const controls::ListBox&>(*Control(name, {})).Entries())
-      texts.push_back(entry.text);
-    return texts;
-  }
-  controls::Outcome Perform(const std::string& name, std::optional<int> index,
-                            const controls::Action& action) override {
-    return Control(name, index)->Perform(action);
-  }
-  [[nodiscard]] std::vector<controls::ControlDump> Dump() override { return controls::DumpAll(Surface()); }
-
- protected:
-  [[nodiscard]] virtual controls::Surface& Surface() = 0;
-  [[nodiscard]] controls::AnyControl* Control(const std::string& name, std::optional<int> index) {
-    return Surface().Find(name, index.value_or(frame::kNoIndex));
-  }
-};
-
-class MemoryForm final : public OnSurface<FormScreen> {
- public:
-  MemoryForm(controls::Form& window, const frmScenario& form) : window_(window), form_(form) {}
-
-  [[nodiscard]] bool IsClosed() override { return window_.IsUnloaded(); }
-  void Close() override { window_.Perform(controls::Close{}); }
-  [[nodiscard]] host::Color BackColor() override { return form_.BackColor(); }
-  [[nodiscard]] std::int16_t AantalJaar() override { return form_.AantalJaar(); }
-  [[nodiscard]] std::shared_ptr<host::BedragObject> Scenario() override { return form_.Scenario(); }
-
- protected:
-  [[nodiscard]] controls::Surface& Surface() override { return window_; }
-
- private:
-  controls::Form& window_;
-  const frmScenario& form_;
-};
 
 class MemorySubject final : public OnSurface<Subject> {
  public:
@@ -128,7 +82,7 @@ class MemorySubject final : public OnSurface<Subject> {
   }
 
   void RunModal(controls::Form& window) {
-    MemoryForm form(window, *std::exchange(opening_, nullptr));
+    SurfaceForm form(window, *std::exchange(opening_, nullptr));
     const host::Subscription closed = window.host::Form::Unloaded.Connect([this] { audience_.OnClosed(); });
     audience_.OnShown(form);
     form.Close();

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
-#include "app/program/JsonFields.h"
 #include "app/program/Program.h"
+#include "tests/app/screen/JsonFields.h"
 #include "tests/app/screen/WindowTest.h"
 
 namespace {

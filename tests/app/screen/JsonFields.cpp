@@ -1,4 +1,4 @@
-#include "app/program/JsonFields.h"
+#include "tests/app/screen/JsonFields.h"
 
 #include "dossier/store/Fields.h"
 
