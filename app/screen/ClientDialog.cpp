@@ -76,12 +76,6 @@ QWidget* Clientvenster::MaakVelden(Persoonsvelden& velden, const QString& naam) 
   }
   velden.geboortedatum = new qt::DateBox;
   velden.geboortedatum->setAccessibleName(naam + QStringLiteral(", Geboortedatum"));
-  velden.geboortedatum->SetCommitter([vak = velden.geboortedatum](const QString&) -> qt::EntryBox::Verdict {
-    const auto datum = LeesDatum(*vak);
-    if (datum.IsRefused()) return {.accepted = false, .reason = QString::fromStdString(datum.Reason())};
-    if (!datum.IsEmpty()) vak->setText(QString::fromStdString(frame::ShowDate(*datum)));
-    return {};
-  });
   indeling->addRow(QStringLiteral("Geboortedatum"), velden.geboortedatum);
   return kader;
 }

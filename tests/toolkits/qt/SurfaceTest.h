@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "controls/TextBox.h"
+#include "controls/entry/Content.h"
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/qt/Person.h"
 #include "toolkits/qt/Toolkit.h"
@@ -43,7 +44,7 @@ class SurfaceTest : public testing::Test {
   void Follow(std::string_view name) {
     controls::TextBox& box = Box(name);
     box.Validation.Connect([this, &box](bool& Cancel) {
-      log_.push_back(box.ElementName() + " = " + qt::ShownContent(box.Content(), box.Format()).toStdString());
+      log_.push_back(box.ElementName() + " = " + controls::ShowContent(box.Content(), box.Format()));
       Cancel = refuse_;
     });
   }
