@@ -19,7 +19,6 @@
 #include "toolkits/qt/rows/CellEditor.h"
 #include "toolkits/qt/rows/CellPainter.h"
 #include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
 
 namespace brivane::qt {
@@ -37,21 +36,13 @@ QScrollArea* ScrollAreaAround(const QWidget& widget) {
   return nullptr;
 }
 
-/// Keeps the canvas as large as its container.
-class Follower final : public QObject {
- public:
-  Follower(QWidget& container, QWidget& canvas) : QObject(&canvas), canvas_(canvas) {
-    container.installEventFilter(this);
-    canvas.setGeometry(container.rect());
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Resize) canvas_.setGeometry(static_cast<QWidget*>(watched)->rect());
-    return false;
-  }
-
- private:
-  QWidget& canvas_;
-};
+/// The cell before or after one; nothing past the ends, and where the one is not there.
+CellPeer* Neighbour(const std::vector<CellPeer*>& cells, const CellPeer* cell, RowCanvas::Direction direction) {
+  const auto here = std::find(cells.begin(), cells.end(), cell);
+  if (here == cells.end()) return nullptr;
+  if (direction == RowCanvas::Direction::Back) return here != cells.begin() ? *std::prev(here) : nullptr;
+  return std::next(here) != cells.end() ? *std::next(here) : nullptr;
+}
 
 }  // namespace
 
@@ -73,15 +64,13 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   setObjectName(kCanvasName);
   setFocusPolicy(Qt::TabFocus);
   editor_->hide();
-  new Follower(container, *this);
+  container.installEventFilter(this);
+  setGeometry(container.rect());
   lower();
 }
 
 QWidget& RowCanvas::LineEdit() const { return *editor_; }
-
 EntryBox* RowCanvas::Editor() const { return edited_ != nullptr ? editor_ : nullptr; }
-
-void RowCanvas::Add(CellPeer& cell) { cells_.push_back(&cell); }
 
 void RowCanvas::Remove(CellPeer& cell) {
   if (editor_->Edit().Box() == &cell.Control()) editor_->Edit().Tie(frame::Format::Text);
@@ -115,9 +104,8 @@ void RowCanvas::Repaint(const QRect& area) {
 }
 
 std::vector<CellPeer*> RowCanvas::Stops() const {
-  std::vector<CellPeer*> stops;
-  for (CellPeer* cell : cells_)
-    if (cell->IsStop()) stops.push_back(cell);
+  std::vector<CellPeer*> stops = cells_;
+  std::erase_if(stops, [](const CellPeer* cell) { return !cell->IsStop(); });
   return stops;
 }
 
@@ -191,21 +179,16 @@ void RowCanvas::BringIntoView(const CellPeer& cell) {
 
 bool RowCanvas::Step(Direction direction) {
   if (!HandOver()) return true;  // the focus stays where it is
-  const std::vector<CellPeer*> stops = Stops();
-  const auto here = std::find(stops.begin(), stops.end(), current_);
-  if (here == stops.end()) return false;
-  if (direction == Direction::Back) return here != stops.begin() && GoTo(**std::prev(here));
-  return std::next(here) != stops.end() && GoTo(**std::next(here));
+  CellPeer* const next = Neighbour(Stops(), current_, direction);
+  return next != nullptr && GoTo(*next);
 }
 
 bool RowCanvas::StepInColumn(Direction direction) {
   if (current_ == nullptr || !HandOver()) return false;
   std::vector<CellPeer*> column = Stops();
   std::erase_if(column, [this](CellPeer* cell) { return &cell->Control().Row() != &current_->Control().Row(); });
-  const auto here = std::find(column.begin(), column.end(), current_);
-  if (here == column.end()) return false;
-  if (direction == Direction::Back) return here != column.begin() && GoTo(**std::prev(here));
-  return std::next(here) != column.end() && GoTo(**std::next(here));
+  CellPeer* const next = Neighbour(column, current_, direction);
+  return next != nullptr && GoTo(*next);
 }
 
 void RowCanvas::EnterAndGoDown() {
@@ -246,15 +229,19 @@ void RowCanvas::ShowHelp(const CellPeer& cell) {
 }
 
 bool RowCanvas::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip) {
-    const CellPeer* const cell = CellAt(static_cast<QHelpEvent*>(event)->pos());
-    if (cell != nullptr && cell->Control().ControlKind() == Kind::Hint)
-      ShowHelp(*cell);
-    else
-      QToolTip::hideText();
-    return true;
-  }
-  return QWidget::event(event);
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const CellPeer* const cell = CellAt(static_cast<QHelpEvent*>(event)->pos());
+  if (cell != nullptr && cell->Control().ControlKind() == Kind::Hint)
+    ShowHelp(*cell);
+  else
+    QToolTip::hideText();
+  return true;
+}
+
+/// Keeps the canvas as large as its container.
+bool RowCanvas::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) setGeometry(static_cast<QWidget*>(watched)->rect());
+  return false;
 }
 
 void RowCanvas::paintEvent(QPaintEvent* event) {

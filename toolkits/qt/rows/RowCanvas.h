@@ -25,7 +25,7 @@ class RowCanvas : public QWidget {
   /// The canvas of a container, or nothing.
   [[nodiscard]] static RowCanvas* Of(const QWidget& container);
 
-  void Add(CellPeer& cell);
+  void Add(CellPeer& cell) { cells_.push_back(&cell); }
   void Remove(CellPeer& cell);
   void Changed(CellPeer& cell, controls::Aspect aspect);
 
@@ -58,6 +58,7 @@ class RowCanvas : public QWidget {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

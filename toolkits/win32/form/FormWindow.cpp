@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <memory>
 #include <type_traits>
-#include <vector>
 
 #include "controls/RowChanges.h"
 #include "toolkits/win32/controls/ButtonWindows.h"
+#include "toolkits/win32/form/OthersDisabled.h"
 #include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/window/Text.h"
 
@@ -20,34 +20,6 @@ constexpr UINT kOpened = WM_APP + 3;
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 constexpr int kLine = 24;
-
-/// The other windows of the thread, and the owner, take no input meanwhile.
-class OthersDisabled {
- public:
-  OthersDisabled(HWND form, HWND owner) : form_(form) {
-    EnumThreadWindows(GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(this));
-    if (owner != nullptr && std::find(windows_.begin(), windows_.end(), owner) == windows_.end() &&
-        IsWindowEnabled(owner) != FALSE)
-      windows_.push_back(owner);
-    for (const HWND window : windows_) EnableWindow(window, FALSE);
-  }
-  OthersDisabled(const OthersDisabled&) = delete;
-  OthersDisabled& operator=(const OthersDisabled&) = delete;
-  ~OthersDisabled() {
-    for (const HWND window : windows_) EnableWindow(window, TRUE);
-  }
-
- private:
-  static BOOL CALLBACK Collect(HWND window, LPARAM self) {
-    auto& others = *reinterpret_cast<OthersDisabled*>(self);
-    if (window != others.form_ && IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE)
-      others.windows_.push_back(window);
-    return TRUE;
-  }
-
-  HWND form_;
-  std::vector<HWND> windows_;
-};
 
 using Brush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, decltype(&DeleteObject)>;
 
