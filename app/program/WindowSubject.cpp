@@ -66,12 +66,8 @@ class WindowSubject final : public replay::OnSurface<replay::Subject> {
                      [this](const QString& text) { audience_.OnRefreshTopDisplay(text.toStdString()); });
     QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &context_,
                      [this] { audience_.OnHeightChanged(); });
-    host::Event<>& changed = editor_.Control()->Toelichting().Changed;
-    changed.Connect([this, handOn = changed.Listener(), context = QPointer<QObject>(&context_)] {
-      if (context != nullptr) audience_.OnToelichtingChanged();
-      handOn();
-    });
-    screen_->Scenario().Geopend.Connect([this](frmScenario& form) {
+    subscriptions_ += editor_.Control()->Toelichting().Changed.Connect([this] { audience_.OnToelichtingChanged(); });
+    subscriptions_ += screen_->Scenario().Geopend.Connect([this](frmScenario& form) {
       // It runs an event loop of its own, in which this is done once it stands on the screen.
       QTimer::singleShot(0, &context_, [this, &form] { Work(form); });
     });
@@ -80,11 +76,7 @@ class WindowSubject final : public replay::OnSurface<replay::Subject> {
   /// Does in an open form what the session has for it.
   void Work(frmScenario& form) {
     replay::SurfaceForm shown(dynamic_cast<controls::Form&>(form.Form()), form);
-    host::Event<>& unloaded = form.Form().Unloaded;
-    unloaded.Connect([this, handOn = unloaded.Listener()] {
-      audience_.OnClosed();
-      if (handOn) handOn();
-    });
+    const host::Subscription closed = form.Form().Unloaded.Connect([this] { audience_.OnClosed(); });
     audience_.OnShown(shown);
     shown.Close();
   }
@@ -93,6 +85,7 @@ class WindowSubject final : public replay::OnSurface<replay::Subject> {
   qt::VrijeKolomWidget& editor_;
   replay::Audience& audience_;
   QObject context_;  ///< what it hears ends with it
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace

@@ -76,12 +76,6 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
   }
   fields.geboortedatum = new qt::DateBox;
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
-  fields.geboortedatum->SetCommitter([box = fields.geboortedatum](const QString&) -> qt::EntryBox::Verdict {
-    const auto datum = DateIn(*box);
-    if (datum.IsRefused()) return {.accepted = false, .reason = QString::fromStdString(datum.Reason())};
-    if (!datum.IsEmpty()) box->setText(QString::fromStdString(frame::ShowDate(*datum)));
-    return {};
-  });
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
   return group;
 }

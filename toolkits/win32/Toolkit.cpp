@@ -91,8 +91,8 @@ HWND Toolkit::MakeWindow(const Making& making, HWND parent) const {
   });
 }
 
-void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
-  (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
+host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
+  return desktop_.Ask(caption, text, style);
 }
 
 bool Toolkit::LeaveBox(const Window& target) {
@@ -103,9 +103,7 @@ bool Toolkit::LeaveBox(const Window& target) {
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const Window& window) {
   const auto life = window.Life();
   if (!LeaveBox(window) || life.expired()) return false;
-  controls::Outcome outcome = controls::Outcome::Ignored;
-  Guard([&] { outcome = control.Perform(action); });
-  return outcome == controls::Outcome::Done;
+  return Hand(control, action) == controls::Outcome::Done;
 }
 
 HWND Toolkit::WindowOf(host::Surface& surface) { return AreaOf(controls::Surface::Of(surface)); }
@@ -123,10 +121,7 @@ bool Toolkit::FocusFirst(host::Surface& surface) {
 }
 bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(controls::Surface::Of(surface), Direction::Back); }
 
-bool Toolkit::CommitPending(host::Surface& surface) {
-  BoxWindow* const box = BoxWindow::PendingOn(controls::Surface::Of(surface));
-  return box == nullptr || box->CommitPending();
-}
+bool Toolkit::CommitPending(host::Surface& surface) { return Pending().Commit(controls::Surface::Of(surface)); }
 
 void Toolkit::Rescale(host::Surface& surface) {
   const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {

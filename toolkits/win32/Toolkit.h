@@ -44,6 +44,8 @@ class Toolkit : public controls::DrawnToolkit {
   ~Toolkit() override;
 
   [[nodiscard]] win32::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
+                                        host::MessageStyle style) override;
 
   /// A person acts on a control through its window. A box that is being edited elsewhere in the same
   /// top-level window is handed over first; where that is refused, the action is not done. False where it
@@ -69,7 +71,7 @@ class Toolkit : public controls::DrawnToolkit {
   /// Goes to the first or last stop of the tab order; false where there is none.
   bool FocusFirst(host::Surface& surface);
   bool FocusLast(host::Surface& surface);
-  /// Hands over the box of this surface that is being edited, if any; false where it was refused and keeps
+  /// Hands over what is being typed on this surface, if anything; false where it was refused and keeps
   /// the focus. A host calls it before it leaves the record, saves or closes.
   bool CommitPending(host::Surface& surface);
 
@@ -88,7 +90,6 @@ class Toolkit : public controls::DrawnToolkit {
  protected:
   [[nodiscard]] std::unique_ptr<controls::Peer> MakePeer(controls::AnyControl& control) override;
   [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
-  void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:
   class Look;

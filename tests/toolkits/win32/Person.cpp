@@ -1,5 +1,6 @@
 #include "tests/toolkits/win32/Person.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -151,6 +152,16 @@ void TypeOver(const std::wstring& text) {
     Press(VK_DELETE);
   else
     Type(text);
+}
+
+void Copy(HWND owner, const std::wstring& text) {
+  OpenClipboard(owner);
+  EmptyClipboard();
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+  std::copy_n(text.c_str(), text.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
+  GlobalUnlock(memory);
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
 }
 
 win32::ControlWindow& Shown(controls::AnyControl& control) { return win32::WindowFor(control); }
