@@ -74,7 +74,7 @@ TEST_F(RowChangesTest, AreNotThoseOfOtherControls) {
 }
 
 TEST_F(RowChangesTest, MayComeOfAnActionThatTakesTheFormAway) {
-  Row(1).Validation.Connect([this](bool&) { form.reset(); });
+  const host::Subscription listening = Row(1).Validation.Connect([this](bool&) { form.reset(); });
   EXPECT_EQ(toolkit.Hand(Row(1), Enter{5.0}), Outcome::Done);
   EXPECT_EQ(form, nullptr);
 }

@@ -97,7 +97,7 @@ class EntryTest : public testing::Test {
     Edit(box).Typed();
   }
   void Follow(TextBox& box) {
-    box.Validation.Connect([this, &box](bool& Cancel) {
+    subscriptions += box.Validation.Connect([this, &box](bool& Cancel) {
       log.push_back(box.ElementName() + " = " + ShowContent(box.Content(), box.Format()));
       Cancel = refuse;
     });
@@ -105,6 +105,7 @@ class EntryTest : public testing::Test {
 
   TestToolkit toolkit;
   std::unique_ptr<host::Surface> surface = toolkit.MakeSurface(test::kSurface);
+  host::Subscriptions subscriptions;
   std::vector<std::string> log;
   bool refuse = false;
 };

@@ -45,7 +45,7 @@ TEST_F(PastedColumn, PassesOverWhatCannotBeEditedAndSaysWhatIsLeft) {
 }
 
 TEST_F(PastedColumn, StopsWhereARowIsRefused) {
-  Row(2).Validation.Connect([](bool& Cancel) { Cancel = true; });
+  const host::Subscription listening = Row(2).Validation.Connect([](bool& Cancel) { Cancel = true; });
   Edit(Row(1)).Paste("1\n2\n3");
   EXPECT_THAT(Amounts(), ElementsAre(1, 2, 100));
 }
@@ -63,7 +63,7 @@ TEST_F(PastedColumn, EndsWhereTheBoxIsGone) {
   TestFace outlives;
   auto gone = std::make_unique<PendingEdit>(outlives);
   gone->Tie(Row(1), toolkit);
-  Row(2).Validation.Connect([&](bool&) {
+  const host::Subscription listening = Row(2).Validation.Connect([&](bool&) {
     gone.reset();
     outlives.calls = 0;
   });

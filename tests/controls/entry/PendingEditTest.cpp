@@ -133,7 +133,8 @@ TEST_F(PendingEditTest, EndsWhenCodeWritesAlsoTheSameValue) {
 TEST_F(PendingEditTest, StaysAsTypedUntilItIsAcceptedWhateverCodeWritesMeanwhile) {
   bool cancel = true;
   std::vector<std::string> seen;
-  amount.Validation.Connect([&](bool& Cancel) {
+  subscriptions.Reset();
+  const host::Subscription listening = amount.Validation.Connect([&](bool& Cancel) {
     amount.SetNumber(99);
     seen.push_back(face.text);
     EXPECT_TRUE(edit.IsCommitting());
@@ -151,7 +152,9 @@ TEST_F(PendingEditTest, StaysAsTypedUntilItIsAcceptedWhateverCodeWritesMeanwhile
 }
 
 TEST_F(PendingEditTest, CountsAsTakenWhereTheControlFails) {
-  amount.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  subscriptions.Reset();
+  const host::Subscription listening =
+      amount.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
   TypeOver(amount, "5");
   EXPECT_TRUE(edit.Commit());
   EXPECT_THAT(toolkit.asked, ElementsAre("Kwandero: Er is een fout opgetreden.\r\n91: Object missing"));
@@ -233,7 +236,8 @@ TEST_F(PendingEditTest, MayBeGoneWhenItsEntryComesBack) {
     TestFace outlives;
     auto gone = std::make_unique<PendingEdit>(outlives);
     gone->Tie(amount, toolkit);
-    amount.Validation.Connect([&](bool& Cancel) {
+    subscriptions.Reset();
+    const host::Subscription listening = amount.Validation.Connect([&](bool& Cancel) {
       gone.reset();
       outlives.calls = 0;
       Cancel = cancel;

@@ -67,7 +67,7 @@ TEST_F(PendingEditsTest, PassOverABoxThatNobodyCanReach) {
 }
 
 TEST_F(PendingEditsTest, MayEndOneAnother) {
-  name.Validation.Connect([this](bool&) { amount.SetNumber(7); });
+  subscriptions += name.Validation.Connect([this](bool&) { amount.SetNumber(7); });
   TypeOver(name, "x");
   TypeOver(amount, "5");
   EXPECT_TRUE(toolkit.Pending().Commit(area));
@@ -81,12 +81,12 @@ TEST_F(PendingEditsTest, MayTakeTheirToolkitAway) {
   auto& first = static_cast<TextBox&>(*Surface::Of(*shown).Find("txtNaam"));
   auto& second = static_cast<TextBox&>(*Surface::Of(*shown).Find("txtBedrag"));
   int raised = 0;
-  first.Validation.Connect([&](bool&) {
+  subscriptions += first.Validation.Connect([&](bool&) {
     ++raised;
     const auto goesLast = std::move(own);  // what is captured goes with the box
     shown.reset();
   });
-  second.Validation.Connect([&](bool&) { ++raised; });
+  subscriptions += second.Validation.Connect([&](bool&) { ++raised; });
   TypeOver(first, "x");
   TypeOver(second, "5");
   EXPECT_TRUE(own->Pending().Commit(Surface::Of(*shown)));

@@ -9,7 +9,7 @@ class Choosing : public OnScreen {
  protected:
   Choosing() {
     for (int i = 1; i <= 3; ++i)
-      Get<controls::OptionButton>("optSoort", i).Click.Connect([this, i] {
+      subscriptions += Get<controls::OptionButton>("optSoort", i).Click.Connect([this, i] {
         log.push_back("click " + std::to_string(i));
       });
   }

@@ -44,7 +44,7 @@ controls::AnyControl& OnScreen::Control(std::string_view name, int index) {
 
 void OnScreen::Follow(std::string_view name) {
   controls::TextBox& box = Box(name);
-  box.Validation.Connect([this, &box](bool& Cancel) {
+  subscriptions += box.Validation.Connect([this, &box](bool& Cancel) {
     log.push_back(box.ElementName() + " = " + controls::ShowContent(box.Content(), box.Format()));
     Cancel = refuse;
   });

@@ -96,6 +96,7 @@ class OnScreen : public testing::TestWithParam<ScreenSubject> {
 
   std::unique_ptr<ScreenUnderTest> subject;
   std::unique_ptr<host::Surface> surface;
+  host::Subscriptions subscriptions;
   std::vector<std::string> log;
   bool refuse = false;
 };

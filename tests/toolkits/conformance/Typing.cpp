@@ -108,7 +108,7 @@ TEST_P(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
 }
 
 TEST_P(Boxes, HandOverBeforeAMnemonicPressesAButton) {
-  Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("pressed"); });
+  subscriptions += Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("pressed"); });
   Click("txtBedrag");
   TypeOver("5");
   Press('D', With::Alt);
@@ -212,7 +212,9 @@ TEST_P(Boxes, AHostHandsOverWhatIsBeingTyped) {
 }
 
 TEST_P(Boxes, AFailureIsToldAndGoesNoFurther) {
-  Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  subscriptions.Reset();
+  host::Subscription failing =
+      Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
   Click("txtNaam");
   TypeOver("x");
   Press(Key::Tab);
@@ -222,7 +224,7 @@ TEST_P(Boxes, AFailureIsToldAndGoesNoFurther) {
   TypeOver("y");
   Press(Key::Tab);
   EXPECT_EQ(log.back(), "Object missing");
-  Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
+  failing = Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
   Click("txtNaam");
   TypeOver("z");
   Press(Key::Tab);
@@ -242,7 +244,7 @@ TEST_P(Boxes, ABoxMayTakeItsSurfaceAwayWhenItIsLeft) {
   for (const Key key : {Key::Tab, Key::Enter}) {
     surface = subject->Toolkit().MakeSurface(kSurface);
     subject->Show(controls::Surface::Of(*surface));
-    Box("txtNaam").Validation.Connect([this](bool&) { surface.reset(); });
+    subscriptions += Box("txtNaam").Validation.Connect([this](bool&) { surface.reset(); });
     Click("txtNaam");
     TypeOver("x");
     Press(key);
