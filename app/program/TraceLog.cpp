@@ -28,7 +28,7 @@ void Traceerlog::Schrijf(std::string_view control, std::string_view teken, std::
   logboek_.Schrijf(QString::fromStdString(regel));
 }
 
-void SchrijfFout(Logboek& logboek, const Foutrecord& fout) {
+void SchrijfFout(Logboek& logboek, const host::ErrorRecord& fout) {
   logboek.Schrijf(QString::fromStdString("FOUT " + fout.ErrorNumber + " in " + fout.ObjectName + ", bron " +
                                          fout.ErrorSource + ": " + fout.ErrorDescription));
 }

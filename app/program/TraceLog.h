@@ -28,6 +28,6 @@ class Traceerlog final : public TraceListener {
 };
 
 /// The line that a filled error record gets in the log.
-void SchrijfFout(Logboek& logboek, const Foutrecord& fout);
+void SchrijfFout(Logboek& logboek, const host::ErrorRecord& fout);
 
 }  // namespace brivane::dossier

@@ -13,27 +13,23 @@
 namespace brivane::dossier {
 namespace {
 
-/// The host's check runs once over the whole case, not after every column.
-class GeenControle final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 /// An editor without a screen that tells what its checks say.
 class Controleur {
  public:
   Controleur(const std::shared_ptr<Dossier>& dossier, host::Date vandaag)
       : application_(std::make_shared<Application>(dossier)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)),
-        editor_(*surface_, toolkit_,
-                {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<Tracer>(); },
-                 .MaakDossierControle = [](std::string_view) { return std::make_shared<GeenControle>(); }}) {
+        editor_(
+            *surface_, toolkit_,
+            {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<Tracer>(); },
+             // The host's check runs once over the whole case, not after every column.
+             .MaakDossierControle = [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }}) {
     toolkit_.Desktop().today = vandaag;
     toolkit_.Desktop().answer = [this](const std::string&, const std::string& tekst, host::MessageStyle) {
       meldingen_.push_back(tekst);
       return host::MessageAnswer::Ok;
     };
-    application_->FoutGemeld.Connect([this](const Foutrecord& fout) {
+    application_->FoutGemeld.Connect([this](const host::ErrorRecord& fout) {
       meldingen_.push_back("De post kan niet worden gecontroleerd: " + fout.ErrorDescription + ".");
     });
   }

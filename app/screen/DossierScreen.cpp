@@ -18,7 +18,7 @@ constexpr int kBoomTekens = 58;  ///< width of the tree at first, in characters
 constexpr char kObjectNaam[] = "Dossier";
 constexpr char kObjectOmschrijving[] = "Dossier";
 
-Foutrecord RecordVan(const host::Error& fout) {
+host::ErrorRecord RecordVan(const host::Error& fout) {
   return {.ApplicationTitle = QGuiApplication::applicationDisplayName().toStdString(),
           .ObjectName = kObjectNaam,
           .Caption = std::string(frame::kReportCaption),
@@ -100,7 +100,7 @@ void Dossierscherm::Verbind(Opname& opname) {
     MeldFout(RecordVan(eigen ? *eigen
                              : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
   });
-  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
+  application_->FoutGemeld.Connect([this](const host::ErrorRecord& fout) { MeldFout(fout); });
   bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
     // The edit is undone, as no replay would do.
     opname.Breek();
@@ -260,7 +260,7 @@ bool Dossierscherm::Probeer(const std::function<void()>& wijziging) {
   return false;
 }
 
-void Dossierscherm::MeldFout(const Foutrecord& fout) {
+void Dossierscherm::MeldFout(const host::ErrorRecord& fout) {
   SchrijfFout(logboek_, fout);
   ToonFout(window(), fout, herbinden_ ? Gevolg::Herladen : Gevolg::Geen);
 }

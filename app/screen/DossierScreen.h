@@ -74,7 +74,7 @@ class Dossierscherm final : public QSplitter {
   void Vernieuw();
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Probeer(const std::function<void()>& wijziging);
-  void MeldFout(const Foutrecord& fout);
+  void MeldFout(const host::ErrorRecord& fout);
   void PlanHerbinden();
   void Herbind();
 

@@ -3,8 +3,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "dossier/model/Tracer.h"
-
 namespace brivane::dossier {
 namespace {
 
@@ -29,7 +27,7 @@ Antwoord Vraag(QWidget* boven, const QString& titel, const QString& tekst, const
   return bericht.clickedButton() == ja ? Antwoord::Ja : Antwoord::Nee;
 }
 
-void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg) {
+void ToonFout(QWidget* boven, const host::ErrorRecord& fout, Gevolg gevolg) {
   const auto tekst = [](const std::string& s) { return QString::fromStdString(s); };
   QMessageBox bericht(QMessageBox::Critical, tekst(fout.Caption), tekst(fout.Message), QMessageBox::Ok, boven);
   bericht.setTextFormat(Qt::PlainText);

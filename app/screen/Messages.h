@@ -3,11 +3,11 @@
 #include <QString>
 #include <cstdint>
 
+#include "host/model/ErrorRecord.h"
+
 class QWidget;
 
 namespace brivane::dossier {
-
-struct Foutrecord;
 
 /// What a question's buttons answer.
 enum class Antwoord : std::uint8_t { Ja, Nee };
@@ -20,6 +20,6 @@ void ToonMelding(QWidget* boven, const QString& titel, const QString& tekst);
 enum class Gevolg : std::uint8_t { Geen, Herladen };
 
 /// The one box of an error report: what went wrong, and for support in which control, number and source.
-void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg);
+void ToonFout(QWidget* boven, const host::ErrorRecord& fout, Gevolg gevolg);
 
 }  // namespace brivane::dossier

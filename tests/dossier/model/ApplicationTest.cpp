@@ -100,7 +100,7 @@ TEST_F(ApplicationTest, GivesTheAgeLimitOfTheCase) {
 
 TEST_F(ApplicationTest, HandsTheErrorRecordToItsListener) {
   std::vector<std::string> gemeld;
-  application_.FoutGemeld.Connect([&](const Foutrecord& fout) {
+  application_.FoutGemeld.Connect([&](const host::ErrorRecord& fout) {
     gemeld = {fout.ApplicationTitle, fout.ObjectName,  fout.Caption,          fout.ObjectDescription,
               fout.Message,          fout.ErrorNumber, fout.ErrorDescription, fout.ErrorSource};
   });

@@ -26,7 +26,7 @@ class Werkplek {
         edits_(std::move(edits)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
     toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-    application_->FoutGemeld.Connect([this](const Foutrecord& fout) { fouten.push_back(fout); });
+    application_->FoutGemeld.Connect([this](const host::ErrorRecord& fout) { fouten.push_back(fout); });
     edits_->Failed.Connect([this](const StoreFailure& failure) { mislukt.push_back(failure); });
     const host::HostFactories factories{
         .MaakProcedureTrace =
@@ -58,7 +58,7 @@ class Werkplek {
   [[nodiscard]] Application& App() { return *application_; }
 
   /// The reports that reached the adviser.
-  std::vector<Foutrecord> fouten;
+  std::vector<host::ErrorRecord> fouten;
   /// What the store told.
   std::vector<StoreFailure> mislukt;
 

@@ -57,7 +57,7 @@ class MislukteOpslag : public testing::Test {
   Werkplek werk_{*bestand_};
 };
 
-void VerwachtEenMelding(const std::vector<Foutrecord>& fouten, const std::string& oorzaak) {
+void VerwachtEenMelding(const std::vector<host::ErrorRecord>& fouten, const std::string& oorzaak) {
   ASSERT_EQ(fouten.size(), 1u);
   EXPECT_EQ(fouten[0].Caption, "Kwandero");
   EXPECT_EQ(fouten[0].Message, "Er is een fout opgetreden.");
