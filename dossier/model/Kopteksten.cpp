@@ -1,6 +1,9 @@
 #include "dossier/model/Kopteksten.h"
 
+#include <string_view>
+
 #include "frame/Numbers.h"
+#include "host/model/Codes.h"
 
 namespace brivane::dossier {
 namespace {
@@ -25,19 +28,9 @@ std::string BerekendeKopteksten::Kopregel(const KolomGegevens& kolom) const {
   // An amount that is no number has no text; there is something to read all the same.
   const std::string bedrag = frame::ShowAmount(kolom.Bedrag.Bedrag);
   std::string tekst = Onderwerp(kolom) + " · € " + (bedrag.empty() ? "?" : bedrag);
-  if (const std::string termijn = TermijnTekst(kolom.Termijn); !termijn.empty()) tekst += " " + termijn;
+  const std::string_view termijn = host::codes::WordsFor(kolom.Termijn, host::codes::kTermijnen);
+  if (!termijn.empty()) tekst.append(" ").append(termijn);
   return tekst;
-}
-
-std::string TermijnTekst(std::int16_t termijn) {
-  switch (termijn) {
-    case 1: return "per maand";
-    case 3: return "per kwartaal";
-    case 6: return "per half jaar";
-    case 12: return "per jaar";
-    case kEenmalig: return "eenmalig";
-    default: return {};
-  }
 }
 
 }  // namespace brivane::dossier

@@ -23,7 +23,4 @@ class BerekendeKopteksten : public Kopteksten {
   [[nodiscard]] std::string Kopregel(const KolomGegevens& kolom) const override;
 };
 
-/// The term in words: "per maand", "eenmalig"; empty for a code that is none.
-[[nodiscard]] std::string TermijnTekst(std::int16_t termijn);
-
 }  // namespace brivane::dossier

@@ -5,15 +5,6 @@
 namespace brivane::dossier {
 namespace {
 
-TEST(TermijnTekst, NamesTheFiveTermsAndNoOther) {
-  EXPECT_EQ(TermijnTekst(1), "per maand");
-  EXPECT_EQ(TermijnTekst(3), "per kwartaal");
-  EXPECT_EQ(TermijnTekst(6), "per half jaar");
-  EXPECT_EQ(TermijnTekst(12), "per jaar");
-  EXPECT_EQ(TermijnTekst(99), "eenmalig");
-  EXPECT_EQ(TermijnTekst(2), "");
-}
-
 KolomGegevens Product(const char* soort, const char* omschrijving, const char* productnaam) {
   KolomGegevens kolom;
   kolom.IsProduct = true;
@@ -43,6 +34,15 @@ TEST(BerekendeKopteksten, ShowAnAmountAsItsBoxShowsIt) {
 
 TEST(BerekendeKopteksten, ShowAQuestionMarkForAnAmountThatIsNoNumber) {
   EXPECT_EQ(Kopregel(1e308 * 10, 12), "Vrije kolom · € ? per jaar");
+}
+
+TEST(BerekendeKopteksten, NameTheFiveTermsAndNoOther) {
+  EXPECT_EQ(Kopregel(1, 1), "Vrije kolom · € 1,00 per maand");
+  EXPECT_EQ(Kopregel(1, 3), "Vrije kolom · € 1,00 per kwartaal");
+  EXPECT_EQ(Kopregel(1, 6), "Vrije kolom · € 1,00 per half jaar");
+  EXPECT_EQ(Kopregel(1, 12), "Vrije kolom · € 1,00 per jaar");
+  EXPECT_EQ(Kopregel(1, 99), "Vrije kolom · € 1,00 eenmalig");
+  EXPECT_EQ(Kopregel(1, 2), "Vrije kolom · € 1,00");
 }
 
 TEST(BerekendeKopteksten, NameTheItemItsAmountAndItsTerm) {
