@@ -68,7 +68,7 @@ void VrijeKolom::Fill_Controls() {
 
 void VrijeKolom::Fill_fraAlgemeen() {
   tracing_.Handled("Fill_fraAlgemeen", [this] {
-    IsContract_ = frame::Contains(Record().Productsoort(), kContractsoorten);
+    IsContract_ = IsContractsoort(Record().Productsoort());
     controls_[TxtDtAanvang].SetDate(Record().DatumAanvang());
     if (IsContract_) {
       controls_[txtVervaldatum].SetDate(Record().Contractvervaldatum());

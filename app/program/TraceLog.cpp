@@ -28,7 +28,7 @@ void TraceLog::Write(std::string_view control, std::string_view mark, std::strin
   eventLog_.Write(QString::fromStdString(line));
 }
 
-void WriteError(EventLog& eventLog, const dossier::ErrorRecord& error) {
+void WriteError(EventLog& eventLog, const host::ErrorRecord& error) {
   eventLog.Write(QString::fromStdString("FOUT " + error.ErrorNumber + " in " + error.ObjectName + ", bron " +
                                         error.ErrorSource + ": " + error.ErrorDescription));
 }

@@ -28,6 +28,6 @@ class TraceLog final : public dossier::TraceListener {
 };
 
 /// The line that a filled error record gets in the log.
-void WriteError(EventLog& eventLog, const dossier::ErrorRecord& error);
+void WriteError(EventLog& eventLog, const host::ErrorRecord& error);
 
 }  // namespace brivane::app

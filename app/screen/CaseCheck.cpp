@@ -13,27 +13,23 @@
 namespace brivane::app {
 namespace {
 
-/// The host's check runs once over the whole case, not after every column.
-class NoCheck final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 /// An editor without a screen that tells what its checks say.
 class Checker {
  public:
   Checker(const std::shared_ptr<dossier::Dossier>& dossier, host::Date today)
       : application_(std::make_shared<dossier::Application>(dossier)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)),
-        editor_(*surface_, toolkit_,
-                {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<dossier::Tracer>(); },
-                 .MaakDossierControle = [](std::string_view) { return std::make_shared<NoCheck>(); }}) {
+        editor_(
+            *surface_, toolkit_,
+            {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<dossier::Tracer>(); },
+             // The host's check runs once over the whole case, not after every column.
+             .MaakDossierControle = [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }}) {
     toolkit_.Desktop().today = today;
     toolkit_.Desktop().answer = [this](const std::string&, const std::string& text, host::MessageStyle) {
       messages_.push_back(text);
       return host::MessageAnswer::Ok;
     };
-    errors_ = application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) {
+    errors_ = application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) {
       messages_.push_back("De post kan niet worden gecontroleerd: " + error.ErrorDescription + ".");
     });
   }

@@ -18,7 +18,7 @@ constexpr int kTreeCharacters = 58;  ///< width of the tree at first, in charact
 constexpr char kObjectName[] = "Dossier";
 constexpr char kObjectDescription[] = "Dossier";
 
-dossier::ErrorRecord RecordOf(const host::Error& error) {
+host::ErrorRecord RecordOf(const host::Error& error) {
   return {.ApplicationTitle = QGuiApplication::applicationDisplayName().toStdString(),
           .ObjectName = kObjectName,
           .Caption = std::string(frame::kReportCaption),
@@ -103,7 +103,7 @@ void DossierScreen::Connect(Recording& recording) {
     TellFailure(
         RecordOf(own ? *own : host::Error(static_cast<int>(host::ErrorNumber::Foreign), error.what(), kObjectName)));
   });
-  subscriptions_ += application_->FoutGemeld.Connect([this](const dossier::ErrorRecord& error) { TellFailure(error); });
+  subscriptions_ += application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) { TellFailure(error); });
   subscriptions_ += file_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
     // The edit is undone, as no replay would do.
     recording.Break();
@@ -263,7 +263,7 @@ bool DossierScreen::Try(const std::function<void()>& change) {
   return false;
 }
 
-void DossierScreen::TellFailure(const dossier::ErrorRecord& error) {
+void DossierScreen::TellFailure(const host::ErrorRecord& error) {
   WriteError(eventLog_, error);
   ShowFailure(window(), error, rebind_ ? Consequence::Reloaded : Consequence::None);
 }

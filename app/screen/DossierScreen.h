@@ -78,7 +78,7 @@ class DossierScreen final : public QSplitter {
   void Refresh();
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Try(const std::function<void()>& change);
-  void TellFailure(const dossier::ErrorRecord& error);
+  void TellFailure(const host::ErrorRecord& error);
   void PlanRebind();
   void Rebind();
 

@@ -3,8 +3,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "dossier/model/Tracer.h"
-
 namespace brivane::app {
 namespace {
 
@@ -29,7 +27,7 @@ Answer Ask(QWidget* above, const QString& title, const QString& text, const QStr
   return box.clickedButton() == yes ? Answer::Yes : Answer::No;
 }
 
-void ShowFailure(QWidget* above, const dossier::ErrorRecord& error, Consequence consequence) {
+void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence consequence) {
   const auto text = [](const std::string& s) { return QString::fromStdString(s); };
   QMessageBox box(QMessageBox::Critical, text(error.Caption), text(error.Message), QMessageBox::Ok, above);
   box.setTextFormat(Qt::PlainText);

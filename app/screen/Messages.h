@@ -3,6 +3,8 @@
 #include <QString>
 #include <cstdint>
 
+#include "host/model/ErrorRecord.h"
+
 class QWidget;
 
 namespace brivane::dossier {
@@ -22,6 +24,6 @@ void ShowMessage(QWidget* above, const QString& title, const QString& text);
 enum class Consequence : std::uint8_t { None, Reloaded };
 
 /// The one box of an error report: what went wrong, and for support in which control, number and source.
-void ShowFailure(QWidget* above, const dossier::ErrorRecord& error, Consequence consequence);
+void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence consequence);
 
 }  // namespace brivane::app

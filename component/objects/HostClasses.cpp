@@ -14,12 +14,6 @@ namespace {
 
 constexpr std::int32_t kCannotCreate = 429;
 
-/// The check of a host that has none.
-class NoCheck final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 ComPtr<IDispatch> CreateByProgId(const std::string& progId) {
   CLSID id{};
   ComPtr<IDispatch> object;
@@ -65,7 +59,7 @@ host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classe
           },
           .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
             ComPtr<IDispatch> made = MakeCheck(classes, companion, control);
-            if (!made) return std::make_shared<NoCheck>();
+            if (!made) return std::make_shared<host::GeenDossierControle>();
             return session.Make<ControleAdapter>(
                 [&classes, &companion, name = std::string(control), first = std::move(made)]() mutable {
                   return first ? std::exchange(first, {}) : MakeCheck(classes, companion, name);

@@ -9,11 +9,6 @@
 namespace brivane::dossier {
 namespace {
 
-std::size_t Plaats(std::int16_t voorstel) {
-  if (voorstel < 1 || voorstel > 3) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
-  return static_cast<std::size_t>(voorstel - 1);
-}
-
 /// A copy's periods are entries of their own.
 KolomGegevens Kopie(const VrijeKolom& kolom, std::int16_t Id) {
   KolomGegevens gegevens = kolom.Gegevens();

@@ -9,6 +9,7 @@
 #include "dossier/model/Environment.h"
 #include "dossier/model/Lening.h"
 #include "dossier/model/Persoon.h"
+#include "host/model/Codes.h"
 #include "host/model/Dossier.h"
 
 namespace brivane::dossier {
@@ -24,7 +25,7 @@ namespace brivane::dossier {
 class Dossier : public host::Dossier {
  public:
   /// Number of the loan of the current situation.
-  static constexpr std::int16_t kHuidig = 0;
+  static constexpr std::int16_t kHuidig = host::codes::kHuidigeSituatie;
 
   Dossier(DossierGegevens gegevens, std::shared_ptr<Environment> omgeving);
 

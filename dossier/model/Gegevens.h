@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "host/Date.h"
+#include "host/Error.h"
+#include "host/model/Codes.h"
 #include "host/model/PeriodeFields.h"
 #include "host/model/VrijeKolomFields.h"
 
@@ -64,6 +66,12 @@ struct Code {
   friend bool operator==(const Code&, const Code&) = default;
 };
 
+/// Where proposal 1, 2 or 3 stands in an array of them; fails with error 9 for another number.
+inline std::size_t Plaats(std::int16_t voorstel) {
+  if (voorstel < 1 || voorstel > host::codes::kVoorstellen) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
+  return static_cast<std::size_t>(voorstel - 1);
+}
+
 struct DossierGegevens {
   std::vector<PersoonGegevens> Personen;  ///< the applicant and, if there is one, the partner
   std::int16_t Leeftijd = 67;             ///< age limit of the assumptions, whole years
@@ -75,16 +83,5 @@ struct DossierGegevens {
 
   friend bool operator==(const DossierGegevens&, const DossierGegevens&) = default;
 };
-
-/// The company code for a company that is named in text.
-inline constexpr char kAndereMaatschappij[] = "ZZ";
-
-/// One-off, as a term.
-inline constexpr std::int16_t kEenmalig = 99;
-
-/// A product that runs until a contract expiry date instead of for a duration.
-[[nodiscard]] bool IsContract(const KolomGegevens& kolom);
-/// The fixed name of a kind of product; empty for 0, "Anders" and what is unknown.
-[[nodiscard]] std::string Productsoortnaam(std::int16_t productsoort);
 
 }  // namespace brivane::dossier

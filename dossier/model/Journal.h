@@ -17,7 +17,7 @@ struct KolomVeld {
   std::string_view naam;
 };
 /// The membership of proposal 1, 2 and 3, which a file keeps apart.
-inline constexpr KolomVeld kVoorstellen[] = {{"Voorstel1"}, {"Voorstel2"}, {"Voorstel3"}};
+inline constexpr KolomVeld kVoorstelVelden[] = {{"Voorstel1"}, {"Voorstel2"}, {"Voorstel3"}};
 /// The base amount, which is the amount object's.
 inline constexpr KolomVeld kBasisbedrag{"Bedrag"};
 

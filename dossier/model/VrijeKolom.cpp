@@ -2,17 +2,7 @@
 
 #include <utility>
 
-#include "host/Error.h"
-
 namespace brivane::dossier {
-namespace {
-
-std::size_t Plaats(std::int16_t voorstel) {
-  if (voorstel < 1 || voorstel > 3) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
-  return static_cast<std::size_t>(voorstel - 1);
-}
-
-}  // namespace
 
 VrijeKolom::VrijeKolom(std::shared_ptr<Environment> omgeving, KolomGegevens&& gegevens)
     : omgeving_(std::move(omgeving)), gegevens_(std::move(gegevens)), bedrag_(omgeving_, gegevens_) {}
@@ -21,7 +11,7 @@ std::string VrijeKolom::Voorstel(std::int16_t nummer) const { return gegevens_.V
 
 void VrijeKolom::SetVoorstel(std::int16_t nummer, const std::string& lidmaatschap) {
   const std::size_t plaats = Plaats(nummer);
-  Schrijf(kVoorstellen[plaats], gegevens_.Voorstel[plaats], lidmaatschap);
+  Schrijf(kVoorstelVelden[plaats], gegevens_.Voorstel[plaats], lidmaatschap);
 }
 
 std::shared_ptr<host::BedragObject> VrijeKolom::Bedrag() { return {shared_from_this(), &bedrag_}; }

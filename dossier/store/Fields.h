@@ -9,7 +9,7 @@
 namespace brivane::dossier {
 
 /// The column of a table that holds a field: "UitsluitenAO" stands in `uitsluiten_ao`, "Voorstel1" in `voorstel_1`.
-[[nodiscard]] constexpr std::string ColumnName(std::string_view naam) {
+[[nodiscard]] inline std::string ColumnName(std::string_view naam) {
   const auto klein = [](char teken) { return teken >= 'a' && teken <= 'z'; };
   const auto hoofdletter = [](char teken) { return teken >= 'A' && teken <= 'Z'; };
   std::string kolom;
@@ -31,7 +31,7 @@ void BezoekVeld(const host::Field<Item, Waarden, T, Given>& veld, Kolom& kolom, 
 /// Three values in three columns.
 template <class Item, class Waarden, class T, class Given, class Kolom, class Visitor>
 void BezoekVeld(const host::NumberedField<Item, Waarden, T, Given, 3>& veld, Kolom& kolom, Visitor& bezoek) {
-  for (std::size_t plaats = 0; plaats < 3; ++plaats) bezoek(kVoorstellen[plaats].naam, (kolom.*veld.value)[plaats]);
+  for (std::size_t plaats = 0; plaats < 3; ++plaats) bezoek(kVoorstelVelden[plaats].naam, (kolom.*veld.value)[plaats]);
 }
 
 /// Hands a visitor the name and the value of every stored field of a free column but its key.

@@ -10,6 +10,7 @@
 #include <unordered_map>
 
 #include "dossier/store/Fields.h"
+#include "frame/Calendar.h"
 
 namespace brivane::dossier {
 namespace {
@@ -18,10 +19,6 @@ namespace {
   throw DatabaseError(QSqlError({}, QStringLiteral("The file holds impossible values"), QSqlError::UnknownError,
                                 QString::number(static_cast<int>(SqliteCode::Corrupt))));
 }
-
-/// The calendar's first and last day, 1 January 100 and 31 December 9999, in days since 30 December 1899.
-constexpr std::int32_t kEersteDag = -657434;
-constexpr std::int32_t kLaatsteDag = 2958465;
 
 /// Keys and places start at 1, and new ones are given out after the highest.
 constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max() / 2;
@@ -46,8 +43,8 @@ class Rij {
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
     Lees(dagen);
-    if (dagen < kEersteDag || dagen > kLaatsteDag) Beschadigd();
     datum = host::Date(dagen);
+    if (datum < frame::kFirstDay || datum > frame::kLastDay) Beschadigd();
   }
   /// A key, or a place in an order.
   void LeesSleutel(std::int64_t& sleutel) {

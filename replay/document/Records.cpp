@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "frame/Calendar.h"
+#include "host/model/Codes.h"
 #include "replay/document/Document.h"
 
 namespace brivane::replay {
@@ -152,7 +153,7 @@ std::vector<dossier::Code> ReadCodes(const Value& value) {
 DossierGegevens ReadDossier(const Value& value) {
   value.Keys({"personen", "Uitgangspunten", "MaatschappijType", "HuidigeLening", "Leningen"});
   DossierGegevens dossier;
-  dossier.MaatschappijType = {{"AB", "Alfa Bank"}, {"ZZ", "Anders"}};
+  dossier.MaatschappijType = {{"AB", "Alfa Bank"}, {std::string(host::codes::kAndereMaatschappij), "Anders"}};
   dossier.Leningen.resize(1);
   dossier.Personen = ReadPersons(value.Member("personen"));
   if (const auto member = value.Find("Uitgangspunten"))

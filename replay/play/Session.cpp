@@ -13,15 +13,9 @@ namespace brivane::replay {
 
 namespace {
 
-/// The host's check of the loan file, which this host leaves empty.
-class NoControle : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 host::HostFactories Factories() {
   return {[](std::string_view) { return std::make_shared<dossier::Tracer>(); },
-          [](std::string_view) { return std::make_shared<NoControle>(); }};
+          [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }};
 }
 
 /// Keeps a step on the stack of those that run.

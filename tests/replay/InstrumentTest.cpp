@@ -20,7 +20,7 @@ struct Listener final : HostListener {
   void OnGet(Member member, const MemberValue&, MemberIndex) override { told.push_back("get " + Name(member)); }
   void OnSet(Member member, const MemberValue&, MemberIndex) override { told.push_back("set " + Name(member)); }
   void OnCall(Member member, std::span<const std::int16_t>) override { told.push_back("call " + Name(member)); }
-  void OnReport(const ErrorRecord& record) override { told.push_back("report " + record.ErrorNumber); }
+  void OnReport(const host::ErrorRecord& record) override { told.push_back("report " + record.ErrorNumber); }
   static std::string Name(Member member) { return std::string(NameOf(member)); }
 };
 
@@ -89,7 +89,7 @@ TEST_F(InstrumentedHostTest, TheInnerHostMeetsItsOwnObjects) {
 
   std::string reported;
   const host::Subscription reports =
-      inner_->FoutGemeld.Connect([&](const dossier::ErrorRecord& record) { reported = record.ErrorNumber; });
+      inner_->FoutGemeld.Connect([&](const host::ErrorRecord& record) { reported = record.ErrorNumber; });
   const auto trace = host_.Factories().MaakProcedureTrace("VrijeKolom");
   trace->SetErrorNumber("13");
   host_.Application()->ReportError(*trace);

@@ -13,8 +13,8 @@
 /// Where twips, colours and captions become what Qt draws, and back.
 namespace brivane::qt {
 
-/// Twips to a pixel that does not depend on the screen: Qt scales those itself.
-inline constexpr float kTwipsPerPixel = 15;
+// A pixel of Qt does not depend on the screen: Qt scales those itself.
+using host::kTwipsPerPixel;
 
 /// Turns twips into pixels and back. A scale other than 1 follows a font of the host that is larger or
 /// smaller than the font of the design.

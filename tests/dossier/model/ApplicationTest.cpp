@@ -99,7 +99,7 @@ TEST_F(ApplicationTest, GivesTheAgeLimitOfTheCase) {
 
 TEST_F(ApplicationTest, HandsTheErrorRecordToItsListener) {
   std::vector<std::string> told;
-  const host::Subscription errors = application_.FoutGemeld.Connect([&](const ErrorRecord& error) {
+  const host::Subscription errors = application_.FoutGemeld.Connect([&](const host::ErrorRecord& error) {
     told = {error.ApplicationTitle, error.ObjectName,  error.Caption,          error.ObjectDescription,
             error.Message,          error.ErrorNumber, error.ErrorDescription, error.ErrorSource};
   });

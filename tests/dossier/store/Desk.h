@@ -26,7 +26,8 @@ class Desk {
         edits_(std::move(edits)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
     toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-    subscriptions_ += application_->FoutGemeld.Connect([this](const ErrorRecord& error) { reports.push_back(error); });
+    subscriptions_ +=
+        application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) { reports.push_back(error); });
     subscriptions_ += edits_->Failed.Connect([this](const StoreFailure& failure) { failed.push_back(failure); });
     const host::HostFactories factories{
         .MaakProcedureTrace =
@@ -58,7 +59,7 @@ class Desk {
   [[nodiscard]] Application& App() { return *application_; }
 
   /// The reports that reached the adviser.
-  std::vector<ErrorRecord> reports;
+  std::vector<host::ErrorRecord> reports;
   /// What the store told.
   std::vector<StoreFailure> failed;
 

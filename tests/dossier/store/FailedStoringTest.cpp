@@ -57,7 +57,7 @@ class FailedStoringTest : public testing::Test {
   Desk desk_{*file_};
 };
 
-void ExpectOneReport(const std::vector<ErrorRecord>& reports, const std::string& cause) {
+void ExpectOneReport(const std::vector<host::ErrorRecord>& reports, const std::string& cause) {
   ASSERT_EQ(reports.size(), 1u);
   EXPECT_EQ(reports[0].Caption, "Kwandero");
   EXPECT_EQ(reports[0].Message, "Er is een fout opgetreden.");
