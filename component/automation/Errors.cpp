@@ -4,9 +4,11 @@
 #include <new>
 #include <string>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/ComPtr.h"
 #include "component/automation/Text.h"
 #include "frame/ErrorReport.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -44,12 +46,11 @@ std::int32_t NumberOf(HRESULT result) {
 }
 
 std::string SystemText(HRESULT result) {
-  wchar_t* text = nullptr;
+  win32::Owned<wchar_t*, &LocalFree> text;
   const DWORD length =
       FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  std::string description = Narrow({text, text ? length : 0});
-  LocalFree(text);
+                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(text.Put()), 0, nullptr);
+  std::string description = Narrow({text.Get(), text ? length : 0});
   while (!description.empty() && (description.back() == '\n' || description.back() == '\r')) description.pop_back();
   return description.empty() ? "Automation error" : description;
 }
@@ -57,12 +58,11 @@ std::string SystemText(HRESULT result) {
 host::Error FromRecord(EXCEPINFO& info) {
   if (info.pfnDeferredFillIn) info.pfnDeferredFillIn(&info);
   const std::int32_t number = info.wCode != 0 ? info.wCode : NumberOf(info.scode);
-  host::Error error(number, FromBstr(info.bstrDescription), FromBstr(info.bstrSource));
-  SysFreeString(info.bstrDescription);
-  SysFreeString(info.bstrSource);
-  SysFreeString(info.bstrHelpFile);
+  const Bstr description = Bstr::Take(info.bstrDescription);
+  const Bstr source = Bstr::Take(info.bstrSource);
+  const Bstr helpFile = Bstr::Take(info.bstrHelpFile);
   info = {};
-  return error;
+  return {number, Narrow(description.View()), Narrow(source.View())};
 }
 
 /// Leaves number, description and source for the caller to ask for.

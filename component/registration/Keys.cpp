@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/Errors.h"
 #include "component/automation/Module.h"
 #include "component/control/MiscStatus.h"
@@ -36,6 +37,21 @@ std::wstring ProgId(const LibraryClass& entry) { return std::wstring(kLibrary) +
 std::wstring VersionedProgId(const LibraryClass& entry) { return ProgId(entry) + L'.' + std::to_wstring(kMajor); }
 std::wstring ClassKey(const LibraryClass& entry) { return L"CLSID\\" + Text(entry.id); }
 
+/// What a description says of itself. It must not outlive the description.
+class TypeAttributes {
+ public:
+  explicit TypeAttributes(ITypeInfo& info) : info_(info) { Check(info_.GetTypeAttr(&attributes_)); }
+  TypeAttributes(const TypeAttributes&) = delete;
+  TypeAttributes& operator=(const TypeAttributes&) = delete;
+  ~TypeAttributes() { info_.ReleaseTypeAttr(attributes_); }
+
+  const TYPEATTR* operator->() const { return attributes_; }
+
+ private:
+  ITypeInfo& info_;
+  TYPEATTR* attributes_ = nullptr;
+};
+
 struct InterfaceEntry {
   IID id;
   std::wstring name;
@@ -48,18 +64,13 @@ std::vector<InterfaceEntry> Interfaces() {
   std::vector<InterfaceEntry> interfaces;
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     ComPtr<ITypeInfo> info;
-    TYPEATTR* attributes = nullptr;
     Check(library->GetTypeInfo(i, info.Put()));
-    Check(info->GetTypeAttr(&attributes));
-    const IID id = attributes->guid;
+    const TypeAttributes attributes(*info.Get());
+    if (attributes->typekind != TKIND_DISPATCH && attributes->typekind != TKIND_INTERFACE) continue;
     const bool isDual = attributes->wTypeFlags & TYPEFLAG_FDUAL;
-    const bool isInterface = attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE;
-    info->ReleaseTypeAttr(attributes);
-    if (!isInterface) continue;
-    BSTR name = nullptr;
-    Check(library->GetDocumentation(static_cast<INT>(i), &name, nullptr, nullptr, nullptr));
-    interfaces.push_back({id, name, isDual ? kDualMarshaler : kDispatchMarshaler});
-    SysFreeString(name);
+    Bstr name;
+    Check(library->GetDocumentation(static_cast<INT>(i), name.Put(), nullptr, nullptr, nullptr));
+    interfaces.push_back({attributes->guid, std::wstring(name.View()), isDual ? kDualMarshaler : kDispatchMarshaler});
   }
   return interfaces;
 }

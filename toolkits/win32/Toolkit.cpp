@@ -63,10 +63,8 @@ void RegisterClasses(HINSTANCE module) {
 }
 
 double SystemScale() {
-  const HDC screen = GetDC(nullptr);
-  const double scale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
-  ReleaseDC(nullptr, screen);
-  return scale;
+  const WindowContext screen;
+  return GetDeviceCaps(screen.Get(), LOGPIXELSY) / 96.0;
 }
 
 }  // namespace
@@ -78,16 +76,16 @@ Toolkit::Toolkit(HINSTANCE module) : module_(module), edge_(SystemScale()), look
                                 ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES | ICC_BAR_CLASSES};
     return InitCommonControlsEx(&wanted);
   });
-  parking_ = CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr);
+  parking_.Reset(CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr));
 }
 
-Toolkit::~Toolkit() { DestroyWindow(parking_); }
+Toolkit::~Toolkit() = default;
 
 HWND Toolkit::MakeWindow(const Making& making, HWND parent) const {
   const bool child = (making.style & WS_CHILD) != 0;
   return look_->During([&] {
     return CreateWindowExW(making.extendedStyle, making.className, making.text.c_str(), making.style, 0, 0, 0, 0,
-                           parent == nullptr && child ? parking_ : parent, nullptr, module_, nullptr);
+                           parent == nullptr && child ? parking_.Get() : parent, nullptr, module_, nullptr);
   });
 }
 

@@ -10,6 +10,7 @@
 #include "toolkits/win32/Desktop.h"
 #include "toolkits/win32/window/Edge.h"
 #include "toolkits/win32/window/Fonts.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::win32 {
 
@@ -99,7 +100,7 @@ class Toolkit : public controls::DrawnToolkit {
   win32::Edge edge_;
   mutable Fonts fonts_;
   std::unique_ptr<Look> look_;
-  HWND parking_ = nullptr;
+  OwnedWindow parking_;
 };
 
 }  // namespace brivane::win32

@@ -110,9 +110,7 @@ void CheckWindow::DrawFocus() const {
   if (GetFocus() != Handle()) return;
   RECT area{};
   GetClientRect(Handle(), &area);
-  const HDC context = GetDC(Handle());
-  FrameRect(context, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
-  ReleaseDC(Handle(), context);
+  FrameRect(WindowContext(Handle()).Get(), &area, GetSysColorBrush(COLOR_HIGHLIGHT));
 }
 
 void CheckWindow::Choose() {
