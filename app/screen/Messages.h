@@ -7,10 +7,6 @@
 
 class QWidget;
 
-namespace brivane::dossier {
-struct ErrorRecord;
-}
-
 namespace brivane::app {
 
 /// What a question's buttons answer.
