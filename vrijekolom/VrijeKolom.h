@@ -108,6 +108,8 @@ class VrijeKolom {
 
   // Fiscal options
   void Check_FraFiscaal();
+  [[nodiscard]] std::int16_t GekozenLast() const;
+  [[nodiscard]] std::int16_t GekozenFiscaal() const;
 
   // Term
   void CboTermijn_Click();
