@@ -147,6 +147,7 @@ HRESULT PaintWindow(HWND window, COLORREF background, HDC target, const RECT& bo
   ::FillRect(picture.Drawing(), &whole, win32::OwnedBrush(::CreateSolidBrush(background)).Get());
   const BeyondTheScreen visible(window);
   PaintAt(window, picture.Drawing(), {0, 0});
+  const win32::SavedContext saved(target);
   ::SetStretchBltMode(target, HALFTONE);
   ::StretchBlt(target, bounds.left, bounds.top, WidthOf(bounds), HeightOf(bounds), picture.Drawing(), 0, 0, size.cx,
                size.cy, SRCCOPY);

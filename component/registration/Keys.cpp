@@ -19,6 +19,8 @@ constexpr const wchar_t* kPlatform = L"win64";
 constexpr const wchar_t* kPlatform = L"win32";
 #endif
 constexpr const wchar_t* kLibrary = L"BrivaneVrijeKolom";
+/// The one verb of a control on its container's menu: its name, flags of the menu, and where it stands.
+constexpr const wchar_t* kVerb = L"&Bewerken, 0, 2";
 /// The category of controls.
 constexpr const wchar_t* kControls = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
 /// What the system carries calls of Automation between apartments with: of dual interfaces, and of the others.
@@ -81,6 +83,7 @@ void AddControl(std::vector<KeyValue>& values, const LibraryClass& entry, const 
   values.push_back({key + L"\\MiscStatus", L"", L"0"});
   values.push_back({key + L"\\MiscStatus\\" + std::to_wstring(DVASPECT_CONTENT), L"", std::to_wstring(kMiscStatus)});
   values.push_back({key + L"\\ToolboxBitmap32", L"", path + L", " + std::to_wstring(entry.bitmap)});
+  values.push_back({key + L"\\Verb\\" + std::to_wstring(OLEIVERB_PRIMARY), L"", kVerb});
   values.push_back({key + L"\\Implemented Categories\\" + kControls, L"", L""});
 }
 

@@ -67,11 +67,10 @@ class LibraryFile {
         reinterpret_cast<LONG_PTR>(&numbers));
     return numbers;
   }
+  [[nodiscard]] DWORD LinkTime() const { return Headers().FileHeader.TimeDateStamp; }
   [[nodiscard]] std::vector<std::string> Exports() const {
     const auto* const base = reinterpret_cast<const char*>(module_);
-    const auto& dos = *reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
-    const auto& headers = *reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos.e_lfanew);
-    const auto& place = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
+    const auto& place = Headers().OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
     const auto& directory = *reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(base + place.VirtualAddress);
     // What is exported without a name would be more than there are names.
     EXPECT_EQ(directory.NumberOfFunctions, directory.NumberOfNames);
@@ -89,6 +88,11 @@ class LibraryFile {
   }
 
  private:
+  [[nodiscard]] const IMAGE_NT_HEADERS& Headers() const {
+    const auto* const base = reinterpret_cast<const char*>(module_);
+    return *reinterpret_cast<const IMAGE_NT_HEADERS*>(base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
+  }
+
   HMODULE module_;
   std::string bytes_;
   std::string lower_;
@@ -142,6 +146,8 @@ TEST_F(ShippedTest, ExportsWhatTheSystemCallsAlone) {
   EXPECT_THAT(shipped_.Exports(), UnorderedElementsAre("DllCanUnloadNow", "DllGetClassObject", "DllInstall",
                                                        "DllRegisterServer", "DllUnregisterServer"));
 }
+
+TEST_F(ShippedTest, DoesNotTellWhenItWasLinked) { EXPECT_EQ(shipped_.LinkTime(), 0U); }
 
 TEST_F(ShippedTest, IsSmallerThanTheLibraryWithTheDoor) { EXPECT_LT(shipped_.Size(), withDoor_.Size()); }
 
