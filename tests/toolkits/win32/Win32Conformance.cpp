@@ -58,6 +58,7 @@ class Win32UnderTest final : public ScreenUnderTest {
   }
   void Copy(const std::string& text) override { test::Copy(stage_.Window(), win32::Wide(text)); }
   void LeaveWindow() override {
+    left_ = GetFocus();
     other_ =
         CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
     SetForegroundWindow(other_);
@@ -68,6 +69,7 @@ class Win32UnderTest final : public ScreenUnderTest {
     if (other_ == nullptr) return;
     DestroyWindow(std::exchange(other_, nullptr));
     SetForegroundWindow(stage_.Window());
+    SetFocus(left_);  // a container gives it back
     Settle();
   }
   void ClickCalendarButton(controls::AnyControl& box) override {
@@ -125,6 +127,7 @@ class Win32UnderTest final : public ScreenUnderTest {
   win32::Toolkit toolkit_{GetModuleHandleW(nullptr)};
   Stage stage_{toolkit_};
   HWND other_ = nullptr;
+  HWND left_ = nullptr;  ///< what had the focus there
 };
 
 }  // namespace
