@@ -31,7 +31,6 @@ class WindowSubject final : public replay::OnSurface<replay::Subject> {
     editor_.Toolkit().Desktop().clock = nullptr;
     editor_.Toolkit().Desktop().answer = nullptr;
     editor_.Toolkit().focusMoved = nullptr;
-    screen_->Scenario().Geopend.Disconnect();
   }
 
   void SetApplication(std::int16_t Len_Id, std::int16_t Vrij_Id) override {

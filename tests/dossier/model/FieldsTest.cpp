@@ -59,7 +59,7 @@ class FieldsTest : public testing::Test {
     EXPECT_EQ(field.Read(record), (std::array<std::string, 3>{"J", "J", "J"}));
   }
 
-  Dossier dossier_{OneColumn(), std::make_shared<Omgeving>()};
+  Dossier dossier_{OneColumn(), std::make_shared<Environment>()};
   std::shared_ptr<VrijeKolom> kolom_ = dossier_.ZoekKolom(0, 1);
   int tried_ = 0;
 };
