@@ -34,11 +34,18 @@ class Listeners {
   /// nest.
   class Raising {
    public:
+// The destructor takes it out again unless the list is gone by then, which the compiler cannot see.
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdangling-pointer"
+#endif
     explicit Raising(Listeners& listeners) noexcept
-        : listeners_(&listeners),
-          outer_(std::exchange(listeners.raising_, this)),
-          next_(listeners.first_),
-          last_(listeners.last_) {}
+        : listeners_(&listeners), outer_(listeners.raising_), next_(listeners.first_), last_(listeners.last_) {
+      listeners.raising_ = this;
+    }
+#if defined(__GNUC__) && !defined(__clang__) && __GNUC__ >= 12
+#pragma GCC diagnostic pop
+#endif
     Raising(const Raising&) = delete;
     Raising& operator=(const Raising&) = delete;
     ~Raising() {

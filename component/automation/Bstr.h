@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include <new>
 #include <string_view>

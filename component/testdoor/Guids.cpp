@@ -1,6 +1,6 @@
 // The one place where the identities of the door are defined.
-#include <initguid.h>
+#include "component/idl/Windows.h"
 
-#include "component/automation/Windows.h"
+#include <initguid.h>
 
 #include "TestDoor_idl.h"

@@ -1,7 +1,7 @@
 // What lies in the library that hosts register. What must not lie there is looked for in the library with the door in
 // the same way, where it must be found.
 
-#include "component/automation/Windows.h"
+#include "component/idl/Windows.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
