@@ -1,5 +1,4 @@
-# brivane_write_links(FILE): a line for each target of the tree, for tests/build/check_rooms.py: its name, its folder, its
-# sources and what it links, with tabs between.
+# brivane_targets_below(FOLDER RESULT): the targets of a folder and of those in it.
 function(brivane_targets_below folder result)
   get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
   get_property(inner DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
@@ -10,10 +9,11 @@ function(brivane_targets_below folder result)
   set(${result} "${targets}" PARENT_SCOPE)
 endfunction()
 
+# brivane_write_links(FILE TARGET...): a line for each target, for tests/build/check_rooms.py: its name, its folder, its
+# sources and what it links, with tabs between.
 function(brivane_write_links file)
-  brivane_targets_below(${PROJECT_SOURCE_DIR} targets)
   set(lines "")
-  foreach(target IN LISTS targets)
+  foreach(target IN LISTS ARGN)
     set(line ${target})
     foreach(property IN ITEMS SOURCE_DIR SOURCES LINK_LIBRARIES)
       get_target_property(value ${target} ${property})

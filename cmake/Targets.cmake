@@ -13,26 +13,41 @@ function(brivane_logic_library name)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_strict_warnings>)
 endfunction()
 
-# brivane_test(NAME LIBS libs... SOURCES sources... [SLOW]): a GoogleTest program, one ctest entry for each test case.
-# SLOW: more than a few seconds; `./test --quick` leaves it out. Cross-built, a program is one entry: Wine takes a
-# second to start one. Those of a folder that sets `windows_test_lock` run one at a time.
+# What only tests: it is compiled more often than it runs for long.
+add_library(brivane_quick_to_compile INTERFACE)
+target_compile_options(brivane_quick_to_compile INTERFACE $<$<CONFIG:Release>:-O0>)
+
+# brivane_test(NAME LIBS libs... SOURCES sources... [SLOW] [SHARDS number]): a GoogleTest program, one ctest entry; `./test`
+# counts its test cases. SLOW: more than a few seconds; `./test --quick` leaves it out. SHARDS: so many entries, each with
+# its part of the cases, so that they run side by side. Those of a folder that sets `windows_test_lock` run one at a time.
 function(brivane_test name)
-  cmake_parse_arguments(arg "SLOW" "" "LIBS;SOURCES" ${ARGN})
-  set(properties ENVIRONMENT QT_QPA_PLATFORM=offscreen)
-  if(arg_SLOW)
-    list(APPEND properties LABELS slow)
-  endif()
+  cmake_parse_arguments(arg "SLOW" "SHARDS" "LIBS;SOURCES" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE brivane_warnings GTest::gtest_main GTest::gmock ${arg_LIBS})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  if(arg_SLOW)
+    # The longest first, so that nothing waits for them in the end.
+    set(properties LABELS slow COST 100 TIMEOUT 900)
+  else()
+    target_link_libraries(${name} PRIVATE brivane_quick_to_compile)
+    brivane_precompile(${name})
+    set(properties TIMEOUT 300)
+  endif()
+  if(windows_test_lock)
+    list(APPEND properties RESOURCE_LOCK ${windows_test_lock})
+  endif()
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME windows.${name} COMMAND ${name})
-    list(APPEND properties TIMEOUT 300)
-    if(windows_test_lock)
-      list(APPEND properties RESOURCE_LOCK ${windows_test_lock})
-    endif()
     set_tests_properties(windows.${name} PROPERTIES ${properties})
-    return()
+  elseif(arg_SHARDS)
+    math(EXPR last "${arg_SHARDS} - 1")
+    foreach(shard RANGE ${last})
+      add_test(NAME ${name}.${shard} COMMAND ${name})
+      set_tests_properties(${name}.${shard} PROPERTIES ${properties}
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;GTEST_TOTAL_SHARDS=${arg_SHARDS};GTEST_SHARD_INDEX=${shard}")
+    endforeach()
+  else()
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ${properties} ENVIRONMENT QT_QPA_PLATFORM=offscreen)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
 endfunction()

@@ -10,8 +10,8 @@ namespace brivane::frame {
 namespace {
 
 constexpr std::chrono::sys_days kZeroDate = std::chrono::year{1899} / 12 / 30;
-constexpr int kFirstYear = 100;
-constexpr int kLastYear = 9999;
+constexpr int kFirstCalendarYear = 100;
+constexpr int kLastCalendarYear = 9999;
 constexpr std::int64_t kMonthsPerYear = 12;
 /// No two dates are further apart.
 constexpr std::int64_t kMostYears = 10000;
@@ -36,8 +36,8 @@ YearMonthDay Split(host::Date date) {
 }
 
 bool IsCalendarDate(YearMonthDay date) {
-  return date.year >= kFirstYear && date.year <= kLastYear && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
-         date.day <= LastDayOf(date.year, date.month);
+  return date.year >= kFirstCalendarYear && date.year <= kLastCalendarYear && date.month >= 1 && date.month <= 12 &&
+         date.day >= 1 && date.day <= LastDayOf(date.year, date.month);
 }
 
 host::Date MakeDate(YearMonthDay date) {
@@ -52,7 +52,7 @@ host::Date AddMonths(host::Date date, std::int64_t months) {
     throw host::Error(host::ErrorNumber::Overflow);
   const YearMonthDay start = Split(date);
   const std::int64_t month = start.year * kMonthsPerYear + (start.month - 1) + months;
-  if (month < kFirstYear * kMonthsPerYear || month >= (kLastYear + 1) * kMonthsPerYear)
+  if (month < kFirstCalendarYear * kMonthsPerYear || month >= (kLastCalendarYear + 1) * kMonthsPerYear)
     throw host::Error(host::ErrorNumber::Overflow);
   YearMonthDay end{static_cast<int>(month / kMonthsPerYear), static_cast<int>(month % kMonthsPerYear) + 1, start.day};
   end.day = std::min(end.day, LastDayOf(end.year, end.month));
