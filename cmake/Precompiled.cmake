@@ -3,7 +3,7 @@
 set(brivane_test_headers
   <algorithm> <array> <cstdint> <functional> <memory> <optional> <string> <string_view> <vector>
   <gmock/gmock.h> <gtest/gtest.h>)
-set(brivane_qt_test_headers ${brivane_test_headers} <QApplication> <QLabel> <QLineEdit> <QMouseEvent> <QString> <QTest>)
+set(brivane_qt_test_headers ${brivane_test_headers} <QApplication> <QLabel> <QLineEdit> <QMouseEvent> <QString>)
 
 # brivane_reaches(TARGET RESULT): the names of all that a target links, and of what that links.
 function(brivane_reaches target result)
@@ -42,8 +42,8 @@ endfunction()
 # brivane_precompile(TARGET): a test program reuses the headers of its kind.
 function(brivane_precompile target)
   brivane_reaches(${target} reached)
-  if("Qt6::Test" IN_LIST reached AND "Qt6::Widgets" IN_LIST reached)
-    brivane_precompiled(qt_test GTest::gmock Qt6::Test Qt6::Widgets)
+  if("Qt6::Widgets" IN_LIST reached)
+    brivane_precompiled(qt_test GTest::gmock Qt6::Widgets)
     target_precompile_headers(${target} REUSE_FROM brivane_precompiled_qt_test)
   else()
     brivane_precompiled(test GTest::gmock)

@@ -16,6 +16,10 @@ endfunction()
 # What only tests: it is compiled more often than it runs for long.
 add_library(brivane_quick_to_compile INTERFACE)
 target_compile_options(brivane_quick_to_compile INTERFACE $<$<CONFIG:Release>:-O0>)
+if(NOT WIN32)
+  # As Qt wants it; headers are precompiled for one way alone.
+  target_compile_options(brivane_quick_to_compile INTERFACE -fPIC)
+endif()
 
 # brivane_test(NAME LIBS libs... SOURCES sources... [SLOW] [SHARDS number]): a GoogleTest program, one ctest entry; `./test`
 # counts its test cases. SLOW: more than a few seconds; `./test --quick` leaves it out. SHARDS: so many entries, each with
