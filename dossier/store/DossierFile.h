@@ -11,12 +11,16 @@
 #include "dossier/store/OpeningError.h"
 #include "dossier/store/StoreTrace.h"
 
+class QTimer;
+
 namespace brivane::dossier {
 
 class FileJournal;
 
 /// An open loan file (`.dossier`) with its case in memory. While it is open nobody else can open it, in this
-/// process or another. Every change of the case is in the file before the procedure that made it returns.
+/// process or another. Every change of the case is stored before the procedure that made it returns: in the log beside
+/// the file, and within a second in the file itself, where the program has an event loop. Closed in order, the file
+/// stands alone.
 ///
 ///     auto bestand = DossierBestand::Open(pad);   // OpeningError: show its Melding()
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
@@ -44,15 +48,21 @@ class DossierBestand {
   /// A tracer for one control, bound to this file's edits.
   [[nodiscard]] std::shared_ptr<StoreTrace> MaakTrace(std::string_view control,
                                                       std::shared_ptr<TraceListener> listener = nullptr);
+  /// The file stands where it was opened: it was not moved, replaced or deleted. Where it was, every change fails, and
+  /// what is stored can be kept by making another file with Dossier()->Gegevens().
+  [[nodiscard]] bool InPlace() const;
   /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
   [[nodiscard]] QStringList ControleerHeelheid();
 
  private:
   explicit DossierBestand(const QString& pad);
+  /// Has the log worked off soon after each edit.
+  void ComeToRest();
 
   QString pad_;
   std::shared_ptr<FileJournal> journal_;
   std::shared_ptr<dossier::Dossier> dossier_;
+  std::unique_ptr<QTimer> rest_;
 };
 
 }  // namespace brivane::dossier

@@ -3,12 +3,14 @@
 #include <utility>
 
 #include "dossier/store/Fields.h"
+#include "dossier/store/StateChain.h"
 #include "host/Error.h"
 
 namespace brivane::dossier {
 namespace {
 
 constexpr char kBron[] = "Dossier";
+constexpr int kMostEditsInLog = 500;
 
 std::string Oorzaak(const DatabaseError& error) {
   switch (error.Code()) {
@@ -43,13 +45,15 @@ QString Update(const char* tabel, const char* kolom, const Waarde& waarde) {
 
 }  // namespace
 
-FileJournal::FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload)
-    : database_(std::move(database)), writer_(*database_, eerste), reload_(std::move(reload)) {}
+FileJournal::FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload,
+                         std::unique_ptr<HeldFile> held)
+    : held_(std::move(held)), database_(std::move(database)), writer_(*database_, eerste), reload_(std::move(reload)) {}
 
 FileJournal::~FileJournal() { Sluit(); }
 
 void FileJournal::Sluit() {
   if (!database_) return;
+  WorkOff();
   writer_.Sluit();
   for (auto& query : kolomvelden_) query.reset();
   for (auto& query : periodevelden_) query.reset();
@@ -57,6 +61,21 @@ void FileJournal::Sluit() {
   begin_.reset();
   commit_.reset();
   database_.reset();
+  if (held_) held_->RemoveEmptyLog();
+  held_.reset();
+}
+
+void FileJournal::WorkOff() noexcept {
+  // A log that holds nothing of this connection's is not touched: where the file was replaced it may be another's.
+  if (!database_ || edits_in_log_ == 0) return;
+  try {
+    QSqlQuery query = database_->Prepare(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    Database::Run(query);
+    // The first value tells whether it was kept from finishing.
+    if (query.next() && query.value(0).toInt() == 0) edits_in_log_ = 0;
+  } catch (...) {
+    // The log still holds what it held.
+  }
 }
 
 Database& FileJournal::Open() {
@@ -92,6 +111,12 @@ template <class Change> void FileJournal::Write(Change&& change) {
 
 void FileJournal::Begin() {
   static_cast<void>(Open());
+  if (!InPlace()) {
+    throw host::Error(kMovedError,
+                      "De wijziging is niet opgeslagen: het dossier is verplaatst, vervangen of verwijderd terwijl "
+                      "het open was.",
+                      kBron);
+  }
   try {
     Database::Run(Prepared(begin_, QStringLiteral("BEGIN IMMEDIATE")));
   } catch (const DatabaseError& error) {
@@ -101,10 +126,14 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
+    AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);
     Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
   } catch (const DatabaseError& error) {
     throw AlsFout(error);
   }
+  // Where nobody works it off at rest it does not grow for ever.
+  if (++edits_in_log_ >= kMostEditsInLog) WorkOff();
+  if (!AtRest()) InLog.Raise();
 }
 
 void FileJournal::Rollback() noexcept {

@@ -28,8 +28,44 @@ QString Tekst(OpeningProblem problem, const QString& naam, const QString& map) {
       return QStringLiteral("Het dossier \"%1\" is al geopend in een ander venster of programma.").arg(naam);
     case OpeningProblem::Unreadable:
       return QStringLiteral("Het dossier \"%1\" kan niet worden gelezen: u hebt er geen toegang toe.").arg(naam);
+    case OpeningProblem::SecondName:
+      return QStringLiteral(
+                 "Het dossier \"%1\" staat onder nog een naam op de schijf (een harde koppeling) en is niet geopend. "
+                 "Maak een kopie van het bestand en open die.")
+          .arg(naam);
+    case OpeningProblem::StrangeLog:
+      return QStringLiteral(
+                 "Naast het dossier \"%1\" staat een logboek dat er niet aantoonbaar bij hoort (\"%1-wal\" of "
+                 "\"%1-journal\"). Er is niets geopend en niets gewijzigd. Zet dat logboek in een andere map om het "
+                 "dossier zonder te openen.")
+          .arg(naam);
+    case OpeningProblem::NoLocks:
+      return QStringLiteral(
+                 "Het dossier \"%1\" kan niet worden geopend: de schijf met de map \"%2\" kan niet voorkomen dat twee "
+                 "programma's er tegelijk in werken. Zet het dossier op een andere schijf.")
+          .arg(naam, map);
+    case OpeningProblem::DiskFull:
+      return QStringLiteral("De schijf met de map \"%2\" is vol. Maak ruimte en probeer het dossier \"%1\" opnieuw.")
+          .arg(naam, map);
+    case OpeningProblem::DiskError:
+      return QStringLiteral(
+                 "Het dossier \"%1\" kan nu niet worden gelezen of geschreven: de schijf met de map \"%2\" meldt een "
+                 "fout. Controleer de schijf of de verbinding en probeer het opnieuw.")
+          .arg(naam, map);
+    case OpeningProblem::NoMemory:
+      return QStringLiteral("Er is te weinig geheugen om het dossier \"%1\" te openen.").arg(naam);
+    case OpeningProblem::CannotCopy:
+      return QStringLiteral(
+                 "Het dossier \"%1\" is niet geopend: een eerder programma is onderbroken, en van wat het achterliet "
+                 "kan geen kopie worden gemaakt om het na te kijken. Is er nog ruimte op de schijf?")
+          .arg(naam);
     case OpeningProblem::AlreadyThere:
       return QStringLiteral("In de map \"%2\" staat al een bestand \"%1\".").arg(naam, map);
+    case OpeningProblem::LogThere:
+      return QStringLiteral(
+                 "In de map \"%2\" staat nog een logboek van een eerder dossier \"%1\" (\"%1-wal\" of "
+                 "\"%1-journal\"). Kies een andere naam, of zet dat logboek in een andere map.")
+          .arg(naam, map);
     case OpeningProblem::CannotCreate:
       return QStringLiteral("Het dossier \"%1\" kan niet worden gemaakt in de map \"%2\".").arg(naam, map);
   }

@@ -149,7 +149,7 @@ const char kNieuwer[] =
 TEST(Openen, AFileOfANewerVersion) {
   const Map map;
   const QString pad = map.Maak();
-  Wijzig(pad, "PRAGMA user_version = 2");
+  Wijzig(pad, "PRAGMA user_version = 3");
   VerwachtGeweigerd(map, pad, OpeningProblem::Newer, kNieuwer);
 }
 
@@ -159,7 +159,7 @@ TEST(Openen, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
   const Map gekopieerd;
   {
     Database database(pad, Access::ReadWrite);
-    database.Run(QStringLiteral("PRAGMA user_version = 2"));
+    database.Run(QStringLiteral("PRAGMA user_version = 3"));
     // The log holds the version, the file does not yet.
     ASSERT_TRUE(QFile::copy(pad, gekopieerd.Pad()));
     ASSERT_TRUE(QFile::copy(pad + "-wal", gekopieerd.Pad("test.dossier-wal")));
@@ -250,7 +250,7 @@ TEST(Openen, AnEditLeavesTheFilesMarksInPlace) {
   DossierBestand::Open(pad)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
   Database database(pad, Access::ReadOnly);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA application_id")).toUInt(), kApplicationId);
-  EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), 1);
+  EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), kSchemaVersion);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA journal_mode")).toString(), "wal");
 }
 

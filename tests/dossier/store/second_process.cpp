@@ -43,6 +43,17 @@ int Lees(const QString& pad) {
   return 0;
 }
 
+/// As another program would that writes in the file.
+int Schrijf(const QString& pad) {
+  try {
+    Database(pad, Access::ReadWrite).Run(QStringLiteral("UPDATE vrijekolom SET looptijd = 99"));
+    Zeg("geschreven");
+  } catch (const DatabaseError& error) {
+    Zeg(std::string("geweigerd: ") + error.what());
+  }
+  return 0;
+}
+
 /// Says the number of each edit once it has been accepted, until it is killed or has done the last one.
 int Bewerk(const QString& pad, int eerste, int laatste) {
   const auto bestand = DossierBestand::Open(pad);
@@ -67,6 +78,7 @@ int main(int argc, char** argv) {
   const QString pad = QString::fromLocal8Bit(argv[2]);
   if (wat == "open") return Open(pad);
   if (wat == "lees") return Lees(pad);
+  if (wat == "schrijf") return Schrijf(pad);
   if (wat == "bewerk" && argc == 5) return Bewerk(pad, std::atoi(argv[3]), std::atoi(argv[4]));
   return 2;
 }
