@@ -23,12 +23,11 @@ namespace {
 /// How long what is stored may stand in the log alone.
 constexpr std::chrono::milliseconds kRest{500};
 
-OpeningProblem Probleem(const DatabaseError& error) {
+OpeningProblem ProblemOf(const DatabaseError& error) {
   if (error.IsDamage()) return OpeningProblem::Damaged;
   switch (error.Code()) {
     case SqliteCode::Busy: return OpeningProblem::InUse;
-    case SqliteCode::ReadOnly:
-    case SqliteCode::CannotOpen: return OpeningProblem::ReadOnly;
+    case SqliteCode::ReadOnly: return OpeningProblem::ReadOnly;
     case SqliteCode::Full: return OpeningProblem::DiskFull;
     case SqliteCode::NoMemory: return OpeningProblem::NoMemory;
     default: return OpeningProblem::DiskError;
@@ -41,7 +40,7 @@ OpeningProblem ProblemOf(const LockError& error) {
     case LockError::Cause::Unsupported: return OpeningProblem::NoLocks;
     case LockError::Cause::Failed: break;
   }
-  return OpeningProblem::ReadOnly;
+  return OpeningProblem::DiskError;
 }
 
 /// What a file holds, and the connection that works in it.
@@ -108,7 +107,7 @@ DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
     *doel = dossier_;
     ComeToRest();
   } catch (const DatabaseError& error) {
-    throw OpeningError(Probleem(error), pad_);
+    throw OpeningError(ProblemOf(error), pad_);
   } catch (const LockError& error) {
     throw OpeningError(ProblemOf(error), pad_);
   }
