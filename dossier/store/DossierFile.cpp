@@ -13,6 +13,7 @@
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/LeftOver.h"
 #include "dossier/store/NewFile.h"
+#include "dossier/store/Possible.h"
 #include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
 #include "dossier/store/StateChain.h"
@@ -43,6 +44,12 @@ OpeningProblem ProblemOf(const LockError& error) {
   return OpeningProblem::DiskError;
 }
 
+void CheckPossible(const DossierGegevens& contents, const QString& pad) {
+  if (const auto place = FirstImpossible(contents)) {
+    throw OpeningError(OpeningProblem::Impossible, pad, QString::fromStdString(*place));
+  }
+}
+
 /// What a file holds, and the connection that works in it.
 struct Opened {
   std::unique_ptr<HeldFile> held;
@@ -61,7 +68,7 @@ Opened OpenToWork(const QString& pad) {
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
   ControleerInhoud(database, pad);
   static_cast<void>(ReadStates(database));
-  static_cast<void>(LeesDossier(database));
+  CheckPossible(LeesDossier(database).gegevens, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -80,6 +87,22 @@ Opened OpenToWork(const QString& pad) {
   return opened;
 }
 
+/// The whole of a file, in memory: the file itself is let go of.
+Opened OpenToRead(const QString& pad) {
+  const FileLock lock(pad, LockKind::Shared);
+  CheckHeader(pad);
+  const DossierGegevens contents = ReadUntouched(pad);
+  CheckPossible(contents, pad);
+  Opened opened{.held = nullptr,
+                .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
+                .contents = {}};
+  Migrate(*opened.database, 0);
+  Writer(*opened.database, 1).SchrijfDossier(contents);
+  opened.contents = LeesDossier(*opened.database);
+  opened.database->Run(QStringLiteral("PRAGMA query_only = ON"));
+  return opened;
+}
+
 /// A half file, with what SQLite leaves beside one where the disk failed.
 void Verwijder(const QString& voorlopig) {
   for (const char* deel : {"", "-journal", "-wal"}) QFile::remove(voorlopig + QLatin1String(deel));
@@ -87,11 +110,11 @@ void Verwijder(const QString& voorlopig) {
 
 }  // namespace
 
-DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
+DossierBestand::DossierBestand(const QString& pad) : pad_(pad), read_only_(false) {
   try {
     CheckName(pad_);
-    if (!IsWritable(pad_)) throw OpeningError(OpeningProblem::ReadOnly, pad_);
-    Opened opened = OpenToWork(pad_);
+    read_only_ = !IsWritable(pad_);
+    Opened opened = read_only_ ? OpenToRead(pad_) : OpenToWork(pad_);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
     journal_ = std::make_shared<FileJournal>(
         std::move(opened.database), opened.contents.hoogste + 1,
@@ -115,7 +138,7 @@ DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
 
 void DossierBestand::ComeToRest() {
   // A program without an event loop closes its files; there the log is worked off at closing.
-  if (QCoreApplication::instance() == nullptr) return;
+  if (QCoreApplication::instance() == nullptr || read_only_) return;
   rest_ = std::make_unique<QTimer>();
   rest_->setSingleShot(true);
   rest_->setInterval(kRest);
@@ -146,6 +169,7 @@ bool DossierBestand::InPlace() const { return journal_->InPlace(); }
 void DossierBestand::Maak(const QString& pad, const DossierGegevens& gegevens) {
   if (QFileInfo::exists(pad)) throw OpeningError(OpeningProblem::AlreadyThere, pad);
   if (LeftOverStands(pad)) throw OpeningError(OpeningProblem::LogThere, pad);
+  CheckPossible(gegevens, pad);
   // Written beside its place and then given its name, so that no half file ever has it.
   const QString voorlopig = pad + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128);
   if (!MakePrivateFile(voorlopig)) throw OpeningError(OpeningProblem::CannotCreate, pad);

@@ -31,7 +31,8 @@ class FileJournal;
 /// The objects of the case may outlive it; a change then fails.
 class DossierBestand {
  public:
-  /// Opens a loan file. Throws OpeningError, and leaves the file as it was.
+  /// Opens a loan file. One that is read-only, or in a folder that is, opens to be read: nothing is written to it or
+  /// beside it, every change fails, and others may read it too. Throws OpeningError, and leaves the file as it was.
   [[nodiscard]] static std::unique_ptr<DossierBestand> Open(const QString& pad);
   /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
   static void Maak(const QString& pad, const DossierGegevens& gegevens);
@@ -48,6 +49,8 @@ class DossierBestand {
   /// A tracer for one control, bound to this file's edits.
   [[nodiscard]] std::shared_ptr<StoreTrace> MaakTrace(std::string_view control,
                                                       std::shared_ptr<TraceListener> listener = nullptr);
+  /// The file was opened to be read.
+  [[nodiscard]] bool IsReadOnly() const { return read_only_; }
   /// The file stands where it was opened: it was not moved, replaced or deleted. Where it was, every change fails, and
   /// what is stored can be kept by making another file with Dossier()->Gegevens().
   [[nodiscard]] bool InPlace() const;
@@ -60,6 +63,7 @@ class DossierBestand {
   void ComeToRest();
 
   QString pad_;
+  bool read_only_;
   std::shared_ptr<FileJournal> journal_;
   std::shared_ptr<dossier::Dossier> dossier_;
   std::unique_ptr<QTimer> rest_;

@@ -11,6 +11,7 @@
 
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/OpeningError.h"
+#include "dossier/store/Possible.h"
 #include "dossier/store/Schema.h"
 
 namespace brivane::dossier {
@@ -91,6 +92,7 @@ void CheckName(const QString& pad) {
   }
   if (S_ISDIR(file.st_mode)) throw OpeningError(OpeningProblem::Directory, pad);
   if (!S_ISREG(file.st_mode)) throw OpeningError(OpeningProblem::NotALoanFile, pad);
+  if (file.st_size > kMostFile) throw OpeningError(OpeningProblem::TooLarge, pad);
   if (eaccess(QFile::encodeName(pad).constData(), R_OK) != 0) throw OpeningError(OpeningProblem::Unreadable, pad);
   // The log of a session under the other name would not be found.
   if (file.st_nlink > 1) throw OpeningError(OpeningProblem::SecondName, pad);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "dossier/store/Fields.h"
+#include "dossier/store/Possible.h"
 #include "dossier/store/StateChain.h"
 #include "host/Error.h"
 
@@ -16,7 +17,9 @@ std::string Oorzaak(const DatabaseError& error) {
   switch (error.Code()) {
     case SqliteCode::Full: return "de schijf is vol";
     case SqliteCode::ReadOnly: return "het bestand is alleen-lezen";
+    case SqliteCode::CannotOpen:
     case SqliteCode::IoError: return "het bestand kan niet worden beschreven";
+    case SqliteCode::NoMemory: return "er is te weinig geheugen";
     case SqliteCode::Busy: return "het bestand is in gebruik bij een ander programma";
     case SqliteCode::Corrupt:
     case SqliteCode::NotADatabase: return "het bestand is beschadigd";
@@ -33,6 +36,14 @@ QVariant AlsVariant(const Waarde& waarde) {
   if (const auto* getal = std::get_if<std::int64_t>(&waarde)) return QVariant(static_cast<qlonglong>(*getal));
   if (const auto* breuk = std::get_if<double>(&waarde)) return QVariant(*breuk);
   return QVariant(AlsBytes(std::get<std::string_view>(waarde)));
+}
+
+/// Only what opens again is stored.
+void MustBePossible(bool possible) {
+  if (possible) return;
+  throw host::Error(kImpossibleError,
+                    "De wijziging is niet opgeslagen: de waarde is groter of anders dan een dossier kan bevatten.",
+                    kBron);
 }
 
 /// An UPDATE of one column of one row. The value's kind goes with the column.
@@ -156,6 +167,7 @@ void FileJournal::Reload() noexcept {
 void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) {
   const auto plaats = static_cast<std::size_t>(veld);
   Write([&](Database&) {
+    MustBePossible(IsPossible(veld, waarde));
     QSqlQuery& query = Prepared(kolomvelden_[plaats], Update("vrijekolom", kKolomNamen[plaats], waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(kolom));
@@ -173,6 +185,7 @@ Sleutel FileJournal::AddPeriod(Sleutel kolom) {
 void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waarde) {
   const auto plaats = static_cast<std::size_t>(veld);
   Write([&](Database&) {
+    MustBePossible(IsPossible(veld, waarde));
     QSqlQuery& query = Prepared(periodevelden_[plaats], Update("periode", kPeriodeNamen[plaats], waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(periode));
@@ -189,7 +202,10 @@ void FileJournal::RemovePeriod(Sleutel periode) {
 }
 
 void FileJournal::AddColumn(Sleutel lening, KolomGegevens& kolom) {
-  Write([&](Database&) { writer_.VoegKolomToe(lening, kolom); });
+  Write([&](Database&) {
+    MustBePossible(!FirstImpossible(kolom));
+    writer_.VoegKolomToe(lening, kolom);
+  });
 }
 
 void FileJournal::RemoveColumn(Sleutel kolom) {
@@ -202,6 +218,7 @@ void FileJournal::RemoveColumn(Sleutel kolom) {
 
 void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
   Write([&](Database& database) {
+    MustBePossible(IsPossibleId(Id));
     QSqlQuery query =
         database.Prepare(QStringLiteral("UPDATE vrijekolom SET lening = ?, id = ?, volgorde = ? WHERE sleutel = ?"));
     query.bindValue(0, static_cast<qlonglong>(lening));
@@ -215,23 +232,29 @@ void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
 void FileJournal::AddLoan(LeningGegevens& lening) {
   Write([&](Database& database) {
     const int nummer = database.Value(QStringLiteral("SELECT max(nummer) + 1 FROM lening")).toInt();
+    MustBePossible(IsPossibleText(lening.Naam) && static_cast<std::size_t>(nummer) <= kMostLoans);
     writer_.VoegLeningToe(nummer, lening);
   });
 }
 
 void FileJournal::SetPersons(const std::vector<PersoonGegevens>& personen) {
   Write([&](Database& database) {
+    for (const PersoonGegevens& persoon : personen) MustBePossible(!FirstImpossible(persoon));
     database.Run(QStringLiteral("DELETE FROM persoon"));
     writer_.SchrijfPersonen(personen);
   });
 }
 
 void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
-  Write([&](Database& database) { database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd)); });
+  Write([&](Database& database) {
+    MustBePossible(IsPossibleAgeLimit(leeftijd));
+    database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd));
+  });
 }
 
 void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
   Write([&](Database& database) {
+    MustBePossible(lidmaatschap == Lidmaatschap::Nee || IsPossibleId(Vrij_Id));
     QSqlQuery query = database.Prepare(lidmaatschap == Lidmaatschap::Ja
                                            ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
                                            : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));

@@ -17,6 +17,8 @@ namespace brivane::dossier {
 inline constexpr std::int32_t kStoreError = 1000;
 /// The file, or its log, is no longer where it was: nothing more is written, and what is stored can be kept elsewhere.
 inline constexpr std::int32_t kMovedError = kStoreError + 300;
+/// The value is none that a loan file may hold: Possible.h.
+inline constexpr std::int32_t kImpossibleError = kStoreError + 400;
 
 /// Keeps every change of a case in its loan file. A change that cannot be kept fails with a host error
 /// from kStoreError on and a Dutch description; so does every change once the file was closed.

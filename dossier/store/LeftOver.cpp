@@ -52,16 +52,32 @@ bool IsProved(const QString& copy, Database& together) {
   }
 }
 
-}  // namespace
-
-void CheckLeftOver(const QString& pad) {
-  if (QFileInfo(RollbackJournalOf(pad)).size() > 0) throw OpeningError(OpeningProblem::StrangeLog, pad);
-  if (QFileInfo(LogOf(pad)).size() == 0) return;
+/// The file with its log, in a copy.
+DossierGegevens ReadCopy(const QString& pad) {
   const Copy copy(pad);
   Database together(copy.Path(), Access::ReadWrite);
   if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, pad);
   ControleerInhoud(together, pad);
-  static_cast<void>(LeesDossier(together));
+  return LeesDossier(together).gegevens;
+}
+
+bool HasLog(const QString& pad) {
+  // Whether what a journal holds is to be played back is not to be told from it.
+  if (QFileInfo(RollbackJournalOf(pad)).size() > 0) throw OpeningError(OpeningProblem::StrangeLog, pad);
+  return QFileInfo(LogOf(pad)).size() > 0;
+}
+
+}  // namespace
+
+void CheckLeftOver(const QString& pad) {
+  if (HasLog(pad)) static_cast<void>(ReadCopy(pad));
+}
+
+DossierGegevens ReadUntouched(const QString& pad) {
+  if (HasLog(pad)) return ReadCopy(pad);
+  Database database(pad, Access::Immutable);
+  ControleerInhoud(database, pad);
+  return LeesDossier(database).gegevens;
 }
 
 bool LeftOverStands(const QString& pad) {

@@ -6,13 +6,21 @@
 namespace brivane::dossier {
 namespace {
 
-QString Tekst(OpeningProblem problem, const QString& naam, const QString& map) {
+QString Tekst(OpeningProblem problem, const QString& naam, const QString& map, const QString& plaats) {
   switch (problem) {
     case OpeningProblem::Missing:
       return QStringLiteral("Het dossier \"%1\" bestaat niet (meer) in de map \"%2\".").arg(naam, map);
     case OpeningProblem::Directory: return QStringLiteral("\"%1\" is een map en geen dossier.").arg(naam);
     case OpeningProblem::Empty: return QStringLiteral("Het bestand \"%1\" is leeg en bevat geen dossier.").arg(naam);
     case OpeningProblem::NotALoanFile: return QStringLiteral("Het bestand \"%1\" is geen dossier.").arg(naam);
+    case OpeningProblem::Impossible:
+      return QStringLiteral(
+                 "Het dossier \"%1\" is niet geopend: het bevat een waarde die dit programma niet schrijft (%2). Zet "
+                 "een "
+                 "reservekopie terug.")
+          .arg(naam, plaats);
+    case OpeningProblem::TooLarge:
+      return QStringLiteral("Het bestand \"%1\" is niet geopend: het is groter dan een dossier kan zijn.").arg(naam);
     case OpeningProblem::Damaged:
       return QStringLiteral("Het dossier \"%1\" is beschadigd en is niet geopend. Zet een reservekopie terug.")
           .arg(naam);
@@ -74,9 +82,9 @@ QString Tekst(OpeningProblem problem, const QString& naam, const QString& map) {
 
 }  // namespace
 
-OpeningError::OpeningError(OpeningProblem problem, const QString& pad) : problem_(problem) {
+OpeningError::OpeningError(OpeningProblem problem, const QString& pad, const QString& plaats) : problem_(problem) {
   const QFileInfo bestand(pad);
-  melding_ = Tekst(problem, bestand.fileName(), QDir::toNativeSeparators(bestand.absolutePath()));
+  melding_ = Tekst(problem, bestand.fileName(), QDir::toNativeSeparators(bestand.absolutePath()), plaats);
   bytes_ = melding_.toStdString();
 }
 

@@ -12,6 +12,8 @@ enum class OpeningProblem {
   Directory,     ///< the name is a folder's
   Empty,         ///< the file holds nothing
   NotALoanFile,  ///< another kind of file
+  Impossible,    ///< a loan file with a value that no edit writes
+  TooLarge,      ///< larger than any case
   Damaged,       ///< a loan file whose contents are not whole
   Newer,         ///< made by a newer version of the program
   ReadOnly,      ///< the file or its folder turned out not to be written
@@ -32,7 +34,8 @@ enum class OpeningProblem {
 /// A loan file that cannot be opened or made. The file itself was left as it was.
 class OpeningError : public std::exception {
  public:
-  OpeningError(OpeningProblem problem, const QString& pad);
+  /// `plaats`: where in the case it lies, in Dutch, for Impossible.
+  OpeningError(OpeningProblem problem, const QString& pad, const QString& plaats = {});
 
   [[nodiscard]] OpeningProblem Problem() const noexcept { return problem_; }
   /// One message in Dutch for the adviser, with the file's name.

@@ -167,23 +167,6 @@ TEST(Openen, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
   VerwachtGeweigerd(gekopieerd, gekopieerd.Pad(), OpeningProblem::Newer, kNieuwer);
 }
 
-TEST(Openen, AReadOnlyFile) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::setPermissions(pad, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-  VerwachtGeweigerd(map, pad, OpeningProblem::ReadOnly,
-                    "Het dossier \"test.dossier\" kan niet worden gewijzigd: het bestand of de map is alleen-lezen.");
-}
-
-TEST(Openen, AFileInAReadOnlyFolder) {
-  const Map map;
-  QDir().mkdir(map.Pad("vast"));
-  const QString pad = map.Maak(VoorbeeldDossier(), "vast/test.dossier");
-  QFile::setPermissions(map.Pad("vast"), QFile::ReadOwner | QFile::ExeOwner);
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::ReadOnly);
-  QFile::setPermissions(map.Pad("vast"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
 TEST(Openen, AFileThatTheUserMayNotRead) {
   const Map map;
   const QString pad = map.Maak();
@@ -192,16 +175,6 @@ TEST(Openen, AFileThatTheUserMayNotRead) {
   const GewoneGebruiker gebruiker;
   ASSERT_TRUE(gebruiker.Gelukt());
   EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::Unreadable);
-}
-
-TEST(Openen, AFileOfAnotherUser) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::setPermissions(QFileInfo(pad).absolutePath(), QFile::Permissions(0x7777));
-  QFile::setPermissions(pad, QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup);
-  const GewoneGebruiker gebruiker;
-  ASSERT_TRUE(gebruiker.Gelukt());
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::ReadOnly);
 }
 
 TEST(Openen, AFileThatIsOpenInAnotherWindow) {
