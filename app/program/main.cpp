@@ -1,8 +1,12 @@
 #include <QApplication>
+#include <QDir>
+#include <QSettings>
 #include <QStandardPaths>
 #include <cstdio>
 
 #include "app/program/CommandLine.h"
+#include "app/program/EndSignals.h"
+#include "app/program/PrivateFiles.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
 #include "app/program/Settings.h"
@@ -26,6 +30,12 @@ int MaakVoorbeeld(const QString& bestand) {
 }
 
 int Speel(const Opdrachtregel& regel) {
+  // Its transcript replaces the one before, and nothing else.
+  const QString transcript = QDir(regel.uitvoermap).filePath(QStringLiteral("transcript.jsonl"));
+  if (DossierBestand::StandsAt(transcript)) {
+    std::fprintf(stderr, "dossier: '%s' is a loan file\n", qUtf8Printable(transcript));
+    return kMislukt;
+  }
   const QString fout = SpeelSessie(regel.uitvoermap, regel.bestand);
   if (fout.isEmpty()) return 0;
   std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(fout));
@@ -33,23 +43,34 @@ int Speel(const Opdrachtregel& regel) {
 }
 
 int ToonVenster(const QString& bestand) {
-  Logboek logboek(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  const QString map = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  brivane::app::MakePrivate(map);
+  brivane::app::MakePrivate(QFileInfo(QSettings().fileName()).absolutePath());
+  Logboek logboek(map);
   Hoofdvenster venster(logboek);
+  const brivane::app::EndSignals endSignals([&] { venster.EndInOrder(); });
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &venster, &Hoofdvenster::HandOverTyped,
+                   Qt::DirectConnection);
   venster.show();
   if (!bestand.isEmpty()) {
     venster.Open(bestand);
   } else if (const QString laatste = Instellingen::LaatsteBestand(); QFile::exists(laatste)) {
     venster.Open(laatste);
   }
+  venster.OfferUnfinished();
   return QApplication::exec();
 }
 
 }  // namespace
 
 int main(int aantal, char** argumenten) {
-  QStringList lijst;
-  for (int nummer = 1; nummer < aantal; ++nummer) lijst << QFile::decodeName(argumenten[nummer]);
-  const Opdrachtregel regel = LeesOpdrachtregel(lijst);
+  brivane::app::KeepPrivate();
+  const auto lijst = DecodeArguments(aantal, argumenten);
+  if (!lijst) {
+    std::fputs("dossier: a name that is not UTF-8 (see dossier --help)\n", stderr);
+    return kVerkeerdeArgumenten;
+  }
+  const Opdrachtregel regel = LeesOpdrachtregel(*lijst);
   switch (regel.opdracht) {
     case Opdracht::Help: std::fputs(qUtf8Printable(Helptekst()), stdout); return 0;
     case Opdracht::Versie: std::puts("dossier " BRIVANE_VERSION); return 0;

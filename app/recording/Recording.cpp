@@ -1,7 +1,7 @@
 #include "app/recording/Recording.h"
 
+#include <QFile>
 #include <QLocale>
-#include <QSaveFile>
 #include <utility>
 
 #include "controls/Surface.h"
@@ -36,9 +36,13 @@ bool Opname::Stop() {
   if (!Loopt()) return true;
   // The recorder stays until the editor goes: a step may be running that will tell it so.
   opnemer_->Stop();
-  QSaveFile bestand(std::exchange(pad_, QString()));
+  // Nothing is written over: a file that came under the name meanwhile stays.
+  QFile bestand(std::exchange(pad_, QString()));
   const QByteArray tekst = QByteArray::fromStdString(replay::WriteDocument(opnemer_->Document()));
-  return bestand.open(QIODevice::WriteOnly) && bestand.write(tekst) == tekst.size() && bestand.commit();
+  if (!bestand.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) return false;
+  if (bestand.write(tekst) == tekst.size() && bestand.flush()) return true;
+  bestand.remove();
+  return false;
 }
 
 void Opname::LaatLos() {

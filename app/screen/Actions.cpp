@@ -32,6 +32,7 @@ Acties::Acties(QMainWindow& venster)
     : nieuw(Maak(venster, "&Nieuw dossier…", QKeySequence::New)),
       openen(Maak(venster, "&Openen…", QKeySequence::Open)),
       voorbeeld(Maak(venster, "&Voorbeeld")),
+      kopie(Maak(venster, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
       sluiten(Maak(venster, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       afsluiten(Maak(venster, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
       toevoegen(Maak(venster, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
@@ -61,7 +62,7 @@ Acties::Acties(QMainWindow& venster)
   QMenu* bestand = venster.menuBar()->addMenu(QStringLiteral("Bes&tand"));
   bestand->addActions({nieuw, openen, voorbeeld});
   bestand->addSeparator();
-  bestand->addActions({sluiten, afsluiten});
+  bestand->addActions({kopie, sluiten, afsluiten});
 
   QMenu* kolom = venster.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolom->addActions({toevoegen, dupliceren});
@@ -95,7 +96,7 @@ Acties::Acties(QMainWindow& venster)
 }
 
 QList<QAction*> Acties::VoorDossier() const {
-  return {sluiten, toevoegen, vorige, volgende, boomOfKolom, client, leningToevoegen, controleren, opnemen};
+  return {kopie, sluiten, toevoegen, vorige, volgende, boomOfKolom, client, leningToevoegen, controleren, opnemen};
 }
 
 QList<QAction*> Acties::VoorKolom() const {

@@ -18,6 +18,7 @@ struct Acties {
   QAction* nieuw;
   QAction* openen;
   QAction* voorbeeld;
+  QAction* kopie;
   QAction* sluiten;
   QAction* afsluiten;
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace brivane::dossier {
 
@@ -15,7 +16,8 @@ Kopregel::Kopregel(QWidget* parent) : QLabel(parent) {
 
 void Kopregel::Toon(const QString& tekst) {
   setText(tekst);
-  setToolTip(tekst);
+  // A tip that looks like mark-up is taken for it.
+  setToolTip(Qt::mightBeRichText(tekst) ? QStringLiteral("<qt>%1</qt>").arg(tekst.toHtmlEscaped()) : tekst);
 }
 
 QSize Kopregel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }

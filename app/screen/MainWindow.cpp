@@ -39,6 +39,9 @@ Hoofdvenster::Hoofdvenster(Logboek& logboek)
   bevindingen_->hide();
   aandachtspunten_->setObjectName(QStringLiteral("aandachtspunten"));
   statusBar()->addPermanentWidget(aandachtspunten_);
+  // A name is no mark-up.
+  bestandsnaam_->setObjectName(QStringLiteral("bestandsnaam"));
+  bestandsnaam_->setTextFormat(Qt::PlainText);
   statusBar()->addPermanentWidget(bestandsnaam_);
   Verbind();
   resize(kEersteMaat.boundedTo(screen()->availableSize()));
@@ -74,8 +77,9 @@ void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMeldingstijd); });
   connect(scherm_, &Dossierscherm::aandachtspunten, this, &Hoofdvenster::ToonAandachtspunten);
   scherm_->Boom().ZetActies(acties_);
-  bestandsnaam_->setText(QDir::toNativeSeparators(scherm_->Bestand().Pad()));
-  setWindowTitle(QFileInfo(scherm_->Bestand().Pad()).completeBaseName());
+  const QString soort = scherm_->Bestand().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
+  bestandsnaam_->setText(QDir::toNativeSeparators(scherm_->Bestand().Pad()) + soort);
+  setWindowTitle(QFileInfo(scherm_->Bestand().Pad()).completeBaseName() + soort);
   WerkActiesBij();
   scherm_->WisselFocus();
 }
@@ -93,7 +97,12 @@ bool Hoofdvenster::Maak(const QString& bestand, const DossierGegevens& gegevens)
 
 bool Hoofdvenster::SluitDossier() {
   if (!scherm_) return true;
-  if (!scherm_->MagVerlaten()) return false;
+  if (!scherm_->MagVerlaten() || !MayLoseFile()) return false;
+  LetGoOfFile();
+  return true;
+}
+
+void Hoofdvenster::LetGoOfFile() {
   Instellingen::SetVerdeling(scherm_->saveState());
   StopOpname();
   opname_.LaatLos();
@@ -105,7 +114,6 @@ bool Hoofdvenster::SluitDossier() {
   statusBar()->clearMessage();
   WerkActiesBij();
   start_->setFocus();
-  return true;
 }
 
 void Hoofdvenster::ToonAandachtspunten(std::size_t aantal) {

@@ -43,6 +43,18 @@ class Hoofdvenster final : public QMainWindow {
   [[nodiscard]] Dossierscherm* Scherm() const { return scherm_; }
   [[nodiscard]] const Acties& Opdrachten() const { return acties_; }
 
+  /// Writes all that is stored to a new file, and goes on in that one. Where the open file was moved or deleted this is
+  /// how nothing of it is lost.
+  void SaveCopy();
+
+  /// Hands over what is being typed; where it is refused it is kept for the next start. Shows nothing.
+  void HandOverTyped();
+  /// Ends the program as soon as what stands in front has been closed: hands over or keeps what is being typed, and
+  /// closes the file. Shows nothing and asks nothing.
+  void EndInOrder();
+  /// Offers what the last time could not be stored.
+  void OfferUnfinished();
+
   /// Opens the file anew and records what is done in its columns, until it is closed or the recording stopped.
   bool NeemOp(const QString& bestand);
   /// Ends the recording, if any, and writes it.
@@ -63,6 +75,10 @@ class Hoofdvenster final : public QMainWindow {
   void VraagOpname();
   void OpnameGebroken();
   [[nodiscard]] QString VraagNieuwBestand(const QString& titel, const QString& naam);
+  /// The file stands where it was, or the person gives it up.
+  [[nodiscard]] bool MayLoseFile();
+  void LetGoOfFile();
+  void FinishEnd();
   void ToonAandachtspunten(std::size_t aantal);
   void WerkActiesBij();
   void VulLeningmenus();
@@ -77,6 +93,7 @@ class Hoofdvenster final : public QMainWindow {
   QLabel* bestandsnaam_;
   Opname opname_;
   QPointer<Dossierscherm> scherm_;
+  bool ending_ = false;
 };
 
 }  // namespace brivane::dossier

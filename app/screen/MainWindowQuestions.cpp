@@ -1,12 +1,12 @@
 // What the window asks before it does something.
 #include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
 
 #include "app/program/EventLogWindow.h"
+#include "app/program/FileDialogs.h"
 #include "app/program/Settings.h"
 #include "app/screen/ClientDialog.h"
 #include "app/screen/FindingsList.h"
@@ -27,6 +27,7 @@ void Hoofdvenster::Verbind() {
   doe(acties_.nieuw, [this] { VraagNieuw(); });
   doe(acties_.openen, [this] { VraagOpenen(); });
   doe(acties_.voorbeeld, [this] { OpenVoorbeeld(); });
+  doe(acties_.kopie, [this] { SaveCopy(); });
   doe(acties_.sluiten, [this] { SluitDossier(); });
   doe(acties_.afsluiten, [this] { close(); });
   doe(acties_.toevoegen, [this] { scherm_->VoegToe(); });
@@ -56,15 +57,19 @@ void Hoofdvenster::VraagNieuw() {
   gegevens.Personen = client.personen;
   gegevens.Leeftijd = client.leeftijd;
   const QString naam = QString::fromStdString(client.personen.front().Naam.back());
-  const QString bestand = VraagNieuwBestand(QStringLiteral("Nieuw dossier opslaan als"), naam);
-  if (!bestand.isEmpty()) Maak(bestand, gegevens);
+  // What was typed stays until it is stored or given up.
+  for (;;) {
+    const QString bestand = VraagNieuwBestand(QStringLiteral("Nieuw dossier opslaan als"), naam);
+    if (bestand.isEmpty() || Maak(bestand, gegevens)) return;
+  }
 }
 
 void Hoofdvenster::VraagOpenen() {
   if (scherm_ && !scherm_->MagVerlaten()) return;
   const QString bestand =
-      QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Instellingen::Map(),
-                                   QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)"));
+      app::AskFileToOpen(this, {.title = QStringLiteral("Dossier openen"),
+                                .folder = Instellingen::Map(),
+                                .filter = QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)")});
   if (!bestand.isEmpty()) Open(bestand);
 }
 
@@ -75,13 +80,8 @@ void Hoofdvenster::OpenVoorbeeld() {
 }
 
 QString Hoofdvenster::VraagNieuwBestand(const QString& titel, const QString& naam) {
-  QFileDialog vraag(this, titel, Instellingen::Map(), QString::fromLatin1(kFilter));
-  vraag.setAcceptMode(QFileDialog::AcceptSave);
-  vraag.setDefaultSuffix(QLatin1String(kAchtervoegsel));
-  // The store never replaces a file and says so itself.
-  vraag.setOption(QFileDialog::DontConfirmOverwrite);
-  vraag.selectFile(QString(naam).replace(u'/', u'-') + u'.' + QLatin1String(kAchtervoegsel));
-  return vraag.exec() == QDialog::Accepted ? vraag.selectedFiles().value(0) : QString();
+  return app::AskNewFile(this, {.title = titel, .folder = Instellingen::Map(), .filter = QString::fromLatin1(kFilter)},
+                         QLatin1String(kAchtervoegsel), naam);
 }
 
 void Hoofdvenster::VraagClient() {

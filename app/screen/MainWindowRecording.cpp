@@ -1,9 +1,10 @@
 // How the window records a session.
 #include <QAction>
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QStatusBar>
 
+#include "app/program/FileDialogs.h"
 #include "app/program/Settings.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
@@ -18,15 +19,21 @@ constexpr char kTitel[] = "Opname";
 void Hoofdvenster::VraagOpname() {
   // Not running before it runs.
   acties_.opnemen->setChecked(false);
-  QFileDialog vraag(this, QStringLiteral("Opname opslaan als"), Instellingen::Map(),
-                    QStringLiteral("Opnamen (*.json)"));
-  vraag.setAcceptMode(QFileDialog::AcceptSave);
-  vraag.setDefaultSuffix(QStringLiteral("json"));
-  vraag.selectFile(QStringLiteral("Opname.json"));
-  if (vraag.exec() == QDialog::Accepted) NeemOp(vraag.selectedFiles().value(0));
+  const QString bestand = app::AskNewFile(this,
+                                          {.title = QStringLiteral("Opname opslaan als"),
+                                           .folder = Instellingen::Map(),
+                                           .filter = QStringLiteral("Opnamen (*.json)")},
+                                          QStringLiteral("json"), QStringLiteral("Opname"));
+  if (!bestand.isEmpty()) NeemOp(bestand);
 }
 
 bool Hoofdvenster::NeemOp(const QString& bestand) {
+  if (QFileInfo::exists(bestand)) {
+    ToonMelding(this, QString::fromLatin1(kTitel),
+                QStringLiteral("Er staat al een bestand \"%1\". Kies een andere naam voor de opname.")
+                    .arg(QDir::toNativeSeparators(bestand)));
+    return false;
+  }
   const Plek plek = scherm_->Getoond();
   const QString dossier = scherm_->Bestand().Pad();
   // A replay starts from the file and a new editor, and so does the recording.

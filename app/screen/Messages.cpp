@@ -4,11 +4,15 @@
 #include <QPushButton>
 
 #include "dossier/model/Tracer.h"
+#include "dossier/store/StoreErrors.h"
 
 namespace brivane::dossier {
 namespace {
 
 constexpr char kHerladen[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
+
+constexpr char kBewaren[] =
+    "\n\nAlles wat eerder is opgeslagen, is te bewaren met Bestand > Kopie opslaan als (Ctrl+Shift+S).";
 
 }  // namespace
 
@@ -33,13 +37,15 @@ void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg) {
   const auto tekst = [](const std::string& s) { return QString::fromStdString(s); };
   QMessageBox bericht(QMessageBox::Critical, tekst(fout.Caption), tekst(fout.Message), QMessageBox::Ok, boven);
   bericht.setTextFormat(Qt::PlainText);
+  const bool verplaatst = fout.ErrorNumber == std::to_string(kMovedError);
   bericht.setInformativeText(QStringLiteral("%1\n\n"
                                             "Onderdeel: %2 (%3)\n"
                                             "Foutnummer: %4\n"
                                             "Bron: %5%6")
                                  .arg(tekst(fout.ErrorDescription), tekst(fout.ObjectDescription),
                                       tekst(fout.ObjectName), tekst(fout.ErrorNumber), tekst(fout.ErrorSource),
-                                      gevolg == Gevolg::Herladen ? QString::fromUtf8(kHerladen) : QString()));
+                                      (gevolg == Gevolg::Herladen ? QString::fromUtf8(kHerladen) : QString()) +
+                                          (verplaatst ? QString::fromUtf8(kBewaren) : QString())));
   bericht.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   bericht.exec();
 }

@@ -159,6 +159,8 @@ std::unique_ptr<DossierBestand> DossierBestand::Open(const QString& naam) {
       new DossierBestand(info.exists() ? info.canonicalFilePath() : info.absoluteFilePath()));
 }
 
+bool DossierBestand::StandsAt(const QString& pad) { return LooksLikeALoanFile(pad); }
+
 DossierBestand::~DossierBestand() {
   journal_->InLog.Disconnect();
   journal_->Sluit();

@@ -34,6 +34,8 @@ class DossierBestand {
   /// Opens a loan file. One that is read-only, or in a folder that is, opens to be read: nothing is written to it or
   /// beside it, every change fails, and others may read it too. Throws OpeningError, and leaves the file as it was.
   [[nodiscard]] static std::unique_ptr<DossierBestand> Open(const QString& pad);
+  /// Whether what stands under the name begins as a loan file does, whole or not.
+  [[nodiscard]] static bool StandsAt(const QString& pad);
   /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
   static void Maak(const QString& pad, const DossierGegevens& gegevens);
 

@@ -33,6 +33,12 @@ bool IsSchrijfbaarFormaat(const QByteArray& header) {
   return (formaat == 1 || formaat == 2) && header[kReadFormat] == formaat;
 }
 
+bool BeginsAsALoanFile(const QByteArray& header) {
+  // The closing zero byte is part of the mark.
+  return header.size() >= kHeaderSize && header.startsWith(QByteArray(kMagic, sizeof kMagic)) &&
+         qFromBigEndian<quint32>(header.constData() + kApplication) == kApplicationId;
+}
+
 QByteArray ControleerHeader(const QString& pad) {
   QFile bestand(pad);
   if (!bestand.open(QIODevice::ReadOnly)) {
@@ -42,9 +48,7 @@ QByteArray ControleerHeader(const QString& pad) {
   const QByteArray header = bestand.read(kHeaderSize);
   if (bestand.error() != QFileDevice::NoError) throw OpeningError(OpeningProblem::DiskError, pad);
   if (header.isEmpty()) throw OpeningError(OpeningProblem::Empty, pad);
-  // The closing zero byte is part of the mark.
-  if (header.size() < kHeaderSize || !header.startsWith(QByteArray(kMagic, sizeof kMagic)) ||
-      qFromBigEndian<quint32>(header.constData() + kApplication) != kApplicationId) {
+  if (!BeginsAsALoanFile(header)) {
     throw OpeningError(OpeningProblem::NotALoanFile, pad);
   }
   const auto versie = qFromBigEndian<qint32>(header.constData() + kUserVersion);
@@ -96,6 +100,11 @@ void CheckName(const QString& pad) {
   if (eaccess(QFile::encodeName(pad).constData(), R_OK) != 0) throw OpeningError(OpeningProblem::Unreadable, pad);
   // The log of a session under the other name would not be found.
   if (file.st_nlink > 1) throw OpeningError(OpeningProblem::SecondName, pad);
+}
+
+bool LooksLikeALoanFile(const QString& pad) {
+  QFile file(pad);
+  return QFileInfo(pad).isFile() && file.open(QIODevice::ReadOnly) && BeginsAsALoanFile(file.read(kHeaderSize));
 }
 
 bool IsWritable(const QString& pad) { return Schrijfbaar(pad) && Schrijfbaar(QFileInfo(pad).absolutePath()); }

@@ -9,6 +9,9 @@ namespace brivane::dossier {
 /// What a name stands for, before the file is opened. Throws OpeningError where it can be no loan file.
 void CheckName(const QString& pad);
 
+/// Whether a file begins as a loan file does, whole or not.
+[[nodiscard]] bool LooksLikeALoanFile(const QString& pad);
+
 /// Neither the file nor its folder is marked or given to be read only.
 [[nodiscard]] bool IsWritable(const QString& pad);
 

@@ -9,16 +9,10 @@
 #include "dossier/store/Database.h"
 #include "dossier/store/Edits.h"
 #include "dossier/store/HeldFile.h"
+#include "dossier/store/StoreErrors.h"
 #include "dossier/store/Writer.h"
 
 namespace brivane::dossier {
-
-/// Number of the first host failure of the store: SQLite's result code is added to it.
-inline constexpr std::int32_t kStoreError = 1000;
-/// The file, or its log, is no longer where it was: nothing more is written, and what is stored can be kept elsewhere.
-inline constexpr std::int32_t kMovedError = kStoreError + 300;
-/// The value is none that a loan file may hold: Possible.h.
-inline constexpr std::int32_t kImpossibleError = kStoreError + 400;
 
 /// Keeps every change of a case in its loan file. A change that cannot be kept fails with a host error
 /// from kStoreError on and a Dutch description; so does every change once the file was closed.
