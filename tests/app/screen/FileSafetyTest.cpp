@@ -9,8 +9,10 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
 #include <QSettings>
+#include <QTimer>
 
 #include "app/program/CommandLine.h"
 #include "app/program/FileDialogs.h"
@@ -106,35 +108,6 @@ TEST_F(FileSafety, ARecordingIsNotWrittenOverTheOpenFileOrAnyOther) {
   }
   EXPECT_EQ(Bytes(letter), "Geachte heer,");
   EXPECT_EQ(LeesNaSluiten()["0/1/bedrag"].toDouble(), 485.5);
-}
-
-TEST_F(FileSafety, ANameThatIsTakenKeepsTheDialogAndWhatWasTyped) {
-  const QByteArray before = Bytes(bestand_);
-  const QString fresh = map_.filePath("vrij.dossier");
-  dialogen_.Verwacht([](QWidget&) {
-    Typ("J.");
-    TabNaar("Aanvrager, Achternaam");
-    Typ("Bakker");
-    TabNaar("Aanvrager, Geboortedatum");
-    Typ("1-4-1985");
-    Toets(Qt::Key_Return);
-    Toets(Qt::Key_Return);
-  });
-  dialogen_.Verwacht([&](QWidget& dialog) {
-    auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    name->setText(bestand_);
-    dialogen_.VerwachtMelding("staat al een bestand \"test.dossier\"", Druk(Qt::Key_Return));
-    QTest::keyClick(name, Qt::Key_Return);
-    EXPECT_TRUE(dialog.isVisible());
-    QTest::qWait(10);
-    name->setText(fresh);
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  Toets(Qt::Key_N, Qt::ControlModifier);
-  ASSERT_NE(venster_->Scherm(), nullptr);
-  EXPECT_EQ(Scherm().Bestand().Pad(), fresh);
-  EXPECT_EQ(Scherm().Gegevens().Personen()[0].Naam[2], "Bakker");
-  EXPECT_EQ(Bytes(bestand_), before);
 }
 
 TEST_F(FileSafety, WhatWasStoredOfADeletedFileIsKeptElsewhere) {
@@ -234,6 +207,38 @@ TEST_F(FileSafety, WhatCannotBeStoredAtTheEndIsOfferedAtTheNextStart) {
   EXPECT_EQ(pending->text(), "vijf");
   EXPECT_FALSE(app::UnfinishedText::Take());
   Toets(Qt::Key_Escape);
+}
+
+TEST(NewFileDialog, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
+  const QTemporaryDir folder;
+  QFile taken(folder.filePath("bezet.dossier"));
+  ASSERT_TRUE(taken.open(QIODevice::WriteOnly));
+  int messages = 0;
+  const auto enter = [&](const QString& name) {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    auto* box = dialog->findChild<QLineEdit*>("fileNameEdit");
+    box->setText(folder.filePath(name));
+    QTest::keyClick(box, Qt::Key_Return);
+  };
+  QTimer::singleShot(200, qApp, [&] {
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+      auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (message == nullptr) return;
+      ++messages;
+      EXPECT_TRUE(message->text().contains("staat al een bestand \"bezet.dossier\"")) << message->text().toStdString();
+      message->accept();
+    });
+    look.start(20);
+    enter("bezet.dossier");
+    QTest::qWait(200);
+    enter("vrij.dossier");
+  });
+  const QString chosen = app::AskNewFile(
+      nullptr, {.title = "Opslaan", .folder = folder.path(), .filter = "Dossiers (*.dossier)"}, "dossier", "naam");
+  EXPECT_EQ(chosen, folder.filePath("vrij.dossier"));
+  EXPECT_EQ(messages, 1);
 }
 
 TEST(Arguments, ThatAreNoUtf8AreRefused) {
