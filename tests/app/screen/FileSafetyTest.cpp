@@ -217,7 +217,11 @@ TEST(NewFileDialog, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
   const auto enter = [&](const QString& name) {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
+    // There is no window manager that gives the focus back when the message closes.
+    dialog->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
     auto* box = dialog->findChild<QLineEdit*>("fileNameEdit");
+    box->setFocus();
     box->setText(folder.filePath(name));
     QTest::keyClick(box, Qt::Key_Return);
   };
