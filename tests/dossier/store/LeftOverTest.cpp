@@ -149,6 +149,19 @@ TEST(LeftOver, ALogThatNeverHeldAWholeEditIsDropped) {
   }
 }
 
+TEST(LeftOver, AValueThatNoEditWritesIsFoundInTheLogAndBothAreLeft) {
+  const Map map;
+  const QString pad = map.Maak();
+  const Map killed;
+  {
+    Database database(pad, Access::ReadWrite);
+    database.Run(QStringLiteral("UPDATE vrijekolom SET correctie_last = 77 WHERE id = 1"));
+    ASSERT_TRUE(QFile::copy(pad, killed.Pad()));
+    ASSERT_TRUE(QFile::copy(pad + "-wal", killed.Pad("test.dossier-wal")));
+  }
+  ExpectRefused(killed, killed.Pad(), OpeningProblem::Impossible);
+}
+
 TEST(LeftOver, TheJournalOfAnotherProgramIsNotPlayedBack) {
   const Map map;
   DossierGegevens contents = VoorbeeldDossier();
