@@ -44,12 +44,6 @@ OpeningProblem ProblemOf(const LockError& error) {
   return OpeningProblem::DiskError;
 }
 
-void CheckPossible(const DossierGegevens& contents, const QString& pad) {
-  if (const auto place = FirstImpossible(contents)) {
-    throw OpeningError(OpeningProblem::Impossible, pad, QString::fromStdString(*place));
-  }
-}
-
 /// What a file holds, and the connection that works in it.
 struct Opened {
   std::unique_ptr<HeldFile> held;
@@ -92,7 +86,6 @@ Opened OpenToRead(const QString& pad) {
   const FileLock lock(pad, LockKind::Shared);
   CheckHeader(pad);
   const DossierGegevens contents = ReadUntouched(pad);
-  CheckPossible(contents, pad);
   Opened opened{.held = nullptr,
                 .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
                 .contents = {}};

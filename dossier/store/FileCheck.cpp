@@ -117,6 +117,12 @@ void CheckHeader(const QString& pad) {
   }
 }
 
+void CheckPossible(const DossierGegevens& contents, const QString& pad) {
+  if (const auto place = FirstImpossible(contents)) {
+    throw OpeningError(OpeningProblem::Impossible, pad, QString::fromStdString(*place));
+  }
+}
+
 void ControleerInhoud(Database& database, const QString& pad) {
   const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt();
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "dossier/model/Gegevens.h"
 #include "dossier/store/Database.h"
 
 namespace brivane::dossier {
@@ -18,6 +19,9 @@ void CheckName(const QString& pad);
 /// Looks at the first page of a file, and at its length where no log stands beside it. Throws OpeningError where it is
 /// no loan file that this program can work in. The caller holds the file.
 void CheckHeader(const QString& pad);
+
+/// Throws OpeningError with the place of a value that no edit writes.
+void CheckPossible(const DossierGegevens& contents, const QString& pad);
 
 /// Checks the layout and the whole of an open file, reading only. Throws OpeningError for a file that is newer or
 /// damaged, and DatabaseError where it cannot be read. A connection that cannot write passes over the constraints of

@@ -14,7 +14,9 @@ namespace {
 constexpr off_t kFirstLockByte = 0x40000000;
 constexpr off_t kLockBytes = 2 + 510;
 
-LockError::Cause CauseOf(int error) {
+}  // namespace
+
+LockError::Cause LockError::CauseOf(int error) noexcept {
   switch (error) {
     case EACCES:
     case EAGAIN: return LockError::Cause::InUse;
@@ -25,8 +27,6 @@ LockError::Cause CauseOf(int error) {
     default: return LockError::Cause::Failed;
   }
 }
-
-}  // namespace
 
 FileLock::FileLock(const QString& pad, LockKind kind) {
   const bool exclusive = kind == LockKind::Exclusive;
@@ -41,7 +41,7 @@ FileLock::FileLock(const QString& pad, LockKind kind) {
   range.l_start = kFirstLockByte;
   range.l_len = kLockBytes;
   if (fcntl(file_, F_OFD_SETLK, &range) == 0) return;
-  const LockError::Cause cause = CauseOf(errno);
+  const LockError::Cause cause = LockError::CauseOf(errno);
   close(file_);
   throw LockError(cause);
 }

@@ -17,6 +17,8 @@ class LockError : public std::exception {
     Failed        ///< it cannot be opened, or locking it failed
   };
   explicit LockError(Cause cause) : cause_(cause) {}
+  /// What an error number of the system says of a lock that was not given.
+  [[nodiscard]] static Cause CauseOf(int error) noexcept;
   [[nodiscard]] Cause Why() const noexcept { return cause_; }
   [[nodiscard]] const char* what() const noexcept override { return "the file cannot be locked"; }
 

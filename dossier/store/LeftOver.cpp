@@ -52,13 +52,20 @@ bool IsProved(const QString& copy, Database& together) {
   }
 }
 
+/// Checks and reads all of it.
+DossierGegevens ReadChecked(Database& database, const QString& pad) {
+  ControleerInhoud(database, pad);
+  DossierGegevens contents = LeesDossier(database).gegevens;
+  CheckPossible(contents, pad);
+  return contents;
+}
+
 /// The file with its log, in a copy.
 DossierGegevens ReadCopy(const QString& pad) {
   const Copy copy(pad);
   Database together(copy.Path(), Access::ReadWrite);
   if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, pad);
-  ControleerInhoud(together, pad);
-  return LeesDossier(together).gegevens;
+  return ReadChecked(together, pad);
 }
 
 bool HasLog(const QString& pad) {
@@ -76,8 +83,7 @@ void CheckLeftOver(const QString& pad) {
 DossierGegevens ReadUntouched(const QString& pad) {
   if (HasLog(pad)) return ReadCopy(pad);
   Database database(pad, Access::Immutable);
-  ControleerInhoud(database, pad);
-  return LeesDossier(database).gegevens;
+  return ReadChecked(database, pad);
 }
 
 bool LeftOverStands(const QString& pad) {

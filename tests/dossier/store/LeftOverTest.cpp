@@ -149,6 +149,19 @@ TEST(LeftOverTest, ALogThatNeverHeldAWholeEditIsDropped) {
   }
 }
 
+TEST(LeftOverTest, AValueThatNoEditWritesIsFoundInTheLogAndBothAreLeft) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const Folder killed;
+  {
+    Database database(path, Access::ReadWrite);
+    database.Run(QStringLiteral("UPDATE vrijekolom SET correctie_last = 77 WHERE id = 1"));
+    ASSERT_TRUE(QFile::copy(path, killed.Path()));
+    ASSERT_TRUE(QFile::copy(path + "-wal", killed.Path("test.dossier-wal")));
+  }
+  ExpectRefused(killed, killed.Path(), OpeningProblem::Impossible);
+}
+
 TEST(LeftOverTest, TheJournalOfAnotherProgramIsNotPlayedBack) {
   const Folder folder;
   DossierGegevens contents = VoorbeeldDossier();

@@ -1,4 +1,7 @@
+#include <cerrno>
+
 #include "dossier/store/Database.h"
+#include "dossier/store/FileLock.h"
 #include "tests/dossier/store/ScriptedEdits.h"
 #include "tests/dossier/store/SecondProcess.h"
 
@@ -66,6 +69,18 @@ TEST(LockTest, OfAFileIsHeldOverALogThatWasLeftBehind) {
   SecondProcess second({"open", path});
   EXPECT_EQ(second.Line(), kInUse);
   EXPECT_EQ(second.Close(), 0);
+}
+
+TEST(LockTest, AFileSystemWithoutLocksIsNotAFileInUse) {
+  using Cause = LockError::Cause;
+  for (const auto& [error, cause] : {std::pair{EAGAIN, Cause::InUse},
+                                     {EACCES, Cause::InUse},
+                                     {ENOLCK, Cause::Unsupported},
+                                     {EOPNOTSUPP, Cause::Unsupported},
+                                     {ENOSYS, Cause::Unsupported},
+                                     {EIO, Cause::Failed}}) {
+    EXPECT_EQ(LockError::CauseOf(error), cause) << error;
+  }
 }
 
 /// Another file under the name of a log that is in use must not share that log.
