@@ -62,7 +62,8 @@ Opened OpenToWork(const QString& pad) {
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
   ControleerInhoud(database, pad);
   static_cast<void>(ReadStates(database));
-  CheckPossible(LeesDossier(database).gegevens, pad);
+  opened.contents = LeesDossier(database);
+  CheckPossible(opened.contents.gegevens, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -77,7 +78,6 @@ Opened OpenToWork(const QString& pad) {
     database.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
     Migrate(database, versie);
   }
-  opened.contents = LeesDossier(database);
   return opened;
 }
 
