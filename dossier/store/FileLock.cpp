@@ -28,9 +28,9 @@ LockError::Cause LockError::CauseOf(int error) noexcept {
   }
 }
 
-FileLock::FileLock(const QString& pad, LockKind kind) {
+FileLock::FileLock(const QString& path, LockKind kind) {
   const bool exclusive = kind == LockKind::Exclusive;
-  const QByteArray name = QFile::encodeName(pad);
+  const QByteArray name = QFile::encodeName(path);
   do {
     file_ = open(name.constData(), (exclusive ? O_RDWR : O_RDONLY) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   } while (file_ < 0 && errno == EINTR);
@@ -48,10 +48,10 @@ FileLock::FileLock(const QString& pad, LockKind kind) {
 
 FileLock::~FileLock() { close(file_); }
 
-bool FileLock::Holds(const QString& pad) const {
+bool FileLock::Holds(const QString& path) const {
   struct stat locked {};
   struct stat named {};
-  return fstat(file_, &locked) == 0 && stat(QFile::encodeName(pad).constData(), &named) == 0 &&
+  return fstat(file_, &locked) == 0 && stat(QFile::encodeName(path).constData(), &named) == 0 &&
          locked.st_dev == named.st_dev && locked.st_ino == named.st_ino;
 }
 

@@ -35,13 +35,13 @@ class LockError : public std::exception {
 class FileLock {
  public:
   /// Throws LockError.
-  FileLock(const QString& pad, LockKind kind);
+  FileLock(const QString& path, LockKind kind);
   FileLock(const FileLock&) = delete;
   FileLock& operator=(const FileLock&) = delete;
   ~FileLock();
 
   /// Whether the name still stands for the file that is locked.
-  [[nodiscard]] bool Holds(const QString& pad) const;
+  [[nodiscard]] bool Holds(const QString& path) const;
 
  private:
   int file_ = -1;

@@ -8,16 +8,16 @@
 namespace brivane::dossier {
 
 /// The name of the write-ahead log that stands beside a file.
-[[nodiscard]] QString LogOf(const QString& pad);
+[[nodiscard]] QString LogOf(const QString& path);
 /// The name of the journal that another way of writing leaves beside a file.
-[[nodiscard]] QString RollbackJournalOf(const QString& pad);
+[[nodiscard]] QString RollbackJournalOf(const QString& path);
 
 /// A loan file and its log, held for one connection from before it is opened until after it is closed. Nobody else can
 /// work in either of them, whatever name they are given meanwhile.
 class HeldFile {
  public:
-  /// Locks the file, and the log where one was left beside it. `pad` has no symbolic links. Throws LockError.
-  explicit HeldFile(const QString& pad);
+  /// Locks the file, and the log where one was left beside it. `path` has no symbolic links. Throws LockError.
+  explicit HeldFile(const QString& path);
 
   /// Locks the log that the connection has made, or found. Throws LockError.
   void HoldLog();
@@ -29,7 +29,7 @@ class HeldFile {
   void RemoveEmptyLog();
 
  private:
-  QString pad_;
+  QString path_;
   QString log_name_;
   FileLock file_;
   std::optional<FileLock> log_;

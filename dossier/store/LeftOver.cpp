@@ -17,9 +17,9 @@ namespace {
 /// A copy of a file and its log in a folder of the user's alone: reading a file with its log works the log into it.
 class Copy {
  public:
-  explicit Copy(const QString& pad) {
-    Take(pad, Path());
-    Take(LogOf(pad), LogOf(Path()));
+  explicit Copy(const QString& path) {
+    Take(path, Path());
+    Take(LogOf(path), LogOf(Path()));
   }
   [[nodiscard]] QString Path() const { return folder_.filePath(QStringLiteral("kopie")); }
 
@@ -53,41 +53,41 @@ bool IsProved(const QString& copy, Database& together) {
 }
 
 /// Checks and reads all of it.
-DossierGegevens ReadChecked(Database& database, const QString& pad) {
-  ControleerInhoud(database, pad);
+DossierGegevens ReadChecked(Database& database, const QString& path) {
+  ControleerInhoud(database, path);
   DossierGegevens contents = LeesDossier(database).gegevens;
-  CheckPossible(contents, pad);
+  CheckPossible(contents, path);
   return contents;
 }
 
 /// The file with its log, in a copy.
-DossierGegevens ReadCopy(const QString& pad) {
-  const Copy copy(pad);
+DossierGegevens ReadCopy(const QString& path) {
+  const Copy copy(path);
   Database together(copy.Path(), Access::ReadWrite);
-  if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, pad);
-  return ReadChecked(together, pad);
+  if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, path);
+  return ReadChecked(together, path);
 }
 
-bool HasLog(const QString& pad) {
+bool HasLog(const QString& path) {
   // Whether what a journal holds is to be played back is not to be told from it.
-  if (QFileInfo(RollbackJournalOf(pad)).size() > 0) throw OpeningError(OpeningProblem::StrangeLog, pad);
-  return QFileInfo(LogOf(pad)).size() > 0;
+  if (QFileInfo(RollbackJournalOf(path)).size() > 0) throw OpeningError(OpeningProblem::StrangeLog, path);
+  return QFileInfo(LogOf(path)).size() > 0;
 }
 
 }  // namespace
 
-void CheckLeftOver(const QString& pad) {
-  if (HasLog(pad)) static_cast<void>(ReadCopy(pad));
+void CheckLeftOver(const QString& path) {
+  if (HasLog(path)) static_cast<void>(ReadCopy(path));
 }
 
-DossierGegevens ReadUntouched(const QString& pad) {
-  if (HasLog(pad)) return ReadCopy(pad);
-  Database database(pad, Access::Immutable);
-  return ReadChecked(database, pad);
+DossierGegevens ReadUntouched(const QString& path) {
+  if (HasLog(path)) return ReadCopy(path);
+  Database database(path, Access::Immutable);
+  return ReadChecked(database, path);
 }
 
-bool LeftOverStands(const QString& pad) {
-  return QFileInfo::exists(LogOf(pad)) || QFileInfo::exists(RollbackJournalOf(pad));
+bool LeftOverStands(const QString& path) {
+  return QFileInfo::exists(LogOf(path)) || QFileInfo::exists(RollbackJournalOf(path));
 }
 
 }  // namespace brivane::dossier

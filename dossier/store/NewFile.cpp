@@ -30,9 +30,9 @@ int Rename(const char* from, const char* to) {
 
 }  // namespace
 
-bool MakePrivateFile(const QString& pad) {
+bool MakePrivateFile(const QString& path) {
   const int descriptor =
-      open(QFile::encodeName(pad).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+      open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
   if (descriptor < 0) return false;
   // A mask of the process can only take rights away, the owner's too.
   const bool own = fchmod(descriptor, S_IRUSR | S_IWUSR) == 0;

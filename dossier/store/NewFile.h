@@ -7,7 +7,7 @@ namespace brivane::dossier {
 
 /// Makes an empty file for its owner alone, whatever the process gives others. Answers whether there was none of that
 /// name and it could be made.
-[[nodiscard]] bool MakePrivateFile(const QString& pad);
+[[nodiscard]] bool MakePrivateFile(const QString& path);
 
 enum class Renamed : std::uint8_t { Done, NameIsTaken, Failed };
 

@@ -131,20 +131,23 @@ constexpr Rule kPeriodeRules[] = {{"Maand", "maand", IsMonth},
                                   {"Korting", "korting", IsPercentage},
                                   {"Eenmalig", "eenmalig", IsFlag}};
 
-/// A field without a rule holds nothing that is possible: a new field is told here before it is stored.
-bool Keeps(std::span<const Rule> rules, std::string_view field, const Waarde& value) {
+/// Nothing for a field without a rule.
+const Rule* RuleOf(std::span<const Rule> rules, std::string_view field) {
   const auto rule = std::find_if(rules.begin(), rules.end(), [&](const Rule& one) { return one.field == field; });
-  return rule != rules.end() && rule->possible(value);
+  return rule == rules.end() ? nullptr : &*rule;
 }
+
+/// A field without a rule may hold nothing: a new field is told here before it is stored.
+bool MayHold(const Rule* rule, const Waarde& value) { return rule != nullptr && rule->possible(value); }
 
 /// Looks at the fields that it is handed, and keeps what the first one is called that breaks its rule.
 class Look {
  public:
   explicit Look(std::span<const Rule> rules) : rules_(rules) {}
   void operator()(std::string_view field, const auto& value) {
-    if (found || Keeps(rules_, field, AlsWaarde(value))) return;
-    const auto rule = std::find_if(rules_.begin(), rules_.end(), [&](const Rule& one) { return one.field == field; });
-    found = rule == rules_.end() ? std::string(field) : rule->name;
+    if (found) return;
+    const Rule* rule = RuleOf(rules_, field);
+    if (!MayHold(rule, AlsWaarde(value))) found = rule ? std::string(rule->name) : std::string(field);
   }
   std::optional<std::string> found;
 
@@ -169,15 +172,15 @@ std::optional<std::string> FirstImpossible(const LeningGegevens& loan, std::size
 
 }  // namespace
 
-bool IsPossible(KolomVeld veld, const Waarde& waarde) { return Keeps(kKolomRules, veld.naam, waarde); }
+bool IsPossible(KolomVeld field, const Waarde& value) { return MayHold(RuleOf(kKolomRules, field.naam), value); }
 
-bool IsPossible(PeriodeVeld veld, const Waarde& waarde) { return Keeps(kPeriodeRules, veld.naam, waarde); }
+bool IsPossible(PeriodeVeld field, const Waarde& value) { return MayHold(RuleOf(kPeriodeRules, field.naam), value); }
 
 bool IsPossibleId(std::int16_t Vrij_Id) { return IsIdentifier(std::int64_t{Vrij_Id}); }
 
 bool IsPossibleAgeLimit(std::int16_t leeftijd) { return leeftijd >= kLowestAgeLimit && leeftijd <= kHighestAgeLimit; }
 
-bool IsPossibleText(std::string_view tekst) { return tekst.size() <= kMostText; }
+bool IsPossibleText(std::string_view text) { return text.size() <= kMostText; }
 
 std::optional<std::string> FirstImpossible(const KolomGegevens& kolom) {
   Look look(kKolomRules);

@@ -24,12 +24,12 @@ inline constexpr std::int64_t kMostMonths = 960;
 /// Bytes of a file: tens of thousands of columns.
 inline constexpr std::int64_t kMostFile = std::int64_t{64} << 20;
 
-[[nodiscard]] bool IsPossible(KolomVeld veld, const Waarde& waarde);
-[[nodiscard]] bool IsPossible(PeriodeVeld veld, const Waarde& waarde);
+[[nodiscard]] bool IsPossible(KolomVeld field, const Waarde& value);
+[[nodiscard]] bool IsPossible(PeriodeVeld field, const Waarde& value);
 /// The number of a column within its loan, in a proposal too.
 [[nodiscard]] bool IsPossibleId(std::int16_t Vrij_Id);
 [[nodiscard]] bool IsPossibleAgeLimit(std::int16_t leeftijd);
-[[nodiscard]] bool IsPossibleText(std::string_view tekst);
+[[nodiscard]] bool IsPossibleText(std::string_view text);
 
 /// The first value that is not possible, told in Dutch by its place: "kolom 3 van de huidige situatie, termijn".
 [[nodiscard]] std::optional<std::string> FirstImpossible(const KolomGegevens& kolom);
