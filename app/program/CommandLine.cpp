@@ -1,5 +1,7 @@
 #include "app/program/CommandLine.h"
 
+#include <QFile>
+
 namespace brivane::app {
 namespace {
 
@@ -23,6 +25,16 @@ CommandLine Refusal(const QString& message) {
 }
 
 }  // namespace
+
+std::optional<QStringList> DecodeArguments(int count, const char* const* arguments) {
+  QStringList decoded;
+  for (int number = 1; number < count; ++number) {
+    const QByteArray bytes(arguments[number]);
+    decoded << QFile::decodeName(bytes);
+    if (QFile::encodeName(decoded.last()) != bytes) return std::nullopt;
+  }
+  return decoded;
+}
 
 CommandLine ReadCommandLine(const QStringList& arguments) {
   CommandLine line;

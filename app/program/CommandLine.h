@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstdint>
+#include <optional>
 
 namespace brivane::app {
 
@@ -25,6 +26,10 @@ struct CommandLine {
 
 /// Exit code for arguments that make no sense.
 inline constexpr int kWrongArguments = 2;
+
+/// The arguments that follow the program's name, as texts; nothing where one is not UTF-8: the name of another file
+/// would come of it.
+[[nodiscard]] std::optional<QStringList> DecodeArguments(int count, const char* const* arguments);
 
 /// Reads the arguments that follow the program's name.
 [[nodiscard]] CommandLine ReadCommandLine(const QStringList& arguments);

@@ -1,8 +1,12 @@
 #include <QApplication>
+#include <QDir>
+#include <QSettings>
 #include <QStandardPaths>
 #include <cstdio>
 
 #include "app/program/CommandLine.h"
+#include "app/program/EndSignals.h"
+#include "app/program/PrivateFiles.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
 #include "app/program/Settings.h"
@@ -27,6 +31,12 @@ int MakeSample(const QString& file) {
 }
 
 int PlaySession(const CommandLine& line) {
+  // Its transcript replaces the one before, and nothing else.
+  const QString transcript = QDir(line.outputFolder).filePath(QStringLiteral("transcript.jsonl"));
+  if (dossier::DossierFile::StandsAt(transcript)) {
+    std::fprintf(stderr, "dossier: '%s' is a loan file\n", qUtf8Printable(transcript));
+    return kFailed;
+  }
   const QString error = PlaySampleSession(line.outputFolder, line.file);
   if (error.isEmpty()) return 0;
   std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(error));
@@ -34,23 +44,34 @@ int PlaySession(const CommandLine& line) {
 }
 
 int ShowWindow(const QString& file) {
-  EventLog eventLog(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+  MakePrivate(folder);
+  MakePrivate(QFileInfo(QSettings().fileName()).absolutePath());
+  EventLog eventLog(folder);
   MainWindow window(eventLog);
+  const EndSignals endSignals([&] { window.EndInOrder(); });
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, &MainWindow::HandOverTyped,
+                   Qt::DirectConnection);
   window.show();
   if (!file.isEmpty()) {
     window.Open(file);
   } else if (const QString last = Settings::LastFile(); QFile::exists(last)) {
     window.Open(last);
   }
+  window.OfferUnfinished();
   return QApplication::exec();
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
-  const CommandLine line = ReadCommandLine(arguments);
+  KeepPrivate();
+  const auto arguments = DecodeArguments(argc, argv);
+  if (!arguments) {
+    std::fputs("dossier: a name that is not UTF-8 (see dossier --help)\n", stderr);
+    return kWrongArguments;
+  }
+  const CommandLine line = ReadCommandLine(*arguments);
   switch (line.command) {
     case Command::Help: std::fputs(qUtf8Printable(HelpText()), stdout); return 0;
     case Command::Version: std::puts("dossier " BRIVANE_VERSION); return 0;

@@ -1,7 +1,7 @@
 #include "app/recording/Recording.h"
 
+#include <QFile>
 #include <QLocale>
-#include <QSaveFile>
 #include <utility>
 
 #include "controls/Surface.h"
@@ -36,9 +36,13 @@ bool Recording::Stop() {
   if (!IsRunning()) return true;
   // The recorder stays until the editor goes: a step may be running that will tell it so.
   recorder_->Stop();
-  QSaveFile file(std::exchange(path_, QString()));
+  // Nothing is written over: a file that came under the name meanwhile stays.
+  QFile file(std::exchange(path_, QString()));
   const QByteArray text = QByteArray::fromStdString(replay::WriteDocument(recorder_->Document()));
-  return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) return false;
+  if (file.write(text) == text.size() && file.flush()) return true;
+  file.remove();
+  return false;
 }
 
 void Recording::LetGo() {

@@ -32,6 +32,7 @@ Actions::Actions(QMainWindow& window)
     : create(MakeAction(window, "&Nieuw dossier…", QKeySequence::New)),
       open(MakeAction(window, "&Openen…", QKeySequence::Open)),
       sample(MakeAction(window, "&Voorbeeld")),
+      saveCopy(MakeAction(window, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
       add(MakeAction(window, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
@@ -61,7 +62,7 @@ Actions::Actions(QMainWindow& window)
   QMenu* fileMenu = window.menuBar()->addMenu(QStringLiteral("Bes&tand"));
   fileMenu->addActions({create, open, sample});
   fileMenu->addSeparator();
-  fileMenu->addActions({close, quit});
+  fileMenu->addActions({saveCopy, close, quit});
 
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolomMenu->addActions({add, duplicate});
@@ -95,7 +96,7 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {close, add, previous, next, treeOrKolom, client, addLening, check, record};
+  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, record};
 }
 
 QList<QAction*> Actions::ForKolom() const {

@@ -18,6 +18,7 @@ struct Actions {
   QAction* create;
   QAction* open;
   QAction* sample;
+  QAction* saveCopy;
   QAction* close;
   QAction* quit;
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 
 namespace brivane::app {
 
@@ -15,7 +16,8 @@ KopregelLabel::KopregelLabel(QWidget* parent) : QLabel(parent) {
 
 void KopregelLabel::Show(const QString& text) {
   setText(text);
-  setToolTip(text);
+  // A tip that looks like mark-up is taken for it.
+  setToolTip(Qt::mightBeRichText(text) ? QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()) : text);
 }
 
 QSize KopregelLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }

@@ -39,6 +39,9 @@ MainWindow::MainWindow(EventLog& eventLog)
   findings_->hide();
   attention_->setObjectName(QStringLiteral("aandachtspunten"));
   statusBar()->addPermanentWidget(attention_);
+  // A name is no mark-up.
+  fileName_->setObjectName(QStringLiteral("bestandsnaam"));
+  fileName_->setTextFormat(Qt::PlainText);
   statusBar()->addPermanentWidget(fileName_);
   Connect();
   resize(kFirstSize.boundedTo(screen()->availableSize()));
@@ -74,8 +77,9 @@ void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
   connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
   screen_->Tree().SetActions(actions_);
-  fileName_->setText(QDir::toNativeSeparators(screen_->File().Pad()));
-  setWindowTitle(QFileInfo(screen_->File().Pad()).completeBaseName());
+  const QString kind = screen_->File().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
+  fileName_->setText(QDir::toNativeSeparators(screen_->File().Pad()) + kind);
+  setWindowTitle(QFileInfo(screen_->File().Pad()).completeBaseName() + kind);
   UpdateActions();
   screen_->SwitchFocus();
 }
@@ -93,7 +97,12 @@ bool MainWindow::Make(const QString& file, const dossier::DossierGegevens& gegev
 
 bool MainWindow::CloseDossier() {
   if (!screen_) return true;
-  if (!screen_->MayLeave()) return false;
+  if (!screen_->MayLeave() || !MayLoseFile()) return false;
+  LetGoOfFile();
+  return true;
+}
+
+void MainWindow::LetGoOfFile() {
   Settings::SetSplit(screen_->saveState());
   StopRecording();
   recording_.LetGo();
@@ -105,7 +114,6 @@ bool MainWindow::CloseDossier() {
   statusBar()->clearMessage();
   UpdateActions();
   start_->setFocus();
-  return true;
 }
 
 void MainWindow::ShowAttention(std::size_t count) {

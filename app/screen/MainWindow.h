@@ -43,6 +43,18 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] DossierScreen* Screen() const { return screen_; }
   [[nodiscard]] const app::Actions& Actions() const { return actions_; }
 
+  /// Writes all that is stored to a new file, and goes on in that one. Where the open file was moved or deleted this is
+  /// how nothing of it is lost.
+  void SaveCopy();
+
+  /// Hands over what is being typed; where it is refused it is kept for the next start. Shows nothing.
+  void HandOverTyped();
+  /// Ends the program as soon as what stands in front has been closed: hands over or keeps what is being typed, and
+  /// closes the file. Shows nothing and asks nothing.
+  void EndInOrder();
+  /// Offers what the last time could not be stored.
+  void OfferUnfinished();
+
   /// Put between the next file's editor and its host, when set.
   Instrument instrument;
 
@@ -66,6 +78,10 @@ class MainWindow final : public QMainWindow {
   void AskRecording();
   void RecordingBroken();
   [[nodiscard]] QString AskNewFile(const QString& title, const QString& name);
+  /// The file stands where it was, or the person gives it up.
+  [[nodiscard]] bool MayLoseFile();
+  void LetGoOfFile();
+  void FinishEnd();
   void ShowAttention(std::size_t count);
   void UpdateActions();
   void FillLeningMenus();
@@ -80,6 +96,7 @@ class MainWindow final : public QMainWindow {
   QLabel* fileName_;
   Recording recording_;
   QPointer<DossierScreen> screen_;
+  bool ending_ = false;
 };
 
 }  // namespace brivane::app

@@ -1,12 +1,12 @@
 // What the window asks before it does something.
 #include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
 
 #include "app/program/EventLogWindow.h"
+#include "app/program/FileDialogs.h"
 #include "app/program/Settings.h"
 #include "app/screen/ClientDialog.h"
 #include "app/screen/FindingsList.h"
@@ -27,6 +27,7 @@ void MainWindow::Connect() {
   on(actions_.create, [this] { AskNew(); });
   on(actions_.open, [this] { AskOpen(); });
   on(actions_.sample, [this] { OpenSample(); });
+  on(actions_.saveCopy, [this] { SaveCopy(); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
   on(actions_.add, [this] { screen_->AddKolom(); });
@@ -56,15 +57,19 @@ void MainWindow::AskNew() {
   gegevens.Personen = client.personen;
   gegevens.Leeftijd = client.leeftijd;
   const QString name = QString::fromStdString(client.personen.front().Naam.back());
-  const QString file = AskNewFile(QStringLiteral("Nieuw dossier opslaan als"), name);
-  if (!file.isEmpty()) Make(file, gegevens);
+  // What was typed stays until it is stored or given up.
+  for (;;) {
+    const QString file = AskNewFile(QStringLiteral("Nieuw dossier opslaan als"), name);
+    if (file.isEmpty() || Make(file, gegevens)) return;
+  }
 }
 
 void MainWindow::AskOpen() {
   if (screen_ && !screen_->MayLeave()) return;
   const QString file =
-      QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Settings::Folder(),
-                                   QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)"));
+      AskFileToOpen(this, {.title = QStringLiteral("Dossier openen"),
+                           .folder = Settings::Folder(),
+                           .filter = QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)")});
   if (!file.isEmpty()) Open(file);
 }
 
@@ -75,13 +80,8 @@ void MainWindow::OpenSample() {
 }
 
 QString MainWindow::AskNewFile(const QString& title, const QString& name) {
-  QFileDialog question(this, title, Settings::Folder(), QString::fromLatin1(kFilter));
-  question.setAcceptMode(QFileDialog::AcceptSave);
-  question.setDefaultSuffix(QLatin1String(kSuffix));
-  // The store never replaces a file and says so itself.
-  question.setOption(QFileDialog::DontConfirmOverwrite);
-  question.selectFile(QString(name).replace(u'/', u'-') + u'.' + QLatin1String(kSuffix));
-  return question.exec() == QDialog::Accepted ? question.selectedFiles().value(0) : QString();
+  return app::AskNewFile(this, {.title = title, .folder = Settings::Folder(), .filter = QString::fromLatin1(kFilter)},
+                         QLatin1String(kSuffix), name);
 }
 
 void MainWindow::AskClient() {

@@ -1,9 +1,10 @@
 // How the window records a session.
 #include <QAction>
 #include <QDir>
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QStatusBar>
 
+#include "app/program/FileDialogs.h"
 #include "app/program/Settings.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
@@ -18,15 +19,21 @@ constexpr char kTitle[] = "Opname";
 void MainWindow::AskRecording() {
   // Not running before it runs.
   actions_.record->setChecked(false);
-  QFileDialog question(this, QStringLiteral("Opname opslaan als"), Settings::Folder(),
-                       QStringLiteral("Opnamen (*.json)"));
-  question.setAcceptMode(QFileDialog::AcceptSave);
-  question.setDefaultSuffix(QStringLiteral("json"));
-  question.selectFile(QStringLiteral("Opname.json"));
-  if (question.exec() == QDialog::Accepted) Record(question.selectedFiles().value(0));
+  const QString file = app::AskNewFile(this,
+                                       {.title = QStringLiteral("Opname opslaan als"),
+                                        .folder = Settings::Folder(),
+                                        .filter = QStringLiteral("Opnamen (*.json)")},
+                                       QStringLiteral("json"), QStringLiteral("Opname"));
+  if (!file.isEmpty()) Record(file);
 }
 
 bool MainWindow::Record(const QString& file) {
+  if (QFileInfo::exists(file)) {
+    ShowMessage(this, QString::fromLatin1(kTitle),
+                QStringLiteral("Er staat al een bestand \"%1\". Kies een andere naam voor de opname.")
+                    .arg(QDir::toNativeSeparators(file)));
+    return false;
+  }
   const Place place = screen_->Shown();
   const QString dossier = screen_->File().Pad();
   // A replay starts from the file and a new editor, and so does the recording.

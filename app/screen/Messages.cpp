@@ -3,10 +3,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "dossier/store/StoreErrors.h"
+
 namespace brivane::app {
 namespace {
 
 constexpr char kReloadedText[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
+
+constexpr char kKeepText[] =
+    "\n\nAlles wat eerder is opgeslagen, is te bewaren met Bestand > Kopie opslaan als (Ctrl+Shift+S).";
 
 }  // namespace
 
@@ -31,13 +36,16 @@ void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence con
   const auto text = [](const std::string& s) { return QString::fromStdString(s); };
   QMessageBox box(QMessageBox::Critical, text(error.Caption), text(error.Message), QMessageBox::Ok, above);
   box.setTextFormat(Qt::PlainText);
-  box.setInformativeText(QStringLiteral("%1\n\n"
-                                        "Onderdeel: %2 (%3)\n"
-                                        "Foutnummer: %4\n"
-                                        "Bron: %5%6")
-                             .arg(text(error.ErrorDescription), text(error.ObjectDescription), text(error.ObjectName),
-                                  text(error.ErrorNumber), text(error.ErrorSource),
-                                  consequence == Consequence::Reloaded ? QString::fromUtf8(kReloadedText) : QString()));
+  const bool moved = error.ErrorNumber == std::to_string(dossier::kMovedError);
+  box.setInformativeText(
+      QStringLiteral("%1\n\n"
+                     "Onderdeel: %2 (%3)\n"
+                     "Foutnummer: %4\n"
+                     "Bron: %5%6")
+          .arg(text(error.ErrorDescription), text(error.ObjectDescription), text(error.ObjectName),
+               text(error.ErrorNumber), text(error.ErrorSource),
+               (consequence == Consequence::Reloaded ? QString::fromUtf8(kReloadedText) : QString()) +
+                   (moved ? QString::fromUtf8(kKeepText) : QString())));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   box.exec();
 }

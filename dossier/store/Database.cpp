@@ -13,6 +13,10 @@ QString NieuweNaam() {
   return QStringLiteral("brivane-dossier-%1").arg(++teller);
 }
 
+QString Address(const QString& pad, const char* parameters) {
+  return QString::fromLatin1(QUrl::fromLocalFile(pad).toEncoded(QUrl::FullyEncoded)) + u'?' + QLatin1String(parameters);
+}
+
 }  // namespace
 
 DatabaseError::DatabaseError(const QSqlError& error)
@@ -20,16 +24,20 @@ DatabaseError::DatabaseError(const QSqlError& error)
       // The low byte of an extended result code is the primary one.
       code_(static_cast<SqliteCode>(error.nativeErrorCode().toInt() & 0xff)) {}
 
+bool DatabaseError::IsDamage() const noexcept {
+  // 1: a statement that fits the layout fails only where the file has another.
+  return code_ == SqliteCode::Corrupt || code_ == SqliteCode::NotADatabase || code_ == SqliteCode{1};
+}
+
 Database::Database(const QString& pad, Access access)
     : naam_(NieuweNaam()), database_(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), naam_)) {
   // Whoever has the file open keeps it open: waiting would not help.
   QString opties = QStringLiteral("QSQLITE_BUSY_TIMEOUT=0");
   QString naam = pad;
-  if (access != Access::ReadWrite) opties += QStringLiteral(";QSQLITE_OPEN_READONLY");
-  if (access == Access::Immutable) {
-    opties += QStringLiteral(";QSQLITE_OPEN_URI");
-    naam = QString::fromLatin1(QUrl::fromLocalFile(pad).toEncoded(QUrl::FullyEncoded)) + QStringLiteral("?immutable=1");
-  }
+  if (access == Access::Immutable || access == Access::ReadOnly) opties += QStringLiteral(";QSQLITE_OPEN_READONLY");
+  if (access == Access::Immutable) naam = Address(pad, "immutable=1");
+  if (access == Access::Held) naam = Address(pad, "vfs=unix-none&mode=rw");
+  if (naam != pad) opties += QStringLiteral(";QSQLITE_OPEN_URI");
   database_.setConnectOptions(opties);
   database_.setDatabaseName(naam);
   if (database_.open()) return;

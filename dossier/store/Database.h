@@ -13,6 +13,7 @@ namespace brivane::dossier {
 /// SQLite's primary result codes that the store tells apart.
 enum class SqliteCode : int {
   Busy = 5,
+  NoMemory = 7,
   ReadOnly = 8,
   IoError = 10,
   Corrupt = 11,
@@ -25,15 +26,22 @@ enum class SqliteCode : int {
 class DatabaseError : public std::runtime_error {
  public:
   explicit DatabaseError(const QSqlError& error);
+  DatabaseError(SqliteCode code, const char* what) : std::runtime_error(what), code_(code) {}
   [[nodiscard]] SqliteCode Code() const noexcept { return code_; }
+  /// The file does not hold what it should; nothing else that can go wrong with it is damage.
+  [[nodiscard]] bool IsDamage() const noexcept;
 
  private:
   SqliteCode code_;
 };
 
-/// How a file is opened: to look at it without leaving a trace, to look at it where a write-ahead log stands
-/// beside it, to work in it, or to make it.
-enum class Access { Immutable, ReadOnly, ReadWrite };
+/// How a file is opened:
+enum class Access {
+  Immutable,  ///< to look at the file alone, without leaving a trace
+  ReadOnly,   ///< to look at it as any program does
+  ReadWrite,  ///< to write in it, or make it, as any program does
+  Held        ///< to work in a file that the caller holds: SQLite takes no locks of its own
+};
 
 /// One connection to an SQLite file, closed with the object. Queries made from it must be gone before.
 /// Everything throws DatabaseError on failure.

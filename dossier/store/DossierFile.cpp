@@ -1,73 +1,99 @@
 #include "dossier/store/DossierFile.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QTimer>
 #include <QUuid>
-#include <algorithm>
-#include <filesystem>
-#include <mutex>
+#include <chrono>
 #include <utility>
-#include <vector>
 
 #include "dossier/store/FileCheck.h"
 #include "dossier/store/FileJournal.h"
+#include "dossier/store/HeldFile.h"
+#include "dossier/store/LeftOver.h"
+#include "dossier/store/NewFile.h"
+#include "dossier/store/Possible.h"
 #include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
+#include "dossier/store/StateChain.h"
 
 namespace brivane::dossier {
 namespace {
 
-/// The loan files that this process has open. A lock on a file is lost when the process opens and closes it
-/// a second time, so it must be known beforehand.
-class OpenFiles {
- public:
-  static OpenFiles& Instance() {
-    static OpenFiles openFiles;
-    return openFiles;
-  }
+/// How long what is stored may stand in the log alone.
+constexpr std::chrono::milliseconds kRest{500};
 
-  /// Answers false where it is there already, under whatever name.
-  bool Add(const QString& pad) {
-    const std::lock_guard guard(mutex_);
-    const std::filesystem::path file = pad.toStdU16String();
-    for (const std::filesystem::path& open : files_) {
-      std::error_code niet_te_vergelijken;
-      if (std::filesystem::equivalent(open, file, niet_te_vergelijken)) return false;
-    }
-    files_.push_back(file);
-    return true;
+OpeningProblem ProblemOf(const DatabaseError& error) {
+  if (error.IsDamage()) return OpeningProblem::Damaged;
+  switch (error.Code()) {
+    case SqliteCode::Busy: return OpeningProblem::InUse;
+    case SqliteCode::ReadOnly: return OpeningProblem::ReadOnly;
+    case SqliteCode::Full: return OpeningProblem::DiskFull;
+    case SqliteCode::NoMemory: return OpeningProblem::NoMemory;
+    default: return OpeningProblem::DiskError;
   }
-
-  void Remove(const QString& pad) {
-    const std::lock_guard guard(mutex_);
-    const auto plaats = std::find(files_.begin(), files_.end(), std::filesystem::path(pad.toStdU16String()));
-    if (plaats != files_.end()) files_.erase(plaats);
-  }
-
- private:
-  std::mutex mutex_;
-  std::vector<std::filesystem::path> files_;
-};
-
-/// Takes the file for this process, for as long as the connection lives, and reads it. Nothing is written before the
-/// whole of it was found right.
-StoredDossier NeemEnLees(Database& database, const QString& pad) {
-  // From the first reading on nobody else can write.
-  database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
-  ControleerInhoud(database, pad);
-  if (const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
-    Migrate(database, versie);
-  }
-  return LeesDossier(database);
 }
 
-void MaakSchrijfklaar(Database& database) {
+OpeningProblem ProblemOf(const LockError& error) {
+  switch (error.Why()) {
+    case LockError::Cause::InUse: return OpeningProblem::InUse;
+    case LockError::Cause::Unsupported: return OpeningProblem::NoLocks;
+    case LockError::Cause::Failed: break;
+  }
+  return OpeningProblem::DiskError;
+}
+
+/// What a file holds, and the connection that works in it.
+struct Opened {
+  std::unique_ptr<HeldFile> held;
+  std::unique_ptr<Database> database;
+  StoredDossier contents;
+};
+
+/// Nothing is written before the whole of the file was found right.
+Opened OpenToWork(const QString& pad) {
+  Opened opened{.held = std::make_unique<HeldFile>(pad), .database = nullptr, .contents = {}};
+  CheckHeader(pad);
+  CheckLeftOver(pad);
+  opened.database = std::make_unique<Database>(pad, Access::Held);
+  Database& database = *opened.database;
+  // Without it SQLite wants to share the index of the log, which needs locks.
+  database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
+  ControleerInhoud(database, pad);
+  static_cast<void>(ReadStates(database));
+  opened.contents = LeesDossier(database);
+  CheckPossible(opened.contents.gegevens, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
+  // The log is worked off whole or not at all: FileJournal::WorkOff.
+  database.Run(QStringLiteral("PRAGMA wal_autocheckpoint = 0"));
   // Where the file cannot be written, it shows here and not at the first edit.
   database.Run(QStringLiteral("BEGIN IMMEDIATE"));
   database.Run(QStringLiteral("COMMIT"));
+  opened.held->HoldLog();
+  if (const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
+    // What a killed program left goes first: the log of this step proves itself by changing nothing else.
+    database.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    Migrate(database, versie);
+  }
+  return opened;
+}
+
+/// The whole of a file, in memory: the file itself is let go of.
+Opened OpenToRead(const QString& pad) {
+  const FileLock lock(pad, LockKind::Shared);
+  CheckHeader(pad);
+  const DossierGegevens contents = ReadUntouched(pad);
+  Opened opened{.held = nullptr,
+                .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
+                .contents = {}};
+  Migrate(*opened.database, 0);
+  Writer(*opened.database, 1).SchrijfDossier(contents);
+  opened.contents = LeesDossier(*opened.database);
+  opened.database->Run(QStringLiteral("PRAGMA query_only = ON"));
+  return opened;
 }
 
 /// A half file, with what SQLite leaves beside one where the disk failed.
@@ -75,70 +101,87 @@ void Verwijder(const QString& voorlopig) {
   for (const char* deel : {"", "-journal", "-wal"}) QFile::remove(voorlopig + QLatin1String(deel));
 }
 
-OpeningProblem Probleem(const DatabaseError& error) {
-  switch (error.Code()) {
-    case SqliteCode::Busy: return OpeningProblem::InUse;
-    case SqliteCode::ReadOnly:
-    case SqliteCode::CannotOpen: return OpeningProblem::ReadOnly;
-    default: return OpeningProblem::Damaged;
-  }
-}
-
 }  // namespace
 
-DossierFile::DossierFile(const QString& pad) : pad_(pad) {
+DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
   try {
-    ControleerBestand(pad_);
-    auto database = std::make_unique<Database>(pad_, Access::ReadWrite);
-    StoredDossier gelezen = NeemEnLees(*database, pad_);
-    MaakSchrijfklaar(*database);
+    CheckName(pad_);
+    read_only_ = !IsWritable(pad_);
+    Opened opened = read_only_ ? OpenToRead(pad_) : OpenToWork(pad_);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
-    journal_ = std::make_shared<FileJournal>(std::move(database), gelezen.hoogste + 1, [doel](Database& opnieuw) {
-      if (const auto dossier = doel->lock()) dossier->Herlaad(LeesDossier(opnieuw).gegevens);
-    });
+    journal_ = std::make_shared<FileJournal>(
+        std::move(opened.database), opened.contents.hoogste + 1,
+        [doel](Database& opnieuw) {
+          if (const auto dossier = doel->lock()) dossier->Herlaad(LeesDossier(opnieuw).gegevens);
+        },
+        std::move(opened.held));
+    journal_->WorkOff();
     auto omgeving = std::make_shared<Environment>();
     omgeving->Journal = journal_;
     omgeving->Kopteksten = std::make_shared<BerekendeKopteksten>();
-    dossier_ = std::make_shared<dossier::Dossier>(std::move(gelezen.gegevens), std::move(omgeving));
+    dossier_ = std::make_shared<dossier::Dossier>(std::move(opened.contents.gegevens), std::move(omgeving));
     *doel = dossier_;
+    ComeToRest();
   } catch (const DatabaseError& error) {
-    throw OpeningError(Probleem(error), pad_);
+    throw OpeningError(ProblemOf(error), pad_);
+  } catch (const LockError& error) {
+    throw OpeningError(ProblemOf(error), pad_);
   }
+}
+
+void DossierFile::ComeToRest() {
+  // A program without an event loop closes its files; there the log is worked off at closing.
+  if (QCoreApplication::instance() == nullptr || read_only_) return;
+  rest_ = std::make_unique<QTimer>();
+  rest_->setSingleShot(true);
+  rest_->setInterval(kRest);
+  QObject::connect(rest_.get(), &QTimer::timeout, [this] {
+    journal_->WorkOff();
+    if (!journal_->AtRest()) rest_->start();
+  });
+  in_log_ = journal_->InLog.Connect([timer = rest_.get()] {
+    if (!timer->isActive()) timer->start();
+  });
+  if (!journal_->AtRest()) rest_->start();
 }
 
 std::unique_ptr<DossierFile> DossierFile::Open(const QString& naam) {
-  // The name under which the file is given free again.
-  const QString pad = QFileInfo(naam).absoluteFilePath();
-  if (!OpenFiles::Instance().Add(pad)) throw OpeningError(OpeningProblem::InUse, pad);
-  try {
-    return std::unique_ptr<DossierFile>(new DossierFile(pad));
-  } catch (...) {
-    OpenFiles::Instance().Remove(pad);
-    throw;
-  }
+  // The log stands beside the file itself, not beside a link to it.
+  const QFileInfo info(naam);
+  return std::unique_ptr<DossierFile>(
+      new DossierFile(info.exists() ? info.canonicalFilePath() : info.absoluteFilePath()));
 }
 
+bool DossierFile::StandsAt(const QString& pad) { return LooksLikeALoanFile(pad); }
+
 DossierFile::~DossierFile() {
+  in_log_ = {};
   journal_->Sluit();
-  OpenFiles::Instance().Remove(pad_);
 }
+
+bool DossierFile::InPlace() const { return journal_->InPlace(); }
 
 void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
   if (QFileInfo::exists(pad)) throw OpeningError(OpeningProblem::AlreadyThere, pad);
+  if (LeftOverStands(pad)) throw OpeningError(OpeningProblem::LogThere, pad);
+  CheckPossible(gegevens, pad);
   // Written beside its place and then given its name, so that no half file ever has it.
   const QString voorlopig = pad + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128);
+  if (!MakePrivateFile(voorlopig)) throw OpeningError(OpeningProblem::CannotCreate, pad);
   try {
     Database database(voorlopig, Access::ReadWrite);
     Migrate(database, 0);
     Writer(database, 1).SchrijfDossier(gegevens);
     database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
-  } catch (const DatabaseError&) {
+  } catch (const DatabaseError& error) {
     Verwijder(voorlopig);
-    throw OpeningError(OpeningProblem::CannotCreate, pad);
+    throw OpeningError(error.Code() == SqliteCode::Full ? OpeningProblem::DiskFull : OpeningProblem::CannotCreate, pad);
   }
-  if (QFile::rename(voorlopig, pad)) return;
-  Verwijder(voorlopig);
-  throw OpeningError(QFileInfo::exists(pad) ? OpeningProblem::AlreadyThere : OpeningProblem::CannotCreate, pad);
+  switch (RenameToNew(voorlopig, pad)) {
+    case Renamed::Done: return;
+    case Renamed::NameIsTaken: Verwijder(voorlopig); throw OpeningError(OpeningProblem::AlreadyThere, pad);
+    case Renamed::Failed: Verwijder(voorlopig); throw OpeningError(OpeningProblem::CannotCreate, pad);
+  }
 }
 
 Edits& DossierFile::Bewerkingen() { return journal_->Bewerkingen(); }

@@ -1,11 +1,17 @@
 #include "dossier/store/FileCheck.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QtEndian>
+#include <cerrno>
 
+#include "dossier/store/HeldFile.h"
 #include "dossier/store/OpeningError.h"
-#include "dossier/store/Reader.h"
+#include "dossier/store/Possible.h"
 #include "dossier/store/Schema.h"
 
 namespace brivane::dossier {
@@ -27,14 +33,22 @@ bool IsSchrijfbaarFormaat(const QByteArray& header) {
   return (formaat == 1 || formaat == 2) && header[kReadFormat] == formaat;
 }
 
+bool BeginsAsALoanFile(const QByteArray& header) {
+  // The closing zero byte is part of the mark.
+  return header.size() >= kHeaderSize && header.startsWith(QByteArray(kMagic, sizeof kMagic)) &&
+         qFromBigEndian<quint32>(header.constData() + kApplication) == kApplicationId;
+}
+
 QByteArray ControleerHeader(const QString& pad) {
   QFile bestand(pad);
-  if (!bestand.open(QIODevice::ReadOnly)) throw OpeningError(OpeningProblem::Unreadable, pad);
+  if (!bestand.open(QIODevice::ReadOnly)) {
+    const bool allowed = eaccess(QFile::encodeName(pad).constData(), R_OK) == 0;
+    throw OpeningError(allowed ? OpeningProblem::DiskError : OpeningProblem::Unreadable, pad);
+  }
   const QByteArray header = bestand.read(kHeaderSize);
+  if (bestand.error() != QFileDevice::NoError) throw OpeningError(OpeningProblem::DiskError, pad);
   if (header.isEmpty()) throw OpeningError(OpeningProblem::Empty, pad);
-  // The closing zero byte is part of the mark.
-  if (header.size() < kHeaderSize || !header.startsWith(QByteArray(kMagic, sizeof kMagic)) ||
-      qFromBigEndian<quint32>(header.constData() + kApplication) != kApplicationId) {
+  if (!BeginsAsALoanFile(header)) {
     throw OpeningError(OpeningProblem::NotALoanFile, pad);
   }
   const auto versie = qFromBigEndian<qint32>(header.constData() + kUserVersion);
@@ -44,8 +58,11 @@ QByteArray ControleerHeader(const QString& pad) {
 }
 
 /// The marks count as well as the rights: a file marked read-only stays so for an administrator.
-bool Schrijfbaar(const QFileInfo& info) {
-  return info.isWritable() && (info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+bool Schrijfbaar(const QString& pad) {
+  struct stat file {};
+  const QByteArray name = QFile::encodeName(pad);
+  constexpr mode_t kAnybody = S_IWUSR | S_IWGRP | S_IWOTH;
+  return stat(name.constData(), &file) == 0 && (file.st_mode & kAnybody) != 0 && eaccess(name.constData(), W_OK) == 0;
 }
 
 /// All pages that the header speaks of are there. SQLite reads what was cut off as zeros.
@@ -55,53 +72,54 @@ bool IsVolledig(const QByteArray& header, qint64 lengte) {
   return pagina > 0 && lengte >= pagina * qFromBigEndian<quint32>(header.constData() + kPageCount);
 }
 
-/// The index that reading a write-ahead log leaves beside it, removed again.
-class LogIndex {
- public:
-  explicit LogIndex(const QString& pad) : naam_(pad + QStringLiteral("-shm")), stond_(QFileInfo::exists(naam_)) {}
-  LogIndex(const LogIndex&) = delete;
-  LogIndex& operator=(const LogIndex&) = delete;
-  ~LogIndex() {
-    if (!stond_) QFile::remove(naam_);
+/// What SQLite's check finds is damage, unless the disk or the memory kept it from looking.
+void CheckWhole(Database& database, const QString& pad) {
+  const QString found = database.Value(QStringLiteral("PRAGMA integrity_check(1)")).toString();
+  if (found == QStringLiteral("ok")) return;
+  static const QRegularExpression code(QStringLiteral("error code[ =](\\d+)"));
+  if (const QRegularExpressionMatch match = code.match(found); match.hasMatch()) {
+    const DatabaseError error(static_cast<SqliteCode>(match.captured(1).toInt() & 0xff), "The check was broken off");
+    if (!error.IsDamage()) throw error;
   }
-
- private:
-  QString naam_;
-  bool stond_;
-};
-
-/// Looks at the contents through a connection that cannot write.
-void BekijkInhoud(const QString& pad, Access access) {
-  const LogIndex index(pad);
-  try {
-    Database database(pad, access);
-    ControleerInhoud(database, pad);
-    static_cast<void>(LeesDossier(database));
-  } catch (const DatabaseError& error) {
-    throw OpeningError(error.Code() == SqliteCode::Busy ? OpeningProblem::InUse : OpeningProblem::Damaged, pad);
-  }
+  throw OpeningError(OpeningProblem::Damaged, pad);
 }
 
 }  // namespace
 
-void ControleerBestand(const QString& pad) {
-  const QFileInfo info(pad);
-  if (!info.exists()) throw OpeningError(OpeningProblem::Missing, pad);
-  if (info.isDir()) throw OpeningError(OpeningProblem::Directory, pad);
-  if (!info.isFile()) throw OpeningError(OpeningProblem::NotALoanFile, pad);
-  const QByteArray header = ControleerHeader(pad);
-  // The write-ahead log is kept in the same folder.
-  if (!Schrijfbaar(info) || !Schrijfbaar(QFileInfo(info.absolutePath()))) {
-    throw OpeningError(OpeningProblem::ReadOnly, pad);
+void CheckName(const QString& pad) {
+  struct stat file {};
+  if (stat(QFile::encodeName(pad).constData(), &file) != 0) {
+    throw OpeningError(errno == EACCES                                         ? OpeningProblem::Unreadable
+                       : errno == ENOENT || errno == ENOTDIR || errno == ELOOP ? OpeningProblem::Missing
+                                                                               : OpeningProblem::DiskError,
+                       pad);
   }
-  // With a log beside it the file alone is not what counts: a program was killed, or is still at work.
-  const bool log = QFileInfo::exists(pad + QStringLiteral("-wal"));
-  if (!log && !IsVolledig(header, info.size())) throw OpeningError(OpeningProblem::Damaged, pad);
-  // Opening to work works off what stands beside the file, so the contents are looked at before.
-  if (log) {
-    BekijkInhoud(pad, Access::ReadOnly);
-  } else if (QFileInfo::exists(pad + QStringLiteral("-journal"))) {
-    BekijkInhoud(pad, Access::Immutable);
+  if (S_ISDIR(file.st_mode)) throw OpeningError(OpeningProblem::Directory, pad);
+  if (!S_ISREG(file.st_mode)) throw OpeningError(OpeningProblem::NotALoanFile, pad);
+  if (file.st_size > kMostFile) throw OpeningError(OpeningProblem::TooLarge, pad);
+  if (eaccess(QFile::encodeName(pad).constData(), R_OK) != 0) throw OpeningError(OpeningProblem::Unreadable, pad);
+  // The log of a session under the other name would not be found.
+  if (file.st_nlink > 1) throw OpeningError(OpeningProblem::SecondName, pad);
+}
+
+bool LooksLikeALoanFile(const QString& pad) {
+  QFile file(pad);
+  return QFileInfo(pad).isFile() && file.open(QIODevice::ReadOnly) && BeginsAsALoanFile(file.read(kHeaderSize));
+}
+
+bool IsWritable(const QString& pad) { return Schrijfbaar(pad) && Schrijfbaar(QFileInfo(pad).absolutePath()); }
+
+void CheckHeader(const QString& pad) {
+  const QByteArray header = ControleerHeader(pad);
+  // With a log beside it the file alone is not what counts.
+  if (QFileInfo(LogOf(pad)).size() == 0 && !IsVolledig(header, QFileInfo(pad).size())) {
+    throw OpeningError(OpeningProblem::Damaged, pad);
+  }
+}
+
+void CheckPossible(const DossierGegevens& contents, const QString& pad) {
+  if (const auto place = FirstImpossible(contents)) {
+    throw OpeningError(OpeningProblem::Impossible, pad, QString::fromStdString(*place));
   }
 }
 
@@ -109,10 +127,8 @@ void ControleerInhoud(Database& database, const QString& pad) {
   const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt();
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
   // The layout comes first: SQLite holds the rows against the constraints that the file itself gives.
-  if (versie < 1 || !HasSchema(database, versie) ||
-      database.Value(QStringLiteral("PRAGMA integrity_check(1)")).toString() != QStringLiteral("ok")) {
-    throw OpeningError(OpeningProblem::Damaged, pad);
-  }
+  if (versie < 1 || !HasSchema(database, versie)) throw OpeningError(OpeningProblem::Damaged, pad);
+  CheckWhole(database, pad);
 }
 
 }  // namespace brivane::dossier

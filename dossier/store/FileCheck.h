@@ -2,16 +2,26 @@
 
 #include <QString>
 
+#include "dossier/model/Gegevens.h"
 #include "dossier/store/Database.h"
 
 namespace brivane::dossier {
 
-/// Looks at a file before it is opened to work in, without changing it or leaving anything beside it. Throws
-/// OpeningError where it is no loan file that this program can work in. The contents are only looked at where a
-/// log stands beside the file; otherwise opening can do that without changing it.
-///
-/// Not to be called for a file that this process has open: reading it would let go of the lock on it.
-void ControleerBestand(const QString& pad);
+/// What a name stands for, before the file is opened. Throws OpeningError where it can be no loan file.
+void CheckName(const QString& pad);
+
+/// Whether a file begins as a loan file does, whole or not.
+[[nodiscard]] bool LooksLikeALoanFile(const QString& pad);
+
+/// Neither the file nor its folder is marked or given to be read only.
+[[nodiscard]] bool IsWritable(const QString& pad);
+
+/// Looks at the first page of a file, and at its length where no log stands beside it. Throws OpeningError where it is
+/// no loan file that this program can work in. The caller holds the file.
+void CheckHeader(const QString& pad);
+
+/// Throws OpeningError with the place of a value that no edit writes.
+void CheckPossible(const DossierGegevens& contents, const QString& pad);
 
 /// Checks the layout and the whole of an open file, reading only. Throws OpeningError for a file that is newer or
 /// damaged, and DatabaseError where it cannot be read. A connection that cannot write passes over the constraints of

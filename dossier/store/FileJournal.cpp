@@ -3,18 +3,23 @@
 #include <utility>
 
 #include "dossier/store/Fields.h"
+#include "dossier/store/Possible.h"
+#include "dossier/store/StateChain.h"
 #include "host/Error.h"
 
 namespace brivane::dossier {
 namespace {
 
 constexpr char kBron[] = "Dossier";
+constexpr int kMostEditsInLog = 500;
 
 std::string Oorzaak(const DatabaseError& error) {
   switch (error.Code()) {
     case SqliteCode::Full: return "de schijf is vol";
     case SqliteCode::ReadOnly: return "het bestand is alleen-lezen";
+    case SqliteCode::CannotOpen:
     case SqliteCode::IoError: return "het bestand kan niet worden beschreven";
+    case SqliteCode::NoMemory: return "er is te weinig geheugen";
     case SqliteCode::Busy: return "het bestand is in gebruik bij een ander programma";
     case SqliteCode::Corrupt:
     case SqliteCode::NotADatabase: return "het bestand is beschadigd";
@@ -33,6 +38,14 @@ QVariant AlsVariant(const Waarde& waarde) {
   return QVariant(AlsBytes(std::get<std::string_view>(waarde)));
 }
 
+/// Only what opens again is stored.
+void MustBePossible(bool possible) {
+  if (possible) return;
+  throw host::Error(kImpossibleError,
+                    "De wijziging is niet opgeslagen: de waarde is groter of anders dan een dossier kan bevatten.",
+                    kBron);
+}
+
 /// An UPDATE of one field of one row. The value's kind goes with the field.
 QString Update(const char* tabel, std::string_view veld, const Waarde& waarde) {
   const bool tekst = std::holds_alternative<std::string_view>(waarde);
@@ -43,13 +56,15 @@ QString Update(const char* tabel, std::string_view veld, const Waarde& waarde) {
 
 }  // namespace
 
-FileJournal::FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload)
-    : database_(std::move(database)), writer_(*database_, eerste), reload_(std::move(reload)) {}
+FileJournal::FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload,
+                         std::unique_ptr<HeldFile> held)
+    : held_(std::move(held)), database_(std::move(database)), writer_(*database_, eerste), reload_(std::move(reload)) {}
 
 FileJournal::~FileJournal() { Sluit(); }
 
 void FileJournal::Sluit() {
   if (!database_) return;
+  WorkOff();
   writer_.Sluit();
   kolomvelden_.clear();
   periodevelden_.clear();
@@ -57,6 +72,21 @@ void FileJournal::Sluit() {
   begin_.reset();
   commit_.reset();
   database_.reset();
+  if (held_) held_->RemoveEmptyLog();
+  held_.reset();
+}
+
+void FileJournal::WorkOff() noexcept {
+  // A log that holds nothing of this connection's is not touched: where the file was replaced it may be another's.
+  if (!database_ || edits_in_log_ == 0) return;
+  try {
+    QSqlQuery query = database_->Prepare(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    Database::Run(query);
+    // The first value tells whether it was kept from finishing.
+    if (query.next() && query.value(0).toInt() == 0) edits_in_log_ = 0;
+  } catch (...) {
+    // The log still holds what it held.
+  }
 }
 
 Database& FileJournal::Open() {
@@ -92,6 +122,12 @@ template <class Change> void FileJournal::Write(Change&& change) {
 
 void FileJournal::Begin() {
   static_cast<void>(Open());
+  if (!InPlace()) {
+    throw host::Error(kMovedError,
+                      "De wijziging is niet opgeslagen: het dossier is verplaatst, vervangen of verwijderd terwijl "
+                      "het open was.",
+                      kBron);
+  }
   try {
     Database::Run(Prepared(begin_, QStringLiteral("BEGIN IMMEDIATE")));
   } catch (const DatabaseError& error) {
@@ -101,10 +137,14 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
+    AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);
     Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
   } catch (const DatabaseError& error) {
     throw AlsFout(error);
   }
+  // Where nobody works it off at rest it does not grow for ever.
+  if (++edits_in_log_ >= kMostEditsInLog) WorkOff();
+  if (!AtRest()) InLog.Raise();
 }
 
 void FileJournal::Rollback() noexcept {
@@ -126,6 +166,7 @@ void FileJournal::Reload() noexcept {
 
 void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) {
   Write([&](Database&) {
+    MustBePossible(IsPossible(veld, waarde));
     QSqlQuery& query = Prepared(kolomvelden_[veld.naam], Update("vrijekolom", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(kolom));
@@ -142,6 +183,7 @@ Sleutel FileJournal::AddPeriod(Sleutel kolom) {
 
 void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waarde) {
   Write([&](Database&) {
+    MustBePossible(IsPossible(veld, waarde));
     QSqlQuery& query = Prepared(periodevelden_[veld.naam], Update("periode", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(periode));
@@ -158,7 +200,10 @@ void FileJournal::RemovePeriod(Sleutel periode) {
 }
 
 void FileJournal::AddColumn(Sleutel lening, KolomGegevens& kolom) {
-  Write([&](Database&) { writer_.VoegKolomToe(lening, kolom); });
+  Write([&](Database&) {
+    MustBePossible(!FirstImpossible(kolom));
+    writer_.VoegKolomToe(lening, kolom);
+  });
 }
 
 void FileJournal::RemoveColumn(Sleutel kolom) {
@@ -171,6 +216,7 @@ void FileJournal::RemoveColumn(Sleutel kolom) {
 
 void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
   Write([&](Database& database) {
+    MustBePossible(IsPossibleId(Id));
     QSqlQuery query =
         database.Prepare(QStringLiteral("UPDATE vrijekolom SET lening = ?, id = ?, volgorde = ? WHERE sleutel = ?"));
     query.bindValue(0, static_cast<qlonglong>(lening));
@@ -184,23 +230,29 @@ void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
 void FileJournal::AddLoan(LeningGegevens& lening) {
   Write([&](Database& database) {
     const int nummer = database.Value(QStringLiteral("SELECT max(nummer) + 1 FROM lening")).toInt();
+    MustBePossible(IsPossibleText(lening.Naam) && static_cast<std::size_t>(nummer) <= kMostLoans);
     writer_.VoegLeningToe(nummer, lening);
   });
 }
 
 void FileJournal::SetPersons(const std::vector<PersoonGegevens>& personen) {
   Write([&](Database& database) {
+    for (const PersoonGegevens& persoon : personen) MustBePossible(!FirstImpossible(persoon));
     database.Run(QStringLiteral("DELETE FROM persoon"));
     writer_.SchrijfPersonen(personen);
   });
 }
 
 void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
-  Write([&](Database& database) { database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd)); });
+  Write([&](Database& database) {
+    MustBePossible(IsPossibleAgeLimit(leeftijd));
+    database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd));
+  });
 }
 
 void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   Write([&](Database& database) {
+    MustBePossible(lidmaatschap == Membership::No || IsPossibleId(Vrij_Id));
     QSqlQuery query = database.Prepare(lidmaatschap == Membership::Yes
                                            ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
                                            : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));

@@ -10,20 +10,20 @@
 #include "dossier/model/Journal.h"
 #include "dossier/store/Database.h"
 #include "dossier/store/Edits.h"
+#include "dossier/store/HeldFile.h"
+#include "dossier/store/StoreErrors.h"
 #include "dossier/store/Writer.h"
 
 namespace brivane::dossier {
-
-/// Number of the first host failure of the store: SQLite's result code is added to it.
-inline constexpr std::int32_t kStoreError = 1000;
 
 /// Keeps every change of a case in its loan file. A change that cannot be kept fails with a host error
 /// from kStoreError on and a Dutch description; so does every change once the file was closed.
 class FileJournal : public Journal, private Edits::Transactions {
  public:
   /// `reload` loads the memory anew from the file; it may fail, and then nothing more is written. New keys are given
-  /// out from `eerste` on.
-  FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload);
+  /// out from `eerste` on. `held` is the file that the connection works in, or nothing where that is not watched.
+  FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload,
+              std::unique_ptr<HeldFile> held = nullptr);
   ~FileJournal() override;
 
   void SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) override;
@@ -42,6 +42,15 @@ class FileJournal : public Journal, private Edits::Transactions {
   [[nodiscard]] Edits& Bewerkingen() { return edits_; }
   /// The open file, or nothing once it was closed.
   [[nodiscard]] Database* Bestand() { return database_.get(); }
+  /// Works the log off, so that the file alone holds everything; tries, and leaves it for the next time where that
+  /// cannot be: an edit is under way, or the disk is full.
+  void WorkOff() noexcept;
+  /// The file alone holds everything.
+  [[nodiscard]] bool AtRest() const { return edits_in_log_ == 0; }
+  /// An edit was stored that stands in the log alone.
+  host::Event<> InLog;
+  /// The file stands where it stood, or is not watched.
+  [[nodiscard]] bool InPlace() const { return !held_ || held_->InPlace(); }
   /// Writes nothing more. The objects of the case may live on.
   void Sluit();
 
@@ -58,10 +67,13 @@ class FileJournal : public Journal, private Edits::Transactions {
   static void RunForOne(QSqlQuery& query);
   template <class Change> void Write(Change&& change);
 
+  std::unique_ptr<HeldFile> held_;
   std::unique_ptr<Database> database_;
   Writer writer_;
   std::function<void(Database&)> reload_;
   bool unreadable_ = false;
+  /// Edits since the log was last worked off; what a killed program left counts as one.
+  int edits_in_log_ = 1;
   std::optional<QSqlQuery> begin_;
   std::optional<QSqlQuery> commit_;
   /// By the name of the field.

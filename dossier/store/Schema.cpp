@@ -40,13 +40,19 @@ constexpr const char* kVersie1[] = {
     "PRIMARY KEY (voorstel, vrij_id)) STRICT, WITHOUT ROWID",
 };
 
+// The states that the file went through since its log was last worked off: StateChain.h.
+constexpr const char* kVersie2[] = {
+    "CREATE TABLE stand (nummer INTEGER PRIMARY KEY, kenmerk INTEGER NOT NULL) STRICT",
+    "INSERT INTO stand (kenmerk) VALUES (random())",
+};
+
 struct Stap {
   const char* const* statements;
   std::size_t aantal;
 };
 
 /// Step n leads from version n to version n + 1.
-constexpr Stap kStappen[kSchemaVersion] = {{kVersie1, std::size(kVersie1)}};
+constexpr Stap kStappen[kSchemaVersion] = {{kVersie1, std::size(kVersie1)}, {kVersie2, std::size(kVersie2)}};
 
 void Neem(Database& database, int van, int tot) {
   for (; van < tot; ++van) {

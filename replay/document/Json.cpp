@@ -44,6 +44,15 @@ class Builder {
 
   [[nodiscard]] Json Take() { return std::move(root_); }
 
+  /// A person counts lines and columns from 1; a column is a byte.
+  [[nodiscard]] std::string LineAndColumn(std::size_t position) const {
+    const std::string_view before = text_.substr(0, position == 0 ? 0 : std::min(position - 1, text_.size()));
+    const auto line = 1 + std::count(before.begin(), before.end(), '\n');
+    const std::size_t newline = before.rfind('\n');
+    const std::size_t column = before.size() - (newline == std::string_view::npos ? 0 : newline + 1) + 1;
+    return "line " + std::to_string(line) + ", column " + std::to_string(column);
+  }
+
  private:
   static constexpr int kNumberTooLarge = 406;
 
@@ -101,15 +110,6 @@ class Builder {
     return place;
   }
 
-  /// A person counts lines and columns from 1; a column is a byte.
-  [[nodiscard]] std::string LineAndColumn(std::size_t position) const {
-    const std::string_view before = text_.substr(0, position == 0 ? 0 : std::min(position - 1, text_.size()));
-    const auto line = 1 + std::count(before.begin(), before.end(), '\n');
-    const std::size_t newline = before.rfind('\n');
-    const std::size_t column = before.size() - (newline == std::string_view::npos ? 0 : newline + 1) + 1;
-    return "line " + std::to_string(line) + ", column " + std::to_string(column);
-  }
-
   std::string_view text_;
   Json root_;
   std::vector<Level> open_;
@@ -133,6 +133,10 @@ std::string Below(const std::string& place, std::size_t index) { return place + 
 
 Json ParseJson(std::string_view text) {
   Builder builder(text);
+  // The parser takes it for the end.
+  if (const std::size_t nul = text.find('\0'); nul != std::string_view::npos) {
+    throw BadInput(builder.LineAndColumn(nul + 1), "a NUL byte");
+  }
   Json::sax_parse(text.begin(), text.end(), &builder);
   return builder.Take();
 }

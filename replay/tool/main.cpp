@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,15 +49,21 @@ Request ReadCommandLine(const std::vector<std::string_view>& arguments) {
   return request;
 }
 
+/// A document is written by hand or recorded in a session; larger is a mistake in the name.
+constexpr std::size_t kMostBytes = std::size_t{64} << 20;
+
 std::string ReadAll(const std::string& name) {
   const bool standard = name == "-";
   std::FILE* const file = standard ? stdin : std::fopen(name.c_str(), "rb");
   if (file == nullptr) throw BadInput(name, "cannot be opened");
   std::string text;
   char block[65536];
-  for (std::size_t size; (size = std::fread(block, 1, sizeof block, file)) > 0;) text.append(block, size);
+  for (std::size_t size; text.size() <= kMostBytes && (size = std::fread(block, 1, sizeof block, file)) > 0;) {
+    text.append(block, size);
+  }
   const bool failed = std::ferror(file) != 0;
   if (!standard) std::fclose(file);
+  if (text.size() > kMostBytes) throw BadInput(standard ? "standard input" : name, "is larger than 64 MiB");
   if (failed) throw BadInput(standard ? "standard input" : name, "cannot be read");
   return text;
 }
@@ -88,6 +95,9 @@ int main(int count, char** arguments) {
   int code = kDone;
   try {
     Serve(ReadCommandLine({arguments + 1, arguments + count}));
+  } catch (const std::bad_alloc&) {
+    std::fprintf(stderr, "the document: there is too little memory to read or replay it\n");
+    code = kRefused;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "%s\n", problem.what());
     code = kRefused;

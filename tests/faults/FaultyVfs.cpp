@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <iterator>
 #include <new>
 
 namespace brivane::faults {
@@ -15,7 +16,9 @@ struct Plan {
   bool struck = false;
 };
 Plan plan;
-sqlite3_vfs* disk = nullptr;
+
+/// What stands before one of SQLite's ways to the disk.
+sqlite3_vfs* Disk(sqlite3_vfs* shim) { return static_cast<sqlite3_vfs*>(shim->pAppData); }
 
 /// The code of a failure that is due now, or SQLITE_OK.
 int Due(int code) {
@@ -104,42 +107,48 @@ const sqlite3_io_methods kMethods{
     .xUnfetch = nullptr,
 };
 
-int Open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags) {
+int Open(sqlite3_vfs* shim, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags) {
   auto* const own = new (file) File{{nullptr}, reinterpret_cast<sqlite3_file*>(reinterpret_cast<File*>(file) + 1)};
   if (const int due = Due(SQLITE_CANTOPEN)) return due;
-  const int opened = disk->xOpen(disk, name, own->real, flags, outFlags);
+  const int opened = Disk(shim)->xOpen(Disk(shim), name, own->real, flags, outFlags);
   if (own->real->pMethods != nullptr) own->base.pMethods = &kMethods;
   return opened;
 }
-int Delete(sqlite3_vfs*, const char* name, int syncFolder) {
+int Delete(sqlite3_vfs* shim, const char* name, int syncFolder) {
   if (const int due = Due(SQLITE_IOERR_DELETE)) return due;
-  return disk->xDelete(disk, name, syncFolder);
+  return Disk(shim)->xDelete(Disk(shim), name, syncFolder);
 }
-int Access(sqlite3_vfs*, const char* name, int flags, int* result) {
+int Access(sqlite3_vfs* shim, const char* name, int flags, int* result) {
   if (const int due = Due(SQLITE_IOERR_ACCESS)) return due;
-  return disk->xAccess(disk, name, flags, result);
+  return Disk(shim)->xAccess(Disk(shim), name, flags, result);
 }
 
-sqlite3_vfs shim;
+/// The default way, and the one without locks of its own by which a loan file is opened to work in.
+constexpr const char* kNames[] = {"unix", "unix-none"};
+sqlite3_vfs shims[std::size(kNames)];
 
 }  // namespace
 
 FaultyVfs::FaultyVfs() {
-  disk = sqlite3_vfs_find(nullptr);
-  shim = *disk;
-  shim.zName = "faulty";
-  shim.pNext = nullptr;
-  shim.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
-  shim.xOpen = Open;
-  shim.xDelete = Delete;
-  shim.xAccess = Access;
-  sqlite3_vfs_register(&shim, 1);
+  for (std::size_t n = 0; n < std::size(kNames); ++n) {
+    sqlite3_vfs* const disk = sqlite3_vfs_find(kNames[n]);
+    sqlite3_vfs& shim = shims[n];
+    shim = *disk;
+    shim.pNext = nullptr;
+    shim.pAppData = disk;
+    shim.szOsFile = static_cast<int>(sizeof(File)) + disk->szOsFile;
+    shim.xOpen = Open;
+    shim.xDelete = Delete;
+    shim.xAccess = Access;
+    // Of two with one name the first in the list is found, and a new one comes before the others.
+    sqlite3_vfs_register(&shim, n == 0 ? 1 : 0);
+  }
   plan = {};
 }
 
 FaultyVfs::~FaultyVfs() {
-  sqlite3_vfs_unregister(&shim);
-  sqlite3_vfs_register(disk, 1);
+  for (sqlite3_vfs& shim : shims) sqlite3_vfs_unregister(&shim);
+  sqlite3_vfs_register(Disk(&shims[0]), 1);
 }
 
 void FaultyVfs::FailAt(int nth) { plan = {.failing = nth}; }

@@ -38,6 +38,10 @@ class Session {
       Work();
     } catch (const dossier::OpeningError& error) {
       EXPECT_TRUE(vfs_.Struck()) << "not opened: " << static_cast<int>(error.Problem());
+      // Nobody is advised to put a backup over a file that is whole.
+      EXPECT_EQ(error.Problem(),
+                kind == Kind::OneCall ? dossier::OpeningProblem::DiskError : dossier::OpeningProblem::DiskFull)
+          << error.what();
     }
     const int calls = vfs_.Calls();
     failed_ = vfs_.Struck();

@@ -22,6 +22,23 @@ TEST(CommandLine, CheckRunsNothing) {
   EXPECT_EQ(outcome.out + outcome.err, "");
 }
 
+TEST(CommandLine, WhatFollowsANulByteIsNotLeftOut) {
+  const std::string document = std::string(kDocument) + "\n" + std::string(1, '\0') + "the rest";
+  for (const char* option : {"--check", "--"}) {
+    const Outcome outcome = RunReplay({option, "-"}, document);
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_EQ(outcome.err, "line 2, column 1: a NUL byte\n");
+  }
+}
+
+TEST(CommandLine, ADocumentLargerThanAnyIsNotReadIn) {
+  // A file without end.
+  const Outcome outcome = RunReplay({"--check", "/dev/zero"});
+  EXPECT_EQ(outcome.exitCode, 2);
+  EXPECT_EQ(outcome.err, "/dev/zero: is larger than 64 MiB\n");
+}
+
 TEST(CommandLine, HelpTellsEveryStepAndLine) {
   const Outcome outcome = RunReplay({"--help"});
   EXPECT_EQ(outcome.exitCode, 0);

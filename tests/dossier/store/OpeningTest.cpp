@@ -149,7 +149,7 @@ const char kNewer[] =
 TEST(OpeningTest, AFileOfANewerVersion) {
   const Folder folder;
   const QString path = folder.Make();
-  Change(path, "PRAGMA user_version = 2");
+  Change(path, "PRAGMA user_version = 3");
   ExpectRefused(folder, path, OpeningProblem::Newer, kNewer);
 }
 
@@ -159,29 +159,12 @@ TEST(OpeningTest, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
   const Folder copied;
   {
     Database database(path, Access::ReadWrite);
-    database.Run(QStringLiteral("PRAGMA user_version = 2"));
+    database.Run(QStringLiteral("PRAGMA user_version = 3"));
     // The log holds the version, the file does not yet.
     ASSERT_TRUE(QFile::copy(path, copied.Path()));
     ASSERT_TRUE(QFile::copy(path + "-wal", copied.Path("test.dossier-wal")));
   }
   ExpectRefused(copied, copied.Path(), OpeningProblem::Newer, kNewer);
-}
-
-TEST(OpeningTest, AReadOnlyFile) {
-  const Folder folder;
-  const QString path = folder.Make();
-  QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-  ExpectRefused(folder, path, OpeningProblem::ReadOnly,
-                "Het dossier \"test.dossier\" kan niet worden gewijzigd: het bestand of de map is alleen-lezen.");
-}
-
-TEST(OpeningTest, AFileInAReadOnlyFolder) {
-  const Folder folder;
-  QDir().mkdir(folder.Path("vast"));
-  const QString path = folder.Make(VoorbeeldDossier(), "vast/test.dossier");
-  QFile::setPermissions(folder.Path("vast"), QFile::ReadOwner | QFile::ExeOwner);
-  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::ReadOnly);
-  QFile::setPermissions(folder.Path("vast"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST(OpeningTest, AFileThatTheUserMayNotRead) {
@@ -192,16 +175,6 @@ TEST(OpeningTest, AFileThatTheUserMayNotRead) {
   const OrdinaryUser user;
   ASSERT_TRUE(user.Succeeded());
   EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::Unreadable);
-}
-
-TEST(OpeningTest, AFileOfAnotherUser) {
-  const Folder folder;
-  const QString path = folder.Make();
-  QFile::setPermissions(QFileInfo(path).absolutePath(), QFile::Permissions(0x7777));
-  QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup);
-  const OrdinaryUser user;
-  ASSERT_TRUE(user.Succeeded());
-  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::ReadOnly);
 }
 
 TEST(OpeningTest, AFileThatIsOpenInAnotherWindow) {
@@ -250,7 +223,7 @@ TEST(OpeningTest, AnEditLeavesTheFilesMarksInPlace) {
   DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
   Database database(path, Access::ReadOnly);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA application_id")).toUInt(), kApplicationId);
-  EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), 1);
+  EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), kSchemaVersion);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA journal_mode")).toString(), "wal");
 }
 

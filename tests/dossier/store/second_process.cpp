@@ -43,6 +43,17 @@ int Read(const QString& path) {
   return 0;
 }
 
+/// As another program would that writes in the file.
+int Write(const QString& path) {
+  try {
+    Database(path, Access::ReadWrite).Run(QStringLiteral("UPDATE vrijekolom SET looptijd = 99"));
+    Say("written");
+  } catch (const DatabaseError& error) {
+    Say(std::string("refused: ") + error.what());
+  }
+  return 0;
+}
+
 /// Says the number of each edit once it has been accepted, until it is killed or has done the last one.
 int Edit(const QString& path, int first, int last) {
   const auto file = DossierFile::Open(path);
@@ -67,6 +78,7 @@ int main(int argc, char** argv) {
   const QString path = QString::fromLocal8Bit(argv[2]);
   if (command == "open") return Open(path);
   if (command == "read") return Read(path);
+  if (command == "write") return Write(path);
   if (command == "edit" && argc == 5) return Edit(path, std::atoi(argv[3]), std::atoi(argv[4]));
   return 2;
 }

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "dossier/model/Gegevens.h"
+#include "dossier/model/Journal.h"
+
+/// What a loan file may hold: the one list by which an edit is stored and a file is opened, so that what was stored
+/// opens again and nothing opens that no edit writes. Codes are those of the editor's own lists.
+namespace brivane::dossier {
+
+/// Bytes of any text.
+inline constexpr std::size_t kMostText = 100'000;
+/// Loans of the new situation.
+inline constexpr std::size_t kMostLoans = 1'000;
+/// An amount lies between this and its negative. Twelve digits can be typed; growing by percentages makes more.
+inline constexpr double kMostAmount = 1e15;
+/// Month of a period: the year form has up to 80 rows of years.
+inline constexpr std::int64_t kMostMonths = 960;
+/// Bytes of a file: tens of thousands of columns.
+inline constexpr std::int64_t kMostFile = std::int64_t{64} << 20;
+
+[[nodiscard]] bool IsPossible(KolomVeld field, const Waarde& value);
+[[nodiscard]] bool IsPossible(PeriodeVeld field, const Waarde& value);
+/// The number of a column within its loan, in a proposal too.
+[[nodiscard]] bool IsPossibleId(std::int16_t Vrij_Id);
+[[nodiscard]] bool IsPossibleAgeLimit(std::int16_t leeftijd);
+[[nodiscard]] bool IsPossibleText(std::string_view text);
+
+/// The first value that is not possible, told in Dutch by its place: "kolom 3 van de huidige situatie, termijn".
+[[nodiscard]] std::optional<std::string> FirstImpossible(const KolomGegevens& kolom);
+[[nodiscard]] std::optional<std::string> FirstImpossible(const PersoonGegevens& persoon);
+[[nodiscard]] std::optional<std::string> FirstImpossible(const DossierGegevens& dossier);
+
+}  // namespace brivane::dossier
