@@ -10,7 +10,8 @@ function(brivane_compile_idl file folder)
   else()
     set(machine --win32)
   endif()
-  set(widl ${BRIVANE_WIDL} -I${BRIVANE_WIDL_INCLUDE} -L${BRIVANE_WIDL_LIBRARIES} ${machine})
+  # The compiler leaves the time in the description: always the same one, so that the library can be built again.
+  set(widl ${CMAKE_COMMAND} -E env WIDL_TIME_OVERRIDE=0 ${BRIVANE_WIDL} -I${BRIVANE_WIDL_INCLUDE} -L${BRIVANE_WIDL_LIBRARIES} ${machine})
   add_custom_command(OUTPUT ${folder}/${name}.tlb ${folder}/${name}_idl.h
     COMMAND ${widl} -t -o ${folder}/${name}.tlb ${file}
     COMMAND ${widl} -h -o ${folder}/${name}_idl.h ${file}

@@ -40,6 +40,8 @@ class AnyControl {
   [[nodiscard]] std::string_view DesignName() const { return row_->name; }
   /// Place in the control array, or frame::kNoIndex.
   [[nodiscard]] int Index() const { return index_; }
+  /// One of the elements that a form makes at run time, or their template.
+  [[nodiscard]] bool IsRowElement() const { return row_->index == frame::kTemplateIndex; }
   /// The surface that holds the control; of a surface or form of its own, nothing.
   [[nodiscard]] Surface* Owner() const { return owner_; }
   /// The frame or surface that the control stands in; of a surface or form of its own, nothing.

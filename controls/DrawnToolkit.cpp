@@ -1,5 +1,6 @@
 #include "controls/DrawnToolkit.h"
 
+#include "controls/RowChanges.h"
 #include "frame/ErrorReport.h"
 
 namespace brivane::controls {
@@ -10,10 +11,18 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
   } catch (...) {
     const host::Error failure = frame::CurrentError();
     if (failureListener_) return failureListener_(failure);
-    ShowFailure(
-        std::string(frame::kReportCaption),
-        std::string(frame::kReportMessage) + "\r\n" + std::to_string(failure.Number()) + ": " + failure.Description());
+    const std::string what = std::to_string(failure.Number()) + ": " + failure.Description();
+    (void)Ask(std::string(frame::kReportCaption), std::string(frame::kReportMessage) + "\r\n" + what,
+              host::MessageStyle::OkExclamation);
   }
+}
+
+Outcome DrawnToolkit::Hand(AnyControl& control, const Action& action) {
+  const std::shared_ptr<RowChanges> rows = RowChanges::Around(control);
+  Outcome outcome = Outcome::Done;
+  Guard([&] { outcome = control.Perform(action); });
+  if (rows != nullptr && outcome != Outcome::Ignored) rows->Mark();
+  return outcome;
 }
 
 }  // namespace brivane::controls

@@ -4,7 +4,9 @@
 #include <string>
 
 #include "controls/ToolkitBase.h"
+#include "controls/entry/PendingEdits.h"
 #include "host/Error.h"
+#include "host/controls/Desktop.h"
 
 namespace brivane::controls {
 
@@ -19,12 +21,19 @@ class DrawnToolkit : public ToolkitBase {
   void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
   /// Runs something that a person sets off, and hands its failure to the listener.
   void Guard(const std::function<void()>& body);
+  /// A person acts on a control by what shows it: guarded, and known to the form whose row it changes. A failed action
+  /// counts as done.
+  Outcome Hand(AnyControl& control, const Action& action);
 
- protected:
-  virtual void ShowFailure(const std::string& caption, const std::string& text) = 0;
+  /// What is being typed in the boxes of this toolkit.
+  [[nodiscard]] PendingEdits& Pending() { return pending_; }
+  /// Asks a person something, or tells it; the controls' own message boxes do not come here.
+  [[nodiscard]] virtual host::MessageAnswer Ask(const std::string& caption, const std::string& text,
+                                                host::MessageStyle style) = 0;
 
  private:
   FailureListener failureListener_;
+  PendingEdits pending_;
 };
 
 }  // namespace brivane::controls

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "controls/RowChanges.h"
 #include "controls/Surface.h"
 #include "host/controls/Form.h"
 
@@ -24,6 +26,8 @@ class Form final : public SurfaceOf<host::Form> {
 
   /// Until the form is unloaded a person can act on it.
   [[nodiscard]] bool IsUnloaded() const { return unloaded_; }
+  /// What a person has done to the rows.
+  [[nodiscard]] const std::shared_ptr<RowChanges>& Rows() const { return rows_; }
 
  protected:
   Outcome Act(const Action& action) override;
@@ -36,6 +40,7 @@ class Form final : public SurfaceOf<host::Form> {
 
   std::string caption_;
   std::vector<std::vector<AnyControl*>> elements_;  ///< of each row, by index
+  std::shared_ptr<RowChanges> rows_ = std::make_shared<RowChanges>();
   FormPeer* formPeer_ = nullptr;
   bool unloaded_ = false;
 };

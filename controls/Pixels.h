@@ -6,8 +6,8 @@
 
 namespace brivane::controls {
 
-/// Twips to a pixel of the screen that surfaces are designed on. What draws scales pixels, not twips.
-inline constexpr double kTwipsPerPixel = 15;
+/// In double precision: what draws scales pixels, not twips.
+inline constexpr double kTwipsPerPixel = host::kTwipsPerPixel;
 
 /// A place in whole pixels.
 struct PixelPlace {

@@ -7,6 +7,10 @@
 /// Calendar arithmetic on dates of the (proleptic) Gregorian calendar.
 namespace brivane::frame {
 
+/// The calendar's first and last day: 1 January 100 and 31 December 9999.
+inline constexpr host::Date kFirstDay{-657434};
+inline constexpr host::Date kLastDay{2958465};
+
 struct YearMonthDay {
   int year;
   int month;  ///< 1 to 12

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "host/controls/Control.h"
+#include "host/controls/ListBox.h"
 
 /// The design of a surface as a table: one row a control, from which every toolkit makes it.
 ///
@@ -40,11 +41,7 @@ struct DesignPlace {
   int height = 0;
 };
 
-/// One entry that a list has from the start.
-struct ListEntry {
-  std::string_view text;
-  std::int32_t itemData = 0;
-};
+using host::ListEntry;
 
 inline constexpr int kNoIndex = -1;
 inline constexpr int kTemplateIndex = 0;

@@ -27,8 +27,8 @@ void ScaleControls(std::span<host::Control* const> controls, float factor, Contr
 std::optional<float> Factor(const host::Desktop& desktop) {
   const float x = desktop.TwipsPerPixelX();
   const float y = desktop.TwipsPerPixelY();
-  if (x == kDesignTwipsPerPixel && y == kDesignTwipsPerPixel) return std::nullopt;
-  return y / kDesignTwipsPerPixel;
+  if (x == host::kTwipsPerPixel && y == host::kTwipsPerPixel) return std::nullopt;
+  return y / host::kTwipsPerPixel;
 }
 
 }  // namespace

@@ -16,9 +16,6 @@ namespace brivane::frame {
 
 using ControlNames = std::span<const std::string_view>;
 
-/// The screen that the surfaces were designed on: 96 dots per inch.
-inline constexpr float kDesignTwipsPerPixel = 15;
-
 /// Scales a surface and its controls so that they keep their designed size in pixels: every measure
 /// times (vertical twips per pixel) / 15. Does nothing where both directions have 15 twips to a pixel.
 /// Controls named in `keepSize` keep their width and height.

@@ -16,7 +16,7 @@ namespace brivane::fuzz {
 
 namespace {
 
-using dossier::DossierBestand;
+using dossier::DossierFile;
 using dossier::DossierGegevens;
 using dossier::OpeningError;
 
@@ -76,14 +76,14 @@ class Folder {
 };
 
 DossierGegevens Contents(const QString& path) {
-  const auto file = DossierBestand::Open(path);
+  const auto file = DossierFile::Open(path);
   if (!file->ControleerHeelheid().isEmpty()) Wrong("opened a file that is not whole");
   return file->Dossier()->Gegevens();
 }
 
 /// Adds a loan with a column that has a period, and answers what the memory shows then.
 DossierGegevens Edited(const QString& path) {
-  const auto file = DossierBestand::Open(path);
+  const auto file = DossierFile::Open(path);
   try {
     const std::int16_t loan = file->Dossier()->NieuweLening("nieuw");
     const auto amount = file->Dossier()->NieuweKolom(loan)->Bedrag();

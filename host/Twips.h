@@ -4,8 +4,10 @@
 
 namespace brivane::host {
 
-/// A length on the screen in twips (1/1440 inch; 15 to a pixel of 96 dots per inch), in single
-/// precision, as the layout rules compute with it.
+/// Twips to a pixel of the screen that the surfaces are designed on: 96 dots per inch.
+inline constexpr float kTwipsPerPixel = 15;
+
+/// A length on the screen in twips (1/1440 inch), in single precision, as the layout rules compute with it.
 struct Twips {
   float value = 0;
 

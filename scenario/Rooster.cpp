@@ -51,8 +51,8 @@ TypeOf<K>& MaakVak(host::Form& form, Handle<K> soort, int rij, Twips links, Twip
   return vak;
 }
 
-void Verbind(host::TextBox& vak, const std::function<void(int)>& bewerkt, int rij) {
-  vak.Validation.Connect([&bewerkt, rij](bool&) { bewerkt(rij); });
+host::Subscription Verbind(host::TextBox& vak, const std::function<void(int)>& bewerkt, int rij) {
+  return vak.Validation.Connect([&bewerkt, rij](bool&) { bewerkt(rij); });
 }
 
 }  // namespace
@@ -90,7 +90,7 @@ Rooster::Rij Rooster::BouwRij(int rij, const Opzet& opzet, const Rijplaats& plaa
   Maak(form_, lblJaar, rij, plaats.jaar, plaats.labelTop).SetCaption(std::to_string(rij));
   if (opzet.MetBedrag()) {
     vakken.bedrag = &MaakVak(form_, txtBedrag, rij, plaats.bedrag, plaats.vakTop, vrij, Naam(kRolBedrag, opzet, rij));
-    Verbind(*vakken.bedrag, BedragBewerkt, rij);
+    subscriptions_ += Verbind(*vakken.bedrag, BedragBewerkt, rij);
   }
   if (opzet.MetEenmalig()) {
     vakken.eenmalig =
@@ -100,13 +100,13 @@ Rooster::Rij Rooster::BouwRij(int rij, const Opzet& opzet, const Rijplaats& plaa
   if (opzet.MetPercentage()) {
     vakken.percentage =
         &MaakVak(form_, txtPercentage, rij, plaats.percentage, plaats.vakTop, vrij, Naam(kRolPercentage, opzet, rij));
-    Verbind(*vakken.percentage, PercentageBewerkt, rij);
+    subscriptions_ += Verbind(*vakken.percentage, PercentageBewerkt, rij);
     Maak(form_, lblPercentage, rij, plaats.eenheid, plaats.labelTop);
   }
   if (opzet.MetKorting()) {
     vakken.korting =
         &MaakVak(form_, txtKorting, rij, plaats.korting, plaats.vakTop, vrij, Naam(kRolKorting, opzet, rij));
-    Verbind(*vakken.korting, KortingBewerkt, rij);
+    subscriptions_ += Verbind(*vakken.korting, KortingBewerkt, rij);
     Maak(form_, lblPcKorting, rij, plaats.kortingeenheid, plaats.labelTop);
   }
   return vakken;

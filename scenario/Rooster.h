@@ -52,6 +52,7 @@ class Rooster {
 
   host::Form& form_;
   std::vector<Rij> rijen_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::scenario

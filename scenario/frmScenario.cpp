@@ -45,16 +45,13 @@ frmScenario::frmScenario(frame::Toolkit& toolkit)
   rooster_.BedragBewerkt = [this](int rij) { txtBedrag_Validation(rij); };
   rooster_.PercentageBewerkt = [this](int rij) { txtPercentage_Validation(rij); };
   rooster_.KortingBewerkt = [this](int rij) { txtKorting_Validation(rij); };
-  controls_[cmdOK].Click.Connect([this] { cmdOK_Click(); });
-  form_->Activate.Connect([this] { Form_Activate(); });
-  form_->Unloaded.Connect([this] { scenario_.reset(); });
+  subscriptions_ += controls_[cmdOK].Click.Connect([this] { cmdOK_Click(); });
+  subscriptions_ += form_->Activate.Connect([this] { Form_Activate(); });
+  subscriptions_ += form_->Unloaded.Connect([this] { scenario_.reset(); });
   Form_Load();
 }
 
-frmScenario::~frmScenario() {
-  form_->Activate.Disconnect();
-  form_->Unloaded.Disconnect();
-}
+frmScenario::~frmScenario() = default;
 
 template <class Body> void frmScenario::Guarded(Body&& body) {
   try {
@@ -289,9 +286,20 @@ void frmScenario::cmdOK_Click() {
       ControleerOpname(Cancel, kControleOpname);
       if (Cancel) return;
     }
-    Bewaar(soort);
+    BewaarAlsGeheel(soort);
     form_->Unload();
   });
+}
+
+void frmScenario::BewaarAlsGeheel(Invoersoort soort) {
+  OpslagBegint.Raise();
+  try {
+    Bewaar(soort);
+  } catch (...) {
+    OpslagEindigt.Raise();
+    throw;
+  }
+  OpslagEindigt.Raise();
 }
 
 void frmScenario::Bewaar(Invoersoort soort) {

@@ -64,6 +64,11 @@ class frmScenario {
   /// The adviser changed a row since the form was filled.
   [[nodiscard]] bool Gewijzigd() const;
 
+  /// What OK writes into the scenario, it writes between these two, for who stores it as a whole. The second one
+  /// comes also where the writing fails, before the adviser is told. A listener of these two must not fail.
+  host::Event<> OpslagBegint;
+  host::Event<> OpslagEindigt;
+
  private:
   void Form_Load();
   void Form_Activate();
@@ -83,6 +88,7 @@ class frmScenario {
   void LaadBedragen();
   void LaadPercentages();
   void LaadGroei();
+  void BewaarAlsGeheel(scenario::Invoersoort soort);
   void Bewaar(scenario::Invoersoort soort);
   void ControleerOpname(bool& Cancel, std::int32_t ControleNr);
   void ToonTotaal();
@@ -106,6 +112,7 @@ class frmScenario {
   /// Loading never makes it monthly, so it starts by the year and storing alone changes it.
   scenario::Maandbasis maandbasis_ = scenario::Maandbasis::Jaar;
   bool gewijzigd_ = false;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane

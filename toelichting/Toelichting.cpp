@@ -19,15 +19,18 @@ Toelichting::Toelichting(host::Surface& surface, host::Desktop& desktop, const h
 }
 
 void Toelichting::ConnectControls() {
-  surface_.Resize.Connect([this] { UserControl_Resize(); });
-  surface_.BackColorSet.Connect([this](host::Color color) { frame::ReplaceColor(surface_.Controls(), color); });
-  controls_[jnAO].Change.Connect([this] { jnAO_Change(); });
-  controls_[jnWW].Change.Connect([this] { jnWW_Change(); });
-  controls_[jnLangleven].Change.Connect([this] { jnLangleven_Change(); });
-  controls_[jnOverlijden].Change.Connect([this] { jnOverlijden_Change(); });
-  controls_[TxtPcOvergang].Validation.Connect([this](bool& Cancel) { TxtPcOvergang_Validation(Cancel); });
-  controls_[txtEinddatum].Validation.Connect([this](bool& Cancel) { TxtEinddatum_Validation(Cancel); });
-  controls_[TxtEindjaar].Validation.Connect([this](bool& Cancel) { TxtEindjaar_Validation(Cancel); });
+  subscriptions_ += surface_.Resize.Connect([this] { UserControl_Resize(); });
+  subscriptions_ +=
+      surface_.BackColorSet.Connect([this](host::Color color) { frame::ReplaceColor(surface_.Controls(), color); });
+  subscriptions_ += controls_[jnAO].Change.Connect([this] { jnAO_Change(); });
+  subscriptions_ += controls_[jnWW].Change.Connect([this] { jnWW_Change(); });
+  subscriptions_ += controls_[jnLangleven].Change.Connect([this] { jnLangleven_Change(); });
+  subscriptions_ += controls_[jnOverlijden].Change.Connect([this] { jnOverlijden_Change(); });
+  subscriptions_ +=
+      controls_[TxtPcOvergang].Validation.Connect([this](bool& Cancel) { TxtPcOvergang_Validation(Cancel); });
+  subscriptions_ +=
+      controls_[txtEinddatum].Validation.Connect([this](bool& Cancel) { TxtEinddatum_Validation(Cancel); });
+  subscriptions_ += controls_[TxtEindjaar].Validation.Connect([this](bool& Cancel) { TxtEindjaar_Validation(Cancel); });
 }
 
 host::Color Toelichting::BackColor() const { return surface_.BackColor().value_or(host::kButtonFace); }

@@ -13,10 +13,11 @@ namespace brivane {
 /// The explanation control: in which life scenarios a free column counts, what passes to the partner on
 /// death and until when, and what the column does to burden and income tax.
 ///
-/// The surface (made from toelichting::kOntwerp) and the desktop must outlive the control.
+/// The surface (made from toelichting::kOntwerp) and the desktop must outlive the control, which stops listening to
+/// the surface as it ends.
 ///
 ///     Toelichting toelichting(surface, toolkit.Desktop(), factories);
-///     toelichting.Changed.Connect([&] { ... });
+///     const auto changed = toelichting.Changed.Connect([&] { ... });
 ///     toelichting.SetApplication(application, lening, 1);
 class Toelichting {
  public:
@@ -74,6 +75,7 @@ class Toelichting {
   bool Filling_ = false;
   bool Resizing_ = false;
   frame::Tracing tracing_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane

@@ -1,4 +1,4 @@
-// What the host asks before it leaves the column, and what the fiscal options allow.
+// What the host asks before it leaves the column.
 
 #include <string>
 
@@ -84,21 +84,6 @@ void VrijeKolom::WerkVoorstellenBij() {
   }
   if (!DossierControle_) DossierControle_ = factories_.MaakDossierControle(kNaam);
   host::Need(DossierControle_).Controleer(Application_, 1);
-}
-
-void VrijeKolom::Check_FraFiscaal() {
-  tracing_.Handled("Check_FraFiscaal", [this] {
-    const auto gekozen = [this](std::int16_t last) { return controls_(optLast, last).Value(); };
-    // A cost can only be deductible, a contribution only a taxable addition, and a column with a neutral
-    // burden must have a fiscal effect.
-    controls_(optFiscaal, kAftrekpost).SetEnabled(gekozen(kLast) || gekozen(kLastNeutraal));
-    controls_(optFiscaal, kBijtelling).SetEnabled(gekozen(kBijdrage) || gekozen(kLastNeutraal));
-    controls_(optFiscaal, kFiscaalNeutraal).SetEnabled(!gekozen(kLastNeutraal));
-    if (Filling_) return;
-    controls_(optFiscaal, gekozen(kLast) || gekozen(kLastNeutraal) ? kAftrekpost : kBijtelling).SetValue(true);
-    controls_[jnInkUitArbeid].SetEnabled(gekozen(kBijdrage) && controls_(optFiscaal, kBijtelling).Value());
-    if (!controls_[jnInkUitArbeid].Enabled()) controls_[jnInkUitArbeid].SetValue(host::kNee);
-  });
 }
 
 }  // namespace brivane

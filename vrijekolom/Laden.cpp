@@ -5,6 +5,7 @@
 
 #include "frame/Calendar.h"
 #include "frame/LayoutHelpers.h"
+#include "vrijekolom/FiscaleOpties.h"
 #include "vrijekolom/Looptijd.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/Teksten.h"
@@ -55,8 +56,10 @@ void VrijeKolom::Fill_Controls() {
     ToonBedrag();
     controls_[cmdScenario].SetEnabled(Record().Termijn() != kEenmalig);
     KiesTermijn();
-    controls_[jnInkUitArbeid].SetEnabled(Record().CorrectieFiscaal() == kBijtelling &&
-                                         Record().CorrectieLast() == kBijdrage);
+    // The burden correction is read only as far as it matters.
+    const std::int16_t fiscaal = Record().CorrectieFiscaal();
+    controls_[jnInkUitArbeid].SetEnabled(KanInkomenUitArbeidZijn(kBijdrage, fiscaal) &&
+                                         KanInkomenUitArbeidZijn(Record().CorrectieLast(), fiscaal));
     controls_[jnInkUitArbeid].SetValue(Record().InkomenUitArbeid() ? host::kJa : host::kNee);
     controls_[jnInDagloon].SetEnabled(controls_[jnInkUitArbeid].Enabled());
     controls_[jnInDagloon].SetValue(Record().InDagloon() ? host::kJa : host::kNee);
@@ -68,7 +71,7 @@ void VrijeKolom::Fill_Controls() {
 
 void VrijeKolom::Fill_fraAlgemeen() {
   tracing_.Handled("Fill_fraAlgemeen", [this] {
-    IsContract_ = frame::Contains(Record().Productsoort(), kContractsoorten);
+    IsContract_ = IsContractsoort(Record().Productsoort());
     controls_[TxtDtAanvang].SetDate(Record().DatumAanvang());
     if (IsContract_) {
       controls_[txtVervaldatum].SetDate(Record().Contractvervaldatum());

@@ -1,7 +1,4 @@
-// The term, the proposals and the year-by-year form.
-
-#include <array>
-#include <string>
+// The year-by-year form over the column's amount.
 
 #include "frame/Calendar.h"
 #include "frame/Conversions.h"
@@ -12,50 +9,6 @@
 namespace brivane {
 
 using namespace vrijekolom;
-
-void VrijeKolom::CboTermijn_Click() {
-  const host::ListBox& lijst = controls_[cboTermijn];
-  if (Filling_ || lijst.ListIndex() < 0) return;
-  tracing_.Handled("CboTermijn_Click", [&] {
-    Record().SetTermijn(frame::ToInteger16(lijst.ItemData(lijst.ListIndex())));
-    const host::Date aanvang = Record().DatumAanvang();
-    const std::int16_t termijn = Record().Termijn();
-    controls_[TxtDtEind].SetEnabled(!aanvang.IsNone() && termijn != kEenmalig);
-    controls_[TxtAnJaar].SetEnabled(termijn != kEenmalig);
-    controls_[TxtAnMaand].SetEnabled(termijn != kEenmalig);
-    controls_[cmdScenario].SetEnabled(termijn != kEenmalig);
-    if (termijn == kEenmalig) {
-      Record().SetLooptijd(0);
-      controls_[TxtDtEind].SetDate(host::kNoDate);
-      controls_[TxtAnJaar].SetNumber(0);
-      controls_[TxtAnMaand].SetNumber(0);
-      LeegScenario();
-    }
-    MeldWeergave();
-    Gewijzigd_ = true;
-  });
-}
-
-void VrijeKolom::LeegScenario() {
-  const std::shared_ptr<host::BedragObject> bedrag = Record().Bedrag();
-  while (host::Need(bedrag).Periode(1)) bedrag->VerwijderPeriode(1);
-}
-
-void VrijeKolom::ChkVoorstel_Click(std::int16_t Index) {
-  if (Filling_) return;
-  tracing_.Handled("ChkVoorstel_Click", [&] {
-    std::array<std::string, kVoorstellen> oud;
-    for (std::int16_t v = 1; v <= kVoorstellen; ++v) oud[static_cast<std::size_t>(v - 1)] = Record().Voorstel(v);
-    const bool aangevinkt = controls_(ChkVoorstel, Index).Value() == host::kTicked;
-    Record().SetVoorstel(Index, std::string(aangevinkt ? kInVoorstel : kUitVoorstel));
-    // Every proposal marked is registered, not only the one clicked: the host accepts a repetition.
-    for (std::int16_t v = 1; v <= kVoorstellen; ++v)
-      if (Record().Voorstel(v) == kInVoorstel) host::Need(Dossier_).VoegToeAanVoorstel(v, Vrij_Id_);
-    for (std::int16_t v = 1; v <= kVoorstellen; ++v)
-      if (Record().Voorstel(v) != oud[static_cast<std::size_t>(v - 1)] && Record().Voorstel(v) == kUitVoorstel)
-        host::Need(Dossier_).VerwijderUitVoorstel(v, Vrij_Id_, 0);
-  });
-}
 
 void VrijeKolom::cmdScenario_Click() {
   tracing_.Handled("cmdScenario_Click", [this] {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "frame/Calendar.h"
+#include "vrijekolom/FiscaleOpties.h"
 #include "vrijekolom/Looptijd.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
@@ -52,9 +53,8 @@ void VrijeKolom::optFiscaal_Click(std::int16_t Index) {
   if (Filling_) return;
   tracing_.Handled("optFiscaal_Click", [&] {
     Record().SetCorrectieFiscaal(Index);
-    // Only a taxable contribution can be income from work.
     host::JaNee& arbeid = controls_[jnInkUitArbeid];
-    arbeid.SetEnabled(controls_(optLast, kBijdrage).Value() && controls_(optFiscaal, kBijtelling).Value());
+    arbeid.SetEnabled(KanInkomenUitArbeidZijn(GekozenLast(), GekozenFiscaal()));
     if (!arbeid.Enabled()) arbeid.SetValue(host::kNee);
     HerbindToelichting();
     MeldKopregel();

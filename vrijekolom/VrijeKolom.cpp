@@ -23,39 +23,41 @@ VrijeKolom::VrijeKolom(host::Surface& surface, frame::Toolkit& toolkit, const ho
 VrijeKolom::~VrijeKolom() = default;
 
 void VrijeKolom::ConnectControls() {
-  surface_.Resize.Connect([this] { UserControl_Resize(); });
-  surface_.BackColorSet.Connect([this](host::Color color) { frame::ReplaceColor(surface_.Controls(), color); });
+  subscriptions_ += surface_.Resize.Connect([this] { UserControl_Resize(); });
+  subscriptions_ +=
+      surface_.BackColorSet.Connect([this](host::Color color) { frame::ReplaceColor(surface_.Controls(), color); });
 
   for (std::int16_t i = optLast.first; i <= optLast.last; ++i)
-    controls_(optLast, i).Click.Connect([this, i] { optLast_Click(i); });
+    subscriptions_ += controls_(optLast, i).Click.Connect([this, i] { optLast_Click(i); });
   for (std::int16_t i = optFiscaal.first; i <= optFiscaal.last; ++i)
-    controls_(optFiscaal, i).Click.Connect([this, i] { optFiscaal_Click(i); });
+    subscriptions_ += controls_(optFiscaal, i).Click.Connect([this, i] { optFiscaal_Click(i); });
   for (std::int16_t i = optAanvrager.first; i <= optAanvrager.last; ++i)
-    controls_(optAanvrager, i).Click.Connect([this, i] { optAanvrager_Click(i); });
+    subscriptions_ += controls_(optAanvrager, i).Click.Connect([this, i] { optAanvrager_Click(i); });
   for (std::int16_t i = ChkVoorstel.first; i <= ChkVoorstel.last; ++i)
-    controls_(ChkVoorstel, i).Click.Connect([this, i] { ChkVoorstel_Click(i); });
+    subscriptions_ += controls_(ChkVoorstel, i).Click.Connect([this, i] { ChkVoorstel_Click(i); });
 
-  controls_[jnInkUitArbeid].Change.Connect([this] { jnInkUitArbeid_Change(); });
-  controls_[jnInDagloon].Change.Connect([this] { jnInDagloon_Change(); });
-  controls_[jnUwBemiddeling].Change.Connect([this] { jnUwBemiddeling_Change(); });
+  subscriptions_ += controls_[jnInkUitArbeid].Change.Connect([this] { jnInkUitArbeid_Change(); });
+  subscriptions_ += controls_[jnInDagloon].Change.Connect([this] { jnInDagloon_Change(); });
+  subscriptions_ += controls_[jnUwBemiddeling].Change.Connect([this] { jnUwBemiddeling_Change(); });
 
-  controls_[TxtBd].Validation.Connect([this](bool&) { TxtBd_Validation(); });
-  controls_[TxtOm].Validation.Connect([this](bool&) { TxtOm_Validation(); });
-  controls_[TxtAnJaar].Validation.Connect([this](bool&) { TxtAnJaar_Validation(); });
-  controls_[TxtAnMaand].Validation.Connect([this](bool&) { TxtAnMaand_Validation(); });
-  controls_[TxtDtAanvang].Validation.Connect([this](bool& Cancel) { TxtDtAanvang_Validation(Cancel); });
-  controls_[TxtDtEind].Validation.Connect([this](bool& Cancel) { TxtDtEind_Validation(Cancel); });
-  controls_[txtMaatschappij].Validation.Connect([this](bool&) { txtMaatschappij_Validation(); });
-  controls_[txtProductsoort].Validation.Connect([this](bool&) { txtProductsoort_Validation(); });
-  controls_[txtProductnaam].Validation.Connect([this](bool&) { txtProductnaam_Validation(); });
-  controls_[txtVervaldatum].Validation.Connect([this](bool&) { txtVervaldatum_Validation(); });
+  subscriptions_ += controls_[TxtBd].Validation.Connect([this](bool&) { TxtBd_Validation(); });
+  subscriptions_ += controls_[TxtOm].Validation.Connect([this](bool&) { TxtOm_Validation(); });
+  subscriptions_ += controls_[TxtAnJaar].Validation.Connect([this](bool&) { TxtAnJaar_Validation(); });
+  subscriptions_ += controls_[TxtAnMaand].Validation.Connect([this](bool&) { TxtAnMaand_Validation(); });
+  subscriptions_ +=
+      controls_[TxtDtAanvang].Validation.Connect([this](bool& Cancel) { TxtDtAanvang_Validation(Cancel); });
+  subscriptions_ += controls_[TxtDtEind].Validation.Connect([this](bool& Cancel) { TxtDtEind_Validation(Cancel); });
+  subscriptions_ += controls_[txtMaatschappij].Validation.Connect([this](bool&) { txtMaatschappij_Validation(); });
+  subscriptions_ += controls_[txtProductsoort].Validation.Connect([this](bool&) { txtProductsoort_Validation(); });
+  subscriptions_ += controls_[txtProductnaam].Validation.Connect([this](bool&) { txtProductnaam_Validation(); });
+  subscriptions_ += controls_[txtVervaldatum].Validation.Connect([this](bool&) { txtVervaldatum_Validation(); });
 
-  controls_[cboTermijn].Click.Connect([this] { CboTermijn_Click(); });
-  controls_[cboMaatschappij].Click.Connect([this] { cboMaatschappij_Click(); });
-  controls_[cboProductsoort].Click.Connect([this] { cboProductsoort_Click(); });
-  controls_[chkProduct].Click.Connect([this] { chkProduct_Click(); });
-  controls_[cmdScenario].Click.Connect([this] { cmdScenario_Click(); });
-  Toelichting_.Changed.Connect([this] { Toelichting_Changed(); });
+  subscriptions_ += controls_[cboTermijn].Click.Connect([this] { CboTermijn_Click(); });
+  subscriptions_ += controls_[cboMaatschappij].Click.Connect([this] { cboMaatschappij_Click(); });
+  subscriptions_ += controls_[cboProductsoort].Click.Connect([this] { cboProductsoort_Click(); });
+  subscriptions_ += controls_[chkProduct].Click.Connect([this] { chkProduct_Click(); });
+  subscriptions_ += controls_[cmdScenario].Click.Connect([this] { cmdScenario_Click(); });
+  subscriptions_ += Toelichting_.Changed.Connect([this] { Toelichting_Changed(); });
 }
 
 host::Color VrijeKolom::BackColor() const { return surface_.BackColor().value_or(host::kButtonFace); }

@@ -17,12 +17,13 @@ class frmScenario;
 /// The free-column editor: every field of one budget item of a loan, written into the host's record as
 /// soon as it is accepted.
 ///
-/// The surface (made from vrijekolom::kOntwerp) and the toolkit must outlive the control. References to
+/// The surface (made from vrijekolom::kOntwerp) and the toolkit must outlive the control, which stops listening to
+/// them as it ends. References to
 /// the host's objects are held until the control is bound anew or destroyed.
 ///
 ///     auto surface = toolkit.MakeSurface(vrijekolom::kOntwerp);
 ///     VrijeKolom editor(*surface, toolkit, factories);
-///     editor.RefreshTopDisplay.Connect([&](const std::string& text) { ... });
+///     const auto header = editor.RefreshTopDisplay.Connect([&](const std::string& text) { ... });
 ///     editor.SetApplication(application, 0, 1);
 ///     bool cancel = false;
 ///     editor.Validation(cancel);  // cancel: stay on the page
@@ -104,12 +105,20 @@ class VrijeKolom {
   void ControleerEinde(bool& Cancel);
   void Weiger(bool& Cancel, std::string_view titel, std::string_view melding);
   void WerkVoorstellenBij();
-  void Check_FraFiscaal();
 
-  // Term, proposals and scenario
+  // Fiscal options
+  void Check_FraFiscaal();
+  [[nodiscard]] std::int16_t GekozenLast() const;
+  [[nodiscard]] std::int16_t GekozenFiscaal() const;
+
+  // Term
   void CboTermijn_Click();
   void LeegScenario();
+
+  // Proposals
   void ChkVoorstel_Click(std::int16_t Index);
+
+  // Scenario
   void cmdScenario_Click();
   [[nodiscard]] std::int16_t JarenTotLeeftijdsgrens();
 
@@ -162,6 +171,7 @@ class VrijeKolom {
   std::shared_ptr<host::DossierControle> DossierControle_;
   frame::Tracing tracing_;
   brivane::Toelichting Toelichting_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane

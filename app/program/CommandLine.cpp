@@ -1,53 +1,53 @@
 #include "app/program/CommandLine.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-struct Vorm {
-  const char* optie;
-  Opdracht opdracht;
-  int argumenten;
+struct Option {
+  const char* name;
+  Command command;
+  int arguments;
 };
 
-constexpr Vorm kVormen[] = {
-    {"--voorbeeld", Opdracht::Voorbeeld, 1}, {"--sessie", Opdracht::Sessie, 2},
-    {"--help", Opdracht::Help, 0},           {"-h", Opdracht::Help, 0},
-    {"--version", Opdracht::Versie, 0},
+constexpr Option kOptions[] = {
+    {"--voorbeeld", Command::Sample, 1}, {"--sessie", Command::Session, 2},
+    {"--help", Command::Help, 0},        {"-h", Command::Help, 0},
+    {"--version", Command::Version, 0},
 };
 
-Opdrachtregel Fout(const QString& melding) {
-  Opdrachtregel regel;
-  regel.opdracht = Opdracht::Fout;
-  regel.melding = QStringLiteral("dossier: ") + melding + QStringLiteral(" (see dossier --help)");
-  return regel;
+CommandLine Refusal(const QString& message) {
+  CommandLine line;
+  line.command = Command::Error;
+  line.message = QStringLiteral("dossier: ") + message + QStringLiteral(" (see dossier --help)");
+  return line;
 }
 
 }  // namespace
 
-Opdrachtregel LeesOpdrachtregel(const QStringList& argumenten) {
-  Opdrachtregel regel;
-  if (argumenten.isEmpty()) return regel;
-  const QString& eerste = argumenten.first();
-  if (!eerste.startsWith(u'-')) {
-    if (argumenten.size() > 1) return Fout(QStringLiteral("one file at most"));
-    if (eerste.isEmpty()) return Fout(QStringLiteral("the file name is empty"));
-    regel.bestand = eerste;
-    return regel;
+CommandLine ReadCommandLine(const QStringList& arguments) {
+  CommandLine line;
+  if (arguments.isEmpty()) return line;
+  const QString& first = arguments.first();
+  if (!first.startsWith(u'-')) {
+    if (arguments.size() > 1) return Refusal(QStringLiteral("one file at most"));
+    if (first.isEmpty()) return Refusal(QStringLiteral("the file name is empty"));
+    line.file = first;
+    return line;
   }
-  for (const Vorm& vorm : kVormen) {
-    if (eerste != QLatin1String(vorm.optie)) continue;
-    if (argumenten.size() - 1 != vorm.argumenten || argumenten.mid(1).contains(QString())) {
-      return Fout(QStringLiteral("%1 takes %2 argument(s)").arg(eerste).arg(vorm.argumenten));
+  for (const Option& option : kOptions) {
+    if (first != QLatin1String(option.name)) continue;
+    if (arguments.size() - 1 != option.arguments || arguments.mid(1).contains(QString())) {
+      return Refusal(QStringLiteral("%1 takes %2 argument(s)").arg(first).arg(option.arguments));
     }
-    regel.opdracht = vorm.opdracht;
-    if (vorm.argumenten > 0) regel.bestand = argumenten.last();
-    if (vorm.argumenten == 2) regel.uitvoermap = argumenten.at(1);
-    return regel;
+    line.command = option.command;
+    if (option.arguments > 0) line.file = arguments.last();
+    if (option.arguments == 2) line.outputFolder = arguments.at(1);
+    return line;
   }
-  return Fout(QStringLiteral("unknown option '%1'").arg(eerste));
+  return Refusal(QStringLiteral("unknown option '%1'").arg(first));
 }
 
-QString Helptekst() {
+QString HelpText() {
   return QStringLiteral(
       "Usage: dossier [FILE]                  open the window, on FILE or on the file of last time\n"
       "       dossier --voorbeeld FILE        write the sample loan file to FILE\n"
@@ -58,4 +58,4 @@ QString Helptekst() {
       "A loan file is one .dossier file. Exit code: 0 done, 1 failed, 2 wrong arguments.\n");
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

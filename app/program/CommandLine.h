@@ -4,32 +4,32 @@
 #include <QStringList>
 #include <cstdint>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// What the program was asked to do.
-enum class Opdracht : std::uint8_t {
-  Venster,    ///< open the window, on `bestand` where one was named
-  Voorbeeld,  ///< write the sample loan file to `bestand`
-  Sessie,     ///< play the sample session on `bestand`, pictures and transcript into `uitvoermap`
+enum class Command : std::uint8_t {
+  Window,   ///< open the window, on `file` where one was named
+  Sample,   ///< write the sample loan file to `file`
+  Session,  ///< play the sample session on `file`, pictures and transcript into `outputFolder`
   Help,
-  Versie,
-  Fout,  ///< `melding` tells what is wrong, in one line
+  Version,
+  Error,  ///< `message` tells what is wrong, in one line
 };
 
-struct Opdrachtregel {
-  Opdracht opdracht = Opdracht::Venster;
-  QString bestand;
-  QString uitvoermap;
-  QString melding;
+struct CommandLine {
+  Command command = Command::Window;
+  QString file;
+  QString outputFolder;
+  QString message;
 };
 
 /// Exit code for arguments that make no sense.
-inline constexpr int kVerkeerdeArgumenten = 2;
+inline constexpr int kWrongArguments = 2;
 
 /// Reads the arguments that follow the program's name.
-[[nodiscard]] Opdrachtregel LeesOpdrachtregel(const QStringList& argumenten);
+[[nodiscard]] CommandLine ReadCommandLine(const QStringList& arguments);
 
 /// The text of --help.
-[[nodiscard]] QString Helptekst();
+[[nodiscard]] QString HelpText();
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,9 +2,9 @@
 
 #include <QPalette>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// A dark palette for pictures; a person's palette is the system's.
-[[nodiscard]] QPalette DonkerPalet();
+[[nodiscard]] QPalette DarkPalette();
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,15 +2,15 @@
 
 #include <string_view>
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-struct Vertaling {
-  std::string_view engels;
-  const char* nederlands;
+struct Translation {
+  std::string_view english;
+  const char* dutch;
 };
 
-constexpr Vertaling kVertalingen[] = {
+constexpr Translation kTranslations[] = {
     {"OK", "OK"},
     {"&OK", "&OK"},
     {"Cancel", "Annuleren"},
@@ -82,11 +82,11 @@ constexpr Vertaling kVertalingen[] = {
 
 }  // namespace
 
-QString Nederlands::translate(const char*, const char* sourceText, const char*, int) const {
-  for (const Vertaling& vertaling : kVertalingen) {
-    if (vertaling.engels == sourceText) return QString::fromUtf8(vertaling.nederlands);
+QString DutchTranslator::translate(const char*, const char* sourceText, const char*, int) const {
+  for (const Translation& translation : kTranslations) {
+    if (translation.english == sourceText) return QString::fromUtf8(translation.dutch);
   }
   return {};
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,10 +2,10 @@
 
 #include <QTranslator>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Dutch for the texts of Qt's own dialogs, buttons and box menus that this program shows.
-class Nederlands final : public QTranslator {
+class DutchTranslator final : public QTranslator {
  public:
   using QTranslator::QTranslator;
   [[nodiscard]] QString translate(const char* context, const char* sourceText, const char* disambiguation = nullptr,
@@ -13,4 +13,4 @@ class Nederlands final : public QTranslator {
   [[nodiscard]] bool isEmpty() const override { return false; }
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

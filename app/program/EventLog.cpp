@@ -4,51 +4,51 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-Logboek::Logboek(const QString& map, Grenzen grenzen) : map_(map), grenzen_(grenzen) {
-  QDir().mkpath(map_);
+EventLog::EventLog(const QString& folder, Limits limits) : folder_(folder), limits_(limits) {
+  QDir().mkpath(folder_);
   Open();
 }
 
-void Logboek::Schrijf(const QString& regel) {
+void EventLog::Write(const QString& line) {
   const QByteArray bytes =
-      (QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz  ")) + regel + u'\n').toUtf8();
-  if (bestand_.size() > 0 && bestand_.size() + bytes.size() > grenzen_.bytesPerBestand) Draai();
-  if (!bestand_.isOpen()) return;
-  bestand_.write(bytes);
+      (QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz  ")) + line + u'\n').toUtf8();
+  if (file_.size() > 0 && file_.size() + bytes.size() > limits_.bytesPerFile) Rotate();
+  if (!file_.isOpen()) return;
+  file_.write(bytes);
   // What was written before a crash is what the log is for.
-  bestand_.flush();
+  file_.flush();
 }
 
-QString Logboek::Lees() const {
-  QByteArray alles;
-  for (int nummer = grenzen_.bestanden - 1; nummer >= 0; --nummer) {
-    QFile bestand(Naam(nummer));
-    if (bestand.open(QIODevice::ReadOnly)) alles += bestand.readAll();
+QString EventLog::Read() const {
+  QByteArray everything;
+  for (int number = limits_.files - 1; number >= 0; --number) {
+    QFile file(FileName(number));
+    if (file.open(QIODevice::ReadOnly)) everything += file.readAll();
   }
-  return QString::fromUtf8(alles);
+  return QString::fromUtf8(everything);
 }
 
-QString Logboek::Naam(int nummer) const {
-  return nummer == 0 ? QDir(map_).filePath(QStringLiteral("logboek.txt"))
-                     : QDir(map_).filePath(QStringLiteral("logboek.%1.txt").arg(nummer));
+QString EventLog::FileName(int number) const {
+  return number == 0 ? QDir(folder_).filePath(QStringLiteral("logboek.txt"))
+                     : QDir(folder_).filePath(QStringLiteral("logboek.%1.txt").arg(number));
 }
 
-void Logboek::Open() {
-  bestand_.setFileName(Naam(0));
-  bestand_.open(QIODevice::WriteOnly | QIODevice::Append);
+void EventLog::Open() {
+  file_.setFileName(FileName(0));
+  file_.open(QIODevice::WriteOnly | QIODevice::Append);
 }
 
-void Logboek::Draai() {
-  const qint64 vol = bestand_.size();
-  bestand_.close();
+void EventLog::Rotate() {
+  const qint64 full = file_.size();
+  file_.close();
   // Another window may have made room already: then the file under that name is no longer the full one.
-  if (QFileInfo(Naam(0)).size() == vol) {
-    QFile::remove(Naam(grenzen_.bestanden - 1));
-    for (int nummer = grenzen_.bestanden - 1; nummer > 0; --nummer) QFile::rename(Naam(nummer - 1), Naam(nummer));
+  if (QFileInfo(FileName(0)).size() == full) {
+    QFile::remove(FileName(limits_.files - 1));
+    for (int number = limits_.files - 1; number > 0; --number) QFile::rename(FileName(number - 1), FileName(number));
   }
   Open();
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

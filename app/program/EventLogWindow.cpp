@@ -9,35 +9,35 @@
 
 #include "app/program/EventLog.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-Logboekvenster::Logboekvenster(const Logboek& logboek, QWidget* parent) : QDialog(parent) {
+EventLogWindow::EventLogWindow(const EventLog& eventLog, QWidget* parent) : QDialog(parent) {
   setWindowTitle(QStringLiteral("Logboek"));
-  auto* uitleg = new QLabel(QStringLiteral("Wat het onderdeel heeft gedaan en welke fouten er waren. De bestanden "
-                                           "staan in %1.")
-                                .arg(QDir::toNativeSeparators(logboek.Map())));
-  uitleg->setTextFormat(Qt::PlainText);
-  uitleg->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  uitleg->setWordWrap(true);
+  auto* hint = new QLabel(QStringLiteral("Wat het onderdeel heeft gedaan en welke fouten er waren. De bestanden "
+                                         "staan in %1.")
+                              .arg(QDir::toNativeSeparators(eventLog.Folder())));
+  hint->setTextFormat(Qt::PlainText);
+  hint->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  hint->setWordWrap(true);
 
-  auto* tekst = new QPlainTextEdit(logboek.Lees());
-  tekst->setObjectName(QStringLiteral("logboek"));
-  tekst->setAccessibleName(QStringLiteral("Logboek"));
-  tekst->setReadOnly(true);
-  tekst->setLineWrapMode(QPlainTextEdit::NoWrap);
-  tekst->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  tekst->moveCursor(QTextCursor::End);
-  tekst->moveCursor(QTextCursor::StartOfLine);
+  auto* text = new QPlainTextEdit(eventLog.Read());
+  text->setObjectName(QStringLiteral("logboek"));
+  text->setAccessibleName(QStringLiteral("Logboek"));
+  text->setReadOnly(true);
+  text->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  text->moveCursor(QTextCursor::End);
+  text->moveCursor(QTextCursor::StartOfLine);
 
-  auto* knoppen = new QDialogButtonBox(QDialogButtonBox::Close);
-  connect(knoppen, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-  auto* indeling = new QVBoxLayout(this);
-  indeling->addWidget(uitleg);
-  indeling->addWidget(tekst);
-  indeling->addWidget(knoppen);
-  tekst->setFocus();
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(hint);
+  layout->addWidget(text);
+  layout->addWidget(buttons);
+  text->setFocus();
   resize(760, 480);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,14 +2,14 @@
 
 #include <QDialog>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-class Logboek;
+class EventLog;
 
 /// Shows the log, its end first in sight.
-class Logboekvenster final : public QDialog {
+class EventLogWindow final : public QDialog {
  public:
-  Logboekvenster(const Logboek& logboek, QWidget* parent);
+  EventLogWindow(const EventLog& eventLog, QWidget* parent);
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

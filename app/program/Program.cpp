@@ -5,15 +5,15 @@
 
 #include "app/program/DutchTranslator.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-void StelProgrammaIn(QApplication& programma) {
+void SetUpProgram(QApplication& program) {
   QApplication::setOrganizationName(QStringLiteral("Brivane"));
   QApplication::setApplicationName(QStringLiteral("dossier"));
   QApplication::setApplicationDisplayName(QStringLiteral("Dossier"));
   QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
-  QApplication::installTranslator(new Nederlands(&programma));
+  QApplication::installTranslator(new DutchTranslator(&program));
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,9 +2,9 @@
 
 class QApplication;
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Names, version, language and number format of the running program. Style and palette stay the system's.
-void StelProgrammaIn(QApplication& programma);
+void SetUpProgram(QApplication& program);
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -2,240 +2,158 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QMessageBox>
+#include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <stdexcept>
 
-#include "app/program/DarkPalette.h"
-#include "app/program/Transcript.h"
+#include "app/program/MessageBoxes.h"
+#include "app/program/Pictures.h"
+#include "app/program/WindowSubject.h"
 #include "app/screen/MainWindow.h"
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
-#include "scenario/frmScenario.h"
+#include "replay/play/Session.h"
 
-namespace brivane::dossier {
+/// Resources of a library are there once somebody asked for them. The name is looked up in no namespace.
+static void InitResources() { Q_INIT_RESOURCE(program); }
+
+namespace brivane::app {
 namespace {
 
-using controls::Enter;
-
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
-
-/// Closes each box that the window itself shows, and keeps what the first one said: nobody is there to read it.
-class Berichten final : public QObject {
- public:
-  Berichten() { QApplication::instance()->installEventFilter(this); }
-  [[nodiscard]] const QString& Eerste() const { return eerste_; }
-
-  bool eventFilter(QObject* object, QEvent* event) override {
-    auto* bericht = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(object) : nullptr;
-    if (bericht != nullptr) {
-      if (eerste_.isEmpty()) eerste_ = (bericht->text() + u' ' + bericht->informativeText()).simplified();
-      QTimer::singleShot(0, bericht, &QDialog::reject);
-    }
-    return QObject::eventFilter(object, event);
-  }
-
- private:
-  QString eerste_;
+/// A picture, and the step of the session after which it is made.
+struct Moment {
+  const char* step;
+  const char* picture;
 };
 
-/// One session on an open file. A step that is not done as it should ends it with an exception.
-class Sessie {
- public:
-  Sessie(Hoofdvenster& venster, const QDir& map, const Berichten& berichten)
-      : berichten_(berichten),
-        venster_(venster),
-        map_(map),
-        scherm_(*venster.Scherm()),
-        editor_(scherm_.Kolom().Editor()),
-        transcript_(map.filePath(QStringLiteral("transcript.jsonl")), scherm_.Gegevens()) {
-    if (!transcript_.IsOpen()) throw std::runtime_error("cannot write the transcript");
-    editor_.Toolkit().AddListener(transcript_);
-    editor_.Toolkit().Desktop().answer = [this](const std::string& titel, const std::string& tekst,
-                                                host::MessageStyle stijl) { return Antwoord(titel, tekst, stijl); };
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::refreshTopDisplay, &venster_, [this](const QString& tekst) {
-      transcript_.Schrijf({{u"refreshTopDisplay"_qs, tekst}});
-    });
-    QObject::connect(&editor_, &qt::VrijeKolomWidget::heightChanged, &venster_, [this] {
-      transcript_.Schrijf({{u"heightChanged"_qs, editor_.sizeHint().height()}});
-    });
-    QObject::connect(&scherm_, &Dossierscherm::opgeslagen, &venster_, [this] { transcript_.Opgeslagen(); });
-  }
-  ~Sessie() {
-    // A session that came to its end has closed the file, and the editor with it.
-    if (venster_.Scherm() == nullptr) return;
-    editor_.Toolkit().RemoveListener(transcript_);
-    editor_.Toolkit().Desktop().answer = nullptr;
-    editor_.disconnect(&venster_);
-    scherm_.disconnect(&venster_);
-  }
-  Sessie(const Sessie&) = delete;
-  Sessie& operator=(const Sessie&) = delete;
+constexpr Moment kMoments[] = {
+    {"10", "recurring-cost"}, {"13", "newspaper"}, {"17", "death-transition"}, {"19.4", "scenario"}};
 
-  void Speel() {
-    TerugkerendeLast();
-    Krant();
-    Overlijden();
-    NieuweKolom();
-    Scenario();
-    ZonderPartner();
+/// The column that the session fills in first.
+constexpr Place kAdded{0, 8};
+/// A column of whose amount a part goes over to the partner on death.
+constexpr Place kToPartner{0, 3};
+
+void Must(bool done, const QString& what) {
+  if (!done) throw std::runtime_error("not done: " + what.toStdString());
+}
+
+/// What a step acts on.
+std::string NameOf(const replay::Step& step) {
+  const auto* act = std::get_if<replay::ActStep>(&step.what);
+  return act != nullptr ? act->control : step.name;
+}
+
+/// The session in a window of its own. What is not done as it should ends it with an exception.
+class Showing {
+ public:
+  Showing(const QDir& folder, const QString& log)
+      : folder_(folder),
+        transcript_(folder.filePath(QStringLiteral("transcript.jsonl"))),
+        eventLog_(log),
+        window_(eventLog_) {
+    if (!transcript_.open(QIODevice::WriteOnly | QIODevice::Truncate))
+      throw std::runtime_error("cannot write the transcript");
+    // Pictures are alike on every machine, whatever its screen.
+    window_.resize(MainWindow::kFirstSize);
+    window_.show();
+  }
+
+  void Play(const QString& path) {
+    Open(path);
+    if (!Dossier().ZoekKolom(kAdded.Len_Id, *kAdded.Vrij_Id)) Must(window_.Screen()->AddKolom(), "adding a column");
+    playing_ = true;
+    session_->Run();
+    playing_ = false;
+    if (!problem_.empty()) throw std::runtime_error(problem_);
+    Must(pictures_ == std::size(kMoments), "every picture");
+    TakePartnerOut();
+    Must(window_.CloseDossier(), "closing the file");
   }
 
  private:
-  static void Moet(bool gedaan, const std::string& wat) {
-    if (!gedaan) throw std::runtime_error("not done: " + wat);
+  [[nodiscard]] dossier::Dossier& Dossier() { return window_.Screen()->Dossier(); }
+
+  /// Shows the file, with the session between its editor and its host.
+  void Open(const QString& path) {
+    std::unique_ptr<dossier::DossierFile> file = dossier::DossierFile::Open(path);
+    window_.instrument = [this, dossier = file->Dossier()](EditorHost host) {
+      const auto make = [this](const replay::Document& document, replay::InstrumentedHost&,
+                               replay::Audience& audience) {
+        return MakeWindowSubject(*window_.Screen(), document, audience);
+      };
+      session_ = std::make_unique<replay::Session>(
+          document_, [this](std::string_view line) { Note(line); },
+          replay::LiveHost{dossier, std::move(host.application), std::move(host.factories)}, make);
+      session_->stepped = [this](const std::string& number, const replay::Step& step) { return After(number, step); };
+      return EditorHost{session_->Host().Application(), session_->Host().Factories()};
+    };
+    window_.Show(std::move(file));
   }
 
-  void TerugkerendeLast() {
-    GaNaar({0, 1});
-    Doe("TxtDtAanvang", Enter{Datum(1, 9, 2025)});
-    Doe("TxtAnJaar", Enter{9.0});
-    Doe("TxtAnMaand", Enter{14.0});
-    Doe("TxtBd", Enter{512.75});
-    Beeld("recurring-cost");
+  void Note(std::string_view line) {
+    if (!playing_) return;
+    transcript_.write(line.data(), static_cast<qint64>(line.size()));
+    transcript_.write("\n");
+    transcript_.flush();
+    if (problem_.empty() && (line.starts_with("{\"failed\"") || line.starts_with("{\"ignored\"")))
+      problem_ = "not done: " + std::string(line);
   }
 
-  void Krant() {
-    GaNaar({0, 2});
-    Doe("txtProductnaam", Enter{std::string("De Maasbode, dagelijks")});
-    Doe("txtVervaldatum", Enter{Datum(30, 6, 2029)});
-    Beeld("newspaper");
-  }
-
-  void Overlijden() {
-    GaNaar({0, 3});
-    Doe("Toelichting.jnOverlijden", controls::Toggle{host::kJa});
-    Doe("Toelichting.TxtPcOvergang", Enter{62.5});
-    Doe("Toelichting.txtEinddatum", Enter{Datum(1, 3, 2049)});
-    Beeld("death-transition");
-  }
-
-  /// Left too early it is refused: a column needs a start date.
-  void NieuweKolom() {
-    Moet(scherm_.VoegToe(), "adding a column");
+  replay::Onward After(const std::string& number, const replay::Step& step) {
     QApplication::processEvents();
-    const Plek nieuw = scherm_.Getoond();
-    Doe("TxtOm", Enter{std::string("Contributie fotoclub")});
-    Doe("TxtBd", Enter{27.5});
-    Moet(!scherm_.GaNaar({0, 1}), "refusing to leave a column without a start date");
-    Doe("TxtDtAanvang", Enter{Datum(1, 1, 2027)});
-    Moet(scherm_.Getoond() == nieuw, "staying in the column");
+    if (!boxes_.First().isEmpty()) problem_ = NameOf(step) + " was answered: " + boxes_.First().toStdString();
+    for (const Moment& moment : kMoments)
+      if (problem_.empty() && number == moment.step) Picture(moment.picture);
+    return problem_.empty() ? replay::Onward::GoOn : replay::Onward::Stop;
   }
 
-  void Scenario() {
-    GaNaar({0, 5});
-    // The form runs an event loop of its own, in which the timer goes off.
-    QTimer straks;
-    straks.setSingleShot(true);
-    bool gevuld = false;
-    scherm_.Scenario().Geopend.Connect([&](frmScenario& formulier) {
-      QObject::connect(&straks, &QTimer::timeout, &venster_, [&] {
-        VulScenario(formulier);
-        gevuld = true;
-      });
-      straks.start(100);
-    });
-    Doe("cmdScenario", controls::Press{});
-    scherm_.Scenario().Geopend.Disconnect();
-    if (!fout_.empty()) throw std::runtime_error(fout_);
-    Moet(gevuld, "showing the year-by-year form");
+  void Picture(const char* name) {
+    QWidget* form = QApplication::activeModalWidget();
+    if (TakePictures(form != nullptr ? *form : window_, folder_, QLatin1String(name)))
+      ++pictures_;
+    else
+      problem_ = std::string("not done: writing picture ") + name;
   }
 
-  /// The partner taken out of the case, on the column that goes over to a partner on death.
-  void ZonderPartner() {
-    const std::vector<PersoonGegevens> aanvrager = {scherm_.Gegevens().Personen().front()};
-    Moet(scherm_.SetClient(aanvrager, scherm_.Gegevens().Leeftijd()), "taking the partner out of the case");
-    GaNaar({0, 3});
-    Beeld("without-partner");
+  void TakePartnerOut() {
+    const std::vector<dossier::PersoonGegevens> aanvrager = {Dossier().Personen().front()};
+    Must(window_.Screen()->SetClient(aanvrager, Dossier().Leeftijd()), "taking the partner out of the case");
+    Must(window_.Screen()->GoTo(kToPartner), "going to the column with a transition");
+    Must(TakePictures(window_, folder_, QStringLiteral("without-partner")), "writing picture without-partner");
   }
 
-  void VulScenario(frmScenario& formulier) {
-    controls::Surface& vlak = controls::Surface::Of(formulier.Form());
-    try {
-      Doe(vlak, "txtBedrag", 1, Enter{6250.0});
-      Doe(vlak, "txtBedrag", 4, Enter{7000.0});
-      Doe(vlak, "chkAanvullen", frame::kNoIndex, controls::Tick{host::kTicked});
-      Doe(vlak, "txtBedrag", 8, Enter{8250.0});
-      Beeld("scenario", QApplication::activeModalWidget());
-      Doe(vlak, "cmdOK", frame::kNoIndex, controls::Press{});
-    } catch (const std::runtime_error& fout) {
-      fout_ = fout.what();
-      static_cast<void>(vlak.Perform(controls::Close{}));
-    }
-  }
-
-  void GaNaar(const Plek& plek) {
-    Moet(scherm_.GaNaar(plek), "going to column " + std::to_string(*plek.Vrij_Id));
-    transcript_.Schrijf({{u"column"_qs, *plek.Vrij_Id}, {u"loan"_qs, plek.Len_Id}});
-  }
-
-  void Doe(const char* naam, const controls::Action& actie) {
-    Doe(controls::Surface::Of(editor_.Surface()), naam, frame::kNoIndex, actie);
-  }
-
-  void Doe(controls::Surface& vlak, const char* naam, int index, const controls::Action& actie) {
-    controls::AnyControl* control = vlak.Find(naam, index);
-    Moet(control != nullptr && control->Perform(actie) == controls::Outcome::Done, naam);
-    QApplication::processEvents();
-    if (!berichten_.Eerste().isEmpty())
-      throw std::runtime_error(std::string(naam) + " was answered: " + berichten_.Eerste().toStdString());
-  }
-
-  host::MessageAnswer Antwoord(const std::string& titel, const std::string& tekst, host::MessageStyle stijl) {
-    const bool vraag = stijl == host::MessageStyle::YesNoQuestion;
-    transcript_.Schrijf({{u"message"_qs, QString::fromStdString(tekst)},
-                         {u"title"_qs, QString::fromStdString(titel)},
-                         {u"answer"_qs, vraag ? u"Nee"_qs : u"OK"_qs}});
-    return vraag ? host::MessageAnswer::No : host::MessageAnswer::Ok;
-  }
-
-  void Beeld(const char* naam) { Beeld(naam, &venster_); }
-  void Beeld(const char* naam, QWidget* wat) {
-    Moet(wat != nullptr, naam);
-    const QPalette licht = QApplication::palette();
-    Leg(wat, QLatin1String(naam) + QStringLiteral("-light.png"));
-    QApplication::setPalette(DonkerPalet());
-    Leg(wat, QLatin1String(naam) + QStringLiteral("-dark.png"));
-    QApplication::setPalette(licht);
-  }
-
-  void Leg(QWidget* wat, const QString& naam) {
-    QApplication::processEvents();
-    Moet(wat->grab().save(map_.filePath(naam)), "writing " + naam.toStdString());
-    transcript_.Schrijf({{u"picture"_qs, naam}});
-  }
-
-  const Berichten& berichten_;
-  Hoofdvenster& venster_;
-  QDir map_;
-  Dossierscherm& scherm_;
-  qt::VrijeKolomWidget& editor_;
-  Transcript transcript_;
-  std::string fout_;
+  const replay::Document document_ = ReadSampleSession();
+  const MessageBoxes boxes_;
+  QDir folder_;
+  QFile transcript_;
+  bool playing_ = false;
+  std::size_t pictures_ = 0;
+  std::string problem_;
+  /// Outlives the window, whose editor holds the objects that it handed out.
+  std::unique_ptr<replay::Session> session_;
+  EventLog eventLog_;
+  MainWindow window_;
 };
 
 }  // namespace
 
-QString SpeelSessie(const QString& uitvoermap, const QString& bestand) {
-  const QTemporaryDir terzijde;
-  if (!QDir().mkpath(uitvoermap)) return QStringLiteral("cannot make the folder '%1'").arg(uitvoermap);
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, terzijde.path());
-  Logboek logboek(terzijde.filePath(QStringLiteral("logboek")));
-  const Berichten berichten;
-  Hoofdvenster venster(logboek);
-  // Pictures are alike on every machine, whatever its screen.
-  venster.resize(Hoofdvenster::kEersteMaat);
-  venster.show();
+replay::Document ReadSampleSession() {
+  InitResources();
+  QFile file(QStringLiteral(":/sample-session.json"));
+  Must(file.open(QIODevice::ReadOnly), file.fileName());
+  return replay::ReadDocument(file.readAll().toStdString());
+}
+
+QString PlaySampleSession(const QString& outputFolder, const QString& file) {
+  const QTemporaryDir aside;
+  if (!QDir().mkpath(outputFolder)) return QStringLiteral("cannot make the folder '%1'").arg(outputFolder);
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, aside.path());
   try {
-    venster.Toon(DossierBestand::Open(bestand));
-    Sessie(venster, QDir(uitvoermap), berichten).Speel();
-    if (!venster.SluitDossier()) return QStringLiteral("not done: closing the file");
-  } catch (const std::exception& fout) {
-    return QString::fromUtf8(fout.what());
+    Showing(QDir(outputFolder), aside.filePath(QStringLiteral("logboek"))).Play(file);
+  } catch (const std::exception& error) {
+    return QString::fromUtf8(error.what());
   }
   return {};
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

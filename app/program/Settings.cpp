@@ -4,29 +4,29 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr char kVensterplaats[] = "venster/plaats";
-constexpr char kVerdeling[] = "venster/verdeling";
-constexpr char kLaatsteBestand[] = "laatsteBestand";
+constexpr char kWindowPlace[] = "venster/plaats";
+constexpr char kSplit[] = "venster/verdeling";
+constexpr char kLastFile[] = "laatsteBestand";
 
-QVariant Lees(const char* sleutel) { return QSettings().value(QLatin1String(sleutel)); }
-void Schrijf(const char* sleutel, const QVariant& waarde) { QSettings().setValue(QLatin1String(sleutel), waarde); }
+QVariant Read(const char* key) { return QSettings().value(QLatin1String(key)); }
+void Write(const char* key, const QVariant& value) { QSettings().setValue(QLatin1String(key), value); }
 
 }  // namespace
 
-QByteArray Instellingen::Vensterplaats() { return Lees(kVensterplaats).toByteArray(); }
-void Instellingen::SetVensterplaats(const QByteArray& plaats) { Schrijf(kVensterplaats, plaats); }
-QByteArray Instellingen::Verdeling() { return Lees(kVerdeling).toByteArray(); }
-void Instellingen::SetVerdeling(const QByteArray& verdeling) { Schrijf(kVerdeling, verdeling); }
-QString Instellingen::LaatsteBestand() { return Lees(kLaatsteBestand).toString(); }
-void Instellingen::SetLaatsteBestand(const QString& bestand) { Schrijf(kLaatsteBestand, bestand); }
+QByteArray Settings::WindowPlace() { return Read(kWindowPlace).toByteArray(); }
+void Settings::SetWindowPlace(const QByteArray& place) { Write(kWindowPlace, place); }
+QByteArray Settings::Split() { return Read(kSplit).toByteArray(); }
+void Settings::SetSplit(const QByteArray& split) { Write(kSplit, split); }
+QString Settings::LastFile() { return Read(kLastFile).toString(); }
+void Settings::SetLastFile(const QString& file) { Write(kLastFile, file); }
 
-QString Instellingen::Map() {
-  const QString laatste = LaatsteBestand();
-  return laatste.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                           : QFileInfo(laatste).absolutePath();
+QString Settings::Folder() {
+  const QString last = LastFile();
+  return last.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                        : QFileInfo(last).absolutePath();
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -3,23 +3,23 @@
 #include <QByteArray>
 #include <QString>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// What the window remembers between two sessions, for this user on this machine.
 ///
 /// Stands under the organisation and application names of the running program.
-class Instellingen {
+class Settings {
  public:
-  [[nodiscard]] static QByteArray Vensterplaats();
-  static void SetVensterplaats(const QByteArray& plaats);
+  [[nodiscard]] static QByteArray WindowPlace();
+  static void SetWindowPlace(const QByteArray& place);
   /// Place of the splitter between tree and editor.
-  [[nodiscard]] static QByteArray Verdeling();
-  static void SetVerdeling(const QByteArray& verdeling);
+  [[nodiscard]] static QByteArray Split();
+  static void SetSplit(const QByteArray& split);
   /// Full path, empty when there is none.
-  [[nodiscard]] static QString LaatsteBestand();
-  static void SetLaatsteBestand(const QString& bestand);
+  [[nodiscard]] static QString LastFile();
+  static void SetLastFile(const QString& file);
   /// Folder in which the file dialogs start.
-  [[nodiscard]] static QString Map();
+  [[nodiscard]] static QString Folder();
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -4,11 +4,11 @@
 
 #include "frame/Calendar.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-host::Date Vandaag() {
-  const QDate vandaag = QDate::currentDate();
-  return frame::MakeDate({.year = vandaag.year(), .month = vandaag.month(), .day = vandaag.day()});
+host::Date Today() {
+  const QDate today = QDate::currentDate();
+  return frame::MakeDate({.year = today.year(), .month = today.month(), .day = today.day()});
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

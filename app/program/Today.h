@@ -2,9 +2,9 @@
 
 #include "host/Date.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Today's date on this machine.
-[[nodiscard]] host::Date Vandaag();
+[[nodiscard]] host::Date Today();
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

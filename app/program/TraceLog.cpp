@@ -2,35 +2,35 @@
 
 #include <algorithm>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-void Traceerlog::Entered(std::string_view control, std::string_view procedure) {
-  Schrijf(control, "> ", procedure);
-  lopend_.emplace_back(procedure);
+void TraceLog::Entered(std::string_view control, std::string_view procedure) {
+  Write(control, "> ", procedure);
+  running_.emplace_back(procedure);
 }
 
-void Traceerlog::Left(std::string_view control) {
-  if (lopend_.empty()) return;
-  const std::string procedure = std::move(lopend_.back());
-  lopend_.pop_back();
-  Schrijf(control, "< ", procedure);
+void TraceLog::Left(std::string_view control) {
+  if (running_.empty()) return;
+  const std::string procedure = std::move(running_.back());
+  running_.pop_back();
+  Write(control, "< ", procedure);
 }
 
-void Traceerlog::Failed(std::string_view control, std::string_view procedure) {
-  const auto plaats = std::find(lopend_.rbegin(), lopend_.rend(), procedure);
-  if (plaats != lopend_.rend()) lopend_.erase(plaats.base() - 1, lopend_.end());
-  Schrijf(control, "! ", procedure);
+void TraceLog::Failed(std::string_view control, std::string_view procedure) {
+  const auto position = std::find(running_.rbegin(), running_.rend(), procedure);
+  if (position != running_.rend()) running_.erase(position.base() - 1, running_.end());
+  Write(control, "! ", procedure);
 }
 
-void Traceerlog::Schrijf(std::string_view control, std::string_view teken, std::string_view procedure) {
-  std::string regel(2 * lopend_.size(), ' ');
-  regel.append(teken).append(procedure).append("  (").append(control).append(")");
-  logboek_.Schrijf(QString::fromStdString(regel));
+void TraceLog::Write(std::string_view control, std::string_view mark, std::string_view procedure) {
+  std::string line(2 * running_.size(), ' ');
+  line.append(mark).append(procedure).append("  (").append(control).append(")");
+  eventLog_.Write(QString::fromStdString(line));
 }
 
-void SchrijfFout(Logboek& logboek, const Foutrecord& fout) {
-  logboek.Schrijf(QString::fromStdString("FOUT " + fout.ErrorNumber + " in " + fout.ObjectName + ", bron " +
-                                         fout.ErrorSource + ": " + fout.ErrorDescription));
+void WriteError(EventLog& eventLog, const host::ErrorRecord& error) {
+  eventLog.Write(QString::fromStdString("FOUT " + error.ErrorNumber + " in " + error.ObjectName + ", bron " +
+                                        error.ErrorSource + ": " + error.ErrorDescription));
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

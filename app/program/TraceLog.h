@@ -7,13 +7,13 @@
 #include "app/program/EventLog.h"
 #include "dossier/store/StoreTrace.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Writes what the controls' tracers are told into the log, nested procedures indented.
-class Traceerlog final : public TraceListener {
+class TraceLog final : public dossier::TraceListener {
  public:
-  /// `logboek` outlives this object.
-  explicit Traceerlog(Logboek& logboek) : logboek_(logboek) {}
+  /// `eventLog` outlives this object.
+  explicit TraceLog(EventLog& eventLog) : eventLog_(eventLog) {}
 
   void Entered(std::string_view control, std::string_view procedure) override;
   void Left(std::string_view control) override;
@@ -21,13 +21,13 @@ class Traceerlog final : public TraceListener {
   void Failed(std::string_view control, std::string_view procedure) override;
 
  private:
-  void Schrijf(std::string_view control, std::string_view teken, std::string_view procedure);
+  void Write(std::string_view control, std::string_view mark, std::string_view procedure);
 
-  Logboek& logboek_;
-  std::vector<std::string> lopend_;
+  EventLog& eventLog_;
+  std::vector<std::string> running_;
 };
 
 /// The line that a filled error record gets in the log.
-void SchrijfFout(Logboek& logboek, const Foutrecord& fout);
+void WriteError(EventLog& eventLog, const host::ErrorRecord& error);
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

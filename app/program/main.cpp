@@ -11,60 +11,61 @@
 
 namespace {
 
-using namespace brivane::dossier;
+using namespace brivane::app;
+namespace dossier = brivane::dossier;
 
-constexpr int kMislukt = 1;
+constexpr int kFailed = 1;
 
-int MaakVoorbeeld(const QString& bestand) {
+int MakeSample(const QString& file) {
   try {
-    DossierBestand::Maak(bestand, VoorbeeldDossier());
-  } catch (const OpeningError& fout) {
-    std::fprintf(stderr, "dossier: cannot write the sample file: %s\n", qUtf8Printable(fout.Melding()));
-    return kMislukt;
+    dossier::DossierFile::Maak(file, dossier::VoorbeeldDossier());
+  } catch (const dossier::OpeningError& error) {
+    std::fprintf(stderr, "dossier: cannot write the sample file: %s\n", qUtf8Printable(error.Melding()));
+    return kFailed;
   }
   return 0;
 }
 
-int Speel(const Opdrachtregel& regel) {
-  const QString fout = SpeelSessie(regel.uitvoermap, regel.bestand);
-  if (fout.isEmpty()) return 0;
-  std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(fout));
-  return kMislukt;
+int PlaySession(const CommandLine& line) {
+  const QString error = PlaySampleSession(line.outputFolder, line.file);
+  if (error.isEmpty()) return 0;
+  std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(error));
+  return kFailed;
 }
 
-int ToonVenster(const QString& bestand) {
-  Logboek logboek(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-  Hoofdvenster venster(logboek);
-  venster.show();
-  if (!bestand.isEmpty()) {
-    venster.Open(bestand);
-  } else if (const QString laatste = Instellingen::LaatsteBestand(); QFile::exists(laatste)) {
-    venster.Open(laatste);
+int ShowWindow(const QString& file) {
+  EventLog eventLog(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+  MainWindow window(eventLog);
+  window.show();
+  if (!file.isEmpty()) {
+    window.Open(file);
+  } else if (const QString last = Settings::LastFile(); QFile::exists(last)) {
+    window.Open(last);
   }
   return QApplication::exec();
 }
 
 }  // namespace
 
-int main(int aantal, char** argumenten) {
-  QStringList lijst;
-  for (int nummer = 1; nummer < aantal; ++nummer) lijst << QFile::decodeName(argumenten[nummer]);
-  const Opdrachtregel regel = LeesOpdrachtregel(lijst);
-  switch (regel.opdracht) {
-    case Opdracht::Help: std::fputs(qUtf8Printable(Helptekst()), stdout); return 0;
-    case Opdracht::Versie: std::puts("dossier " BRIVANE_VERSION); return 0;
-    case Opdracht::Fout: std::fprintf(stderr, "%s\n", qUtf8Printable(regel.melding)); return kVerkeerdeArgumenten;
-    case Opdracht::Voorbeeld:
-    case Opdracht::Sessie:
-    case Opdracht::Venster: break;
+int main(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QFile::decodeName(argv[i]);
+  const CommandLine line = ReadCommandLine(arguments);
+  switch (line.command) {
+    case Command::Help: std::fputs(qUtf8Printable(HelpText()), stdout); return 0;
+    case Command::Version: std::puts("dossier " BRIVANE_VERSION); return 0;
+    case Command::Error: std::fprintf(stderr, "%s\n", qUtf8Printable(line.message)); return kWrongArguments;
+    case Command::Sample:
+    case Command::Session:
+    case Command::Window: break;
   }
-  if (regel.opdracht == Opdracht::Voorbeeld) {
-    QCoreApplication programma(aantal, argumenten);
-    return MaakVoorbeeld(regel.bestand);
+  if (line.command == Command::Sample) {
+    QCoreApplication program(argc, argv);
+    return MakeSample(line.file);
   }
-  if (regel.opdracht == Opdracht::Sessie) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication programma(aantal, argumenten);
-  StelProgrammaIn(programma);
-  if (regel.opdracht == Opdracht::Sessie) return Speel(regel);
-  return ToonVenster(regel.bestand);
+  if (line.command == Command::Session) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication program(argc, argv);
+  SetUpProgram(program);
+  if (line.command == Command::Session) return PlaySession(line);
+  return ShowWindow(line.file);
 }

@@ -7,44 +7,44 @@
 #include "controls/Surface.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-void Opname::Begin(std::shared_ptr<const Dossier> dossier, qt::VrijeKolomWidget& editor) {
-  if (gekozen_.isEmpty()) return;
-  pad_ = std::exchange(gekozen_, QString());
+void Recording::Begin(std::shared_ptr<const dossier::Dossier> dossier, qt::VrijeKolomWidget& editor) {
+  if (chosen_.isEmpty()) return;
+  path_ = std::exchange(chosen_, QString());
   editor_ = &editor;
-  opnemer_ = std::make_unique<Opnemer>(std::move(dossier), controls::Surface::Of(editor.Surface()),
-                                       QLocale().name().toStdString());
-  opnemer_->gebroken = [this] {
-    if (gebroken) gebroken();
+  recorder_ = std::make_unique<Recorder>(std::move(dossier), controls::Surface::Of(editor.Surface()),
+                                         QLocale().name().toStdString());
+  recorder_->broken = [this] {
+    if (broken) broken();
   };
-  editor.Toolkit().Desktop().answered = [this](host::MessageAnswer antwoord) { opnemer_->Beantwoord(antwoord); };
+  editor.Toolkit().Desktop().answered = [this](host::MessageAnswer answer) { recorder_->Answered(answer); };
 }
 
-void Opname::Doe(Hostdaad daad, const std::function<void()>& uitvoering) {
-  if (opnemer_)
-    opnemer_->Doe(std::move(daad), uitvoering);
+void Recording::Do(HostAct act, const std::function<void()>& body) {
+  if (recorder_)
+    recorder_->Do(std::move(act), body);
   else
-    uitvoering();
+    body();
 }
 
-void Opname::Breek() {
-  if (opnemer_) opnemer_->Breek();
+void Recording::Break() {
+  if (recorder_) recorder_->Break();
 }
 
-bool Opname::Stop() {
-  if (!Loopt()) return true;
+bool Recording::Stop() {
+  if (!IsRunning()) return true;
   // The recorder stays until the editor goes: a step may be running that will tell it so.
-  opnemer_->Stop();
-  QSaveFile bestand(std::exchange(pad_, QString()));
-  const QByteArray tekst = QByteArray::fromStdString(replay::WriteDocument(opnemer_->Document()));
-  return bestand.open(QIODevice::WriteOnly) && bestand.write(tekst) == tekst.size() && bestand.commit();
+  recorder_->Stop();
+  QSaveFile file(std::exchange(path_, QString()));
+  const QByteArray text = QByteArray::fromStdString(replay::WriteDocument(recorder_->Document()));
+  return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
 }
 
-void Opname::LaatLos() {
-  if (!opnemer_) return;
+void Recording::LetGo() {
+  if (!recorder_) return;
   editor_->Toolkit().Desktop().answered = nullptr;
-  opnemer_.reset();
+  recorder_.reset();
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

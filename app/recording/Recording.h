@@ -10,44 +10,44 @@ namespace brivane::qt {
 class VrijeKolomWidget;
 }
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// A recording of what is done to the editor of a loan file, kept in a file that the adviser named.
 ///
-///     opname.Kies(pad);          // the next editor that is made will be recorded
+///     recording.Choose(path);          // the next editor that is made will be recorded
 ///     ...                        // open the loan file anew
-///     opname.Stop();             // writes it
-///     opname.LaatLos();          // before the editor goes
-class Opname {
+///     recording.Stop();             // writes it
+///     recording.LetGo();          // before the editor goes
+class Recording {
  public:
   /// Records the next editor into this file.
-  void Kies(const QString& pad) { gekozen_ = pad; }
+  void Choose(const QString& path) { chosen_ = path; }
   /// No editor was made after all.
-  void Vergeet() { gekozen_.clear(); }
+  void Forget() { chosen_.clear(); }
 
   /// An editor was made, and has no control behind it yet.
-  void Begin(std::shared_ptr<const Dossier> dossier, qt::VrijeKolomWidget& editor);
+  void Begin(std::shared_ptr<const dossier::Dossier> dossier, qt::VrijeKolomWidget& editor);
   /// Runs what the host does to the editor, as a step where a recording runs.
-  void Doe(Hostdaad daad, const std::function<void()>& uitvoering);
+  void Do(HostAct act, const std::function<void()>& body);
   /// What follows cannot be replayed.
-  void Breek();
+  void Break();
   /// Ends the recording and writes the file, also after it was broken off. Answers whether it was written.
   bool Stop();
   /// The editor is about to go.
-  void LaatLos();
+  void LetGo();
 
   /// There is a recording that Stop has not written yet.
-  [[nodiscard]] bool Loopt() const { return !pad_.isEmpty(); }
-  [[nodiscard]] const QString& Pad() const { return pad_; }
+  [[nodiscard]] bool IsRunning() const { return !path_.isEmpty(); }
+  [[nodiscard]] const QString& Path() const { return path_; }
 
   /// The recording was broken off: the host should stop it, later.
-  std::function<void()> gebroken;
+  std::function<void()> broken;
 
  private:
-  QString gekozen_;
-  QString pad_;
+  QString chosen_;
+  QString path_;
   qt::VrijeKolomWidget* editor_ = nullptr;
-  std::unique_ptr<Opnemer> opnemer_;
+  std::unique_ptr<Recorder> recorder_;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

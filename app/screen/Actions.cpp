@@ -7,99 +7,99 @@
 #include <QToolBar>
 #include <QToolButton>
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-QAction* Maak(QMainWindow& venster, const char* tekst, const QKeySequence& toets = {}) {
-  auto* actie = new QAction(QString::fromUtf8(tekst), &venster);
-  actie->setShortcut(toets);
-  return actie;
+QAction* MakeAction(QMainWindow& window, const char* text, const QKeySequence& key = {}) {
+  auto* action = new QAction(QString::fromUtf8(text), &window);
+  action->setShortcut(key);
+  return action;
 }
 
-QToolButton* MenuKnop(const QString& tekst, QMenu* menu) {
-  auto* knop = new QToolButton;
-  knop->setText(tekst);
-  knop->setMenu(menu);
-  knop->setPopupMode(QToolButton::InstantPopup);
-  QObject::connect(menu->menuAction(), &QAction::changed, knop,
-                   [knop, menu] { knop->setEnabled(menu->menuAction()->isEnabled()); });
-  return knop;
+QToolButton* MenuButton(const QString& text, QMenu* menu) {
+  auto* button = new QToolButton;
+  button->setText(text);
+  button->setMenu(menu);
+  button->setPopupMode(QToolButton::InstantPopup);
+  QObject::connect(menu->menuAction(), &QAction::changed, button,
+                   [button, menu] { button->setEnabled(menu->menuAction()->isEnabled()); });
+  return button;
 }
 
 }  // namespace
 
-Acties::Acties(QMainWindow& venster)
-    : nieuw(Maak(venster, "&Nieuw dossier…", QKeySequence::New)),
-      openen(Maak(venster, "&Openen…", QKeySequence::Open)),
-      voorbeeld(Maak(venster, "&Voorbeeld")),
-      sluiten(Maak(venster, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
-      afsluiten(Maak(venster, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
-      toevoegen(Maak(venster, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
-      dupliceren(Maak(venster, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
-      verwijderen(Maak(venster, "Ve&rwijderen…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
-      verplaatsen(new QMenu(QStringLiteral("&Verplaatsen naar"), &venster)),
-      afwijking(new QMenu(QStringLiteral("&Afwijking maken in"), &venster)),
-      verplaatsenMetToets(Maak(venster, "Verplaatsen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
-      vorige(Maak(venster, "V&orige kolom", QKeySequence(Qt::CTRL | Qt::Key_PageUp))),
-      volgende(Maak(venster, "Vol&gende kolom", QKeySequence(Qt::CTRL | Qt::Key_PageDown))),
-      boomOfKolom(Maak(venster, "Naar &lijst of kolom", QKeySequence(Qt::Key_F6))),
-      client(Maak(venster, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
-      leningToevoegen(Maak(venster, "&Lening toevoegen…")),
-      controleren(Maak(venster, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
-      opnemen(Maak(venster, "Op&nemen…")),
-      logboek(Maak(venster, "&Logboek…")),
-      over(Maak(venster, "&Over Dossier…")) {
-  opnemen->setCheckable(true);
-  QObject::connect(opnemen, &QAction::toggled, opnemen, [opnemen = opnemen](bool loopt) {
-    opnemen->setText(loopt ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));
+Actions::Actions(QMainWindow& window)
+    : create(MakeAction(window, "&Nieuw dossier…", QKeySequence::New)),
+      open(MakeAction(window, "&Openen…", QKeySequence::Open)),
+      sample(MakeAction(window, "&Voorbeeld")),
+      close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
+      quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
+      add(MakeAction(window, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
+      duplicate(MakeAction(window, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
+      remove(MakeAction(window, "Ve&rwijderen…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
+      move(new QMenu(QStringLiteral("&Verplaatsen naar"), &window)),
+      afwijking(new QMenu(QStringLiteral("&Afwijking maken in"), &window)),
+      moveByKey(MakeAction(window, "Verplaatsen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
+      previous(MakeAction(window, "V&orige kolom", QKeySequence(Qt::CTRL | Qt::Key_PageUp))),
+      next(MakeAction(window, "Vol&gende kolom", QKeySequence(Qt::CTRL | Qt::Key_PageDown))),
+      treeOrKolom(MakeAction(window, "Naar &lijst of kolom", QKeySequence(Qt::Key_F6))),
+      client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
+      addLening(MakeAction(window, "&Lening toevoegen…")),
+      check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
+      record(MakeAction(window, "Op&nemen…")),
+      eventLog(MakeAction(window, "&Logboek…")),
+      about(MakeAction(window, "&Over Dossier…")) {
+  record->setCheckable(true);
+  QObject::connect(record, &QAction::toggled, record, [record = record](bool running) {
+    record->setText(running ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));
   });
   // The toolbar has no menu title before it.
-  toevoegen->setIconText(QStringLiteral("Kolom toevoegen"));
-  nieuw->setIconText(QStringLiteral("Nieuw"));
-  controleren->setIconText(QStringLiteral("Controleren"));
+  add->setIconText(QStringLiteral("Kolom toevoegen"));
+  create->setIconText(QStringLiteral("Nieuw"));
+  check->setIconText(QStringLiteral("Controleren"));
 
-  QMenu* bestand = venster.menuBar()->addMenu(QStringLiteral("Bes&tand"));
-  bestand->addActions({nieuw, openen, voorbeeld});
-  bestand->addSeparator();
-  bestand->addActions({sluiten, afsluiten});
+  QMenu* fileMenu = window.menuBar()->addMenu(QStringLiteral("Bes&tand"));
+  fileMenu->addActions({create, open, sample});
+  fileMenu->addSeparator();
+  fileMenu->addActions({close, quit});
 
-  QMenu* kolom = venster.menuBar()->addMenu(QStringLiteral("&Kolom"));
-  kolom->addActions({toevoegen, dupliceren});
-  kolom->addMenu(verplaatsen);
-  kolom->addMenu(afwijking);
-  kolom->addAction(verwijderen);
-  kolom->addSeparator();
-  kolom->addActions({vorige, volgende, boomOfKolom});
+  QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
+  kolomMenu->addActions({add, duplicate});
+  kolomMenu->addMenu(move);
+  kolomMenu->addMenu(afwijking);
+  kolomMenu->addAction(remove);
+  kolomMenu->addSeparator();
+  kolomMenu->addActions({previous, next, treeOrKolom});
 
-  QMenu* dossier = venster.menuBar()->addMenu(QStringLiteral("Dossie&r"));
-  dossier->addActions({client, leningToevoegen, controleren});
+  QMenu* dossierMenu = window.menuBar()->addMenu(QStringLiteral("Dossie&r"));
+  dossierMenu->addActions({client, addLening, check});
 
-  QMenu* help = venster.menuBar()->addMenu(QStringLiteral("&Help"));
-  help->addActions({opnemen, logboek, over});
+  QMenu* helpMenu = window.menuBar()->addMenu(QStringLiteral("&Help"));
+  helpMenu->addActions({record, eventLog, about});
 
-  QToolBar* balk = venster.addToolBar(QStringLiteral("Werkbalk"));
-  balk->setObjectName(QStringLiteral("werkbalk"));
-  balk->setMovable(false);
-  balk->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  balk->setContextMenuPolicy(Qt::PreventContextMenu);
-  balk->addActions({nieuw, openen});
-  balk->addSeparator();
-  balk->addActions({toevoegen, dupliceren});
-  balk->addWidget(MenuKnop(QStringLiteral("Verplaatsen"), verplaatsen));
-  balk->addAction(verwijderen);
-  balk->addSeparator();
-  balk->addActions({client, controleren});
+  QToolBar* toolbar = window.addToolBar(QStringLiteral("Werkbalk"));
+  toolbar->setObjectName(QStringLiteral("werkbalk"));
+  toolbar->setMovable(false);
+  toolbar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+  toolbar->addActions({create, open});
+  toolbar->addSeparator();
+  toolbar->addActions({add, duplicate});
+  toolbar->addWidget(MenuButton(QStringLiteral("Verplaatsen"), move));
+  toolbar->addAction(remove);
+  toolbar->addSeparator();
+  toolbar->addActions({client, check});
 
   // Not in a menu: opens one.
-  venster.addAction(verplaatsenMetToets);
+  window.addAction(moveByKey);
 }
 
-QList<QAction*> Acties::VoorDossier() const {
-  return {sluiten, toevoegen, vorige, volgende, boomOfKolom, client, leningToevoegen, controleren, opnemen};
+QList<QAction*> Actions::ForDossier() const {
+  return {close, add, previous, next, treeOrKolom, client, addLening, check, record};
 }
 
-QList<QAction*> Acties::VoorKolom() const {
-  return {dupliceren, verwijderen, verplaatsen->menuAction(), verplaatsenMetToets, afwijking->menuAction()};
+QList<QAction*> Actions::ForKolom() const {
+  return {duplicate, remove, move->menuAction(), moveByKey, afwijking->menuAction()};
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

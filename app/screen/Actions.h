@@ -6,42 +6,42 @@ class QAction;
 class QMenu;
 class QMainWindow;
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Everything the window can be told to do: texts, shortcuts, menus and toolbar. The window connects them.
 ///
 /// The menus' letters are those that no box of the editor goes by.
-struct Acties {
+struct Actions {
   /// Makes the actions as children of the window and puts them in its menu bar and toolbar.
-  explicit Acties(QMainWindow& venster);
+  explicit Actions(QMainWindow& window);
 
-  QAction* nieuw;
-  QAction* openen;
-  QAction* voorbeeld;
-  QAction* sluiten;
-  QAction* afsluiten;
+  QAction* create;
+  QAction* open;
+  QAction* sample;
+  QAction* close;
+  QAction* quit;
 
-  QAction* toevoegen;
-  QAction* dupliceren;
-  QAction* verwijderen;
-  QMenu* verplaatsen;  ///< one entry for each other loan, filled by the window
-  QMenu* afwijking;    ///< one entry for each loan of the new situation, filled by the window
-  QAction* verplaatsenMetToets;
-  QAction* vorige;
-  QAction* volgende;
-  QAction* boomOfKolom;
+  QAction* add;
+  QAction* duplicate;
+  QAction* remove;
+  QMenu* move;       ///< one entry for each other loan, filled by the window
+  QMenu* afwijking;  ///< one entry for each loan of the new situation, filled by the window
+  QAction* moveByKey;
+  QAction* previous;
+  QAction* next;
+  QAction* treeOrKolom;
 
   QAction* client;
-  QAction* leningToevoegen;
-  QAction* controleren;
+  QAction* addLening;
+  QAction* check;
 
-  QAction* opnemen;  ///< checked while a recording runs
-  QAction* logboek;
-  QAction* over;
+  QAction* record;  ///< checked while a recording runs
+  QAction* eventLog;
+  QAction* about;
 
   /// What needs an open file, and what needs a column on the screen.
-  [[nodiscard]] QList<QAction*> VoorDossier() const;
-  [[nodiscard]] QList<QAction*> VoorKolom() const;
+  [[nodiscard]] QList<QAction*> ForDossier() const;
+  [[nodiscard]] QList<QAction*> ForKolom() const;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

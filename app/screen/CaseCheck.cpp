@@ -10,77 +10,74 @@
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-/// The host's check runs once over the whole case, not after every column.
-class GeenControle final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 /// An editor without a screen that tells what its checks say.
-class Controleur {
+class Checker {
  public:
-  Controleur(const std::shared_ptr<Dossier>& dossier, host::Date vandaag)
-      : application_(std::make_shared<Application>(dossier)),
+  Checker(const std::shared_ptr<dossier::Dossier>& dossier, host::Date today)
+      : application_(std::make_shared<dossier::Application>(dossier)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)),
-        editor_(*surface_, toolkit_,
-                {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<Tracer>(); },
-                 .MaakDossierControle = [](std::string_view) { return std::make_shared<GeenControle>(); }}) {
-    toolkit_.Desktop().today = vandaag;
-    toolkit_.Desktop().answer = [this](const std::string&, const std::string& tekst, host::MessageStyle) {
-      meldingen_.push_back(tekst);
+        editor_(
+            *surface_, toolkit_,
+            {.MaakProcedureTrace = [](std::string_view) { return std::make_shared<dossier::Tracer>(); },
+             // The host's check runs once over the whole case, not after every column.
+             .MaakDossierControle = [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }}) {
+    toolkit_.Desktop().today = today;
+    toolkit_.Desktop().answer = [this](const std::string&, const std::string& text, host::MessageStyle) {
+      messages_.push_back(text);
       return host::MessageAnswer::Ok;
     };
-    application_->FoutGemeld.Connect([this](const Foutrecord& fout) {
-      meldingen_.push_back("De post kan niet worden gecontroleerd: " + fout.ErrorDescription + ".");
+    errors_ = application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) {
+      messages_.push_back("De post kan niet worden gecontroleerd: " + error.ErrorDescription + ".");
     });
   }
 
-  std::vector<std::string> Controleer(std::int16_t Len_Id, std::int16_t Vrij_Id) {
-    meldingen_.clear();
+  std::vector<std::string> Check(std::int16_t Len_Id, std::int16_t Vrij_Id) {
+    messages_.clear();
     editor_.SetApplication(application_, Len_Id, Vrij_Id);
     bool cancel = false;
     editor_.Validation(cancel);
     cancel = false;
     editor_.Toelichting().Validation(cancel);
-    return std::move(meldingen_);
+    return std::move(messages_);
   }
 
  private:
-  std::vector<std::string> meldingen_;
-  std::shared_ptr<Application> application_;
+  std::vector<std::string> messages_;
+  std::shared_ptr<dossier::Application> application_;
   memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
   brivane::VrijeKolom editor_;
+  host::Subscription errors_;
 };
 
 }  // namespace
 
-std::vector<Bevinding> ControleerAlles(const Dossier& dossier, host::Date vandaag) {
-  const auto kopie = std::make_shared<Dossier>(dossier.Gegevens(), std::make_shared<Omgeving>());
-  std::map<std::pair<std::int16_t, std::int16_t>, std::vector<std::string>> vanDeHost;
-  for (Bevinding& bevinding : ControleerDossier(*kopie, vandaag)) {
-    vanDeHost[{bevinding.Len_Id, bevinding.Vrij_Id}].push_back(std::move(bevinding.tekst));
+std::vector<dossier::Finding> CheckAll(const dossier::Dossier& dossier, host::Date today) {
+  const auto copy = std::make_shared<dossier::Dossier>(dossier.Gegevens(), std::make_shared<dossier::Environment>());
+  std::map<std::pair<std::int16_t, std::int16_t>, std::vector<std::string>> fromHost;
+  for (dossier::Finding& finding : dossier::ControleerDossier(*copy, today)) {
+    fromHost[{finding.Len_Id, finding.Vrij_Id}].push_back(std::move(finding.text));
   }
 
-  std::vector<Bevinding> bevindingen;
-  Controleur controleur(kopie, vandaag);
-  for (std::int16_t Len_Id = Dossier::kHuidig; Len_Id <= kopie->AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : kopie->ZoekLening(Len_Id)->Kolommen()) {
-      const auto meld = [&](std::vector<std::string> teksten) {
-        for (std::string& tekst : teksten) bevindingen.push_back({Len_Id, kolom->Id(), std::move(tekst)});
+  std::vector<dossier::Finding> findings;
+  Checker checker(copy, today);
+  for (std::int16_t Len_Id = dossier::Dossier::kHuidig; Len_Id <= copy->AantalLeningen(); ++Len_Id) {
+    for (const auto& kolom : copy->ZoekLening(Len_Id)->Kolommen()) {
+      const auto add = [&](std::vector<std::string> texts) {
+        for (std::string& text : texts) findings.push_back({Len_Id, kolom->Id(), std::move(text)});
       };
-      meld(controleur.Controleer(Len_Id, kolom->Id()));
-      if (auto regels = vanDeHost.extract({Len_Id, kolom->Id()})) meld(std::move(regels.mapped()));
+      add(checker.Check(Len_Id, kolom->Id()));
+      if (auto lines = fromHost.extract({Len_Id, kolom->Id()})) add(std::move(lines.mapped()));
     }
   }
   // What is left is about a column that is not there.
-  for (auto& [plek, teksten] : vanDeHost) {
-    for (std::string& tekst : teksten) bevindingen.push_back({plek.first, plek.second, std::move(tekst)});
+  for (auto& [place, texts] : fromHost) {
+    for (std::string& text : texts) findings.push_back({place.first, place.second, std::move(text)});
   }
-  return bevindingen;
+  return findings;
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

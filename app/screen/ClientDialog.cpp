@@ -13,129 +13,123 @@
 #include "frame/Dates.h"
 #include "toolkits/qt/widgets/DateBox.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr std::array<const char*, 3> kNaamvelden = {"Voorletters", "Tussenvoegsel", "Achternaam"};
-constexpr std::size_t kAchternaam = 2;
-constexpr int kLaagsteLeeftijd = 1;
-constexpr int kHoogsteLeeftijd = 120;
+constexpr std::array<const char*, 3> kNameFields = {"Voorletters", "Tussenvoegsel", "Achternaam"};
+constexpr std::size_t kSurname = 2;
+constexpr int kLowestLeeftijd = 1;
+constexpr int kHighestLeeftijd = 120;
 
-frame::Reading<host::Date> LeesDatum(const QLineEdit& vak) { return frame::ReadDate(vak.text().toStdString()); }
+frame::Reading<host::Date> DateIn(const QLineEdit& box) { return frame::ReadDate(box.text().toStdString()); }
 
 }  // namespace
 
-Clientvenster::Clientvenster(const QString& titel, const Client& client, QWidget* parent) : QDialog(parent) {
-  setWindowTitle(titel);
-  QWidget* aanvrager = MaakVelden(aanvrager_, QStringLiteral("Aanvrager"));
-  metPartner_ = new QCheckBox(QStringLiteral("Er is een &partner"));
-  QWidget* partner = MaakVelden(partner_, QStringLiteral("Partner"));
+ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* parent) : QDialog(parent) {
+  setWindowTitle(title);
+  QWidget* aanvrager = MakeFields(aanvrager_, QStringLiteral("Aanvrager"));
+  withPartner_ = new QCheckBox(QStringLiteral("Er is een &partner"));
+  QWidget* partner = MakeFields(partner_, QStringLiteral("Partner"));
   partner->setEnabled(false);
-  connect(metPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
+  connect(withPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
 
   leeftijd_ = new QSpinBox;
-  leeftijd_->setRange(kLaagsteLeeftijd, kHoogsteLeeftijd);
+  leeftijd_->setRange(kLowestLeeftijd, kHighestLeeftijd);
   leeftijd_->setSuffix(QStringLiteral(" jaar"));
   leeftijd_->setAccessibleName(QStringLiteral("Leeftijdsgrens"));
   auto* uitgangspunten = new QFormLayout;
   uitgangspunten->addRow(QStringLiteral("&Leeftijdsgrens"), leeftijd_);
 
-  reden_ = new QLabel;
-  reden_->setWordWrap(true);
-  auto* knoppen = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  connect(knoppen, &QDialogButtonBox::accepted, this, &Clientvenster::accept);
-  connect(knoppen, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  reason_ = new QLabel;
+  reason_->setWordWrap(true);
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  connect(buttons, &QDialogButtonBox::accepted, this, &ClientDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
-  auto* indeling = new QVBoxLayout(this);
-  indeling->addWidget(aanvrager);
-  indeling->addWidget(metPartner_);
-  indeling->addWidget(partner);
-  indeling->addLayout(uitgangspunten);
-  indeling->addWidget(reden_);
-  indeling->addStretch();
-  indeling->addWidget(knoppen);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(aanvrager);
+  layout->addWidget(withPartner_);
+  layout->addWidget(partner);
+  layout->addLayout(uitgangspunten);
+  layout->addWidget(reason_);
+  layout->addStretch();
+  layout->addWidget(buttons);
 
-  if (!client.personen.empty()) Vul(aanvrager_, client.personen[0]);
+  if (!client.personen.empty()) Fill(aanvrager_, client.personen[0]);
   if (client.personen.size() > 1) {
-    Vul(partner_, client.personen[1]);
-    metPartner_->setChecked(true);
+    Fill(partner_, client.personen[1]);
+    withPartner_->setChecked(true);
   }
   leeftijd_->setValue(client.leeftijd);
-  aanvrager_.naam[0]->setFocus();
+  aanvrager_.name[0]->setFocus();
 }
 
-QWidget* Clientvenster::MaakVelden(Persoonsvelden& velden, const QString& naam) {
-  auto* kader = new QGroupBox(naam);
-  auto* indeling = new QFormLayout(kader);
-  for (std::size_t deel = 0; deel < velden.naam.size(); ++deel) {
-    const QString kop = QString::fromUtf8(kNaamvelden[deel]);
-    velden.naam[deel] = new QLineEdit;
-    velden.naam[deel]->setAccessibleName(naam + QStringLiteral(", ") + kop);
-    velden.naam[deel]->setMinimumWidth(velden.naam[deel]->fontMetrics().averageCharWidth() * 34);
-    indeling->addRow(kop, velden.naam[deel]);
+QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
+  auto* group = new QGroupBox(name);
+  auto* layout = new QFormLayout(group);
+  for (std::size_t part = 0; part < fields.name.size(); ++part) {
+    const QString heading = QString::fromUtf8(kNameFields[part]);
+    fields.name[part] = new QLineEdit;
+    fields.name[part]->setAccessibleName(name + QStringLiteral(", ") + heading);
+    fields.name[part]->setMinimumWidth(fields.name[part]->fontMetrics().averageCharWidth() * 34);
+    layout->addRow(heading, fields.name[part]);
   }
-  velden.geboortedatum = new qt::DateBox;
-  velden.geboortedatum->setAccessibleName(naam + QStringLiteral(", Geboortedatum"));
-  velden.geboortedatum->SetCommitter([vak = velden.geboortedatum](const QString&) -> qt::EntryBox::Verdict {
-    const auto datum = LeesDatum(*vak);
-    if (datum.IsRefused()) return {.accepted = false, .reason = QString::fromStdString(datum.Reason())};
-    if (!datum.IsEmpty()) vak->setText(QString::fromStdString(frame::ShowDate(*datum)));
-    return {};
-  });
-  indeling->addRow(QStringLiteral("Geboortedatum"), velden.geboortedatum);
-  return kader;
+  fields.geboortedatum = new qt::DateBox;
+  fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
+  layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
+  return group;
 }
 
-void Clientvenster::Vul(const Persoonsvelden& velden, const PersoonGegevens& persoon) {
-  for (std::size_t deel = 0; deel < velden.naam.size(); ++deel) {
-    velden.naam[deel]->setText(QString::fromStdString(persoon.Naam[deel]));
+void ClientDialog::Fill(const PersoonFields& fields, const dossier::PersoonGegevens& persoon) {
+  for (std::size_t part = 0; part < fields.name.size(); ++part) {
+    fields.name[part]->setText(QString::fromStdString(persoon.Naam[part]));
   }
-  velden.geboortedatum->ShowText(QString::fromStdString(frame::ShowDate(persoon.Geboortedatum)));
+  fields.geboortedatum->ShowText(QString::fromStdString(frame::ShowDate(persoon.Geboortedatum)));
 }
 
-PersoonGegevens Clientvenster::Lees(const Persoonsvelden& velden) const {
-  PersoonGegevens persoon;
-  for (std::size_t deel = 0; deel < velden.naam.size(); ++deel) {
-    persoon.Naam[deel] = velden.naam[deel]->text().trimmed().toStdString();
+dossier::PersoonGegevens ClientDialog::Read(const PersoonFields& fields) const {
+  dossier::PersoonGegevens persoon;
+  for (std::size_t part = 0; part < fields.name.size(); ++part) {
+    persoon.Naam[part] = fields.name[part]->text().trimmed().toStdString();
   }
-  const auto datum = LeesDatum(*velden.geboortedatum);
+  const auto datum = DateIn(*fields.geboortedatum);
   if (!datum.IsRefused() && !datum.IsEmpty()) persoon.Geboortedatum = *datum;
   return persoon;
 }
 
-Client Clientvenster::Gegevens() const {
-  Client client{.personen = {Lees(aanvrager_)}, .leeftijd = static_cast<std::int16_t>(leeftijd_->value())};
-  if (metPartner_->isChecked()) client.personen.push_back(Lees(partner_));
+Client ClientDialog::Contents() const {
+  Client client{.personen = {Read(aanvrager_)}, .leeftijd = static_cast<std::int16_t>(leeftijd_->value())};
+  if (withPartner_->isChecked()) client.personen.push_back(Read(partner_));
   return client;
 }
 
-void Clientvenster::accept() {
-  if (qt::EntryBox* vak = qt::EntryBox::PendingWithin(*this); vak && !vak->CommitPending()) return;
-  if (!Controleer(aanvrager_, QStringLiteral("de aanvrager"))) return;
-  if (metPartner_->isChecked() && !Controleer(partner_, QStringLiteral("de partner"))) return;
+void ClientDialog::accept() {
+  if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*this); box && !box->CommitPending()) return;
+  if (!Check(aanvrager_, QStringLiteral("de aanvrager"))) return;
+  if (withPartner_->isChecked() && !Check(partner_, QStringLiteral("de partner"))) return;
   QDialog::accept();
 }
 
-bool Clientvenster::Controleer(const Persoonsvelden& velden, const QString& wie) {
-  const PersoonGegevens persoon = Lees(velden);
-  if (persoon.Naam[kAchternaam].empty()) {
-    Meld(QStringLiteral("Vul de achternaam van %1 in.").arg(wie), velden.naam[kAchternaam]);
+bool ClientDialog::Check(const PersoonFields& fields, const QString& who) {
+  const dossier::PersoonGegevens persoon = Read(fields);
+  if (persoon.Naam[kSurname].empty()) {
+    Tell(QStringLiteral("Vul de achternaam van %1 in.").arg(who), fields.name[kSurname]);
     return false;
   }
   if (persoon.Geboortedatum.IsNone()) {
-    Meld(QStringLiteral("Vul de geboortedatum van %1 in.").arg(wie), velden.geboortedatum);
+    Tell(QStringLiteral("Vul de geboortedatum van %1 in.").arg(who), fields.geboortedatum);
     return false;
   }
-  if (persoon.Geboortedatum >= Vandaag()) {
-    Meld(QStringLiteral("De geboortedatum van %1 moet in het verleden liggen.").arg(wie), velden.geboortedatum);
+  if (persoon.Geboortedatum >= Today()) {
+    Tell(QStringLiteral("De geboortedatum van %1 moet in het verleden liggen.").arg(who), fields.geboortedatum);
     return false;
   }
   return true;
 }
 
-void Clientvenster::Meld(const QString& reden, QWidget* veld) {
-  reden_->setText(reden);
-  veld->setFocus(Qt::OtherFocusReason);
+void ClientDialog::Tell(const QString& reason, QWidget* field) {
+  reason_->setText(reason);
+  field->setFocus(Qt::OtherFocusReason);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

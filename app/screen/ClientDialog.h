@@ -16,44 +16,44 @@ namespace brivane::qt {
 class DateBox;
 }
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// The persons of a case and its age limit.
 struct Client {
-  std::vector<PersoonGegevens> personen;
-  std::int16_t leeftijd = DossierGegevens().Leeftijd;
+  std::vector<dossier::PersoonGegevens> personen;
+  std::int16_t leeftijd = dossier::DossierGegevens().Leeftijd;
 };
 
 /// Asks for the applicant, the partner if there is one, and the age limit.
 ///
 /// OK is refused, with the reason in the dialog, while a person lacks a surname or a birth date in the past.
-class Clientvenster final : public QDialog {
+class ClientDialog final : public QDialog {
  public:
-  Clientvenster(const QString& titel, const Client& client, QWidget* parent);
+  ClientDialog(const QString& title, const Client& client, QWidget* parent);
 
   /// What stands in the dialog; valid once it was accepted.
-  [[nodiscard]] Client Gegevens() const;
+  [[nodiscard]] Client Contents() const;
 
   void accept() override;
 
  private:
-  struct Persoonsvelden {
-    std::array<QLineEdit*, 3> naam{};
+  struct PersoonFields {
+    std::array<QLineEdit*, 3> name{};
     qt::DateBox* geboortedatum = nullptr;
   };
 
-  QWidget* MaakVelden(Persoonsvelden& velden, const QString& naam);
-  void Vul(const Persoonsvelden& velden, const PersoonGegevens& persoon);
-  [[nodiscard]] PersoonGegevens Lees(const Persoonsvelden& velden) const;
+  QWidget* MakeFields(PersoonFields& fields, const QString& name);
+  void Fill(const PersoonFields& fields, const dossier::PersoonGegevens& persoon);
+  [[nodiscard]] dossier::PersoonGegevens Read(const PersoonFields& fields) const;
   /// Puts the focus in the first field that is not right and says why; false when there is one.
-  bool Controleer(const Persoonsvelden& velden, const QString& wie);
-  void Meld(const QString& reden, QWidget* veld);
+  bool Check(const PersoonFields& fields, const QString& who);
+  void Tell(const QString& reason, QWidget* field);
 
-  Persoonsvelden aanvrager_;
-  Persoonsvelden partner_;
-  QCheckBox* metPartner_;
+  PersoonFields aanvrager_;
+  PersoonFields partner_;
+  QCheckBox* withPartner_;
   QSpinBox* leeftijd_;
-  QLabel* reden_;
+  QLabel* reason_;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

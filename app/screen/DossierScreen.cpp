@@ -11,277 +11,280 @@
 #include "app/screen/Messages.h"
 #include "frame/ErrorReport.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr int kBoomTekens = 58;  ///< width of the tree at first, in characters
-constexpr char kObjectNaam[] = "Dossier";
-constexpr char kObjectOmschrijving[] = "Dossier";
+constexpr int kTreeCharacters = 58;  ///< width of the tree at first, in characters
+constexpr char kObjectName[] = "Dossier";
+constexpr char kObjectDescription[] = "Dossier";
 
-Foutrecord RecordVan(const host::Error& fout) {
+host::ErrorRecord RecordOf(const host::Error& error) {
   return {.ApplicationTitle = QGuiApplication::applicationDisplayName().toStdString(),
-          .ObjectName = kObjectNaam,
+          .ObjectName = kObjectName,
           .Caption = std::string(frame::kReportCaption),
-          .ObjectDescription = kObjectOmschrijving,
+          .ObjectDescription = kObjectDescription,
           .Message = std::string(frame::kReportMessage),
-          .ErrorNumber = std::to_string(fout.Number()),
-          .ErrorDescription = fout.Description(),
-          .ErrorSource = fout.Source()};
+          .ErrorNumber = std::to_string(error.Number()),
+          .ErrorDescription = error.Description(),
+          .ErrorSource = error.Source()};
 }
 
 /// Every column of a case in the order of the tree.
-std::vector<Plek> AlleKolommen(const Dossier& dossier) {
-  std::vector<Plek> plekken;
+std::vector<Place> AllKolommen(const dossier::Dossier& dossier) {
+  std::vector<Place> places;
   for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) plekken.push_back({Len_Id, kolom->Id()});
+    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) places.push_back({Len_Id, kolom->Id()});
   }
-  return plekken;
+  return places;
 }
 
 }  // namespace
 
-Dossierscherm::Dossierscherm(std::unique_ptr<DossierBestand> bestand, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
-                             Logboek& logboek, Opname& opname, QWidget* parent)
+DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
+                             std::shared_ptr<host::Hoofdvenster> hoofdvenster, EventLog& eventLog, Recording& recording,
+                             const Instrument& instrument, QWidget* parent)
     : QSplitter(parent),
-      logboek_(logboek),
-      traceerlog_(std::make_shared<Traceerlog>(logboek)),
-      bestand_(std::move(bestand)),
-      application_(std::make_shared<Application>(bestand_->Dossier(), std::move(hoofdvenster))),
-      boom_(new Kolommenboom(bestand_->Dossier())),
-      kolom_(new Kolomscherm(application_, Fabrieken(), opname)) {
-  addWidget(boom_);
+      eventLog_(eventLog),
+      traceLog_(std::make_shared<TraceLog>(eventLog)),
+      file_(std::move(file)),
+      application_(std::make_shared<dossier::Application>(file_->Dossier(), std::move(hoofdvenster))),
+      tree_(new KolommenTree(file_->Dossier())),
+      kolom_(new KolomScreen(file_->Dossier(), MakeEditorHost(instrument), recording)) {
+  addWidget(tree_);
   addWidget(kolom_);
   setStretchFactor(0, 0);
   setStretchFactor(1, 1);
   setChildrenCollapsible(false);
-  const int boomBreed = kBoomTekens * boom_->fontMetrics().averageCharWidth();
-  resize(boomBreed + kolom_->sizeHint().width(), height());
-  setSizes({boomBreed, width() - boomBreed});
+  const int treeWidth = kTreeCharacters * tree_->fontMetrics().averageCharWidth();
+  resize(treeWidth + kolom_->sizeHint().width(), height());
+  setSizes({treeWidth, width() - treeWidth});
 
-  scenarioopslag_ = std::make_unique<Scenarioopslag>(*kolom_->Editor().Control(), kolom_->Editor().Toolkit(),
-                                                     bestand_->Bewerkingen());
-  Verbind(opname);
-  const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
-  Toon(kolommen.empty() ? Plek{} : kolommen.front());
+  scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), file_->Bewerkingen());
+  Connect(recording);
+  const std::vector<Place> kolommen = AllKolommen(Dossier());
+  Show(kolommen.empty() ? Place{} : kolommen.front());
 }
 
-Dossierscherm::~Dossierscherm() {
-  application_->FoutGemeld.Disconnect();
-  bestand_->Bewerkingen().Failed.Disconnect();
-  bestand_->Bewerkingen().Stored.Disconnect();
-  scenarioopslag_.reset();
+DossierScreen::~DossierScreen() {
+  subscriptions_.Reset();
+  scenario_.reset();
   // The editor holds records of the file, which goes before its widgets otherwise.
   delete kolom_;
 }
 
-host::HostFactories Dossierscherm::Fabrieken() {
-  return {.MaakProcedureTrace = [this](std::string_view control) { return bestand_->MaakTrace(control, traceerlog_); },
+EditorHost DossierScreen::MakeEditorHost(const Instrument& instrument) {
+  EditorHost host{application_, Factories()};
+  return instrument ? instrument(std::move(host)) : host;
+}
+
+host::HostFactories DossierScreen::Factories() {
+  return {.MaakProcedureTrace = [this](std::string_view control) { return file_->MaakTrace(control, traceLog_); },
           .MaakDossierControle =
               [this](std::string_view) {
-                auto controle = std::make_shared<DossierControle>([] { return Vandaag(); });
-                controle->Gecontroleerd.Connect(
-                    [this](const std::vector<Bevinding>& bevindingen) { emit aandachtspunten(bevindingen.size()); });
-                return controle;
+                auto check = std::make_shared<dossier::DossierControle>([] { return Today(); });
+                subscriptions_ += check->Gecontroleerd.Connect(
+                    [this](const std::vector<dossier::Finding>& findings) { emit findingsCounted(findings.size()); });
+                return check;
               }};
 }
 
-void Dossierscherm::Verbind(Opname& opname) {
-  boom_->gekozen = [this](const Plek& plek) {
-    if (!verlaat_) GaNaar(plek);
+void DossierScreen::Connect(Recording& recording) {
+  tree_->chosen = [this](const Place& place) {
+    if (!leaving_) GoTo(place);
   };
-  boom_->aangeklikt = [this](const Plek& plek) {
+  tree_->clickEnded = [this](const Place& place) {
     // Only once the column was left.
-    if (plek == Getoond()) boom_->setFocus(Qt::MouseFocusReason);
+    if (place == Shown()) tree_->setFocus(Qt::MouseFocusReason);
   };
-  boom_->gesleept = [this](const Plek& kolom, std::int16_t naarLen_Id) { Verplaats(kolom, naarLen_Id); };
+  tree_->dragged = [this](const Place& kolom, std::int16_t toLen_Id) { MoveKolom(kolom, toLen_Id); };
 
-  kolom_->Editor().SetFailureListener([this](const std::exception& fout) {
-    const auto* eigen = dynamic_cast<const host::Error*>(&fout);
-    MeldFout(RecordVan(eigen ? *eigen
-                             : host::Error(static_cast<int>(host::ErrorNumber::Foreign), fout.what(), kObjectNaam)));
+  kolom_->Editor().SetFailureListener([this](const std::exception& error) {
+    const auto* own = dynamic_cast<const host::Error*>(&error);
+    TellFailure(
+        RecordOf(own ? *own : host::Error(static_cast<int>(host::ErrorNumber::Foreign), error.what(), kObjectName)));
   });
-  application_->FoutGemeld.Connect([this](const Foutrecord& fout) { MeldFout(fout); });
-  bestand_->Bewerkingen().Failed.Connect([this, &opname](const StoreFailure& mislukt) {
+  subscriptions_ += application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) { TellFailure(error); });
+  subscriptions_ += file_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
     // The edit is undone, as no replay would do.
-    opname.Breek();
-    PlanHerbinden();
-    if (mislukt.told == Told::Yes) return;
+    recording.Break();
+    PlanRebind();
+    if (failed.told == dossier::Told::Yes) return;
     QMetaObject::invokeMethod(
-        this, [this, record = RecordVan(mislukt.error)] { MeldFout(record); }, Qt::QueuedConnection);
+        this, [this, record = RecordOf(failed.error)] { TellFailure(record); }, Qt::QueuedConnection);
   });
-  bestand_->Bewerkingen().Stored.Connect([this] {
+  subscriptions_ += file_->Bewerkingen().Stored.Connect([this] {
     // The memory follows the file: only then do the texts show the change.
     QMetaObject::invokeMethod(
         this,
         [this] {
           // The answer to a check may have taken columns out of the new situation.
-          Vernieuw();
-          kolom_->VernieuwKop();
-          boom_->HertekenTekst(Getoond());
-          emit opgeslagen();
+          Refresh();
+          kolom_->RefreshHeader();
+          tree_->RedrawText(Shown());
+          emit stored();
         },
         Qt::QueuedConnection);
   });
 }
 
-bool Dossierscherm::MagVerlaten() {
-  if (verlaat_) return false;
-  verlaat_ = true;
-  const bool mag = kolom_->MagVerlaten();
-  verlaat_ = false;
+bool DossierScreen::MayLeave() {
+  if (leaving_) return false;
+  leaving_ = true;
+  const bool may = kolom_->MayLeave();
+  leaving_ = false;
   // The check may have taken columns out of the new situation.
-  Vernieuw();
-  if (!mag) boom_->Selecteer(Getoond());
-  return mag;
+  Refresh();
+  if (!may) tree_->Select(Shown());
+  return may;
 }
 
-bool Dossierscherm::GaNaar(const Plek& plek) {
-  if (plek == Getoond()) return true;
-  if (!MagVerlaten()) return false;
-  const bool bestaat = !plek.Vrij_Id || Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
-  Toon(bestaat ? plek : Plek{plek.Len_Id, std::nullopt});
-  return bestaat;
+bool DossierScreen::GoTo(const Place& place) {
+  if (place == Shown()) return true;
+  if (!MayLeave()) return false;
+  const bool exists = !place.Vrij_Id || Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
+  Show(exists ? place : Place{place.Len_Id, std::nullopt});
+  return exists;
 }
 
-bool Dossierscherm::GaVerder(int stap) {
-  const std::vector<Plek> kolommen = AlleKolommen(Gegevens());
-  const auto hier = std::find(kolommen.begin(), kolommen.end(), Getoond());
+bool DossierScreen::GoOn(int step) {
+  const std::vector<Place> kolommen = AllKolommen(Dossier());
+  const auto here = std::find(kolommen.begin(), kolommen.end(), Shown());
   // From a loan itself the way goes to its first column, or back to the last one before it.
-  std::ptrdiff_t naar = hier - kolommen.begin() + stap;
-  if (hier == kolommen.end()) {
-    naar = std::find_if(kolommen.begin(), kolommen.end(),
-                        [&](const Plek& plek) { return plek.Len_Id >= Getoond().Len_Id; }) -
-           kolommen.begin() - (stap < 0 ? 1 : 0);
+  std::ptrdiff_t to = here - kolommen.begin() + step;
+  if (here == kolommen.end()) {
+    to = std::find_if(kolommen.begin(), kolommen.end(),
+                      [&](const Place& place) { return place.Len_Id >= Shown().Len_Id; }) -
+         kolommen.begin() - (step < 0 ? 1 : 0);
   }
-  if (naar < 0 || naar >= std::ssize(kolommen)) return false;
-  return GaNaar(kolommen[static_cast<std::size_t>(naar)]);
+  if (to < 0 || to >= std::ssize(kolommen)) return false;
+  return GoTo(kolommen[static_cast<std::size_t>(to)]);
 }
 
-void Dossierscherm::WisselFocus() {
-  if (kolom_->HeeftFocus() || !Getoond().Vrij_Id) {
-    boom_->setFocus(Qt::ShortcutFocusReason);
+void DossierScreen::SwitchFocus() {
+  if (kolom_->HasFocus() || !Shown().Vrij_Id) {
+    tree_->setFocus(Qt::ShortcutFocusReason);
   } else {
-    kolom_->FocusEerste();
+    kolom_->FocusFirst();
   }
 }
 
-bool Dossierscherm::VoegToe() {
-  if (!MagVerlaten()) return false;
-  const std::int16_t Len_Id = Getoond().Len_Id;
-  std::shared_ptr<VrijeKolom> kolom;
-  if (!Probeer([&] { kolom = Gegevens().NieuweKolom(Len_Id); })) return false;
-  Toon({Len_Id, kolom->Id()});
+bool DossierScreen::AddKolom() {
+  if (!MayLeave()) return false;
+  const std::int16_t Len_Id = Shown().Len_Id;
+  std::shared_ptr<dossier::VrijeKolom> kolom;
+  if (!Try([&] { kolom = Dossier().NieuweKolom(Len_Id); })) return false;
+  Show({Len_Id, kolom->Id()});
   kolom_->FocusOmschrijving();
   return true;
 }
 
-bool Dossierscherm::Dupliceer() {
-  const Plek plek = Getoond();
-  if (!plek.Vrij_Id || !MagVerlaten()) return false;
-  std::shared_ptr<VrijeKolom> kolom;
-  if (!Probeer([&] { kolom = Gegevens().Dupliceer(plek.Len_Id, *plek.Vrij_Id); })) return false;
-  Toon({plek.Len_Id, kolom->Id()});
+bool DossierScreen::DuplicateKolom() {
+  const Place place = Shown();
+  if (!place.Vrij_Id || !MayLeave()) return false;
+  std::shared_ptr<dossier::VrijeKolom> kolom;
+  if (!Try([&] { kolom = Dossier().Dupliceer(place.Len_Id, *place.Vrij_Id); })) return false;
+  Show({place.Len_Id, kolom->Id()});
   kolom_->FocusOmschrijving();
   return true;
 }
 
-bool Dossierscherm::Verplaats(const Plek& kolom, std::int16_t naarLen_Id) {
-  if (!kolom.Vrij_Id || kolom.Len_Id == naarLen_Id || !MagVerlaten()) return false;
+bool DossierScreen::MoveKolom(const Place& kolom, std::int16_t toLen_Id) {
+  if (!kolom.Vrij_Id || kolom.Len_Id == toLen_Id || !MayLeave()) return false;
   std::int16_t Vrij_Id = 0;
-  if (!Probeer([&] { Vrij_Id = Gegevens().Verplaats(kolom.Len_Id, *kolom.Vrij_Id, naarLen_Id); })) return false;
-  Toon({naarLen_Id, Vrij_Id});
+  if (!Try([&] { Vrij_Id = Dossier().Verplaats(kolom.Len_Id, *kolom.Vrij_Id, toLen_Id); })) return false;
+  Show({toLen_Id, Vrij_Id});
   return true;
 }
 
-bool Dossierscherm::MaakAfwijking(std::int16_t Len_Id) {
-  const Plek plek = Getoond();
-  if (!plek.Vrij_Id || plek.Len_Id != Dossier::kHuidig || !MagVerlaten()) return false;
-  if (!Probeer([&] { Gegevens().MaakAfwijking(*plek.Vrij_Id, Len_Id); })) return false;
-  Toon({Len_Id, plek.Vrij_Id});
+bool DossierScreen::MakeAfwijking(std::int16_t Len_Id) {
+  const Place place = Shown();
+  if (!place.Vrij_Id || place.Len_Id != dossier::Dossier::kHuidig || !MayLeave()) return false;
+  if (!Try([&] { Dossier().MaakAfwijking(*place.Vrij_Id, Len_Id); })) return false;
+  Show({Len_Id, place.Vrij_Id});
   return true;
 }
 
-bool Dossierscherm::Verwijder() {
-  const Plek plek = Getoond();
-  if (!plek.Vrij_Id) return false;
-  const auto kolom = Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
+bool DossierScreen::RemoveKolom() {
+  const Place place = Shown();
+  if (!place.Vrij_Id) return false;
+  const auto kolom = Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
   if (!kolom) return false;
-  const QString vraag =
+  const QString question =
       QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")
           .arg(QString::fromStdString(kolom->Kopregel()));
-  if (Vraag(window(), QStringLiteral("Kolom verwijderen"), vraag, QStringLiteral("&Verwijderen")) == Antwoord::Nee) {
+  if (Ask(window(), QStringLiteral("Kolom verwijderen"), question, QStringLiteral("&Verwijderen")) == Answer::No) {
     return false;
   }
-  const Plek naar = boom_->Buur(plek);
-  if (!Probeer([&] { Gegevens().Verwijder(plek.Len_Id, *plek.Vrij_Id); })) return false;
-  Toon(naar);
-  boom_->setFocus(Qt::OtherFocusReason);
+  const Place to = tree_->Neighbour(place);
+  if (!Try([&] { Dossier().Verwijder(place.Len_Id, *place.Vrij_Id); })) return false;
+  Show(to);
+  tree_->setFocus(Qt::OtherFocusReason);
   return true;
 }
 
-bool Dossierscherm::NieuweLening(const QString& naam) {
-  if (!MagVerlaten()) return false;
+bool DossierScreen::AddLening(const QString& name) {
+  if (!MayLeave()) return false;
   std::int16_t Len_Id = 0;
-  if (!Probeer([&] { Len_Id = Gegevens().NieuweLening(naam.toStdString()); })) return false;
-  Toon({Len_Id, std::nullopt});
+  if (!Try([&] { Len_Id = Dossier().NieuweLening(name.toStdString()); })) return false;
+  Show({Len_Id, std::nullopt});
   return true;
 }
 
-bool Dossierscherm::SetClient(const std::vector<PersoonGegevens>& personen, std::int16_t leeftijd) {
-  if (!Probeer([&] { Gegevens().SetClient(personen, leeftijd); })) return false;
+bool DossierScreen::SetClient(const std::vector<dossier::PersoonGegevens>& personen, std::int16_t leeftijd) {
+  if (!Try([&] { Dossier().SetClient(personen, leeftijd); })) return false;
   // The editor shows the names and asks the age limit.
-  kolom_->Herbind();
+  kolom_->Rebind();
   return true;
 }
 
-std::optional<std::vector<Bevinding>> Dossierscherm::Controleer() {
+std::optional<std::vector<dossier::Finding>> DossierScreen::Check() {
   if (!kolom_->Editor().CommitPending()) return std::nullopt;
-  return ControleerAlles(Gegevens(), Vandaag());
+  return CheckAll(Dossier(), Today());
 }
 
-void Dossierscherm::Toon(const Plek& plek) {
-  Vernieuw();
-  kolom_->Toon(plek);
-  boom_->Selecteer(Getoond());
-  emit plekGewijzigd();
+void DossierScreen::Show(const Place& place) {
+  Refresh();
+  kolom_->Show(place);
+  tree_->Select(Shown());
+  emit placeChanged();
 }
 
-void Dossierscherm::Vernieuw() {
-  if (boom_->Vernieuw(Getoond())) emit plekGewijzigd();
+void DossierScreen::Refresh() {
+  if (tree_->Refresh(Shown())) emit placeChanged();
 }
 
-bool Dossierscherm::Probeer(const std::function<void()>& wijziging) {
+bool DossierScreen::Try(const std::function<void()>& change) {
   try {
-    wijziging();
+    change();
     return true;
-  } catch (const host::Error& fout) {
-    MeldFout(RecordVan(fout));
+  } catch (const host::Error& error) {
+    TellFailure(RecordOf(error));
   }
   return false;
 }
 
-void Dossierscherm::MeldFout(const Foutrecord& fout) {
-  SchrijfFout(logboek_, fout);
-  ToonFout(window(), fout, herbinden_ ? Gevolg::Herladen : Gevolg::Geen);
+void DossierScreen::TellFailure(const host::ErrorRecord& error) {
+  WriteError(eventLog_, error);
+  ShowFailure(window(), error, rebind_ ? Consequence::Reloaded : Consequence::None);
 }
 
-void Dossierscherm::PlanHerbinden() {
-  if (std::exchange(herbinden_, true)) return;
-  QTimer::singleShot(0, this, &Dossierscherm::Herbind);
+void DossierScreen::PlanRebind() {
+  if (std::exchange(rebind_, true)) return;
+  QTimer::singleShot(0, this, &DossierScreen::Rebind);
 }
 
-void Dossierscherm::Herbind() {
+void DossierScreen::Rebind() {
   // Not under an open box or form: the procedure that opened it has not ended.
   if (QApplication::activeModalWidget()) {
-    QTimer::singleShot(50, this, &Dossierscherm::Herbind);
+    QTimer::singleShot(50, this, &DossierScreen::Rebind);
     return;
   }
-  Vernieuw();
-  const Plek plek = Getoond();
-  const bool bestaat = plek.Vrij_Id && Gegevens().ZoekKolom(plek.Len_Id, *plek.Vrij_Id);
-  kolom_->Toon(bestaat ? plek : Plek{plek.Len_Id, std::nullopt});
+  Refresh();
+  const Place place = Shown();
+  const bool exists = place.Vrij_Id && Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
+  kolom_->Show(exists ? place : Place{place.Len_Id, std::nullopt});
   // What fails while binding is not followed by another binding.
-  herbinden_ = false;
+  rebind_ = false;
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -8,76 +8,76 @@
 
 #include "app/screen/KolommenModel.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr int kLenRol = Qt::UserRole;
-constexpr int kVrijRol = Qt::UserRole + 1;
+constexpr int kLenRole = Qt::UserRole;
+constexpr int kVrijRole = Qt::UserRole + 1;
 
-QString Samenvatting(std::size_t aantal) {
-  if (aantal == 0) return QStringLiteral("De controle heeft niets gevonden.");
-  if (aantal == 1) return QStringLiteral("1 bevinding. Dubbelklik of Enter gaat naar de kolom.");
-  return QStringLiteral("%1 bevindingen. Dubbelklik of Enter gaat naar de kolom.").arg(aantal);
+QString Summary(std::size_t count) {
+  if (count == 0) return QStringLiteral("De controle heeft niets gevonden.");
+  if (count == 1) return QStringLiteral("1 bevinding. Dubbelklik of Enter gaat naar de kolom.");
+  return QStringLiteral("%1 bevindingen. Dubbelklik of Enter gaat naar de kolom.").arg(count);
 }
 
 }  // namespace
 
-Bevindingenlijst::Bevindingenlijst(QWidget* parent) : QDockWidget(QStringLiteral("Controle van het dossier"), parent) {
+FindingsList::FindingsList(QWidget* parent) : QDockWidget(QStringLiteral("Controle van het dossier"), parent) {
   setObjectName(QStringLiteral("bevindingen"));
   setAllowedAreas(Qt::BottomDockWidgetArea);
   setFeatures(QDockWidget::DockWidgetClosable);
 
-  samenvatting_ = new QLabel;
-  lijst_ = new QTreeWidget;
-  lijst_->setObjectName(QStringLiteral("bevindingenlijst"));
-  lijst_->setAccessibleName(QStringLiteral("Bevindingen"));
-  lijst_->setColumnCount(3);
-  lijst_->setHeaderLabels({QStringLiteral("Lening"), QStringLiteral("Vrije kolom"), QStringLiteral("Bevinding")});
-  lijst_->setRootIsDecorated(false);
-  lijst_->setUniformRowHeights(true);
-  lijst_->setTabKeyNavigation(false);
-  connect(lijst_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* regel) {
-    const auto getal = [&](int rol) { return static_cast<std::int16_t>(regel->data(0, rol).toInt()); };
-    if (gekozen) gekozen({getal(kLenRol), getal(kVrijRol)});
+  summary_ = new QLabel;
+  list_ = new QTreeWidget;
+  list_->setObjectName(QStringLiteral("bevindingenlijst"));
+  list_->setAccessibleName(QStringLiteral("Bevindingen"));
+  list_->setColumnCount(3);
+  list_->setHeaderLabels({QStringLiteral("Lening"), QStringLiteral("Vrije kolom"), QStringLiteral("Bevinding")});
+  list_->setRootIsDecorated(false);
+  list_->setUniformRowHeights(true);
+  list_->setTabKeyNavigation(false);
+  connect(list_, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* line) {
+    const auto number = [&](int role) { return static_cast<std::int16_t>(line->data(0, role).toInt()); };
+    if (chosen) chosen({number(kLenRole), number(kVrijRole)});
   });
 
-  auto* weg = new QShortcut(Qt::Key_Escape, this);
-  weg->setContext(Qt::WidgetWithChildrenShortcut);
-  connect(weg, &QShortcut::activated, this, &QWidget::hide);
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, this, &QWidget::hide);
 
-  auto* inhoud = new QWidget;
-  auto* indeling = new QVBoxLayout(inhoud);
-  indeling->addWidget(samenvatting_);
-  indeling->addWidget(lijst_);
-  setWidget(inhoud);
+  auto* content = new QWidget;
+  auto* layout = new QVBoxLayout(content);
+  layout->addWidget(summary_);
+  layout->addWidget(list_);
+  setWidget(content);
 }
 
-void Bevindingenlijst::Toon(const Dossier& dossier, const std::vector<Bevinding>& bevindingen) {
-  lijst_->clear();
-  QList<QTreeWidgetItem*> regels;
-  for (const Bevinding& bevinding : bevindingen) {
-    const auto kolom = dossier.ZoekKolom(bevinding.Len_Id, bevinding.Vrij_Id);
-    auto* regel = new QTreeWidgetItem({LeningTekst(dossier, bevinding.Len_Id),
-                                       kolom ? QString::fromStdString(kolom->Kopregel()) : QString(),
-                                       QString::fromStdString(bevinding.tekst)});
-    regel->setData(0, kLenRol, bevinding.Len_Id);
-    regel->setData(0, kVrijRol, bevinding.Vrij_Id);
-    regels.push_back(regel);
+void FindingsList::Show(const dossier::Dossier& dossier, const std::vector<dossier::Finding>& findings) {
+  list_->clear();
+  QList<QTreeWidgetItem*> lines;
+  for (const dossier::Finding& finding : findings) {
+    const auto kolom = dossier.ZoekKolom(finding.Len_Id, finding.Vrij_Id);
+    auto* line = new QTreeWidgetItem({LeningText(dossier, finding.Len_Id),
+                                      kolom ? QString::fromStdString(kolom->Kopregel()) : QString(),
+                                      QString::fromStdString(finding.text)});
+    line->setData(0, kLenRole, finding.Len_Id);
+    line->setData(0, kVrijRole, finding.Vrij_Id);
+    lines.push_back(line);
   }
-  lijst_->addTopLevelItems(regels);
-  samenvatting_->setText(Samenvatting(bevindingen.size()));
-  lijst_->setVisible(!bevindingen.empty());
-  lijst_->resizeColumnToContents(0);
-  lijst_->resizeColumnToContents(1);
+  list_->addTopLevelItems(lines);
+  summary_->setText(Summary(findings.size()));
+  list_->setVisible(!findings.empty());
+  list_->resizeColumnToContents(0);
+  list_->resizeColumnToContents(1);
   show();
-  if (regels.isEmpty()) return;
-  lijst_->setCurrentItem(regels.first());
-  lijst_->setFocus(Qt::OtherFocusReason);
+  if (lines.isEmpty()) return;
+  list_->setCurrentItem(lines.first());
+  list_->setFocus(Qt::OtherFocusReason);
 }
 
-void Bevindingenlijst::Leeg() {
-  lijst_->clear();
+void FindingsList::Clear() {
+  list_->clear();
   hide();
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

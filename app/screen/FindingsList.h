@@ -10,23 +10,23 @@
 class QLabel;
 class QTreeWidget;
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// What a check of the case found, below the window; a double click or Enter goes to the column, and
 /// Escape puts the list away.
-class Bevindingenlijst final : public QDockWidget {
+class FindingsList final : public QDockWidget {
  public:
-  explicit Bevindingenlijst(QWidget* parent);
+  explicit FindingsList(QWidget* parent);
 
   /// Shows what was found and takes the focus where that is anything.
-  void Toon(const Dossier& dossier, const std::vector<Bevinding>& bevindingen);
-  void Leeg();
+  void Show(const dossier::Dossier& dossier, const std::vector<dossier::Finding>& findings);
+  void Clear();
 
-  std::function<void(const Plek&)> gekozen;
+  std::function<void(const Place&)> chosen;
 
  private:
-  QLabel* samenvatting_;
-  QTreeWidget* lijst_;
+  QLabel* summary_;
+  QTreeWidget* list_;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -12,102 +12,105 @@
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories, Opname& opname,
+KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost host, Recording& recording,
                          QWidget* parent)
-    : QStackedWidget(parent), application_(std::move(application)), opname_(opname) {
-  auto* uitleg = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
-  uitleg->setAlignment(Qt::AlignCenter);
-  uitleg->setWordWrap(true);
-  leeg_ = uitleg;
+    : QStackedWidget(parent),
+      dossier_(std::move(dossier)),
+      application_(std::move(host.application)),
+      recording_(recording) {
+  auto* hint = new QLabel(QStringLiteral("Kies links een vrije kolom, of voeg er een toe (Ctrl+Shift+N)."));
+  hint->setAlignment(Qt::AlignCenter);
+  hint->setWordWrap(true);
+  empty_ = hint;
 
   editor_ = new qt::VrijeKolomWidget;
   editor_->setObjectName(QStringLiteral("editor"));
-  opname_.Begin(application_->Bestand(), *editor_);
-  editor_->SetHostFactories(factories);
-  auto* vlak = new QWidget;
-  auto* stapel = new QVBoxLayout(vlak);
-  stapel->setContentsMargins(0, 0, 0, 0);
-  stapel->addWidget(editor_, 0, Qt::AlignLeft | Qt::AlignTop);
-  stapel->addStretch();
-  auto* rol = new QScrollArea;
-  rol->setFrameShape(QFrame::NoFrame);
-  rol->setWidgetResizable(true);
-  rol->setFocusPolicy(Qt::NoFocus);
-  rol->setWidget(vlak);
+  recording_.Begin(dossier_, *editor_);
+  editor_->SetHostFactories(host.factories);
+  auto* area = new QWidget;
+  auto* stack = new QVBoxLayout(area);
+  stack->setContentsMargins(0, 0, 0, 0);
+  stack->addWidget(editor_, 0, Qt::AlignLeft | Qt::AlignTop);
+  stack->addStretch();
+  auto* scroller = new QScrollArea;
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setWidgetResizable(true);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setWidget(area);
 
-  kop_ = new Kopregel;
-  kop_->setObjectName(QStringLiteral("kopregel"));
+  header_ = new KopregelLabel;
+  header_->setObjectName(QStringLiteral("kopregel"));
   kolom_ = new QWidget;
-  auto* indeling = new QVBoxLayout(kolom_);
-  indeling->addWidget(kop_);
-  indeling->addWidget(rol, 1);
-  connect(editor_, &qt::VrijeKolomWidget::refreshTopDisplay, kop_, &Kopregel::Toon);
+  auto* layout = new QVBoxLayout(kolom_);
+  layout->addWidget(header_);
+  layout->addWidget(scroller, 1);
+  connect(editor_, &qt::VrijeKolomWidget::refreshTopDisplay, header_, &KopregelLabel::Show);
 
-  addWidget(leeg_);
+  addWidget(empty_);
   addWidget(kolom_);
 }
 
-void Kolomscherm::Toon(const Plek& plek) {
-  plek_ = plek;
+void KolomScreen::Show(const Place& place) {
+  place_ = place;
   // What was being typed belongs to what stood here.
-  if (qt::EntryBox* vak = qt::EntryBox::PendingWithin(*editor_)) vak->Restore();
-  if (!plek.Vrij_Id) {
-    setCurrentWidget(leeg_);
+  if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*editor_)) box->Restore();
+  if (!place.Vrij_Id) {
+    setCurrentWidget(empty_);
     return;
   }
   setCurrentWidget(kolom_);
   // Proposals end budget items of the current situation; the new one has them as its own.
-  const bool voorstellen = plek.Len_Id == Dossier::kHuidig;
-  opname_.Doe(replay::BeeindigenStep{voorstellen}, [&] { editor_->SetBeeindigenZichtbaar(voorstellen); });
-  opname_.Doe(replay::BindStep{plek.Len_Id, *plek.Vrij_Id},
-              [&] { editor_->SetApplication(application_, plek.Len_Id, *plek.Vrij_Id); });
-  VernieuwKop();
+  const bool voorstellen = place.Len_Id == dossier::Dossier::kHuidig;
+  recording_.Do(replay::BeeindigenStep{voorstellen}, [&] { editor_->SetBeeindigenZichtbaar(voorstellen); });
+  recording_.Do(replay::BindStep{place.Len_Id, *place.Vrij_Id},
+                [&] { editor_->SetApplication(application_, place.Len_Id, *place.Vrij_Id); });
+  RefreshHeader();
 }
 
-void Kolomscherm::VernieuwKop() {
-  if (!plek_.Vrij_Id) return;
-  if (const auto kolom = application_->Bestand()->ZoekKolom(plek_.Len_Id, *plek_.Vrij_Id)) {
-    kop_->Toon(QString::fromStdString(kolom->Kopregel()));
+void KolomScreen::RefreshHeader() {
+  if (!place_.Vrij_Id) return;
+  if (const auto kolom = dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
+    header_->Show(QString::fromStdString(kolom->Kopregel()));
   }
 }
 
-bool Kolomscherm::MagVerlaten() {
-  if (!plek_.Vrij_Id) return true;
+bool KolomScreen::MayLeave() {
+  if (!place_.Vrij_Id) return true;
   if (!editor_->CommitPending()) return false;
   bool cancel = false;
-  opname_.Doe(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
-  if (cancel) FocusGeweigerd();
+  recording_.Do(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
+  if (cancel) FocusRefused();
   return !cancel;
 }
 
-void Kolomscherm::FocusGeweigerd() {
-  const frame::Controls vakken(editor_->Surface());
-  host::TextBox& aanvang = vakken[vrijekolom::TxtDtAanvang];
+void KolomScreen::FocusRefused() {
+  const frame::Controls boxes(editor_->Surface());
+  host::TextBox& aanvang = boxes[vrijekolom::TxtDtAanvang];
   // The editor refuses an empty start date before it looks at the end date.
   if (aanvang.DateValue().IsNone()) {
-    ZetFocus(aanvang);
+    PutFocus(aanvang);
   } else {
-    ZetFocus(vakken[vrijekolom::TxtDtEind]);
+    PutFocus(boxes[vrijekolom::TxtDtEind]);
   }
 }
 
-void Kolomscherm::FocusOmschrijving() { ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
+void KolomScreen::FocusOmschrijving() { PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
 
-void Kolomscherm::FocusEerste() {
-  if (plek_.Vrij_Id) ZetFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);
+void KolomScreen::FocusFirst() {
+  if (place_.Vrij_Id) PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);
 }
 
-void Kolomscherm::ZetFocus(host::TextBox& vak) {
-  vak.SetFocus();
+void KolomScreen::PutFocus(host::TextBox& box) {
+  box.SetFocus();
   // As when Tab leads there: what is typed takes the place of what stands there.
-  if (auto* regel = qobject_cast<QLineEdit*>(focusWidget())) regel->selectAll();
+  if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) line->selectAll();
 }
 
-bool Kolomscherm::HeeftFocus() const {
+bool KolomScreen::HasFocus() const {
   const QWidget* focus = focusWidget();
   return focus != nullptr && focus->hasFocus() && isAncestorOf(focus);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -3,54 +3,56 @@
 #include <QStackedWidget>
 #include <memory>
 
+#include "app/screen/EditorHost.h"
 #include "app/screen/Place.h"
-#include "dossier/model/Application.h"
+#include "dossier/model/Dossier.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-class Kopregel;
-class Opname;
+class KopregelLabel;
+class Recording;
 
 /// One free column on the screen: its header text above the editor, which is as high as it says. Where the
 /// window is smaller it scrolls.
-class Kolomscherm final : public QStackedWidget {
+class KolomScreen final : public QStackedWidget {
  public:
-  /// `opname` outlives the screen.
-  Kolomscherm(std::shared_ptr<Application> application, const host::HostFactories& factories, Opname& opname,
+  /// `recording` outlives the screen.
+  KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost host, Recording& recording,
               QWidget* parent = nullptr);
 
   /// Binds the editor to a column; for a loan without one a hint is shown in its place.
-  void Toon(const Plek& plek);
+  void Show(const Place& place);
   /// Binds it anew to the column that is shown.
-  void Herbind() { Toon(plek_); }
-  [[nodiscard]] const Plek& Getoond() const { return plek_; }
+  void Rebind() { Show(place_); }
+  [[nodiscard]] const Place& Shown() const { return place_; }
 
   /// Whether the column may be left: hands over the box that is being edited, then asks the editor. Refused,
   /// the focus is in the box that has to be mended.
-  [[nodiscard]] bool MagVerlaten();
+  [[nodiscard]] bool MayLeave();
   /// The header text as the record has it now.
-  void VernieuwKop();
+  void RefreshHeader();
 
   /// Puts the focus in the description, or in the first field.
   void FocusOmschrijving();
-  void FocusEerste();
+  void FocusFirst();
   /// Whether the focus is somewhere in the editor.
-  [[nodiscard]] bool HeeftFocus() const;
+  [[nodiscard]] bool HasFocus() const;
 
   [[nodiscard]] qt::VrijeKolomWidget& Editor() { return *editor_; }
 
  private:
-  void FocusGeweigerd();
-  void ZetFocus(host::TextBox& vak);
+  void FocusRefused();
+  void PutFocus(host::TextBox& box);
 
-  std::shared_ptr<Application> application_;
-  Opname& opname_;
-  Plek plek_;
-  QWidget* leeg_;
+  std::shared_ptr<dossier::Dossier> dossier_;
+  std::shared_ptr<host::Application> application_;
+  Recording& recording_;
+  Place place_;
+  QWidget* empty_;
   QWidget* kolom_;
-  Kopregel* kop_;
+  KopregelLabel* header_;
   qt::VrijeKolomWidget* editor_;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -7,7 +7,7 @@
 #include <QMimeData>
 #include <utility>
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 /// Internal id of a loan's index; a column's is its loan's number plus one.
@@ -16,86 +16,87 @@ constexpr char kMimeType[] = "application/x-brivane-vrije-kolom";
 
 }  // namespace
 
-QString LeningTekst(const Dossier& dossier, std::int16_t Len_Id) {
+QString LeningText(const dossier::Dossier& dossier, std::int16_t Len_Id) {
   const auto lening = dossier.ZoekLening(Len_Id);
   if (lening && !lening->Naam().empty()) return QString::fromStdString(lening->Naam());
-  return Len_Id == Dossier::kHuidig ? QStringLiteral("Huidige lening") : QStringLiteral("Nieuwe lening %1").arg(Len_Id);
+  return Len_Id == dossier::Dossier::kHuidig ? QStringLiteral("Huidige lening")
+                                             : QStringLiteral("Nieuwe lening %1").arg(Len_Id);
 }
 
-void Kolommenmodel::Toon(std::shared_ptr<Dossier> dossier) {
+void KolommenModel::Show(std::shared_ptr<dossier::Dossier> dossier) {
   beginResetModel();
   dossier_ = std::move(dossier);
   leningen_.clear();
   endResetModel();
-  Vernieuw();
+  Refresh();
 }
 
-bool Kolommenmodel::Vernieuw() {
-  std::vector<Kolommen> nu;
+bool KolommenModel::Refresh() {
+  std::vector<Kolommen> now;
   for (std::int16_t Len_Id = 0; dossier_ && Len_Id <= dossier_->AantalLeningen(); ++Len_Id) {
-    nu.push_back(dossier_->ZoekLening(Len_Id)->Kolommen());
+    now.push_back(dossier_->ZoekLening(Len_Id)->Kolommen());
   }
-  if (nu == leningen_) return false;
+  if (now == leningen_) return false;
   beginResetModel();
-  leningen_ = std::move(nu);
+  leningen_ = std::move(now);
   endResetModel();
   return true;
 }
 
-void Kolommenmodel::HertekenTekst(const Plek& plek) {
-  const QModelIndex index = IndexVan(plek);
+void KolommenModel::RedrawText(const Place& place) {
+  const QModelIndex index = IndexOf(place);
   if (index.isValid()) emit dataChanged(index, index);
 }
 
-Plek Kolommenmodel::PlekVan(const QModelIndex& index) const {
-  if (const VrijeKolom* kolom = KolomVan(index)) {
+Place KolommenModel::PlaceOf(const QModelIndex& index) const {
+  if (const dossier::VrijeKolom* kolom = KolomOf(index)) {
     return {static_cast<std::int16_t>(index.internalId() - 1), kolom->Id()};
   }
   return {static_cast<std::int16_t>(index.isValid() ? index.row() : 0), std::nullopt};
 }
 
-QModelIndex Kolommenmodel::IndexVan(const Plek& plek) const {
-  const auto nummer = static_cast<std::size_t>(plek.Len_Id);
-  if (plek.Len_Id < 0 || nummer >= leningen_.size()) return {};
-  if (!plek.Vrij_Id) return createIndex(plek.Len_Id, 0, kLening);
-  const Kolommen& kolommen = leningen_[nummer];
-  for (std::size_t rij = 0; rij < kolommen.size(); ++rij) {
-    if (kolommen[rij]->Id() == *plek.Vrij_Id) return createIndex(static_cast<int>(rij), 0, quintptr{nummer + 1});
+QModelIndex KolommenModel::IndexOf(const Place& place) const {
+  const auto number = static_cast<std::size_t>(place.Len_Id);
+  if (place.Len_Id < 0 || number >= leningen_.size()) return {};
+  if (!place.Vrij_Id) return createIndex(place.Len_Id, 0, kLening);
+  const Kolommen& kolommen = leningen_[number];
+  for (std::size_t row = 0; row < kolommen.size(); ++row) {
+    if (kolommen[row]->Id() == *place.Vrij_Id) return createIndex(static_cast<int>(row), 0, quintptr{number + 1});
   }
   return {};
 }
 
-const VrijeKolom* Kolommenmodel::KolomVan(const QModelIndex& index) const {
+const dossier::VrijeKolom* KolommenModel::KolomOf(const QModelIndex& index) const {
   if (!index.isValid() || index.internalId() == kLening) return nullptr;
   return leningen_[index.internalId() - 1][static_cast<std::size_t>(index.row())].get();
 }
 
-QModelIndex Kolommenmodel::index(int row, int column, const QModelIndex& parent) const {
+QModelIndex KolommenModel::index(int row, int column, const QModelIndex& parent) const {
   if (column != 0 || row < 0 || row >= rowCount(parent)) return {};
   return createIndex(row, column, parent.isValid() ? static_cast<quintptr>(parent.row() + 1) : kLening);
 }
 
-QModelIndex Kolommenmodel::parent(const QModelIndex& index) const {
+QModelIndex KolommenModel::parent(const QModelIndex& index) const {
   if (!index.isValid() || index.internalId() == kLening) return {};
   return createIndex(static_cast<int>(index.internalId() - 1), 0, kLening);
 }
 
-int Kolommenmodel::rowCount(const QModelIndex& parent) const {
+int KolommenModel::rowCount(const QModelIndex& parent) const {
   if (!parent.isValid()) return static_cast<int>(leningen_.size());
   if (parent.internalId() != kLening) return 0;
   return static_cast<int>(leningen_[static_cast<std::size_t>(parent.row())].size());
 }
 
-int Kolommenmodel::columnCount(const QModelIndex&) const { return 1; }
+int KolommenModel::columnCount(const QModelIndex&) const { return 1; }
 
-QVariant Kolommenmodel::data(const QModelIndex& index, int role) const {
+QVariant KolommenModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const VrijeKolom* kolom = KolomVan(index);
+  const dossier::VrijeKolom* kolom = KolomOf(index);
   switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
       return kolom ? QString::fromStdString(kolom->Kopregel())
-                   : LeningTekst(*dossier_, static_cast<std::int16_t>(index.row()));
+                   : LeningText(*dossier_, static_cast<std::int16_t>(index.row()));
     case Qt::FontRole:
       if (kolom) return {};
       {
@@ -107,39 +108,39 @@ QVariant Kolommenmodel::data(const QModelIndex& index, int role) const {
   }
 }
 
-Qt::ItemFlags Kolommenmodel::flags(const QModelIndex& index) const {
+Qt::ItemFlags KolommenModel::flags(const QModelIndex& index) const {
   if (!index.isValid()) return Qt::NoItemFlags;
-  const Qt::ItemFlags vlaggen = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDropEnabled;
-  return KolomVan(index) ? vlaggen | Qt::ItemIsDragEnabled : vlaggen;
+  const Qt::ItemFlags flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDropEnabled;
+  return KolomOf(index) ? flags | Qt::ItemIsDragEnabled : flags;
 }
 
-QStringList Kolommenmodel::mimeTypes() const { return {QLatin1String(kMimeType)}; }
+QStringList KolommenModel::mimeTypes() const { return {QLatin1String(kMimeType)}; }
 
-QMimeData* Kolommenmodel::mimeData(const QModelIndexList& indexes) const {
+QMimeData* KolommenModel::mimeData(const QModelIndexList& indexes) const {
   if (indexes.isEmpty()) return nullptr;
-  const Plek plek = PlekVan(indexes.first());
-  if (!plek.Vrij_Id) return nullptr;
+  const Place place = PlaceOf(indexes.first());
+  if (!place.Vrij_Id) return nullptr;
   QByteArray bytes;
-  QDataStream stroom(&bytes, QIODevice::WriteOnly);
-  stroom << reinterpret_cast<quintptr>(this) << plek.Len_Id << *plek.Vrij_Id;
-  auto* inhoud = new QMimeData;
-  inhoud->setData(QLatin1String(kMimeType), bytes);
-  return inhoud;
+  QDataStream stream(&bytes, QIODevice::WriteOnly);
+  stream << reinterpret_cast<quintptr>(this) << place.Len_Id << *place.Vrij_Id;
+  auto* contents = new QMimeData;
+  contents->setData(QLatin1String(kMimeType), bytes);
+  return contents;
 }
 
-bool Kolommenmodel::dropMimeData(const QMimeData* data, Qt::DropAction, int, int, const QModelIndex& parent) {
+bool KolommenModel::dropMimeData(const QMimeData* data, Qt::DropAction, int, int, const QModelIndex& parent) {
   if (!parent.isValid() || !data->hasFormat(QLatin1String(kMimeType))) return false;
-  QDataStream stroom(data->data(QLatin1String(kMimeType)));
-  quintptr vanModel = 0;
+  QDataStream stream(data->data(QLatin1String(kMimeType)));
+  quintptr fromModel = 0;
   std::int16_t Len_Id = 0;
   std::int16_t Vrij_Id = 0;
-  stroom >> vanModel >> Len_Id >> Vrij_Id;
+  stream >> fromModel >> Len_Id >> Vrij_Id;
   // A column of another window's case is not this case's to move.
-  if (vanModel != reinterpret_cast<quintptr>(this)) return false;
-  const Plek naar = PlekVan(parent);
-  if (naar.Len_Id != Len_Id && verplaatsGevraagd) verplaatsGevraagd({Len_Id, Vrij_Id}, naar.Len_Id);
+  if (fromModel != reinterpret_cast<quintptr>(this)) return false;
+  const Place to = PlaceOf(parent);
+  if (to.Len_Id != Len_Id && moveAsked) moveAsked({Len_Id, Vrij_Id}, to.Len_Id);
   // The view must not take the row out itself.
   return false;
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

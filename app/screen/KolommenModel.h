@@ -8,30 +8,30 @@
 #include "app/screen/Place.h"
 #include "dossier/model/Dossier.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// The loans of a case and their free columns, as a tree of two levels.
 ///
-/// It shows the case as it was at the last Vernieuw; the case may change in between. A column that is dropped on
+/// It shows the case as it was at the last Refresh; the case may change in between. A column that is dropped on
 /// a loan is only asked to be moved there.
-class Kolommenmodel final : public QAbstractItemModel {
+class KolommenModel final : public QAbstractItemModel {
  public:
-  explicit Kolommenmodel(QObject* parent = nullptr) : QAbstractItemModel(parent) {}
+  explicit KolommenModel(QObject* parent = nullptr) : QAbstractItemModel(parent) {}
 
   /// Shows another case, or nothing.
-  void Toon(std::shared_ptr<Dossier> dossier);
+  void Show(std::shared_ptr<dossier::Dossier> dossier);
   /// Takes over which loans and columns there are now. Answers whether that is another set than before; the
   /// model was reset then.
-  bool Vernieuw();
+  bool Refresh();
   /// The texts of one column may have changed.
-  void HertekenTekst(const Plek& plek);
+  void RedrawText(const Place& place);
 
-  [[nodiscard]] Plek PlekVan(const QModelIndex& index) const;
+  [[nodiscard]] Place PlaceOf(const QModelIndex& index) const;
   /// An invalid index where there is no such place.
-  [[nodiscard]] QModelIndex IndexVan(const Plek& plek) const;
+  [[nodiscard]] QModelIndex IndexOf(const Place& place) const;
 
   /// A person dropped a column on another loan.
-  std::function<void(Plek kolom, std::int16_t naarLen_Id)> verplaatsGevraagd;
+  std::function<void(Place kolom, std::int16_t toLen_Id)> moveAsked;
 
   [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   [[nodiscard]] QModelIndex parent(const QModelIndex& index) const override;
@@ -46,15 +46,15 @@ class Kolommenmodel final : public QAbstractItemModel {
                     const QModelIndex& parent) override;
 
  private:
-  using Kolommen = std::vector<std::shared_ptr<VrijeKolom>>;
+  using Kolommen = std::vector<std::shared_ptr<dossier::VrijeKolom>>;
 
-  [[nodiscard]] const VrijeKolom* KolomVan(const QModelIndex& index) const;
+  [[nodiscard]] const dossier::VrijeKolom* KolomOf(const QModelIndex& index) const;
 
-  std::shared_ptr<Dossier> dossier_;
+  std::shared_ptr<dossier::Dossier> dossier_;
   std::vector<Kolommen> leningen_;
 };
 
 /// Name of a loan on the screen: its own, or "Huidige lening", "Nieuwe lening 2".
-[[nodiscard]] QString LeningTekst(const Dossier& dossier, std::int16_t Len_Id);
+[[nodiscard]] QString LeningText(const dossier::Dossier& dossier, std::int16_t Len_Id);
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

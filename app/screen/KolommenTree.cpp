@@ -6,15 +6,15 @@
 
 #include "app/screen/Actions.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr int kMinstensTekens = 24;  ///< least width, in characters
+constexpr int kLeastCharacters = 24;  ///< least width, in characters
 
 }  // namespace
 
-Kolommenboom::Kolommenboom(std::shared_ptr<Dossier> dossier, QWidget* parent)
-    : QTreeView(parent), model_(new Kolommenmodel(this)) {
+KolommenTree::KolommenTree(std::shared_ptr<dossier::Dossier> dossier, QWidget* parent)
+    : QTreeView(parent), model_(new KolommenModel(this)) {
   setObjectName(QStringLiteral("kolommen"));
   setAccessibleName(QStringLiteral("Leningen en vrije kolommen"));
   setModel(model_);
@@ -26,65 +26,65 @@ Kolommenboom::Kolommenboom(std::shared_ptr<Dossier> dossier, QWidget* parent)
   setContextMenuPolicy(Qt::ActionsContextMenu);
   // A click takes no focus of itself: a box that refuses keeps it, and says so once.
   setFocusPolicy(Qt::TabFocus);
-  setMinimumWidth(fontMetrics().averageCharWidth() * kMinstensTekens);
+  setMinimumWidth(fontMetrics().averageCharWidth() * kLeastCharacters);
 
-  const auto later = [this](auto taak) { QMetaObject::invokeMethod(this, taak, Qt::QueuedConnection); };
+  const auto later = [this](auto task) { QMetaObject::invokeMethod(this, task, Qt::QueuedConnection); };
   connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this, later] {
-    if (selecteert_) return;
+    if (selecting_) return;
     later([this] {
-      if (gekozen && currentIndex().isValid()) gekozen(model_->PlekVan(currentIndex()));
+      if (chosen && currentIndex().isValid()) chosen(model_->PlaceOf(currentIndex()));
     });
   });
   connect(this, &QTreeView::clicked, this, [this, later](const QModelIndex& index) {
-    later([this, plek = model_->PlekVan(index)] {
-      if (aangeklikt) aangeklikt(plek);
+    later([this, place = model_->PlaceOf(index)] {
+      if (clickEnded) clickEnded(place);
     });
   });
-  model_->verplaatsGevraagd = [this, later](Plek kolom, std::int16_t naarLen_Id) {
-    later([this, kolom, naarLen_Id] {
-      if (gesleept) gesleept(kolom, naarLen_Id);
+  model_->moveAsked = [this, later](Place kolom, std::int16_t toLen_Id) {
+    later([this, kolom, toLen_Id] {
+      if (dragged) dragged(kolom, toLen_Id);
     });
   };
-  model_->Toon(std::move(dossier));
+  model_->Show(std::move(dossier));
   expandAll();
 }
 
-bool Kolommenboom::Vernieuw(const Plek& getoond) {
-  const bool vorige = std::exchange(selecteert_, true);
-  const bool anders = model_->Vernieuw();
-  if (anders) {
+bool KolommenTree::Refresh(const Place& shown) {
+  const bool previous = std::exchange(selecting_, true);
+  const bool changed = model_->Refresh();
+  if (changed) {
     expandAll();
-    setCurrentIndex(model_->IndexVan(getoond));
+    setCurrentIndex(model_->IndexOf(shown));
   }
-  selecteert_ = vorige;
-  return anders;
+  selecting_ = previous;
+  return changed;
 }
 
-void Kolommenboom::Selecteer(const Plek& plek) {
-  const bool vorige = std::exchange(selecteert_, true);
-  setCurrentIndex(model_->IndexVan(plek));
+void KolommenTree::Select(const Place& place) {
+  const bool previous = std::exchange(selecting_, true);
+  setCurrentIndex(model_->IndexOf(place));
   scrollTo(currentIndex());
-  selecteert_ = vorige;
+  selecting_ = previous;
 }
 
-Plek Kolommenboom::Buur(const Plek& kolom) const {
-  const QModelIndex hier = model_->IndexVan(kolom);
-  for (const int rij : {hier.row() + 1, hier.row() - 1}) {
-    if (const QModelIndex buur = hier.siblingAtRow(rij); buur.isValid()) return model_->PlekVan(buur);
+Place KolommenTree::Neighbour(const Place& kolom) const {
+  const QModelIndex here = model_->IndexOf(kolom);
+  for (const int row : {here.row() + 1, here.row() - 1}) {
+    if (const QModelIndex neighbour = here.siblingAtRow(row); neighbour.isValid()) return model_->PlaceOf(neighbour);
   }
   return {kolom.Len_Id, std::nullopt};
 }
 
-void Kolommenboom::ZetActies(const Acties& acties) {
-  addActions({acties.toevoegen, acties.dupliceren, acties.verplaatsen->menuAction(), acties.afwijking->menuAction(),
-              acties.verwijderen});
-  const auto toets = [this](Qt::Key knop, QAction* actie) {
-    auto* sneltoets = new QShortcut(knop, this);
-    sneltoets->setContext(Qt::WidgetShortcut);
-    connect(sneltoets, &QShortcut::activated, actie, &QAction::trigger);
+void KolommenTree::SetActions(const Actions& actions) {
+  addActions(
+      {actions.add, actions.duplicate, actions.move->menuAction(), actions.afwijking->menuAction(), actions.remove});
+  const auto key = [this](Qt::Key button, QAction* action) {
+    auto* shortcut = new QShortcut(button, this);
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, action, &QAction::trigger);
   };
-  toets(Qt::Key_Insert, acties.toevoegen);
-  toets(Qt::Key_Delete, acties.verwijderen);
+  key(Qt::Key_Insert, actions.add);
+  key(Qt::Key_Delete, actions.remove);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -3,28 +3,28 @@
 #include <QPainter>
 #include <QStyle>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-Kopregel::Kopregel(QWidget* parent) : QLabel(parent) {
-  QFont letter = font();
-  letter.setPointSizeF(letter.pointSizeF() * 1.3);
-  letter.setBold(true);
-  setFont(letter);
+KopregelLabel::KopregelLabel(QWidget* parent) : QLabel(parent) {
+  QFont headerFont = font();
+  headerFont.setPointSizeF(headerFont.pointSizeF() * 1.3);
+  headerFont.setBold(true);
+  setFont(headerFont);
   setTextFormat(Qt::PlainText);
 }
 
-void Kopregel::Toon(const QString& tekst) {
-  setText(tekst);
-  setToolTip(tekst);
+void KopregelLabel::Show(const QString& text) {
+  setText(text);
+  setToolTip(text);
 }
 
-QSize Kopregel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
+QSize KopregelLabel::minimumSizeHint() const { return {0, QLabel::minimumSizeHint().height()}; }
 
-void Kopregel::paintEvent(QPaintEvent*) {
-  QPainter schilder(this);
-  const QRect vlak = contentsRect();
-  style()->drawItemText(&schilder, vlak, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                        fontMetrics().elidedText(text(), Qt::ElideRight, vlak.width()), foregroundRole());
+void KopregelLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect area = contentsRect();
+  style()->drawItemText(&painter, area, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                        fontMetrics().elidedText(text(), Qt::ElideRight, area.width()), foregroundRole());
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

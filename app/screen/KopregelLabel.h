@@ -2,17 +2,17 @@
 
 #include <QLabel>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// The header text of a column: one line, cut off with an ellipsis where it does not fit.
-class Kopregel final : public QLabel {
+class KopregelLabel final : public QLabel {
  public:
-  explicit Kopregel(QWidget* parent = nullptr);
-  void Toon(const QString& tekst);
+  explicit KopregelLabel(QWidget* parent = nullptr);
+  void Show(const QString& text);
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -16,135 +16,135 @@
 #include "app/screen/StartPage.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr int kMeldingstijd = 4000;  ///< milliseconds
+constexpr int kMessageTime = 4000;  ///< milliseconds
 
 }  // namespace
 
-Hoofdvenster::Hoofdvenster(Logboek& logboek)
-    : logboek_(logboek),
-      acties_(*this),
-      eigenaar_(std::make_shared<qt::Hoofdvenster>(this)),
-      stapel_(new QStackedWidget),
-      start_(new Startpagina({acties_.nieuw, acties_.openen, acties_.voorbeeld})),
-      bevindingen_(new Bevindingenlijst(this)),
-      aandachtspunten_(new QLabel),
-      bestandsnaam_(new QLabel) {
+MainWindow::MainWindow(EventLog& eventLog)
+    : eventLog_(eventLog),
+      actions_(*this),
+      owner_(std::make_shared<qt::Hoofdvenster>(this)),
+      stack_(new QStackedWidget),
+      start_(new StartPage({actions_.create, actions_.open, actions_.sample})),
+      findings_(new FindingsList(this)),
+      attention_(new QLabel),
+      fileName_(new QLabel) {
   setObjectName(QStringLiteral("hoofdvenster"));
-  stapel_->addWidget(start_);
-  setCentralWidget(stapel_);
-  addDockWidget(Qt::BottomDockWidgetArea, bevindingen_);
-  bevindingen_->hide();
-  aandachtspunten_->setObjectName(QStringLiteral("aandachtspunten"));
-  statusBar()->addPermanentWidget(aandachtspunten_);
-  statusBar()->addPermanentWidget(bestandsnaam_);
-  Verbind();
-  resize(kEersteMaat.boundedTo(screen()->availableSize()));
-  restoreGeometry(Instellingen::Vensterplaats());
-  WerkActiesBij();
+  stack_->addWidget(start_);
+  setCentralWidget(stack_);
+  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  findings_->hide();
+  attention_->setObjectName(QStringLiteral("aandachtspunten"));
+  statusBar()->addPermanentWidget(attention_);
+  statusBar()->addPermanentWidget(fileName_);
+  Connect();
+  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  restoreGeometry(Settings::WindowPlace());
+  UpdateActions();
   start_->setFocus();
 }
 
-Hoofdvenster::~Hoofdvenster() = default;
+MainWindow::~MainWindow() = default;
 
-bool Hoofdvenster::Open(const QString& bestand) {
-  if (scherm_ && !scherm_->MagVerlaten()) return false;
-  if (scherm_ && QFileInfo(scherm_->Bestand().Pad()) == QFileInfo(bestand)) return true;
+bool MainWindow::Open(const QString& file) {
+  if (screen_ && !screen_->MayLeave()) return false;
+  if (screen_ && QFileInfo(screen_->File().Pad()) == QFileInfo(file)) return true;
   try {
-    std::unique_ptr<DossierBestand> geopend = DossierBestand::Open(bestand);
-    if (!SluitDossier()) return false;
-    Toon(std::move(geopend));
-  } catch (const OpeningError& fout) {
-    ToonMelding(this, QStringLiteral("Dossier openen"), fout.Melding());
+    std::unique_ptr<dossier::DossierFile> opened = dossier::DossierFile::Open(file);
+    if (!CloseDossier()) return false;
+    Show(std::move(opened));
+  } catch (const dossier::OpeningError& error) {
+    ShowMessage(this, QStringLiteral("Dossier openen"), error.Melding());
     return false;
   }
   return true;
 }
 
-void Hoofdvenster::Toon(std::unique_ptr<DossierBestand> bestand) {
-  Instellingen::SetLaatsteBestand(bestand->Pad());
-  scherm_ = new Dossierscherm(std::move(bestand), eigenaar_, logboek_, opname_);
-  stapel_->addWidget(scherm_);
-  stapel_->setCurrentWidget(scherm_);
-  scherm_->restoreState(Instellingen::Verdeling());
-  connect(scherm_, &Dossierscherm::plekGewijzigd, this, &Hoofdvenster::WerkActiesBij);
-  connect(scherm_, &Dossierscherm::opgeslagen, this,
-          [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMeldingstijd); });
-  connect(scherm_, &Dossierscherm::aandachtspunten, this, &Hoofdvenster::ToonAandachtspunten);
-  scherm_->Boom().ZetActies(acties_);
-  bestandsnaam_->setText(QDir::toNativeSeparators(scherm_->Bestand().Pad()));
-  setWindowTitle(QFileInfo(scherm_->Bestand().Pad()).completeBaseName());
-  WerkActiesBij();
-  scherm_->WisselFocus();
+void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
+  Settings::SetLastFile(file->Pad());
+  screen_ = new DossierScreen(std::move(file), owner_, eventLog_, recording_, instrument);
+  stack_->addWidget(screen_);
+  stack_->setCurrentWidget(screen_);
+  screen_->restoreState(Settings::Split());
+  connect(screen_, &DossierScreen::placeChanged, this, &MainWindow::UpdateActions);
+  connect(screen_, &DossierScreen::stored, this,
+          [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
+  connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
+  screen_->Tree().SetActions(actions_);
+  fileName_->setText(QDir::toNativeSeparators(screen_->File().Pad()));
+  setWindowTitle(QFileInfo(screen_->File().Pad()).completeBaseName());
+  UpdateActions();
+  screen_->SwitchFocus();
 }
 
-bool Hoofdvenster::Maak(const QString& bestand, const DossierGegevens& gegevens) {
-  if (scherm_ && !scherm_->MagVerlaten()) return false;
+bool MainWindow::Make(const QString& file, const dossier::DossierGegevens& gegevens) {
+  if (screen_ && !screen_->MayLeave()) return false;
   try {
-    DossierBestand::Maak(bestand, gegevens);
-  } catch (const OpeningError& fout) {
-    ToonMelding(this, QStringLiteral("Nieuw dossier"), fout.Melding());
+    dossier::DossierFile::Maak(file, gegevens);
+  } catch (const dossier::OpeningError& error) {
+    ShowMessage(this, QStringLiteral("Nieuw dossier"), error.Melding());
     return false;
   }
-  return Open(bestand);
+  return Open(file);
 }
 
-bool Hoofdvenster::SluitDossier() {
-  if (!scherm_) return true;
-  if (!scherm_->MagVerlaten()) return false;
-  Instellingen::SetVerdeling(scherm_->saveState());
-  StopOpname();
-  opname_.LaatLos();
-  delete scherm_;
-  bevindingen_->Leeg();
-  bestandsnaam_->clear();
-  ToonAandachtspunten(0);
+bool MainWindow::CloseDossier() {
+  if (!screen_) return true;
+  if (!screen_->MayLeave()) return false;
+  Settings::SetSplit(screen_->saveState());
+  StopRecording();
+  recording_.LetGo();
+  delete screen_;
+  findings_->Clear();
+  fileName_->clear();
+  ShowAttention(0);
   setWindowTitle(QString());
   statusBar()->clearMessage();
-  WerkActiesBij();
+  UpdateActions();
   start_->setFocus();
   return true;
 }
 
-void Hoofdvenster::ToonAandachtspunten(std::size_t aantal) {
-  aandachtspunten_->setText(aantal == 0 ? QString() : QStringLiteral("Aandachtspunten: %1 (F7)").arg(aantal));
+void MainWindow::ShowAttention(std::size_t count) {
+  attention_->setText(count == 0 ? QString() : QStringLiteral("Aandachtspunten: %1 (F7)").arg(count));
 }
 
-void Hoofdvenster::closeEvent(QCloseEvent* event) {
-  if (!SluitDossier()) {
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (!CloseDossier()) {
     event->ignore();
     return;
   }
-  Instellingen::SetVensterplaats(saveGeometry());
+  Settings::SetWindowPlace(saveGeometry());
   event->accept();
 }
 
-void Hoofdvenster::WerkActiesBij() {
-  const bool open = scherm_ != nullptr;
-  for (QAction* actie : acties_.VoorDossier()) actie->setEnabled(open);
-  const bool kolom = open && scherm_->Getoond().Vrij_Id;
-  for (QAction* actie : acties_.VoorKolom()) actie->setEnabled(kolom);
-  if (open) VulLeningmenus();
+void MainWindow::UpdateActions() {
+  const bool open = screen_ != nullptr;
+  for (QAction* action : actions_.ForDossier()) action->setEnabled(open);
+  const bool kolom = open && screen_->Shown().Vrij_Id;
+  for (QAction* action : actions_.ForKolom()) action->setEnabled(kolom);
+  if (open) FillLeningMenus();
 }
 
-void Hoofdvenster::VulLeningmenus() {
-  acties_.verplaatsen->clear();
-  acties_.afwijking->clear();
-  const Plek hier = scherm_->Getoond();
-  const Dossier& dossier = scherm_->Gegevens();
+void MainWindow::FillLeningMenus() {
+  actions_.move->clear();
+  actions_.afwijking->clear();
+  const Place here = screen_->Shown();
+  const dossier::Dossier& dossier = screen_->Dossier();
   for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
     // A number as mnemonic: the names may begin alike.
-    const QString tekst = QStringLiteral("&%1 %2").arg(Len_Id).arg(LeningTekst(dossier, Len_Id).replace(u'&', "&&"));
-    if (Len_Id != hier.Len_Id) {
-      acties_.verplaatsen->addAction(tekst, this, [this, hier, Len_Id] { scherm_->Verplaats(hier, Len_Id); });
+    const QString text = QStringLiteral("&%1 %2").arg(Len_Id).arg(LeningText(dossier, Len_Id).replace(u'&', "&&"));
+    if (Len_Id != here.Len_Id) {
+      actions_.move->addAction(text, this, [this, here, Len_Id] { screen_->MoveKolom(here, Len_Id); });
     }
-    if (Len_Id != Dossier::kHuidig) {
-      acties_.afwijking->addAction(tekst, this, [this, Len_Id] { scherm_->MaakAfwijking(Len_Id); });
+    if (Len_Id != dossier::Dossier::kHuidig) {
+      actions_.afwijking->addAction(text, this, [this, Len_Id] { screen_->MakeAfwijking(Len_Id); });
     }
   }
-  acties_.afwijking->menuAction()->setEnabled(hier.Vrij_Id && hier.Len_Id == Dossier::kHuidig);
+  actions_.afwijking->menuAction()->setEnabled(here.Vrij_Id && here.Len_Id == dossier::Dossier::kHuidig);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

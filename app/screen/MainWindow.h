@@ -11,72 +11,75 @@
 class QLabel;
 class QStackedWidget;
 
-namespace brivane::dossier {
+namespace brivane::app {
 
-class Bevindingenlijst;
-class Startpagina;
+class FindingsList;
+class StartPage;
 
 /// The program's window: one loan file at a time, or the page that offers to open one.
 ///
 /// Closing it, or the file, asks the open column first; refused, everything stays.
-class Hoofdvenster final : public QMainWindow {
+class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
   /// Size at the very first start, where the screen is large enough: the editor fits without scrolling.
-  static constexpr QSize kEersteMaat{1220, 760};
+  static constexpr QSize kFirstSize{1220, 760};
 
-  /// `logboek` outlives the window.
-  explicit Hoofdvenster(Logboek& logboek);
-  ~Hoofdvenster() override;
+  /// `eventLog` outlives the window.
+  explicit MainWindow(EventLog& eventLog);
+  ~MainWindow() override;
 
   /// Opens a loan file in place of the open one. Where that cannot be it says why, and all stays as it was.
-  bool Open(const QString& bestand);
+  bool Open(const QString& file);
   /// Shows a loan file that is open already, in place of the page that offers to open one.
-  void Toon(std::unique_ptr<DossierBestand> bestand);
+  void Show(std::unique_ptr<dossier::DossierFile> file);
   /// Makes a loan file and opens it; the same holds.
-  bool Maak(const QString& bestand, const DossierGegevens& gegevens);
+  bool Make(const QString& file, const dossier::DossierGegevens& gegevens);
   /// Closes the open file. False when its column must be mended first.
-  bool SluitDossier();
+  bool CloseDossier();
 
   /// The open file's screen, or nothing.
-  [[nodiscard]] Dossierscherm* Scherm() const { return scherm_; }
-  [[nodiscard]] const Acties& Opdrachten() const { return acties_; }
+  [[nodiscard]] DossierScreen* Screen() const { return screen_; }
+  [[nodiscard]] const app::Actions& Actions() const { return actions_; }
+
+  /// Put between the next file's editor and its host, when set.
+  Instrument instrument;
 
   /// Opens the file anew and records what is done in its columns, until it is closed or the recording stopped.
-  bool NeemOp(const QString& bestand);
+  bool Record(const QString& file);
   /// Ends the recording, if any, and writes it.
-  void StopOpname();
+  void StopRecording();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void Verbind();
-  void VraagNieuw();
-  void VraagOpenen();
-  void OpenVoorbeeld();
-  void VraagClient();
-  void VraagLening();
-  void Controleer();
-  void ToonOver();
-  void VraagOpname();
-  void OpnameGebroken();
-  [[nodiscard]] QString VraagNieuwBestand(const QString& titel, const QString& naam);
-  void ToonAandachtspunten(std::size_t aantal);
-  void WerkActiesBij();
-  void VulLeningmenus();
+  void Connect();
+  void AskNew();
+  void AskOpen();
+  void OpenSample();
+  void AskClient();
+  void AskLening();
+  void Check();
+  void ShowAbout();
+  void AskRecording();
+  void RecordingBroken();
+  [[nodiscard]] QString AskNewFile(const QString& title, const QString& name);
+  void ShowAttention(std::size_t count);
+  void UpdateActions();
+  void FillLeningMenus();
 
-  Logboek& logboek_;
-  Acties acties_;
-  std::shared_ptr<host::Hoofdvenster> eigenaar_;
-  QStackedWidget* stapel_;
-  Startpagina* start_;
-  Bevindingenlijst* bevindingen_;
-  QLabel* aandachtspunten_;
-  QLabel* bestandsnaam_;
-  Opname opname_;
-  QPointer<Dossierscherm> scherm_;
+  EventLog& eventLog_;
+  app::Actions actions_;
+  std::shared_ptr<host::Hoofdvenster> owner_;
+  QStackedWidget* stack_;
+  StartPage* start_;
+  FindingsList* findings_;
+  QLabel* attention_;
+  QLabel* fileName_;
+  Recording recording_;
+  QPointer<DossierScreen> screen_;
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -13,109 +13,109 @@
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 constexpr char kFilter[] = "Dossiers (*.dossier)";
-constexpr int kLijstRegels = 9;  ///< height of the list of findings at first
-constexpr char kAchtervoegsel[] = "dossier";
+constexpr int kListLines = 9;  ///< height of the list of findings at first
+constexpr char kSuffix[] = "dossier";
 
 }  // namespace
 
-void Hoofdvenster::Verbind() {
-  const auto doe = [this](QAction* actie, auto taak) { connect(actie, &QAction::triggered, this, taak); };
-  doe(acties_.nieuw, [this] { VraagNieuw(); });
-  doe(acties_.openen, [this] { VraagOpenen(); });
-  doe(acties_.voorbeeld, [this] { OpenVoorbeeld(); });
-  doe(acties_.sluiten, [this] { SluitDossier(); });
-  doe(acties_.afsluiten, [this] { close(); });
-  doe(acties_.toevoegen, [this] { scherm_->VoegToe(); });
-  doe(acties_.dupliceren, [this] { scherm_->Dupliceer(); });
-  doe(acties_.verwijderen, [this] { scherm_->Verwijder(); });
-  doe(acties_.verplaatsenMetToets, [this] { acties_.verplaatsen->popup(scherm_->mapToGlobal(QPoint())); });
-  doe(acties_.vorige, [this] { scherm_->GaVerder(-1); });
-  doe(acties_.volgende, [this] { scherm_->GaVerder(1); });
-  doe(acties_.boomOfKolom, [this] { scherm_->WisselFocus(); });
-  doe(acties_.client, [this] { VraagClient(); });
-  doe(acties_.leningToevoegen, [this] { VraagLening(); });
-  doe(acties_.controleren, [this] { Controleer(); });
-  doe(acties_.opnemen, [this] { acties_.opnemen->isChecked() ? VraagOpname() : StopOpname(); });
-  doe(acties_.logboek, [this] { Logboekvenster(logboek_, this).exec(); });
-  doe(acties_.over, [this] { ToonOver(); });
-  bevindingen_->gekozen = [this](const Plek& plek) {
-    if (scherm_ && scherm_->GaNaar(plek)) scherm_->WisselFocus();
+void MainWindow::Connect() {
+  const auto on = [this](QAction* action, auto task) { connect(action, &QAction::triggered, this, task); };
+  on(actions_.create, [this] { AskNew(); });
+  on(actions_.open, [this] { AskOpen(); });
+  on(actions_.sample, [this] { OpenSample(); });
+  on(actions_.close, [this] { CloseDossier(); });
+  on(actions_.quit, [this] { close(); });
+  on(actions_.add, [this] { screen_->AddKolom(); });
+  on(actions_.duplicate, [this] { screen_->DuplicateKolom(); });
+  on(actions_.remove, [this] { screen_->RemoveKolom(); });
+  on(actions_.moveByKey, [this] { actions_.move->popup(screen_->mapToGlobal(QPoint())); });
+  on(actions_.previous, [this] { screen_->GoOn(-1); });
+  on(actions_.next, [this] { screen_->GoOn(1); });
+  on(actions_.treeOrKolom, [this] { screen_->SwitchFocus(); });
+  on(actions_.client, [this] { AskClient(); });
+  on(actions_.addLening, [this] { AskLening(); });
+  on(actions_.check, [this] { Check(); });
+  on(actions_.record, [this] { actions_.record->isChecked() ? AskRecording() : StopRecording(); });
+  on(actions_.eventLog, [this] { EventLogWindow(eventLog_, this).exec(); });
+  on(actions_.about, [this] { ShowAbout(); });
+  findings_->chosen = [this](const Place& place) {
+    if (screen_ && screen_->GoTo(place)) screen_->SwitchFocus();
   };
 }
 
-void Hoofdvenster::VraagNieuw() {
-  if (scherm_ && !scherm_->MagVerlaten()) return;
-  Clientvenster vraag(QStringLiteral("Nieuw dossier"), Client(), this);
-  if (vraag.exec() != QDialog::Accepted) return;
-  DossierGegevens gegevens = LeegDossier();
-  const Client client = vraag.Gegevens();
+void MainWindow::AskNew() {
+  if (screen_ && !screen_->MayLeave()) return;
+  ClientDialog question(QStringLiteral("Nieuw dossier"), Client(), this);
+  if (question.exec() != QDialog::Accepted) return;
+  dossier::DossierGegevens gegevens = dossier::LeegDossier();
+  const Client client = question.Contents();
   gegevens.Personen = client.personen;
   gegevens.Leeftijd = client.leeftijd;
-  const QString naam = QString::fromStdString(client.personen.front().Naam.back());
-  const QString bestand = VraagNieuwBestand(QStringLiteral("Nieuw dossier opslaan als"), naam);
-  if (!bestand.isEmpty()) Maak(bestand, gegevens);
+  const QString name = QString::fromStdString(client.personen.front().Naam.back());
+  const QString file = AskNewFile(QStringLiteral("Nieuw dossier opslaan als"), name);
+  if (!file.isEmpty()) Make(file, gegevens);
 }
 
-void Hoofdvenster::VraagOpenen() {
-  if (scherm_ && !scherm_->MagVerlaten()) return;
-  const QString bestand =
-      QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Instellingen::Map(),
+void MainWindow::AskOpen() {
+  if (screen_ && !screen_->MayLeave()) return;
+  const QString file =
+      QFileDialog::getOpenFileName(this, QStringLiteral("Dossier openen"), Settings::Folder(),
                                    QString::fromLatin1(kFilter) + QStringLiteral(";;Alle bestanden (*)"));
-  if (!bestand.isEmpty()) Open(bestand);
+  if (!file.isEmpty()) Open(file);
 }
 
-void Hoofdvenster::OpenVoorbeeld() {
-  if (scherm_ && !scherm_->MagVerlaten()) return;
-  const QString bestand = VraagNieuwBestand(QStringLiteral("Voorbeeld opslaan als"), QStringLiteral("Voorbeeld"));
-  if (!bestand.isEmpty()) Maak(bestand, VoorbeeldDossier());
+void MainWindow::OpenSample() {
+  if (screen_ && !screen_->MayLeave()) return;
+  const QString file = AskNewFile(QStringLiteral("Voorbeeld opslaan als"), QStringLiteral("Voorbeeld"));
+  if (!file.isEmpty()) Make(file, dossier::VoorbeeldDossier());
 }
 
-QString Hoofdvenster::VraagNieuwBestand(const QString& titel, const QString& naam) {
-  QFileDialog vraag(this, titel, Instellingen::Map(), QString::fromLatin1(kFilter));
-  vraag.setAcceptMode(QFileDialog::AcceptSave);
-  vraag.setDefaultSuffix(QLatin1String(kAchtervoegsel));
+QString MainWindow::AskNewFile(const QString& title, const QString& name) {
+  QFileDialog question(this, title, Settings::Folder(), QString::fromLatin1(kFilter));
+  question.setAcceptMode(QFileDialog::AcceptSave);
+  question.setDefaultSuffix(QLatin1String(kSuffix));
   // The store never replaces a file and says so itself.
-  vraag.setOption(QFileDialog::DontConfirmOverwrite);
-  vraag.selectFile(QString(naam).replace(u'/', u'-') + u'.' + QLatin1String(kAchtervoegsel));
-  return vraag.exec() == QDialog::Accepted ? vraag.selectedFiles().value(0) : QString();
+  question.setOption(QFileDialog::DontConfirmOverwrite);
+  question.selectFile(QString(name).replace(u'/', u'-') + u'.' + QLatin1String(kSuffix));
+  return question.exec() == QDialog::Accepted ? question.selectedFiles().value(0) : QString();
 }
 
-void Hoofdvenster::VraagClient() {
-  if (!scherm_->Kolom().Editor().CommitPending()) return;
-  const Dossier& dossier = scherm_->Gegevens();
-  Clientvenster vraag(QStringLiteral("Cliëntgegevens"), {dossier.Personen(), dossier.Leeftijd()}, this);
-  if (vraag.exec() != QDialog::Accepted) return;
-  const Client client = vraag.Gegevens();
-  scherm_->SetClient(client.personen, client.leeftijd);
+void MainWindow::AskClient() {
+  if (!screen_->Kolom().Editor().CommitPending()) return;
+  const dossier::Dossier& dossier = screen_->Dossier();
+  ClientDialog question(QStringLiteral("Cliëntgegevens"), {dossier.Personen(), dossier.Leeftijd()}, this);
+  if (question.exec() != QDialog::Accepted) return;
+  const Client client = question.Contents();
+  screen_->SetClient(client.personen, client.leeftijd);
 }
 
-void Hoofdvenster::VraagLening() {
-  QInputDialog vraag(this);
-  vraag.setWindowTitle(QStringLiteral("Lening toevoegen"));
-  vraag.setLabelText(QStringLiteral("Naam van de lening in de nieuwe situatie"));
-  vraag.setTextValue(QStringLiteral("Nieuwe lening %1").arg(scherm_->Gegevens().AantalLeningen() + 1));
-  vraag.setOkButtonText(QStringLiteral("OK"));
-  vraag.setCancelButtonText(QStringLiteral("Annuleren"));
-  if (vraag.exec() == QDialog::Accepted) scherm_->NieuweLening(vraag.textValue().trimmed());
+void MainWindow::AskLening() {
+  QInputDialog question(this);
+  question.setWindowTitle(QStringLiteral("Lening toevoegen"));
+  question.setLabelText(QStringLiteral("Naam van de lening in de nieuwe situatie"));
+  question.setTextValue(QStringLiteral("Nieuwe lening %1").arg(screen_->Dossier().AantalLeningen() + 1));
+  question.setOkButtonText(QStringLiteral("OK"));
+  question.setCancelButtonText(QStringLiteral("Annuleren"));
+  if (question.exec() == QDialog::Accepted) screen_->AddLening(question.textValue().trimmed());
 }
 
-void Hoofdvenster::Controleer() {
-  const auto bevindingen = scherm_->Controleer();
-  if (!bevindingen) return;
-  bevindingen_->Toon(scherm_->Gegevens(), *bevindingen);
+void MainWindow::Check() {
+  const auto findings = screen_->Check();
+  if (!findings) return;
+  findings_->Show(screen_->Dossier(), *findings);
   // The editor above it stays whole.
-  resizeDocks({bevindingen_}, {fontMetrics().height() * kLijstRegels}, Qt::Vertical);
+  resizeDocks({findings_}, {fontMetrics().height() * kListLines}, Qt::Vertical);
 }
 
-void Hoofdvenster::ToonOver() {
+void MainWindow::ShowAbout() {
   QMessageBox::about(this, QStringLiteral("Over Dossier"),
                      QStringLiteral("Dossier %1\n\nEen dossier met de vrije kolommen van een cliënt. Alles wat u "
                                     "invult wordt meteen opgeslagen.")
                          .arg(QApplication::applicationVersion()));
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

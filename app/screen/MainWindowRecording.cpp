@@ -8,59 +8,59 @@
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr char kTitel[] = "Opname";
+constexpr char kTitle[] = "Opname";
 
 }  // namespace
 
-void Hoofdvenster::VraagOpname() {
+void MainWindow::AskRecording() {
   // Not running before it runs.
-  acties_.opnemen->setChecked(false);
-  QFileDialog vraag(this, QStringLiteral("Opname opslaan als"), Instellingen::Map(),
-                    QStringLiteral("Opnamen (*.json)"));
-  vraag.setAcceptMode(QFileDialog::AcceptSave);
-  vraag.setDefaultSuffix(QStringLiteral("json"));
-  vraag.selectFile(QStringLiteral("Opname.json"));
-  if (vraag.exec() == QDialog::Accepted) NeemOp(vraag.selectedFiles().value(0));
+  actions_.record->setChecked(false);
+  QFileDialog question(this, QStringLiteral("Opname opslaan als"), Settings::Folder(),
+                       QStringLiteral("Opnamen (*.json)"));
+  question.setAcceptMode(QFileDialog::AcceptSave);
+  question.setDefaultSuffix(QStringLiteral("json"));
+  question.selectFile(QStringLiteral("Opname.json"));
+  if (question.exec() == QDialog::Accepted) Record(question.selectedFiles().value(0));
 }
 
-bool Hoofdvenster::NeemOp(const QString& bestand) {
-  const Plek plek = scherm_->Getoond();
-  const QString dossier = scherm_->Bestand().Pad();
+bool MainWindow::Record(const QString& file) {
+  const Place place = screen_->Shown();
+  const QString dossier = screen_->File().Pad();
   // A replay starts from the file and a new editor, and so does the recording.
-  if (!SluitDossier()) return false;
-  opname_.gebroken = [this] { QMetaObject::invokeMethod(this, &Hoofdvenster::OpnameGebroken, Qt::QueuedConnection); };
-  opname_.Kies(bestand);
+  if (!CloseDossier()) return false;
+  recording_.broken = [this] { QMetaObject::invokeMethod(this, &MainWindow::RecordingBroken, Qt::QueuedConnection); };
+  recording_.Choose(file);
   if (!Open(dossier)) {
-    opname_.Vergeet();
+    recording_.Forget();
     return false;
   }
-  acties_.opnemen->setChecked(true);
-  scherm_->GaNaar(plek);
+  actions_.record->setChecked(true);
+  screen_->GoTo(place);
   return true;
 }
 
-void Hoofdvenster::StopOpname() {
-  if (!opname_.Loopt()) return;
-  const QString bestand = QDir::toNativeSeparators(opname_.Pad());
-  const bool bewaard = opname_.Stop();
-  acties_.opnemen->setChecked(false);
-  if (bewaard)
-    statusBar()->showMessage(QStringLiteral("Opname bewaard: %1").arg(bestand));
+void MainWindow::StopRecording() {
+  if (!recording_.IsRunning()) return;
+  const QString file = QDir::toNativeSeparators(recording_.Path());
+  const bool kept = recording_.Stop();
+  actions_.record->setChecked(false);
+  if (kept)
+    statusBar()->showMessage(QStringLiteral("Opname bewaard: %1").arg(file));
   else
-    ToonMelding(this, QString::fromLatin1(kTitel),
-                QStringLiteral("De opname kan niet worden bewaard:\n\n%1").arg(bestand));
+    ShowMessage(this, QString::fromLatin1(kTitle),
+                QStringLiteral("De opname kan niet worden bewaard:\n\n%1").arg(file));
 }
 
-void Hoofdvenster::OpnameGebroken() {
-  if (!opname_.Loopt()) return;
-  StopOpname();
-  ToonMelding(
-      this, QString::fromLatin1(kTitel),
+void MainWindow::RecordingBroken() {
+  if (!recording_.IsRunning()) return;
+  StopRecording();
+  ShowMessage(
+      this, QString::fromLatin1(kTitle),
       QStringLiteral("De opname is gestopt: het dossier is buiten de velden van de vrije kolom om gewijzigd, en "
                      "dat kan niet worden nagespeeld.\n\nWat daarvoor is opgenomen, is bewaard."));
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -3,45 +3,43 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "dossier/model/Tracer.h"
-
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-constexpr char kHerladen[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
+constexpr char kReloadedText[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
 
 }  // namespace
 
-void ToonMelding(QWidget* boven, const QString& titel, const QString& tekst) {
-  QMessageBox bericht(QMessageBox::Warning, titel, tekst, QMessageBox::Ok, boven);
-  bericht.setTextFormat(Qt::PlainText);
-  bericht.exec();
+void ShowMessage(QWidget* above, const QString& title, const QString& text) {
+  QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, above);
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
 }
 
-Antwoord Vraag(QWidget* boven, const QString& titel, const QString& tekst, const QString& jaTekst) {
-  QMessageBox bericht(QMessageBox::Question, titel, tekst, QMessageBox::NoButton, boven);
-  bericht.setTextFormat(Qt::PlainText);
-  QPushButton* ja = bericht.addButton(jaTekst, QMessageBox::AcceptRole);
-  QPushButton* nee = bericht.addButton(QStringLiteral("&Annuleren"), QMessageBox::RejectRole);
-  bericht.setDefaultButton(nee);
-  bericht.setEscapeButton(nee);
-  bericht.exec();
-  return bericht.clickedButton() == ja ? Antwoord::Ja : Antwoord::Nee;
+Answer Ask(QWidget* above, const QString& title, const QString& text, const QString& yesText) {
+  QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, above);
+  box.setTextFormat(Qt::PlainText);
+  QPushButton* yes = box.addButton(yesText, QMessageBox::AcceptRole);
+  QPushButton* no = box.addButton(QStringLiteral("&Annuleren"), QMessageBox::RejectRole);
+  box.setDefaultButton(no);
+  box.setEscapeButton(no);
+  box.exec();
+  return box.clickedButton() == yes ? Answer::Yes : Answer::No;
 }
 
-void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg) {
-  const auto tekst = [](const std::string& s) { return QString::fromStdString(s); };
-  QMessageBox bericht(QMessageBox::Critical, tekst(fout.Caption), tekst(fout.Message), QMessageBox::Ok, boven);
-  bericht.setTextFormat(Qt::PlainText);
-  bericht.setInformativeText(QStringLiteral("%1\n\n"
-                                            "Onderdeel: %2 (%3)\n"
-                                            "Foutnummer: %4\n"
-                                            "Bron: %5%6")
-                                 .arg(tekst(fout.ErrorDescription), tekst(fout.ObjectDescription),
-                                      tekst(fout.ObjectName), tekst(fout.ErrorNumber), tekst(fout.ErrorSource),
-                                      gevolg == Gevolg::Herladen ? QString::fromUtf8(kHerladen) : QString()));
-  bericht.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  bericht.exec();
+void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence consequence) {
+  const auto text = [](const std::string& s) { return QString::fromStdString(s); };
+  QMessageBox box(QMessageBox::Critical, text(error.Caption), text(error.Message), QMessageBox::Ok, above);
+  box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(QStringLiteral("%1\n\n"
+                                        "Onderdeel: %2 (%3)\n"
+                                        "Foutnummer: %4\n"
+                                        "Bron: %5%6")
+                             .arg(text(error.ErrorDescription), text(error.ObjectDescription), text(error.ObjectName),
+                                  text(error.ErrorNumber), text(error.ErrorSource),
+                                  consequence == Consequence::Reloaded ? QString::fromUtf8(kReloadedText) : QString()));
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  box.exec();
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -3,23 +3,23 @@
 #include <QString>
 #include <cstdint>
 
+#include "host/model/ErrorRecord.h"
+
 class QWidget;
 
-namespace brivane::dossier {
-
-struct Foutrecord;
+namespace brivane::app {
 
 /// What a question's buttons answer.
-enum class Antwoord : std::uint8_t { Ja, Nee };
+enum class Answer : std::uint8_t { Yes, No };
 
-/// Shows one message with an OK button over `boven` and returns when it is closed.
-void ToonMelding(QWidget* boven, const QString& titel, const QString& tekst);
-/// Asks a question. "Ja" carries `jaTekst`; Escape and Enter answer no.
-[[nodiscard]] Antwoord Vraag(QWidget* boven, const QString& titel, const QString& tekst, const QString& jaTekst);
+/// Shows one message with an OK button over `above` and returns when it is closed.
+void ShowMessage(QWidget* above, const QString& title, const QString& text);
+/// Asks a question. "Ja" carries `yesText`; Escape and Enter answer no.
+[[nodiscard]] Answer Ask(QWidget* above, const QString& title, const QString& text, const QString& yesText);
 /// What a failure did to the screen.
-enum class Gevolg : std::uint8_t { Geen, Herladen };
+enum class Consequence : std::uint8_t { None, Reloaded };
 
 /// The one box of an error report: what went wrong, and for support in which control, number and source.
-void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg);
+void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence consequence);
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -6,42 +6,42 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 /// A button that does what an action does, with the action's text.
-QPushButton* KnopVoor(QAction* actie) {
-  auto* knop = new QPushButton(actie->text());
-  knop->setToolTip(actie->toolTip());
-  QObject::connect(knop, &QPushButton::clicked, actie, &QAction::trigger);
-  return knop;
+QPushButton* ButtonFor(QAction* action) {
+  auto* button = new QPushButton(action->text());
+  button->setToolTip(action->toolTip());
+  QObject::connect(button, &QPushButton::clicked, action, &QAction::trigger);
+  return button;
 }
 
 }  // namespace
 
-Startpagina::Startpagina(const QList<QAction*>& acties, QWidget* parent) : QWidget(parent) {
-  auto* kop = new QLabel(QStringLiteral("Dossier"));
-  QFont groot = kop->font();
-  groot.setPointSizeF(groot.pointSizeF() * 1.8);
-  kop->setFont(groot);
-  auto* uitleg = new QLabel(QStringLiteral("Er is geen dossier geopend."));
+StartPage::StartPage(const QList<QAction*>& actions, QWidget* parent) : QWidget(parent) {
+  auto* heading = new QLabel(QStringLiteral("Dossier"));
+  QFont large = heading->font();
+  large.setPointSizeF(large.pointSizeF() * 1.8);
+  heading->setFont(large);
+  auto* hint = new QLabel(QStringLiteral("Er is geen dossier geopend."));
 
-  auto* blok = new QVBoxLayout;
-  blok->addWidget(kop);
-  blok->addWidget(uitleg);
-  blok->addSpacing(kop->fontMetrics().height() / 2);
-  for (QAction* actie : acties) {
-    QPushButton* knop = KnopVoor(actie);
-    if (!focusProxy()) setFocusProxy(knop);
-    blok->addWidget(knop);
+  auto* block = new QVBoxLayout;
+  block->addWidget(heading);
+  block->addWidget(hint);
+  block->addSpacing(heading->fontMetrics().height() / 2);
+  for (QAction* action : actions) {
+    QPushButton* button = ButtonFor(action);
+    if (!focusProxy()) setFocusProxy(button);
+    block->addWidget(button);
   }
 
-  auto* midden = new QGridLayout(this);
-  midden->addLayout(blok, 1, 1);
-  midden->setRowStretch(0, 1);
-  midden->setRowStretch(2, 2);
-  midden->setColumnStretch(0, 1);
-  midden->setColumnStretch(2, 1);
+  auto* middle = new QGridLayout(this);
+  middle->addLayout(block, 1, 1);
+  middle->setRowStretch(0, 1);
+  middle->setRowStretch(2, 2);
+  middle->setColumnStretch(0, 1);
+  middle->setColumnStretch(2, 1);
 }
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

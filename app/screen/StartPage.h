@@ -4,13 +4,13 @@
 
 class QAction;
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// What the window shows while no loan file is open: the ways to open one.
-class Startpagina final : public QWidget {
+class StartPage final : public QWidget {
  public:
   /// One button for each action, in this order; the first takes the focus.
-  explicit Startpagina(const QList<QAction*>& acties, QWidget* parent = nullptr);
+  explicit StartPage(const QList<QAction*>& actions, QWidget* parent = nullptr);
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -50,7 +50,7 @@ Rows ReadRows(const char* pad) {
   const Connection database = Open(pad);
   std::string sql = "SELECT sleutel";
   const KolomGegevens example;
-  BezoekKolom(example, [&](const char* name, const auto&) { sql += std::string(", ") + name; });
+  BezoekKolom(example, [&](std::string_view name, const auto&) { sql += ", " + brivane::dossier::ColumnName(name); });
   const Statement count = Prepare(database, "SELECT count(*) FROM vrijekolom");
   sqlite3_step(count.get());
   rows.kolommen.reserve(static_cast<std::size_t>(sqlite3_column_int64(count.get(), 0)));
@@ -59,7 +59,7 @@ Rows ReadRows(const char* pad) {
     KolomGegevens& kolom = rows.kolommen.emplace_back();
     int place = 0;
     Take(columns.get(), place++, kolom.Sleutel);
-    BezoekKolom(kolom, [&](const char*, auto& value) { Take(columns.get(), place++, value); });
+    BezoekKolom(kolom, [&](std::string_view, auto& value) { Take(columns.get(), place++, value); });
   }
   const Statement periods =
       Prepare(database, "SELECT sleutel, maand, bedrag, percentage, korting, eenmalig FROM periode");
@@ -67,7 +67,7 @@ Rows ReadRows(const char* pad) {
     PeriodeGegevens& periode = rows.perioden.emplace_back();
     int place = 0;
     Take(periods.get(), place++, periode.Sleutel);
-    BezoekPeriode(periode, [&](const char*, auto& value) { Take(periods.get(), place++, value); });
+    BezoekPeriode(periode, [&](std::string_view, auto& value) { Take(periods.get(), place++, value); });
   }
   return rows;
 }

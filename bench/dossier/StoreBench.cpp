@@ -33,7 +33,7 @@ dossier::DossierGegevens Groot(int kolommen) {
 /// The editor on a loan file of its own, and a bare statement on another.
 struct Sides {
   explicit Sides(const QString& eigen, const QString& kaal)
-      : bestand(dossier::DossierBestand::Open(eigen)),
+      : bestand(dossier::DossierFile::Open(eigen)),
         application(std::make_shared<dossier::Application>(bestand->Dossier())),
         surface(toolkit.MakeSurface(vrijekolom::kOntwerp)),
         editor(*surface, toolkit,
@@ -56,7 +56,7 @@ struct Sides {
 
   double bedrag = 0;
   memory::Toolkit toolkit;
-  std::unique_ptr<dossier::DossierBestand> bestand;
+  std::unique_ptr<dossier::DossierFile> bestand;
   std::shared_ptr<host::Application> application;
   std::unique_ptr<host::Surface> surface;
   VrijeKolom editor;
@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
   const QTemporaryDir map;
   const auto maak = [&](const char* naam, const dossier::DossierGegevens& gegevens) {
     const QString pad = map.filePath(QString::fromLatin1(naam));
-    dossier::DossierBestand::Maak(pad, gegevens);
+    dossier::DossierFile::Maak(pad, gegevens);
     return pad;
   };
   Sides sides(maak("eigen.dossier", dossier::VoorbeeldDossier()), maak("kaal.dossier", dossier::VoorbeeldDossier()));
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
   const QByteArray pad = groot.toLocal8Bit();
   bench::Compare(
       "opening 10,000 columns", {.measured = "opening", .yardstick = "reading the rows", .aim = 3},
-      [&] { benchmark::DoNotOptimize(dossier::DossierBestand::Open(groot)); },
+      [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(groot)); },
       [&] { benchmark::DoNotOptimize(bench::ReadRows(pad.constData())); });
   return bench::Run(argc, argv);
 }

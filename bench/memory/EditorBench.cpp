@@ -61,7 +61,7 @@ struct Sides {
              std::make_shared<memory_host::DossierControle>(),
              [this](const std::string& text) { heard += text.size(); }) {
     toolkit.Desktop().today = MakeDate({2026, 11, 21});
-    editor.RefreshTopDisplay.Connect([this](const std::string& text) { heard += text.size(); });
+    refreshed = editor.RefreshTopDisplay.Connect([this](const std::string& text) { heard += text.size(); });
     editor.SetApplication(editorApplication, 0, 1);
     bare.SetApplication();
   }
@@ -71,6 +71,7 @@ struct Sides {
   std::shared_ptr<host::Application> editorApplication;
   std::unique_ptr<host::Surface> editorSurface;
   VrijeKolom editor;
+  host::Subscription refreshed;
   bench::EditorControls controls;
   std::unique_ptr<host::Surface> bareSurface;
   bench::Bare bare;

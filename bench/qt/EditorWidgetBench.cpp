@@ -51,7 +51,7 @@ std::shared_ptr<dossier::Application> MakeHost() {
   twee.EindleeftijdOvergang = 65;
   gegevens.HuidigeLening.VrijeKolommen = {een, twee};
   return std::make_shared<dossier::Application>(
-      std::make_shared<dossier::Dossier>(gegevens, std::make_shared<dossier::Omgeving>()));
+      std::make_shared<dossier::Dossier>(gegevens, std::make_shared<dossier::Environment>()));
 }
 
 void Paint() { QApplication::processEvents(); }

@@ -3,27 +3,27 @@
 #include <array>
 
 #include "component/automation/CaseAdapter.h"
+#include "component/automation/HostWindow.h"
 #include "component/automation/Keuzelijst.h"
 #include "component/automation/TraceAdapter.h"
-#include "component/automation/Vensterhouder.h"
 
 namespace brivane::component {
 
 namespace {
 
 /// The source of the code tables, of whatever type the host has it: handed back as it came.
-class CodetabellenWaarde final : public host::Codetabellen {
+class HeldCodetabellen final : public host::Codetabellen {
  public:
-  explicit CodetabellenWaarde(Variant waarde) : waarde_(std::move(waarde)) {}
-  [[nodiscard]] const Variant& Waarde() const { return waarde_; }
+  explicit HeldCodetabellen(Variant value) : value_(std::move(value)) {}
+  [[nodiscard]] const Variant& Value() const { return value_; }
 
  private:
-  Variant waarde_;
+  Variant value_;
 };
 
 Variant Handed(const std::shared_ptr<host::Codetabellen>& bron) {
-  const auto* const waarde = dynamic_cast<const CodetabellenWaarde*>(bron.get());
-  return waarde ? waarde->Waarde() : Variant(static_cast<IDispatch*>(nullptr));
+  const auto* const held = dynamic_cast<const HeldCodetabellen*>(bron.get());
+  return held ? held->Value() : Variant(static_cast<IDispatch*>(nullptr));
 }
 
 }  // namespace
@@ -37,18 +37,18 @@ std::shared_ptr<host::Uitgangspunten> ApplicationAdapter::Uitgangspunten() {
 }
 
 std::shared_ptr<host::Hoofdvenster> ApplicationAdapter::Hoofdvenster() {
-  return VensterVan(Target().Get(L"Hoofdvenster").Raw());
+  return WindowNamedBy(Target().Get(L"Hoofdvenster").Raw());
 }
 
 std::shared_ptr<host::Codetabellen> ApplicationAdapter::Codetabellen() {
-  return std::make_shared<CodetabellenWaarde>(Target().Get(L"Codetabellen"));
+  return std::make_shared<HeldCodetabellen>(Target().Get(L"Codetabellen"));
 }
 
 void ApplicationAdapter::VulCombo(const std::shared_ptr<host::Codetabellen>& bron, std::string_view tabel,
                                   host::ListBox& lijst, const std::string& code, const std::string& leeg,
                                   std::optional<std::int32_t> keuze) {
-  const KeuzelijstLening geleend(lijst);
-  const std::array arguments{Handed(bron),  Variant(tabel), Variant(geleend.Object()),
+  const LentKeuzelijst lent(lijst);
+  const std::array arguments{Handed(bron),  Variant(tabel), Variant(lent.Object()),
                              Variant(code), Variant(leeg),  keuze ? Variant(*keuze) : Variant::Missing()};
   Target().Call(L"VulCombo", arguments);
 }

@@ -5,8 +5,8 @@
 
 namespace brivane::component {
 
-/// The type library that describes an interface.
-template <class Interface> inline constexpr module::Library kLibraryOf = module::Library::Public;
+/// The type library that describes an interface, by the number of its resource.
+template <class Interface> inline constexpr int kTypeLibraryOf = module::kOwnTypeLibrary;
 
 /// A dual interface's late-bound half, done by its type information, and the word that failures leave an error record.
 template <class Interface> class Dispatching : public Interface, public ISupportErrorInfo {
@@ -48,7 +48,7 @@ template <class Interface> class Dispatching : public Interface, public ISupport
     return nullptr;
   }
   [[nodiscard]] static ComPtr<ITypeInfo> Described() {
-    return module::TypeInfo(kLibraryOf<Interface>, __uuidof(Interface));
+    return module::TypeInfo(kTypeLibraryOf<Interface>, __uuidof(Interface));
   }
 };
 

@@ -4,9 +4,11 @@
 #include <new>
 #include <string>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/ComPtr.h"
 #include "component/automation/Text.h"
 #include "frame/ErrorReport.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -16,6 +18,7 @@ namespace {
 constexpr HRESULT kNumbers = static_cast<HRESULT>(0x800A0000);
 constexpr std::int32_t kHighestNumber = 0xFFFF;
 constexpr const char* kSource = "BrivaneVrijeKolom";
+constexpr const char* kUnknown = "Automation error";
 
 struct Known {
   HRESULT result;
@@ -28,6 +31,7 @@ constexpr std::array kKnown{
     Known{DISP_E_OVERFLOW, 6, "Overflow"},
     Known{E_OUTOFMEMORY, 7, "Out of memory"},
     Known{DISP_E_BADINDEX, 9, "Subscript out of range"},
+    Known{DISP_E_DIVBYZERO, 11, "Division by zero"},
     Known{DISP_E_TYPEMISMATCH, 13, "Type mismatch"},
     Known{DISP_E_BADVARTYPE, 13, "Type mismatch"},
     Known{DISP_E_UNKNOWNNAME, 438, "Object does not support this property or method"},
@@ -44,25 +48,36 @@ std::int32_t NumberOf(HRESULT result) {
 }
 
 std::string SystemText(HRESULT result) {
-  wchar_t* text = nullptr;
+  win32::Owned<wchar_t*, &LocalFree> text;
   const DWORD length =
       FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  std::string description = Narrow({text, text ? length : 0});
-  LocalFree(text);
+                     nullptr, static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(text.Put()), 0, nullptr);
+  std::string description = Narrow({text.Get(), text ? length : 0});
   while (!description.empty() && (description.back() == '\n' || description.back() == '\r')) description.pop_back();
-  return description.empty() ? "Automation error" : description;
+  return description.empty() ? kUnknown : description;
 }
 
+/// What a result says by itself.
+host::Error OwnError(HRESULT result) {
+  if (SUCCEEDED(result)) return {static_cast<std::int32_t>(host::ErrorNumber::Foreign), kUnknown, kSource};
+  for (const Known& known : kKnown)
+    if (known.result == result || (kNumbers | known.number) == result)
+      return {known.number, known.description, kSource};
+  return {NumberOf(result), SystemText(result), kSource};
+}
+
+/// A record without words gets those of its error.
 host::Error FromRecord(EXCEPINFO& info) {
   if (info.pfnDeferredFillIn) info.pfnDeferredFillIn(&info);
-  const std::int32_t number = info.wCode != 0 ? info.wCode : NumberOf(info.scode);
-  host::Error error(number, FromBstr(info.bstrDescription), FromBstr(info.bstrSource));
-  SysFreeString(info.bstrDescription);
-  SysFreeString(info.bstrSource);
-  SysFreeString(info.bstrHelpFile);
+  const HRESULT result = info.wCode != 0 ? kNumbers | info.wCode : info.scode;
+  const host::Error own = OwnError(result);
+  const Bstr description = Bstr::Take(info.bstrDescription);
+  const Bstr source = Bstr::Take(info.bstrSource);
+  const Bstr helpFile = Bstr::Take(info.bstrHelpFile);
   info = {};
-  return error;
+  const std::string from = source.Get() ? Narrow(source.View()) : own.Source();
+  if (!description.Get()) return {own.Number(), own.Description(), from};
+  return {NumberOf(result), Narrow(description.View()), from};
 }
 
 /// Leaves number, description and source for the caller to ask for.
@@ -79,9 +94,7 @@ void LeaveRecord(const IID& interfaceId, const host::Error& error) {
 
 host::Error ErrorOf(HRESULT result, EXCEPINFO* info) {
   if (result == DISP_E_EXCEPTION && info) return FromRecord(*info);
-  for (const Known& known : kKnown)
-    if (known.result == result) return {known.number, known.description, kSource};
-  return {NumberOf(result), SystemText(result), kSource};
+  return OwnError(result);
 }
 
 void Check(HRESULT result) {

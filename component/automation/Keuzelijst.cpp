@@ -6,7 +6,7 @@
 
 namespace brivane::component {
 
-class KeuzelijstLening::Keuzelijst final : public DualObject<IKeuzelijst> {
+class LentKeuzelijst::Keuzelijst final : public DualObject<IKeuzelijst> {
  public:
   explicit Keuzelijst(host::ListBox& lijst) : lijst_(&lijst) {}
 
@@ -48,13 +48,13 @@ class KeuzelijstLening::Keuzelijst final : public DualObject<IKeuzelijst> {
   host::ListBox* lijst_;
 };
 
-KeuzelijstLening::KeuzelijstLening(host::ListBox& lijst) : object_(new Keuzelijst(lijst)) {}
+LentKeuzelijst::LentKeuzelijst(host::ListBox& lijst) : object_(new Keuzelijst(lijst)) {}
 
-KeuzelijstLening::~KeuzelijstLening() {
+LentKeuzelijst::~LentKeuzelijst() {
   object_->TakeBack();
   object_->Release();
 }
 
-IDispatch* KeuzelijstLening::Object() const { return object_; }
+IDispatch* LentKeuzelijst::Object() const { return object_; }
 
 }  // namespace brivane::component

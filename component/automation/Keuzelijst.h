@@ -7,12 +7,12 @@ namespace brivane::component {
 
 /// Lends a list to the host as an object (IKeuzelijst) for the time of one call. What the host keeps of it longer
 /// fails with error 91.
-class KeuzelijstLening {
+class LentKeuzelijst {
  public:
-  explicit KeuzelijstLening(host::ListBox& lijst);
-  KeuzelijstLening(const KeuzelijstLening&) = delete;
-  KeuzelijstLening& operator=(const KeuzelijstLening&) = delete;
-  ~KeuzelijstLening();
+  explicit LentKeuzelijst(host::ListBox& lijst);
+  LentKeuzelijst(const LentKeuzelijst&) = delete;
+  LentKeuzelijst& operator=(const LentKeuzelijst&) = delete;
+  ~LentKeuzelijst();
 
   [[nodiscard]] IDispatch* Object() const;
 

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/Errors.h"
 
 namespace brivane::component {
@@ -29,13 +30,10 @@ HRESULT LateBound::Find(std::wstring_view name, DISPID& id) {
   std::wstring text(name);
   wchar_t* names = text.data();
   HRESULT result = E_NOTIMPL;
-  if (scripted_) {
-    const BSTR bstr = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-    result = scripted_->GetDispID(bstr, fdexNameCaseInsensitive, &id);
-    SysFreeString(bstr);
-  } else {
+  if (scripted_)
+    result = scripted_->GetDispID(Bstr(name).Get(), fdexNameCaseInsensitive, &id);
+  else
     result = object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
-  }
   if (SUCCEEDED(result)) ids_.emplace(name, id);
   return result;
 }

@@ -11,8 +11,8 @@ namespace {
 
 HINSTANCE instance_ = nullptr;
 std::atomic<long> kept_ = 0;
-/// By resource number less one. Bare, as nothing may be released while the library is being unloaded.
-std::array<ITypeLib*, 2> libraries_{};
+/// By number less one. Bare, as nothing may be released while the library is being unloaded.
+std::array<ITypeLib*, kMostTypeLibraries> libraries_{};
 
 }  // namespace
 
@@ -32,16 +32,16 @@ std::wstring Path() {
   }
 }
 
-ComPtr<ITypeLib> TypeLibrary(Library library) {
-  ITypeLib*& known = libraries_[static_cast<std::size_t>(library) - 1];
+ComPtr<ITypeLib> TypeLibrary(int number) {
+  ITypeLib*& known = libraries_[static_cast<std::size_t>(number) - 1];
   if (!known) {
-    const std::wstring place = Path() + L'\\' + std::to_wstring(static_cast<int>(library));
+    const std::wstring place = Path() + L'\\' + std::to_wstring(number);
     Check(LoadTypeLibEx(place.c_str(), REGKIND_NONE, &known));
   }
   return known;
 }
 
-ComPtr<ITypeInfo> TypeInfo(Library library, const GUID& id) {
+ComPtr<ITypeInfo> TypeInfo(int library, const GUID& id) {
   ComPtr<ITypeInfo> info;
   Check(TypeLibrary(library)->GetTypeInfoOfGuid(id, info.Put()));
   return info;

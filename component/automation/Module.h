@@ -7,8 +7,9 @@
 /// The library as a whole: where its code lies, its type libraries, and what keeps it in memory.
 namespace brivane::component::module {
 
-/// Which of the embedded type libraries describes an interface: the number of its resource.
-enum class Library : int { Public = 1, Door = 2 };
+/// The type libraries that lie embedded in the library are numbered from 1; the first is the one that it registers.
+inline constexpr int kOwnTypeLibrary = 1;
+inline constexpr int kMostTypeLibraries = 2;
 
 /// Once, when the library is loaded.
 void Attach(HINSTANCE instance);
@@ -16,10 +17,11 @@ void Attach(HINSTANCE instance);
 /// Where the library lies on the disk.
 [[nodiscard]] std::wstring Path();
 
-/// The type library, read from the library itself: it need not be registered. Throws where it cannot be read.
-[[nodiscard]] ComPtr<ITypeLib> TypeLibrary(Library library);
+/// The type library of that number, read from the library itself: it need not be registered. Throws where it cannot be
+/// read.
+[[nodiscard]] ComPtr<ITypeLib> TypeLibrary(int number);
 /// The description of an interface or class.
-[[nodiscard]] ComPtr<ITypeInfo> TypeInfo(Library library, const GUID& id);
+[[nodiscard]] ComPtr<ITypeInfo> TypeInfo(int library, const GUID& id);
 
 /// Counts what keeps the library in memory: objects and locks. When the last one goes, the type libraries are let go.
 void Keep() noexcept;

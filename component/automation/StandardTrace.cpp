@@ -5,6 +5,7 @@
 #include "component/automation/Dispatching.h"
 #include "component/automation/Text.h"
 #include "component/idl/Interfaces.h"
+#include "host/model/ErrorRecord.h"
 
 namespace brivane::component {
 
@@ -16,22 +17,22 @@ class StandardTrace final : public DualObject<IProcedureTrace> {
   STDMETHODIMP LeaveProcedure() override { return S_OK; }
   STDMETHODIMP ErrorInProcedure(BSTR) override { return S_OK; }
 
-  STDMETHODIMP get_ApplicationTitle(BSTR* tekst) override { return Hand(applicationTitle_, tekst); }
-  STDMETHODIMP put_ApplicationTitle(BSTR tekst) override { return Keep(applicationTitle_, tekst); }
-  STDMETHODIMP get_ObjectName(BSTR* tekst) override { return Hand(objectName_, tekst); }
-  STDMETHODIMP put_ObjectName(BSTR tekst) override { return Keep(objectName_, tekst); }
-  STDMETHODIMP get_Caption(BSTR* tekst) override { return Hand(caption_, tekst); }
-  STDMETHODIMP put_Caption(BSTR tekst) override { return Keep(caption_, tekst); }
-  STDMETHODIMP get_ObjectDescription(BSTR* tekst) override { return Hand(objectDescription_, tekst); }
-  STDMETHODIMP put_ObjectDescription(BSTR tekst) override { return Keep(objectDescription_, tekst); }
-  STDMETHODIMP get_Message(BSTR* tekst) override { return Hand(message_, tekst); }
-  STDMETHODIMP put_Message(BSTR tekst) override { return Keep(message_, tekst); }
-  STDMETHODIMP get_ErrorNumber(BSTR* tekst) override { return Hand(errorNumber_, tekst); }
-  STDMETHODIMP put_ErrorNumber(BSTR tekst) override { return Keep(errorNumber_, tekst); }
-  STDMETHODIMP get_ErrorDescription(BSTR* tekst) override { return Hand(errorDescription_, tekst); }
-  STDMETHODIMP put_ErrorDescription(BSTR tekst) override { return Keep(errorDescription_, tekst); }
-  STDMETHODIMP get_ErrorSource(BSTR* tekst) override { return Hand(errorSource_, tekst); }
-  STDMETHODIMP put_ErrorSource(BSTR tekst) override { return Keep(errorSource_, tekst); }
+  STDMETHODIMP get_ApplicationTitle(BSTR* tekst) override { return Hand(record_.ApplicationTitle, tekst); }
+  STDMETHODIMP put_ApplicationTitle(BSTR tekst) override { return Keep(record_.ApplicationTitle, tekst); }
+  STDMETHODIMP get_ObjectName(BSTR* tekst) override { return Hand(record_.ObjectName, tekst); }
+  STDMETHODIMP put_ObjectName(BSTR tekst) override { return Keep(record_.ObjectName, tekst); }
+  STDMETHODIMP get_Caption(BSTR* tekst) override { return Hand(record_.Caption, tekst); }
+  STDMETHODIMP put_Caption(BSTR tekst) override { return Keep(record_.Caption, tekst); }
+  STDMETHODIMP get_ObjectDescription(BSTR* tekst) override { return Hand(record_.ObjectDescription, tekst); }
+  STDMETHODIMP put_ObjectDescription(BSTR tekst) override { return Keep(record_.ObjectDescription, tekst); }
+  STDMETHODIMP get_Message(BSTR* tekst) override { return Hand(record_.Message, tekst); }
+  STDMETHODIMP put_Message(BSTR tekst) override { return Keep(record_.Message, tekst); }
+  STDMETHODIMP get_ErrorNumber(BSTR* tekst) override { return Hand(record_.ErrorNumber, tekst); }
+  STDMETHODIMP put_ErrorNumber(BSTR tekst) override { return Keep(record_.ErrorNumber, tekst); }
+  STDMETHODIMP get_ErrorDescription(BSTR* tekst) override { return Hand(record_.ErrorDescription, tekst); }
+  STDMETHODIMP put_ErrorDescription(BSTR tekst) override { return Keep(record_.ErrorDescription, tekst); }
+  STDMETHODIMP get_ErrorSource(BSTR* tekst) override { return Hand(record_.ErrorSource, tekst); }
+  STDMETHODIMP put_ErrorSource(BSTR tekst) override { return Keep(record_.ErrorSource, tekst); }
 
  private:
   static HRESULT Hand(const std::string& kept, BSTR* tekst) {
@@ -41,14 +42,7 @@ class StandardTrace final : public DualObject<IProcedureTrace> {
     return Answering<IProcedureTrace>([&] { kept = FromBstr(tekst); });
   }
 
-  std::string applicationTitle_;
-  std::string objectName_;
-  std::string caption_;
-  std::string objectDescription_;
-  std::string message_;
-  std::string errorNumber_;
-  std::string errorDescription_;
-  std::string errorSource_;
+  host::ErrorRecord record_;
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "component/automation/Text.h"
 
-#include <new>
+#include "component/automation/Bstr.h"
 
 namespace brivane::component {
 
@@ -21,12 +21,7 @@ std::string Narrow(std::wstring_view text) {
   return narrow;
 }
 
-BSTR NewBstr(std::string_view text) {
-  const std::wstring wide = Wide(text);
-  const BSTR bstr = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
-  if (!bstr) throw std::bad_alloc();
-  return bstr;
-}
+BSTR NewBstr(std::string_view text) { return Bstr(Wide(text)).Release(); }
 
 std::string FromBstr(BSTR text) { return text ? Narrow({text, SysStringLen(text)}) : std::string(); }
 

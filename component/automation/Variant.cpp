@@ -6,15 +6,12 @@
 
 #include "component/automation/Errors.h"
 #include "component/automation/Text.h"
+#include "frame/Calendar.h"
 #include "host/Error.h"
 
 namespace brivane::component {
 
 namespace {
-
-// The calendar of Automation: 1 January 100 to 31 December 9999.
-constexpr double kFirstDay = -657434;
-constexpr double kLastDay = 2958465;
 
 /// The functions of Automation do not say that they leave their source alone.
 VARIANT* Source(const VARIANT& value) { return const_cast<VARIANT*>(&value); }
@@ -130,7 +127,8 @@ template <> std::string As<std::string>(const VARIANT& value) {
 
 template <> host::Date As<host::Date>(const VARIANT& value) {
   const double days = std::trunc(Changed(value, VT_DATE).Raw().date);
-  if (!(days >= kFirstDay && days <= kLastDay)) throw host::Error(host::ErrorNumber::Overflow);
+  if (!(days >= frame::kFirstDay.Days() && days <= frame::kLastDay.Days()))
+    throw host::Error(host::ErrorNumber::Overflow);
   return host::Date(static_cast<std::int32_t>(days));
 }
 

@@ -49,6 +49,8 @@ class Variant {
   void MoveTo(VARIANT* out) noexcept;
 
   [[nodiscard]] VARTYPE Type() const { return value_.vt; }
+  /// Makes it a value of that type; false where it cannot be one.
+  [[nodiscard]] bool Become(VARTYPE type) { return SUCCEEDED(VariantChangeType(&value_, &value_, 0, type)); }
 
  private:
   VARIANT value_;

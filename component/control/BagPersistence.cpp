@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "component/automation/Variant.h"
 #include "component/control/Persistence.h"
 
 namespace brivane::component {
@@ -12,22 +13,14 @@ constexpr wchar_t kHeight[] = L"_ExtentY";
 
 /// A whole number in a bag; nothing where it is not there or not a number.
 std::optional<LONG> Read(IPropertyBag& bag, IErrorLog* log, const wchar_t* name) {
-  VARIANT value;
-  ::VariantInit(&value);
-  value.vt = VT_I4;  // what the bag is to convert its text to
-  std::optional<LONG> number;
-  if (SUCCEEDED(bag.Read(name, &value, log)) && SUCCEEDED(::VariantChangeType(&value, &value, 0, VT_I4)))
-    number = value.lVal;
-  ::VariantClear(&value);
-  return number;
+  Variant value(std::int32_t{0});  // of the type that the bag is to convert its text to
+  if (FAILED(bag.Read(name, &value.Raw(), log)) || !value.Become(VT_I4)) return std::nullopt;
+  return value.Raw().lVal;
 }
 
 HRESULT Write(IPropertyBag& bag, const wchar_t* name, LONG number) {
-  VARIANT value;
-  ::VariantInit(&value);
-  value.vt = VT_I4;
-  value.lVal = number;
-  return bag.Write(name, &value);
+  Variant value(static_cast<std::int32_t>(number));
+  return bag.Write(name, &value.Raw());
 }
 
 }  // namespace

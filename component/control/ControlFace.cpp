@@ -11,10 +11,6 @@
 
 namespace brivane::component {
 
-ControlFace::~ControlFace() {
-  if (letters_) ::DestroyAcceleratorTable(letters_);
-}
-
 STDMETHODIMP ControlFace::GetControlInfo(CONTROLINFO* info) {
   if (!info) return E_POINTER;
   return Answer([&] {
@@ -29,9 +25,8 @@ STDMETHODIMP ControlFace::GetControlInfo(CONTROLINFO* info) {
       add(static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(letter))));
     }
     // The container uses the table until it asks again.
-    if (letters_) ::DestroyAcceleratorTable(letters_);
-    letters_ = keys.empty() ? nullptr : ::CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size()));
-    info->hAccel = letters_;
+    letters_.Reset(keys.empty() ? nullptr : ::CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size())));
+    info->hAccel = letters_.Get();
     info->cAccel = letters_ ? static_cast<USHORT>(keys.size()) : 0;
     info->dwFlags = 0;
     return S_OK;

@@ -5,6 +5,7 @@
 #include "component/control/Activation.h"
 #include "component/control/Delegating.h"
 #include "component/control/Properties.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -14,7 +15,6 @@ class ControlFace final : public Delegating<IOleControl> {
  public:
   ControlFace(Subject& subject, Properties& properties, Activation& activation)
       : Delegating(subject), properties_(properties), activation_(activation) {}
-  ~ControlFace();
 
   [[nodiscard]] bool EventsFrozen() const { return frozen_ > 0; }
 
@@ -26,7 +26,7 @@ class ControlFace final : public Delegating<IOleControl> {
  private:
   Properties& properties_;
   Activation& activation_;
-  HACCEL letters_ = nullptr;
+  win32::Owned<HACCEL, &::DestroyAcceleratorTable> letters_;
   int frozen_ = 0;
 };
 

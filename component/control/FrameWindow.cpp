@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "component/automation/ComPtr.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -88,12 +89,13 @@ void FrameWindow::Place(const RECT& place, const RECT& clip) {
   const RECT whole{place.left, place.top, place.left + width, place.top + height};
   RECT shown{};
   ::IntersectRect(&shown, &whole, &clip);
-  HRGN region = nullptr;
+  win32::OwnedRegion region;
   if (!::EqualRect(&shown, &whole)) {
     ::OffsetRect(&shown, -place.left, -place.top);
-    region = ::CreateRectRgnIndirect(&shown);
+    region.Reset(::CreateRectRgnIndirect(&shown));
   }
-  ::SetWindowRgn(window_, region, TRUE);
+  // The window keeps the region that it was given.
+  if (::SetWindowRgn(window_, region.Get(), TRUE)) (void)region.Release();
 }
 
 bool FrameWindow::HasFocus() const {

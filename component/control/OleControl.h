@@ -24,7 +24,7 @@ namespace brivane::component {
 ///       ... own interfaces ...
 ///       return control_.Find(iid);
 ///     }
-///     editor.HeightChanged.Connect([this] { control_.SizeChanged(); FireHeightChanged(); });
+///     heightChanged_ = editor.HeightChanged.Connect([this] { control_.SizeChanged(); FireHeightChanged(); });
 class OleControl {
  public:
   explicit OleControl(Subject& subject);

@@ -5,6 +5,7 @@
 #include <vssym32.h>
 
 #include "component/control/Units.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -16,40 +17,31 @@ bool HasExtendedStyle(HWND window, LONG style) { return (::GetWindowLongW(window
 /// A picture in memory, in the colours of the screen.
 class Picture {
  public:
-  explicit Picture(SIZE size) {
-    const HDC screen = ::GetDC(nullptr);
-    drawing_ = ::CreateCompatibleDC(screen);
-    bitmap_ = ::CreateCompatibleBitmap(screen, size.cx, size.cy);
-    ::ReleaseDC(nullptr, screen);
-    if (drawing_ && bitmap_) old_ = ::SelectObject(drawing_, bitmap_);
-  }
-  Picture(const Picture&) = delete;
-  Picture& operator=(const Picture&) = delete;
-  ~Picture() {
-    if (old_) ::SelectObject(drawing_, old_);
-    if (bitmap_) ::DeleteObject(bitmap_);
-    if (drawing_) ::DeleteDC(drawing_);
-  }
-  explicit operator bool() const { return old_ != nullptr; }
-  [[nodiscard]] HDC Drawing() const { return drawing_; }
+  explicit Picture(SIZE size) : Picture(size, win32::WindowContext()) {}
+  explicit operator bool() const { return static_cast<bool>(drawn_); }
+  [[nodiscard]] HDC Drawing() const { return drawing_.Get(); }
 
  private:
-  HDC drawing_ = nullptr;
-  HBITMAP bitmap_ = nullptr;
-  HGDIOBJ old_ = nullptr;
+  Picture(SIZE size, const win32::WindowContext& screen)
+      : drawing_(::CreateCompatibleDC(screen.Get())),
+        bitmap_(::CreateCompatibleBitmap(screen.Get(), size.cx, size.cy)),
+        drawn_(drawing_.Get(), bitmap_.Get()) {}
+
+  win32::OwnedContext drawing_;
+  win32::OwnedBitmap bitmap_;
+  win32::Selected drawn_;
 };
 
 /// The edge around a window, as the theme or the classic look has it.
 void PaintEdge(HWND window, HDC target, RECT whole) {
   if (HasExtendedStyle(window, WS_EX_CLIENTEDGE)) {
-    const HTHEME theme = ::OpenThemeData(window, L"EDIT");
+    const win32::Owned<HTHEME, &::CloseThemeData> theme(::OpenThemeData(window, L"EDIT"));
     if (!theme) {
       ::DrawEdge(target, &whole, EDGE_SUNKEN, BF_RECT);
       return;
     }
     const int state = ::IsWindowEnabled(window) ? ETS_NORMAL : ETS_DISABLED;
-    ::DrawThemeBackground(theme, target, EP_EDITTEXT, state, &whole, nullptr);
-    ::CloseThemeData(theme);
+    ::DrawThemeBackground(theme.Get(), target, EP_EDITTEXT, state, &whole, nullptr);
   } else if (HasExtendedStyle(window, WS_EX_STATICEDGE)) {
     ::DrawEdge(target, &whole, BDR_SUNKENOUTER, BF_RECT);
   } else if (HasStyle(window, WS_BORDER)) {
@@ -59,10 +51,9 @@ void PaintEdge(HWND window, HDC target, RECT whole) {
 
 /// What a window of ours has in its edge.
 void PaintInEdge(HWND window, HDC target, POINT corner) {
-  const int saved = ::SaveDC(target);
+  const win32::SavedContext saved(target);
   ::OffsetViewportOrgEx(target, corner.x, corner.y, nullptr);
   ::SendMessageW(window, WM_PRINT, reinterpret_cast<WPARAM>(target), PRF_NONCLIENT);
-  ::RestoreDC(target, saved);
 }
 
 void PaintAt(HWND window, HDC target, POINT corner);
@@ -99,11 +90,12 @@ void PaintAt(HWND window, HDC target, POINT corner) {
   if (!picture) return;
   // What does not draw its background shows what is behind it.
   ::BitBlt(picture.Drawing(), 0, 0, client.right, client.bottom, target, at.x, at.y, SRCCOPY);
-  const int saved = ::SaveDC(picture.Drawing());
-  const auto drawing = reinterpret_cast<WPARAM>(picture.Drawing());
-  ::SendMessageW(window, WM_ERASEBKGND, drawing, 0);
-  ::SendMessageW(window, WM_PRINTCLIENT, drawing, PRF_CLIENT | PRF_ERASEBKGND);
-  ::RestoreDC(picture.Drawing(), saved);
+  {
+    const win32::SavedContext saved(picture.Drawing());
+    const auto drawing = reinterpret_cast<WPARAM>(picture.Drawing());
+    ::SendMessageW(window, WM_ERASEBKGND, drawing, 0);
+    ::SendMessageW(window, WM_PRINTCLIENT, drawing, PRF_CLIENT | PRF_ERASEBKGND);
+  }
   PaintChildren(window, picture.Drawing());
   ::BitBlt(target, at.x, at.y, client.right, client.bottom, picture.Drawing(), 0, 0, SRCCOPY);
 }
@@ -115,11 +107,11 @@ class BeyondTheScreen {
   explicit BeyondTheScreen(HWND window) : window_(window) {
     if (::IsWindowVisible(window)) return;
     parent_ = ::GetAncestor(window, GA_PARENT);
-    place_ = ::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"STATIC", nullptr, WS_POPUP, kFar, kFar, 1, 1,
-                               nullptr, nullptr, nullptr, nullptr);
-    ::ShowWindow(place_, SW_SHOWNA);
+    place_.Reset(::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, L"STATIC", nullptr, WS_POPUP, kFar, kFar, 1, 1,
+                                   nullptr, nullptr, nullptr, nullptr));
+    ::ShowWindow(place_.Get(), SW_SHOWNA);
     wasShown_ = HasStyle(window, WS_VISIBLE);
-    ::SetParent(window, place_);
+    ::SetParent(window, place_.Get());
     ::ShowWindow(window, SW_SHOWNA);
   }
   BeyondTheScreen(const BeyondTheScreen&) = delete;
@@ -128,14 +120,13 @@ class BeyondTheScreen {
     if (!place_) return;
     if (!wasShown_) ::ShowWindow(window_, SW_HIDE);
     ::SetParent(window_, parent_);
-    ::DestroyWindow(place_);
   }
 
  private:
   static constexpr int kFar = -32000;
   HWND window_;
   HWND parent_ = nullptr;
-  HWND place_ = nullptr;
+  win32::OwnedWindow place_;
   bool wasShown_ = false;
 };
 
@@ -153,11 +144,10 @@ HRESULT PaintWindow(HWND window, COLORREF background, HDC target, const RECT& bo
   const Picture picture(size);
   if (!picture) return E_OUTOFMEMORY;
   const RECT whole{0, 0, size.cx, size.cy};
-  const HBRUSH brush = ::CreateSolidBrush(background);
-  ::FillRect(picture.Drawing(), &whole, brush);
-  ::DeleteObject(brush);
+  ::FillRect(picture.Drawing(), &whole, win32::OwnedBrush(::CreateSolidBrush(background)).Get());
   const BeyondTheScreen visible(window);
   PaintAt(window, picture.Drawing(), {0, 0});
+  const win32::SavedContext saved(target);
   ::SetStretchBltMode(target, HALFTONE);
   ::StretchBlt(target, bounds.left, bounds.top, WidthOf(bounds), HeightOf(bounds), picture.Drawing(), 0, 0, size.cx,
                size.cy, SRCCOPY);

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "component/automation/ComPtr.h"
+#include "component/automation/Variant.h"
 #include "host/Color.h"
 
 namespace brivane::component {
@@ -25,7 +25,7 @@ class Site {
   [[nodiscard]] bool AmbientUserMode() const;
 
  private:
-  [[nodiscard]] bool Ambient(DISPID property, VARIANT& value) const;
+  [[nodiscard]] bool Ambient(DISPID property, Variant& value) const;
 
   ComPtr<IOleClientSite> client_;
 };

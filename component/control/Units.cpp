@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "toolkits/win32/window/Owned.h"
+
 namespace brivane::component {
 
 namespace {
@@ -22,12 +24,7 @@ int PixelsOf(host::Twips length, int dpi) {
 
 host::Twips TwipsOfPixels(int pixels, int dpi) { return {static_cast<float>(pixels * kTwipsPerInch / dpi)}; }
 
-int ScreenDpi() {
-  const HDC screen = ::GetDC(nullptr);
-  const int dpi = ::GetDeviceCaps(screen, LOGPIXELSX);
-  ::ReleaseDC(nullptr, screen);
-  return dpi;
-}
+int ScreenDpi() { return ::GetDeviceCaps(win32::WindowContext().Get(), LOGPIXELSX); }
 
 SIZE SizeOfWindow(HWND window) {
   RECT rect{};

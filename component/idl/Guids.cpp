@@ -1,5 +1,4 @@
-// The one place where the identities of the interface definitions are defined.
+// The one place where the identities of the public interfaces are defined.
 #include <initguid.h>
 
-#include "Proefdeur_idl.h"
 #include "component/idl/Interfaces.h"

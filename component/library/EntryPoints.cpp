@@ -1,4 +1,4 @@
-// What the system calls of the library.
+// What the system calls of the library by name.
 
 #include <string_view>
 
@@ -20,21 +20,13 @@ template <class Body> HRESULT Outcome(Body&& body) noexcept {
 
 }  // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) {
-    component::module::Attach(instance);
-    DisableThreadLibraryCalls(instance);
-  }
-  return TRUE;
-}
-
 STDAPI DllGetClassObject(REFCLSID id, REFIID iid, LPVOID* out) {
   if (!out) return E_POINTER;
   *out = nullptr;
-  const component::Klasse* const klasse = component::FindKlasse(id);
-  if (!klasse) return CLASS_E_CLASSNOTAVAILABLE;
+  const component::LibraryClass* const entry = component::FindClass(id);
+  if (!entry) return CLASS_E_CLASSNOTAVAILABLE;
   return Outcome([&] {
-    const auto factory = component::ComPtr<IClassFactory>::Attach(component::NewClassFactory(*klasse));
+    const auto factory = component::ComPtr<IClassFactory>::Attach(component::NewClassFactory(*entry));
     return factory->QueryInterface(iid, out);
   });
 }

@@ -1,26 +1,21 @@
 #include "component/objects/ClassFactory.h"
 
 #include "component/automation/Errors.h"
+#include "component/objects/Companion.h"
 #include "component/objects/Identity.h"
-#include "component/testdoor/Preparation.h"
 
 namespace brivane::component {
 
 namespace {
 
-class ClassFactory final : public IClassFactory, public IProefdeurHouder, private module::LiveObject {
+class ClassFactory final : public IClassFactory, private module::LiveObject {
  public:
-  explicit ClassFactory(const Klasse& klasse) : klasse_(klasse) {}
+  explicit ClassFactory(const LibraryClass& entry) : class_(entry) {}
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
-    *out = nullptr;
-    if (iid == IID_IUnknown || iid == IID_IClassFactory)
-      *out = static_cast<IClassFactory*>(this);
-    else if (iid == __uuidof(IProefdeurHouder))
-      *out = static_cast<IProefdeurHouder*>(this);
-    else
-      return E_NOINTERFACE;
+    if (iid != IID_IUnknown && iid != IID_IClassFactory) return Companions::Used().Query(*this, iid, out);
+    *out = static_cast<IClassFactory*>(this);
     AddRef();
     return S_OK;
   }
@@ -37,7 +32,7 @@ class ClassFactory final : public IClassFactory, public IProefdeurHouder, privat
     // Who makes the object a part of his own must keep hold of its inner identity.
     if (outer && iid != IID_IUnknown) return CLASS_E_NOAGGREGATION;
     Identity* object = nullptr;
-    const HRESULT made = Answering<IClassFactory>([&] { object = klasse_.make(outer); });
+    const HRESULT made = Answering<IClassFactory>([&] { object = class_.make(outer); });
     if (FAILED(made)) return made;
     const HRESULT found = object->Inner().QueryInterface(iid, out);
     object->Inner().Release();
@@ -51,20 +46,15 @@ class ClassFactory final : public IClassFactory, public IProefdeurHouder, privat
     return S_OK;
   }
 
-  STDMETHODIMP Proefdeur(IProefdeur** door) override {
-    if (!door) return E_POINTER;
-    return Answering<IProefdeurHouder>([&] { *door = NewClassDoor(); });
-  }
-
  private:
   ~ClassFactory() = default;
 
-  const Klasse& klasse_;
+  const LibraryClass& class_;
   ULONG count_ = 1;
 };
 
 }  // namespace
 
-IClassFactory* NewClassFactory(const Klasse& klasse) { return new ClassFactory(klasse); }
+IClassFactory* NewClassFactory(const LibraryClass& entry) { return new ClassFactory(entry); }
 
 }  // namespace brivane::component

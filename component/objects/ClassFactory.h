@@ -1,10 +1,10 @@
 #pragma once
 
-#include "component/objects/Klassen.h"
+#include "component/objects/LibraryClasses.h"
 
 namespace brivane::component {
 
 /// The factory of a class, counted.
-[[nodiscard]] IClassFactory* NewClassFactory(const Klasse& klasse);
+[[nodiscard]] IClassFactory* NewClassFactory(const LibraryClass& entry);
 
 }  // namespace brivane::component

@@ -5,21 +5,21 @@
 
 #include "component/automation/Dispatching.h"
 #include "component/idl/Interfaces.h"
+#include "component/objects/Companion.h"
 #include "component/objects/HostClasses.h"
 #include "component/objects/Identity.h"
-#include "component/testdoor/Proefdeur.h"
 
 namespace brivane::component {
 
 /// What the library's three classes have in common: their identity, late binding, error records and class information,
-/// the toolkit and the host's objects of each, and the door for tests.
+/// the toolkit and the host's objects of each, and the companion that goes with it.
 ///
 /// `Outgoing` is the interface of its events, or GUID_NULL.
 template <class Interface>
 class CoObject : public Dispatching<Interface>,
                  public IProvideClassInfo2,
-                 public IProefdeurHouder,
                  public Identity,
+                 private Accompanied,
                  private controls::ActionListener {
  public:
   CoObject(IUnknown* outer, const CLSID& classId, const IID& outgoing)
@@ -34,7 +34,7 @@ class CoObject : public Dispatching<Interface>,
     if (!info) return E_POINTER;
     *info = nullptr;
     return Answering<IProvideClassInfo2>(
-        [&] { (void)module::TypeInfo(module::Library::Public, classId_).CopyTo(info); });
+        [&] { (void)module::TypeInfo(module::kOwnTypeLibrary, classId_).CopyTo(info); });
   }
   STDMETHODIMP GetGUID(DWORD kind, GUID* id) override {
     if (!id) return E_POINTER;
@@ -43,24 +43,13 @@ class CoObject : public Dispatching<Interface>,
     *id = outgoing_;
     return S_OK;
   }
-  STDMETHODIMP Proefdeur(IProefdeur** door) override {
-    if (!door) return E_POINTER;
-    return Answering<IProefdeurHouder>([&] {
-      *door = NewProefdeur(Controlling(), DoorSurface(), hooks_,
-                           [this](std::string_view aspect) { return DoorAspect(aspect); });
-    });
-  }
 
  protected:
   [[nodiscard]] IUnknown* Find(REFIID iid) override {
     if (IUnknown* const own = this->Own(iid)) return own;
     if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2) return static_cast<IProvideClassInfo2*>(this);
-    if (iid == __uuidof(IProefdeurHouder)) return static_cast<IProefdeurHouder*>(this);
-    return nullptr;
+    return companion_->Find(iid);
   }
-  /// What the door for tests opens to.
-  [[nodiscard]] virtual controls::Surface& DoorSurface() = 0;
-  [[nodiscard]] virtual std::optional<Variant> DoorAspect(std::string_view) const { return std::nullopt; }
 
   /// Runs a method's body: no exception crosses, and the object stays until it is done.
   template <class Body> [[nodiscard]] HRESULT Doing(Body&& body) {
@@ -81,19 +70,21 @@ class CoObject : public Dispatching<Interface>,
     return Handing<Interface>(place, std::forward<Body>(body));
   }
 
-  [[nodiscard]] component::Toolkit& TheToolkit() { return *toolkit_; }
-  [[nodiscard]] HostSession& Session() { return *session_; }
+  [[nodiscard]] component::Toolkit& TheToolkit() override { return *toolkit_; }
+  [[nodiscard]] HostSession& Session() override { return *session_; }
   [[nodiscard]] const HostClasses& Classes() const { return classes_; }
   /// From the next use on.
   void SetClasses(HostClasses classes) {
     classes_ = std::move(classes);
     session_->RenewMade();
   }
-  [[nodiscard]] component::Hooks& Hooks() { return hooks_; }
-  [[nodiscard]] host::HostFactories Factories() { return FactoriesFor(*session_, classes_, hooks_); }
+  /// The form that the object shows next.
+  void Opening(const brivane::frmScenario& form) { companion_->Opening(form); }
+  [[nodiscard]] host::HostFactories Factories() { return FactoriesFor(*session_, classes_, *companion_); }
   [[nodiscard]] const CLSID& OwnClass() const { return classId_; }
 
  private:
+  IUnknown& Object() override { return Controlling(); }
   void Before(controls::AnyControl&, const controls::Action&) override { Enter(); }
   void After(controls::AnyControl&, const controls::Action&, std::optional<controls::Outcome>) override { Leave(); }
 
@@ -102,7 +93,7 @@ class CoObject : public Dispatching<Interface>,
   std::unique_ptr<component::Toolkit> toolkit_ = MakeToolkit();
   std::shared_ptr<HostSession> session_ = std::make_shared<HostSession>();
   HostClasses classes_ = RegisteredHostClasses(classId_);
-  component::Hooks hooks_{*toolkit_, *session_};
+  std::unique_ptr<Companion> companion_ = Companions::Used().Of(*this);
 };
 
 /// Gives a by-reference argument back as True where the check refused; otherwise it stays what it is.

@@ -110,9 +110,10 @@ STDMETHODIMP ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) {
   *cookie = 0;
   // Listeners that scripts make have the events under their names alone, not under the interface's identity.
   ComPtr<IUnknown> known;
-  if (FAILED(sink->QueryInterface(iid_, reinterpret_cast<void**>(known.Put()))) &&
-      FAILED(sink->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(known.Put()))))
-    return CONNECT_E_CANNOTCONNECT;
+  HRESULT answered = sink->QueryInterface(iid_, reinterpret_cast<void**>(known.Put()));
+  if (FAILED(answered) && calls_ == Calls::ByNumber)
+    answered = sink->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(known.Put()));
+  if (FAILED(answered)) return CONNECT_E_CANNOTCONNECT;
   return Answering<IConnectionPoint>([&] {
     connections_.push_back({known, lastCookie_ + 1});
     *cookie = ++lastCookie_;

@@ -7,20 +7,24 @@
 
 namespace brivane::component {
 
+/// How an outgoing interface is called: by numbers through IDispatch, or by its own methods.
+enum class Calls { ByNumber, ByMethod };
+
 /// The listeners to one outgoing interface of an object. A part of the object, with its count of references.
 class ConnectionPoint final : public IConnectionPoint {
  public:
   /// `owner` is the object as its users know it.
-  ConnectionPoint(IUnknown& owner, const IID& iid) : owner_(owner), iid_(iid) {}
+  ConnectionPoint(IUnknown& owner, const IID& iid, Calls calls = Calls::ByNumber)
+      : owner_(owner), iid_(iid), calls_(calls) {}
   ConnectionPoint(const ConnectionPoint&) = delete;
   ConnectionPoint& operator=(const ConnectionPoint&) = delete;
 
   [[nodiscard]] const IID& Outgoing() const { return iid_; }
-  /// Those who listen now: a listener may come or go while an event is being told.
+  /// Those who listen now: a listener may come or go while an event is being told. `Sink` is the outgoing interface, or
+  /// IDispatch where it is called by number; each is the one that the listener answered when it was connected.
   template <class Sink> [[nodiscard]] std::vector<ComPtr<Sink>> Listeners() const {
     std::vector<ComPtr<Sink>> listeners;
-    for (const Connection& connection : connections_)
-      if (auto sink = connection.sink.As<Sink>()) listeners.push_back(std::move(sink));
+    for (const Connection& connection : connections_) listeners.emplace_back(static_cast<Sink*>(connection.sink.Get()));
     return listeners;
   }
   /// Tells an event of a dispatch interface. What a listener does wrong is its own affair.
@@ -38,12 +42,13 @@ class ConnectionPoint final : public IConnectionPoint {
 
  private:
   struct Connection {
-    ComPtr<IUnknown> sink;
+    ComPtr<IUnknown> sink;  ///< the interface that is called, whatever it is beside
     DWORD cookie;
   };
 
   IUnknown& owner_;
   IID iid_;
+  Calls calls_;
   std::vector<Connection> connections_;
   DWORD lastCookie_ = 0;
 };

@@ -24,7 +24,7 @@ class ControlPart final : private SurfaceSubject {
   ControlPart(ControlClass around, win32::Toolkit& toolkit, host::Surface& surface)
       : SurfaceSubject(toolkit, surface),
         around_(std::move(around)),
-        changes_(around_.outer, IID_IPropertyNotifySink) {}
+        changes_(around_.outer, IID_IPropertyNotifySink, Calls::ByMethod) {}
 
   [[nodiscard]] OleControl& Control() { return control_; }
   [[nodiscard]] ConnectionPoint& PropertyChanges() { return changes_; }

@@ -14,12 +14,6 @@ namespace {
 
 constexpr std::int32_t kCannotCreate = 429;
 
-/// The check of a host that has none.
-class GeenControle final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 ComPtr<IDispatch> CreateByProgId(const std::string& progId) {
   CLSID id{};
   ComPtr<IDispatch> object;
@@ -31,13 +25,13 @@ ComPtr<IDispatch> CreateByProgId(const std::string& progId) {
   return object;
 }
 
-ComPtr<IDispatch> MakeTrace(const HostClasses& classes, Hooks& hooks, std::string_view control) {
-  if (ComPtr<IDispatch> made = hooks.MadeByCallback(L"MakeProcedureTrace", control)) return made;
+ComPtr<IDispatch> MakeTrace(const HostClasses& classes, Companion& companion, std::string_view control) {
+  if (ComPtr<IDispatch> made = companion.TraceFor(control)) return made;
   return classes.procedureTrace.empty() ? MakeStandardTrace() : CreateByProgId(classes.procedureTrace);
 }
 
-ComPtr<IDispatch> MakeControle(const HostClasses& classes, Hooks& hooks, std::string_view control) {
-  if (ComPtr<IDispatch> made = hooks.MadeByCallback(L"MakeDossierControle", control)) return made;
+ComPtr<IDispatch> MakeCheck(const HostClasses& classes, Companion& companion, std::string_view control) {
+  if (ComPtr<IDispatch> made = companion.CheckFor(control)) return made;
   return classes.dossierControle.empty() ? ComPtr<IDispatch>() : CreateByProgId(classes.dossierControle);
 }
 
@@ -58,17 +52,17 @@ HostClasses RegisteredHostClasses(const CLSID& control) {
   return {RegisteredClass(key, L"ProcedureTrace"), RegisteredClass(key, L"DossierControle")};
 }
 
-host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks) {
+host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Companion& companion) {
   return {.MaakProcedureTrace = [&](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
             return session.Make<TraceAdapter>(
-                [&classes, &hooks, name = std::string(control)] { return MakeTrace(classes, hooks, name); });
+                [&classes, &companion, name = std::string(control)] { return MakeTrace(classes, companion, name); });
           },
           .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
-            ComPtr<IDispatch> made = MakeControle(classes, hooks, control);
-            if (!made) return std::make_shared<GeenControle>();
+            ComPtr<IDispatch> made = MakeCheck(classes, companion, control);
+            if (!made) return std::make_shared<host::GeenDossierControle>();
             return session.Make<ControleAdapter>(
-                [&classes, &hooks, name = std::string(control), first = std::move(made)]() mutable {
-                  return first ? std::exchange(first, {}) : MakeControle(classes, hooks, name);
+                [&classes, &companion, name = std::string(control), first = std::move(made)]() mutable {
+                  return first ? std::exchange(first, {}) : MakeCheck(classes, companion, name);
                 });
           }};
 }

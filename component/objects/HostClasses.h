@@ -4,7 +4,7 @@
 #include <string>
 
 #include "component/automation/HostSession.h"
-#include "component/testdoor/Hooks.h"
+#include "component/objects/Companion.h"
 #include "host/model/HostFactories.h"
 
 namespace brivane::component {
@@ -19,9 +19,10 @@ struct HostClasses {
 /// the key `HostClasses` below the class's own.
 [[nodiscard]] HostClasses RegisteredHostClasses(const CLSID& control);
 
-/// Makes the host's tracer and check for the logic. All three must outlive the control.
+/// Makes the host's tracer and check for the logic: what the companion makes, else one of the class. All three must
+/// outlive the control.
 ///
 /// A class that cannot be made fails with error 429.
-[[nodiscard]] host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Hooks& hooks);
+[[nodiscard]] host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Companion& companion);
 
 }  // namespace brivane::component

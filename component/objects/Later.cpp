@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "component/automation/Module.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
@@ -20,7 +21,7 @@ struct Waiting : private module::LiveObject {
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM lng) {
   if (message != kDo) return DefWindowProcW(window, message, wide, lng);
   const std::unique_ptr<Waiting> waiting(reinterpret_cast<Waiting*>(lng));
-  DestroyWindow(window);
+  win32::OwnedWindow(window).Reset();
   waiting->task();
   return 0;
 }
@@ -30,10 +31,14 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wide, LPARAM lng) {
 void DoLater(std::function<void()> task) {
   auto waiting = std::make_unique<Waiting>(std::move(task));
   // A window of a class of the system's own: one of ours would have to be given up before the library goes.
-  const HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  win32::OwnedWindow window(
+      CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr));
   if (!window) return;
-  SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
-  if (PostMessageW(window, kDo, 0, reinterpret_cast<LPARAM>(waiting.get()))) (void)waiting.release();
+  SetWindowLongPtrW(window.Get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
+  if (!PostMessageW(window.Get(), kDo, 0, reinterpret_cast<LPARAM>(waiting.get()))) return;
+  // The message has both.
+  (void)waiting.release();
+  (void)window.Release();
 }
 
 }  // namespace brivane::component

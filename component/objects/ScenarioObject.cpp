@@ -1,7 +1,7 @@
 #include "component/objects/ScenarioObject.h"
 
+#include "component/automation/HostWindow.h"
 #include "component/automation/RecordAdapter.h"
-#include "component/automation/Vensterhouder.h"
 #include "host/Error.h"
 
 namespace brivane::component {
@@ -17,7 +17,7 @@ ScenarioObject::ScenarioObject(IUnknown* outer)
 
 ScenarioObject::~ScenarioObject() = default;
 
-controls::Surface& ScenarioObject::DoorSurface() { return controls::Surface::Of(form_->Form()); }
+controls::Surface& ScenarioObject::Shown() { return controls::Surface::Of(form_->Form()); }
 
 brivane::frmScenario& ScenarioObject::ToSet() {
   if (stage_ == Stage::Closed) {
@@ -64,9 +64,9 @@ STDMETHODIMP ScenarioObject::Tonen(VARIANT Eigenaar) {
   return Doing([&] {
     if (stage_ == Stage::Open) throw WrongMoment();
     brivane::frmScenario& form = ToSet();
-    const auto eigenaar = VensterVan(Eigenaar);
+    const auto eigenaar = WindowNamedBy(Eigenaar);
     stage_ = Stage::Open;
-    Hooks().Opening(form);
+    Opening(form);
     try {
       form.ShowModal(eigenaar.get());
     } catch (...) {

@@ -24,7 +24,7 @@ class ScenarioObject final : public CoObject<IfrmScenario> {
  private:
   enum class Stage { New, Filled, Open, Closed };
 
-  controls::Surface& DoorSurface() override;
+  controls::Surface& Shown() override;
   /// The form to set something on: a new one where the last was closed.
   [[nodiscard]] brivane::frmScenario& ToSet();
 

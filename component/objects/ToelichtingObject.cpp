@@ -23,7 +23,7 @@ ToelichtingObject::ToelichtingObject(IUnknown* outer)
              [this](host::Color color) { control_->SetBackColor(color); }, [this] { Session().LetGo(); }},
             TheToolkit(), *surface_),
       points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
-  control_->Changed.Connect([this] {
+  changed_ = control_->Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) events_.Raise(kChanged);
   });
 }

@@ -22,13 +22,14 @@ class ToelichtingObject final : public CoObject<IToelichting> {
 
  private:
   IUnknown* Find(REFIID iid) override;
-  controls::Surface& DoorSurface() override { return controls::Surface::Of(*surface_); }
+  controls::Surface& Shown() override { return controls::Surface::Of(*surface_); }
 
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::Toelichting> control_;
   ConnectionPoint events_;
   ControlPart part_;
   ConnectionPoints points_;
+  host::Subscription changed_;
 };
 
 }  // namespace brivane::component

@@ -21,11 +21,11 @@ VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 }  // namespace
 
 /// The explanation control inside the editor, as hosts reach it: an object of its own, with the editor's count.
-class VrijeKolomObject::Ingesloten final : public Dispatching<IToelichting> {
+class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
  public:
-  explicit Ingesloten(VrijeKolomObject& owner)
+  explicit Embedded(VrijeKolomObject& owner)
       : owner_(owner), events_(Known(), DIID_DToelichtingEvents), points_(Known(), {&events_}) {}
-  virtual ~Ingesloten() = default;
+  virtual ~Embedded() = default;
 
   /// The adviser changed something.
   void Changed() { events_.Raise(kPartChanged); }
@@ -80,24 +80,22 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
     : CoObject(outer, CLSID_VrijeKolom, DIID_DVrijeKolomEvents),
       surface_(TheToolkit().MakeSurface(vrijekolom::kOntwerp)),
       editor_(std::make_unique<brivane::VrijeKolom>(*surface_, TheToolkit(), Factories())),
-      toelichting_(std::make_unique<Ingesloten>(*this)),
+      toelichting_(std::make_unique<Embedded>(*this)),
       events_(Controlling(), DIID_DVrijeKolomEvents),
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
             TheToolkit(), *surface_),
       points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
-  editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
+  subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
   });
-  editor_->HeightChanged.Connect([this] {
+  subscriptions_ += editor_->HeightChanged.Connect([this] {
     part_.Control().SizeChanged();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
   });
-  editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Hooks().Opening(form); });
-  host::Event<>& changed = editor_->Toelichting().Changed;
-  changed.Connect([this, handOn = changed.Listener()] {
+  subscriptions_ += editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Opening(form); });
+  subscriptions_ += editor_->Toelichting().Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) toelichting_->Changed();
-    handOn();
   });
 }
 
@@ -107,13 +105,6 @@ IUnknown* VrijeKolomObject::Find(REFIID iid) {
   if (iid == IID_IConnectionPointContainer) return &points_;
   IUnknown* const own = CoObject::Find(iid);
   return own ? own : part_.Control().Find(iid);
-}
-
-std::optional<Variant> VrijeKolomObject::DoorAspect(std::string_view aspect) const {
-  if (aspect == "filling") return Variant(editor_->Filling());
-  if (aspect == "changed") return Variant(editor_->Gewijzigd());
-  if (aspect == "record") return HandedBack<RecordAdapter>(editor_->Item());
-  return std::nullopt;
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {

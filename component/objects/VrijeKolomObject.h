@@ -26,18 +26,19 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
   STDMETHODIMP put_DossierControleKlasse(BSTR ProgID) override;
 
  private:
-  class Ingesloten;
+  class Embedded;
 
   IUnknown* Find(REFIID iid) override;
-  controls::Surface& DoorSurface() override { return controls::Surface::Of(*surface_); }
-  std::optional<Variant> DoorAspect(std::string_view aspect) const override;
+  controls::Surface& Shown() override { return controls::Surface::Of(*surface_); }
+  brivane::VrijeKolom* Editor() override { return editor_.get(); }
 
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
-  std::unique_ptr<Ingesloten> toelichting_;
+  std::unique_ptr<Embedded> toelichting_;
   ConnectionPoint events_;
   ControlPart part_;
   ConnectionPoints points_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::component

@@ -2,11 +2,12 @@
 
 #include <array>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/Errors.h"
 #include "component/automation/Module.h"
 #include "component/control/MiscStatus.h"
 #include "component/idl/Interfaces.h"
-#include "component/objects/Klassen.h"
+#include "component/objects/LibraryClasses.h"
 
 namespace brivane::component {
 
@@ -18,6 +19,8 @@ constexpr const wchar_t* kPlatform = L"win64";
 constexpr const wchar_t* kPlatform = L"win32";
 #endif
 constexpr const wchar_t* kLibrary = L"BrivaneVrijeKolom";
+/// The one verb of a control on its container's menu: its name, flags of the menu, and where it stands.
+constexpr const wchar_t* kVerb = L"&Bewerken, 0, 2";
 /// The category of controls.
 constexpr const wchar_t* kControls = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
 /// What the system carries calls of Automation between apartments with: of dual interfaces, and of the others.
@@ -32,9 +35,24 @@ std::wstring Text(const GUID& id) {
 
 std::wstring Version() { return std::to_wstring(kMajor) + L'.' + std::to_wstring(kMinor); }
 std::wstring FolderOf(const std::wstring& path) { return path.substr(0, path.find_last_of(L"\\/")); }
-std::wstring ProgId(const Klasse& klasse) { return std::wstring(kLibrary) + L'.' + klasse.name; }
-std::wstring VersionedProgId(const Klasse& klasse) { return ProgId(klasse) + L'.' + std::to_wstring(kMajor); }
-std::wstring ClassKey(const Klasse& klasse) { return L"CLSID\\" + Text(klasse.id); }
+std::wstring ProgId(const LibraryClass& entry) { return std::wstring(kLibrary) + L'.' + entry.name; }
+std::wstring VersionedProgId(const LibraryClass& entry) { return ProgId(entry) + L'.' + std::to_wstring(kMajor); }
+std::wstring ClassKey(const LibraryClass& entry) { return L"CLSID\\" + Text(entry.id); }
+
+/// What a description says of itself. It must not outlive the description.
+class TypeAttributes {
+ public:
+  explicit TypeAttributes(ITypeInfo& info) : info_(info) { Check(info_.GetTypeAttr(&attributes_)); }
+  TypeAttributes(const TypeAttributes&) = delete;
+  TypeAttributes& operator=(const TypeAttributes&) = delete;
+  ~TypeAttributes() { info_.ReleaseTypeAttr(attributes_); }
+
+  const TYPEATTR* operator->() const { return attributes_; }
+
+ private:
+  ITypeInfo& info_;
+  TYPEATTR* attributes_ = nullptr;
+};
 
 struct InterfaceEntry {
   IID id;
@@ -44,52 +62,48 @@ struct InterfaceEntry {
 
 /// The interfaces of the type library that another apartment can be handed.
 std::vector<InterfaceEntry> Interfaces() {
-  const ComPtr<ITypeLib> library = module::TypeLibrary(module::Library::Public);
+  const ComPtr<ITypeLib> library = module::TypeLibrary(module::kOwnTypeLibrary);
   std::vector<InterfaceEntry> interfaces;
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     ComPtr<ITypeInfo> info;
-    TYPEATTR* attributes = nullptr;
     Check(library->GetTypeInfo(i, info.Put()));
-    Check(info->GetTypeAttr(&attributes));
-    const IID id = attributes->guid;
+    const TypeAttributes attributes(*info.Get());
+    if (attributes->typekind != TKIND_DISPATCH && attributes->typekind != TKIND_INTERFACE) continue;
     const bool isDual = attributes->wTypeFlags & TYPEFLAG_FDUAL;
-    const bool isInterface = attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE;
-    info->ReleaseTypeAttr(attributes);
-    if (!isInterface) continue;
-    BSTR name = nullptr;
-    Check(library->GetDocumentation(static_cast<INT>(i), &name, nullptr, nullptr, nullptr));
-    interfaces.push_back({id, name, isDual ? kDualMarshaler : kDispatchMarshaler});
-    SysFreeString(name);
+    Bstr name;
+    Check(library->GetDocumentation(static_cast<INT>(i), name.Put(), nullptr, nullptr, nullptr));
+    interfaces.push_back({attributes->guid, std::wstring(name.View()), isDual ? kDualMarshaler : kDispatchMarshaler});
   }
   return interfaces;
 }
 
-void AddControl(std::vector<KeyValue>& values, const Klasse& klasse, const std::wstring& path) {
-  const std::wstring key = ClassKey(klasse);
+void AddControl(std::vector<KeyValue>& values, const LibraryClass& entry, const std::wstring& path) {
+  const std::wstring key = ClassKey(entry);
   values.push_back({key + L"\\Control", L"", L""});
   values.push_back({key + L"\\MiscStatus", L"", L"0"});
   values.push_back({key + L"\\MiscStatus\\" + std::to_wstring(DVASPECT_CONTENT), L"", std::to_wstring(kMiscStatus)});
-  values.push_back({key + L"\\ToolboxBitmap32", L"", path + L", " + std::to_wstring(klasse.bitmap)});
+  values.push_back({key + L"\\ToolboxBitmap32", L"", path + L", " + std::to_wstring(entry.bitmap)});
+  values.push_back({key + L"\\Verb\\" + std::to_wstring(OLEIVERB_PRIMARY), L"", kVerb});
   values.push_back({key + L"\\Implemented Categories\\" + kControls, L"", L""});
 }
 
-void AddClass(std::vector<KeyValue>& values, const Klasse& klasse, const std::wstring& path) {
-  const std::wstring key = ClassKey(klasse);
-  values.push_back({key, L"", klasse.description});
+void AddClass(std::vector<KeyValue>& values, const LibraryClass& entry, const std::wstring& path) {
+  const std::wstring key = ClassKey(entry);
+  values.push_back({key, L"", entry.description});
   values.push_back({key + L"\\InprocServer32", L"", path});
   values.push_back({key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"});
-  values.push_back({key + L"\\ProgID", L"", VersionedProgId(klasse)});
-  values.push_back({key + L"\\VersionIndependentProgID", L"", ProgId(klasse)});
+  values.push_back({key + L"\\ProgID", L"", VersionedProgId(entry)});
+  values.push_back({key + L"\\VersionIndependentProgID", L"", ProgId(entry)});
   values.push_back({key + L"\\Programmable", L"", L""});
   values.push_back({key + L"\\TypeLib", L"", Text(LIBID_BrivaneVrijeKolom)});
   values.push_back({key + L"\\Version", L"", Version()});
-  if (klasse.usage == Usage::Control) AddControl(values, klasse, path);
+  if (entry.usage == Usage::Control) AddControl(values, entry, path);
 
-  values.push_back({ProgId(klasse), L"", klasse.description});
-  values.push_back({ProgId(klasse) + L"\\CLSID", L"", Text(klasse.id)});
-  values.push_back({ProgId(klasse) + L"\\CurVer", L"", VersionedProgId(klasse)});
-  values.push_back({VersionedProgId(klasse), L"", klasse.description});
-  values.push_back({VersionedProgId(klasse) + L"\\CLSID", L"", Text(klasse.id)});
+  values.push_back({ProgId(entry), L"", entry.description});
+  values.push_back({ProgId(entry) + L"\\CLSID", L"", Text(entry.id)});
+  values.push_back({ProgId(entry) + L"\\CurVer", L"", VersionedProgId(entry)});
+  values.push_back({VersionedProgId(entry), L"", entry.description});
+  values.push_back({VersionedProgId(entry) + L"\\CLSID", L"", Text(entry.id)});
 }
 
 void AddTypeLibrary(std::vector<KeyValue>& values, const std::wstring& path) {
@@ -115,17 +129,17 @@ std::wstring PlatformKey() { return TypeLibraryKey() + L'\\' + Version() + L"\\0
 
 std::vector<KeyValue> ValuesFor(const std::wstring& path) {
   std::vector<KeyValue> values;
-  for (const Klasse& klasse : Klassen()) AddClass(values, klasse, path);
+  for (const LibraryClass& entry : LibraryClasses()) AddClass(values, entry, path);
   AddTypeLibrary(values, path);
   return values;
 }
 
 std::vector<std::wstring> OwnKeys() {
   std::vector<std::wstring> keys;
-  for (const Klasse& klasse : Klassen()) {
-    keys.push_back(ClassKey(klasse));
-    keys.push_back(ProgId(klasse));
-    keys.push_back(VersionedProgId(klasse));
+  for (const LibraryClass& entry : LibraryClasses()) {
+    keys.push_back(ClassKey(entry));
+    keys.push_back(ProgId(entry));
+    keys.push_back(VersionedProgId(entry));
   }
   for (const InterfaceEntry& entry : Interfaces()) keys.push_back(L"Interface\\" + Text(entry.id));
   return keys;

@@ -1,24 +1,26 @@
 #include "component/registration/Registration.h"
 
 #include "component/registration/Keys.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::component {
 
 namespace {
+
+using Key = win32::Owned<HKEY, &RegCloseKey>;
 
 HKEY RootOf(Scope scope) { return scope == Scope::AllUsers ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
 
 std::wstring Below(const std::wstring& key) { return L"Software\\Classes\\" + key; }
 
 LSTATUS Write(HKEY root, const KeyValue& value) {
-  HKEY key = nullptr;
-  LSTATUS status = RegCreateKeyExW(root, Below(value.key).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr);
+  Key key;
+  const LSTATUS status =
+      RegCreateKeyExW(root, Below(value.key).c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, key.Put(), nullptr);
   if (status != ERROR_SUCCESS) return status;
   const auto size = static_cast<DWORD>((value.value.size() + 1) * sizeof(wchar_t));
-  status = RegSetValueExW(key, value.name.empty() ? nullptr : value.name.c_str(), 0, REG_SZ,
-                          reinterpret_cast<const BYTE*>(value.value.c_str()), size);
-  RegCloseKey(key);
-  return status;
+  return RegSetValueExW(key.Get(), value.name.empty() ? nullptr : value.name.c_str(), 0, REG_SZ,
+                        reinterpret_cast<const BYTE*>(value.value.c_str()), size);
 }
 
 LSTATUS Remove(HKEY root, const std::wstring& key) {
@@ -27,12 +29,11 @@ LSTATUS Remove(HKEY root, const std::wstring& key) {
 }
 
 bool HasKeys(HKEY root, const std::wstring& key) {
-  HKEY opened = nullptr;
-  if (RegOpenKeyExW(root, Below(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+  Key opened;
+  if (RegOpenKeyExW(root, Below(key).c_str(), 0, KEY_READ, opened.Put()) != ERROR_SUCCESS) return false;
   DWORD count = 0;
-  RegQueryInfoKeyW(opened, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-                   nullptr);
-  RegCloseKey(opened);
+  RegQueryInfoKeyW(opened.Get(), nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr, nullptr, nullptr,
+                   nullptr, nullptr);
   return count != 0;
 }
 

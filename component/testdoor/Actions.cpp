@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 #include "controls/ListBox.h"
 #include "host/Error.h"
 

@@ -4,7 +4,7 @@
 
 #include "component/automation/RecordAdapter.h"
 #include "component/testdoor/Preparation.h"
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 #include "host/Error.h"
 
 namespace brivane::component {
@@ -70,15 +70,9 @@ host::MessageAnswer Hooks::Ask(const std::string& title, const std::string& text
 }
 
 void Hooks::RunForm(controls::Form& form) {
-  host::Event<>& unloaded = form.host::Form::Unloaded;
-  if (callback_.Has(L"Closed"))
-    unloaded.Connect([this, handOn = unloaded.Listener()] {
-      callback_.Call(L"Closed");
-      if (handOn) handOn();
-    });
+  if (callback_.Has(L"Closed")) closed_ = form.host::Form::Unloaded.Connect([this] { callback_.Call(L"Closed"); });
   const auto* const shown = std::exchange(opening_, nullptr);
-  const ProefdeurLening door(form, *this,
-                             [&form, shown](std::string_view aspect) { return FormAspect(form, shown, aspect); });
+  const LentDoor door(form, *this, [&form, shown](std::string_view aspect) { return FormAspect(form, shown, aspect); });
   callback_.Call(L"Form", std::array{Variant(door.Object())});
 }
 

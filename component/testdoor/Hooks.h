@@ -34,6 +34,7 @@ class Hooks {
   HostSession& session_;
   LateBound callback_;
   const brivane::frmScenario* opening_ = nullptr;
+  host::Subscription closed_;  ///< to the form that was shown last
 };
 
 }  // namespace brivane::component

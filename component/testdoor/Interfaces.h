@@ -2,11 +2,11 @@
 
 /// The door for tests, as the interface definition makes it.
 
-#include "Proefdeur_idl.h"
+#include "TestDoor_idl.h"
 #include "component/automation/Dispatching.h"
 
 namespace brivane::component {
 
-template <> inline constexpr module::Library kLibraryOf<IProefdeur> = module::Library::Door;
+template <> inline constexpr int kTypeLibraryOf<ITestDoor> = 2;
 
 }  // namespace brivane::component

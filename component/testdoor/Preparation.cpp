@@ -19,18 +19,18 @@ Ready& Prepared() {
   return ready;
 }
 
-class ClassDoor final : public DualObject<IProefdeur> {
+class ClassDoor final : public DualObject<ITestDoor> {
  public:
   STDMETHODIMP Perform(BSTR, BSTR, VARIANT, SHORT*) override { return NoControls(); }
   STDMETHODIMP Read(BSTR, BSTR, VARIANT*) override { return NoControls(); }
   STDMETHODIMP Dump(VARIANT*) override { return NoControls(); }
   STDMETHODIMP Resize(BSTR, double, double) override { return NoControls(); }
   STDMETHODIMP Set(BSTR setting, VARIANT value) override {
-    return Answering<IProefdeur>(
+    return Answering<ITestDoor>(
         [&] { Prepared().settings.insert_or_assign(FromBstr(setting), Variant::CopyOf(value)); });
   }
   STDMETHODIMP put_Callback(IDispatch* object) override {
-    return Answering<IProefdeur>([&] {
+    return Answering<ITestDoor>([&] {
       if (object)
         Prepared().callback = object;
       else
@@ -40,13 +40,13 @@ class ClassDoor final : public DualObject<IProefdeur> {
 
  private:
   static HRESULT NoControls() {
-    return Answering<IProefdeur>([] { throw host::Error(host::ErrorNumber::ObjectMissing); });
+    return Answering<ITestDoor>([] { throw host::Error(host::ErrorNumber::ObjectMissing); });
   }
 };
 
 }  // namespace
 
-IProefdeur* NewClassDoor() { return new ClassDoor; }
+ITestDoor* NewClassDoor() { return new ClassDoor; }
 
 void Prepare(Hooks& hooks) {
   for (const auto& [setting, value] : Prepared().settings) hooks.Set(setting, value.Raw());

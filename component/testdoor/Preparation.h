@@ -8,7 +8,7 @@ namespace brivane::component {
 
 /// The door of the classes: its settings and its callback are those of every object that is made from then on, until
 /// the callback is taken away. It opens to no controls.
-[[nodiscard]] IProefdeur* NewClassDoor();
+[[nodiscard]] ITestDoor* NewClassDoor();
 
 /// Gives a new object what the door of the classes holds ready.
 void Prepare(Hooks& hooks);

@@ -3,7 +3,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "component/testdoor/Proefdeur.h"
+#include "component/testdoor/TestDoor.h"
 #include "controls/Dump.h"
 
 namespace brivane::component {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/Error.h"
+#include "host/model/Codes.h"
 
 namespace brivane::dossier {
 namespace {
@@ -16,7 +17,7 @@ const std::vector<Code>& TabelVan(const std::shared_ptr<host::Codetabellen>& bro
 
 const std::vector<Code>& Codetabellen::Tabel(std::string_view naam) const {
   static const std::vector<Code> leeg;
-  return naam == "MaatschappijType" ? maatschappijType_ : leeg;
+  return naam == host::codes::kMaatschappijTabel ? maatschappijType_ : leeg;
 }
 
 Application::Application(std::shared_ptr<dossier::Dossier> dossier, std::shared_ptr<host::Hoofdvenster> hoofdvenster)

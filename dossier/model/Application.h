@@ -35,7 +35,7 @@ class Codetabellen : public host::Codetabellen {
 /// The application object of a case: the root that the controls are bound to.
 ///
 ///     auto application = std::make_shared<Application>(dossier);
-///     application->FoutGemeld.Connect([](const Foutrecord& fout) { ... });
+///     const auto fouten = application->FoutGemeld.Connect([](const host::ErrorRecord& fout) { ... });
 ///     editor.SetApplication(application, 0, 1);
 class Application : public host::Application {
  public:
@@ -62,7 +62,7 @@ class Application : public host::Application {
   [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Bestand() const { return dossier_; }
 
   /// A control reports an unexpected failure.
-  host::Event<const Foutrecord&> FoutGemeld;
+  host::Event<const host::ErrorRecord&> FoutGemeld;
 
  private:
   std::shared_ptr<dossier::Dossier> dossier_;

@@ -8,35 +8,10 @@
 
 namespace brivane::dossier {
 
-Periode::Periode(std::shared_ptr<Omgeving> omgeving, PeriodeGegevens gegevens)
+Periode::Periode(std::shared_ptr<Environment> omgeving, PeriodeGegevens gegevens)
     : omgeving_(std::move(omgeving)), gegevens_(gegevens) {}
 
-void Periode::SetMaand(std::int16_t maand) {
-  omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld::Maand, std::int64_t{maand});
-  gegevens_.Maand = maand;
-}
-
-void Periode::SetBedrag(double bedrag) {
-  omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld::Bedrag, bedrag);
-  gegevens_.Bedrag = bedrag;
-}
-
-void Periode::SetPercentage(double percentage) {
-  omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld::Percentage, percentage);
-  gegevens_.Percentage = percentage;
-}
-
-void Periode::SetKorting(double korting) {
-  omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld::Korting, korting);
-  gegevens_.Korting = korting;
-}
-
-void Periode::SetEenmalig(bool eenmalig) {
-  omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld::Eenmalig, std::int64_t{eenmalig});
-  gegevens_.Eenmalig = eenmalig;
-}
-
-BedragObject::BedragObject(std::shared_ptr<Omgeving> omgeving, KolomGegevens& kolom)
+BedragObject::BedragObject(std::shared_ptr<Environment> omgeving, KolomGegevens& kolom)
     : omgeving_(std::move(omgeving)), kolom_(kolom) {
   HerlaadPerioden();
 }
@@ -48,7 +23,7 @@ void BedragObject::SetBasisbedrag(double bedrag) { SetBedrag(bedrag); }
 double BedragObject::Bedrag() const { return kolom_.Bedrag.Bedrag; }
 
 void BedragObject::SetBedrag(double bedrag) {
-  omgeving_->Journal->SetField(kolom_.Sleutel, KolomVeld::Bedrag, bedrag);
+  omgeving_->Journal->SetField(kolom_.Sleutel, kBasisbedrag, bedrag);
   kolom_.Bedrag.Bedrag = bedrag;
 }
 
@@ -60,7 +35,7 @@ std::shared_ptr<host::Periode> BedragObject::Periode(std::int16_t positie) {
 std::int16_t BedragObject::NieuwePeriode() {
   if (perioden_.size() >= std::numeric_limits<std::int16_t>::max()) throw host::Error(host::ErrorNumber::Overflow);
   const Sleutel sleutel = omgeving_->Journal->AddPeriod(kolom_.Sleutel);
-  perioden_.push_back(std::make_shared<dossier::Periode>(omgeving_, PeriodeGegevens{.Sleutel = sleutel}));
+  perioden_.push_back(std::make_shared<dossier::Periode>(omgeving_, PeriodeGegevens{{}, sleutel}));
   return static_cast<std::int16_t>(perioden_.size());
 }
 

@@ -5,31 +5,28 @@
 
 #include "dossier/model/Environment.h"
 #include "host/model/BedragObject.h"
+#include "host/model/PeriodeFields.h"
 
 namespace brivane::dossier {
 
 /// One entry of a scenario.
-class Periode : public host::Periode {
+class Periode : public host::PeriodeByField<Periode> {
  public:
-  Periode(std::shared_ptr<Omgeving> omgeving, PeriodeGegevens gegevens);
-
-  [[nodiscard]] std::int16_t Maand() const override { return gegevens_.Maand; }
-  void SetMaand(std::int16_t maand) override;
-  [[nodiscard]] double Bedrag() const override { return gegevens_.Bedrag; }
-  void SetBedrag(double bedrag) override;
-  [[nodiscard]] double Percentage() const override { return gegevens_.Percentage; }
-  void SetPercentage(double percentage) override;
-  [[nodiscard]] double Korting() const override { return gegevens_.Korting; }
-  void SetKorting(double korting) override;
-  [[nodiscard]] bool Eenmalig() const override { return gegevens_.Eenmalig; }
-  void SetEenmalig(bool eenmalig) override;
+  Periode(std::shared_ptr<Environment> omgeving, PeriodeGegevens gegevens);
 
   [[nodiscard]] const PeriodeGegevens& Gegevens() const { return gegevens_; }
   /// Takes over what is stored, telling nobody.
   void Herlaad(const PeriodeGegevens& gegevens) { gegevens_ = gegevens; }
 
  private:
-  std::shared_ptr<Omgeving> omgeving_;
+  friend host::PeriodeByField<Periode>;
+  template <class Field> auto ReadField(const Field& field) const { return gegevens_.*field.value; }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    omgeving_->Journal->SetField(gegevens_.Sleutel, PeriodeVeld{field.name}, AlsWaarde(waarde));
+    gegevens_.*field.value = waarde;
+  }
+
+  std::shared_ptr<Environment> omgeving_;
   PeriodeGegevens gegevens_;
 };
 
@@ -37,7 +34,7 @@ class Periode : public host::Periode {
 class BedragObject : public host::BedragObject {
  public:
   /// `kolom` holds the amount's name, kind and base value and outlives this object.
-  BedragObject(std::shared_ptr<Omgeving> omgeving, KolomGegevens& kolom);
+  BedragObject(std::shared_ptr<Environment> omgeving, KolomGegevens& kolom);
 
   [[nodiscard]] std::string Naam() const override;
   [[nodiscard]] std::int16_t Invoersoort() const override;
@@ -55,7 +52,7 @@ class BedragObject : public host::BedragObject {
   void HerlaadPerioden();
 
  private:
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   KolomGegevens& kolom_;
   std::vector<std::shared_ptr<dossier::Periode>> perioden_;
 };

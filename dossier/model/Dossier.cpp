@@ -9,11 +9,6 @@
 namespace brivane::dossier {
 namespace {
 
-std::size_t Plaats(std::int16_t voorstel) {
-  if (voorstel < 1 || voorstel > 3) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
-  return static_cast<std::size_t>(voorstel - 1);
-}
-
 /// A copy's periods are entries of their own.
 KolomGegevens Kopie(const VrijeKolom& kolom, std::int16_t Id) {
   KolomGegevens gegevens = kolom.Gegevens();
@@ -25,7 +20,7 @@ KolomGegevens Kopie(const VrijeKolom& kolom, std::int16_t Id) {
 
 }  // namespace
 
-Dossier::Dossier(DossierGegevens gegevens, std::shared_ptr<Omgeving> omgeving)
+Dossier::Dossier(DossierGegevens gegevens, std::shared_ptr<Environment> omgeving)
     : omgeving_(std::move(omgeving)),
       leeftijd_(gegevens.Leeftijd),
       maatschappijen_(std::move(gegevens.MaatschappijType)),
@@ -43,19 +38,19 @@ std::shared_ptr<host::Persoon> Dossier::Persoon(std::int16_t nummer) {
 }
 
 void Dossier::VoegToeAanVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id) {
-  SchrijfVoorstel(voorstel, Vrij_Id, Lidmaatschap::Ja);
+  SchrijfVoorstel(voorstel, Vrij_Id, Membership::Yes);
 }
 
 void Dossier::VerwijderUitVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, std::int16_t) {
-  SchrijfVoorstel(voorstel, Vrij_Id, Lidmaatschap::Nee);
+  SchrijfVoorstel(voorstel, Vrij_Id, Membership::No);
 }
 
-void Dossier::SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
+void Dossier::SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   std::set<std::int16_t>& leden = voorstellen_[Plaats(voorstel)];
   // Registering again, or taking out what is not in, changes nothing and costs no write.
-  if (leden.contains(Vrij_Id) == (lidmaatschap == Lidmaatschap::Ja)) return;
+  if (leden.contains(Vrij_Id) == (lidmaatschap == Membership::Yes)) return;
   omgeving_->Journal->SetProposal(voorstel, Vrij_Id, lidmaatschap);
-  if (lidmaatschap == Lidmaatschap::Ja) {
+  if (lidmaatschap == Membership::Yes) {
     leden.insert(Vrij_Id);
   } else {
     leden.erase(Vrij_Id);

@@ -9,6 +9,7 @@
 #include "dossier/model/Environment.h"
 #include "dossier/model/Lening.h"
 #include "dossier/model/Persoon.h"
+#include "host/model/Codes.h"
 #include "host/model/Dossier.h"
 
 namespace brivane::dossier {
@@ -19,14 +20,14 @@ namespace brivane::dossier {
 /// a column of the current one is the deviating version of that item. What has no such version follows the
 /// current situation. See docs/host-meaning.md.
 ///
-///     Dossier dossier(gegevens, std::make_shared<Omgeving>());
+///     Dossier dossier(gegevens, std::make_shared<Environment>());
 ///     auto kolom = dossier.NieuweKolom(kHuidig);
 class Dossier : public host::Dossier {
  public:
   /// Number of the loan of the current situation.
-  static constexpr std::int16_t kHuidig = 0;
+  static constexpr std::int16_t kHuidig = host::codes::kHuidigeSituatie;
 
-  Dossier(DossierGegevens gegevens, std::shared_ptr<Omgeving> omgeving);
+  Dossier(DossierGegevens gegevens, std::shared_ptr<Environment> omgeving);
 
   [[nodiscard]] std::shared_ptr<host::Lening> HuidigeLening() override { return huidige_; }
   [[nodiscard]] std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override { return ZoekLening(Len_Id); }
@@ -81,9 +82,9 @@ class Dossier : public host::Dossier {
   [[nodiscard]] std::int16_t VrijId() const;
   template <class Function> void VoorElkeKolom(Function&& functie) const;
   void NeemPersonenOver(std::vector<PersoonGegevens> personen);
-  void SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap);
+  void SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
 
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   std::vector<std::shared_ptr<dossier::Persoon>> personen_;
   std::int16_t leeftijd_;
   std::vector<Code> maatschappijen_;

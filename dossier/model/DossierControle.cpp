@@ -5,21 +5,22 @@
 #include "dossier/model/Application.h"
 #include "frame/Calendar.h"
 #include "host/Error.h"
+#include "host/model/Codes.h"
 
 namespace brivane::dossier {
 namespace {
 
 /// Collects what is found about one column.
-class Kolomcontrole {
+class KolomCheck {
  public:
-  Kolomcontrole(Dossier& dossier, host::Date vandaag, std::vector<Bevinding>& bevindingen)
+  KolomCheck(Dossier& dossier, host::Date vandaag, std::vector<Finding>& bevindingen)
       : dossier_(dossier), vandaag_(vandaag), bevindingen_(bevindingen) {}
 
   void Controleer(std::int16_t Len_Id, const KolomGegevens& kolom) {
     const auto meld = [&](const char* tekst) { bevindingen_.push_back({Len_Id, kolom.Id, tekst}); };
     if (kolom.Omschrijving.empty()) meld("Er is geen omschrijving ingevuld.");
     if (kolom.Bedrag.Bedrag == 0 && kolom.Bedrag.Perioden.empty()) meld("Er is geen bedrag ingevuld.");
-    if (TermijnTekst(kolom.Termijn).empty()) meld("Er is geen termijn gekozen.");
+    if (host::codes::WordsFor(kolom.Termijn, host::codes::kTermijnen).empty()) meld("Er is geen termijn gekozen.");
     if (!dossier_.Persoon(kolom.HeffingBij)) meld("De post staat op naam van een partner die er niet is.");
     if (kolom.IsProduct) {
       ControleerProduct(kolom, meld);
@@ -34,10 +35,10 @@ class Kolomcontrole {
     const bool bekend =
         std::any_of(codes.begin(), codes.end(), [&](const Code& code) { return code.code == kolom.Maatschappij; });
     if (!bekend) meld("Er is geen maatschappij gekozen.");
-    if (kolom.Maatschappij == kAndereMaatschappij && kolom.MaatschappijNaam.empty()) {
+    if (kolom.Maatschappij == host::codes::kAndereMaatschappij && kolom.MaatschappijNaam.empty()) {
       meld("De naam van de andere maatschappij ontbreekt.");
     }
-    if (!IsContract(kolom)) {
+    if (!host::codes::IsContractsoort(kolom.Productsoort)) {
       if (Afgelopen(kolom)) meld("De looptijd van de post is voorbij.");
     } else if (kolom.Contractvervaldatum.IsNone()) {
       meld("Er is geen contractvervaldatum ingevuld.");
@@ -55,14 +56,14 @@ class Kolomcontrole {
 
   Dossier& dossier_;
   host::Date vandaag_;
-  std::vector<Bevinding>& bevindingen_;
+  std::vector<Finding>& bevindingen_;
 };
 
 }  // namespace
 
-std::vector<Bevinding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
-  std::vector<Bevinding> bevindingen;
-  Kolomcontrole controle(dossier, vandaag, bevindingen);
+std::vector<Finding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
+  std::vector<Finding> bevindingen;
+  KolomCheck controle(dossier, vandaag, bevindingen);
   for (std::int16_t Len_Id = Dossier::kHuidig; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
     for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) controle.Controleer(Len_Id, kolom->Gegevens());
   }

@@ -8,6 +8,10 @@
 #include <vector>
 
 #include "host/Date.h"
+#include "host/Error.h"
+#include "host/model/Codes.h"
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
 
 /// The contents of a loan file as plain values: what a file is read into and a case is made from.
 namespace brivane::dossier {
@@ -16,13 +20,8 @@ namespace brivane::dossier {
 /// that was not stored yet. Not shown to anyone.
 using Sleutel = std::int64_t;
 
-struct PeriodeGegevens {
+struct PeriodeGegevens : host::PeriodeValues {
   dossier::Sleutel Sleutel = 0;
-  std::int16_t Maand = 0;
-  double Bedrag = 0;
-  double Percentage = 0;
-  double Korting = 0;
-  bool Eenmalig = false;
 
   friend bool operator==(const PeriodeGegevens&, const PeriodeGegevens&) = default;
 };
@@ -36,37 +35,9 @@ struct BedragGegevens {
   friend bool operator==(const BedragGegevens&, const BedragGegevens&) = default;
 };
 
-/// One free column. The defaults are a valid recurring cost of the applicant.
-struct KolomGegevens {
+/// One free column.
+struct KolomGegevens : host::VrijeKolomValues {
   dossier::Sleutel Sleutel = 0;
-  std::int16_t Id = 1;
-  std::int16_t CorrectieLast = 1;
-  std::int16_t CorrectieFiscaal = 1;
-  std::int16_t HeffingBij = 1;
-  std::string Omschrijving;
-  std::int16_t Termijn = 1;
-  bool InkomenUitArbeid = false;
-  bool InDagloon = false;
-  host::Date DatumAanvang;
-  std::int32_t Looptijd = 0;
-  host::Date Contractvervaldatum;
-  bool IsProduct = false;
-  std::string Maatschappij;
-  std::string MaatschappijNaam;
-  std::int16_t Productsoort = 0;
-  std::string ProductsoortOmschrijving;
-  std::string Productnaam;
-  bool UwBemiddeling = false;
-  std::array<std::string, 3> Voorstel;
-  std::string Weergave;
-  std::string Kopregel;
-  bool UitsluitenAO = false;
-  bool UitsluitenWW = false;
-  bool UitsluitenLangleven = false;
-  bool ScenarioOverlijden = false;
-  float PercentageOvergang = 0;
-  host::Date EinddatumOvergang;
-  std::int16_t EindleeftijdOvergang = 0;
   BedragGegevens Bedrag;
 
   friend bool operator==(const KolomGegevens&, const KolomGegevens&) = default;
@@ -95,6 +66,12 @@ struct Code {
   friend bool operator==(const Code&, const Code&) = default;
 };
 
+/// Where proposal 1, 2 or 3 stands in an array of them; fails with error 9 for another number.
+inline std::size_t Plaats(std::int16_t voorstel) {
+  if (voorstel < 1 || voorstel > host::codes::kVoorstellen) throw host::Error(host::ErrorNumber::SubscriptOutOfRange);
+  return static_cast<std::size_t>(voorstel - 1);
+}
+
 struct DossierGegevens {
   std::vector<PersoonGegevens> Personen;  ///< the applicant and, if there is one, the partner
   std::int16_t Leeftijd = 67;             ///< age limit of the assumptions, whole years
@@ -106,16 +83,5 @@ struct DossierGegevens {
 
   friend bool operator==(const DossierGegevens&, const DossierGegevens&) = default;
 };
-
-/// The company code for a company that is named in text.
-inline constexpr char kAndereMaatschappij[] = "ZZ";
-
-/// One-off, as a term.
-inline constexpr std::int16_t kEenmalig = 99;
-
-/// A product that runs until a contract expiry date instead of for a duration.
-[[nodiscard]] bool IsContract(const KolomGegevens& kolom);
-/// The fixed name of a kind of product; empty for 0, "Anders" and what is unknown.
-[[nodiscard]] std::string Productsoortnaam(std::int16_t productsoort);
 
 }  // namespace brivane::dossier

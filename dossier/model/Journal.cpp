@@ -17,7 +17,7 @@ void Journal::MoveColumn(Sleutel, Sleutel, std::int16_t) {}
 void Journal::AddLoan(LeningGegevens& lening) { lening.Sleutel = ++laatste_; }
 void Journal::SetPersons(const std::vector<PersoonGegevens>&) {}
 void Journal::SetAgeLimit(std::int16_t) {}
-void Journal::SetProposal(std::int16_t, std::int16_t, Lidmaatschap) {}
+void Journal::SetProposal(std::int16_t, std::int16_t, Membership) {}
 void Journal::InOneEdit(const std::function<void()>& body) { body(); }
 
 }  // namespace brivane::dossier

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -10,47 +11,31 @@
 
 namespace brivane::dossier {
 
-/// The fields of a free column that can be written, the base amount included.
-enum class KolomVeld : std::uint8_t {
-  CorrectieLast,
-  CorrectieFiscaal,
-  HeffingBij,
-  Omschrijving,
-  Termijn,
-  InkomenUitArbeid,
-  InDagloon,
-  DatumAanvang,
-  Looptijd,
-  Contractvervaldatum,
-  IsProduct,
-  Maatschappij,
-  MaatschappijNaam,
-  Productsoort,
-  ProductsoortOmschrijving,
-  Productnaam,
-  UwBemiddeling,
-  Voorstel1,
-  Voorstel2,
-  Voorstel3,
-  UitsluitenAO,
-  UitsluitenWW,
-  UitsluitenLangleven,
-  ScenarioOverlijden,
-  PercentageOvergang,
-  EinddatumOvergang,
-  EindleeftijdOvergang,
-  Bedrag
+/// A field of a free column that can be written, by its name in host::kVrijeKolomFields. The name lives as long as the
+/// program.
+struct KolomVeld {
+  std::string_view naam;
 };
-inline constexpr int kKolomVelden = static_cast<int>(KolomVeld::Bedrag) + 1;
+/// The membership of proposal 1, 2 and 3, which a file keeps apart.
+inline constexpr KolomVeld kVoorstelVelden[] = {{"Voorstel1"}, {"Voorstel2"}, {"Voorstel3"}};
+/// The base amount, which is the amount object's.
+inline constexpr KolomVeld kBasisbedrag{"Bedrag"};
 
-enum class PeriodeVeld : std::uint8_t { Maand, Bedrag, Percentage, Korting, Eenmalig };
-inline constexpr int kPeriodeVelden = static_cast<int>(PeriodeVeld::Eenmalig) + 1;
+/// A field of a period entry, by its name in host::kPeriodeFields.
+struct PeriodeVeld {
+  std::string_view naam;
+};
 
 /// A field's new value: whole numbers, flags (0 and 1) and dates (days) as integer.
 using Waarde = std::variant<std::int64_t, double, std::string_view>;
 
+inline Waarde AlsWaarde(std::integral auto getal) { return std::int64_t{getal}; }
+inline Waarde AlsWaarde(double getal) { return getal; }
+inline Waarde AlsWaarde(host::Date datum) { return std::int64_t{datum.Days()}; }
+inline Waarde AlsWaarde(const std::string& tekst) { return std::string_view(tekst); }
+
 /// Whether a free column is ended in a proposal.
-enum class Lidmaatschap : bool { Nee, Ja };
+enum class Membership : bool { No, Yes };
 
 /// Told of every change of a case before the memory changes. An implementation that cannot keep a
 /// change throws host::Error, and the memory then stays as it was.
@@ -78,7 +63,7 @@ class Journal {
   virtual void SetPersons(const std::vector<PersoonGegevens>& personen);
   virtual void SetAgeLimit(std::int16_t leeftijd);
 
-  virtual void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap);
+  virtual void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
 
   /// Runs a body whose changes belong together: all are kept or none.
   virtual void InOneEdit(const std::function<void()>& body);

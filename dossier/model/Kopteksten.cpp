@@ -1,9 +1,9 @@
 #include "dossier/model/Kopteksten.h"
 
-#include <cmath>
-#include <cstdio>
-#include <cstring>
 #include <string_view>
+
+#include "frame/Numbers.h"
+#include "host/model/Codes.h"
 
 namespace brivane::dossier {
 namespace {
@@ -25,36 +25,12 @@ std::string Kopteksten::Kopregel(const KolomGegevens& kolom) const { return kolo
 std::string BerekendeKopteksten::Weergave(const KolomGegevens& kolom) const { return Kopregel(kolom); }
 
 std::string BerekendeKopteksten::Kopregel(const KolomGegevens& kolom) const {
-  std::string tekst = Onderwerp(kolom) + " · € " + BedragTekst(kolom.Bedrag.Bedrag);
-  if (const std::string termijn = TermijnTekst(kolom.Termijn); !termijn.empty()) tekst += " " + termijn;
+  // An amount that is no number has no text; there is something to read all the same.
+  const std::string bedrag = frame::ShowAmount(kolom.Bedrag.Bedrag);
+  std::string tekst = Onderwerp(kolom) + " · € " + (bedrag.empty() ? "?" : bedrag);
+  const std::string_view termijn = host::codes::WordsFor(kolom.Termijn, host::codes::kTermijnen);
+  if (!termijn.empty()) tekst.append(" ").append(termijn);
   return tekst;
-}
-
-std::string BedragTekst(double bedrag) {
-  if (!std::isfinite(bedrag)) return "?";
-  // Rounding in cents first: printing alone would round a half to even.
-  const double centen = std::round(std::fabs(bedrag) * 100);
-  char cijfers[400];
-  std::snprintf(cijfers, sizeof cijfers, "%03.0f", centen);
-  const std::string_view geheel(cijfers, std::strlen(cijfers) - 2);
-  std::string tekst = bedrag < 0 && centen > 0 ? "-" : "";
-  for (std::size_t plaats = 0; plaats < geheel.size(); ++plaats) {
-    if (plaats > 0 && (geheel.size() - plaats) % 3 == 0) tekst += '.';
-    tekst += geheel[plaats];
-  }
-  tekst += ',';
-  return tekst += cijfers + geheel.size();
-}
-
-std::string TermijnTekst(std::int16_t termijn) {
-  switch (termijn) {
-    case 1: return "per maand";
-    case 3: return "per kwartaal";
-    case 6: return "per half jaar";
-    case 12: return "per jaar";
-    case kEenmalig: return "eenmalig";
-    default: return {};
-  }
 }
 
 }  // namespace brivane::dossier

@@ -23,9 +23,4 @@ class BerekendeKopteksten : public Kopteksten {
   [[nodiscard]] std::string Kopregel(const KolomGegevens& kolom) const override;
 };
 
-/// An amount in Dutch: "1.234,56", with a minus in front when negative; halves of a cent away from zero.
-[[nodiscard]] std::string BedragTekst(double bedrag);
-/// The term in words: "per maand", "eenmalig"; empty for a code that is none.
-[[nodiscard]] std::string TermijnTekst(std::int16_t termijn);
-
 }  // namespace brivane::dossier

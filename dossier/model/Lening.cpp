@@ -8,7 +8,7 @@
 
 namespace brivane::dossier {
 
-Lening::Lening(std::shared_ptr<Omgeving> omgeving, LeningGegevens gegevens) : omgeving_(std::move(omgeving)) {
+Lening::Lening(std::shared_ptr<Environment> omgeving, LeningGegevens gegevens) : omgeving_(std::move(omgeving)) {
   Herlaad(std::move(gegevens));
 }
 

@@ -12,7 +12,7 @@ namespace brivane::dossier {
 /// A loan of a case with its free columns, in the order in which they were added.
 class Lening : public host::Lening {
  public:
-  Lening(std::shared_ptr<Omgeving> omgeving, LeningGegevens gegevens);
+  Lening(std::shared_ptr<Environment> omgeving, LeningGegevens gegevens);
 
   /// The first column with that identifier.
   [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> VrijeKolommen(std::int16_t Vrij_Id) override;
@@ -37,7 +37,7 @@ class Lening : public host::Lening {
   void Herlaad(LeningGegevens gegevens);
 
  private:
-  std::shared_ptr<Omgeving> omgeving_;
+  std::shared_ptr<Environment> omgeving_;
   dossier::Sleutel sleutel_ = 0;
   std::string naam_;
   std::vector<std::shared_ptr<dossier::VrijeKolom>> kolommen_;

@@ -1,16 +1,20 @@
 #include "dossier/model/SampleCase.h"
 
 #include "frame/Calendar.h"
+#include "host/model/Codes.h"
 
 namespace brivane::dossier {
 namespace {
 
+using namespace host::codes;
+
 host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
 
 std::vector<Code> Maatschappijen() {
-  return {{"AO", "Algemene Onderlinge"},   {"BV", "Bergse Verzekeringen"}, {"DM", "Dagblad De Maasbode"},
-          {"HW", "Huis & Wonen Bladen"},   {"NH", "Noorderhaven Bank"},    {"SK", "Stichting Kinderhoek"},
-          {"TZ", "Tennisclub Zuiderpark"}, {kAndereMaatschappij, "Anders"}};
+  return {{"AO", "Algemene Onderlinge"},   {"BV", "Bergse Verzekeringen"},
+          {"DM", "Dagblad De Maasbode"},   {"HW", "Huis & Wonen Bladen"},
+          {"NH", "Noorderhaven Bank"},     {"SK", "Stichting Kinderhoek"},
+          {"TZ", "Tennisclub Zuiderpark"}, {std::string(kAndereMaatschappij), "Anders"}};
 }
 
 KolomGegevens Kolom(std::int16_t Id, const char* omschrijving, double bedrag) {
@@ -24,24 +28,24 @@ KolomGegevens Kolom(std::int16_t Id, const char* omschrijving, double bedrag) {
 
 KolomGegevens Kinderopvang() {
   KolomGegevens kolom = Kolom(1, "Kinderopvang", 485.50);
-  kolom.CorrectieFiscaal = 3;
+  kolom.CorrectieFiscaal = kFiscaalNeutraal;
   kolom.DatumAanvang = Datum(1, 9, 2024);
   kolom.Looptijd = 96;
-  kolom.Bedrag.Perioden = {{.Maand = 36, .Bedrag = 310}, {.Maand = 60, .Bedrag = 165}};
+  kolom.Bedrag.Perioden = {{{.Maand = 36, .Bedrag = 310}}, {{.Maand = 60, .Bedrag = 165}}};
   return kolom;
 }
 
 KolomGegevens Krant() {
   KolomGegevens kolom = Kolom(2, "Weekendabonnement", 32.50);
-  kolom.CorrectieFiscaal = 3;
+  kolom.CorrectieFiscaal = kFiscaalNeutraal;
   kolom.DatumAanvang = Datum(1, 1, 2026);
   kolom.IsProduct = true;
   kolom.Maatschappij = "DM";
   kolom.MaatschappijNaam = "Dagblad De Maasbode";
-  kolom.Productsoort = 44;
-  kolom.ProductsoortOmschrijving = "Krant";
+  kolom.Productsoort = kKrant;
+  kolom.ProductsoortOmschrijving = WordsFor(kKrant, kProductsoorten);
   kolom.Productnaam = "De Maasbode op zaterdag";
-  kolom.Looptijd = 999;
+  kolom.Looptijd = kLooptijdProduct;
   kolom.Contractvervaldatum = Datum(31, 12, 2027);
   kolom.UwBemiddeling = true;
   return kolom;
@@ -49,9 +53,9 @@ KolomGegevens Krant() {
 
 KolomGegevens Bijverdienste() {
   KolomGegevens kolom = Kolom(3, "Muzieklessen aan huis", 350);
-  kolom.CorrectieLast = 2;
-  kolom.CorrectieFiscaal = 2;
-  kolom.HeffingBij = 2;
+  kolom.CorrectieLast = kBijdrage;
+  kolom.CorrectieFiscaal = kBijtelling;
+  kolom.HeffingBij = kPartner;
   kolom.InkomenUitArbeid = true;
   kolom.DatumAanvang = Datum(1, 4, 2025);
   kolom.Looptijd = 120;
@@ -66,19 +70,19 @@ KolomGegevens Gift() {
   kolom.IsProduct = true;
   kolom.Maatschappij = "SK";
   kolom.MaatschappijNaam = "Stichting Kinderhoek";
-  kolom.Productsoort = 43;
-  kolom.ProductsoortOmschrijving = "Goed doel";
+  kolom.Productsoort = kGoedDoel;
+  kolom.ProductsoortOmschrijving = WordsFor(kGoedDoel, kProductsoorten);
   kolom.Contractvervaldatum = Datum(31, 12, 2027);
   return kolom;
 }
 
 KolomGegevens Lijfrente() {
   KolomGegevens kolom = Kolom(5, "Lijfrente-uitkering", 6250);
-  kolom.CorrectieLast = 2;
-  kolom.CorrectieFiscaal = 2;
+  kolom.CorrectieLast = kBijdrage;
+  kolom.CorrectieFiscaal = kBijtelling;
   kolom.Termijn = 12;
   kolom.Bedrag.Invoersoort = 3;
-  kolom.Bedrag.Perioden = {{.Maand = 13, .Percentage = 2}};
+  kolom.Bedrag.Perioden = {{{.Maand = 13, .Percentage = 2}}};
   kolom.DatumAanvang = Datum(31, 1, 2028);
   kolom.Looptijd = 240;
   kolom.ScenarioOverlijden = true;
@@ -90,19 +94,19 @@ KolomGegevens Lijfrente() {
 
 KolomGegevens Sport() {
   KolomGegevens kolom = Kolom(6, "Tennislidmaatschap", 240);
-  kolom.CorrectieFiscaal = 3;
+  kolom.CorrectieFiscaal = kFiscaalNeutraal;
   kolom.Termijn = 6;
-  kolom.HeffingBij = 2;
+  kolom.HeffingBij = kPartner;
   kolom.DatumAanvang = Datum(1, 7, 2023);
   kolom.IsProduct = true;
   kolom.Maatschappij = kAndereMaatschappij;
   kolom.MaatschappijNaam = "TC De Baseline";
-  kolom.Productsoort = 42;
-  kolom.ProductsoortOmschrijving = "Vereniging";
+  kolom.Productsoort = kVereniging;
+  kolom.ProductsoortOmschrijving = WordsFor(kVereniging, kProductsoorten);
   kolom.Productnaam = "Seniorlid";
-  kolom.Looptijd = 999;
+  kolom.Looptijd = kLooptijdProduct;
   kolom.Contractvervaldatum = Datum(30, 6, 2028);
-  kolom.Voorstel = {"J", "N", ""};
+  kolom.Voorstel = {std::string(kInVoorstel), std::string(kUitVoorstel), ""};
   return kolom;
 }
 
@@ -127,7 +131,7 @@ DossierGegevens VoorbeeldDossier() {
   // In the first new loan the childcare is reckoned lower; all else follows the current situation.
   KolomGegevens afwijking = Kinderopvang();
   afwijking.Bedrag.Bedrag = 310;
-  afwijking.Bedrag.Perioden = {{.Maand = 36, .Bedrag = 165}};
+  afwijking.Bedrag.Perioden = {{{.Maand = 36, .Bedrag = 165}}};
   KolomGegevens onderhoud = Kolom(7, "Onderhoud zonnepanelen", 95);
   onderhoud.Termijn = 12;
   onderhoud.DatumAanvang = Datum(1, 3, 2027);

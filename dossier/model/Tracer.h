@@ -2,21 +2,10 @@
 
 #include <string>
 
+#include "host/model/ErrorRecord.h"
 #include "host/model/ProcedureTrace.h"
 
 namespace brivane::dossier {
-
-/// A filled error record, as a control hands it to the host.
-struct Foutrecord {
-  std::string ApplicationTitle;
-  std::string ObjectName;
-  std::string Caption;
-  std::string ObjectDescription;
-  std::string Message;
-  std::string ErrorNumber;
-  std::string ErrorDescription;
-  std::string ErrorSource;
-};
 
 /// A procedure tracer that keeps the error record and lets entries and exits pass. Derive from it to
 /// follow them.
@@ -35,10 +24,10 @@ class Tracer : public host::ProcedureTrace {
   void SetErrorDescription(const std::string& tekst) override { record_.ErrorDescription = tekst; }
   void SetErrorSource(const std::string& tekst) override { record_.ErrorSource = tekst; }
 
-  [[nodiscard]] const Foutrecord& Record() const { return record_; }
+  [[nodiscard]] const host::ErrorRecord& Record() const { return record_; }
 
  private:
-  Foutrecord record_;
+  host::ErrorRecord record_;
 };
 
 }  // namespace brivane::dossier

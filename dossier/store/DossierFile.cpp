@@ -51,7 +51,7 @@ class OpenFiles {
 
 /// Takes the file for this process, for as long as the connection lives, and reads it. Nothing is written before the
 /// whole of it was found right.
-GelezenDossier NeemEnLees(Database& database, const QString& pad) {
+StoredDossier NeemEnLees(Database& database, const QString& pad) {
   // From the first reading on nobody else can write.
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
   ControleerInhoud(database, pad);
@@ -86,17 +86,17 @@ OpeningProblem Probleem(const DatabaseError& error) {
 
 }  // namespace
 
-DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
+DossierFile::DossierFile(const QString& pad) : pad_(pad) {
   try {
     ControleerBestand(pad_);
     auto database = std::make_unique<Database>(pad_, Access::ReadWrite);
-    GelezenDossier gelezen = NeemEnLees(*database, pad_);
+    StoredDossier gelezen = NeemEnLees(*database, pad_);
     MaakSchrijfklaar(*database);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
     journal_ = std::make_shared<FileJournal>(std::move(database), gelezen.hoogste + 1, [doel](Database& opnieuw) {
       if (const auto dossier = doel->lock()) dossier->Herlaad(LeesDossier(opnieuw).gegevens);
     });
-    auto omgeving = std::make_shared<Omgeving>();
+    auto omgeving = std::make_shared<Environment>();
     omgeving->Journal = journal_;
     omgeving->Kopteksten = std::make_shared<BerekendeKopteksten>();
     dossier_ = std::make_shared<dossier::Dossier>(std::move(gelezen.gegevens), std::move(omgeving));
@@ -106,24 +106,24 @@ DossierBestand::DossierBestand(const QString& pad) : pad_(pad) {
   }
 }
 
-std::unique_ptr<DossierBestand> DossierBestand::Open(const QString& naam) {
+std::unique_ptr<DossierFile> DossierFile::Open(const QString& naam) {
   // The name under which the file is given free again.
   const QString pad = QFileInfo(naam).absoluteFilePath();
   if (!OpenFiles::Instance().Add(pad)) throw OpeningError(OpeningProblem::InUse, pad);
   try {
-    return std::unique_ptr<DossierBestand>(new DossierBestand(pad));
+    return std::unique_ptr<DossierFile>(new DossierFile(pad));
   } catch (...) {
     OpenFiles::Instance().Remove(pad);
     throw;
   }
 }
 
-DossierBestand::~DossierBestand() {
+DossierFile::~DossierFile() {
   journal_->Sluit();
   OpenFiles::Instance().Remove(pad_);
 }
 
-void DossierBestand::Maak(const QString& pad, const DossierGegevens& gegevens) {
+void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
   if (QFileInfo::exists(pad)) throw OpeningError(OpeningProblem::AlreadyThere, pad);
   // Written beside its place and then given its name, so that no half file ever has it.
   const QString voorlopig = pad + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128);
@@ -141,16 +141,15 @@ void DossierBestand::Maak(const QString& pad, const DossierGegevens& gegevens) {
   throw OpeningError(QFileInfo::exists(pad) ? OpeningProblem::AlreadyThere : OpeningProblem::CannotCreate, pad);
 }
 
-Edits& DossierBestand::Bewerkingen() { return journal_->Bewerkingen(); }
+Edits& DossierFile::Bewerkingen() { return journal_->Bewerkingen(); }
 
-std::shared_ptr<Edits> DossierBestand::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
+std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
 
-std::shared_ptr<StoreTrace> DossierBestand::MaakTrace(std::string_view control,
-                                                      std::shared_ptr<TraceListener> listener) {
+std::shared_ptr<StoreTrace> DossierFile::MaakTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
   return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
 }
 
-QStringList DossierBestand::ControleerHeelheid() {
+QStringList DossierFile::ControleerHeelheid() {
   Database& database = *journal_->Bestand();
   QStringList bevindingen;
   for (const QString& sql : {QStringLiteral("PRAGMA integrity_check"), QStringLiteral("PRAGMA foreign_key_check")}) {

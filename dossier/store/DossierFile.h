@@ -18,23 +18,24 @@ class FileJournal;
 /// An open loan file (`.dossier`) with its case in memory. While it is open nobody else can open it, in this
 /// process or another. Every change of the case is in the file before the procedure that made it returns.
 ///
-///     auto bestand = DossierBestand::Open(pad);   // OpeningError: show its Melding()
+///     auto bestand = DossierFile::Open(pad);   // OpeningError: show its Melding()
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
 ///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
-///     Scenarioopslag scenario(editor, toolkit, bestand->Bewerkingen());
-///     bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */ });
+///     ScenarioTransaction scenario(editor, bestand->Bewerkingen());
+///     const auto failed = bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */
+///     });
 ///
 /// The objects of the case may outlive it; a change then fails.
-class DossierBestand {
+class DossierFile {
  public:
   /// Opens a loan file. Throws OpeningError, and leaves the file as it was.
-  [[nodiscard]] static std::unique_ptr<DossierBestand> Open(const QString& pad);
+  [[nodiscard]] static std::unique_ptr<DossierFile> Open(const QString& pad);
   /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
   static void Maak(const QString& pad, const DossierGegevens& gegevens);
 
-  DossierBestand(const DossierBestand&) = delete;
-  DossierBestand& operator=(const DossierBestand&) = delete;
-  ~DossierBestand();
+  DossierFile(const DossierFile&) = delete;
+  DossierFile& operator=(const DossierFile&) = delete;
+  ~DossierFile();
 
   [[nodiscard]] const QString& Pad() const { return pad_; }
   [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const { return dossier_; }
@@ -48,7 +49,7 @@ class DossierBestand {
   [[nodiscard]] QStringList ControleerHeelheid();
 
  private:
-  explicit DossierBestand(const QString& pad);
+  explicit DossierFile(const QString& pad);
 
   QString pad_;
   std::shared_ptr<FileJournal> journal_;

@@ -1,87 +1,51 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "dossier/model/Journal.h"
 
-/// Which field of the plain values stands in which column of the file's tables.
+/// What of the plain values stands in the file's tables, and under which name.
 namespace brivane::dossier {
 
-/// Column names in table `vrijekolom`, in the order of KolomVeld.
-inline constexpr const char* kKolomNamen[kKolomVelden] = {"correctie_last",
-                                                          "correctie_fiscaal",
-                                                          "heffing_bij",
-                                                          "omschrijving",
-                                                          "termijn",
-                                                          "inkomen_uit_arbeid",
-                                                          "in_dagloon",
-                                                          "datum_aanvang",
-                                                          "looptijd",
-                                                          "contractvervaldatum",
-                                                          "is_product",
-                                                          "maatschappij",
-                                                          "maatschappij_naam",
-                                                          "productsoort",
-                                                          "productsoort_omschrijving",
-                                                          "productnaam",
-                                                          "uw_bemiddeling",
-                                                          "voorstel_1",
-                                                          "voorstel_2",
-                                                          "voorstel_3",
-                                                          "uitsluiten_ao",
-                                                          "uitsluiten_ww",
-                                                          "uitsluiten_langleven",
-                                                          "scenario_overlijden",
-                                                          "percentage_overgang",
-                                                          "einddatum_overgang",
-                                                          "eindleeftijd_overgang",
-                                                          "bedrag"};
+/// The column of a table that holds a field: "UitsluitenAO" stands in `uitsluiten_ao`, "Voorstel1" in `voorstel_1`.
+[[nodiscard]] inline std::string ColumnName(std::string_view naam) {
+  const auto klein = [](char teken) { return teken >= 'a' && teken <= 'z'; };
+  const auto hoofdletter = [](char teken) { return teken >= 'A' && teken <= 'Z'; };
+  std::string kolom;
+  for (std::size_t plaats = 0; plaats < naam.size(); ++plaats) {
+    const char teken = naam[plaats];
+    if (plaats > 0 && klein(naam[plaats - 1]) && !klein(teken)) kolom += '_';
+    kolom += hoofdletter(teken) ? static_cast<char>(teken - 'A' + 'a') : teken;
+  }
+  return kolom;
+}
 
-/// Column names in table `periode`, in the order of PeriodeVeld.
-inline constexpr const char* kPeriodeNamen[kPeriodeVelden] = {"maand", "bedrag", "percentage", "korting", "eenmalig"};
+/// Hands a visitor what the file keeps of one field; what the host words for a column itself is not kept.
+template <class Item, class Waarden, class T, class Kolom, class Visitor>
+void BezoekVeld(const host::ReadOnlyField<Item, Waarden, T>&, Kolom&, Visitor&) {}
+template <class Item, class Waarden, class T, class Given, class Kolom, class Visitor>
+void BezoekVeld(const host::Field<Item, Waarden, T, Given>& veld, Kolom& kolom, Visitor& bezoek) {
+  bezoek(veld.name, kolom.*veld.value);
+}
+/// Three values in three columns.
+template <class Item, class Waarden, class T, class Given, class Kolom, class Visitor>
+void BezoekVeld(const host::NumberedField<Item, Waarden, T, Given, 3>& veld, Kolom& kolom, Visitor& bezoek) {
+  for (std::size_t plaats = 0; plaats < 3; ++plaats) bezoek(kVoorstelVelden[plaats].naam, (kolom.*veld.value)[plaats]);
+}
 
-/// Hands a visitor the column name and the value of every stored field of a free column but its key.
+/// Hands a visitor the name and the value of every stored field of a free column but its key.
 template <class Kolom, class Visitor> void BezoekKolom(Kolom& kolom, Visitor&& bezoek) {
-  const auto naam = [](KolomVeld veld) { return kKolomNamen[static_cast<int>(veld)]; };
-  bezoek("id", kolom.Id);
-  bezoek(naam(KolomVeld::CorrectieLast), kolom.CorrectieLast);
-  bezoek(naam(KolomVeld::CorrectieFiscaal), kolom.CorrectieFiscaal);
-  bezoek(naam(KolomVeld::HeffingBij), kolom.HeffingBij);
-  bezoek(naam(KolomVeld::Omschrijving), kolom.Omschrijving);
-  bezoek(naam(KolomVeld::Termijn), kolom.Termijn);
-  bezoek(naam(KolomVeld::InkomenUitArbeid), kolom.InkomenUitArbeid);
-  bezoek(naam(KolomVeld::InDagloon), kolom.InDagloon);
-  bezoek(naam(KolomVeld::DatumAanvang), kolom.DatumAanvang);
-  bezoek(naam(KolomVeld::Looptijd), kolom.Looptijd);
-  bezoek(naam(KolomVeld::Contractvervaldatum), kolom.Contractvervaldatum);
-  bezoek(naam(KolomVeld::IsProduct), kolom.IsProduct);
-  bezoek(naam(KolomVeld::Maatschappij), kolom.Maatschappij);
-  bezoek(naam(KolomVeld::MaatschappijNaam), kolom.MaatschappijNaam);
-  bezoek(naam(KolomVeld::Productsoort), kolom.Productsoort);
-  bezoek(naam(KolomVeld::ProductsoortOmschrijving), kolom.ProductsoortOmschrijving);
-  bezoek(naam(KolomVeld::Productnaam), kolom.Productnaam);
-  bezoek(naam(KolomVeld::UwBemiddeling), kolom.UwBemiddeling);
-  bezoek(naam(KolomVeld::Voorstel1), kolom.Voorstel[0]);
-  bezoek(naam(KolomVeld::Voorstel2), kolom.Voorstel[1]);
-  bezoek(naam(KolomVeld::Voorstel3), kolom.Voorstel[2]);
-  bezoek(naam(KolomVeld::UitsluitenAO), kolom.UitsluitenAO);
-  bezoek(naam(KolomVeld::UitsluitenWW), kolom.UitsluitenWW);
-  bezoek(naam(KolomVeld::UitsluitenLangleven), kolom.UitsluitenLangleven);
-  bezoek(naam(KolomVeld::ScenarioOverlijden), kolom.ScenarioOverlijden);
-  bezoek(naam(KolomVeld::PercentageOvergang), kolom.PercentageOvergang);
-  bezoek(naam(KolomVeld::EinddatumOvergang), kolom.EinddatumOvergang);
-  bezoek(naam(KolomVeld::EindleeftijdOvergang), kolom.EindleeftijdOvergang);
-  bezoek("bedrag_naam", kolom.Bedrag.Naam);
-  bezoek("invoersoort", kolom.Bedrag.Invoersoort);
-  bezoek(naam(KolomVeld::Bedrag), kolom.Bedrag.Bedrag);
+  bezoek(std::string_view("Id"), kolom.Id);
+  host::ForEach(host::kVrijeKolomFields, [&](const auto& veld) { BezoekVeld(veld, kolom, bezoek); });
+  bezoek(std::string_view("BedragNaam"), kolom.Bedrag.Naam);
+  bezoek(std::string_view("Invoersoort"), kolom.Bedrag.Invoersoort);
+  bezoek(kBasisbedrag.naam, kolom.Bedrag.Bedrag);
 }
 
 /// The same for a period entry.
 template <class Periode, class Visitor> void BezoekPeriode(Periode& periode, Visitor&& bezoek) {
-  const auto naam = [](PeriodeVeld veld) { return kPeriodeNamen[static_cast<int>(veld)]; };
-  bezoek(naam(PeriodeVeld::Maand), periode.Maand);
-  bezoek(naam(PeriodeVeld::Bedrag), periode.Bedrag);
-  bezoek(naam(PeriodeVeld::Percentage), periode.Percentage);
-  bezoek(naam(PeriodeVeld::Korting), periode.Korting);
-  bezoek(naam(PeriodeVeld::Eenmalig), periode.Eenmalig);
+  host::ForEach(host::kPeriodeFields, [&](const auto& veld) { bezoek(veld.name, periode.*veld.value); });
 }
 
 }  // namespace brivane::dossier

@@ -33,11 +33,11 @@ QVariant AlsVariant(const Waarde& waarde) {
   return QVariant(AlsBytes(std::get<std::string_view>(waarde)));
 }
 
-/// An UPDATE of one column of one row. The value's kind goes with the column.
-QString Update(const char* tabel, const char* kolom, const Waarde& waarde) {
+/// An UPDATE of one field of one row. The value's kind goes with the field.
+QString Update(const char* tabel, std::string_view veld, const Waarde& waarde) {
   const bool tekst = std::holds_alternative<std::string_view>(waarde);
   return QStringLiteral("UPDATE %1 SET %2 = %3 WHERE sleutel = ?")
-      .arg(QString::fromLatin1(tabel), QString::fromLatin1(kolom),
+      .arg(QString::fromLatin1(tabel), QString::fromStdString(ColumnName(veld)),
            tekst ? QStringLiteral("CAST(? AS TEXT)") : QStringLiteral("?"));
 }
 
@@ -51,8 +51,8 @@ FileJournal::~FileJournal() { Sluit(); }
 void FileJournal::Sluit() {
   if (!database_) return;
   writer_.Sluit();
-  for (auto& query : kolomvelden_) query.reset();
-  for (auto& query : periodevelden_) query.reset();
+  kolomvelden_.clear();
+  periodevelden_.clear();
   verwijder_periode_.reset();
   begin_.reset();
   commit_.reset();
@@ -125,9 +125,8 @@ void FileJournal::Reload() noexcept {
 }
 
 void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) {
-  const auto plaats = static_cast<std::size_t>(veld);
   Write([&](Database&) {
-    QSqlQuery& query = Prepared(kolomvelden_[plaats], Update("vrijekolom", kKolomNamen[plaats], waarde));
+    QSqlQuery& query = Prepared(kolomvelden_[veld.naam], Update("vrijekolom", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(kolom));
     RunForOne(query);
@@ -142,9 +141,8 @@ Sleutel FileJournal::AddPeriod(Sleutel kolom) {
 }
 
 void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waarde) {
-  const auto plaats = static_cast<std::size_t>(veld);
   Write([&](Database&) {
-    QSqlQuery& query = Prepared(periodevelden_[plaats], Update("periode", kPeriodeNamen[plaats], waarde));
+    QSqlQuery& query = Prepared(periodevelden_[veld.naam], Update("periode", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(periode));
     RunForOne(query);
@@ -201,9 +199,9 @@ void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
   Write([&](Database& database) { database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd)); });
 }
 
-void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) {
+void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   Write([&](Database& database) {
-    QSqlQuery query = database.Prepare(lidmaatschap == Lidmaatschap::Ja
+    QSqlQuery query = database.Prepare(lidmaatschap == Membership::Yes
                                            ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
                                            : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
     query.bindValue(0, static_cast<qlonglong>(voorstel));

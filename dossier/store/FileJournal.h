@@ -2,8 +2,10 @@
 
 #include <QSqlQuery>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "dossier/model/Journal.h"
 #include "dossier/store/Database.h"
@@ -34,7 +36,7 @@ class FileJournal : public Journal, private Edits::Transactions {
   void AddLoan(LeningGegevens& lening) override;
   void SetPersons(const std::vector<PersoonGegevens>& personen) override;
   void SetAgeLimit(std::int16_t leeftijd) override;
-  void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Lidmaatschap lidmaatschap) override;
+  void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) override;
   void InOneEdit(const std::function<void()>& body) override { edits_.InOneEdit(body); }
 
   [[nodiscard]] Edits& Bewerkingen() { return edits_; }
@@ -62,8 +64,9 @@ class FileJournal : public Journal, private Edits::Transactions {
   bool unreadable_ = false;
   std::optional<QSqlQuery> begin_;
   std::optional<QSqlQuery> commit_;
-  std::optional<QSqlQuery> kolomvelden_[kKolomVelden];
-  std::optional<QSqlQuery> periodevelden_[kPeriodeVelden];
+  /// By the name of the field.
+  std::map<std::string_view, std::optional<QSqlQuery>> kolomvelden_;
+  std::map<std::string_view, std::optional<QSqlQuery>> periodevelden_;
   std::optional<QSqlQuery> verwijder_periode_;
   Edits edits_{*this};
 };

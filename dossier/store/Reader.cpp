@@ -10,6 +10,7 @@
 #include <unordered_map>
 
 #include "dossier/store/Fields.h"
+#include "frame/Calendar.h"
 
 namespace brivane::dossier {
 namespace {
@@ -18,10 +19,6 @@ namespace {
   throw DatabaseError(QSqlError({}, QStringLiteral("The file holds impossible values"), QSqlError::UnknownError,
                                 QString::number(static_cast<int>(SqliteCode::Corrupt))));
 }
-
-/// The calendar's first and last day, 1 January 100 and 31 December 9999, in days since 30 December 1899.
-constexpr std::int32_t kEersteDag = -657434;
-constexpr std::int32_t kLaatsteDag = 2958465;
 
 /// Keys and places start at 1, and new ones are given out after the highest.
 constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max() / 2;
@@ -46,8 +43,8 @@ class Rij {
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
     Lees(dagen);
-    if (dagen < kEersteDag || dagen > kLaatsteDag) Beschadigd();
     datum = host::Date(dagen);
+    if (datum < frame::kFirstDay || datum > frame::kLastDay) Beschadigd();
   }
   /// A key, or a place in an order.
   void LeesSleutel(std::int64_t& sleutel) {
@@ -70,8 +67,8 @@ class Rij {
   int plaats_ = 0;
 };
 
-template <class Value> QString Uitdrukking(const char* naam, const Value&) {
-  const QString kolom = QString::fromLatin1(naam);
+template <class Value> QString Uitdrukking(std::string_view naam, const Value&) {
+  const QString kolom = QString::fromStdString(ColumnName(naam));
   return std::same_as<Value, std::string> ? QStringLiteral("CAST(%1 AS BLOB)").arg(kolom) : kolom;
 }
 
@@ -118,7 +115,7 @@ std::vector<Opbouw> LeesLeningen(Database& database) {
 void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
   QStringList namen = {QStringLiteral("lening"), QStringLiteral("volgorde"), QStringLiteral("sleutel")};
   const KolomGegevens voorbeeld;
-  BezoekKolom(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekKolom(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
   const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
   VoorElkeRij(database, sql, [&](Rij& rij) {
     Sleutel sleutel = 0;
@@ -129,7 +126,7 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
     rij.LeesSleutel(opbouw->volgorde.emplace_back());
     KolomGegevens& kolom = opbouw->lening.VrijeKolommen.emplace_back();
     rij.LeesSleutel(kolom.Sleutel);
-    BezoekKolom(kolom, [&](const char*, auto& waarde) { rij.Lees(waarde); });
+    BezoekKolom(kolom, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
   });
 }
 
@@ -138,7 +135,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
   Sleutel hoogste = 0;
   QStringList namen = {QStringLiteral("kolom"), QStringLiteral("sleutel")};
   const PeriodeGegevens voorbeeld;
-  BezoekPeriode(voorbeeld, [&](const char* naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekPeriode(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
   std::unordered_map<Sleutel, std::vector<PeriodeGegevens>*> perioden;
   const auto aantal = [](std::size_t som, const Opbouw& opbouw) { return som + opbouw.volgorde.size(); };
   perioden.reserve(std::accumulate(leningen.begin(), leningen.end(), std::size_t{0}, aantal));
@@ -157,7 +154,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
     if (eigenaar == perioden.end()) Beschadigd();
     PeriodeGegevens& periode = eigenaar->second->emplace_back();
     rij.LeesSleutel(periode.Sleutel);
-    BezoekPeriode(periode, [&](const char*, auto& waarde) { rij.Lees(waarde); });
+    BezoekPeriode(periode, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
     hoogste = periode.Sleutel;
   });
   return hoogste;
@@ -176,7 +173,7 @@ void Orden(Opbouw& opbouw) {
   opbouw.lening.VrijeKolommen = std::move(geordend);
 }
 
-void LeesInhoud(Database& database, GelezenDossier& gelezen) {
+void LeesInhoud(Database& database, StoredDossier& gelezen) {
   std::vector<Opbouw> leningen = LeesLeningen(database);
   LeesKolommen(database, leningen);
   gelezen.hoogste = LeesPerioden(database, leningen);
@@ -195,8 +192,8 @@ void LeesInhoud(Database& database, GelezenDossier& gelezen) {
 
 }  // namespace
 
-GelezenDossier LeesDossier(Database& database) {
-  GelezenDossier gelezen;
+StoredDossier LeesDossier(Database& database) {
+  StoredDossier gelezen;
   DossierGegevens& dossier = gelezen.gegevens;
   std::size_t dossiers = 0;
   VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {

@@ -1,42 +1,20 @@
 #include "dossier/store/ScenarioTransaction.h"
 
-#include "controls/Surface.h"
+#include "scenario/frmScenario.h"
 
 namespace brivane::dossier {
-namespace {
 
-bool DruktOpOk(const controls::AnyControl& control, const controls::Action& action) {
-  return std::holds_alternative<controls::Press>(action) && control.Owner() != nullptr &&
-         control.Owner()->Table().name == "frmScenario" && control.DesignName() == "cmdOK";
-}
+ScenarioTransaction::ScenarioTransaction(brivane::VrijeKolom& editor, Edits& bewerkingen)
+    : bewerkingen_(bewerkingen), geopend_(editor.ScenarioGeopend.Connect([this](frmScenario& formulier) {
+        bewerkingen_.BeginModal();
+        Follow(formulier);
+        Geopend.Raise(formulier);
+      })) {}
 
-}  // namespace
-
-Scenarioopslag::Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen)
-    : editor_(editor), toolkit_(toolkit), bewerkingen_(bewerkingen) {
-  editor_.ScenarioGeopend.Connect([this](frmScenario& formulier) {
-    bewerkingen_.BeginModal();
-    Geopend.Raise(formulier);
-  });
-  toolkit_.AddListener(*this);
-}
-
-Scenarioopslag::~Scenarioopslag() {
-  toolkit_.RemoveListener(*this);
-  editor_.ScenarioGeopend.Disconnect();
-}
-
-void Scenarioopslag::Before(controls::AnyControl& control, const controls::Action& action) {
-  if (DruktOpOk(control, action)) bewerking_ = bewerkingen_.BeginEdit();
-}
-
-void Scenarioopslag::After(controls::AnyControl& control, const controls::Action& action,
-                           std::optional<controls::Outcome>) {
-  if (!bewerking_ || !DruktOpOk(control, action)) return;
-  const std::size_t bewerking = *bewerking_;
-  bewerking_.reset();
+void ScenarioTransaction::Follow(frmScenario& formulier) {
+  begint_ = formulier.OpslagBegint.Connect([this] { bewerking_ = bewerkingen_.BeginEdit(); });
   // A failure is told by the edits themselves.
-  static_cast<void>(bewerkingen_.EndEdit(bewerking));
+  eindigt_ = formulier.OpslagEindigt.Connect([this] { static_cast<void>(bewerkingen_.EndEdit(bewerking_)); });
 }
 
 }  // namespace brivane::dossier

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <optional>
+#include <cstddef>
 
-#include "controls/Action.h"
-#include "controls/ToolkitBase.h"
 #include "dossier/store/Edits.h"
 #include "vrijekolom/VrijeKolom.h"
 
@@ -11,24 +9,24 @@ namespace brivane::dossier {
 
 /// Stores what the OK button of the year-by-year form writes in one transaction. What the form's boxes write
 /// before that is stored at once.
-class Scenarioopslag final : public controls::ActionListener {
+class ScenarioTransaction {
  public:
-  /// Follows the editor and its toolkit, which outlive this object, as does `bewerkingen`.
-  Scenarioopslag(brivane::VrijeKolom& editor, controls::ToolkitBase& toolkit, Edits& bewerkingen);
-  ~Scenarioopslag() override;
+  /// Follows the editor; `bewerkingen` outlives this object.
+  ScenarioTransaction(brivane::VrijeKolom& editor, Edits& bewerkingen);
+  ScenarioTransaction(const ScenarioTransaction&) = delete;
+  ScenarioTransaction& operator=(const ScenarioTransaction&) = delete;
 
   /// The form is filled and about to be shown, for tools that follow an adviser's work.
   host::Event<frmScenario&> Geopend;
 
-  void Before(controls::AnyControl& control, const controls::Action& action) override;
-  void After(controls::AnyControl& control, const controls::Action& action,
-             std::optional<controls::Outcome> outcome) override;
-
  private:
-  brivane::VrijeKolom& editor_;
-  controls::ToolkitBase& toolkit_;
+  void Follow(frmScenario& formulier);
+
   Edits& bewerkingen_;
-  std::optional<std::size_t> bewerking_;
+  std::size_t bewerking_ = 0;  ///< the edit of the storing that is under way
+  host::Subscription geopend_;
+  host::Subscription begint_;
+  host::Subscription eindigt_;
 };
 
 }  // namespace brivane::dossier

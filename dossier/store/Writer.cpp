@@ -16,8 +16,8 @@ QVariant AlsVariant(const std::string& tekst) { return QVariant(AlsBytes(tekst))
 /// Builds an INSERT that names its columns.
 class Insert {
  public:
-  template <class Value> void Neem(const char* naam, const Value&) {
-    namen_ << QString::fromLatin1(naam);
+  template <class Value> void Neem(const std::string& kolom, const Value&) {
+    namen_ << QString::fromStdString(kolom);
     waarden_ << (std::same_as<Value, std::string> ? QStringLiteral("CAST(? AS TEXT)") : QStringLiteral("?"));
   }
   [[nodiscard]] QString In(const char* tabel) const {
@@ -86,7 +86,7 @@ void Writer::VoegKolomToe(Sleutel lening, KolomGegevens& kolom) {
     insert.Neem("sleutel", kolom.Sleutel);
     insert.Neem("lening", lening);
     insert.Neem("volgorde", lening);
-    BezoekKolom(kolom, [&](const char* naam, const auto& waarde) { insert.Neem(naam, waarde); });
+    BezoekKolom(kolom, [&](std::string_view naam, const auto& waarde) { insert.Neem(ColumnName(naam), waarde); });
     kolom_ = database_.Prepare(insert.In("vrijekolom"));
   }
   kolom.Sleutel = Volgende();
@@ -94,14 +94,23 @@ void Writer::VoegKolomToe(Sleutel lening, KolomGegevens& kolom) {
   kolom_->bindValue(plaats++, AlsVariant(kolom.Sleutel));
   kolom_->bindValue(plaats++, AlsVariant(lening));
   kolom_->bindValue(plaats++, AlsVariant(Volgende()));
-  BezoekKolom(kolom, [&](const char*, const auto& waarde) { kolom_->bindValue(plaats++, AlsVariant(waarde)); });
+  BezoekKolom(kolom, [&](std::string_view, const auto& waarde) { kolom_->bindValue(plaats++, AlsVariant(waarde)); });
   Database::Run(*kolom_);
-  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) {
-    periode.Sleutel = Volgende();
-    Schrijf(database_, "periode", {"sleutel", "kolom", "maand", "bedrag", "percentage", "korting", "eenmalig"},
-            periode.Sleutel, kolom.Sleutel, periode.Maand, periode.Bedrag, periode.Percentage, periode.Korting,
-            periode.Eenmalig);
-  }
+  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) SchrijfPeriode(kolom.Sleutel, periode);
+}
+
+void Writer::SchrijfPeriode(Sleutel kolom, PeriodeGegevens& periode) {
+  periode.Sleutel = Volgende();
+  Insert insert;
+  insert.Neem("sleutel", periode.Sleutel);
+  insert.Neem("kolom", kolom);
+  BezoekPeriode(periode, [&](std::string_view naam, const auto& waarde) { insert.Neem(ColumnName(naam), waarde); });
+  QSqlQuery query = database_.Prepare(insert.In("periode"));
+  int plaats = 0;
+  query.bindValue(plaats++, AlsVariant(periode.Sleutel));
+  query.bindValue(plaats++, AlsVariant(kolom));
+  BezoekPeriode(periode, [&](std::string_view, const auto& waarde) { query.bindValue(plaats++, AlsVariant(waarde)); });
+  Database::Run(query);
 }
 
 Sleutel Writer::VoegPeriodeToe(Sleutel kolom) {

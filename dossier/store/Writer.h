@@ -32,6 +32,9 @@ class Writer {
   void Sluit();
 
  private:
+  /// Writes a period entry and fills in its key.
+  void SchrijfPeriode(Sleutel kolom, PeriodeGegevens& periode);
+
   Database& database_;
   Sleutel volgende_;
   std::optional<QSqlQuery> kolom_;

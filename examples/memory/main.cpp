@@ -29,7 +29,8 @@ int main() {
   memory::Toolkit toolkit;
   auto surface = toolkit.MakeSurface(vrijekolom::kOntwerp);
   VrijeKolom editor(*surface, toolkit, memory_host::Factories());
-  editor.RefreshTopDisplay.Connect([](const std::string& text) { std::cout << "header: " << text << '\n'; });
+  const auto header =
+      editor.RefreshTopDisplay.Connect([](const std::string& text) { std::cout << "header: " << text << '\n'; });
   editor.SetApplication(application, 0, 1);
 
   // What the adviser does.

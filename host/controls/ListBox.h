@@ -2,12 +2,19 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "host/controls/Control.h"
 
 namespace brivane::host {
 
 inline constexpr int kNoSelection = -1;
+
+/// An entry that is known beforehand: what the list shows, and its item data.
+struct ListEntry {
+  std::string_view text;
+  std::int32_t itemData = 0;
+};
 
 /// A drop-down list to choose one entry from.
 class ListBox : public Control {

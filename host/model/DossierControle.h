@@ -16,4 +16,10 @@ class DossierControle {
   virtual void Controleer(const std::shared_ptr<Application>& application, std::int16_t soort) = 0;
 };
 
+/// The check of a host that has none.
+class GeenDossierControle final : public DossierControle {
+ public:
+  void Controleer(const std::shared_ptr<Application>&, std::int16_t) override {}
+};
+
 }  // namespace brivane::host

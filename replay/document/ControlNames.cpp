@@ -1,14 +1,12 @@
 #include "replay/document/ControlNames.h"
 
+#include "scenario/Indeling.h"
 #include "scenario/Ontwerp.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::replay {
 
 namespace {
-
-/// The form never has more rows.
-constexpr int kMostRows = 80;
 
 std::optional<NamedControl> FindIn(const frame::Design& design, std::string_view name) {
   std::optional<NamedControl> found;
@@ -34,7 +32,8 @@ std::optional<NamedControl> EditorControl(std::string_view name) {
 
 std::optional<NamedControl> FormControl(std::string_view name) {
   std::optional<NamedControl> found = FindIn(scenario::kOntwerp, name);
-  if (found && found->elements && found->elements->first == frame::kTemplateIndex) found->elements->last = kMostRows;
+  if (found && found->elements && found->elements->first == frame::kTemplateIndex)
+    found->elements->last = scenario::kMeesteRijen;
   return found;
 }
 

@@ -12,6 +12,7 @@
 #include "dossier/model/Gegevens.h"
 #include "host/Color.h"
 #include "host/Date.h"
+#include "host/Twips.h"
 #include "host/controls/Desktop.h"
 #include "replay/document/Json.h"
 #include "replay/instrument/Members.h"
@@ -102,8 +103,8 @@ struct Document {
   host::Date today;  ///< no date: the system's
   std::string title = "Dossier";
   std::string locale = "nl_NL";
-  float twipsPerPixelX = 15;
-  float twipsPerPixelY = 15;
+  float twipsPerPixelX = host::kTwipsPerPixel;
+  float twipsPerPixelY = host::kTwipsPerPixel;
   Headers headers = Headers::Record;
   std::set<Log> log = {Log::Trace, Log::Writes, Log::Calls, Log::Events, Log::Messages, Log::Results};
   dossier::DossierGegevens dossier;

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "frame/Calendar.h"
+#include "host/model/Codes.h"
 #include "replay/document/Document.h"
 
 namespace brivane::replay {
@@ -48,11 +49,7 @@ template <class Record> Json Write(const std::vector<Record>& records);
 // Each record names its fields once, in the order of the document; both directions walk that list.
 
 template <class Periode, class Visitor> void Fields(Periode& periode, Visitor&& visit) {
-  visit("Maand", periode.Maand);
-  visit("Bedrag", periode.Bedrag);
-  visit("Percentage", periode.Percentage);
-  visit("Korting", periode.Korting);
-  visit("Eenmalig", periode.Eenmalig);
+  host::ForEach(host::kPeriodeFields, [&](const auto& field) { visit(field.name, periode.*field.value); });
 }
 
 template <class Bedrag, class Visitor> void AmountFields(Bedrag& bedrag, Visitor&& visit) {
@@ -63,34 +60,7 @@ template <class Bedrag, class Visitor> void AmountFields(Bedrag& bedrag, Visitor
 }
 
 template <class Kolom, class Visitor> void ColumnFields(Kolom& kolom, Visitor&& visit) {
-  visit("Id", kolom.Id);
-  visit("CorrectieLast", kolom.CorrectieLast);
-  visit("CorrectieFiscaal", kolom.CorrectieFiscaal);
-  visit("Omschrijving", kolom.Omschrijving);
-  visit("Termijn", kolom.Termijn);
-  visit("InkomenUitArbeid", kolom.InkomenUitArbeid);
-  visit("InDagloon", kolom.InDagloon);
-  visit("HeffingBij", kolom.HeffingBij);
-  visit("Productsoort", kolom.Productsoort);
-  visit("ProductsoortOmschrijving", kolom.ProductsoortOmschrijving);
-  visit("Productnaam", kolom.Productnaam);
-  visit("IsProduct", kolom.IsProduct);
-  visit("Maatschappij", kolom.Maatschappij);
-  visit("MaatschappijNaam", kolom.MaatschappijNaam);
-  visit("UwBemiddeling", kolom.UwBemiddeling);
-  visit("DatumAanvang", kolom.DatumAanvang);
-  visit("Looptijd", kolom.Looptijd);
-  visit("Contractvervaldatum", kolom.Contractvervaldatum);
-  visit("Voorstel", kolom.Voorstel);
-  visit("Weergave", kolom.Weergave);
-  visit("Kopregel", kolom.Kopregel);
-  visit("UitsluitenAO", kolom.UitsluitenAO);
-  visit("UitsluitenWW", kolom.UitsluitenWW);
-  visit("UitsluitenLangleven", kolom.UitsluitenLangleven);
-  visit("ScenarioOverlijden", kolom.ScenarioOverlijden);
-  visit("PercentageOvergang", kolom.PercentageOvergang);
-  visit("EinddatumOvergang", kolom.EinddatumOvergang);
-  visit("EindleeftijdOvergang", kolom.EindleeftijdOvergang);
+  host::ForEach(host::kVrijeKolomFields, [&](const auto& field) { visit(field.name, kolom.*field.value); });
   visit("Bedrag", kolom.Bedrag);
 }
 
@@ -134,7 +104,7 @@ template <class Record> void Read(const Value& value, std::vector<Record>& recor
 
 template <class Walk> Json WriteFields(Walk&& walk) {
   Json json = Json::object();
-  walk([&](const char* key, const auto& field) { json[key] = Write(field); });
+  walk([&](std::string_view key, const auto& field) { json[std::string(key)] = Write(field); });
   return json;
 }
 
@@ -183,7 +153,7 @@ std::vector<dossier::Code> ReadCodes(const Value& value) {
 DossierGegevens ReadDossier(const Value& value) {
   value.Keys({"personen", "Uitgangspunten", "MaatschappijType", "HuidigeLening", "Leningen"});
   DossierGegevens dossier;
-  dossier.MaatschappijType = {{"AB", "Alfa Bank"}, {"ZZ", "Anders"}};
+  dossier.MaatschappijType = {{"AB", "Alfa Bank"}, {std::string(host::codes::kAndereMaatschappij), "Anders"}};
   dossier.Leningen.resize(1);
   dossier.Personen = ReadPersons(value.Member("personen"));
   if (const auto member = value.Find("Uitgangspunten"))

@@ -5,33 +5,18 @@
 namespace brivane::replay {
 
 /// A period entry, named by the position at which it was asked for.
-class PeriodeStandIn : public StandIn<host::Periode> {
+class PeriodeStandIn : public StandIn<host::Periode, host::PeriodeByField<PeriodeStandIn>> {
  public:
   PeriodeStandIn(SharedPtr shared, std::shared_ptr<host::Periode> inner, std::int16_t positie)
       : StandIn(std::move(shared), std::move(inner)), positie_(positie) {}
 
-  std::int16_t Maand() const override { return Get(Member::Periode_Maand, positie_, &host::Periode::Maand); }
-  void SetMaand(std::int16_t maand) override {
-    Set(Member::Periode_Maand, positie_, &host::Periode::SetMaand, maand, &host::Periode::Maand);
-  }
-  double Bedrag() const override { return Get(Member::Periode_Bedrag, positie_, &host::Periode::Bedrag); }
-  void SetBedrag(double bedrag) override {
-    Set(Member::Periode_Bedrag, positie_, &host::Periode::SetBedrag, bedrag, &host::Periode::Bedrag);
-  }
-  double Percentage() const override { return Get(Member::Periode_Percentage, positie_, &host::Periode::Percentage); }
-  void SetPercentage(double percentage) override {
-    Set(Member::Periode_Percentage, positie_, &host::Periode::SetPercentage, percentage, &host::Periode::Percentage);
-  }
-  double Korting() const override { return Get(Member::Periode_Korting, positie_, &host::Periode::Korting); }
-  void SetKorting(double korting) override {
-    Set(Member::Periode_Korting, positie_, &host::Periode::SetKorting, korting, &host::Periode::Korting);
-  }
-  bool Eenmalig() const override { return Get(Member::Periode_Eenmalig, positie_, &host::Periode::Eenmalig); }
-  void SetEenmalig(bool eenmalig) override {
-    Set(Member::Periode_Eenmalig, positie_, &host::Periode::SetEenmalig, eenmalig, &host::Periode::Eenmalig);
+ private:
+  friend host::PeriodeByField<PeriodeStandIn>;
+  template <class Field> auto ReadField(const Field& field) const { return Get(MemberOf(field), positie_, field.get); }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& value) {
+    Set(MemberOf(field), positie_, field.set, value, field.get);
   }
 
- private:
   std::int16_t positie_;
 };
 

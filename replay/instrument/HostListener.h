@@ -9,6 +9,7 @@
 #include <variant>
 
 #include "host/Date.h"
+#include "host/model/ErrorRecord.h"
 #include "replay/instrument/Members.h"
 
 namespace brivane::replay {
@@ -20,18 +21,6 @@ using MemberValue = std::variant<bool, double, std::string, host::Date, std::arr
 using MemberIndex = std::optional<std::int16_t>;
 
 enum class TraceMark : std::uint8_t { Enter, Leave, Error };
-
-/// The error record that a control filled before it reported a failure.
-struct ErrorRecord {
-  std::string ApplicationTitle;
-  std::string ObjectName;
-  std::string Caption;
-  std::string ObjectDescription;
-  std::string Message;
-  std::string ErrorNumber;
-  std::string ErrorDescription;
-  std::string ErrorSource;
-};
 
 /// Told what the controls did to the host, after it was done; a failed access is not told.
 class HostListener {
@@ -46,7 +35,7 @@ class HostListener {
   virtual void OnCall(Member, std::span<const std::int16_t>) {}
   /// `procedure` is empty on leaving; `control` is the control that traces.
   virtual void OnTrace(TraceMark, std::string_view /*procedure*/, std::string_view /*control*/) {}
-  virtual void OnReport(const ErrorRecord&) {}
+  virtual void OnReport(const host::ErrorRecord&) {}
 };
 
 }  // namespace brivane::replay

@@ -1,6 +1,8 @@
 #include "replay/instrument/Members.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace brivane::replay {
 
@@ -12,7 +14,7 @@ struct Entry {
   MemberKind kind;
 };
 
-constexpr std::array<Entry, kMemberCount> kMembers{{
+constexpr std::array<Entry, kNamedMembers> kMembers{{
     {Member::Application_Dossier, "Application.Dossier", MemberKind::Object},
     {Member::Application_Uitgangspunten, "Application.Uitgangspunten", MemberKind::Object},
     {Member::Application_Hoofdvenster, "Application.Hoofdvenster", MemberKind::Object},
@@ -33,35 +35,7 @@ constexpr std::array<Entry, kMemberCount> kMembers{{
     {Member::Persoon_Naam, "Persoon.Naam", MemberKind::Value},
     {Member::Persoon_Geboortedatum, "Persoon.Geboortedatum", MemberKind::Value},
     {Member::Uitgangspunten_Leeftijd, "Uitgangspunten.Leeftijd", MemberKind::Value},
-    {Member::VrijeKolomItem_Id, "VrijeKolomItem.Id", MemberKind::Value},
-    {Member::VrijeKolomItem_CorrectieLast, "VrijeKolomItem.CorrectieLast", MemberKind::Value},
-    {Member::VrijeKolomItem_CorrectieFiscaal, "VrijeKolomItem.CorrectieFiscaal", MemberKind::Value},
-    {Member::VrijeKolomItem_HeffingBij, "VrijeKolomItem.HeffingBij", MemberKind::Value},
-    {Member::VrijeKolomItem_Omschrijving, "VrijeKolomItem.Omschrijving", MemberKind::Value},
     {Member::VrijeKolomItem_Bedrag, "VrijeKolomItem.Bedrag", MemberKind::Object},
-    {Member::VrijeKolomItem_Termijn, "VrijeKolomItem.Termijn", MemberKind::Value},
-    {Member::VrijeKolomItem_InkomenUitArbeid, "VrijeKolomItem.InkomenUitArbeid", MemberKind::Value},
-    {Member::VrijeKolomItem_InDagloon, "VrijeKolomItem.InDagloon", MemberKind::Value},
-    {Member::VrijeKolomItem_DatumAanvang, "VrijeKolomItem.DatumAanvang", MemberKind::Value},
-    {Member::VrijeKolomItem_Looptijd, "VrijeKolomItem.Looptijd", MemberKind::Value},
-    {Member::VrijeKolomItem_Contractvervaldatum, "VrijeKolomItem.Contractvervaldatum", MemberKind::Value},
-    {Member::VrijeKolomItem_IsProduct, "VrijeKolomItem.IsProduct", MemberKind::Value},
-    {Member::VrijeKolomItem_Maatschappij, "VrijeKolomItem.Maatschappij", MemberKind::Value},
-    {Member::VrijeKolomItem_MaatschappijNaam, "VrijeKolomItem.MaatschappijNaam", MemberKind::Value},
-    {Member::VrijeKolomItem_Productsoort, "VrijeKolomItem.Productsoort", MemberKind::Value},
-    {Member::VrijeKolomItem_ProductsoortOmschrijving, "VrijeKolomItem.ProductsoortOmschrijving", MemberKind::Value},
-    {Member::VrijeKolomItem_Productnaam, "VrijeKolomItem.Productnaam", MemberKind::Value},
-    {Member::VrijeKolomItem_UwBemiddeling, "VrijeKolomItem.UwBemiddeling", MemberKind::Value},
-    {Member::VrijeKolomItem_Voorstel, "VrijeKolomItem.Voorstel", MemberKind::Value},
-    {Member::VrijeKolomItem_Weergave, "VrijeKolomItem.Weergave", MemberKind::Value},
-    {Member::VrijeKolomItem_Kopregel, "VrijeKolomItem.Kopregel", MemberKind::Value},
-    {Member::VrijeKolomItem_UitsluitenAO, "VrijeKolomItem.UitsluitenAO", MemberKind::Value},
-    {Member::VrijeKolomItem_UitsluitenWW, "VrijeKolomItem.UitsluitenWW", MemberKind::Value},
-    {Member::VrijeKolomItem_UitsluitenLangleven, "VrijeKolomItem.UitsluitenLangleven", MemberKind::Value},
-    {Member::VrijeKolomItem_ScenarioOverlijden, "VrijeKolomItem.ScenarioOverlijden", MemberKind::Value},
-    {Member::VrijeKolomItem_PercentageOvergang, "VrijeKolomItem.PercentageOvergang", MemberKind::Value},
-    {Member::VrijeKolomItem_EinddatumOvergang, "VrijeKolomItem.EinddatumOvergang", MemberKind::Value},
-    {Member::VrijeKolomItem_EindleeftijdOvergang, "VrijeKolomItem.EindleeftijdOvergang", MemberKind::Value},
     {Member::Bedrag_Basisbedrag, "Bedrag.Basisbedrag", MemberKind::Value},
     {Member::Scenario_Naam, "Scenario.Naam", MemberKind::Value},
     {Member::Scenario_Invoersoort, "Scenario.Invoersoort", MemberKind::Value},
@@ -69,11 +43,6 @@ constexpr std::array<Entry, kMemberCount> kMembers{{
     {Member::Scenario_Periode, "Scenario.Periode", MemberKind::Object},
     {Member::Scenario_NieuwePeriode, "Scenario.NieuwePeriode", MemberKind::Operation},
     {Member::Scenario_VerwijderPeriode, "Scenario.VerwijderPeriode", MemberKind::Operation},
-    {Member::Periode_Maand, "Periode.Maand", MemberKind::Value},
-    {Member::Periode_Bedrag, "Periode.Bedrag", MemberKind::Value},
-    {Member::Periode_Percentage, "Periode.Percentage", MemberKind::Value},
-    {Member::Periode_Korting, "Periode.Korting", MemberKind::Value},
-    {Member::Periode_Eenmalig, "Periode.Eenmalig", MemberKind::Value},
     {Member::ProcedureTrace_EnterProcedure, "ProcedureTrace.EnterProcedure", MemberKind::Operation},
     {Member::ProcedureTrace_LeaveProcedure, "ProcedureTrace.LeaveProcedure", MemberKind::Operation},
     {Member::ProcedureTrace_ErrorInProcedure, "ProcedureTrace.ErrorInProcedure", MemberKind::Operation},
@@ -94,15 +63,35 @@ constexpr bool InOrder() {
 }
 static_assert(InOrder(), "the table lists the members in the order of their enumeration");
 
+/// The names of the members that are fields, in the order of their numbers.
+const std::vector<std::string>& FieldNames() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> made;
+    const auto add = [&made](const char* record) {
+      return [&made, record](const auto& field) { made.push_back(record + std::string(field.name)); };
+    };
+    host::ForEach(host::kVrijeKolomFields, add("VrijeKolomItem."));
+    host::ForEach(host::kPeriodeFields, add("Periode."));
+    return made;
+  }();
+  return names;
+}
+
 }  // namespace
 
-std::string_view NameOf(Member member) { return kMembers[static_cast<std::size_t>(member)].name; }
+std::string_view NameOf(Member member) {
+  const auto number = static_cast<std::size_t>(member);
+  return number < kNamedMembers ? kMembers[number].name : FieldNames()[number - kNamedMembers];
+}
 
-MemberKind KindOf(Member member) { return kMembers[static_cast<std::size_t>(member)].kind; }
+MemberKind KindOf(Member member) {
+  const auto number = static_cast<std::size_t>(member);
+  return number < kNamedMembers ? kMembers[number].kind : MemberKind::Value;
+}
 
 std::optional<Member> FindMember(std::string_view name) {
-  for (const Entry& entry : kMembers)
-    if (entry.name == name) return entry.member;
+  for (std::size_t number = 0; number < kMemberCount; ++number)
+    if (NameOf(static_cast<Member>(number)) == name) return static_cast<Member>(number);
   return std::nullopt;
 }
 

@@ -5,13 +5,17 @@
 #include <optional>
 #include <string_view>
 
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
+
 namespace brivane::replay {
 
 /// What a host member is. An Object hands out another object of the host.
 enum class MemberKind : std::uint8_t { Value, Operation, Object };
 
 /// Every member of the host interfaces. The amount object has two names: `Bedrag` for its base amount, which
-/// the editor reads and writes, and `Scenario` for all that the year-by-year form knows.
+/// the editor reads and writes, and `Scenario` for all that the year-by-year form knows. The fields of a free column
+/// and of a period entry have no enumerator of their own: they follow the others in the order of their tables.
 enum class Member : std::uint8_t {
   Application_Dossier,
   Application_Uitgangspunten,
@@ -33,35 +37,7 @@ enum class Member : std::uint8_t {
   Persoon_Naam,
   Persoon_Geboortedatum,
   Uitgangspunten_Leeftijd,
-  VrijeKolomItem_Id,
-  VrijeKolomItem_CorrectieLast,
-  VrijeKolomItem_CorrectieFiscaal,
-  VrijeKolomItem_HeffingBij,
-  VrijeKolomItem_Omschrijving,
   VrijeKolomItem_Bedrag,
-  VrijeKolomItem_Termijn,
-  VrijeKolomItem_InkomenUitArbeid,
-  VrijeKolomItem_InDagloon,
-  VrijeKolomItem_DatumAanvang,
-  VrijeKolomItem_Looptijd,
-  VrijeKolomItem_Contractvervaldatum,
-  VrijeKolomItem_IsProduct,
-  VrijeKolomItem_Maatschappij,
-  VrijeKolomItem_MaatschappijNaam,
-  VrijeKolomItem_Productsoort,
-  VrijeKolomItem_ProductsoortOmschrijving,
-  VrijeKolomItem_Productnaam,
-  VrijeKolomItem_UwBemiddeling,
-  VrijeKolomItem_Voorstel,
-  VrijeKolomItem_Weergave,
-  VrijeKolomItem_Kopregel,
-  VrijeKolomItem_UitsluitenAO,
-  VrijeKolomItem_UitsluitenWW,
-  VrijeKolomItem_UitsluitenLangleven,
-  VrijeKolomItem_ScenarioOverlijden,
-  VrijeKolomItem_PercentageOvergang,
-  VrijeKolomItem_EinddatumOvergang,
-  VrijeKolomItem_EindleeftijdOvergang,
   Bedrag_Basisbedrag,
   Scenario_Naam,
   Scenario_Invoersoort,
@@ -69,11 +45,6 @@ enum class Member : std::uint8_t {
   Scenario_Periode,
   Scenario_NieuwePeriode,
   Scenario_VerwijderPeriode,
-  Periode_Maand,
-  Periode_Bedrag,
-  Periode_Percentage,
-  Periode_Korting,
-  Periode_Eenmalig,
   ProcedureTrace_EnterProcedure,
   ProcedureTrace_LeaveProcedure,
   ProcedureTrace_ErrorInProcedure,
@@ -87,7 +58,20 @@ enum class Member : std::uint8_t {
   ProcedureTrace_ErrorSource,
 };
 
-inline constexpr std::size_t kMemberCount = static_cast<std::size_t>(Member::ProcedureTrace_ErrorSource) + 1;
+/// The members that are no field of a table.
+inline constexpr std::size_t kNamedMembers = static_cast<std::size_t>(Member::ProcedureTrace_ErrorSource) + 1;
+inline constexpr std::size_t kVrijeKolomMembers = std::tuple_size_v<decltype(host::kVrijeKolomFields)>;
+inline constexpr std::size_t kPeriodeMembers = std::tuple_size_v<decltype(host::kPeriodeFields)>;
+inline constexpr std::size_t kMemberCount = kNamedMembers + kVrijeKolomMembers + kPeriodeMembers;
+
+/// The member that a field of a free column is.
+[[nodiscard]] constexpr Member MemberOf(const host::AnyField<host::VrijeKolomItem>& field) {
+  return static_cast<Member>(kNamedMembers + field.place);
+}
+/// The member that a field of a period entry is.
+[[nodiscard]] constexpr Member MemberOf(const host::AnyField<host::Periode>& field) {
+  return static_cast<Member>(kNamedMembers + kVrijeKolomMembers + field.place);
+}
 
 /// How a member is reached. A getter that hands out an object is a get and a call alike.
 enum class Op : std::uint8_t { Get, Set, Call };

@@ -27,8 +27,9 @@ template <class T> [[nodiscard]] MemberValue ToMemberValue(T value) {
     return MemberValue(std::move(value));
 }
 
-/// Stands before an object of the inner host: each access is counted, handed on, and told.
-template <class Interface> class StandIn : public Interface {
+/// Stands before an object of the inner host: each access is counted, handed on, and told. `Base` implements the
+/// interface for a record that treats all its fields alike.
+template <class Interface, class Base = Interface> class StandIn : public Base {
  public:
   using SharedPtr = std::shared_ptr<InstrumentedHost::Shared>;
 

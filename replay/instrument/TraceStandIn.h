@@ -10,7 +10,7 @@ class TraceStandIn : public StandIn<host::ProcedureTrace> {
   TraceStandIn(SharedPtr shared, std::shared_ptr<host::ProcedureTrace> inner, std::string_view control)
       : StandIn(std::move(shared), std::move(inner)), control_(control) {}
 
-  [[nodiscard]] const ErrorRecord& Record() const { return record_; }
+  [[nodiscard]] const host::ErrorRecord& Record() const { return record_; }
 
   void EnterProcedure(std::string_view procedure) override {
     shared_->ledger.Pass(Member::ProcedureTrace_EnterProcedure, Op::Call);
@@ -64,7 +64,7 @@ class TraceStandIn : public StandIn<host::ProcedureTrace> {
   }
 
   std::string control_;
-  ErrorRecord record_;
+  host::ErrorRecord record_;
 };
 
 }  // namespace brivane::replay

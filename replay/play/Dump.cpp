@@ -60,50 +60,23 @@ Json DumpControl(const controls::ControlDump& control) {
   return json;
 }
 
+dossier::PeriodeGegevens Read(const host::Periode& periode) {
+  dossier::PeriodeGegevens gegevens;
+  host::ForEach(host::kPeriodeFields, [&](const auto& field) { gegevens.*field.value = field.Read(periode); });
+  return gegevens;
+}
+
 dossier::BedragGegevens Read(host::BedragObject& bedrag) {
   dossier::BedragGegevens gegevens{
       .Naam = bedrag.Naam(), .Invoersoort = bedrag.Invoersoort(), .Bedrag = bedrag.Bedrag(), .Perioden = {}};
   for (std::int16_t positie = 1; const auto periode = bedrag.Periode(positie); ++positie)
-    gegevens.Perioden.push_back({.Sleutel = 0,
-                                 .Maand = periode->Maand(),
-                                 .Bedrag = periode->Bedrag(),
-                                 .Percentage = periode->Percentage(),
-                                 .Korting = periode->Korting(),
-                                 .Eenmalig = periode->Eenmalig()});
+    gegevens.Perioden.push_back(Read(*periode));
   return gegevens;
 }
 
 dossier::KolomGegevens Read(host::VrijeKolomItem& kolom) {
   dossier::KolomGegevens gegevens;
-  gegevens.Id = kolom.Id();
-  gegevens.CorrectieLast = kolom.CorrectieLast();
-  gegevens.CorrectieFiscaal = kolom.CorrectieFiscaal();
-  gegevens.HeffingBij = kolom.HeffingBij();
-  gegevens.Omschrijving = kolom.Omschrijving();
-  gegevens.Termijn = kolom.Termijn();
-  gegevens.InkomenUitArbeid = kolom.InkomenUitArbeid();
-  gegevens.InDagloon = kolom.InDagloon();
-  gegevens.DatumAanvang = kolom.DatumAanvang();
-  gegevens.Looptijd = kolom.Looptijd();
-  gegevens.Contractvervaldatum = kolom.Contractvervaldatum();
-  gegevens.IsProduct = kolom.IsProduct();
-  gegevens.Maatschappij = kolom.Maatschappij();
-  gegevens.MaatschappijNaam = kolom.MaatschappijNaam();
-  gegevens.Productsoort = kolom.Productsoort();
-  gegevens.ProductsoortOmschrijving = kolom.ProductsoortOmschrijving();
-  gegevens.Productnaam = kolom.Productnaam();
-  gegevens.UwBemiddeling = kolom.UwBemiddeling();
-  for (std::int16_t nummer = 1; nummer <= 3; ++nummer)
-    gegevens.Voorstel[static_cast<std::size_t>(nummer - 1)] = kolom.Voorstel(nummer);
-  gegevens.Weergave = kolom.Weergave();
-  gegevens.Kopregel = kolom.Kopregel();
-  gegevens.UitsluitenAO = kolom.UitsluitenAO();
-  gegevens.UitsluitenWW = kolom.UitsluitenWW();
-  gegevens.UitsluitenLangleven = kolom.UitsluitenLangleven();
-  gegevens.ScenarioOverlijden = kolom.ScenarioOverlijden();
-  gegevens.PercentageOvergang = kolom.PercentageOvergang();
-  gegevens.EinddatumOvergang = kolom.EinddatumOvergang();
-  gegevens.EindleeftijdOvergang = kolom.EindleeftijdOvergang();
+  host::ForEach(host::kVrijeKolomFields, [&](const auto& field) { gegevens.*field.value = field.Read(kolom); });
   gegevens.Bedrag = Read(host::Need(kolom.Bedrag()));
   return gegevens;
 }

@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "controls/ListBox.h"
 #include "frame/GroupedNumber.h"
-#include "scenario/frmScenario.h"
+#include "replay/play/OnSurface.h"
 #include "toolkits/memory/Toolkit.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
@@ -12,51 +11,6 @@
 namespace brivane::replay {
 
 namespace {
-
-/// A screen's part that is the same for the editor and for a form.
-template <class Interface> class OnSurface : public Interface {
- public:
-  [[nodiscard]] std::optional<ControlState> Find(const std::string& name, std::optional<int> index) override {
-    const controls::AnyControl* const control = Control(name, index);
-    if (control == nullptr) return std::nullopt;
-    return ControlState{control->ControlKind(), control->Reachable()};
-  }
-  [[nodiscard]] std::vector<std::string> Entries(const std::string& name) override {
-    std::vector<std::string> texts;
-    for (const auto& entry : static_cast<const controls::ListBox&>(*Control(name, {})).Entries())
-      texts.push_back(entry.text);
-    return texts;
-  }
-  controls::Outcome Perform(const std::string& name, std::optional<int> index,
-                            const controls::Action& action) override {
-    return Control(name, index)->Perform(action);
-  }
-  [[nodiscard]] std::vector<controls::ControlDump> Dump() override { return controls::DumpAll(Surface()); }
-
- protected:
-  [[nodiscard]] virtual controls::Surface& Surface() = 0;
-  [[nodiscard]] controls::AnyControl* Control(const std::string& name, std::optional<int> index) {
-    return Surface().Find(name, index.value_or(frame::kNoIndex));
-  }
-};
-
-class MemoryForm final : public OnSurface<FormScreen> {
- public:
-  MemoryForm(controls::Form& window, const frmScenario& form) : window_(window), form_(form) {}
-
-  [[nodiscard]] bool IsClosed() override { return window_.IsUnloaded(); }
-  void Close() override { window_.Perform(controls::Close{}); }
-  [[nodiscard]] host::Color BackColor() override { return form_.BackColor(); }
-  [[nodiscard]] std::int16_t AantalJaar() override { return form_.AantalJaar(); }
-  [[nodiscard]] std::shared_ptr<host::BedragObject> Scenario() override { return form_.Scenario(); }
-
- protected:
-  [[nodiscard]] controls::Surface& Surface() override { return window_; }
-
- private:
-  controls::Form& window_;
-  const frmScenario& form_;
-};
 
 class MemorySubject final : public OnSurface<Subject> {
  public:
@@ -120,23 +74,16 @@ class MemorySubject final : public OnSurface<Subject> {
   }
 
   void Listen() {
-    editor_->RefreshTopDisplay.Connect([this](const std::string& text) { audience_.OnRefreshTopDisplay(text); });
-    editor_->HeightChanged.Connect([this] { audience_.OnHeightChanged(); });
-    editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
-    host::Event<>& changed = editor_->Toelichting().Changed;
-    changed.Connect([this, handOn = changed.Listener()] {
-      audience_.OnToelichtingChanged();
-      handOn();
-    });
+    subscriptions_ +=
+        editor_->RefreshTopDisplay.Connect([this](const std::string& text) { audience_.OnRefreshTopDisplay(text); });
+    subscriptions_ += editor_->HeightChanged.Connect([this] { audience_.OnHeightChanged(); });
+    subscriptions_ += editor_->ScenarioGeopend.Connect([this](frmScenario& form) { opening_ = &form; });
+    subscriptions_ += editor_->Toelichting().Changed.Connect([this] { audience_.OnToelichtingChanged(); });
   }
 
   void RunModal(controls::Form& window) {
-    MemoryForm form(window, *std::exchange(opening_, nullptr));
-    host::Event<>& unloaded = window.host::Form::Unloaded;
-    unloaded.Connect([this, handOn = unloaded.Listener()] {
-      audience_.OnClosed();
-      if (handOn) handOn();
-    });
+    SurfaceForm form(window, *std::exchange(opening_, nullptr));
+    const host::Subscription closed = window.host::Form::Unloaded.Connect([this] { audience_.OnClosed(); });
     audience_.OnShown(form);
     form.Close();
   }
@@ -147,6 +94,7 @@ class MemorySubject final : public OnSurface<Subject> {
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<VrijeKolom> editor_;
   frmScenario* opening_ = nullptr;  ///< the form that is about to be shown
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace

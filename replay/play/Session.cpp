@@ -13,15 +13,9 @@ namespace brivane::replay {
 
 namespace {
 
-/// The host's check of the loan file, which this host leaves empty.
-class NoControle : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 host::HostFactories Factories() {
   return {[](std::string_view) { return std::make_shared<dossier::Tracer>(); },
-          [](std::string_view) { return std::make_shared<NoControle>(); }};
+          [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }};
 }
 
 /// Keeps a step on the stack of those that run.
@@ -36,10 +30,16 @@ template <class Stack, class Entry> class Pushed {
   Stack& stack_;
 };
 
-std::shared_ptr<dossier::Omgeving> Surroundings(Headers headers) {
-  auto surroundings = std::make_shared<dossier::Omgeving>();
+std::shared_ptr<dossier::Environment> Surroundings(Headers headers) {
+  auto surroundings = std::make_shared<dossier::Environment>();
   if (headers == Headers::Computed) surroundings->Kopteksten = std::make_shared<dossier::BerekendeKopteksten>();
   return surroundings;
+}
+
+LiveHost HostOf(const Document& document) {
+  auto dossier = std::make_shared<dossier::Dossier>(document.dossier, Surroundings(document.headers));
+  auto application = std::make_shared<dossier::Application>(dossier);
+  return {std::move(dossier), std::move(application), Factories()};
 }
 
 }  // namespace
@@ -47,10 +47,13 @@ std::shared_ptr<dossier::Omgeving> Surroundings(Headers headers) {
 Session::Session(const Document& document, LineSink sink) : Session(document, std::move(sink), MakeMemorySubject) {}
 
 Session::Session(const Document& document, LineSink sink, MakeSubject make)
+    : Session(document, std::move(sink), HostOf(document), std::move(make)) {}
+
+Session::Session(const Document& document, LineSink sink, LiveHost host, MakeSubject make)
     : document_(document),
       transcript_(std::move(sink), document.log),
-      case_(std::make_shared<dossier::Dossier>(document.dossier, Surroundings(document.headers))),
-      host_(std::make_shared<dossier::Application>(case_), Factories(), transcript_),
+      case_(std::move(host.dossier)),
+      host_(std::move(host.application), std::move(host.factories), transcript_),
       make_(std::move(make)) {
   for (const FaultPlan& fault : document.faults)
     Ledger().FailAt(fault.member, fault.op, fault.nth, host::Error(fault.number, fault.description, fault.source));
@@ -66,7 +69,8 @@ void Session::Run() {
     transcript_.Failed(error.Number(), error.Description());
     return;
   }
-  for (std::size_t i = 0; i < document_.steps.size(); ++i) RunStep(document_.steps[i], std::to_string(i + 1), nullptr);
+  for (std::size_t i = 0; i < document_.steps.size() && !stopped_; ++i)
+    RunStep(document_.steps[i], std::to_string(i + 1), nullptr);
 }
 
 void Session::RunStep(const Step& step, std::string number, FormScreen* on) {
@@ -81,13 +85,14 @@ void Session::RunStep(const Step& step, std::string number, FormScreen* on) {
     transcript_.Failed(error.Number(), error.Description());
   }
   RunPending(running);
+  if (stepped && !stopped_ && !problem_) stopped_ = stepped(running.number, step) == Onward::Stop;
   // The logic above this step would take a problem for its own failure; below the last one it is thrown.
   if (problem_ && running_.size() == 1) throw *problem_;
 }
 
 void Session::RunPending(Running& running) {
   while (running.pending < running.step->pending.size()) {
-    if (problem_ || (running.on != nullptr && running.on->IsClosed())) return;
+    if (problem_ || stopped_ || (running.on != nullptr && running.on->IsClosed())) return;
     const Step& step = running.step->pending[running.pending++];
     const std::string number = running.number + '.' + std::to_string(running.pending);
     try {
@@ -108,7 +113,7 @@ void Session::OnShown(FormScreen& form) {
   transcript_.Opened(form.BackColor(), form.AantalJaar());
   const Running& opener = *running_.back();
   const std::vector<Step>& steps = opener.step->modal;
-  for (std::size_t i = 0; i < steps.size() && !form.IsClosed() && !problem_; ++i) {
+  for (std::size_t i = 0; i < steps.size() && !form.IsClosed() && !problem_ && !stopped_; ++i) {
     try {
       RunStep(steps[i], opener.number + '.' + std::to_string(i + 1), &form);
     } catch (const BadInput& problem) {

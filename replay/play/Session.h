@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -13,6 +14,19 @@
 
 namespace brivane::replay {
 
+/// A host that is there already, with the case behind it.
+struct LiveHost {
+  std::shared_ptr<dossier::Dossier> dossier;
+  std::shared_ptr<host::Application> application;
+  host::HostFactories factories;
+};
+
+/// Whether a session goes on.
+enum class Onward : bool { Stop, GoOn };
+
+/// Told of a step that has run: its number, "1" or "1.2" for an inner one, and what it was.
+using StepListener = std::function<Onward(const std::string& number, const Step& step)>;
+
 /// A document's session: the component under replay and a host in memory.
 ///
 ///     const Document document = ReadDocument(text);
@@ -25,6 +39,8 @@ class Session final : private Audience {
   /// On the toolkit in memory.
   Session(const Document& document, LineSink sink);
   Session(const Document& document, LineSink sink, MakeSubject make);
+  /// On a host that is there already: the case that the document starts from is left alone.
+  Session(const Document& document, LineSink sink, LiveHost host, MakeSubject make);
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
   ~Session() override;
@@ -33,6 +49,11 @@ class Session final : private Audience {
   /// row that is not there, having passed on no line of it; whatever the logic reports is no failure of Run.
   void Run();
 
+  /// Told after each step, when set.
+  StepListener stepped;
+
+  /// The host as the component sees it: each access is counted, and told to the transcript.
+  [[nodiscard]] InstrumentedHost& Host() { return host_; }
   /// Counts the accesses of the host; more faults can be planned here before Run.
   [[nodiscard]] AccessLedger& Ledger() { return host_.Ledger(); }
   /// The case as the session left it.
@@ -90,6 +111,7 @@ class Session final : private Audience {
   std::vector<Running*> running_;
   /// Found while the logic was running: kept from its error handlers, and thrown when it is done.
   std::optional<BadInput> problem_;
+  bool stopped_ = false;
 };
 
 }  // namespace brivane::replay

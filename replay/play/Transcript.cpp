@@ -120,7 +120,7 @@ void Transcript::OnTrace(TraceMark mark, std::string_view procedure, std::string
   }
 }
 
-void Transcript::OnReport(const ErrorRecord& record) {
+void Transcript::OnReport(const host::ErrorRecord& record) {
   Print(Log::Messages, {{"report",
                          {{"ApplicationTitle", record.ApplicationTitle},
                           {"ObjectName", record.ObjectName},

@@ -42,7 +42,7 @@ class Transcript final : public HostListener {
   void OnSet(Member member, const MemberValue& value, MemberIndex index) override;
   void OnCall(Member member, std::span<const std::int16_t> arguments) override;
   void OnTrace(TraceMark mark, std::string_view procedure, std::string_view control) override;
-  void OnReport(const ErrorRecord& record) override;
+  void OnReport(const host::ErrorRecord& record) override;
 
  private:
   [[nodiscard]] bool Wants(Log log) const { return wanted_[static_cast<std::size_t>(log)]; }

@@ -1,9 +1,16 @@
 #include "replay/tool/Help.h"
 
+#include <string_view>
+
+#include "replay/document/Document.h"
+
 namespace brivane::replay {
 
-std::string_view HelpText() {
-  return R"page(Usage: vrijekolom-replay [--check] FILE
+namespace {
+
+constexpr std::size_t kMostColumns = 100;
+
+constexpr std::string_view kToColumn = R"page(Usage: vrijekolom-replay [--check] FILE
        vrijekolom-replay --help | --version
 
 Runs a scripted session of edits against the real controls, without a screen, and prints what
@@ -48,18 +55,12 @@ DOCUMENT
             One or two persons are required. HuidigeLening is the loan of the current situation,
             Lening 0; Leningen are those of the new situation, from Lening 1.
 
-  column    {"Id": 1, "CorrectieLast": 1, "CorrectieFiscaal": 1, "Omschrijving": "", "Termijn": 1,
-             "InkomenUitArbeid": false, "InDagloon": false, "HeffingBij": 1, "Productsoort": 0,
-             "ProductsoortOmschrijving": "", "Productnaam": "", "IsProduct": false,
-             "Maatschappij": "", "MaatschappijNaam": "", "UwBemiddeling": false, "DatumAanvang": 0,
-             "Looptijd": 0, "Contractvervaldatum": 0, "Voorstel": ["", "", ""], "Weergave": "",
-             "Kopregel": "", "UitsluitenAO": false, "UitsluitenWW": false,
-             "UitsluitenLangleven": false, "ScenarioOverlijden": false, "PercentageOvergang": 0,
-             "EinddatumOvergang": 0, "EindleeftijdOvergang": 0,
-             "Bedrag": {"Naam": "", "Invoersoort": 1, "Bedrag": 0, "Perioden": []}}
-            Every field may be left out. An entry of Perioden:
-            {"Maand": 0, "Bedrag": 0, "Percentage": 0, "Korting": 0, "Eenmalig": false}
+)page";
 
+constexpr std::string_view kToPeriod = R"page(            Every field may be left out. An entry of Perioden:
+)page";
+
+constexpr std::string_view kFromFaults = R"page(
   faults    {"member": "VrijeKolomItem.Termijn", "op": "get", "nth": 2, "number": 13,
              "description": "...", "source": "..."}
             The nth get, set or call of that host member, counted from the start of the session,
@@ -151,6 +152,36 @@ EXAMPLE
 
 The JSON Schema of the document is installed as share/brivane/vrijekolom-replay.schema.json.
 )page";
+
+/// An object, its members on lines of at most kMostColumns; `title` begins the first line.
+std::string Wrapped(std::string_view title, const Json& object) {
+  std::string text;
+  std::string line = std::string(title) + '{';
+  for (auto member = object.begin(); member != object.end(); ++member) {
+    std::string shown = Quoted(member.key()) + ": ";
+    AppendLine(shown, member.value());
+    shown += std::next(member) == object.end() ? '}' : ',';
+    if (member == object.begin()) {
+      line += shown;
+    } else if (line.size() + 1 + shown.size() <= kMostColumns) {
+      line += ' ' + shown;
+    } else {
+      text += line + '\n';
+      line = std::string(title.size() + 1, ' ') + shown;
+    }
+  }
+  return text + line + '\n';
+}
+
+}  // namespace
+
+std::string HelpText() {
+  const dossier::BedragGegevens onePeriod{.Naam = {}, .Perioden = {{}}};
+  return std::string(kToColumn)
+      .append(Wrapped("  column    ", ToJson(dossier::KolomGegevens())))
+      .append(kToPeriod)
+      .append(Wrapped("            ", ToJson(onePeriod)["Perioden"][0]))
+      .append(kFromFaults);
 }
 
 }  // namespace brivane::replay

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string_view>
+#include <string>
 
 namespace brivane::replay {
 
 /// The page that `--help` prints.
-[[nodiscard]] std::string_view HelpText();
+[[nodiscard]] std::string HelpText();
 
 }  // namespace brivane::replay

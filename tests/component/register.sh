@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# register.sh WINE PREFIX: makes a fresh prefix and registers the library and the relay of the tests there, from the
-# folder that holds them.
+# register.sh WINE PREFIX LIBRARY: makes a fresh prefix and registers the library and the relay of the tests there, from
+# the folder that holds them.
 set -euo pipefail
 wine=$1
 export WINEPREFIX=$2
@@ -8,5 +8,5 @@ export WINEPREFIX=$2
 wineserver=$(command -v wineserver || ls /usr/lib/wine/wineserver* | head -n 1)
 "$wineserver" -k 2>/dev/null || true
 rm -rf "$WINEPREFIX"
-"$wine" regsvr32 /s BrivaneVrijeKolom.dll
-"$wine" regsvr32 /s BrivaneProef.dll
+"$wine" regsvr32 /s "$3"
+"$wine" regsvr32 /s BrivaneTestRelay.dll

@@ -43,7 +43,7 @@ TEST_F(Listener, HearsEveryActionBeforeAndAfter) {
   area.Find("cmdDoen")->Host().SetEnabled(false);
   area.Find("cmdDoen")->Perform(Press{});
   auto& box = static_cast<TextBox&>(*area.Find("txtNaam"));
-  box.Validation.Connect([](bool& Cancel) { Cancel = true; });
+  const host::Subscription refusing = box.Validation.Connect([](bool& Cancel) { Cancel = true; });
   box.Perform(Enter{std::string("x")});
   EXPECT_EQ(lines, (std::vector<std::string>{"r > optSoort(2)", "r < optSoort(2) done", "r > cmdDoen",
                                              "r < cmdDoen ignored", "r > txtNaam", "r < txtNaam refused"}));
@@ -52,7 +52,8 @@ TEST_F(Listener, HearsEveryActionBeforeAndAfter) {
 TEST_F(Listener, HearsAFailureWhichGoesOnToTheCaller) {
   Recorder recorder("r", lines);
   toolkit.AddListener(recorder);
-  static_cast<Button&>(*area.Find("cmdDoen")).Click.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
+  const host::Subscription failing =
+      static_cast<Button&>(*area.Find("cmdDoen")).Click.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
   EXPECT_THROW(area.Find("cmdDoen")->Perform(Press{}), host::Error);
   EXPECT_EQ(lines, (std::vector<std::string>{"r > cmdDoen", "r < cmdDoen failed"}));
 }
@@ -60,7 +61,9 @@ TEST_F(Listener, HearsAFailureWhichGoesOnToTheCaller) {
 TEST_F(Listener, HearsActionsInsideActions) {
   Recorder recorder("r", lines);
   toolkit.AddListener(recorder);
-  static_cast<Button&>(*area.Find("cmdDoen")).Click.Connect([&] { area.Find("jnDiep")->Perform(Toggle{host::kJa}); });
+  const host::Subscription toggling = static_cast<Button&>(*area.Find("cmdDoen")).Click.Connect([&] {
+    area.Find("jnDiep")->Perform(Toggle{host::kJa});
+  });
   area.Find("cmdDoen")->Perform(Press{});
   EXPECT_EQ(lines, (std::vector<std::string>{"r > cmdDoen", "r > jnDiep", "r < jnDiep done", "r < cmdDoen done"}));
 }

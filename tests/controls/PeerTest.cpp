@@ -117,11 +117,11 @@ TEST_F(PeerTest, HearOfEachChangeOnceAndOfNoneThatChangesNothing) {
 TEST_F(PeerTest, HearOfAChangeBeforeTheEventThatItRaises) {
   (void)Heard();
   auto& toggle = static_cast<JaNee&>(*area.Find("jnDiep"));
-  toggle.Change.Connect([&] { toolkit.log.emplace_back("Change"); });
+  const host::Subscription changed = toggle.Change.Connect([&] { toolkit.log.emplace_back("Change"); });
   toggle.SetValue(host::kJa);
   EXPECT_EQ(Heard(), (Log{"jnDiep value", "Change"}));
   auto& list = static_cast<ListBox&>(*area.Find("cboTermijn"));
-  list.Click.Connect([&] { toolkit.log.emplace_back("Click"); });
+  const host::Subscription clicked = list.Click.Connect([&] { toolkit.log.emplace_back("Click"); });
   list.SetListIndex(1);
   list.Clear();
   list.Add("x");
@@ -159,8 +159,8 @@ TEST_F(PeerTest, OfAFormShowAndUnloadIt) {
   EXPECT_EQ(toolkit.log.at(26), "made form frmProef");
   EXPECT_EQ(toolkit.log.at(27), "made fraRooster in frmProef");
   (void)Heard();
-  form->Activate.Connect([&] { toolkit.log.emplace_back("Activate"); });
-  form->Unloaded.Connect([&] { toolkit.log.emplace_back("Unloaded"); });
+  const host::Subscription activated = form->Activate.Connect([&] { toolkit.log.emplace_back("Activate"); });
+  const host::Subscription unloaded = form->Unloaded.Connect([&] { toolkit.log.emplace_back("Unloaded"); });
   form->ShowModal(nullptr);
   EXPECT_EQ(Heard(), (Log{"Activate", "frmProef shown", "frmProef unloaded", "Unloaded"}));
 }

@@ -40,10 +40,14 @@ std::string FailedLine() {
   return R"({"failed": {"number": )" + std::to_string(kNumber) + R"(, "description": )" + Quoted(kDescription) + "}}";
 }
 
-bool OfScenario(Member member) { return member >= Member::Scenario_Naam && member <= Member::Periode_Eenmalig; }
+bool OfScenario(Member member) {
+  const std::string_view name = NameOf(member);
+  return name.starts_with("Scenario.") || name.starts_with("Periode.");
+}
 /// What only an error handler touches.
 bool OfHandler(Member member) {
-  return member == Member::Application_ReportError || member >= Member::ProcedureTrace_ErrorInProcedure;
+  return member == Member::Application_ReportError ||
+         (member >= Member::ProcedureTrace_ErrorInProcedure && member <= Member::ProcedureTrace_ErrorSource);
 }
 
 }  // namespace

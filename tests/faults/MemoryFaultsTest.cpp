@@ -94,7 +94,7 @@ dossier::DossierGegevens Gegevens() {
   kolom.EinddatumOvergang = host::Date(51136);
   kolom.EindleeftijdOvergang = 65;
   kolom.Bedrag.Bedrag = 100;
-  kolom.Bedrag.Perioden = {{.Maand = 13, .Bedrag = 200}, {.Maand = 25, .Bedrag = 250, .Eenmalig = true}};
+  kolom.Bedrag.Perioden = {{{.Maand = 13, .Bedrag = 200}}, {{.Maand = 25, .Bedrag = 250, .Eenmalig = true}}};
   dossier::DossierGegevens gegevens;
   gegevens.Personen = {{{"Johannes Wilhelmus", "van den", "Oudenaarden-Wittewaal"}, host::Date(25000)},
                        {{"Anna", "de", "Wit"}, host::Date(26000)}};
@@ -193,7 +193,7 @@ bool Run(const Named& session, long nth, long together, Tried& tried) {
   const long before = allocator.alive;
   bool struck = false;
   {
-    Workbench bench(std::make_shared<dossier::Dossier>(Gegevens(), std::make_shared<dossier::Omgeving>()));
+    Workbench bench(std::make_shared<dossier::Dossier>(Gegevens(), std::make_shared<dossier::Environment>()));
     int unbalanced = 0;
     int reportedTwice = 0;
     const std::function<void(const std::function<void()>&)> act = [&](const std::function<void()>& what) {
@@ -225,7 +225,8 @@ bool Run(const Named& session, long nth, long together, Tried& tried) {
     EXPECT_EQ(bench.Trace().reports, start.reports);
     EXPECT_EQ(bench.Trace().running, 0u);
     EXPECT_FALSE(bench.Editor().Filling());
-    Workbench fresh(std::make_shared<dossier::Dossier>(bench.Case().Gegevens(), std::make_shared<dossier::Omgeving>()));
+    Workbench fresh(
+        std::make_shared<dossier::Dossier>(bench.Case().Gegevens(), std::make_shared<dossier::Environment>()));
     fresh.Editor().SetBeeindigenZichtbaar(bench.Editor().BeeindigenZichtbaar());
     fresh.Bind(0, 1);
     EXPECT_TRUE(bench.OnShow() == fresh.OnShow()) << "shows otherwise than a fresh editor";
@@ -259,7 +260,7 @@ TEST(MemoryFaults, EveryAllocationFailsInTurnWithTheThreeAfterIt) { TryAll(4); }
 
 /// Making the editor either succeeds or leaves nothing behind.
 TEST(MemoryFaults, AnEditorThatCannotBeMadeLeavesNothing) {
-  const auto dossier = std::make_shared<dossier::Dossier>(Gegevens(), std::make_shared<dossier::Omgeving>());
+  const auto dossier = std::make_shared<dossier::Dossier>(Gegevens(), std::make_shared<dossier::Environment>());
   { const Workbench first(dossier); }
   long nth = 1;
   for (bool struck = true; struck; ++nth) {

@@ -12,11 +12,11 @@
 namespace brivane::faults {
 namespace {
 
-using dossier::DossierBestand;
+using dossier::Desk;
+using dossier::DossierFile;
 using dossier::DossierGegevens;
-using dossier::Map;
+using dossier::Folder;
 using dossier::Told;
-using dossier::Werkplek;
 
 /// The edits of the session: every kind twice.
 constexpr int kEdits = 12;
@@ -25,7 +25,7 @@ enum class Kind { OneCall, FullDisk };
 
 class Session {
  public:
-  Session() : pad_(map_.Maak()), stored_(dossier::Gelezen(pad_)) {}
+  Session() : path_(folder_.Make()), stored_(dossier::ReadBack(path_)) {}
 
   /// Runs the session with that call failing, and checks it. Answers how many calls there were.
   int Run(Kind kind, int nth) {
@@ -52,23 +52,23 @@ class Session {
 
  private:
   void Work() {
-    const auto file = DossierBestand::Open(pad_);
-    Werkplek bench(*file);
+    const auto file = DossierFile::Open(path_);
+    Desk bench(*file);
     int boxes = 0;
     bench.Toolkit().Desktop().answer = [&](const std::string& title, const std::string&, host::MessageStyle) {
       if (title == "Kwandero") ++boxes;
       return host::MessageAnswer::Ok;
     };
     bench.Bind(0, 1);
-    EXPECT_TRUE(bench.fouten.empty());
+    EXPECT_TRUE(bench.reports.empty());
     for (int n = 0; n < kEdits; ++n) {
-      bench.fouten.clear();
-      bench.mislukt.clear();
+      bench.reports.clear();
+      bench.failed.clear();
       boxes = 0;
-      dossier::DoeBewerking(bench, n);
+      dossier::DoEdit(bench, n);
       Told(bench, boxes, n);
       const DossierGegevens now = file->Dossier()->Gegevens();
-      if (bench.mislukt.empty()) {
+      if (bench.failed.empty()) {
         // After one was lost another may find what it is to do done already.
         EXPECT_TRUE(lost_ > 0 || now != stored_) << "edit " << n << " changed nothing";
         stored_ = now;
@@ -81,31 +81,31 @@ class Session {
   }
 
   /// A change that is not stored is told of once: by whoever made it, or by the window.
-  static void Told(const Werkplek& bench, int boxes, int n) {
-    const auto reports = bench.fouten.size() + static_cast<std::size_t>(boxes);
-    if (bench.mislukt.empty()) {
+  static void Told(const Desk& bench, int boxes, int n) {
+    const auto reports = bench.reports.size() + static_cast<std::size_t>(boxes);
+    if (bench.failed.empty()) {
       EXPECT_EQ(reports, 0u) << "edit " << n;
       return;
     }
-    EXPECT_EQ(bench.mislukt.size(), 1u) << "edit " << n;
-    EXPECT_EQ(reports, bench.mislukt.front().told == dossier::Told::Yes ? 1u : 0u) << "edit " << n;
+    EXPECT_EQ(bench.failed.size(), 1u) << "edit " << n;
+    EXPECT_EQ(reports, bench.failed.front().told == dossier::Told::Yes ? 1u : 0u) << "edit " << n;
   }
 
   /// Whatever happened, the file is whole and holds every edit that was not said to have failed.
   void Reopened() {
-    const auto file = DossierBestand::Open(pad_);
+    const auto file = DossierFile::Open(path_);
     EXPECT_TRUE(file->ControleerHeelheid().isEmpty()) << file->ControleerHeelheid().join("; ").toStdString();
     EXPECT_TRUE(file->Dossier()->Gegevens() == stored_) << "the file does not hold what was stored";
-    Werkplek bench(*file);
+    Desk bench(*file);
     bench.Bind(0, 1);
-    bench.Typ("TxtOm", std::string("hersteld"));
-    EXPECT_TRUE(bench.fouten.empty() && bench.mislukt.empty());
+    bench.Type("TxtOm", std::string("hersteld"));
+    EXPECT_TRUE(bench.reports.empty() && bench.failed.empty());
     EXPECT_EQ(file->Dossier()->ZoekKolom(0, 1)->Omschrijving(), "hersteld");
   }
 
   FaultyVfs vfs_;
-  Map map_;
-  QString pad_;
+  Folder folder_;
+  QString path_;
   DossierGegevens stored_;
   bool failed_ = false;
   int lost_ = 0;
@@ -138,11 +138,11 @@ TEST(StoreFaults, ANewFileIsCompleteOrNotThere) {
   for (int nth = 1;; ++nth) {
     SCOPED_TRACE("call " + std::to_string(nth));
     FaultyVfs vfs;
-    const Map map;
+    const Folder folder;
     vfs.FailAt(nth);
     bool made = false;
     try {
-      static_cast<void>(map.Maak());
+      static_cast<void>(folder.Make());
       made = true;
     } catch (const dossier::OpeningError& error) {
       EXPECT_EQ(error.Problem(), dossier::OpeningProblem::CannotCreate);
@@ -150,9 +150,9 @@ TEST(StoreFaults, ANewFileIsCompleteOrNotThere) {
     const bool struck = vfs.Struck();
     vfs.FailAt(0);
     if (made) {
-      EXPECT_TRUE(dossier::Gelezen(map.Pad()) == dossier::Gelezen(Map().Maak()));
+      EXPECT_TRUE(dossier::ReadBack(folder.Path()) == dossier::ReadBack(Folder().Make()));
     } else {
-      EXPECT_TRUE(map.Inhoud().isEmpty()) << map.Inhoud().join(", ").toStdString();
+      EXPECT_TRUE(folder.Contents().isEmpty()) << folder.Contents().join(", ").toStdString();
     }
     ASSERT_FALSE(testing::Test::HasFailure());
     if (!struck) break;

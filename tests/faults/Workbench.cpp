@@ -37,11 +37,6 @@ class CountingTracer final : public dossier::Tracer {
   std::shared_ptr<Traced> traced_;
 };
 
-class NoControle final : public host::DossierControle {
- public:
-  void Controleer(const std::shared_ptr<host::Application>&, std::int16_t) override {}
-};
-
 void Collect(const controls::Surface& surface, std::vector<controls::ControlDump>& dumps) {
   for (const auto& control : surface.Made()) {
     if (!control->Shown()) continue;
@@ -56,10 +51,10 @@ Workbench::Workbench(std::shared_ptr<dossier::Dossier> dossier)
     : application_(std::make_shared<dossier::Application>(std::move(dossier))),
       surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
   toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-  application_->FoutGemeld.Connect([traced = traced_](const dossier::Foutrecord&) { ++traced->reports; });
+  reports_ = application_->FoutGemeld.Connect([traced = traced_](const host::ErrorRecord&) { ++traced->reports; });
   const host::HostFactories factories{
       .MaakProcedureTrace = [traced = traced_](std::string_view) { return std::make_shared<CountingTracer>(traced); },
-      .MaakDossierControle = [](std::string_view) { return std::make_shared<NoControle>(); }};
+      .MaakDossierControle = [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }};
   editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
 }
 

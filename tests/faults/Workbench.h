@@ -53,6 +53,7 @@ class Workbench {
   std::shared_ptr<dossier::Application> application_;
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
+  host::Subscription reports_;
 };
 
 }  // namespace brivane::faults

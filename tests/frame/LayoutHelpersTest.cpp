@@ -69,7 +69,7 @@ class Ruler final : public host::DrawingSurface {
 
 TEST_F(LayoutHelpers, TheDesignScreenChangesNothing) {
   int resizes = 0;
-  surface->Resize.Connect([&] { ++resizes; });
+  const host::Subscription resized = surface->Resize.Connect([&] { ++resizes; });
   Scale(15, 15);
   ExpectNear(controls[txtNaam].Place(), {{75}, {225}, {1500}, {300}});
   EXPECT_EQ(surface->Place().width.value, 6000);
@@ -150,7 +150,8 @@ TEST_F(LayoutHelpers, AnotherColourCanBeReplaced) {
 }
 
 TEST_F(LayoutHelpers, AControlThatFailsToTakeTheColourIsPassedOver) {
-  controls[Binnenste].BackColorSet.Connect([](host::Color) { throw host::Error(host::ErrorNumber::Overflow); });
+  const host::Subscription failing =
+      controls[Binnenste].BackColorSet.Connect([](host::Color) { throw host::Error(host::ErrorNumber::Overflow); });
   std::vector<host::Control*> order = {&controls[Binnenste], &controls[fraGroep]};
   ReplaceColor(order, host::Color{255});
   EXPECT_EQ(controls[fraGroep].BackColor(), host::Color{255});

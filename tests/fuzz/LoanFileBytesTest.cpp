@@ -18,7 +18,7 @@ namespace {
 QByteArray SmallFile() {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QStringLiteral("small.dossier"));
-  dossier::DossierBestand::Maak(path, dossier::VoorbeeldDossier());
+  dossier::DossierFile::Maak(path, dossier::VoorbeeldDossier());
   {
     dossier::Database database(path, dossier::Access::ReadWrite);
     for (const char* sql :

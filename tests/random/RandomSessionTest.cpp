@@ -92,11 +92,11 @@ KolomGegevens AColumn(Draw& draw, std::int16_t id, bool partner) {
   column.Bedrag.Invoersoort = static_cast<std::int16_t>(draw.Between(1, 3));
   column.Bedrag.Bedrag = ANumber(draw);
   for (int n = draw.Between(0, 3); n > 0; --n)
-    column.Bedrag.Perioden.push_back({.Maand = static_cast<std::int16_t>(draw.Between(-1, 200)),
-                                      .Bedrag = ANumber(draw),
-                                      .Percentage = draw.Between(-400, 400) / 100.0,
-                                      .Korting = draw.Between(0, 100) / 100.0,
-                                      .Eenmalig = draw.Once(3)});
+    column.Bedrag.Perioden.push_back({{.Maand = static_cast<std::int16_t>(draw.Between(-1, 200)),
+                                       .Bedrag = ANumber(draw),
+                                       .Percentage = draw.Between(-400, 400) / 100.0,
+                                       .Korting = draw.Between(0, 100) / 100.0,
+                                       .Eenmalig = draw.Once(3)}});
   return column;
 }
 
@@ -138,7 +138,7 @@ class RandomSession {
  public:
   explicit RandomSession(std::uint64_t seed)
       : draw_(seed),
-        dossier_(std::make_shared<dossier::Dossier>(ACase(draw_), std::make_shared<dossier::Omgeving>())),
+        dossier_(std::make_shared<dossier::Dossier>(ACase(draw_), std::make_shared<dossier::Environment>())),
         bench_(dossier_),
         onlooker_(dossier_) {
     memory::Desktop& desktop = bench_.Toolkit().Desktop();

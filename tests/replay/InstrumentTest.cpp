@@ -20,7 +20,7 @@ struct Listener final : HostListener {
   void OnGet(Member member, const MemberValue&, MemberIndex) override { told.push_back("get " + Name(member)); }
   void OnSet(Member member, const MemberValue&, MemberIndex) override { told.push_back("set " + Name(member)); }
   void OnCall(Member member, std::span<const std::int16_t>) override { told.push_back("call " + Name(member)); }
-  void OnReport(const ErrorRecord& record) override { told.push_back("report " + record.ErrorNumber); }
+  void OnReport(const host::ErrorRecord& record) override { told.push_back("report " + record.ErrorNumber); }
   static std::string Name(Member member) { return std::string(NameOf(member)); }
 };
 
@@ -38,7 +38,7 @@ class InstrumentedHostTest : public testing::Test {
     gegevens.HuidigeLening.VrijeKolommen.resize(1);
     gegevens.Leningen.resize(1);
     return std::make_shared<dossier::Application>(
-        std::make_shared<dossier::Dossier>(std::move(gegevens), std::make_shared<dossier::Omgeving>()));
+        std::make_shared<dossier::Dossier>(std::move(gegevens), std::make_shared<dossier::Environment>()));
   }
 
   std::shared_ptr<dossier::Application> inner_ = MakeApplication();
@@ -88,7 +88,8 @@ TEST_F(InstrumentedHostTest, TheInnerHostMeetsItsOwnObjects) {
   EXPECT_EQ(controle_->given, inner_);
 
   std::string reported;
-  inner_->FoutGemeld.Connect([&](const dossier::Foutrecord& record) { reported = record.ErrorNumber; });
+  const host::Subscription reports =
+      inner_->FoutGemeld.Connect([&](const host::ErrorRecord& record) { reported = record.ErrorNumber; });
   const auto trace = host_.Factories().MaakProcedureTrace("VrijeKolom");
   trace->SetErrorNumber("13");
   host_.Application()->ReportError(*trace);

@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "dossier/model/Application.h"
+#include "dossier/model/DossierControle.h"
+#include "replay/play/MemorySubject.h"
 #include "replay/play/Session.h"
 
 namespace brivane::replay::test {
@@ -299,6 +302,65 @@ TEST(Faults, AnyAccessCanBeFailedByItsPosition) {
   faulty.Run();
   EXPECT_EQ(faulty.Ledger().Struck(), 1u);
   EXPECT_EQ(lines[4], R"({"error": "SetApplication", "in": "VrijeKolom"})");
+}
+
+// Played by a program
+
+constexpr char kFormSteps[] = R"({"today": "2026-11-21", "dossier": {"personen": [{}],
+  "HuidigeLening": {"VrijeKolommen": [{"Termijn": 12, "Looptijd": 60, "DatumAanvang": "2026-01-01"}]}},
+  "log": ["events"], "steps": [
+    {"do": "SetApplication", "Len_Id": 0, "Vrij_Id": 1},
+    {"do": "click", "control": "cmdScenario", "modal": [
+      {"do": "enter", "control": "txtBedrag", "index": 2, "value": 5},
+      {"do": "enter", "control": "txtBedrag", "index": 3, "value": 6}]},
+    {"do": "enter", "control": "TxtBd", "value": 7}]})";
+
+TEST(Stepped, IsToldOfEachStepOnceItHasRunAndOfAFormsStepsBeforeTheOneThatOpenedIt) {
+  const Document document = ReadDocument(kFormSteps);
+  Session session(document, [](std::string_view) {});
+  std::vector<std::string> told;
+  session.stepped = [&](const std::string& number, const Step& step) {
+    told.push_back(number + ' ' + step.name);
+    return Onward::GoOn;
+  };
+  session.Run();
+  EXPECT_THAT(told, ElementsAre("1 SetApplication", "2.1 enter", "2.2 enter", "2 click", "3 enter"));
+}
+
+TEST(Stepped, StopsTheSessionAndClosesAFormThatIsOpen) {
+  const Document document = ReadDocument(kFormSteps);
+  std::vector<std::string> lines;
+  Session session(document, [&](std::string_view line) { lines.emplace_back(line); });
+  session.stepped = [](const std::string& number, const Step&) {
+    return number == "2.1" ? Onward::Stop : Onward::GoOn;
+  };
+  session.Run();
+  // The click that opened the form ends as it does; nothing follows it.
+  EXPECT_THAT(After(lines, R"({"step": "2.1", "do": "enter"})"),
+              ElementsAre(R"({"step": "2.1", "do": "enter"})", R"({"closed": "frmScenario"})",
+                          R"({"event": "RefreshTopDisplay", "text": ""})"));
+}
+
+TEST(LiveHost, IsWhatTheSessionWorksOnWhateverItsDocumentStartsFrom) {
+  Document document = ReadDocument(kFormSteps);
+  document.steps.erase(document.steps.begin() + 1);
+  const auto live = std::make_shared<dossier::Dossier>(document.dossier, std::make_shared<dossier::Environment>());
+  document.dossier = {};
+  int tracers = 0;
+  const host::HostFactories factories{
+      [&](std::string_view) {
+        ++tracers;
+        return std::make_shared<dossier::Tracer>();
+      },
+      [](std::string_view) { return std::make_shared<dossier::DossierControle>([] { return host::Date(46000); }); }};
+  Session session(
+      document, [](std::string_view) {}, {live, std::make_shared<dossier::Application>(live), factories},
+      MakeMemorySubject);
+  session.Run();
+  EXPECT_EQ(live->ZoekKolom(0, 1)->Bedrag()->Bedrag(), 7);
+  EXPECT_EQ(&session.Case(), live.get());
+  // One for the editor, one for its explanation.
+  EXPECT_EQ(tracers, 2);
 }
 
 }  // namespace

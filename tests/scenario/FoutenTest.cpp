@@ -99,6 +99,37 @@ TEST_F(Fouten, EveryAccessOfOKIsShownOnceAndLeavesTheFormOpen) {
   }
 }
 
+TEST_F(Fouten, TheStoringThatOKBeganEndsAtEveryFailureBeforeItIsShown) {
+  for (const std::int16_t soort : {std::int16_t{1}, std::int16_t{2}, std::int16_t{3}}) {
+    int begonnen = 0;
+    for (int nummer = 1; nummer < 100; ++nummer) {
+      Nieuw();
+      scenario = std::make_shared<RecordingScenario>();
+      scenario->VoegToe({.maand = 13, .bedrag = 5, .percentage = 1, .korting = 1});
+      Open(soort, 3, {.korting = true});
+      std::string verloop;
+      host::Subscriptions luistert;
+      luistert += form->OpslagBegint.Connect([&] { verloop += "begint "; });
+      luistert += form->OpslagEindigt.Connect([&] { verloop += "eindigt "; });
+      luistert += form->Form().Unloaded.Connect([&] { verloop += "gesloten "; });
+      toolkit.Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
+        verloop += "melding ";
+        return host::MessageAnswer::Ok;
+      };
+      FaalBij(nummer);
+      DrukOK();
+      if (toegangen < nummer) {
+        EXPECT_EQ(verloop, "begint eindigt gesloten ");
+        break;
+      }
+      // Its kind is asked before it begins.
+      EXPECT_EQ(verloop, nummer == 1 ? "melding " : "begint eindigt melding ") << soort << ", " << nummer;
+      begonnen += nummer == 1 ? 0 : 1;
+    }
+    EXPECT_GE(begonnen, 4) << soort;
+  }
+}
+
 TEST_F(Fouten, ABoxThatCannotBeReadIsATypeMismatch) {
   Open(1, 2);
   Typ("txtBedrag", 1, std::string("tien"));

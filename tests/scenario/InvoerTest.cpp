@@ -248,7 +248,10 @@ class Opname : public Formulier {
 
 TEST_F(Opname, PastTheMaximumIsRefusedWithItsMessage) {
   OpenKrediet(25000, {10000, 10000, 6000});
+  int opslagen = 0;
+  const host::Subscription opslag = form->OpslagBegint.Connect([&] { ++opslagen; });
   DrukOK();
+  EXPECT_EQ(opslagen, 0);
   EXPECT_EQ(berichten, (std::vector<Bericht>{{"Scenario",
                                               "Onjuiste invoer:\r\n- De som van alle opnames bedraagt maximaal € "
                                               "25.000,-.",

@@ -32,6 +32,22 @@ TEST_F(Levensloop, TheCloseBoxReleasesTheScenarioToo) {
   EXPECT_EQ(scenario.use_count(), 1);
 }
 
+TEST_F(Levensloop, OKSaysWhenItsStoringBeginsAndEnds) {
+  Open(2, 2);
+  host::Subscriptions luistert;
+  luistert += form->OpslagBegint.Connect([&] { scenario->log.emplace_back("begint"); });
+  luistert += form->OpslagEindigt.Connect([&] { scenario->log.emplace_back("eindigt"); });
+  luistert += form->Form().Unloaded.Connect([&] { scenario->log.emplace_back("gesloten"); });
+  Typ("txtPercentage", 1, 4.0);
+  EXPECT_EQ(scenario->log, std::vector<std::string>{"Bedrag = 4"}) << "an edit stores by itself";
+  scenario->log.clear();
+  DrukOK();
+  EXPECT_EQ(scenario->log.front(), "begint");
+  EXPECT_EQ(std::vector<std::string>(scenario->log.end() - 2, scenario->log.end()),
+            (std::vector<std::string>{"eindigt", "gesloten"}));
+  EXPECT_GT(scenario->log.size(), 3U) << "between them it writes";
+}
+
 TEST_F(Levensloop, ShowingGivesEveryButtonFaceTheFormsColour) {
   EXPECT_EQ(form->BackColor(), host::kButtonFace);
   form->SetBackColor(kRood);

@@ -13,7 +13,7 @@ ControlTest::ControlTest(const frame::Design& design) : surface_(toolkit_.MakeSu
   memory::Desktop& desktop = toolkit_.Desktop();
   desktop.today = D(2026, 11, 21);
   desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
-    host_.journal.Add("message " + title + '|' + text + '|' + std::to_string(static_cast<int>(style)));
+    host_.calls.Add("message " + title + '|' + text + '|' + std::to_string(static_cast<int>(style)));
     if (!answers_.empty()) {
       const host::MessageAnswer answer = answers_.front();
       answers_.pop_front();
@@ -22,10 +22,10 @@ ControlTest::ControlTest(const frame::Design& design) : surface_(toolkit_.MakeSu
     return style == host::MessageStyle::YesNoQuestion ? host::MessageAnswer::No : host::MessageAnswer::Ok;
   };
   desktop.pending = [this] {
-    host_.journal.Add("pending");
+    host_.calls.Add("pending");
     if (pending_) pending_();
   };
-  toolkit_.focusMoved = [this](controls::AnyControl& control) { host_.journal.Add("focus " + control.ElementName()); };
+  toolkit_.focusMoved = [this](controls::AnyControl& control) { host_.calls.Add("focus " + control.ElementName()); };
 }
 
 controls::Outcome ControlTest::Try(host::Control& control, const controls::Action& action) {

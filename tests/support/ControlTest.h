@@ -22,7 +22,7 @@ inline host::Date D(int year, int month, int day) { return frame::MakeDate({year
 [[nodiscard]] Lines Only(const Lines& lines, std::string_view kind);
 
 /// A control on the toolkit in memory against the host in memory, on 21 November 2026. Message boxes, the
-/// focus and pending events are written into the host's journal.
+/// focus and pending events are written into the host's calls.
 class ControlTest : public ::testing::Test {
  protected:
   explicit ControlTest(const frame::Design& design);
@@ -41,8 +41,8 @@ class ControlTest : public ::testing::Test {
   /// A person acts on a control; answers what became of it.
   controls::Outcome Try(host::Control& control, const controls::Action& action);
   /// What happened since the last time.
-  [[nodiscard]] Lines Log() { return host_.journal.Take(); }
-  void Forget() { (void)host_.journal.Take(); }
+  [[nodiscard]] Lines Log() { return host_.calls.Take(); }
+  void Forget() { (void)host_.calls.Take(); }
 };
 
 }  // namespace brivane::test

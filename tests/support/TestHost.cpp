@@ -11,70 +11,70 @@ std::shared_ptr<host::VrijeKolomItem> TestLening::Zoek(std::int16_t Vrij_Id) con
 }
 
 std::shared_ptr<host::VrijeKolomItem> TestLening::VrijeKolommen(std::int16_t Vrij_Id) {
-  journal_.Reach("VrijeKolommen", Op::Get);
-  journal_.AddRead("get " + Prefix() + "VrijeKolommen(" + Show(Vrij_Id) + ')');
+  calls_.Reach("VrijeKolommen", Op::Get);
+  calls_.AddRead("get " + Prefix() + "VrijeKolommen(" + Show(Vrij_Id) + ')');
   return Zoek(Vrij_Id);
 }
 
 std::shared_ptr<host::VrijeKolomItem> TestLening::VrijeKolom(std::int16_t Vrij_Id) {
-  journal_.Reach("VrijeKolom", Op::Get);
-  journal_.AddRead("get " + Prefix() + "VrijeKolom(" + Show(Vrij_Id) + ')');
+  calls_.Reach("VrijeKolom", Op::Get);
+  calls_.AddRead("get " + Prefix() + "VrijeKolom(" + Show(Vrij_Id) + ')');
   return Zoek(Vrij_Id);
 }
 
 std::shared_ptr<host::VrijeKolomItem> TestLening::VrijeKolomOp(std::int16_t positie) {
-  journal_.AddRead("get " + Prefix() + "VrijeKolomOp(" + Show(positie) + ')');
+  calls_.AddRead("get " + Prefix() + "VrijeKolomOp(" + Show(positie) + ')');
   const auto index = static_cast<std::size_t>(positie);
   return index >= 1 && index <= kolommen.size() ? kolommen[index - 1] : nullptr;
 }
 
 void TestLening::VerwijderVrijeKolom(std::int16_t positie) {
-  journal_.Reach("VerwijderVrijeKolom", Op::Call);
+  calls_.Reach("VerwijderVrijeKolom", Op::Call);
   kolommen.erase(kolommen.begin() + (positie - 1));
-  journal_.Add("call " + Prefix() + "VerwijderVrijeKolom(" + Show(positie) + ')');
+  calls_.Add("call " + Prefix() + "VerwijderVrijeKolom(" + Show(positie) + ')');
 }
 
 std::shared_ptr<host::Lening> TestDossier::HuidigeLening() {
-  journal_.Reach("HuidigeLening", Op::Get);
-  journal_.AddRead("get HuidigeLening");
+  calls_.Reach("HuidigeLening", Op::Get);
+  calls_.AddRead("get HuidigeLening");
   return huidig;
 }
 
 std::shared_ptr<host::Lening> TestDossier::Lening(std::int16_t Len_Id) {
-  journal_.Reach("Lening", Op::Get);
-  journal_.AddRead("get Lening(" + Show(Len_Id) + ')');
+  calls_.Reach("Lening", Op::Get);
+  calls_.AddRead("get Lening(" + Show(Len_Id) + ')');
   if (Len_Id == 0) return huidig;
   const auto index = static_cast<std::size_t>(Len_Id);
   return index <= leningen.size() ? leningen[index - 1] : nullptr;
 }
 
 std::shared_ptr<host::Persoon> TestDossier::Persoon(std::int16_t nummer) {
-  journal_.Reach("Persoon", Op::Get);
+  calls_.Reach("Persoon", Op::Get);
   const auto index = static_cast<std::size_t>(nummer);
   return index >= 1 && index <= personen.size() ? personen[index - 1] : nullptr;
 }
 
 void TestDossier::VoegToeAanVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id) {
-  journal_.Reach("VoegToeAanVoorstel", Op::Call);
-  journal_.Add("call VoegToeAanVoorstel(" + Show(voorstel) + ", " + Show(Vrij_Id) + ')');
+  calls_.Reach("VoegToeAanVoorstel", Op::Call);
+  calls_.Add("call VoegToeAanVoorstel(" + Show(voorstel) + ", " + Show(Vrij_Id) + ')');
 }
 
 void TestDossier::VerwijderUitVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, std::int16_t nul) {
-  journal_.Reach("VerwijderUitVoorstel", Op::Call);
-  journal_.Add("call VerwijderUitVoorstel(" + Show(voorstel) + ", " + Show(Vrij_Id) + ", " + Show(nul) + ')');
+  calls_.Reach("VerwijderUitVoorstel", Op::Call);
+  calls_.Add("call VerwijderUitVoorstel(" + Show(voorstel) + ", " + Show(Vrij_Id) + ", " + Show(nul) + ')');
 }
 
 std::shared_ptr<host::Dossier> TestApplication::Dossier() {
-  journal_.Reach("Dossier", Op::Get);
+  calls_.Reach("Dossier", Op::Get);
   return dossier;
 }
 
 void TestApplication::VulCombo(const std::shared_ptr<host::Codetabellen>& bron, std::string_view tabel,
                                host::ListBox& lijst, const std::string& code, const std::string& leeg,
                                std::optional<std::int32_t> keuze) {
-  journal_.Reach("VulCombo", Op::Call);
-  journal_.Add("call VulCombo(" + std::string(tabel) + ", " + std::string(lijst.Name()) + ", " + Show(code) + ", " +
-               Show(leeg) + (bron ? ")" : ", without a source)") + (keuze ? " with a choice" : ""));
+  calls_.Reach("VulCombo", Op::Call);
+  calls_.Add("call VulCombo(" + std::string(tabel) + ", " + std::string(lijst.Name()) + ", " + Show(code) + ", " +
+             Show(leeg) + (bron ? ")" : ", without a source)") + (keuze ? " with a choice" : ""));
   int gekozen = host::kNoSelection;
   for (const auto& [sleutel, tekst] : maatschappijen) {
     if (sleutel == code) gekozen = lijst.ListCount();
@@ -85,31 +85,31 @@ void TestApplication::VulCombo(const std::shared_ptr<host::Codetabellen>& bron, 
 
 std::string TestApplication::ZoekCode(const std::shared_ptr<host::Codetabellen>& bron, std::string_view tabel,
                                       const std::string& tekst) {
-  journal_.Reach("ZoekCode", Op::Call);
-  journal_.Add("call ZoekCode(" + std::string(tabel) + ", " + Show(tekst) + (bron ? ")" : ", without a source)"));
+  calls_.Reach("ZoekCode", Op::Call);
+  calls_.Add("call ZoekCode(" + std::string(tabel) + ", " + Show(tekst) + (bron ? ")" : ", without a source)"));
   for (const auto& [code, naam] : maatschappijen)
     if (naam == tekst) return code;
   return {};
 }
 
 void TestApplication::ReportError(host::ProcedureTrace& trace) {
-  journal_.Reach("ReportError", Op::Call);
-  journal_.Add("report " + dynamic_cast<TestTrace&>(trace).Summary());
+  calls_.Reach("ReportError", Op::Call);
+  calls_.Add("report " + dynamic_cast<TestTrace&>(trace).Summary());
 }
 
 void TestTrace::EnterProcedure(std::string_view procedure) {
-  journal_.Reach("EnterProcedure", Op::Call);
-  journal_.Add("enter " + Prefix() + std::string(procedure));
+  calls_.Reach("EnterProcedure", Op::Call);
+  calls_.Add("enter " + Prefix() + std::string(procedure));
 }
 
-void TestTrace::LeaveProcedure() { journal_.Add(control_ == "Toelichting" ? "leave Toelichting" : "leave"); }
+void TestTrace::LeaveProcedure() { calls_.Add(control_ == "Toelichting" ? "leave Toelichting" : "leave"); }
 
 void TestTrace::ErrorInProcedure(std::string_view procedure) {
-  journal_.Add("error " + Prefix() + std::string(procedure));
+  calls_.Add("error " + Prefix() + std::string(procedure));
 }
 
 void TestTrace::Write(const char* naam, const std::string& tekst) {
-  journal_.Reach(naam, Op::Set);
+  calls_.Reach(naam, Op::Set);
   record_.push_back(std::string(naam) + '=' + tekst);
 }
 
@@ -117,15 +117,15 @@ namespace {
 
 class TestControle final : public host::DossierControle {
  public:
-  TestControle(Journal& journal, const host::Application* verwacht) : journal_(journal), verwacht_(verwacht) {}
+  TestControle(CallLog& calls, const host::Application* verwacht) : calls_(calls), verwacht_(verwacht) {}
   void Controleer(const std::shared_ptr<host::Application>& application, std::int16_t soort) override {
-    journal_.Reach("Controleer", Op::Call);
-    journal_.Add("call Controleer(" + std::string(application.get() == verwacht_ ? "application" : "another") + ", " +
-                 Show(soort) + ')');
+    calls_.Reach("Controleer", Op::Call);
+    calls_.Add("call Controleer(" + std::string(application.get() == verwacht_ ? "application" : "another") + ", " +
+               Show(soort) + ')');
   }
 
  private:
-  Journal& journal_;
+  CallLog& calls_;
   const host::Application* verwacht_;
 };
 
@@ -139,12 +139,11 @@ TestHost::TestHost() {
 }
 
 host::HostFactories TestHost::Factories() {
-  return {
-      [this](std::string_view control) { return traces.emplace_back(std::make_shared<TestTrace>(journal, control)); },
-      [this](std::string_view) {
-        ++controles;
-        return std::make_shared<TestControle>(journal, application.get());
-      }};
+  return {[this](std::string_view control) { return traces.emplace_back(std::make_shared<TestTrace>(calls, control)); },
+          [this](std::string_view) {
+            ++controles;
+            return std::make_shared<TestControle>(calls, application.get());
+          }};
 }
 
 TestKolom& TestHost::Kolom(std::int16_t id) {
@@ -155,7 +154,7 @@ TestKolom& TestHost::Kolom(std::int16_t id) {
 
 TestLening& TestHost::VoegLening(const std::vector<std::int16_t>& ids) {
   const auto nummer = static_cast<std::int16_t>(dossier.leningen.size() + 1);
-  TestLening& lening = *dossier.leningen.emplace_back(std::make_shared<TestLening>(journal, nummer));
+  TestLening& lening = *dossier.leningen.emplace_back(std::make_shared<TestLening>(calls, nummer));
   for (const std::int16_t id : ids) lening.Voeg(id);
   return lening;
 }

@@ -21,10 +21,10 @@ struct TestPersoon final : host::Persoon {
 
 class TestLening final : public host::Lening {
  public:
-  TestLening(Journal& journal, std::int16_t nummer) : journal_(journal), nummer_(nummer) {}
+  TestLening(CallLog& calls, std::int16_t nummer) : calls_(calls), nummer_(nummer) {}
   std::vector<std::shared_ptr<TestKolom>> kolommen;
 
-  TestKolom& Voeg(std::int16_t id) { return *kolommen.emplace_back(std::make_shared<TestKolom>(journal_, id)); }
+  TestKolom& Voeg(std::int16_t id) { return *kolommen.emplace_back(std::make_shared<TestKolom>(calls_, id)); }
 
   [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> VrijeKolommen(std::int16_t Vrij_Id) override;
   [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> VrijeKolom(std::int16_t Vrij_Id) override;
@@ -35,13 +35,13 @@ class TestLening final : public host::Lening {
   [[nodiscard]] std::string Prefix() const { return "Lening(" + Show(nummer_) + ")."; }
   [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> Zoek(std::int16_t Vrij_Id) const;
 
-  Journal& journal_;
+  CallLog& calls_;
   std::int16_t nummer_;
 };
 
 class TestDossier final : public host::Dossier {
  public:
-  explicit TestDossier(Journal& journal) : huidig(std::make_shared<TestLening>(journal, 0)), journal_(journal) {}
+  explicit TestDossier(CallLog& calls) : huidig(std::make_shared<TestLening>(calls, 0)), calls_(calls) {}
   std::shared_ptr<TestLening> huidig;
   std::vector<std::shared_ptr<TestLening>> leningen;
   std::vector<std::shared_ptr<TestPersoon>> personen;
@@ -53,7 +53,7 @@ class TestDossier final : public host::Dossier {
   void VerwijderUitVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, std::int16_t nul) override;
 
  private:
-  Journal& journal_;
+  CallLog& calls_;
 };
 
 struct TestUitgangspunten final : host::Uitgangspunten {
@@ -65,7 +65,7 @@ struct TestHoofdvenster final : host::Hoofdvenster {};
 
 class TestApplication final : public host::Application {
  public:
-  explicit TestApplication(Journal& journal) : dossier(std::make_shared<TestDossier>(journal)), journal_(journal) {}
+  explicit TestApplication(CallLog& calls) : dossier(std::make_shared<TestDossier>(calls)), calls_(calls) {}
   std::shared_ptr<TestDossier> dossier;
   std::shared_ptr<TestUitgangspunten> uitgangspunten = std::make_shared<TestUitgangspunten>();
   std::shared_ptr<TestHoofdvenster> hoofdvenster = std::make_shared<TestHoofdvenster>();
@@ -86,13 +86,13 @@ class TestApplication final : public host::Application {
   void ReportError(host::ProcedureTrace& trace) override;
 
  private:
-  Journal& journal_;
+  CallLog& calls_;
 };
 
 /// Writes down the procedures of one control; those of the explanation control under "Toelichting.".
 class TestTrace final : public host::ProcedureTrace {
  public:
-  TestTrace(Journal& journal, std::string_view control) : journal_(journal), control_(control) {}
+  TestTrace(CallLog& calls, std::string_view control) : calls_(calls), control_(control) {}
 
   void EnterProcedure(std::string_view procedure) override;
   void LeaveProcedure() override;
@@ -115,7 +115,7 @@ class TestTrace final : public host::ProcedureTrace {
   void Write(const char* naam, const std::string& tekst);
   [[nodiscard]] std::string Prefix() const { return control_ == "Toelichting" ? "Toelichting." : ""; }
 
-  Journal& journal_;
+  CallLog& calls_;
   std::string control_;
   std::string number_;
   std::vector<std::string> record_;
@@ -126,16 +126,16 @@ class TestTrace final : public host::ProcedureTrace {
 ///
 ///     TestHost host;
 ///     host.Kolom(1).velden.Termijn = 99;
-///     host.journal.Fail("Termijn", Op::Get, 2);
+///     host.calls.Fail("Termijn", Op::Get, 2);
 ///     editor.SetApplication(host.application, 0, 1);
-///     EXPECT_THAT(host.journal.Take(), ElementsAre("enter SetApplication", ...));
+///     EXPECT_THAT(host.calls.Take(), ElementsAre("enter SetApplication", ...));
 class TestHost {
  public:
   TestHost();
   TestHost(const TestHost&) = delete;
 
-  Journal journal;
-  std::shared_ptr<TestApplication> application = std::make_shared<TestApplication>(journal);
+  CallLog calls;
+  std::shared_ptr<TestApplication> application = std::make_shared<TestApplication>(calls);
   TestDossier& dossier = *application->dossier;
   /// The tracers made, in order, and how many check objects.
   std::vector<std::shared_ptr<TestTrace>> traces;

@@ -8,102 +8,70 @@
 #include <utility>
 #include <vector>
 
-#include "host/model/VrijeKolomItem.h"
-#include "tests/support/Journal.h"
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
+#include "tests/support/CallLog.h"
 
 /// The record of a free column, its amount and its periods, with their data open to the test.
 namespace brivane::test {
 
-struct PeriodeVelden {
-  std::int16_t Maand = 0;
-  double Bedrag = 0;
-  double Percentage = 0;
-  double Korting = 0;
-  bool Eenmalig = false;
+using PeriodeVelden = host::PeriodeValues;
+
+struct KolomVelden : host::VrijeKolomValues {
+  KolomVelden() {
+    Weergave = "de weergave";
+    Kopregel = "de kopregel";
+  }
 };
 
-struct KolomVelden {
-  std::int16_t CorrectieLast = 1;
-  std::int16_t CorrectieFiscaal = 1;
-  std::int16_t HeffingBij = 1;
-  std::string Omschrijving;
-  std::int16_t Termijn = 1;
-  bool InkomenUitArbeid = false;
-  bool InDagloon = false;
-  host::Date DatumAanvang;
-  std::int32_t Looptijd = 0;
-  host::Date Contractvervaldatum;
-  bool IsProduct = false;
-  std::string Maatschappij;
-  std::string MaatschappijNaam;
-  std::int16_t Productsoort = 0;
-  std::string ProductsoortOmschrijving;
-  std::string Productnaam;
-  bool UwBemiddeling = false;
-  std::array<std::string, 3> Voorstel;
-  std::string Weergave = "de weergave";
-  std::string Kopregel = "de kopregel";
-  bool UitsluitenAO = false;
-  bool UitsluitenWW = false;
-  bool UitsluitenLangleven = false;
-  bool ScenarioOverlijden = false;
-  float PercentageOvergang = 0;
-  host::Date EinddatumOvergang;
-  std::int16_t EindleeftijdOvergang = 0;
-};
-
-/// Tells reads and writes of fields to the journal under "PREFIX.FIELD", or fails as planned.
+/// Tells reads and writes of fields to the calls under "PREFIX.FIELD", or fails as planned.
 class Told {
  public:
-  Told(Journal& journal, std::string prefix) : journal_(journal), prefix_(std::move(prefix)) {}
+  Told(CallLog& calls, std::string prefix) : calls_(calls), prefix_(std::move(prefix)) {}
 
  protected:
   template <class T> const T& Get(std::string_view naam, const T& veld) const {
-    journal_.Reach(naam, Op::Get);
-    journal_.AddRead("get " + prefix_ + std::string(naam) + '=' + Show(veld));
+    calls_.Reach(naam, Op::Get);
+    calls_.AddRead("get " + prefix_ + std::string(naam) + '=' + Show(veld));
     return veld;
   }
   template <class T> void Set(std::string_view naam, T& veld, const T& waarde) {
-    journal_.Reach(naam, Op::Set);
+    calls_.Reach(naam, Op::Set);
     veld = waarde;
     Adjust(naam);
-    journal_.Add("set " + prefix_ + std::string(naam) + '=' + Show(veld));
+    calls_.Add("set " + prefix_ + std::string(naam) + '=' + Show(veld));
   }
   virtual void Adjust(std::string_view) {}
   ~Told() = default;
 
-  Journal& journal_;
+  CallLog& calls_;
 
  private:
   std::string prefix_;
 };
 
-// A getter and a setter of a field that an interface names.
-#define BRIVANE_TOLD(Type, Parameter, Name)                                    \
-  [[nodiscard]] Type Name() const override { return Get(#Name, velden.Name); } \
-  void Set##Name(Parameter waarde) override { Set(#Name, velden.Name, waarde); }
-
-class TestPeriode final : public host::Periode, private Told {
+class TestPeriode final : public host::PeriodeByField<TestPeriode>, private Told {
  public:
-  explicit TestPeriode(Journal& journal, PeriodeVelden begin = {}) : Told(journal, "Periode."), velden(begin) {}
+  explicit TestPeriode(CallLog& calls, PeriodeVelden begin = {}) : Told(calls, "Periode."), velden(begin) {}
   PeriodeVelden velden;
 
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Maand)
-  BRIVANE_TOLD(double, double, Bedrag)
-  BRIVANE_TOLD(double, double, Percentage)
-  BRIVANE_TOLD(double, double, Korting)
-  BRIVANE_TOLD(bool, bool, Eenmalig)
+ private:
+  friend host::PeriodeByField<TestPeriode>;
+  template <class Field> auto ReadField(const Field& field) const { return Get(field.name, velden.*field.value); }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    Set(field.name, velden.*field.value, waarde);
+  }
 };
 
 class TestBedrag final : public host::BedragObject, private Told {
  public:
-  explicit TestBedrag(Journal& journal) : Told(journal, "") {}
+  explicit TestBedrag(CallLog& calls) : Told(calls, "") {}
   std::string naam;
   std::int16_t invoersoort = 1;
   double bedrag = 0;
   std::vector<std::shared_ptr<TestPeriode>> perioden;
 
-  void Voeg(PeriodeVelden velden) { perioden.push_back(std::make_shared<TestPeriode>(journal_, velden)); }
+  void Voeg(PeriodeVelden velden) { perioden.push_back(std::make_shared<TestPeriode>(calls_, velden)); }
 
   [[nodiscard]] std::string Naam() const override { return naam; }
   [[nodiscard]] std::int16_t Invoersoort() const override { return invoersoort; }
@@ -117,20 +85,19 @@ class TestBedrag final : public host::BedragObject, private Told {
   }
   std::int16_t NieuwePeriode() override {
     Voeg({});
-    journal_.Add("call NieuwePeriode()");
+    calls_.Add("call NieuwePeriode()");
     return static_cast<std::int16_t>(perioden.size());
   }
   void VerwijderPeriode(std::int16_t positie) override {
-    journal_.Reach("VerwijderPeriode", Op::Call);
+    calls_.Reach("VerwijderPeriode", Op::Call);
     perioden.erase(perioden.begin() + (positie - 1));
-    journal_.Add("call VerwijderPeriode(" + Show(positie) + ')');
+    calls_.Add("call VerwijderPeriode(" + Show(positie) + ')');
   }
 };
 
-class TestKolom final : public host::VrijeKolomItem, private Told {
+class TestKolom final : public host::VrijeKolomByField<TestKolom>, private Told {
  public:
-  TestKolom(Journal& journal, std::int16_t id)
-      : Told(journal, ""), bedrag(std::make_shared<TestBedrag>(journal)), id_(id) {}
+  TestKolom(CallLog& calls, std::int16_t id) : Told(calls, ""), bedrag(std::make_shared<TestBedrag>(calls)), id_(id) {}
   KolomVelden velden;
   /// Nothing stands for a record without an amount object.
   std::shared_ptr<TestBedrag> bedrag;
@@ -139,11 +106,9 @@ class TestKolom final : public host::VrijeKolomItem, private Told {
 
   [[nodiscard]] std::int16_t Id() const override { return id_; }
   [[nodiscard]] std::shared_ptr<host::BedragObject> Bedrag() override {
-    journal_.Reach("Bedrag", Op::Get);
+    calls_.Reach("Bedrag", Op::Get);
     return bedrag;
   }
-  [[nodiscard]] std::string Weergave() const override { return Get("Weergave", velden.Weergave); }
-  [[nodiscard]] std::string Kopregel() const override { return Get("Kopregel", velden.Kopregel); }
   [[nodiscard]] std::string Voorstel(std::int16_t nummer) const override {
     return Get("Voorstel(" + Show(nummer) + ')', velden.Voorstel.at(static_cast<std::size_t>(nummer - 1)));
   }
@@ -151,38 +116,16 @@ class TestKolom final : public host::VrijeKolomItem, private Told {
     Set("Voorstel(" + Show(nummer) + ')', velden.Voorstel.at(static_cast<std::size_t>(nummer - 1)), lidmaatschap);
   }
 
-  BRIVANE_TOLD(std::int16_t, std::int16_t, CorrectieLast)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, CorrectieFiscaal)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, HeffingBij)
-  BRIVANE_TOLD(std::string, const std::string&, Omschrijving)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Termijn)
-  BRIVANE_TOLD(bool, bool, InkomenUitArbeid)
-  BRIVANE_TOLD(bool, bool, InDagloon)
-  BRIVANE_TOLD(host::Date, host::Date, DatumAanvang)
-  BRIVANE_TOLD(std::int32_t, std::int32_t, Looptijd)
-  BRIVANE_TOLD(host::Date, host::Date, Contractvervaldatum)
-  BRIVANE_TOLD(bool, bool, IsProduct)
-  BRIVANE_TOLD(std::string, const std::string&, Maatschappij)
-  BRIVANE_TOLD(std::string, const std::string&, MaatschappijNaam)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, Productsoort)
-  BRIVANE_TOLD(std::string, const std::string&, ProductsoortOmschrijving)
-  BRIVANE_TOLD(std::string, const std::string&, Productnaam)
-  BRIVANE_TOLD(bool, bool, UwBemiddeling)
-  BRIVANE_TOLD(bool, bool, UitsluitenAO)
-  BRIVANE_TOLD(bool, bool, UitsluitenWW)
-  BRIVANE_TOLD(bool, bool, UitsluitenLangleven)
-  BRIVANE_TOLD(bool, bool, ScenarioOverlijden)
-  BRIVANE_TOLD(float, float, PercentageOvergang)
-  BRIVANE_TOLD(host::Date, host::Date, EinddatumOvergang)
-  BRIVANE_TOLD(std::int16_t, std::int16_t, EindleeftijdOvergang)
-
  private:
+  friend host::VrijeKolomByField<TestKolom>;
+  template <class Field> auto ReadField(const Field& field) const { return Get(field.name, velden.*field.value); }
+  template <class Field> void WriteField(const Field& field, const typename Field::Value& waarde) {
+    Set(field.name, velden.*field.value, waarde);
+  }
   void Adjust(std::string_view naam) override {
     if (adjust) adjust(velden, naam);
   }
   std::int16_t id_;
 };
-
-#undef BRIVANE_TOLD
 
 }  // namespace brivane::test

@@ -14,7 +14,7 @@ class ToelichtingTest : public ControlTest {
   void SetUp() override { Make(); }
   void Make() {
     control_.emplace(*surface_, toolkit_.Desktop(), host_.Factories());
-    control_->Changed.Connect([this] { host_.journal.Add("event Changed"); });
+    subscriptions_ += control_->Changed.Connect([this] { host_.calls.Add("event Changed"); });
     Forget();
   }
   void Bind(std::int16_t Vrij_Id = 1) { control_->SetApplication(application_, lening_, Vrij_Id); }
@@ -36,6 +36,7 @@ class ToelichtingTest : public ControlTest {
   std::shared_ptr<host::Lening> lening_ = host_.dossier.huidig;
   TestKolom& kolom_ = host_.Kolom(1);
   std::optional<brivane::Toelichting> control_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::test

@@ -7,7 +7,7 @@
 
 namespace brivane::test {
 
-/// The editor, whose events stand in the host's journal. Bind binds column 1 of the current loan.
+/// The editor, whose events stand in the host's calls. Bind binds column 1 of the current loan.
 class EditorTest : public ControlTest {
  protected:
   EditorTest() : ControlTest(vrijekolom::kOntwerp) {}
@@ -15,9 +15,9 @@ class EditorTest : public ControlTest {
   void SetUp() override { Make(); }
   void Make() {
     editor_.emplace(*surface_, toolkit_, host_.Factories());
-    editor_->RefreshTopDisplay.Connect(
-        [this](const std::string& text) { host_.journal.Add("event RefreshTopDisplay " + text); });
-    editor_->HeightChanged.Connect([this] { host_.journal.Add("event HeightChanged"); });
+    subscriptions_ += editor_->RefreshTopDisplay.Connect(
+        [this](const std::string& text) { host_.calls.Add("event RefreshTopDisplay " + text); });
+    subscriptions_ += editor_->HeightChanged.Connect([this] { host_.calls.Add("event HeightChanged"); });
     Forget();
   }
   void Bind(std::int16_t Len_Id = 0, std::int16_t Vrij_Id = 1) {
@@ -49,6 +49,7 @@ class EditorTest : public ControlTest {
 
   TestKolom& kolom_ = host_.Kolom(1);
   std::optional<VrijeKolom> editor_;
+  host::Subscriptions subscriptions_;
 };
 
 /// The lines of a binding of the explanation control.

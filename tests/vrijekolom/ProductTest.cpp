@@ -263,7 +263,7 @@ TEST_F(ProductTest, ReportsAListWithoutASelectionBeforeItTraces) {
 TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
   BindUnheard();
   on_[txtMaatschappij].SetText("van een andere kolom");
-  host_.journal.Fail("VulCombo", Op::Call);
+  host_.calls.Fail("VulCombo", Op::Call);
   Act(on_[chkProduct], controls::Tick{host::kTicked});
   EXPECT_THAT(
       Log(), ElementsAre("enter chkProduct_Click", "set IsProduct=true", "set UwBemiddeling=true", "enter Fill_Product",
@@ -276,7 +276,7 @@ TEST_F(ProductTest, KeepsTheRestOfTheProductWhereTheCompaniesFail) {
 
 TEST_F(ProductTest, KeepsWhatItEmptiedBeforeAFailure) {
   BindProduct("ZZ", 45);
-  host_.journal.Fail("Productnaam", Op::Set);
+  host_.calls.Fail("Productnaam", Op::Set);
   Act(on_[chkProduct], controls::Tick{host::kUnticked});
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 1004"));
   EXPECT_FALSE(kolom_.velden.IsProduct);
@@ -288,7 +288,7 @@ TEST_F(ProductTest, KeepsWhatItEmptiedBeforeAFailure) {
 
 TEST_F(ProductTest, LeavesFillingSetWhereTheLayoutFails) {
   BindProduct();
-  editor_->HeightChanged.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
+  subscriptions_ += editor_->HeightChanged.Connect([] { throw host::Error(host::ErrorNumber::Overflow); });
   Pick(on_[cboProductsoort], "Krant");
   EXPECT_THAT(Only(Log(), "report"), ElementsAre("report VrijeKolom 6"));
   EXPECT_TRUE(editor_->Filling());

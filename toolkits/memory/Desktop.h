@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "host/Twips.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::memory {
@@ -13,8 +14,8 @@ class Desktop final : public host::Desktop {
   /// Today's date, when set; else the system's.
   host::Date today = host::kNoDate;
   std::string title = "Dossier";
-  float twipsPerPixelX = 15;
-  float twipsPerPixelY = 15;
+  float twipsPerPixelX = host::kTwipsPerPixel;
+  float twipsPerPixelY = host::kTwipsPerPixel;
   /// Separates groups of three digits in a whole number.
   std::string groupSeparator = ".";
   /// Answers a message box; without it, "Nee" to a question and OK to everything else.

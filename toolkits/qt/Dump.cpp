@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 
 #include "controls/Choices.h"
+#include "controls/entry/Content.h"
 #include "toolkits/qt/Edge.h"
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
@@ -24,8 +25,8 @@ using controls::DumpValue;
 using host::Kind;
 
 DumpValue ReadShown(const QString& text, frame::Format format) {
-  const TypedContent content = ReadContent(text, format);
-  if (!content.refusal.isEmpty()) return FromQt(text);
+  const controls::TypedContent content = controls::ReadContent(FromQt(text), format);
+  if (!content.refusal.empty()) return FromQt(text);
   if (const auto* number = std::get_if<double>(&content.value)) return *number;
   if (const auto* date = std::get_if<host::Date>(&content.value)) return *date;
   if (const auto* typed = std::get_if<std::string>(&content.value)) return *typed;

@@ -5,7 +5,6 @@
 
 #include "controls/Caption.h"
 #include "controls/Pixels.h"
-#include "controls/entry/Content.h"
 #include "toolkits/qt/Text.h"
 
 namespace brivane::qt {
@@ -50,14 +49,5 @@ QString ShownCaption(const frame::Row& row, const std::string& caption) {
 }
 
 QString PlainCaption(const std::string& caption) { return ToQt(caption); }
-
-QString ShownContent(const controls::BoxValue& content, frame::Format format) {
-  return ToQt(controls::ShowContent(content, format));
-}
-
-TypedContent ReadContent(const QString& typed, frame::Format format) {
-  controls::TypedContent content = controls::ReadContent(FromQt(typed), format);
-  return {std::move(content.value), ToQt(content.refusal)};
-}
 
 }  // namespace brivane::qt

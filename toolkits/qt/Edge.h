@@ -6,16 +6,15 @@
 #include <QString>
 #include <optional>
 
-#include "controls/Action.h"
 #include "frame/Design.h"
 #include "host/Color.h"
 #include "host/Twips.h"
 
-/// Where twips, colours, captions and box contents become what Qt draws, and back.
+/// Where twips, colours and captions become what Qt draws, and back.
 namespace brivane::qt {
 
-/// Twips to a pixel that does not depend on the screen: Qt scales those itself.
-inline constexpr float kTwipsPerPixel = 15;
+// A pixel of Qt does not depend on the screen: Qt scales those itself.
+using host::kTwipsPerPixel;
 
 /// Turns twips into pixels and back. A scale other than 1 follows a font of the host that is larger or
 /// smaller than the font of the design.
@@ -49,15 +48,5 @@ class Edge {
 [[nodiscard]] QString ShownCaption(const frame::Row& row, const std::string& caption);
 /// The same for a label that leads to no control.
 [[nodiscard]] QString PlainCaption(const std::string& caption);
-
-/// How a box of a format shows its content.
-[[nodiscard]] QString ShownContent(const controls::BoxValue& content, frame::Format format);
-
-/// What a typed text is as content of a box; a reason to refuse it where it is not of the format.
-struct TypedContent {
-  controls::BoxValue value;
-  QString refusal;
-};
-[[nodiscard]] TypedContent ReadContent(const QString& typed, frame::Format format);
 
 }  // namespace brivane::qt

@@ -10,7 +10,7 @@ ToelichtingWidget::~ToelichtingWidget() = default;
 
 void ToelichtingWidget::MakeControl(const host::HostFactories& factories) {
   control_ = std::make_unique<Toelichting>(Surface(), Toolkit().Desktop(), factories);
-  control_->Changed.Connect([this] { emit changed(); });
+  subscriptions_ += control_->Changed.Connect([this] { emit changed(); });
 }
 
 void ToelichtingWidget::ColorControl(host::Color color) {

@@ -36,6 +36,7 @@ class ToelichtingWidget : public ControlWidget {
 
  private:
   std::unique_ptr<Toelichting> control_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::qt

@@ -1,6 +1,7 @@
 #include "toolkits/qt/Toolkit.h"
 
 #include <QFontMetricsF>
+#include <QPointer>
 
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
@@ -10,16 +11,16 @@
 
 namespace brivane::qt {
 
-void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
-  (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
+host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
+  return desktop_.Ask(caption, text, style);
 }
 
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget) {
+  const QPointer<const QWidget> alive(&widget);
   EntryBox* const elsewhere = EntryBox::PendingWithin(*widget.window());
   if (elsewhere != nullptr && elsewhere != &widget && !elsewhere->CommitPending()) return false;
-  controls::Outcome outcome = controls::Outcome::Done;
-  Guard([&] { outcome = control.Perform(action); });
-  return outcome == controls::Outcome::Done;
+  if (!alive) return true;  // it went with what was handed over, and nothing is left to put right
+  return Hand(control, action) == controls::Outcome::Done;
 }
 
 host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view text, bool bold) const {
@@ -34,7 +35,7 @@ QWidget& Toolkit::WidgetOf(host::Surface& surface) {
 
 std::unique_ptr<controls::Peer> Toolkit::MakePeer(controls::AnyControl& control) {
   // The many rows of a form are painted by what they stand on.
-  if (control.Row().index == frame::kTemplateIndex) return std::make_unique<CellPeer>(control, *this);
+  if (control.IsRowElement()) return std::make_unique<CellPeer>(control, *this);
   return MakeWidgetPeer(control, *this);
 }
 

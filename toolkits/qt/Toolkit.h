@@ -16,9 +16,12 @@ namespace brivane::qt {
 class Toolkit : public controls::DrawnToolkit {
  public:
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
+                                        host::MessageStyle style) override;
 
   /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
-  /// handed over first; where that is refused, the action is not done. False where it was not done.
+  /// handed over first; where that is refused, the action is not done. False where it was not done and there is
+  /// still a widget to show that.
   bool Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget);
 
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }
@@ -33,7 +36,6 @@ class Toolkit : public controls::DrawnToolkit {
  protected:
   [[nodiscard]] std::unique_ptr<controls::Peer> MakePeer(controls::AnyControl& control) override;
   [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
-  void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:
   qt::Desktop desktop_;

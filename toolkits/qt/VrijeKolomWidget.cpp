@@ -11,8 +11,9 @@ VrijeKolomWidget::~VrijeKolomWidget() = default;
 
 void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
   control_ = std::make_unique<VrijeKolom>(Surface(), Toolkit(), factories);
-  control_->RefreshTopDisplay.Connect([this](const std::string& text) { emit refreshTopDisplay(ToQt(text)); });
-  control_->HeightChanged.Connect([this] { emit heightChanged(); });
+  subscriptions_ +=
+      control_->RefreshTopDisplay.Connect([this](const std::string& text) { emit refreshTopDisplay(ToQt(text)); });
+  subscriptions_ += control_->HeightChanged.Connect([this] { emit heightChanged(); });
   control_->SetBeeindigenZichtbaar(beeindigenZichtbaar_);
 }
 

@@ -43,6 +43,7 @@ class VrijeKolomWidget : public ControlWidget {
 
  private:
   std::unique_ptr<VrijeKolom> control_;
+  host::Subscriptions subscriptions_;
   bool beeindigenZichtbaar_ = false;
 };
 

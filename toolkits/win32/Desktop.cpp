@@ -4,6 +4,7 @@
 
 #include "frame/Calendar.h"
 #include "frame/GroupedNumber.h"
+#include "toolkits/win32/window/Owned.h"
 #include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
@@ -17,12 +18,6 @@ class DutchButtons {
   DutchButtons()
       : activated_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())),
         filtered_(SetWindowsHookExW(WH_MSGFILTER, &Filtered, nullptr, GetCurrentThreadId())) {}
-  DutchButtons(const DutchButtons&) = delete;
-  DutchButtons& operator=(const DutchButtons&) = delete;
-  ~DutchButtons() {
-    UnhookWindowsHookEx(filtered_);
-    UnhookWindowsHookEx(activated_);
-  }
 
  private:
   static LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM info) {
@@ -48,8 +43,9 @@ class DutchButtons {
     return CallNextHookEx(nullptr, code, unused, info);
   }
 
-  HHOOK activated_;
-  HHOOK filtered_;
+  using Hook = Owned<HHOOK, &UnhookWindowsHookEx>;
+  Hook activated_;
+  Hook filtered_;
 };
 
 std::wstring ProgramName() {

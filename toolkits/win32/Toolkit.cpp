@@ -63,10 +63,8 @@ void RegisterClasses(HINSTANCE module) {
 }
 
 double SystemScale() {
-  const HDC screen = GetDC(nullptr);
-  const double scale = GetDeviceCaps(screen, LOGPIXELSY) / 96.0;
-  ReleaseDC(nullptr, screen);
-  return scale;
+  const WindowContext screen;
+  return GetDeviceCaps(screen.Get(), LOGPIXELSY) / 96.0;
 }
 
 }  // namespace
@@ -78,21 +76,21 @@ Toolkit::Toolkit(HINSTANCE module) : module_(module), edge_(SystemScale()), look
                                 ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES | ICC_DATE_CLASSES | ICC_BAR_CLASSES};
     return InitCommonControlsEx(&wanted);
   });
-  parking_ = CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr);
+  parking_.Reset(CreateWindowExW(0, kAreaClass, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, module, nullptr));
 }
 
-Toolkit::~Toolkit() { DestroyWindow(parking_); }
+Toolkit::~Toolkit() = default;
 
 HWND Toolkit::MakeWindow(const Making& making, HWND parent) const {
   const bool child = (making.style & WS_CHILD) != 0;
   return look_->During([&] {
     return CreateWindowExW(making.extendedStyle, making.className, making.text.c_str(), making.style, 0, 0, 0, 0,
-                           parent == nullptr && child ? parking_ : parent, nullptr, module_, nullptr);
+                           parent == nullptr && child ? parking_.Get() : parent, nullptr, module_, nullptr);
   });
 }
 
-void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
-  (void)desktop_.Ask(caption, text, host::MessageStyle::OkExclamation);
+host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
+  return desktop_.Ask(caption, text, style);
 }
 
 bool Toolkit::LeaveBox(const Window& target) {
@@ -103,9 +101,7 @@ bool Toolkit::LeaveBox(const Window& target) {
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const Window& window) {
   const auto life = window.Life();
   if (!LeaveBox(window) || life.expired()) return false;
-  controls::Outcome outcome = controls::Outcome::Ignored;
-  Guard([&] { outcome = control.Perform(action); });
-  return outcome == controls::Outcome::Done;
+  return Hand(control, action) == controls::Outcome::Done;
 }
 
 HWND Toolkit::WindowOf(host::Surface& surface) { return AreaOf(controls::Surface::Of(surface)); }
@@ -123,10 +119,7 @@ bool Toolkit::FocusFirst(host::Surface& surface) {
 }
 bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(controls::Surface::Of(surface), Direction::Back); }
 
-bool Toolkit::CommitPending(host::Surface& surface) {
-  BoxWindow* const box = BoxWindow::PendingOn(controls::Surface::Of(surface));
-  return box == nullptr || box->CommitPending();
-}
+bool Toolkit::CommitPending(host::Surface& surface) { return Pending().Commit(controls::Surface::Of(surface)); }
 
 void Toolkit::Rescale(host::Surface& surface) {
   const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {

@@ -10,6 +10,7 @@
 #include "toolkits/win32/Desktop.h"
 #include "toolkits/win32/window/Edge.h"
 #include "toolkits/win32/window/Fonts.h"
+#include "toolkits/win32/window/Owned.h"
 
 namespace brivane::win32 {
 
@@ -44,6 +45,8 @@ class Toolkit : public controls::DrawnToolkit {
   ~Toolkit() override;
 
   [[nodiscard]] win32::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
+                                        host::MessageStyle style) override;
 
   /// A person acts on a control through its window. A box that is being edited elsewhere in the same
   /// top-level window is handed over first; where that is refused, the action is not done. False where it
@@ -69,7 +72,7 @@ class Toolkit : public controls::DrawnToolkit {
   /// Goes to the first or last stop of the tab order; false where there is none.
   bool FocusFirst(host::Surface& surface);
   bool FocusLast(host::Surface& surface);
-  /// Hands over the box of this surface that is being edited, if any; false where it was refused and keeps
+  /// Hands over what is being typed on this surface, if anything; false where it was refused and keeps
   /// the focus. A host calls it before it leaves the record, saves or closes.
   bool CommitPending(host::Surface& surface);
 
@@ -88,7 +91,6 @@ class Toolkit : public controls::DrawnToolkit {
  protected:
   [[nodiscard]] std::unique_ptr<controls::Peer> MakePeer(controls::AnyControl& control) override;
   [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
-  void ShowFailure(const std::string& caption, const std::string& text) override;
 
  private:
   class Look;
@@ -98,7 +100,7 @@ class Toolkit : public controls::DrawnToolkit {
   win32::Edge edge_;
   mutable Fonts fonts_;
   std::unique_ptr<Look> look_;
-  HWND parking_ = nullptr;
+  OwnedWindow parking_;
 };
 
 }  // namespace brivane::win32

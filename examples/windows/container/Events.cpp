@@ -1,6 +1,6 @@
 #include "examples/windows/container/Events.h"
 
-namespace voorbeeld {
+namespace example {
 
 namespace {
 
@@ -46,4 +46,4 @@ STDMETHODIMP Events::Invoke(DISPID event, REFIID, LCID, WORD, DISPPARAMS* argume
   return S_OK;
 }
 
-}  // namespace voorbeeld
+}  // namespace example

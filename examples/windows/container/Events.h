@@ -6,7 +6,7 @@
 #include "component/automation/ComPtr.h"
 #include "component/idl/Interfaces.h"
 
-namespace voorbeeld {
+namespace example {
 
 /// Listens to the editor's events as long as it is connected.
 class Events final : public IDispatch {
@@ -37,4 +37,4 @@ class Events final : public IDispatch {
   DWORD cookie_ = 0;
 };
 
-}  // namespace voorbeeld
+}  // namespace example

@@ -3,7 +3,7 @@
 #include <array>
 #include <memory>
 
-namespace voorbeeld {
+namespace example {
 
 using automation::Arguments;
 using automation::ComPtr;
@@ -171,4 +171,4 @@ ComPtr<IDispatch> NewApplication(HWND venster) {
   return Plain(application);
 }
 
-}  // namespace voorbeeld
+}  // namespace example

@@ -6,9 +6,9 @@
 ///
 /// Put your own case behind the same members. What an adviser accepts in the editor is written into these objects at
 /// once.
-namespace voorbeeld {
+namespace example {
 
 /// `venster` is the main window, over which the editor opens its year-by-year form.
 [[nodiscard]] automation::ComPtr<IDispatch> NewApplication(HWND venster);
 
-}  // namespace voorbeeld
+}  // namespace example

@@ -1,10 +1,12 @@
 #include "examples/windows/container/MainWindow.h"
 
-namespace voorbeeld {
+#include "examples/windows/container/Object.h"
+
+namespace example {
 
 namespace {
 
-constexpr wchar_t kClass[] = L"BrivaneVoorbeeld";
+constexpr wchar_t kClass[] = L"BrivaneExample";
 constexpr int kMargin = 12;
 constexpr int kLine = 24;
 constexpr int kCloseButton = 1;
@@ -27,7 +29,7 @@ MainWindow::MainWindow() {
   kind.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
   kind.lpszClassName = kClass;
   ::RegisterClassExW(&kind);
-  ::CreateWindowExW(0, kClass, L"Voorbeeld", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 40, 40, 900, 700, nullptr, nullptr,
+  ::CreateWindowExW(0, kClass, L"Example", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 40, 40, 900, 700, nullptr, nullptr,
                     kind.hInstance, this);
 }
 
@@ -62,11 +64,9 @@ void MainWindow::Dispatch(MSG& message) {
 }
 
 bool MainWindow::Close() {
-  VARIANT cancel;
-  ::VariantInit(&cancel);
-  cancel.vt = VT_BOOL;
-  cancel.boolVal = VARIANT_FALSE;
-  if (editor_ && SUCCEEDED(editor_->Validation(&cancel, 0)) && cancel.boolVal != VARIANT_FALSE) return false;
+  automation::Value cancel(false);
+  if (editor_ && SUCCEEDED(editor_->Validation(&cancel.Raw(), 0)) && cancel.Raw().boolVal != VARIANT_FALSE)
+    return false;
   if (events_) events_->Disconnect();
   editor_.Reset();
   if (site_) site_->Close();
@@ -138,4 +138,4 @@ bool MainWindow::TakesTab(const MSG& message) {
   return true;
 }
 
-}  // namespace voorbeeld
+}  // namespace example

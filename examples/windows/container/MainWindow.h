@@ -4,7 +4,7 @@
 #include "examples/windows/container/Events.h"
 #include "examples/windows/container/Site.h"
 
-namespace voorbeeld {
+namespace example {
 
 /// A window of a host: the text of the column above the editor, and a box and a button of the window's own below it, so
 /// that the Tab key goes in and out of the editor.
@@ -48,4 +48,4 @@ class MainWindow {
   ComPtr<IVrijeKolom> editor_;
 };
 
-}  // namespace voorbeeld
+}  // namespace example

@@ -2,7 +2,7 @@
 
 #include <olectl.h>
 
-namespace voorbeeld {
+namespace example {
 
 HRESULT Site::Create(const CLSID& classId) {
   HRESULT hr = ::CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject,
@@ -11,7 +11,7 @@ HRESULT Site::Create(const CLSID& classId) {
   // The control's miscellaneous status asks for its site before its state.
   control_->SetClientSite(this);
   if (const auto state = control_.As<IPersistStreamInit>()) state->InitNew();
-  control_->SetHostNames(L"Voorbeeld", nullptr);
+  control_->SetHostNames(L"Example", nullptr);
   return S_OK;
 }
 
@@ -148,4 +148,4 @@ STDMETHODIMP Site::Invoke(DISPID property, REFIID, LCID, WORD, DISPPARAMS*, VARI
   }
 }
 
-}  // namespace voorbeeld
+}  // namespace example

@@ -5,7 +5,7 @@
 
 #include "component/automation/ComPtr.h"
 
-namespace voorbeeld {
+namespace example {
 
 using brivane::component::ComPtr;
 
@@ -126,4 +126,4 @@ class Site final : public IOleClientSite,
 
 [[nodiscard]] inline ComPtr<Site> NewSite(HWND window) { return {new Site(window)}; }
 
-}  // namespace voorbeeld
+}  // namespace example

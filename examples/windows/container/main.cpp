@@ -39,8 +39,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
   HRESULT hr = S_OK;
   if (arguments.starts_with(option)) hr = UseLibrary(arguments.substr(option.size()));
   {
-    voorbeeld::MainWindow window;
-    if (SUCCEEDED(hr)) hr = window.Open(voorbeeld::NewApplication(window.Handle()).Get());
+    example::MainWindow window;
+    if (SUCCEEDED(hr)) hr = window.Open(example::NewApplication(window.Handle()).Get());
     if (SUCCEEDED(hr) && arguments == L"--quit") ::PostMessageW(window.Handle(), WM_CLOSE, 0, 0);
     if (SUCCEEDED(hr)) window.Run();
   }

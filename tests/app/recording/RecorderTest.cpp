@@ -15,7 +15,7 @@
 #include "tests/app/recording/RecordedSession.h"
 #include "vrijekolom/Ontwerp.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 using controls::Enter;
@@ -24,117 +24,119 @@ using controls::Select;
 using testing::Contains;
 
 /// Those lines that begin so.
-std::vector<std::string> Van(const std::vector<std::string>& regels, const std::vector<std::string>& begin) {
-  std::vector<std::string> gevonden;
-  for (const std::string& regel : regels)
-    for (const std::string& naam : begin)
-      if (regel.starts_with("{\"" + naam + '"')) gevonden.push_back(regel);
-  return gevonden;
+std::vector<std::string> BeginningWith(const std::vector<std::string>& lines,
+                                       const std::vector<std::string>& beginnings) {
+  std::vector<std::string> found;
+  for (const std::string& line : lines)
+    for (const std::string& name : beginnings)
+      if (line.starts_with("{\"" + name + '"')) found.push_back(line);
+  return found;
 }
 
-std::vector<std::string> SchrijvenEnGebeurtenissen(const std::vector<std::string>& regels) {
-  return Van(regels, {"set", "event", "focus", "pending", "opened", "closed"});
+std::vector<std::string> WritesAndEvents(const std::vector<std::string>& lines) {
+  return BeginningWith(lines, {"set", "event", "focus", "pending", "opened", "closed"});
 }
 
-class ZonderScherm final : public Opnamesessie {
+class WithoutScreen final : public RecordedSession {
  public:
-  ZonderScherm() {
+  WithoutScreen() {
     memory::Desktop& machine = toolkit_.Desktop();
     machine.today = frame::MakeDate({2026, 11, 21});
-    machine.answer = [this](const std::string& titel, const std::string& tekst, host::MessageStyle stijl) {
-      const host::MessageAnswer antwoord = Antwoord(titel, tekst, stijl);
-      Opname().Beantwoord(antwoord);
-      return antwoord;
+    machine.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
+      const host::MessageAnswer answer = Answer(title, text, style);
+      Recorder().Answered(answer);
+      return answer;
     };
     machine.pending = [this] {
       transcript_.Pending();
-      if (wachtend_) std::exchange(wachtend_, nullptr)();
+      if (waiting_) std::exchange(waiting_, nullptr)();
     };
-    toolkit_.modal = [this](controls::Form& formulier) { std::exchange(werk_, nullptr)(formulier); };
-    NeemOp(controls::Surface::Of(*vlak_));
-    editor_.RefreshTopDisplay.Connect([this](const std::string& tekst) { transcript_.RefreshTopDisplay(tekst); });
-    editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
-    Volg(editor_);
+    toolkit_.modal = [this](controls::Form& form) { std::exchange(work_, nullptr)(form); };
+    Record(controls::Surface::Of(*surface_));
+    subscriptions_ +=
+        editor_.RefreshTopDisplay.Connect([this](const std::string& text) { transcript_.RefreshTopDisplay(text); });
+    subscriptions_ += editor_.HeightChanged.Connect([this] { transcript_.Event("HeightChanged"); });
+    Follow(editor_);
   }
-  ~ZonderScherm() override { LaatLos(); }
+  ~WithoutScreen() override { LetGo(); }
 
   [[nodiscard]] brivane::VrijeKolom& Editor() { return editor_; }
-  [[nodiscard]] controls::Surface& Vlak() { return controls::Surface::Of(*vlak_); }
+  [[nodiscard]] controls::Surface& EditorSurface() { return controls::Surface::Of(*surface_); }
 
  private:
-  void LaatWachten(std::function<void()> daad) override { wachtend_ = std::move(daad); }
-  void OpFormulier(std::function<void(controls::Surface&)> werk) override { werk_ = std::move(werk); }
+  void LetWait(std::function<void()> act) override { waiting_ = std::move(act); }
+  void OnForm(std::function<void(controls::Surface&)> work) override { work_ = std::move(work); }
 
   memory::Toolkit toolkit_;
-  std::unique_ptr<host::Surface> vlak_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
-  std::function<void()> wachtend_;
-  std::function<void(controls::Surface&)> werk_;
-  brivane::VrijeKolom editor_{*vlak_, toolkit_, host_.Factories()};
+  std::unique_ptr<host::Surface> surface_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
+  std::function<void()> waiting_;
+  std::function<void(controls::Surface&)> work_;
+  brivane::VrijeKolom editor_{*surface_, toolkit_, host_.Factories()};
 };
 
 /// What a person can act on, of a design and those embedded in it.
-void Bedienbaar(const frame::Design& ontwerp, const std::string& voor, std::set<std::string>& namen) {
-  for (const frame::Row& rij : ontwerp.rows) {
-    const std::string naam = voor + std::string(rij.name);
-    switch (rij.kind) {
-      case host::Kind::Surface: Bedienbaar(*rij.embedded, naam + '.', namen); break;
+void Operable(const frame::Design& design, const std::string& before, std::set<std::string>& names) {
+  for (const frame::Row& row : design.rows) {
+    const std::string name = before + std::string(row.name);
+    switch (row.kind) {
+      case host::Kind::Surface: Operable(*row.embedded, name + '.', names); break;
       case host::Kind::TextBox:
       case host::Kind::JaNee:
       case host::Kind::OptionButton:
       case host::Kind::CheckBox:
       case host::Kind::ListBox:
       case host::Kind::Button:
-        namen.insert(rij.index == frame::kNoIndex ? naam : naam + '(' + std::to_string(rij.index) + ')');
+        names.insert(row.index == frame::kNoIndex ? name : name + '(' + std::to_string(row.index) + ')');
         break;
       default: break;
     }
   }
 }
 
-TEST(Opnemer, ASessionThroughEveryControlReplaysWithTheSameTranscript) {
-  ZonderScherm sessie;
-  sessie.Speel();
-  ASSERT_TRUE(sessie.Opname().Loopt());
-  EXPECT_GE(sessie.acties, 60);
+TEST(RecorderTest, ASessionThroughEveryControlReplaysWithTheSameTranscript) {
+  WithoutScreen session;
+  session.Play();
+  ASSERT_TRUE(session.Recorder().IsRunning());
+  EXPECT_GE(session.actions, 60);
 
-  std::set<std::string> alle;
-  Bedienbaar(vrijekolom::kOntwerp, "", alle);
-  for (const char* opFormulier : {"txtBedrag", "txtPercentage", "chkEenmalig", "chkAanvullen", "cmdOK"})
-    alle.insert(std::string("frmScenario.") + opFormulier);
-  for (const std::string& naam : alle) EXPECT_THAT(sessie.bediend, Contains(naam));
+  std::set<std::string> all;
+  Operable(vrijekolom::kOntwerp, "", all);
+  for (const char* onForm : {"txtBedrag", "txtPercentage", "chkEenmalig", "chkAanvullen", "cmdOK"})
+    all.insert(std::string("frmScenario.") + onForm);
+  for (const std::string& name : all) EXPECT_THAT(session.operated, Contains(name));
 
   // By way of a file, which the program takes.
-  const std::string tekst = replay::WriteDocument(sessie.Opname().Document());
-  const std::string pad = testing::TempDir() + "opname-" + std::to_string(::getpid()) + ".json";
-  std::ofstream(pad) << tekst;
-  EXPECT_EQ(std::system(("'" REPLAY_PROGRAM "' --check '" + pad + "'").c_str()), 0);
-  std::remove(pad.c_str());
-  const replay::Document document = replay::ReadDocument(tekst);
-  const std::vector<std::string> nagespeeld = Regels(document);
-  EXPECT_EQ(SchrijvenEnGebeurtenissen(nagespeeld), SchrijvenEnGebeurtenissen(sessie.live));
+  const std::string text = replay::WriteDocument(session.Recorder().Document());
+  const std::string path = testing::TempDir() + "opname-" + std::to_string(::getpid()) + ".json";
+  std::ofstream(path) << text;
+  EXPECT_EQ(std::system(("'" REPLAY_PROGRAM "' --check '" + path + "'").c_str()), 0);
+  std::remove(path.c_str());
+  const replay::Document document = replay::ReadDocument(text);
+  const std::vector<std::string> replayed = Lines(document);
+  EXPECT_EQ(WritesAndEvents(replayed), WritesAndEvents(session.live));
   // And in full: procedures, calls, messages with their answers, reports.
-  EXPECT_EQ(nagespeeld, sessie.live);
-  EXPECT_GT(Van(sessie.live, {"set"}).size(), 60u);
-  EXPECT_GT(Van(sessie.live, {"message"}).size(), 3u);
-  EXPECT_EQ(Van(sessie.live, {"opened"}).size(), 2u);
-  EXPECT_EQ(Van(sessie.live, {"report"}).size(), 1u);
+  EXPECT_EQ(replayed, session.live);
+  EXPECT_GT(BeginningWith(session.live, {"set"}).size(), 60u);
+  EXPECT_GT(BeginningWith(session.live, {"message"}).size(), 3u);
+  EXPECT_EQ(BeginningWith(session.live, {"opened"}).size(), 2u);
+  EXPECT_EQ(BeginningWith(session.live, {"report"}).size(), 1u);
 }
 
-TEST(Opnemer, TheReplayedCaseHoldsWhatTheRecordedOneHolds) {
-  ZonderScherm sessie;
-  sessie.Speel();
-  replay::Session nagespeeld(sessie.Opname().Document(), [](std::string_view) {});
-  nagespeeld.Run();
-  EXPECT_EQ(replay::ToJson(nagespeeld.Case().Gegevens()), replay::ToJson(sessie.Dossier().Gegevens()));
+TEST(RecorderTest, TheReplayedCaseHoldsWhatTheRecordedOneHolds) {
+  WithoutScreen session;
+  session.Play();
+  replay::Session replayed(session.Recorder().Document(), [](std::string_view) {});
+  replayed.Run();
+  EXPECT_EQ(replay::ToJson(replayed.Case().Gegevens()), replay::ToJson(session.Dossier().Gegevens()));
 }
 
-TEST(Opnemer, StepsStandWhereTheyRan) {
-  ZonderScherm sessie;
-  sessie.Bind(0, 1);
-  sessie.Doe("optLast", Select{}, 3);
-  sessie.Doe("cboTermijn", controls::Choose{3});
-  EXPECT_EQ(sessie.Doe("TxtDtAanvang", Enter{}), Outcome::Refused);
-  const replay::Document& document = sessie.Opname().Document();
+TEST(RecorderTest, StepsStandWhereTheyRan) {
+  WithoutScreen session;
+  session.Bind(0, 1);
+  session.Do("optLast", Select{}, 3);
+  session.Do("cboTermijn", controls::Choose{3});
+  EXPECT_EQ(session.Do("TxtDtAanvang", Enter{}), Outcome::Refused);
+  const replay::Document& document = session.Recorder().Document();
   ASSERT_EQ(document.steps.size(), 5u);
   EXPECT_TRUE(std::get<replay::BeeindigenStep>(document.steps[0].what).visible);
   EXPECT_EQ(std::get<replay::BindStep>(document.steps[1].what).Vrij_Id, 1);
@@ -146,40 +148,41 @@ TEST(Opnemer, StepsStandWhereTheyRan) {
   EXPECT_EQ(document.dossier.HuidigeLening.VrijeKolommen.size(), 6u);
 }
 
-TEST(Opnemer, AnIgnoredActionIsNoStep) {
-  ZonderScherm sessie;
-  sessie.Bind(0, 1);
-  EXPECT_EQ(sessie.Doe("TxtOm", controls::Press{}), Outcome::Ignored);
-  EXPECT_EQ(sessie.Doe("cboTermijn", controls::Choose{99}), Outcome::Ignored);
-  EXPECT_EQ(sessie.Opname().Document().steps.size(), 2u);
+TEST(RecorderTest, AnIgnoredActionIsNoStep) {
+  WithoutScreen session;
+  session.Bind(0, 1);
+  EXPECT_EQ(session.Do("TxtOm", controls::Press{}), Outcome::Ignored);
+  EXPECT_EQ(session.Do("cboTermijn", controls::Choose{99}), Outcome::Ignored);
+  EXPECT_EQ(session.Recorder().Document().steps.size(), 2u);
 }
 
-TEST(Opnemer, AChangeOfTheCaseBetweenStepsEndsTheRecordingBeforeTheNextOne) {
-  ZonderScherm sessie;
-  int gebroken = 0;
-  sessie.Opname().gebroken = [&] { ++gebroken; };
-  sessie.Bind(0, 1);
-  sessie.Doe("TxtBd", Enter{500.0});
-  const replay::Document voor = sessie.Opname().Document();
-  sessie.Dossier().NieuweKolom(0);
-  EXPECT_TRUE(sessie.Opname().Loopt());
-  sessie.Bind(0, 2);
-  sessie.Doe("TxtBd", Enter{40.0});
-  EXPECT_FALSE(sessie.Opname().Loopt());
-  EXPECT_EQ(gebroken, 1);
-  EXPECT_EQ(replay::WriteDocument(sessie.Opname().Document()), replay::WriteDocument(voor));
-  EXPECT_EQ(sessie.Dossier().ZoekKolom(0, 2)->Gegevens().Bedrag.Bedrag, 40);
+TEST(RecorderTest, AChangeOfTheCaseBetweenStepsEndsTheRecordingBeforeTheNextOne) {
+  WithoutScreen session;
+  int broken = 0;
+  session.Recorder().broken = [&] { ++broken; };
+  session.Bind(0, 1);
+  session.Do("TxtBd", Enter{500.0});
+  const replay::Document before = session.Recorder().Document();
+  session.Dossier().NieuweKolom(0);
+  EXPECT_TRUE(session.Recorder().IsRunning());
+  session.Bind(0, 2);
+  session.Do("TxtBd", Enter{40.0});
+  EXPECT_FALSE(session.Recorder().IsRunning());
+  EXPECT_EQ(broken, 1);
+  EXPECT_EQ(replay::WriteDocument(session.Recorder().Document()), replay::WriteDocument(before));
+  EXPECT_EQ(session.Dossier().ZoekKolom(0, 2)->Gegevens().Bedrag.Bedrag, 40);
 }
 
-TEST(Opnemer, TheHostInTheMiddleOfAStepEndsTheRecordingBeforeThatStep) {
-  ZonderScherm sessie;
-  sessie.Bind(0, 1);
-  const std::size_t stappen = sessie.Opname().Document().steps.size();
-  sessie.Editor().RefreshTopDisplay.Connect([&](const std::string&) { sessie.Vlak().Size({10000}, {4000}); });
-  sessie.Doe("TxtOm", Enter{std::string("Opvang")});
-  EXPECT_FALSE(sessie.Opname().Loopt());
-  EXPECT_EQ(sessie.Opname().Document().steps.size(), stappen);
+TEST(RecorderTest, TheHostInTheMiddleOfAStepEndsTheRecordingBeforeThatStep) {
+  WithoutScreen session;
+  session.Bind(0, 1);
+  const std::size_t steps = session.Recorder().Document().steps.size();
+  const host::Subscription listening = session.Editor().RefreshTopDisplay.Connect(
+      [&](const std::string&) { session.EditorSurface().Size({10000}, {4000}); });
+  session.Do("TxtOm", Enter{std::string("Opvang")});
+  EXPECT_FALSE(session.Recorder().IsRunning());
+  EXPECT_EQ(session.Recorder().Document().steps.size(), steps);
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -19,143 +19,142 @@
 #include "tests/app/recording/RecordedSession.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
 using controls::Enter;
 using controls::Outcome;
 
 /// The session on the widget.
-class MetWidget final : public Opnamesessie {
+class OnWidget final : public RecordedSession {
  public:
-  MetWidget() {
+  OnWidget() {
     qt::Desktop& machine = widget_.Toolkit().Desktop();
     machine.clock = [] { return frame::MakeDate({2026, 11, 21}); };
-    machine.answer = [this](const std::string& titel, const std::string& tekst, host::MessageStyle stijl) {
-      return Antwoord(titel, tekst, stijl);
+    machine.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
+      return Answer(title, text, style);
     };
-    machine.answered = [this](host::MessageAnswer antwoord) { Opname().Beantwoord(antwoord); };
+    machine.answered = [this](host::MessageAnswer answer) { Recorder().Answered(answer); };
     QObject::connect(&widget_, &qt::VrijeKolomWidget::refreshTopDisplay, &widget_,
-                     [this](const QString& tekst) { transcript_.RefreshTopDisplay(tekst.toStdString()); });
+                     [this](const QString& text) { transcript_.RefreshTopDisplay(text.toStdString()); });
     QObject::connect(&widget_, &qt::VrijeKolomWidget::heightChanged, &widget_,
                      [this] { transcript_.Event("HeightChanged"); });
-    NeemOp(controls::Surface::Of(widget_.Surface()));
+    Record(controls::Surface::Of(widget_.Surface()));
     widget_.SetHostFactories(host_.Factories());
     brivane::VrijeKolom& editor = *widget_.Control();
-    Volg(editor);
-    editor.ScenarioGeopend.Connect([this, verder = editor.ScenarioGeopend.Listener()](frmScenario& formulier) {
-      verder(formulier);
-      QTimer::singleShot(
-          0, &widget_, [this, &formulier] { std::exchange(werk_, nullptr)(controls::Surface::Of(formulier.Form())); });
+    Follow(editor);
+    subscriptions_ += editor.ScenarioGeopend.Connect([this](frmScenario& form) {
+      QTimer::singleShot(0, &widget_,
+                         [this, &form] { std::exchange(work_, nullptr)(controls::Surface::Of(form.Form())); });
     });
     widget_.show();
     QApplication::processEvents();
   }
-  ~MetWidget() override { LaatLos(); }
+  ~OnWidget() override { LetGo(); }
 
  private:
-  void LaatWachten(std::function<void()> daad) override { QTimer::singleShot(0, &widget_, std::move(daad)); }
-  void OpFormulier(std::function<void(controls::Surface&)> werk) override { werk_ = std::move(werk); }
+  void LetWait(std::function<void()> act) override { QTimer::singleShot(0, &widget_, std::move(act)); }
+  void OnForm(std::function<void(controls::Surface&)> work) override { work_ = std::move(work); }
 
-  std::function<void(controls::Surface&)> werk_;
+  std::function<void(controls::Surface&)> work_;
   qt::VrijeKolomWidget widget_;
 };
 
-TEST(OpnameMetWidget, ASessionThroughEveryControlReplaysWithTheSameTranscript) {
-  MetWidget sessie;
-  sessie.Speel();
-  ASSERT_TRUE(sessie.Opname().Loopt());
-  EXPECT_GE(sessie.acties, 60);
-  std::vector<std::string> nagespeeld = Regels(replay::ReadDocument(replay::WriteDocument(sessie.Opname().Document())));
+TEST(WidgetRecordingTest, ASessionThroughEveryControlReplaysWithTheSameTranscript) {
+  OnWidget session;
+  session.Play();
+  ASSERT_TRUE(session.Recorder().IsRunning());
+  EXPECT_GE(session.actions, 60);
+  std::vector<std::string> replayed = Lines(replay::ReadDocument(replay::WriteDocument(session.Recorder().Document())));
   // What waits in Qt's queue runs without anybody being told.
-  EXPECT_GT(std::erase(nagespeeld, "{\"pending\": true}"), 0u);
-  EXPECT_EQ(nagespeeld, sessie.live);
+  EXPECT_GT(std::erase(replayed, "{\"pending\": true}"), 0u);
+  EXPECT_EQ(replayed, session.live);
 }
 
 /// The program's window on a loan file of its own.
-class OpnameInVenster : public testing::Test {
+class WindowRecordingTest : public testing::Test {
  protected:
-  OpnameInVenster() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, map_.path());
-    EXPECT_TRUE(venster_.Maak(dossier_, VoorbeeldDossier()));
-    venster_.show();
+  WindowRecordingTest() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.path());
+    EXPECT_TRUE(window_.Make(dossierPath_, dossier::VoorbeeldDossier()));
+    window_.show();
   }
 
-  [[nodiscard]] Dossierscherm& Scherm() { return *venster_.Scherm(); }
-  Outcome Doe(const char* naam, const controls::Action& actie) {
-    return controls::Surface::Of(Scherm().Kolom().Editor().Surface()).Find(naam)->Perform(actie);
+  [[nodiscard]] DossierScreen& Screen() { return *window_.Screen(); }
+  Outcome Do(const char* name, const controls::Action& action) {
+    return controls::Surface::Of(Screen().Kolom().Editor().Surface()).Find(name)->Perform(action);
   }
-  [[nodiscard]] replay::Document Geschreven() const {
-    QFile bestand(opname_);
-    EXPECT_TRUE(bestand.open(QIODevice::ReadOnly));
-    return replay::ReadDocument(bestand.readAll().toStdString());
+  [[nodiscard]] replay::Document Written() const {
+    QFile file(recordingPath_);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return replay::ReadDocument(file.readAll().toStdString());
   }
-  [[nodiscard]] static replay::Json Nagespeeld(const replay::Document& document) {
-    replay::Session sessie(document, [](std::string_view) {});
-    sessie.Run();
-    return replay::ToJson(sessie.Case().Gegevens());
+  [[nodiscard]] static replay::Json Replayed(const replay::Document& document) {
+    replay::Session session(document, [](std::string_view) {});
+    session.Run();
+    return replay::ToJson(session.Case().Gegevens());
   }
   /// Closes the next message box and keeps its text.
-  void SluitMelding() {
-    QTimer::singleShot(50, &venster_, [this] {
-      auto* const melding = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (melding == nullptr) return SluitMelding();
-      melding_ = melding->text();
-      melding->close();
+  void CloseMessage() {
+    QTimer::singleShot(50, &window_, [this] {
+      auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (message == nullptr) return CloseMessage();
+      message_ = message->text();
+      message->close();
     });
   }
 
-  QTemporaryDir map_;
-  QString dossier_ = map_.filePath(QStringLiteral("test.dossier"));
-  QString opname_ = map_.filePath(QStringLiteral("opname.json"));
-  Logboek logboek_{map_.filePath(QStringLiteral("logboek"))};
-  Hoofdvenster venster_{logboek_};
-  QString melding_;
+  QTemporaryDir folder_;
+  QString dossierPath_ = folder_.filePath(QStringLiteral("test.dossier"));
+  QString recordingPath_ = folder_.filePath(QStringLiteral("opname.json"));
+  EventLog eventLog_{folder_.filePath(QStringLiteral("logboek"))};
+  MainWindow window_{eventLog_};
+  QString message_;
 };
 
-TEST_F(OpnameInVenster, WhatWasRecordedReplaysToWhatTheFileHolds) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
-  ASSERT_TRUE(venster_.NeemOp(opname_));
-  EXPECT_TRUE(venster_.Opdrachten().opnemen->isChecked());
-  EXPECT_EQ(venster_.Opdrachten().opnemen->text(), QStringLiteral("Opname stoppe&n"));
-  EXPECT_EQ(Scherm().Getoond().Vrij_Id, 3);
-  EXPECT_EQ(Doe("TxtOm", Enter{std::string("Pianolessen")}), Outcome::Done);
-  EXPECT_EQ(Doe("TxtAnJaar", Enter{12.0}), Outcome::Done);
-  ASSERT_TRUE(Scherm().GaNaar({0, 5}));
-  EXPECT_EQ(Doe("cboTermijn", controls::Choose{0}), Outcome::Done);
-  const replay::Json bestand = replay::ToJson(Scherm().Gegevens().Gegevens());
-  venster_.Opdrachten().opnemen->trigger();
-  EXPECT_FALSE(venster_.Opdrachten().opnemen->isChecked());
-  EXPECT_EQ(venster_.Opdrachten().opnemen->text(), QStringLiteral("Op&nemen…"));
+TEST_F(WindowRecordingTest, WhatWasRecordedReplaysToWhatTheFileHolds) {
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
+  ASSERT_TRUE(window_.Record(recordingPath_));
+  EXPECT_TRUE(window_.Actions().record->isChecked());
+  EXPECT_EQ(window_.Actions().record->text(), QStringLiteral("Opname stoppe&n"));
+  EXPECT_EQ(Screen().Shown().Vrij_Id, 3);
+  EXPECT_EQ(Do("TxtOm", Enter{std::string("Pianolessen")}), Outcome::Done);
+  EXPECT_EQ(Do("TxtAnJaar", Enter{12.0}), Outcome::Done);
+  ASSERT_TRUE(Screen().GoTo({0, 5}));
+  EXPECT_EQ(Do("cboTermijn", controls::Choose{0}), Outcome::Done);
+  const replay::Json file = replay::ToJson(Screen().Dossier().Gegevens());
+  window_.Actions().record->trigger();
+  EXPECT_FALSE(window_.Actions().record->isChecked());
+  EXPECT_EQ(window_.Actions().record->text(), QStringLiteral("Op&nemen…"));
   // No longer recorded.
-  EXPECT_EQ(Doe("TxtOm", Enter{std::string("daarna")}), Outcome::Done);
-  EXPECT_EQ(Nagespeeld(Geschreven()), bestand);
+  EXPECT_EQ(Do("TxtOm", Enter{std::string("daarna")}), Outcome::Done);
+  EXPECT_EQ(Replayed(Written()), file);
 }
 
-TEST_F(OpnameInVenster, ClosingTheFileWritesTheRecording) {
-  ASSERT_TRUE(venster_.NeemOp(opname_));
-  EXPECT_EQ(Doe("TxtBd", Enter{499.5}), Outcome::Done);
-  const replay::Json bestand = replay::ToJson(Scherm().Gegevens().Gegevens());
+TEST_F(WindowRecordingTest, ClosingTheFileWritesTheRecording) {
+  ASSERT_TRUE(window_.Record(recordingPath_));
+  EXPECT_EQ(Do("TxtBd", Enter{499.5}), Outcome::Done);
+  const replay::Json file = replay::ToJson(Screen().Dossier().Gegevens());
   // The editor asks whether the change is carried over: no.
-  Scherm().Kolom().Editor().Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::No; };
-  ASSERT_TRUE(venster_.SluitDossier());
-  const replay::Document document = Geschreven();
+  Screen().Kolom().Editor().Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::No; };
+  ASSERT_TRUE(window_.CloseDossier());
+  const replay::Document document = Written();
   EXPECT_EQ(document.steps.back().answers, std::vector{host::MessageAnswer::No});
-  EXPECT_EQ(Nagespeeld(document), bestand);
+  EXPECT_EQ(Replayed(document), file);
 }
 
-TEST_F(OpnameInVenster, AddingAColumnEndsTheRecordingAndSaysSo) {
-  ASSERT_TRUE(venster_.NeemOp(opname_));
-  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
-  EXPECT_EQ(Doe("TxtOm", Enter{std::string("Pianolessen")}), Outcome::Done);
-  const replay::Json voor = replay::ToJson(Scherm().Gegevens().Gegevens());
-  SluitMelding();
-  ASSERT_TRUE(Scherm().VoegToe());
-  for (int i = 0; i < 100 && melding_.isEmpty(); ++i) QApplication::processEvents(QEventLoop::AllEvents, 50);
-  EXPECT_TRUE(melding_.contains(QStringLiteral("De opname is gestopt"))) << melding_.toStdString();
-  EXPECT_FALSE(venster_.Opdrachten().opnemen->isChecked());
-  EXPECT_EQ(Nagespeeld(Geschreven()), voor);
+TEST_F(WindowRecordingTest, AddingAColumnEndsTheRecordingAndSaysSo) {
+  ASSERT_TRUE(window_.Record(recordingPath_));
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
+  EXPECT_EQ(Do("TxtOm", Enter{std::string("Pianolessen")}), Outcome::Done);
+  const replay::Json before = replay::ToJson(Screen().Dossier().Gegevens());
+  CloseMessage();
+  ASSERT_TRUE(Screen().AddKolom());
+  for (int i = 0; i < 100 && message_.isEmpty(); ++i) QApplication::processEvents(QEventLoop::AllEvents, 50);
+  EXPECT_TRUE(message_.contains(QStringLiteral("De opname is gestopt"))) << message_.toStdString();
+  EXPECT_FALSE(window_.Actions().record->isChecked());
+  EXPECT_EQ(Replayed(Written()), before);
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

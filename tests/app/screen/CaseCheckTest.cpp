@@ -5,13 +5,13 @@
 #include "tests/app/screen/WindowTest.h"
 
 // "Dossier controleren": every column, without a box and without a trace in the file.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
-KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
-  KolomGegevens kolom;
+dossier::KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
+  dossier::KolomGegevens kolom;
   kolom.Id = Id;
   kolom.Omschrijving = "Post";
   kolom.Bedrag.Bedrag = 10;
@@ -20,94 +20,94 @@ KolomGegevens Kolom(std::int16_t Id, host::Date aanvang) {
 }
 
 /// One fault in each column but the second.
-DossierGegevens MetFouten() {
-  DossierGegevens dossier = LeegDossier();
-  KolomGegevens zonderDatum = Kolom(1, host::kNoDate);
-  KolomGegevens goed = Kolom(2, Datum(1, 1, 2027));
-  KolomGegevens zonderPercentage = Kolom(3, Datum(1, 1, 2027));
-  zonderPercentage.ScenarioOverlijden = true;
-  zonderPercentage.EinddatumOvergang = Datum(1, 1, 2060);
-  dossier.HuidigeLening.VrijeKolommen = {zonderDatum, goed, zonderPercentage};
-  KolomGegevens naamloos = Kolom(4, Datum(1, 1, 2027));
-  naamloos.Omschrijving.clear();
-  naamloos.ScenarioOverlijden = true;
-  naamloos.PercentageOvergang = 50;
-  naamloos.EinddatumOvergang = Datum(1, 1, 2020);
-  dossier.Leningen[0].VrijeKolommen = {naamloos};
+dossier::DossierGegevens WithFaults() {
+  dossier::DossierGegevens dossier = dossier::LeegDossier();
+  dossier::KolomGegevens withoutDate = Kolom(1, host::kNoDate);
+  dossier::KolomGegevens sound = Kolom(2, DateOf(1, 1, 2027));
+  dossier::KolomGegevens withoutPercentage = Kolom(3, DateOf(1, 1, 2027));
+  withoutPercentage.ScenarioOverlijden = true;
+  withoutPercentage.EinddatumOvergang = DateOf(1, 1, 2060);
+  dossier.HuidigeLening.VrijeKolommen = {withoutDate, sound, withoutPercentage};
+  dossier::KolomGegevens nameless = Kolom(4, DateOf(1, 1, 2027));
+  nameless.Omschrijving.clear();
+  nameless.ScenarioOverlijden = true;
+  nameless.PercentageOvergang = 50;
+  nameless.EinddatumOvergang = DateOf(1, 1, 2020);
+  dossier.Leningen[0].VrijeKolommen = {nameless};
   return dossier;
 }
 
-TEST(Controle, VindtWatBeideOnderdelenEnDeHostVindenOpVolgordeVanDeKolommen) {
-  const Dossier dossier(MetFouten(), std::make_shared<Omgeving>());
-  const std::vector<Bevinding> bevindingen = ControleerAlles(dossier, Datum(21, 11, 2026));
-  ASSERT_EQ(bevindingen.size(), 4U);
-  EXPECT_EQ(bevindingen[0].Vrij_Id, 1);
-  EXPECT_EQ(bevindingen[0].tekst, "Voer s.v.p. een aanvangsdatum in.");
-  EXPECT_EQ(bevindingen[1].Vrij_Id, 3);
-  EXPECT_EQ(bevindingen[1].tekst, "Overgangspercentage partner van 1% t/m 100% invullen.");
-  EXPECT_EQ(bevindingen[2].Len_Id, 1);
-  EXPECT_EQ(bevindingen[2].tekst, "Einddatum overgang partner moet in de toekomst liggen.");
-  EXPECT_EQ(bevindingen[3].Len_Id, 1);
-  EXPECT_EQ(bevindingen[3].tekst, "Er is geen omschrijving ingevuld.");
+TEST(CaseCheckTest, FindsWhatBothControlsAndTheHostFindInTheOrderOfTheColumns) {
+  const dossier::Dossier dossier(WithFaults(), std::make_shared<dossier::Environment>());
+  const std::vector<dossier::Finding> findings = CheckAll(dossier, DateOf(21, 11, 2026));
+  ASSERT_EQ(findings.size(), 4U);
+  EXPECT_EQ(findings[0].Vrij_Id, 1);
+  EXPECT_EQ(findings[0].text, "Voer s.v.p. een aanvangsdatum in.");
+  EXPECT_EQ(findings[1].Vrij_Id, 3);
+  EXPECT_EQ(findings[1].text, "Overgangspercentage partner van 1% t/m 100% invullen.");
+  EXPECT_EQ(findings[2].Len_Id, 1);
+  EXPECT_EQ(findings[2].text, "Einddatum overgang partner moet in de toekomst liggen.");
+  EXPECT_EQ(findings[3].Len_Id, 1);
+  EXPECT_EQ(findings[3].text, "Er is geen omschrijving ingevuld.");
 }
 
-TEST(Controle, RaaktHetDossierNietAan) {
-  DossierGegevens gegevens = MetFouten();
+TEST(CaseCheckTest, LeavesTheCaseAlone) {
+  dossier::DossierGegevens gegevens = WithFaults();
   // Shown as a product, it would get the kind "Anders".
   gegevens.HuidigeLening.VrijeKolommen[1].IsProduct = true;
-  const Dossier dossier(gegevens, std::make_shared<Omgeving>());
-  static_cast<void>(ControleerAlles(dossier, Datum(21, 11, 2026)));
+  const dossier::Dossier dossier(gegevens, std::make_shared<dossier::Environment>());
+  static_cast<void>(CheckAll(dossier, DateOf(21, 11, 2026)));
   EXPECT_EQ(dossier.ZoekKolom(0, 2)->Productsoort(), 0);
 }
 
-class Controlelijst : public Venstertest {};
+class FindingsListTest : public WindowTest {};
 
-TEST_F(Controlelijst, F7ToontDeBevindingenEnEnterGaatNaarDeKolom) {
-  bestand_ = map_.filePath("fouten.dossier");
-  DossierBestand::Maak(bestand_, MetFouten());
+TEST_F(FindingsListTest, F7ShowsTheFindingsAndEnterGoesToTheColumn) {
+  file_ = folder_.filePath("fouten.dossier");
+  dossier::DossierFile::Maak(file_, WithFaults());
   Open();
-  const auto was = Scherm().Gegevens().Gegevens();
-  Toets(Qt::Key_F7);
-  auto* lijst = venster_->findChild<QTreeWidget*>("bevindingenlijst");
-  ASSERT_NE(lijst, nullptr);
-  EXPECT_TRUE(lijst->isVisible());
+  const auto was = Screen().Dossier().Gegevens();
+  PressKey(Qt::Key_F7);
+  auto* list = window_->findChild<QTreeWidget*>("bevindingenlijst");
+  ASSERT_NE(list, nullptr);
+  EXPECT_TRUE(list->isVisible());
   // Of the column on the screen too, which is refused when it is left.
-  ASSERT_GE(lijst->topLevelItemCount(), 4);
-  EXPECT_TRUE(lijst->hasFocus());
-  EXPECT_EQ(lijst->topLevelItem(0)->text(2), "Voer s.v.p. een aanvangsdatum in.");
+  ASSERT_GE(list->topLevelItemCount(), 4);
+  EXPECT_TRUE(list->hasFocus());
+  EXPECT_EQ(list->topLevelItem(0)->text(2), "Voer s.v.p. een aanvangsdatum in.");
 
   // The faulty column is not left for another one.
-  Toets(Qt::Key_Down);
-  dialogen_.VerwachtMelding("Voer s.v.p. een aanvangsdatum in.", Druk(Qt::Key_Return));
-  Toets(Qt::Key_Return);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 1}));
+  PressKey(Qt::Key_Down);
+  dialogs_.ExpectMessage("Voer s.v.p. een aanvangsdatum in.", Pressing(Qt::Key_Return));
+  PressKey(Qt::Key_Return);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 1}));
   EXPECT_EQ(Focus(), "Aanvangsdatum");
-  Typ("1-1-2027");
-  lijst->setFocus();
-  QTest::keyClick(venster_->windowHandle(), Qt::Key_Return);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 3}));
+  Type("1-1-2027");
+  list->setFocus();
+  QTest::keyClick(window_->windowHandle(), Qt::Key_Return);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 3}));
   EXPECT_EQ(Focus(), "Aanvangsdatum");
-  EXPECT_EQ(Scherm().Gegevens().Gegevens().HuidigeLening.VrijeKolommen[1].Omschrijving,
+  EXPECT_EQ(Screen().Dossier().Gegevens().HuidigeLening.VrijeKolommen[1].Omschrijving,
             was.HuidigeLening.VrijeKolommen[1].Omschrijving);
 }
 
-TEST_F(Controlelijst, EscapeRuimtDeLijstOp) {
-  bestand_ = map_.filePath("fouten.dossier");
-  DossierBestand::Maak(bestand_, MetFouten());
+TEST_F(FindingsListTest, EscapePutsTheListAway) {
+  file_ = folder_.filePath("fouten.dossier");
+  dossier::DossierFile::Maak(file_, WithFaults());
   Open();
-  Toets(Qt::Key_F7);
-  const auto* lijst = venster_->findChild<QTreeWidget*>("bevindingenlijst");
-  ASSERT_TRUE(lijst && lijst->hasFocus());
-  Toets(Qt::Key_Escape);
-  EXPECT_FALSE(lijst->isVisible());
+  PressKey(Qt::Key_F7);
+  const auto* list = window_->findChild<QTreeWidget*>("bevindingenlijst");
+  ASSERT_TRUE(list && list->hasFocus());
+  PressKey(Qt::Key_Escape);
+  EXPECT_FALSE(list->isVisible());
 }
 
-TEST_F(Controlelijst, VindtInHetVoorbeeldNiets) {
+TEST_F(FindingsListTest, FindsNothingInTheSample) {
   Open();
-  const auto bevindingen = Scherm().Controleer();
-  ASSERT_TRUE(bevindingen);
-  for (const Bevinding& bevinding : *bevindingen) ADD_FAILURE() << bevinding.Vrij_Id << ": " << bevinding.tekst;
+  const auto findings = Screen().Check();
+  ASSERT_TRUE(findings);
+  for (const dossier::Finding& finding : *findings) ADD_FAILURE() << finding.Vrij_Id << ": " << finding.text;
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -12,214 +12,211 @@
 #include "vrijekolom/Ontwerp.h"
 
 // Columns, loans and persons: what the window does beside the editor.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-class Beheer : public Venstertest {
+class ColumnManagementTest : public WindowTest {
  protected:
   void SetUp() override {
-    Venstertest::SetUp();
+    WindowTest::SetUp();
     Open();
   }
-  [[nodiscard]] QAbstractItemView& Boom() { return *venster_->findChild<QAbstractItemView*>("kolommen"); }
+  [[nodiscard]] QAbstractItemView& Tree() { return *window_->findChild<QAbstractItemView*>("kolommen"); }
   [[nodiscard]] QStringList Kolommen(int lening) {
-    QStringList teksten;
-    const QModelIndex boven = Boom().model()->index(lening, 0);
-    for (int rij = 0; rij < Boom().model()->rowCount(boven); ++rij) {
-      teksten << Boom().model()->index(rij, 0, boven).data().toString();
+    QStringList texts;
+    const QModelIndex above = Tree().model()->index(lening, 0);
+    for (int row = 0; row < Tree().model()->rowCount(above); ++row) {
+      texts << Tree().model()->index(row, 0, above).data().toString();
     }
-    return teksten;
+    return texts;
   }
 };
 
-TEST_F(Beheer, DeBoomToontDeLeningenEnHunKolommen) {
-  EXPECT_EQ(Boom().model()->rowCount(), 3);
-  EXPECT_EQ(Boom().model()->index(0, 0).data().toString(), "Huidige lening");
-  EXPECT_EQ(Boom().model()->index(2, 0).data().toString(), "Nieuwe lening 2");
+TEST_F(ColumnManagementTest, TheTreeShowsTheLoansAndTheirColumns) {
+  EXPECT_EQ(Tree().model()->rowCount(), 3);
+  EXPECT_EQ(Tree().model()->index(0, 0).data().toString(), "Huidige lening");
+  EXPECT_EQ(Tree().model()->index(2, 0).data().toString(), "Nieuwe lening 2");
   EXPECT_EQ(Kolommen(1),
             (QStringList{"Kinderopvang · € 310,00 per maand", "Onderhoud zonnepanelen · € 95,00 per jaar"}));
   EXPECT_TRUE(Kolommen(2).isEmpty());
 }
 
-TEST_F(Beheer, DupliceertEenKolomAlsEenPostVanZichzelf) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 6}));
-  Toets(Qt::Key_D, Qt::ControlModifier);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 8}));
+TEST_F(ColumnManagementTest, DuplicatesAColumnAsAnItemOfItsOwn) {
+  ASSERT_TRUE(Screen().GoTo({0, 6}));
+  PressKey(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
   EXPECT_EQ(Focus(), "Omschrijving");
   EXPECT_EQ(Kolom(0, 8).Productnaam, "Seniorlid");
   EXPECT_EQ(Kolommen(0).size(), 7);
-  EXPECT_FALSE(Scherm().Gegevens().Voorstel(1).contains(8));
-  EXPECT_EQ(LeesNaSluiten()["0/8/productnaam"].toString(), "Seniorlid");
+  EXPECT_FALSE(Screen().Dossier().Voorstel(1).contains(8));
+  EXPECT_EQ(ReadAfterClosing()["0/8/productnaam"].toString(), "Seniorlid");
 }
 
-TEST_F(Beheer, VerwijdertEenKolomPasNaEenJa) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
-  Toets(Qt::Key_F6);
-  dialogen_.VerwachtMelding("Muzieklessen aan huis", Druk(Qt::Key_Return));
-  Toets(Qt::Key_Delete);
+TEST_F(ColumnManagementTest, RemovesAColumnOnlyAfterAYes) {
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
+  PressKey(Qt::Key_F6);
+  dialogs_.ExpectMessage("Muzieklessen aan huis", Pressing(Qt::Key_Return));
+  PressKey(Qt::Key_Delete);
   EXPECT_EQ(Kolommen(0).size(), 6);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 3}));
+  EXPECT_EQ(Screen().Shown(), (Place{0, 3}));
 
-  dialogen_.VerwachtMelding("Wilt u deze vrije kolom verwijderen?", [](QWidget& venster) {
-    QTest::keyClick(venster.windowHandle(), Qt::Key_V, Qt::AltModifier);
-  });
-  Toets(Qt::Key_Delete);
+  dialogs_.ExpectMessage("Wilt u deze vrije kolom verwijderen?",
+                         [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_V, Qt::AltModifier); });
+  PressKey(Qt::Key_Delete);
   EXPECT_EQ(Kolommen(0).size(), 5);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 4}));
-  EXPECT_FALSE(LeesNaSluiten().contains("0/3/bedrag"));
+  EXPECT_EQ(Screen().Shown(), (Place{0, 4}));
+  EXPECT_FALSE(ReadAfterClosing().contains("0/3/bedrag"));
 }
 
-TEST_F(Beheer, VerplaatstEenKolomMetHetToetsenbord) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 5}));
-  Toets(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+TEST_F(ColumnManagementTest, MovesAColumnByKeyboard) {
+  ASSERT_TRUE(Screen().GoTo({0, 5}));
+  PressKey(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   ASSERT_NE(menu, nullptr);
   QTest::keyClick(menu, '2');
-  EXPECT_EQ(Scherm().Getoond(), (Plek{2, 5}));
+  EXPECT_EQ(Screen().Shown(), (Place{2, 5}));
   EXPECT_EQ(Kolommen(0).size(), 5);
   EXPECT_EQ(Kolommen(2), QStringList{"Lijfrente-uitkering · € 6.250,00 per jaar"});
   // Proposals end what the client has now.
-  EXPECT_FALSE(Scherm().Kolom().Editor().BeeindigenZichtbaar());
-  EXPECT_EQ(LeesNaSluiten()["2/5/bedrag"].toDouble(), 6250);
+  EXPECT_FALSE(Screen().Kolom().Editor().BeeindigenZichtbaar());
+  EXPECT_EQ(ReadAfterClosing()["2/5/bedrag"].toDouble(), 6250);
 }
 
-TEST_F(Beheer, VerplaatstEenKolomDieNaarEenLeningIsGesleept) {
-  auto& model = static_cast<Kolommenmodel&>(*Boom().model());
-  const QModelIndex krant = model.IndexVan({0, 2});
-  const std::unique_ptr<QMimeData> gesleept(model.mimeData({krant}));
+TEST_F(ColumnManagementTest, MovesAColumnThatWasDraggedToALoan) {
+  auto& model = static_cast<KolommenModel&>(*Tree().model());
+  const QModelIndex krant = model.IndexOf({0, 2});
+  const std::unique_ptr<QMimeData> dragged(model.mimeData({krant}));
   // On a column is on its loan.
-  EXPECT_FALSE(model.dropMimeData(gesleept.get(), Qt::MoveAction, -1, -1, model.IndexVan({1, 7})));
-  EXPECT_TRUE(Komt({1, 2}));
+  EXPECT_FALSE(model.dropMimeData(dragged.get(), Qt::MoveAction, -1, -1, model.IndexOf({1, 7})));
+  EXPECT_TRUE(Comes({1, 2}));
   EXPECT_EQ(Kolommen(1).size(), 3);
 }
 
-TEST_F(Beheer, EenAfwijkingHeeftDezelfdePostInDeNieuweSituatie) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 2}));
-  ASSERT_EQ(venster_->Opdrachten().afwijking->actions().size(), 2);
-  venster_->Opdrachten().afwijking->actions().at(1)->trigger();
-  EXPECT_EQ(Scherm().Getoond(), (Plek{2, 2}));
+TEST_F(ColumnManagementTest, ADeviationHasTheSameItemInTheNewSituation) {
+  ASSERT_TRUE(Screen().GoTo({0, 2}));
+  ASSERT_EQ(window_->Actions().afwijking->actions().size(), 2);
+  window_->Actions().afwijking->actions().at(1)->trigger();
+  EXPECT_EQ(Screen().Shown(), (Place{2, 2}));
   EXPECT_EQ(Kolom(2, 2).Productnaam, "De Maasbode op zaterdag");
   EXPECT_EQ(Kolommen(0).size(), 6);
 }
 
-TEST_F(Beheer, WijzigingenOvernemenHaaltDeAfwijkingUitDeBoom) {
+TEST_F(ColumnManagementTest, CarryingChangesOverTakesTheDeviationOutOfTheTree) {
   // Column 1 has a version of its own in the first new loan.
-  Toets(Qt::Key_B, Qt::AltModifier);
-  Typ("500");
-  dialogen_.VerwachtMelding("Wilt u de wijzigingen overnemen in de nieuwe situatie?", [](QWidget& venster) {
-    QTest::keyClick(venster.windowHandle(), Qt::Key_J, Qt::AltModifier);
-  });
-  Toets(Qt::Key_PageDown, Qt::ControlModifier);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 2}));
+  PressKey(Qt::Key_B, Qt::AltModifier);
+  Type("500");
+  dialogs_.ExpectMessage("Wilt u de wijzigingen overnemen in de nieuwe situatie?",
+                         [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_J, Qt::AltModifier); });
+  PressKey(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 2}));
   EXPECT_EQ(Kolommen(0).front(), "Kinderopvang · € 500,00 per maand");
   EXPECT_EQ(Kolommen(1), QStringList{"Onderhoud zonnepanelen · € 95,00 per jaar"});
 }
 
-TEST_F(Beheer, OvernemenBijEenDatumHaaltDeAfwijkingMeteenUitDeBoom) {
-  Toets(Qt::Key_B, Qt::AltModifier);
-  Typ("500");
-  Toets(Qt::Key_A, Qt::AltModifier);
-  Typ("1-1-2025");
-  dialogen_.VerwachtMelding("Wilt u de wijzigingen overnemen in de nieuwe situatie?", [](QWidget& venster) {
-    QTest::keyClick(venster.windowHandle(), Qt::Key_J, Qt::AltModifier);
-  });
-  Toets(Qt::Key_Tab);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 1}));
+TEST_F(ColumnManagementTest, CarryingOverAtADateTakesTheDeviationOutOfTheTreeAtOnce) {
+  PressKey(Qt::Key_B, Qt::AltModifier);
+  Type("500");
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("1-1-2025");
+  dialogs_.ExpectMessage("Wilt u de wijzigingen overnemen in de nieuwe situatie?",
+                         [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_J, Qt::AltModifier); });
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 1}));
   EXPECT_TRUE(QTest::qWaitFor([&] { return Kolommen(1).size() == 1; }, 2000));
 }
 
-TEST_F(Beheer, DeStatusbalkZegtWatErIsOpgeslagenEnWatAandachtVraagt) {
-  EXPECT_EQ(venster_->statusBar()->currentMessage(), "");
-  ASSERT_TRUE(Scherm().GaNaar({0, 2}));
-  const auto* punten = venster_->findChild<QLabel*>("aandachtspunten");
-  ASSERT_NE(punten, nullptr);
-  EXPECT_EQ(punten->text(), "");
-  Toets(Qt::Key_O, Qt::AltModifier);
-  Toets(Qt::Key_Delete);
-  Toets(Qt::Key_Tab);
-  EXPECT_EQ(venster_->statusBar()->currentMessage(), "Opgeslagen");
-  Toets(Qt::Key_PageDown, Qt::ControlModifier);
+TEST_F(ColumnManagementTest, TheStatusBarSaysWhatWasStoredAndWhatAsksForAttention) {
+  EXPECT_EQ(window_->statusBar()->currentMessage(), "");
+  ASSERT_TRUE(Screen().GoTo({0, 2}));
+  const auto* points = window_->findChild<QLabel*>("aandachtspunten");
+  ASSERT_NE(points, nullptr);
+  EXPECT_EQ(points->text(), "");
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  PressKey(Qt::Key_Delete);
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(window_->statusBar()->currentMessage(), "Opgeslagen");
+  PressKey(Qt::Key_PageDown, Qt::ControlModifier);
   // A column without a description.
-  EXPECT_EQ(punten->text(), "Aandachtspunten: 1 (F7)");
+  EXPECT_EQ(points->text(), "Aandachtspunten: 1 (F7)");
 }
 
-TEST_F(Beheer, BladertDoorAlleKolommenOverDeLeningenHeen) {
-  const std::vector<Plek> verwacht{{0, 2}, {0, 3}, {0, 4}, {0, 5}, {0, 6}, {1, 1}, {1, 7}, {1, 7}};
-  for (const Plek& plek : verwacht) {
-    Toets(Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(Scherm().Getoond(), plek);
+TEST_F(ColumnManagementTest, PagesThroughAllColumnsAcrossTheLoans) {
+  const std::vector<Place> expected{{0, 2}, {0, 3}, {0, 4}, {0, 5}, {0, 6}, {1, 1}, {1, 7}, {1, 7}};
+  for (const Place& place : expected) {
+    PressKey(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(Screen().Shown(), place);
   }
   // From a loan itself: back to the last column before it.
-  ASSERT_TRUE(Scherm().GaNaar({1, std::nullopt}));
-  Toets(Qt::Key_PageUp, Qt::ControlModifier);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 6}));
+  ASSERT_TRUE(Screen().GoTo({1, std::nullopt}));
+  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 6}));
 }
 
-TEST_F(Beheer, NieuweClientgegevensStaanMeteenOpHetScherm) {
-  dialogen_.Verwacht([](QWidget&) {
-    TabNaar("Partner, Achternaam");
-    Typ("Jansen");
-    TabNaar("Partner, Geboortedatum");
-    Typ("1-5-1979");
-    TabNaar("Leeftijdsgrens");
-    Typ("70");
-    Toets(Qt::Key_Return);
+TEST_F(ColumnManagementTest, NewClientDetailsAreOnTheScreenAtOnce) {
+  dialogs_.Expect([](QWidget&) {
+    TabTo("Partner, Achternaam");
+    Type("Jansen");
+    TabTo("Partner, Geboortedatum");
+    Type("1-5-1979");
+    TabTo("Leeftijdsgrens");
+    Type("70");
+    PressKey(Qt::Key_Return);
   });
-  Toets(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  const frame::Controls vakken(Scherm().Kolom().Editor().Surface());
-  EXPECT_EQ(vakken(vrijekolom::optAanvrager, 2).Caption(), "S. de Jansen");
+  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  const frame::Controls boxes(Screen().Kolom().Editor().Surface());
+  EXPECT_EQ(boxes(vrijekolom::optAanvrager, 2).Caption(), "S. de Jansen");
 
-  ASSERT_TRUE(venster_->SluitDossier());
+  ASSERT_TRUE(window_->CloseDossier());
   Open();
-  const std::vector<PersoonGegevens> personen = Scherm().Gegevens().Personen();
+  const std::vector<dossier::PersoonGegevens> personen = Screen().Dossier().Personen();
   ASSERT_EQ(personen.size(), 2U);
   EXPECT_EQ(personen[1].Naam[2], "Jansen");
-  EXPECT_EQ(Scherm().Gegevens().Leeftijd(), 70);
+  EXPECT_EQ(Screen().Dossier().Leeftijd(), 70);
 }
 
-TEST_F(Beheer, EenPersoonZonderGeboortedatumWordtGeweigerd) {
-  dialogen_.Verwacht([](QWidget& venster) {
-    TabNaar("Aanvrager, Geboortedatum");
-    Toets(Qt::Key_Delete);
-    Toets(Qt::Key_Tab);
-    QTest::keyClick(venster.windowHandle(), Qt::Key_Return);
-    EXPECT_TRUE(venster.isVisible());
+TEST_F(ColumnManagementTest, APersonWithoutABirthDateIsRefused) {
+  dialogs_.Expect([](QWidget& window) {
+    TabTo("Aanvrager, Geboortedatum");
+    PressKey(Qt::Key_Delete);
+    PressKey(Qt::Key_Tab);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(Focus(), "Aanvrager, Geboortedatum");
-    Toets(Qt::Key_Escape);
-    Toets(Qt::Key_Escape);
+    PressKey(Qt::Key_Escape);
+    PressKey(Qt::Key_Escape);
   });
-  Toets(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_FALSE(Scherm().Gegevens().Personen()[0].Geboortedatum.IsNone());
+  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_FALSE(Screen().Dossier().Personen()[0].Geboortedatum.IsNone());
 }
 
-TEST_F(Beheer, EenNieuweLeningKrijgtKolommen) {
-  dialogen_.Verwacht([](QWidget&) {
-    Typ("Verhuur");
-    Toets(Qt::Key_Return);
+TEST_F(ColumnManagementTest, ANewLoanIsGivenColumns) {
+  dialogs_.Expect([](QWidget&) {
+    Type("Verhuur");
+    PressKey(Qt::Key_Return);
   });
-  venster_->Opdrachten().leningToevoegen->trigger();
-  EXPECT_EQ(Scherm().Getoond(), (Plek{3, std::nullopt}));
-  EXPECT_EQ(Boom().model()->index(3, 0).data().toString(), "Verhuur");
-  Toets(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(Scherm().Getoond(), (Plek{3, 8}));
-  Toets(Qt::Key_A, Qt::AltModifier);
-  Typ("1-1-2027");
-  EXPECT_TRUE(LeesNaSluiten().contains("3/8/bedrag"));
+  window_->Actions().addLening->trigger();
+  EXPECT_EQ(Screen().Shown(), (Place{3, std::nullopt}));
+  EXPECT_EQ(Tree().model()->index(3, 0).data().toString(), "Verhuur");
+  PressKey(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{3, 8}));
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("1-1-2027");
+  EXPECT_TRUE(ReadAfterClosing().contains("3/8/bedrag"));
 }
 
-TEST_F(Beheer, HetVensterOnthoudtZijnBestand) {
-  ASSERT_TRUE(venster_->close());
-  QProcess proces;
-  proces.start(QStringLiteral(DOSSIER), {});
-  ASSERT_TRUE(proces.waitForStarted());
+TEST_F(ColumnManagementTest, TheWindowRemembersItsFile) {
+  ASSERT_TRUE(window_->close());
+  QProcess process;
+  process.start(QStringLiteral(DOSSIER), {});
+  ASSERT_TRUE(process.waitForStarted());
   // It opens the file of last time, which nobody else then can. Trying before would keep it from opening.
-  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(bestand_ + "-wal"); }, 20000));
-  dialogen_.VerwachtMelding("is al geopend in een ander venster of programma", Druk(Qt::Key_Return));
-  NieuwVenster();
-  EXPECT_FALSE(venster_->Open(bestand_));
-  proces.kill();
-  EXPECT_TRUE(proces.waitForFinished());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(file_ + "-wal"); }, 20000));
+  dialogs_.ExpectMessage("is al geopend in een ander venster of programma", Pressing(Qt::Key_Return));
+  NewWindow();
+  EXPECT_FALSE(window_->Open(file_));
+  process.kill();
+  EXPECT_TRUE(process.waitForFinished());
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

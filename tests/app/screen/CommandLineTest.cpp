@@ -8,123 +8,140 @@
 #include <QTemporaryDir>
 
 #include "app/program/CommandLine.h"
+#include "app/program/SampleSession.h"
+#include "replay/play/Session.h"
 #include "tests/app/screen/WindowTest.h"
 
 // The program from its command line.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-struct Uitvoer {
+struct Output {
   int code = -1;
-  QString uit;
-  QString fout;
+  QString out;
+  QString error;
 };
 
-Uitvoer Draai(const QStringList& argumenten) {
-  QProcess proces;
-  proces.start(QStringLiteral(DOSSIER), argumenten);
-  EXPECT_TRUE(proces.waitForFinished(60000)) << "dossier " << qPrintable(argumenten.join(' '));
-  return {proces.exitCode(), QString::fromUtf8(proces.readAllStandardOutput()),
-          QString::fromUtf8(proces.readAllStandardError())};
+Output RunProgram(const QStringList& arguments) {
+  QProcess process;
+  process.start(QStringLiteral(DOSSIER), arguments);
+  EXPECT_TRUE(process.waitForFinished(60000)) << "dossier " << qPrintable(arguments.join(' '));
+  return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+          QString::fromUtf8(process.readAllStandardError())};
 }
 
-TEST(Opdrachtregel, VerkeerdeArgumentenGevenEenRegelEnCodeTwee) {
-  for (const QStringList& argumenten :
+TEST(CommandLineTest, WrongArgumentsGiveOneLineAndCodeTwo) {
+  for (const QStringList& arguments :
        {QStringList{"--onzin"}, QStringList{"--voorbeeld"}, QStringList{"--sessie", "uit"}, QStringList{"een", "twee"},
         QStringList{"--help", "meer"}, QStringList{""}}) {
-    const Uitvoer uitvoer = Draai(argumenten);
-    EXPECT_EQ(uitvoer.code, 2) << qPrintable(argumenten.join(' '));
-    EXPECT_EQ(uitvoer.fout.count('\n'), 1) << qPrintable(uitvoer.fout);
-    EXPECT_TRUE(uitvoer.uit.isEmpty());
+    const Output output = RunProgram(arguments);
+    EXPECT_EQ(output.code, 2) << qPrintable(arguments.join(' '));
+    EXPECT_EQ(output.error.count('\n'), 1) << qPrintable(output.error);
+    EXPECT_TRUE(output.out.isEmpty());
   }
 }
 
-TEST(Opdrachtregel, HelpEnVersieGaanNaarDeUitvoer) {
-  const Uitvoer help = Draai({"--help"});
+TEST(CommandLineTest, HelpAndVersionGoToTheOutput) {
+  const Output help = RunProgram({"--help"});
   EXPECT_EQ(help.code, 0);
-  EXPECT_TRUE(help.uit.startsWith("Usage: dossier [FILE]"));
-  const Uitvoer versie = Draai({"--version"});
-  EXPECT_EQ(versie.code, 0);
-  EXPECT_EQ(versie.uit, "dossier " BRIVANE_VERSION "\n");
+  EXPECT_TRUE(help.out.startsWith("Usage: dossier [FILE]"));
+  const Output version = RunProgram({"--version"});
+  EXPECT_EQ(version.code, 0);
+  EXPECT_EQ(version.out, "dossier " BRIVANE_VERSION "\n");
 }
 
-TEST(Opdrachtregel, HetVoorbeeldIsEenDossier) {
-  const QTemporaryDir map;
-  const QString bestand = map.filePath("v.dossier");
-  EXPECT_EQ(Draai({"--voorbeeld", bestand}).code, 0);
-  EXPECT_EQ(LeesInTweedeProces(bestand)["0/5/bedrag"].toDouble(), 6250);
+TEST(CommandLineTest, TheSampleIsACase) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("v.dossier");
+  EXPECT_EQ(RunProgram({"--voorbeeld", file}).code, 0);
+  EXPECT_EQ(ReadInSecondProcess(file)["0/5/bedrag"].toDouble(), 6250);
   // It never replaces a file.
-  const Uitvoer weer = Draai({"--voorbeeld", bestand});
-  EXPECT_EQ(weer.code, 1);
-  EXPECT_EQ(weer.fout.count('\n'), 1);
+  const Output again = RunProgram({"--voorbeeld", file});
+  EXPECT_EQ(again.code, 1);
+  EXPECT_EQ(again.error.count('\n'), 1);
 }
 
-TEST(Opdrachtregel, EenSessieOpEenAnderSoortBestandMisluktInEenRegel) {
-  const QTemporaryDir map;
-  QFile brief(map.filePath("brief.dossier"));
-  ASSERT_TRUE(brief.open(QIODevice::WriteOnly));
-  brief.write("tekst");
-  brief.close();
-  const Uitvoer uitvoer = Draai({"--sessie", map.filePath("uit"), brief.fileName()});
-  EXPECT_EQ(uitvoer.code, 1);
-  EXPECT_TRUE(uitvoer.fout.contains("is geen dossier"));
+TEST(CommandLineTest, ASessionOnAnotherKindOfFileFailsInOneLine) {
+  const QTemporaryDir folder;
+  QFile letter(folder.filePath("brief.dossier"));
+  ASSERT_TRUE(letter.open(QIODevice::WriteOnly));
+  letter.write("tekst");
+  letter.close();
+  const Output output = RunProgram({"--sessie", folder.filePath("uit"), letter.fileName()});
+  EXPECT_EQ(output.code, 1);
+  EXPECT_TRUE(output.error.contains("is geen dossier"));
 }
 
 /// The session ends by taking the partner out, to whom a second one lets an amount go over.
-TEST(Opdrachtregel, EenSessieDieEenFoutmeldingKrijgtEindigtMetWatDieZegt) {
-  const QTemporaryDir map;
-  const QString bestand = map.filePath("s.dossier");
-  ASSERT_EQ(Draai({"--voorbeeld", bestand}).code, 0);
-  ASSERT_EQ(Draai({"--sessie", map.filePath("uit"), bestand}).code, 0);
-  const Uitvoer tweede = Draai({"--sessie", map.filePath("uit"), bestand});
-  EXPECT_EQ(tweede.code, 1);
-  EXPECT_TRUE(tweede.fout.contains("txtEinddatum was answered: Er is een fout opgetreden.")) << qPrintable(tweede.fout);
-  EXPECT_TRUE(tweede.fout.contains("Foutnummer: 91")) << qPrintable(tweede.fout);
+TEST(CommandLineTest, ASessionThatIsToldOfAFailureEndsWithWhatThatSays) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("s.dossier");
+  ASSERT_EQ(RunProgram({"--voorbeeld", file}).code, 0);
+  ASSERT_EQ(RunProgram({"--sessie", folder.filePath("uit"), file}).code, 0);
+  const Output second = RunProgram({"--sessie", folder.filePath("uit"), file});
+  EXPECT_EQ(second.code, 1);
+  EXPECT_TRUE(second.error.contains("txtEinddatum was answered: Er is een fout opgetreden."))
+      << qPrintable(second.error);
+  EXPECT_TRUE(second.error.contains("Foutnummer: 91")) << qPrintable(second.error);
 }
 
-TEST(Opdrachtregel, DeSessieLaatBeeldenEnEenTranscriptAchter) {
-  const QTemporaryDir map;
-  const QString bestand = map.filePath("s.dossier");
-  ASSERT_EQ(Draai({"--voorbeeld", bestand}).code, 0);
-  const QDir uit(map.filePath("uit"));
-  const Uitvoer uitvoer = Draai({"--sessie", uit.path(), bestand});
-  ASSERT_EQ(uitvoer.code, 0) << qPrintable(uitvoer.fout);
+TEST(CommandLineTest, TheSessionLeavesPicturesAndATranscript) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("s.dossier");
+  ASSERT_EQ(RunProgram({"--voorbeeld", file}).code, 0);
+  const QDir out(folder.filePath("uit"));
+  const Output output = RunProgram({"--sessie", out.path(), file});
+  ASSERT_EQ(output.code, 0) << qPrintable(output.error);
 
-  for (const char* naam : {"recurring-cost", "newspaper", "death-transition", "scenario", "without-partner"}) {
-    const QImage licht(uit.filePath(QStringLiteral("%1-light.png").arg(naam)));
-    const QImage donker(uit.filePath(QStringLiteral("%1-dark.png").arg(naam)));
-    EXPECT_FALSE(licht.isNull()) << naam;
-    EXPECT_EQ(licht.size(), donker.size());
-    if (QByteArray(naam) != "scenario") {
-      EXPECT_EQ(licht.size(), Hoofdvenster::kEersteMaat);
+  for (const char* name : {"recurring-cost", "newspaper", "death-transition", "scenario", "without-partner"}) {
+    const QImage light(out.filePath(QStringLiteral("%1-light.png").arg(name)));
+    const QImage dark(out.filePath(QStringLiteral("%1-dark.png").arg(name)));
+    EXPECT_FALSE(light.isNull()) << name;
+    EXPECT_EQ(light.size(), dark.size());
+    if (QByteArray(name) != "scenario") {
+      EXPECT_EQ(light.size(), MainWindow::kFirstSize);
     }
     // A corner of the window's background.
-    EXPECT_GT(licht.pixelColor(5, licht.height() - 5).lightness(), 200) << naam;
-    EXPECT_LT(donker.pixelColor(5, donker.height() - 5).lightness(), 100) << naam;
+    EXPECT_GT(light.pixelColor(5, light.height() - 5).lightness(), 200) << name;
+    EXPECT_LT(dark.pixelColor(5, dark.height() - 5).lightness(), 100) << name;
   }
 
-  QFile transcript(uit.filePath("transcript.jsonl"));
+  QFile transcript(out.filePath("transcript.jsonl"));
   ASSERT_TRUE(transcript.open(QIODevice::ReadOnly));
-  QStringList meldingen;
-  QJsonObject geschreven;
+  QStringList messages;
+  int written = 0;
   while (!transcript.atEnd()) {
-    QJsonParseError fout{};
-    const QJsonObject regel = QJsonDocument::fromJson(transcript.readLine(), &fout).object();
-    ASSERT_EQ(fout.error, QJsonParseError::NoError);
-    if (regel.contains("message")) meldingen << regel["message"].toString();
-    const QJsonObject velden = regel["written"].toObject();
-    for (auto veld = velden.begin(); veld != velden.end(); ++veld) geschreven.insert(veld.key(), veld.value());
+    QJsonParseError error{};
+    const QJsonObject line = QJsonDocument::fromJson(transcript.readLine(), &error).object();
+    ASSERT_EQ(error.error, QJsonParseError::NoError);
+    if (line.contains("message")) messages << line["message"]["text"].toString();
+    if (line.contains("set")) ++written;
   }
-  EXPECT_TRUE(meldingen.contains("Voer s.v.p. een aanvangsdatum in."));
-  EXPECT_TRUE(meldingen.contains("Wilt u de wijzigingen overnemen in de nieuwe situatie?"));
-  // What the transcript says was written is what the file holds.
-  const QJsonObject gelezen = LeesInTweedeProces(bestand);
-  EXPECT_GT(geschreven.size(), 10);
-  for (auto veld = geschreven.begin(); veld != geschreven.end(); ++veld) {
-    EXPECT_EQ(gelezen[veld.key()], veld.value().isNull() ? QJsonValue(QJsonValue::Undefined) : veld.value())
-        << qPrintable(veld.key());
-  }
+  EXPECT_EQ(messages, (QStringList{"Voer s.v.p. een aanvangsdatum in.",
+                                   "Wilt u de wijzigingen overnemen in de nieuwe situatie?"}));
+  EXPECT_GT(written, 10);
+}
+
+/// The same document on controls in memory: what it writes is what the window's session has put into the file.
+TEST(CommandLineTest, TheSessionInTheWindowStoresWhatItsDocumentWrites) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("s.dossier");
+  ASSERT_EQ(RunProgram({"--voorbeeld", file}).code, 0);
+  ASSERT_EQ(RunProgram({"--sessie", folder.filePath("uit"), file}).code, 0);
+  const replay::Document document = ReadSampleSession();
+  replay::Session session(document, [](std::string_view) {});
+  session.Run();
+  dossier::DossierGegevens expected = session.Case().Gegevens();
+  // The partner goes last, which is no part of the document.
+  expected.Personen.pop_back();
+  EXPECT_EQ(replay::ToJson(dossier::DossierFile::Open(file)->Dossier()->Gegevens()), replay::ToJson(expected));
+}
+
+TEST(SampleSession, StartsFromTheSampleCaseWithAColumnAdded) {
+  dossier::Dossier dossier(dossier::VoorbeeldDossier(), std::make_shared<dossier::Environment>());
+  dossier.NieuweKolom(dossier::Dossier::kHuidig);
+  EXPECT_EQ(replay::ToJson(ReadSampleSession().dossier), replay::ToJson(dossier.Gegevens()));
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

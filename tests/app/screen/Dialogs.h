@@ -9,57 +9,57 @@
 #include <deque>
 #include <functional>
 
-namespace brivane::dossier {
+namespace brivane::app {
 
 /// Plays the person in front of the modal windows that are to come: each handler gets the next one, in its
 /// event loop. A window that nobody expected fails the test and is closed.
-class Dialogen {
+class Dialogs {
  public:
-  using Behandeling = std::function<void(QWidget& venster)>;
+  using Handler = std::function<void(QWidget& window)>;
 
-  Dialogen() {
-    QObject::connect(&klok_, &QTimer::timeout, [this] { Kijk(); });
-    klok_.start(5);
+  Dialogs() {
+    QObject::connect(&clock_, &QTimer::timeout, [this] { Look(); });
+    clock_.start(5);
   }
-  ~Dialogen() { EXPECT_TRUE(wachtrij_.empty()) << wachtrij_.size() << " windows never came"; }
-  Dialogen(const Dialogen&) = delete;
-  Dialogen& operator=(const Dialogen&) = delete;
+  ~Dialogs() { EXPECT_TRUE(queue_.empty()) << queue_.size() << " windows never came"; }
+  Dialogs(const Dialogs&) = delete;
+  Dialogs& operator=(const Dialogs&) = delete;
 
-  void Verwacht(Behandeling behandeling) { wachtrij_.push_back(std::move(behandeling)); }
+  void Expect(Handler handler) { queue_.push_back(std::move(handler)); }
   /// Expects a message box with this text in it.
-  void VerwachtMelding(const QString& tekst, Behandeling antwoord) {
-    Verwacht([tekst, antwoord](QWidget& venster) {
-      const auto* bericht = qobject_cast<QMessageBox*>(&venster);
-      EXPECT_TRUE(bericht && bericht->text().contains(tekst))
-          << qPrintable(tekst) << " expected, not " << (bericht ? qPrintable(bericht->text()) : "another window");
-      antwoord(venster);
+  void ExpectMessage(const QString& text, Handler answer) {
+    Expect([text, answer](QWidget& window) {
+      const auto* box = qobject_cast<QMessageBox*>(&window);
+      EXPECT_TRUE(box && box->text().contains(text))
+          << qPrintable(text) << " expected, not " << (box ? qPrintable(box->text()) : "another window");
+      answer(window);
     });
   }
 
  private:
-  void Kijk() {
-    QWidget* venster = QApplication::activeModalWidget();
-    if (venster == nullptr || venster == behandeld_ || !venster->isVisible()) return;
-    if (!venster->isActiveWindow()) {
-      venster->activateWindow();
+  void Look() {
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr || window == handled_ || !window->isVisible()) return;
+    if (!window->isActiveWindow()) {
+      window->activateWindow();
       return;
     }
-    behandeld_ = venster;
-    if (wachtrij_.empty()) {
-      const auto* bericht = qobject_cast<QMessageBox*>(venster);
-      ADD_FAILURE() << "unexpected window: " << qPrintable(venster->windowTitle()) << ": "
-                    << (bericht ? qPrintable(bericht->text()) : "");
-      venster->close();
+    handled_ = window;
+    if (queue_.empty()) {
+      const auto* box = qobject_cast<QMessageBox*>(window);
+      ADD_FAILURE() << "unexpected window: " << qPrintable(window->windowTitle()) << ": "
+                    << (box ? qPrintable(box->text()) : "");
+      window->close();
       return;
     }
     // Out of the clock's own event: what the handler does may open another window.
-    QTimer::singleShot(0, venster, [behandeling = std::move(wachtrij_.front()), venster] { behandeling(*venster); });
-    wachtrij_.pop_front();
+    QTimer::singleShot(0, window, [handler = std::move(queue_.front()), window] { handler(*window); });
+    queue_.pop_front();
   }
 
-  QTimer klok_;
-  std::deque<Behandeling> wachtrij_;
-  QPointer<QWidget> behandeld_;  ///< null again when it is gone: the next one may take its address
+  QTimer clock_;
+  std::deque<Handler> queue_;
+  QPointer<QWidget> handled_;  ///< null again when it is gone: the next one may take its address
 };
 
-}  // namespace brivane::dossier
+}  // namespace brivane::app

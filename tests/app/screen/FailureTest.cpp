@@ -8,103 +8,103 @@
 #include "vrijekolom/Ontwerp.h"
 
 // A write that fails reaches the adviser once, and the screen then shows what is stored.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-class Fout : public Venstertest {
+class FailureTest : public WindowTest {
  protected:
   void SetUp() override {
-    Venstertest::SetUp();
+    WindowTest::SetUp();
     Open();
   }
 
   /// Runs a body while the loan file's log cannot grow, as on a full disk.
-  template <class Body> void OpVolleSchijf(Body&& body) {
-    rlimit grens{};
-    getrlimit(RLIMIT_FSIZE, &grens);
-    const auto vorige = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit vol = grens;
-    vol.rlim_cur = static_cast<rlim_t>(QFileInfo(bestand_ + "-wal").size());
-    setrlimit(RLIMIT_FSIZE, &vol);
+  template <class Body> void OnFullDisk(Body&& body) {
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit full = limit;
+    full.rlim_cur = static_cast<rlim_t>(QFileInfo(file_ + "-wal").size());
+    setrlimit(RLIMIT_FSIZE, &full);
     body();
-    setrlimit(RLIMIT_FSIZE, &grens);
-    std::signal(SIGXFSZ, vorige);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    std::signal(SIGXFSZ, previous);
   }
   [[nodiscard]] std::string Omschrijving() {
-    return frame::Controls(Scherm().Kolom().Editor().Surface())[vrijekolom::TxtOm].Text();
+    return frame::Controls(Screen().Kolom().Editor().Surface())[vrijekolom::TxtOm].Text();
   }
 };
 
-TEST_F(Fout, EenWijzigingDieNietIsOpgeslagenStaatErNietMeer) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 2}));
+TEST_F(FailureTest, AChangeThatIsNotStoredStandsThereNoMore) {
+  ASSERT_TRUE(Screen().GoTo({0, 2}));
   QString toelichting;
-  OpVolleSchijf([&] {
-    Toets(Qt::Key_O, Qt::AltModifier);
-    Typ("Dagkrant");
-    dialogen_.VerwachtMelding("Er is een fout opgetreden.", [&](QWidget& venster) {
-      EXPECT_EQ(venster.windowTitle().section(u' ', 0, 0), "Kwandero");
-      toelichting = static_cast<QMessageBox&>(venster).informativeText();
-      Druk(Qt::Key_Return)(venster);
+  OnFullDisk([&] {
+    PressKey(Qt::Key_O, Qt::AltModifier);
+    Type("Dagkrant");
+    dialogs_.ExpectMessage("Er is een fout opgetreden.", [&](QWidget& window) {
+      EXPECT_EQ(window.windowTitle().section(u' ', 0, 0), "Kwandero");
+      toelichting = static_cast<QMessageBox&>(window).informativeText();
+      Pressing(Qt::Key_Return)(window);
     });
-    Toets(Qt::Key_Tab);
+    PressKey(Qt::Key_Tab);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving() == "Weekendabonnement"; }, 2000)) << Omschrijving();
   });
   EXPECT_TRUE(toelichting.contains("Vrije kolom (VrijeKolom)")) << qPrintable(toelichting);
   EXPECT_TRUE(toelichting.contains("Het scherm toont weer wat in het dossier staat.")) << qPrintable(toelichting);
 
   // Once there is room again the work goes on.
-  Toets(Qt::Key_O, Qt::AltModifier);
-  Typ("Avondkrant");
-  Toets(Qt::Key_Tab);
-  EXPECT_EQ(LeesNaSluiten()["0/2/omschrijving"].toString(), "Avondkrant");
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(ReadAfterClosing()["0/2/omschrijving"].toString(), "Avondkrant");
 }
 
-TEST_F(Fout, EenKolomDieNietIsOpgeslagenKomtNietInDeBoom) {
-  OpVolleSchijf([&] {
-    dialogen_.VerwachtMelding("Er is een fout opgetreden.", Druk(Qt::Key_Return));
-    Toets(Qt::Key_D, Qt::ControlModifier);
+TEST_F(FailureTest, AColumnThatIsNotStoredDoesNotComeIntoTheTree) {
+  OnFullDisk([&] {
+    dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+    PressKey(Qt::Key_D, Qt::ControlModifier);
     QTest::qWait(100);
   });
-  EXPECT_EQ(Scherm().Getoond(), (Plek{0, 1}));
-  EXPECT_FALSE(Scherm().Gegevens().ZoekKolom(0, 8));
+  EXPECT_EQ(Screen().Shown(), (Place{0, 1}));
+  EXPECT_FALSE(Screen().Dossier().ZoekKolom(0, 8));
 }
 
-TEST_F(Fout, EenScenarioDatNietIsOpgeslagenIsErNietMeer) {
-  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
-  bool klaar = false;
-  dialogen_.Verwacht([&](QWidget& formulier) {
-    TabNaar("Bedrag jaar 4");
-    Typ("400");
-    Toets(Qt::Key_Return);
-    dialogen_.VerwachtMelding("Er is een fout opgetreden.", Druk(Qt::Key_Return));
-    OpVolleSchijf([&] {
-      QTest::keyClick(FocusVenster(), Qt::Key_O, Qt::AltModifier);
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !formulier.isVisible(); }, 5000));
+TEST_F(FailureTest, AScenarioThatIsNotStoredIsThereNoMore) {
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
+  bool done = false;
+  dialogs_.Expect([&](QWidget& form) {
+    TabTo("Bedrag jaar 4");
+    Type("400");
+    PressKey(Qt::Key_Return);
+    dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+    OnFullDisk([&] {
+      QTest::keyClick(FocusWindow(), Qt::Key_O, Qt::AltModifier);
+      EXPECT_TRUE(QTest::qWaitFor([&] { return !form.isVisible(); }, 5000));
     });
-    klaar = true;
+    done = true;
   });
-  Toets(Qt::Key_S, Qt::AltModifier);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return klaar && !QApplication::activeModalWidget(); }, 10000));
+  PressKey(Qt::Key_S, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return done && !QApplication::activeModalWidget(); }, 10000));
   EXPECT_TRUE(Kolom(0, 3).Bedrag.Perioden.empty());
-  EXPECT_FALSE(LeesNaSluiten().contains("0/3/periode 1/maand"));
+  EXPECT_FALSE(ReadAfterClosing().contains("0/3/periode 1/maand"));
 }
 
-TEST_F(Fout, EenFoutVanHetOnderdeelWordtEenKeerGemeld) {
+TEST_F(FailureTest, AFailureOfTheControlIsToldOnce) {
   // The age limit is asked for a partner who is gone.
-  std::vector<PersoonGegevens> personen = Scherm().Gegevens().Personen();
-  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
+  std::vector<dossier::PersoonGegevens> personen = Screen().Dossier().Personen();
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
   personen.pop_back();
-  ASSERT_TRUE(Scherm().SetClient(personen, 67));
-  dialogen_.VerwachtMelding("Er is een fout opgetreden.", [](QWidget& venster) {
-    const QString toelichting = static_cast<QMessageBox&>(venster).informativeText();
+  ASSERT_TRUE(Screen().SetClient(personen, 67));
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", [](QWidget& window) {
+    const QString toelichting = static_cast<QMessageBox&>(window).informativeText();
     EXPECT_TRUE(toelichting.contains("Foutnummer: 91")) << qPrintable(toelichting);
     EXPECT_FALSE(toelichting.contains("Het scherm toont weer"));
-    Druk(Qt::Key_Return)(venster);
+    Pressing(Qt::Key_Return)(window);
   });
-  Toets(Qt::Key_S, Qt::AltModifier);
+  PressKey(Qt::Key_S, Qt::AltModifier);
   // A button that is pressed by its letter goes down for a moment first.
-  EXPECT_TRUE(QTest::qWaitFor([&] { return logboek_.Lees().contains("FOUT 91 in VrijeKolom"); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return eventLog_.Read().contains("FOUT 91 in VrijeKolom"); }, 5000));
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -7,91 +7,91 @@
 #include "tests/app/screen/WindowTest.h"
 
 // Opening and making loan files.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-class Bestanden : public Venstertest {
+class FilesTest : public WindowTest {
  protected:
-  [[nodiscard]] QString Schrijf(const char* naam, const QByteArray& inhoud) {
-    QFile bestand(map_.filePath(naam));
-    EXPECT_TRUE(bestand.open(QIODevice::WriteOnly));
-    bestand.write(inhoud);
-    return bestand.fileName();
+  [[nodiscard]] QString WriteFile(const char* name, const QByteArray& contents) {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(contents);
+    return file.fileName();
   }
-  [[nodiscard]] bool OpStartpagina() {
-    return dynamic_cast<Startpagina*>(venster_->findChild<QStackedWidget*>()->currentWidget()) != nullptr;
+  [[nodiscard]] bool OnStartPage() {
+    return dynamic_cast<StartPage*>(window_->findChild<QStackedWidget*>()->currentWidget()) != nullptr;
   }
 };
 
-TEST_F(Bestanden, EenAnderSoortBestandWordtInEenMeldingGeweigerd) {
-  const QString brief = Schrijf("brief.dossier", "Geachte heer,\n");
-  dialogen_.VerwachtMelding("Het bestand \"brief.dossier\" is geen dossier.", Druk(Qt::Key_Return));
-  EXPECT_FALSE(venster_->Open(brief));
-  EXPECT_TRUE(OpStartpagina());
-  QFile bestand(brief);
-  ASSERT_TRUE(bestand.open(QIODevice::ReadOnly));
-  EXPECT_EQ(bestand.readAll(), "Geachte heer,\n");
+TEST_F(FilesTest, AnotherKindOfFileIsRefusedInOneMessage) {
+  const QString letter = WriteFile("brief.dossier", "Geachte heer,\n");
+  dialogs_.ExpectMessage("Het bestand \"brief.dossier\" is geen dossier.", Pressing(Qt::Key_Return));
+  EXPECT_FALSE(window_->Open(letter));
+  EXPECT_TRUE(OnStartPage());
+  QFile file(letter);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "Geachte heer,\n");
 }
 
-TEST_F(Bestanden, EenGeweigerdBestandLaatHetOpenDossierStaan) {
+TEST_F(FilesTest, ARefusedFileLeavesTheOpenCase) {
   Open();
-  dialogen_.VerwachtMelding("bestaat niet (meer)", Druk(Qt::Key_Return));
-  EXPECT_FALSE(venster_->Open(map_.filePath("weg.dossier")));
-  ASSERT_NE(venster_->Scherm(), nullptr);
-  EXPECT_EQ(Scherm().Bestand().Pad(), bestand_);
+  dialogs_.ExpectMessage("bestaat niet (meer)", Pressing(Qt::Key_Return));
+  EXPECT_FALSE(window_->Open(folder_.filePath("weg.dossier")));
+  ASSERT_NE(window_->Screen(), nullptr);
+  EXPECT_EQ(Screen().File().Pad(), file_);
 }
 
-TEST_F(Bestanden, HetzelfdeBestandBlijftOpen) {
+TEST_F(FilesTest, TheSameFileStaysOpen) {
   Open();
-  EXPECT_TRUE(venster_->Open(bestand_));
+  EXPECT_TRUE(window_->Open(file_));
 }
 
-TEST_F(Bestanden, EenDossierIsInEenVensterTegelijkOpen) {
+TEST_F(FilesTest, ACaseIsOpenInOneWindowAtATime) {
   Open();
-  Hoofdvenster tweede(logboek_);
-  tweede.show();
-  dialogen_.VerwachtMelding("is al geopend in een ander venster of programma", Druk(Qt::Key_Return));
-  EXPECT_FALSE(tweede.Open(bestand_));
+  MainWindow second(eventLog_);
+  second.show();
+  dialogs_.ExpectMessage("is al geopend in een ander venster of programma", Pressing(Qt::Key_Return));
+  EXPECT_FALSE(second.Open(file_));
 }
 
-TEST_F(Bestanden, EenNieuwDossierVraagtDeAanvragerEnDePlaats) {
-  const QString nieuw = map_.filePath("nieuw.dossier");
-  dialogen_.Verwacht([](QWidget&) {
-    Typ("J.");
-    TabNaar("Aanvrager, Achternaam");
-    Typ("Bakker");
-    TabNaar("Aanvrager, Geboortedatum");
-    Typ("1-4-1985");
-    Toets(Qt::Key_Return);
-    Toets(Qt::Key_Return);
+TEST_F(FilesTest, ANewCaseAsksForTheApplicantAndThePlace) {
+  const QString created = folder_.filePath("nieuw.dossier");
+  dialogs_.Expect([](QWidget&) {
+    Type("J.");
+    TabTo("Aanvrager, Achternaam");
+    Type("Bakker");
+    TabTo("Aanvrager, Geboortedatum");
+    Type("1-4-1985");
+    PressKey(Qt::Key_Return);
+    PressKey(Qt::Key_Return);
   });
-  dialogen_.Verwacht([&](QWidget& vraag) {
-    const auto* naam = vraag.findChild<QLineEdit*>("fileNameEdit");
-    EXPECT_TRUE(naam && naam->text() == "Bakker.dossier");
-    Typ(nieuw.toLocal8Bit().constData());
-    Toets(Qt::Key_Return);
+  dialogs_.Expect([&](QWidget& question) {
+    const auto* name = question.findChild<QLineEdit*>("fileNameEdit");
+    EXPECT_TRUE(name && name->text() == "Bakker.dossier");
+    Type(created.toLocal8Bit().constData());
+    PressKey(Qt::Key_Return);
   });
-  Toets(Qt::Key_N, Qt::ControlModifier);
-  ASSERT_NE(venster_->Scherm(), nullptr);
-  EXPECT_EQ(Scherm().Bestand().Pad(), nieuw);
-  const std::vector<PersoonGegevens> personen = Scherm().Gegevens().Personen();
+  PressKey(Qt::Key_N, Qt::ControlModifier);
+  ASSERT_NE(window_->Screen(), nullptr);
+  EXPECT_EQ(Screen().File().Pad(), created);
+  const std::vector<dossier::PersoonGegevens> personen = Screen().Dossier().Personen();
   ASSERT_EQ(personen.size(), 1U);
   EXPECT_EQ(personen[0].Naam[0], "J.");
   EXPECT_EQ(personen[0].Naam[2], "Bakker");
   EXPECT_EQ(personen[0].Geboortedatum, frame::MakeDate({.year = 1985, .month = 4, .day = 1}));
 }
 
-TEST_F(Bestanden, EenNieuwDossierVervangtGeenBestand) {
-  dialogen_.VerwachtMelding("staat al een bestand \"test.dossier\"", Druk(Qt::Key_Return));
-  EXPECT_FALSE(venster_->Maak(bestand_, LeegDossier()));
-  EXPECT_EQ(LeesInTweedeProces(bestand_)["0/1/bedrag"].toDouble(), 485.5);
+TEST_F(FilesTest, ANewCaseReplacesNoFile) {
+  dialogs_.ExpectMessage("staat al een bestand \"test.dossier\"", Pressing(Qt::Key_Return));
+  EXPECT_FALSE(window_->Make(file_, dossier::LeegDossier()));
+  EXPECT_EQ(ReadInSecondProcess(file_)["0/1/bedrag"].toDouble(), 485.5);
 }
 
-TEST_F(Bestanden, EscapeMaaktGeenNieuwDossier) {
-  dialogen_.Verwacht(Druk(Qt::Key_Escape));
-  Toets(Qt::Key_N, Qt::ControlModifier);
-  EXPECT_TRUE(OpStartpagina());
+TEST_F(FilesTest, EscapeMakesNoNewCase) {
+  dialogs_.Expect(Pressing(Qt::Key_Escape));
+  PressKey(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_TRUE(OnStartPage());
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -7,101 +7,101 @@
 #include "tests/app/screen/WindowTest.h"
 
 // The year-by-year form by keyboard alone, in the real window.
-namespace brivane::dossier {
+namespace brivane::app {
 namespace {
 
-class Scenario : public Venstertest {
+class ScenarioTest : public WindowTest {
  protected:
   void SetUp() override {
-    Venstertest::SetUp();
-    DossierGegevens gegevens = VoorbeeldDossier();
+    WindowTest::SetUp();
+    dossier::DossierGegevens gegevens = dossier::VoorbeeldDossier();
     // 30 rows: until the year in which the applicant, born this year less 38, turns 68.
     gegevens.Leeftijd = 67;
-    const int jaar = QDate::currentDate().year() - 38;
-    gegevens.Personen[0].Geboortedatum = frame::MakeDate({.year = jaar, .month = 6, .day = 15});
-    KolomGegevens kolom;
+    const int year = QDate::currentDate().year() - 38;
+    gegevens.Personen[0].Geboortedatum = frame::MakeDate({.year = year, .month = 6, .day = 15});
+    dossier::KolomGegevens kolom;
     kolom.Id = 1;
     kolom.Omschrijving = "Onderhoud";
     kolom.Termijn = 12;
     kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 1});
     kolom.Bedrag.Invoersoort = 3;
     kolom.Bedrag.Bedrag = 900;
-    kolom.Bedrag.Perioden = {{.Maand = 1, .Percentage = 1}};
+    kolom.Bedrag.Perioden = {{{.Maand = 1, .Percentage = 1}}};
     gegevens.HuidigeLening.VrijeKolommen = {kolom};
     gegevens.Leningen[0].VrijeKolommen.clear();
-    bestand_ = map_.filePath("scenario.dossier");
-    DossierBestand::Maak(bestand_, gegevens);
+    file_ = folder_.filePath("scenario.dossier");
+    dossier::DossierFile::Maak(file_, gegevens);
     Open();
   }
 
   /// Opens the form by its letter and lets the body work in it.
-  void InFormulier(const Dialogen::Behandeling& werk) {
-    bool klaar = false;
-    dialogen_.Verwacht([&](QWidget& formulier) {
-      werk(formulier);
-      klaar = true;
+  void InForm(const Dialogs::Handler& work) {
+    bool done = false;
+    dialogs_.Expect([&](QWidget& form) {
+      work(form);
+      done = true;
     });
-    Toets(Qt::Key_S, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return klaar && !QApplication::activeModalWidget(); }, 10000));
+    PressKey(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done && !QApplication::activeModalWidget(); }, 10000));
   }
 
   /// Month and percentage of every stored entry.
-  [[nodiscard]] std::map<int, double> Perioden(const QJsonObject& velden) {
+  [[nodiscard]] std::map<int, double> Perioden(const QJsonObject& fields) {
     std::map<int, double> perioden;
-    for (int nummer = 1; velden.contains(QStringLiteral("0/1/periode %1/maand").arg(nummer)); ++nummer) {
-      const QString plek = QStringLiteral("0/1/periode %1/").arg(nummer);
-      perioden[velden[plek + "maand"].toInt()] = velden[plek + "percentage"].toDouble();
+    for (int number = 1; fields.contains(QStringLiteral("0/1/periode %1/maand").arg(number)); ++number) {
+      const QString place = QStringLiteral("0/1/periode %1/").arg(number);
+      perioden[fields[place + "maand"].toInt()] = fields[place + "percentage"].toDouble();
     }
     return perioden;
   }
 };
 
-TEST_F(Scenario, DertigJarenMetGroeiEenVerbeteringEnEenGeplakteKolomStaanNaOkInHetBestand) {
-  InFormulier([](QWidget&) {
-    TabNaar("Bedrag jaar 1");
-    Typ("1000");
-    TabNaar("Vervolgjaren automatisch invullen");
-    Toets(Qt::Key_Space);
-    TabNaar("Percentage jaar 1");
-    Typ("2,5");
-    Toets(Qt::Key_Return);
-    TabNaar("Vervolgjaren automatisch invullen");
-    Toets(Qt::Key_Space);
+TEST_F(ScenarioTest, ThirtyYearsWithAGrowthACorrectionAndAPastedColumnAreInTheFileAfterOk) {
+  InForm([](QWidget&) {
+    TabTo("Bedrag jaar 1");
+    Type("1000");
+    TabTo("Vervolgjaren automatisch invullen");
+    PressKey(Qt::Key_Space);
+    TabTo("Percentage jaar 1");
+    Type("2,5");
+    PressKey(Qt::Key_Return);
+    TabTo("Vervolgjaren automatisch invullen");
+    PressKey(Qt::Key_Space);
     // One year grows by another percentage.
-    TabNaar("Percentage jaar 10");
-    Typ("4");
-    Toets(Qt::Key_Return);
+    TabTo("Percentage jaar 10");
+    Type("4");
+    PressKey(Qt::Key_Return);
     // Three rows at once from a spreadsheet.
-    TabNaar("Percentage jaar 20");
+    TabTo("Percentage jaar 20");
     QApplication::clipboard()->setText("3,25\n1,5\n0\n");
-    Toets(Qt::Key_V, Qt::ControlModifier);
-    QTest::keyClick(FocusVenster(), Qt::Key_O, Qt::AltModifier);
+    PressKey(Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(FocusWindow(), Qt::Key_O, Qt::AltModifier);
   });
-  const QJsonObject velden = LeesNaSluiten();
-  EXPECT_EQ(velden["0/1/bedrag"].toDouble(), 1000);
+  const QJsonObject fields = ReadAfterClosing();
+  EXPECT_EQ(fields["0/1/bedrag"].toDouble(), 1000);
   // Row n begins at month 12 (n - 1) + 1, and an entry stands where the percentage changes. The last row's
   // leads nowhere, so filling in leaves it as it was.
-  const std::map<int, double> verwacht{{1, 2.5},   {109, 4}, {121, 2.5}, {229, 3.25},
+  const std::map<int, double> expected{{1, 2.5},   {109, 4}, {121, 2.5}, {229, 3.25},
                                        {241, 1.5}, {253, 0}, {265, 2.5}, {349, 1}};
-  EXPECT_EQ(Perioden(velden), verwacht);
+  EXPECT_EQ(Perioden(fields), expected);
 }
 
-TEST_F(Scenario, EscapeLaatDePeriodenZoalsZeWaren) {
-  InFormulier([this](QWidget&) {
-    TabNaar("Percentage jaar 5");
-    Typ("9");
-    Toets(Qt::Key_Return);
+TEST_F(ScenarioTest, EscapeLeavesThePeriodsAsTheyWere) {
+  InForm([this](QWidget&) {
+    TabTo("Percentage jaar 5");
+    Type("9");
+    PressKey(Qt::Key_Return);
     // Rows were changed: they would be lost.
-    dialogen_.Verwacht([](QWidget& vraag) {
-      EXPECT_TRUE(qobject_cast<QMessageBox*>(&vraag));
-      QTest::keyClick(vraag.windowHandle(), Qt::Key_J, Qt::AltModifier);
+    dialogs_.Expect([](QWidget& question) {
+      EXPECT_TRUE(qobject_cast<QMessageBox*>(&question));
+      QTest::keyClick(question.windowHandle(), Qt::Key_J, Qt::AltModifier);
     });
-    Toets(Qt::Key_Escape);
+    PressKey(Qt::Key_Escape);
   });
-  const QJsonObject velden = LeesNaSluiten();
-  EXPECT_EQ(velden["0/1/bedrag"].toDouble(), 900);
-  EXPECT_EQ(Perioden(velden), (std::map<int, double>{{1, 1}}));
+  const QJsonObject fields = ReadAfterClosing();
+  EXPECT_EQ(fields["0/1/bedrag"].toDouble(), 900);
+  EXPECT_EQ(Perioden(fields), (std::map<int, double>{{1, 1}}));
 }
 
 }  // namespace
-}  // namespace brivane::dossier
+}  // namespace brivane::app

@@ -6,9 +6,9 @@
 
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/CaseAdapter.h"
+#include "component/automation/HostWindow.h"
 #include "component/automation/LateBound.h"
 #include "component/automation/TraceAdapter.h"
-#include "component/automation/Vensterhouder.h"
 #include "host/Error.h"
 #include "tests/component/automation/FakeObject.h"
 #include "toolkits/memory/Toolkit.h"
@@ -223,15 +223,15 @@ TEST_F(AdaptersTest, TheHostsCheckIsHandedItsOwnApplication) {
 TEST_F(AdaptersTest, AnOwnerIsAHandleOrAnObjectThatHasOne) {
   const HWND window = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
   const auto handle = static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(window));
-  EXPECT_EQ(HandleVan(Variant(handle).Raw()), window);
+  EXPECT_EQ(HandleNamedBy(Variant(handle).Raw()), window);
   const auto object = FakeObject::Make();
   object->Answers(L"hWnd", Variant(handle));
-  EXPECT_EQ(HandleVan(Variant(object->Dispatch().Get()).Raw()), window);
-  EXPECT_EQ(HandleVan(Variant(FakeObject::Make()->Dispatch().Get()).Raw()), nullptr);
-  EXPECT_EQ(HandleVan(Variant(static_cast<IDispatch*>(nullptr)).Raw()), nullptr);
-  EXPECT_EQ(HandleVan(Variant::Missing().Raw()), nullptr);
+  EXPECT_EQ(HandleNamedBy(Variant(object->Dispatch().Get()).Raw()), window);
+  EXPECT_EQ(HandleNamedBy(Variant(FakeObject::Make()->Dispatch().Get()).Raw()), nullptr);
+  EXPECT_EQ(HandleNamedBy(Variant(static_cast<IDispatch*>(nullptr)).Raw()), nullptr);
+  EXPECT_EQ(HandleNamedBy(Variant::Missing().Raw()), nullptr);
   DestroyWindow(window);
-  EXPECT_EQ(HandleVan(Variant(handle).Raw()), nullptr);
+  EXPECT_EQ(HandleNamedBy(Variant(handle).Raw()), nullptr);
 }
 
 }  // namespace

@@ -74,6 +74,33 @@ TEST(ErrorsTest, AShortCodeGoesBeforeTheResult) {
   EXPECT_EQ(ErrorOf(DISP_E_EXCEPTION, &info).Number(), 1001);
 }
 
+TEST(ErrorsTest, ARecordWithoutWordsGetsThoseOfItsError) {
+  EXCEPINFO info{};
+  info.scode = DISP_E_TYPEMISMATCH;
+  const host::Error result = ErrorOf(DISP_E_EXCEPTION, &info);
+  EXPECT_EQ(result.Number(), 13);
+  EXPECT_EQ(result.Description(), "Type mismatch");
+  EXPECT_EQ(result.Source(), "BrivaneVrijeKolom");
+  info = {};
+  info.wCode = 11;
+  info.bstrSource = SysAllocString(L"Kwandero.Kolom");
+  const host::Error code = ErrorOf(DISP_E_EXCEPTION, &info);
+  EXPECT_EQ(code.Number(), 11);
+  EXPECT_EQ(code.Description(), "Division by zero");
+  EXPECT_EQ(code.Source(), "Kwandero.Kolom");
+  info = {};
+  const host::Error nothing = ErrorOf(DISP_E_EXCEPTION, &info);
+  EXPECT_EQ(nothing.Number(), 440);
+  EXPECT_EQ(nothing.Description(), "Automation error");
+}
+
+TEST(ErrorsTest, WordsThatARecordHasStayAlsoWhereTheyAreNone) {
+  EXCEPINFO info{};
+  info.scode = static_cast<SCODE>(0x800A0000 + 13);
+  info.bstrDescription = SysAllocString(L"");
+  EXPECT_EQ(ErrorOf(DISP_E_EXCEPTION, &info).Description(), "");
+}
+
 TEST(ErrorsTest, ARecordThatIsFilledLaterIsFilled) {
   EXCEPINFO info{};
   info.pfnDeferredFillIn = [](EXCEPINFO* record) -> HRESULT {
@@ -97,9 +124,10 @@ TEST_P(ResultTest, MeansTheNumberThatHostsKnow) { EXPECT_EQ(ErrorOf(GetParam().r
 
 INSTANTIATE_TEST_SUITE_P(Results, ResultTest,
                          testing::Values(Meaning{DISP_E_OVERFLOW, 6}, Meaning{E_OUTOFMEMORY, 7},
-                                         Meaning{DISP_E_BADINDEX, 9}, Meaning{DISP_E_TYPEMISMATCH, 13},
-                                         Meaning{DISP_E_UNKNOWNNAME, 438}, Meaning{DISP_E_MEMBERNOTFOUND, 438},
-                                         Meaning{DISP_E_PARAMNOTOPTIONAL, 449}, Meaning{DISP_E_BADPARAMCOUNT, 450},
+                                         Meaning{DISP_E_DIVBYZERO, 11}, Meaning{DISP_E_BADINDEX, 9},
+                                         Meaning{DISP_E_TYPEMISMATCH, 13}, Meaning{DISP_E_UNKNOWNNAME, 438},
+                                         Meaning{DISP_E_MEMBERNOTFOUND, 438}, Meaning{DISP_E_PARAMNOTOPTIONAL, 449},
+                                         Meaning{DISP_E_BADPARAMCOUNT, 450},
                                          Meaning{static_cast<HRESULT>(0x800A005B), 91},
                                          Meaning{RPC_E_DISCONNECTED, static_cast<std::int32_t>(RPC_E_DISCONNECTED)}));
 

@@ -67,7 +67,7 @@ TEST_F(AtlEditorTest, TheEditorStandsInItsWindowAndIsBound) {
   ::GetClientRect(Frame(), &frame);
   EXPECT_EQ(frame.right, 900);
 
-  const auto application = voorbeeld::NewApplication(window_);
+  const auto application = example::NewApplication(window_);
   EXPECT_EQ(control_.As<IVrijeKolom>()->SetApplication(application.Get(), 0, 1), S_OK);
   Destroy();
   application->AddRef();
@@ -104,7 +104,7 @@ TEST_F(AtlEditorTest, TakesTheFocusInItsFirstPart) {
 TEST_F(AtlEditorTest, LosesNothingInAHundredWindows) {
   const auto once = [&] {
     Create(CLSID_VrijeKolom);
-    control_.As<IVrijeKolom>()->SetApplication(voorbeeld::NewApplication(window_).Get(), 0, 1);
+    control_.As<IVrijeKolom>()->SetApplication(example::NewApplication(window_).Get(), 0, 1);
     Pump();
     Destroy();
   };

@@ -62,7 +62,7 @@ class EditorTest : public ::testing::Test {
 
   void Open() {
     window_.emplace();
-    application_ = voorbeeld::NewApplication(window_->Handle());
+    application_ = example::NewApplication(window_->Handle());
     ASSERT_EQ(window_->Open(application_.Get()), S_OK);
     ::SetForegroundWindow(window_->Handle());
     Pump();
@@ -108,7 +108,7 @@ class EditorTest : public ::testing::Test {
 
   Ole ole_;
   Library library_;
-  std::optional<voorbeeld::MainWindow> window_;
+  std::optional<example::MainWindow> window_;
   ComPtr<IDispatch> application_;
 };
 
@@ -227,7 +227,7 @@ TEST_F(EditorTest, AColourOfTheHostsIsKeptWithTheForm) {
 }
 
 TEST_F(EditorTest, MayBeClosedByTheHostWhileItTellsAnEvent) {
-  const auto events = ComPtr<voorbeeld::Events>(new voorbeeld::Events);
+  const auto events = ComPtr<example::Events>(new example::Events);
   events->Connect(*window_->Editor().Get());
   bool closed = false;
   events->refreshTopDisplay = [&](const std::wstring&) {
@@ -243,7 +243,7 @@ TEST_F(EditorTest, MayBeClosedByTheHostWhileItTellsAnEvent) {
 
 TEST_F(EditorTest, MayBeClosedByTheHostWhileTheYearByYearFormIsOpen) {
   struct Closing {
-    voorbeeld::MainWindow& window;
+    example::MainWindow& window;
     bool formSeen = false;
     bool closed = false;
   };
@@ -294,8 +294,8 @@ TEST(Unloading, TheLibraryLeavesTheProcessWhenNothingOfItIsInUse) {
   const Ole ole;
   {
     Library library;
-    voorbeeld::MainWindow window;
-    const auto application = voorbeeld::NewApplication(window.Handle());
+    example::MainWindow window;
+    const auto application = example::NewApplication(window.Handle());
     ASSERT_EQ(window.Open(application.Get()), S_OK);
     Pump();
     EXPECT_FALSE(library.CanUnload());

@@ -79,7 +79,7 @@ class LookTest : public ::testing::Test {
  protected:
   /// The example's window as wide as the editor is designed, the focus beside the editor.
   void SetUp() override {
-    application_ = voorbeeld::NewApplication(window_.Handle());
+    application_ = example::NewApplication(window_.Handle());
     ASSERT_EQ(window_.Open(application_.Get()), S_OK);
     RECT room{0, 0, kWidth + 24, 600};
     ::AdjustWindowRectEx(&room, WS_OVERLAPPEDWINDOW, FALSE, 0);
@@ -122,7 +122,7 @@ class LookTest : public ::testing::Test {
 
   Ole ole_;
   Library library_;
-  voorbeeld::MainWindow window_;
+  example::MainWindow window_;
   ComPtr<IDispatch> application_;
 };
 

@@ -105,7 +105,7 @@ TEST_F(ControlTest, SaysWhatItIs) {
   EXPECT_EQ(id, kDummyClass);
   LPOLESTR name = nullptr;
   EXPECT_EQ(container.Object().GetUserType(USERCLASSTYPE_FULL, &name), S_OK);
-  EXPECT_STREQ(name, L"Proefvlak");
+  EXPECT_STREQ(name, L"TestArea");
   ::CoTaskMemFree(name);
   DWORD status = 0;
   EXPECT_EQ(container.Object().GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);

@@ -52,6 +52,13 @@ class DrawingTest : public ControlTest {
   }
 };
 
+TEST_F(DrawingTest, LeavesTheCallersContextAsItWas) {
+  const Paper paper(300, 200);
+  ::SetStretchBltMode(paper.Drawing(), BLACKONWHITE);
+  EXPECT_EQ(Draw(paper, {10, 20, 210, 120}), S_OK);
+  EXPECT_EQ(::GetStretchBltMode(paper.Drawing()), BLACKONWHITE);
+}
+
 TEST_F(DrawingTest, DrawsItselfWithItsBoxesBeforeItWasEverOnTheScreen) {
   dummy->SetBackColor(kMint);
   const Paper paper(300, 200);

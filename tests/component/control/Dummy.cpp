@@ -8,7 +8,7 @@ namespace brivane::component::test {
 
 namespace {
 
-constexpr wchar_t kAreaClass[] = L"BrivaneProefvlak";
+constexpr wchar_t kAreaClass[] = L"BrivaneTestArea";
 
 /// The area in its background colour, which is kept with its window.
 LRESULT CALLBACK AreaProcedure(HWND window, UINT message, WPARAM wide, LPARAM lng) {

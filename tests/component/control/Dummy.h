@@ -28,7 +28,7 @@ class Dummy final : public IUnknown, public Subject {
 
   [[nodiscard]] IUnknown& Outer() override { return *this; }
   [[nodiscard]] const CLSID& ClassId() const override { return kDummyClass; }
-  [[nodiscard]] const wchar_t* UserType() const override { return L"Proefvlak"; }
+  [[nodiscard]] const wchar_t* UserType() const override { return L"TestArea"; }
   [[nodiscard]] HWND Window() override { return area_.handle; }
   [[nodiscard]] component::Extent Extent() const override { return extent_; }
   void SetWidth(host::Twips width) override;

@@ -9,7 +9,10 @@
 
 namespace brivane::component {
 
-/// Tests of the registered library, as a compiled host reaches it. After each the library must be out of memory.
+inline constexpr const wchar_t* kLibrary = L"BrivaneVrijeKolomTest.dll";
+
+/// Tests of the registered library with the door, as a compiled host reaches it. After each the library must be out of
+/// memory.
 class ComponentTest : public testing::Test {
  protected:
   ComponentTest() { OleInitialize(nullptr); }
@@ -19,7 +22,7 @@ class ComponentTest : public testing::Test {
     OleUninitialize();
   }
 
-  static bool IsLoaded() { return GetModuleHandleW(L"BrivaneVrijeKolom.dll") != nullptr; }
+  static bool IsLoaded() { return GetModuleHandleW(kLibrary) != nullptr; }
   /// Takes the messages that wait, and lets go of libraries that are not in use.
   static void Unload() {
     MSG message;
@@ -31,12 +34,12 @@ class ComponentTest : public testing::Test {
     EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(object.Put())), S_OK);
     return object;
   }
-  template <class Interface> static ComPtr<IProefdeur> DoorOf(const ComPtr<Interface>& object) {
-    ComPtr<IProefdeur> door;
-    object.template As<IProefdeurHouder>()->Proefdeur(door.Put());
+  template <class Interface> static ComPtr<ITestDoor> DoorOf(const ComPtr<Interface>& object) {
+    ComPtr<ITestDoor> door;
+    object.template As<ITestDoorHolder>()->TestDoor(door.Put());
     return door;
   }
-  static SHORT Perform(const ComPtr<IProefdeur>& door, const wchar_t* element, const wchar_t* action, Variant value) {
+  static SHORT Perform(const ComPtr<ITestDoor>& door, const wchar_t* element, const wchar_t* action, Variant value) {
     SHORT outcome = -1;
     const BSTR name = SysAllocString(element);
     const BSTR verb = SysAllocString(action);

@@ -170,6 +170,21 @@ TEST_P(ContainedTest, TellsNoEventsWhileTheyAreFrozen) {
   EXPECT_EQ(host.reports, 0);
 }
 
+TEST_P(ContainedTest, ItsVerbsAreFoundWhereItSaysThatTheyAre) {
+  const auto control = New();
+  ComPtr<IEnumOLEVERB> verbs;
+  ASSERT_EQ(control.As<IOleObject>()->EnumVerbs(verbs.Put()), OLE_S_USEREG);
+  ASSERT_EQ(OleRegEnumVerbs(*GetParam(), verbs.Put()), S_OK);
+  OLEVERB verb{};
+  ULONG fetched = 0;
+  ASSERT_EQ(verbs->Next(1, &verb, &fetched), S_OK);
+  EXPECT_EQ(verb.lVerb, OLEIVERB_PRIMARY);
+  EXPECT_STREQ(verb.lpszVerbName, L"&Bewerken");
+  EXPECT_EQ(verb.grfAttribs, static_cast<DWORD>(OLEVERBATTRIB_ONCONTAINERMENU));
+  CoTaskMemFree(verb.lpszVerbName);
+  EXPECT_EQ(verbs->Next(1, &verb, &fetched), S_FALSE);
+}
+
 INSTANTIATE_TEST_SUITE_P(Controls, ContainedTest, testing::Values(&CLSID_VrijeKolom, &CLSID_Toelichting),
                          [](const auto& control) {
                            return *control.param == CLSID_VrijeKolom ? "VrijeKolom" : "Toelichting";

@@ -69,15 +69,15 @@ class HostClassesTest : public ComponentTest {
     SysFreeString(name);
   }
 
-  HostClass tracers_{kTracer, L"{2C1F7A52-6A5E-4B0E-9A41-770D52115B01}", L"BrivaneProef.Tracer", PrepareTracer};
-  HostClass checks_{kCheck, L"{2C1F7A52-6A5E-4B0E-9A41-770D52115B02}", L"BrivaneProef.Check",
+  HostClass tracers_{kTracer, L"{2C1F7A52-6A5E-4B0E-9A41-770D52115B01}", L"BrivaneTest.Tracer", PrepareTracer};
+  HostClass checks_{kCheck, L"{2C1F7A52-6A5E-4B0E-9A41-770D52115B02}", L"BrivaneTest.Check",
                     [](FakeObject& check) { check.Answers(L"Controleer", Variant()); }};
 };
 
 TEST_F(HostClassesTest, TheTracerThatTheHostNamesIsMadeOnceForEachControl) {
   FakeHost host;
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  SetTracer(editor, L"BrivaneProef.Tracer");
+  SetTracer(editor, L"BrivaneTest.Tracer");
   EXPECT_TRUE(tracers_.made.empty()) << "it is made when it is used first";
   editor->SetApplication(host.application.Get(), 0, 1);
   editor->SetApplication(host.application.Get(), 0, 1);
@@ -89,7 +89,7 @@ TEST_F(HostClassesTest, TheTracerThatTheHostNamesIsMadeOnceForEachControl) {
 TEST_F(HostClassesTest, ANameThatIsTakenAwayLeavesTheLibrarysOwn) {
   FakeHost host;
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  SetTracer(editor, L"BrivaneProef.Tracer");
+  SetTracer(editor, L"BrivaneTest.Tracer");
   editor->SetApplication(host.application.Get(), 0, 1);
   const std::size_t told = tracers_.made.at(0)->accesses.size();
   SetTracer(editor, L"");
@@ -101,7 +101,7 @@ TEST_F(HostClassesTest, ANameThatIsTakenAwayLeavesTheLibrarysOwn) {
 TEST_F(HostClassesTest, TheCheckThatTheHostNamesIsCalledByACompleteValidation) {
   FakeHost host;
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  const BSTR name = SysAllocString(L"BrivaneProef.Check");
+  const BSTR name = SysAllocString(L"BrivaneTest.Check");
   EXPECT_EQ(editor->put_DossierControleKlasse(name), S_OK);
   SysFreeString(name);
   editor->SetApplication(host.application.Get(), 0, 1);
@@ -116,18 +116,18 @@ TEST_F(HostClassesTest, TheCheckThatTheHostNamesIsCalledByACompleteValidation) {
 
 TEST_F(HostClassesTest, ANameThatIsRegisteredServesTheCreationToo) {
   const std::wstring key = L"Software\\Classes\\CLSID\\{9E623786-EB13-493A-A455-FD19036B8E3E}\\HostClasses";
-  HostClass::Write(key, L"ProcedureTrace", L"BrivaneProef.Tracer");
+  HostClass::Write(key, L"ProcedureTrace", L"BrivaneTest.Tracer");
   {
     const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
     ASSERT_EQ(tracers_.made.size(), 1U);
     EXPECT_EQ(Entered(*tracers_.made[0].Get()), "Fill_Listview;");
     BSTR name = nullptr;
     EXPECT_EQ(editor->get_ProcedureTraceKlasse(&name), S_OK);
-    EXPECT_EQ(FromBstr(name), "BrivaneProef.Tracer");
+    EXPECT_EQ(FromBstr(name), "BrivaneTest.Tracer");
     SysFreeString(name);
   }
   // A class that cannot be made fails the creation, which leaves nothing behind.
-  HostClass::Write(key, L"ProcedureTrace", L"BrivaneProef.BestaatNiet");
+  HostClass::Write(key, L"ProcedureTrace", L"BrivaneTest.DoesNotExist");
   ComPtr<IVrijeKolom> none;
   EXPECT_EQ(CoCreateInstance(CLSID_VrijeKolom, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(none.Put())),
             static_cast<HRESULT>(0x800A0000 + 429));

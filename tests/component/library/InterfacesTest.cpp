@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "component/automation/Bstr.h"
 #include "component/automation/LateBound.h"
 #include "tests/component/library/ComponentTest.h"
 
@@ -73,13 +74,23 @@ std::string Declaration(ITypeInfo& info, const FUNCDESC& function) {
   return text + ")";
 }
 
+ComPtr<ITypeLib> TheLibrary() {
+  ComPtr<ITypeLib> library;
+  LoadRegTypeLib(LIBID_BrivaneVrijeKolom, 1, 0, LOCALE_NEUTRAL, library.Put());
+  return library;
+}
+
+ComPtr<ITypeInfo> Description(const IID& iid) {
+  ComPtr<ITypeInfo> info;
+  if (const auto library = TheLibrary()) library->GetTypeInfoOfGuid(iid, info.Put());
+  return info;
+}
+
 /// The members of an interface in their order. Those of a dual interface are its methods in memory, one behind the
 /// other after the seven of IDispatch.
 Texts Declarations(const IID& iid) {
-  ComPtr<ITypeLib> library;
-  ComPtr<ITypeInfo> info;
-  if (FAILED(LoadRegTypeLib(LIBID_BrivaneVrijeKolom, 1, 0, LOCALE_NEUTRAL, library.Put()))) return {};
-  if (FAILED(library->GetTypeInfoOfGuid(iid, info.Put()))) return {};
+  ComPtr<ITypeInfo> info = Description(iid);
+  if (!info) return {};
   HREFTYPE methods = 0;
   const bool isDual = info->GetRefTypeOfImplType(static_cast<UINT>(-1), &methods) == S_OK;
   if (isDual) {
@@ -105,10 +116,7 @@ Texts Declarations(const IID& iid) {
 }
 
 bool IsDual(const IID& iid) {
-  ComPtr<ITypeLib> library;
-  ComPtr<ITypeInfo> info;
-  LoadRegTypeLib(LIBID_BrivaneVrijeKolom, 1, 0, LOCALE_NEUTRAL, library.Put());
-  library->GetTypeInfoOfGuid(iid, info.Put());
+  const ComPtr<ITypeInfo> info = Description(iid);
   TYPEATTR* attributes = nullptr;
   info->GetTypeAttr(&attributes);
   const bool isDual = attributes->typekind == TKIND_DISPATCH && (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
@@ -152,6 +160,39 @@ TEST_F(InterfacesTest, TheEventsAreInTheirOrder) {
   EXPECT_EQ(Declarations(DIID_DToelichtingEvents), (Texts{"1 Changed()"}));
 }
 
+/// The words that a person reads of a description, as its letters were written.
+Texts HelpOf(ITypeInfo& info) {
+  Texts texts;
+  FUNCDESC* function = nullptr;
+  for (UINT i = 0; SUCCEEDED(info.GetFuncDesc(i, &function)); ++i) {
+    Bstr help;
+    info.GetDocumentation(function->memid, nullptr, help.Put(), nullptr, nullptr);
+    texts.push_back(Narrow(help.View()));
+    info.ReleaseFuncDesc(function);
+  }
+  return texts;
+}
+
+TEST_F(InterfacesTest, HelpIsWrittenInLettersThatEveryReaderHas) {
+  const Texts help = HelpOf(*Description(IID_IfrmScenario).Get());
+  ASSERT_GE(help.size(), 7U);
+  for (const std::string& text : help)
+    for (const char letter : text) EXPECT_TRUE(letter >= ' ' && letter <= '~') << text;
+}
+
+TEST_F(InterfacesTest, TheListsTextIsSpelledAsItIsDeclared) {
+  const Texts list = Declarations(IID_IKeuzelijst);
+  EXPECT_EQ(list.back(), "7 get Text([out retval] BSTR*)");
+}
+
+TEST_F(InterfacesTest, TheDescriptionDoesNotTellWhenItWasMade) {
+  // Compilers of descriptions leave the time as a value of the library's own.
+  constexpr GUID kTime{0xde77ba63, 0x517c, 0x11d1, {0xa2, 0xda, 0x00, 0x00, 0xf8, 0x77, 0x3c, 0xe9}};
+  Variant time;
+  ASSERT_EQ(TheLibrary().As<ITypeLib2>()->GetCustData(kTime, time.Put()), S_OK);
+  EXPECT_EQ(As<std::int32_t>(time), 0);
+}
+
 TEST_F(InterfacesTest, EachClassTellsItsClassAndItsEvents) {
   const auto editor = Create<IProvideClassInfo2>(CLSID_VrijeKolom);
   ComPtr<ITypeInfo> info;
@@ -175,7 +216,7 @@ TEST_F(InterfacesTest, AClassThatTheLibraryDoesNotHaveIsRefused) {
   ASSERT_EQ(CoGetClassObject(CLSID_VrijeKolom, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(factory.Put())), S_OK);
   using Function = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
   const auto get = reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllGetClassObject")));
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(kLibrary), "DllGetClassObject")));
   void* out = factory.Get();
   EXPECT_EQ(get(CLSID_StdGlobalInterfaceTable, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);
@@ -350,6 +391,65 @@ TEST_F(InterfacesTest, ListenersAreFoundCountedAndLetGo) {
   EXPECT_EQ(one.Get(), point.Get());
 }
 
+/// An object that hands out one interface for the events and another for calls by name, as a compiled class with more
+/// than one set of members does.
+class TwoFaces final : public IUnknown {
+ public:
+  class Face final : public IDispatch {
+   public:
+    explicit Face(TwoFaces& whole) : whole_(whole) {}
+    std::vector<DISPID> told;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** out) override { return whole_.QueryInterface(iid, out); }
+    STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+    STDMETHODIMP_(ULONG) Release() override { return 1; }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+      told.push_back(id);
+      return S_OK;
+    }
+
+   private:
+    TwoFaces& whole_;
+  };
+
+  Face events{*this};
+  Face own{*this};
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    *out = nullptr;
+    if (iid == IID_IUnknown) *out = this;
+    if (iid == IID_IDispatch) *out = &own;
+    if (iid == DIID_DVrijeKolomEvents) *out = &events;
+    return *out ? S_OK : E_NOINTERFACE;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+};
+
+TEST_F(InterfacesTest, EventsGoToTheInterfaceThatWasAskedFor) {
+  FakeHost host;
+  TwoFaces listener;
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IConnectionPoint> point;
+  editor.As<IConnectionPointContainer>()->FindConnectionPoint(DIID_DVrijeKolomEvents, point.Put());
+  DWORD cookie = 0;
+  ASSERT_EQ(point->Advise(&listener, &cookie), S_OK);
+  EXPECT_EQ(editor->SetApplication(host.application.Get(), 0, 1), S_OK);
+  EXPECT_EQ(listener.events.told, std::vector<DISPID>{2}) << "HeightChanged";
+  EXPECT_TRUE(listener.own.told.empty());
+}
+
+TEST_F(InterfacesTest, WhoDoesNotListenToPropertiesCannotBeConnectedForThem) {
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IConnectionPoint> point;
+  editor.As<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, point.Put());
+  DWORD cookie = 0;
+  EXPECT_EQ(point->Advise(FakeObject::Make().Get(), &cookie), CONNECT_E_CANNOTCONNECT);
+}
+
 TEST_F(InterfacesTest, AListenerThatFailsDisturbsNobody) {
   FakeHost host;
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
@@ -370,11 +470,11 @@ TEST_F(InterfacesTest, TheHostsClassesAreMadeByTheirNames) {
   FakeHost host;
   host.application->members[L"ReportError"] = [](const auto&) { return Variant(); };
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
-  BSTR name = SysAllocString(L"Brivane.BestaatNiet");
+  BSTR name = SysAllocString(L"Brivane.DoesNotExist");
   EXPECT_EQ(editor->put_ProcedureTraceKlasse(name), S_OK);
   SysFreeString(name);
   EXPECT_EQ(editor->get_ProcedureTraceKlasse(&name), S_OK);
-  EXPECT_EQ(FromBstr(name), "Brivane.BestaatNiet");
+  EXPECT_EQ(FromBstr(name), "Brivane.DoesNotExist");
   SysFreeString(name);
   // A tracer that cannot be made fails the procedure that needs it.
   EXPECT_EQ(editor->SetApplication(host.application.Get(), 0, 1), static_cast<HRESULT>(0x800A0000 + 429));

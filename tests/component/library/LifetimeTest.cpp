@@ -14,7 +14,7 @@ namespace {
 HRESULT CanUnloadNow() {
   using Function = HRESULT(WINAPI*)();
   const auto function = reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"BrivaneVrijeKolom.dll"), "DllCanUnloadNow")));
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(kLibrary), "DllCanUnloadNow")));
   return function ? function() : E_FAIL;
 }
 

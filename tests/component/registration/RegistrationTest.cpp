@@ -13,7 +13,7 @@ namespace brivane::component {
 namespace {
 
 constexpr const wchar_t* kPath = L"C:\\dir\\BrivaneVrijeKolom.dll";
-constexpr const wchar_t* kPlace = L"Software\\BrivaneProef";
+constexpr const wchar_t* kPlace = L"Software\\BrivaneTest";
 constexpr const wchar_t* kProgId = L"Software\\Classes\\BrivaneVrijeKolom.VrijeKolom";
 
 bool Has(HKEY root, const std::wstring& key) {

@@ -66,6 +66,8 @@ void ExpectClass(Values& values, const ClassText& text, const std::wstring& path
     // 1 recompose on resize, 16 cannot be linked inside, 128 inside-out, 256 active when visible, 131072 site first
     values[key + L"\\MiscStatus\\1"] = L"131473";
     values[key + L"\\ToolboxBitmap32"] = path + L", " + text.bitmap;
+    // Its only verb: no menu flags, on the container's menu.
+    values[key + L"\\Verb\\0"] = L"&Bewerken, 0, 2";
     values[key + L"\\Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}"] = L"";
   }
   values[progId] = text.description;

@@ -5,7 +5,7 @@
 #include "component/automation/Errors.h"
 #include "host/Error.h"
 
-namespace brivane::proef {
+namespace brivane::relay {
 
 using namespace component;
 
@@ -103,4 +103,4 @@ STDMETHODIMP EventSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* argume
   });
 }
 
-}  // namespace brivane::proef
+}  // namespace brivane::relay

@@ -5,7 +5,7 @@
 
 #include "component/automation/LateBound.h"
 
-namespace brivane::proef {
+namespace brivane::relay {
 
 /// Listens to an object's own events and hands each on to a member of the same name of another object.
 class EventSink final : public IDispatch {
@@ -37,4 +37,4 @@ class EventSink final : public IDispatch {
   ULONG count_ = 1;
 };
 
-}  // namespace brivane::proef
+}  // namespace brivane::relay

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Proefdeur_idl.h"
+#include "TestDoor_idl.h"
 
 namespace brivane::latebound {
 
@@ -102,10 +102,10 @@ controls::ControlDump ToDump(const Variant& control) {
 }  // namespace
 
 Ptr<IDispatch> DoorOf(IUnknown& object) {
-  Ptr<IProefdeurHouder> holder;
-  Ptr<IProefdeur> door;
-  Check(object.QueryInterface(IID_IProefdeurHouder, holder.OutVoid()), "the object has no test door");
-  Check(holder->Proefdeur(door.Out()), "the object's test door does not open");
+  Ptr<ITestDoorHolder> holder;
+  Ptr<ITestDoor> door;
+  Check(object.QueryInterface(IID_ITestDoorHolder, holder.OutVoid()), "the object has no test door");
+  Check(holder->TestDoor(door.Out()), "the object's test door does not open");
   return Ptr<IDispatch>(door.get());
 }
 

@@ -46,6 +46,17 @@ template <class Interface> class Members {
         });
     return *this;
   }
+  /// A field of a table.
+  template <class... Kind> void Add(const host::Field<Interface, Kind...>& field) {
+    Value(Wide(field.name), field.get, field.set);
+  }
+  template <class... Kind> void Add(const host::ReadOnlyField<Interface, Kind...>& field) {
+    Value(Wide(field.name), field.get);
+  }
+  template <class Values, class T, class Given, std::size_t count>
+  void Add(const host::NumberedField<Interface, Values, T, Given, count>& field) {
+    Indexed(Wide(field.name), field.get, field.set);
+  }
   /// Another object of the host, by itself or by number.
   template <class Wrap, class T, class... Numbers>
   Members& Object(std::wstring name, Wrap wrap, std::shared_ptr<T> (Interface::*read)(Numbers...)) {
@@ -76,6 +87,7 @@ template <class Interface> class Members {
     return [&]<std::size_t... I>(std::index_sequence<I...>) { return use(FromVariant<Held<Given>>(*given[I])...); }
     (std::index_sequence_for<Given...>());
   }
+  static std::wstring Wide(std::string_view name) { return {name.begin(), name.end()}; }
   /// A text that is handed on as a view is held as a text meanwhile.
   template <class Given>
   using Held = std::conditional_t<std::is_same_v<Plain<Given>, std::string_view>, std::string, Plain<Given>>;
@@ -153,35 +165,8 @@ Ptr<IDispatch> HostObjects::Of(const std::shared_ptr<host::VrijeKolomItem>& kolo
   using Host = host::VrijeKolomItem;
   return One(kolom, [this](LateBound&, Members<Host> members) {
     const auto wrap = [this](const auto& inner) { return Of(inner); };
-    members.Value(L"Id", &Host::Id)
-        .Value(L"CorrectieLast", &Host::CorrectieLast, &Host::SetCorrectieLast)
-        .Value(L"CorrectieFiscaal", &Host::CorrectieFiscaal, &Host::SetCorrectieFiscaal)
-        .Value(L"HeffingBij", &Host::HeffingBij, &Host::SetHeffingBij)
-        .Value(L"Omschrijving", &Host::Omschrijving, &Host::SetOmschrijving)
-        .Object(L"Bedrag", wrap, &Host::Bedrag)
-        .Value(L"Termijn", &Host::Termijn, &Host::SetTermijn)
-        .Value(L"InkomenUitArbeid", &Host::InkomenUitArbeid, &Host::SetInkomenUitArbeid)
-        .Value(L"InDagloon", &Host::InDagloon, &Host::SetInDagloon)
-        .Value(L"DatumAanvang", &Host::DatumAanvang, &Host::SetDatumAanvang)
-        .Value(L"Looptijd", &Host::Looptijd, &Host::SetLooptijd)
-        .Value(L"Contractvervaldatum", &Host::Contractvervaldatum, &Host::SetContractvervaldatum)
-        .Value(L"IsProduct", &Host::IsProduct, &Host::SetIsProduct)
-        .Value(L"Maatschappij", &Host::Maatschappij, &Host::SetMaatschappij)
-        .Value(L"MaatschappijNaam", &Host::MaatschappijNaam, &Host::SetMaatschappijNaam)
-        .Value(L"Productsoort", &Host::Productsoort, &Host::SetProductsoort)
-        .Value(L"ProductsoortOmschrijving", &Host::ProductsoortOmschrijving, &Host::SetProductsoortOmschrijving)
-        .Value(L"Productnaam", &Host::Productnaam, &Host::SetProductnaam)
-        .Value(L"UwBemiddeling", &Host::UwBemiddeling, &Host::SetUwBemiddeling)
-        .Indexed(L"Voorstel", &Host::Voorstel, &Host::SetVoorstel)
-        .Value(L"Weergave", &Host::Weergave)
-        .Value(L"Kopregel", &Host::Kopregel)
-        .Value(L"UitsluitenAO", &Host::UitsluitenAO, &Host::SetUitsluitenAO)
-        .Value(L"UitsluitenWW", &Host::UitsluitenWW, &Host::SetUitsluitenWW)
-        .Value(L"UitsluitenLangleven", &Host::UitsluitenLangleven, &Host::SetUitsluitenLangleven)
-        .Value(L"ScenarioOverlijden", &Host::ScenarioOverlijden, &Host::SetScenarioOverlijden)
-        .Value(L"PercentageOvergang", &Host::PercentageOvergang, &Host::SetPercentageOvergang)
-        .Value(L"EinddatumOvergang", &Host::EinddatumOvergang, &Host::SetEinddatumOvergang)
-        .Value(L"EindleeftijdOvergang", &Host::EindleeftijdOvergang, &Host::SetEindleeftijdOvergang);
+    members.Object(L"Bedrag", wrap, &Host::Bedrag);
+    host::ForEach(host::kVrijeKolomFields, [&](const auto& field) { members.Add(field); });
   });
 }
 
@@ -200,13 +185,8 @@ Ptr<IDispatch> HostObjects::Of(const std::shared_ptr<host::BedragObject>& bedrag
 }
 
 Ptr<IDispatch> HostObjects::Of(const std::shared_ptr<host::Periode>& periode) {
-  using Host = host::Periode;
-  return One(periode, [](LateBound&, Members<Host> members) {
-    members.Value(L"Maand", &Host::Maand, &Host::SetMaand)
-        .Value(L"Bedrag", &Host::Bedrag, &Host::SetBedrag)
-        .Value(L"Percentage", &Host::Percentage, &Host::SetPercentage)
-        .Value(L"Korting", &Host::Korting, &Host::SetKorting)
-        .Value(L"Eenmalig", &Host::Eenmalig, &Host::SetEenmalig);
+  return One(periode, [](LateBound&, Members<host::Periode> members) {
+    host::ForEach(host::kPeriodeFields, [&](const auto& field) { members.Add(field); });
   });
 }
 

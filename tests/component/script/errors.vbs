@@ -17,7 +17,7 @@ Class Tracer
   End Sub
 End Class
 
-Class Gereedschap
+Class Tools
   Public tracers : Public last : Public checked : Public kind
   Public Function MakeProcedureTrace(control)
     If control = "VrijeKolom" Then tracers = tracers + 1
@@ -34,7 +34,7 @@ Class Gereedschap
 End Class
 
 ' A column that refuses a new description.
-Class Weigeraar
+Class Refuser
   Public CorrectieLast : Public CorrectieFiscaal : Public HeffingBij : Public Bedrag : Public Termijn
   Public InkomenUitArbeid : Public InDagloon : Public DatumAanvang : Public Looptijd : Public IsProduct
   Public Productsoort : Public Voorstel1 : Public Kopregel
@@ -51,12 +51,12 @@ Class Weigeraar
     Omschrijving = "Krant"
   End Property
   Public Property Let Omschrijving(nieuw)
-    Err.Raise 1234, "Weigeraar", "Omschrijving staat vast"
+    Err.Raise 1234, "Refuser", "Omschrijving staat vast"
   End Property
 End Class
 
 ' A host that takes the tracer away while it is told of a failure.
-Class Wegnemer
+Class Taker
   Public Dossier : Public reports
   Public Sub ReportError(trace)
     reports = reports + 1
@@ -64,21 +64,21 @@ Class Wegnemer
   End Sub
 End Class
 
-Dim relais, host, editor, deur, gereedschap, wegnemer, formulier, cancel
-Set relais = CreateObject("BrivaneProef.Relais")
+Dim relay, host, editor, door, tools, taker, yearForm, cancel
+Set relay = CreateObject("BrivaneTest.Relay")
 Set host = NewHost()
-host.Dossier.HuidigeLening.kolommen.Add "2", New Weigeraar
-Set editor = relais.Maak("BrivaneVrijeKolom.VrijeKolom")
-Set deur = relais.Deur(editor)
-Set gereedschap = New Gereedschap
-gereedschap.tracers = 0
-deur.Callback = gereedschap
+host.Dossier.HuidigeLening.kolommen.Add "2", New Refuser
+Set editor = relay.Make("BrivaneVrijeKolom.VrijeKolom")
+Set door = relay.Door(editor)
+Set tools = New Tools
+tools.tracers = 0
+door.Callback = tools
 
 ' the host fails while an edit is written
 editor.SetApplication host, 0, 2
 Same "bound", 0, host.reports
-gereedschap.last.lines = ""
-Same "edit", 0, deur.Perform("TxtOm", "enter", "Iets")
+tools.last.lines = ""
+Same "edit", 0, door.Perform("TxtOm", "enter", "Iets")
 Same "reported once", 1, host.reports
 Same "with its number", "VrijeKolom|Kwandero|Er is een fout opgetreden.|1234", _
      Left(host.lastReport, Len("VrijeKolom|Kwandero|Er is een fout opgetreden.|1234"))
@@ -91,36 +91,36 @@ editor.SetApplication host, 5, 1
 Same "no such loan", 3, host.reports
 
 ' members that the host does not have
-Set wegnemer = New Wegnemer
-wegnemer.reports = 0
-Same "one tracer so far", 1, gereedschap.tracers
-editor.SetApplication wegnemer, 0, 1
-Same "reported to the new host", 1, wegnemer.reports
+Set taker = New Taker
+taker.reports = 0
+Same "one tracer so far", 1, tools.tracers
+editor.SetApplication taker, 0, 1
+Same "reported to the new host", 1, taker.reports
 Same "and no longer to the other", 3, host.reports
 cancel = False
 editor.Validation cancel
-Same "a tracer that was taken away is made anew", 2, gereedschap.tracers
-Same "its lines", ">Validation < ", gereedschap.last.lines
+Same "a tracer that was taken away is made anew", 2, tools.tracers
+Same "its lines", ">Validation < ", tools.last.lines
 
 ' the host's own check gets the application as it was handed over
 editor.SetApplication host, 0, 1
-deur.Perform "TxtDtAanvang", "enter", DateSerial(2031, 4, 1)
+door.Perform "TxtDtAanvang", "enter", DateSerial(2031, 4, 1)
 editor.Validation cancel
-Same "check called", 1, gereedschap.kind
-Same "with the application itself", True, relais.Zelfde(host, gereedschap.checked)
+Same "check called", 1, tools.kind
+Same "with the application itself", True, relay.Same(host, tools.checked)
 
 ' failures of the library reach the script
-Set formulier = relais.Maak("BrivaneVrijeKolom.frmScenario")
+Set yearForm = relay.Make("BrivaneVrijeKolom.frmScenario")
 On Error Resume Next
-formulier.DisableJaar(51) = True
+yearForm.DisableJaar(51) = True
 Same "out of range", 9, Err.Number
 Same "described", "Subscript out of range", Err.Description
 Same "by the library", "BrivaneVrijeKolom", Err.Source
 Err.Clear
-deur.Perform "TxtNiets", "press"
+door.Perform "TxtNiets", "press"
 Same "no such element", 340, Err.Number
 Err.Clear
-deur.Perform "TxtOm", "dans"
+door.Perform "TxtOm", "dans"
 Same "no such action", 5, Err.Number
 Err.Clear
 editor.SetApplication "geen object", 0, 1
@@ -129,13 +129,13 @@ Err.Clear
 editor.SetApplication host, 40000, 1
 Same "out of 16 bits", 6, Err.Number
 Err.Clear
-editor.Bestaatniet
+editor.DoesNotExist
 Same "no such member", 438, Err.Number
 On Error Goto 0
 
-Set deur = Nothing
-Set formulier = Nothing
+Set door = Nothing
+Set yearForm = Nothing
 Set editor = Nothing
-Same "unloaded", False, relais.Geladen
+Same "unloaded", False, relay.Loaded
 
 Finish 23

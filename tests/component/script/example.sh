@@ -3,5 +3,5 @@
 set -euo pipefail
 expected=$(sed -n '/^It prints$/,/^Under Wine/s/^    //p' README.md)
 [[ -n $expected ]]
-printed=$("$1" cscript //nologo edit.vbs | tr -d '\r')
+printed=$("$1" cscript //nologo host.vbs | tr -d '\r')
 diff <(echo "$expected") <(echo "$printed")

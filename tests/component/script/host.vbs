@@ -222,7 +222,7 @@ Function NewHost()
 End Function
 
 ' Answers message boxes, and keeps what they said.
-Class Antwoorder
+Class Answerer
   Public answer : Public shown
   Public Function Message(title, text, style)
     shown = shown & title & "|" & text & "|" & style & ";"
@@ -231,7 +231,7 @@ Class Antwoorder
 End Class
 
 ' Keeps what an editor told.
-Class Luisteraar
+Class Listener
   Public texts : Public heights : Public changes
   Private Sub Class_Initialize()
     texts = "" : heights = 0 : changes = 0

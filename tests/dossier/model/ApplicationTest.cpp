@@ -19,70 +19,69 @@ class ApplicationTest : public testing::Test {
     gegevens.MaatschappijType = {{"AB", "Alfa Bank"}, {"ab", "Andere Bank"}, {"X1", "Alfa Bank"}, {"ZZ", "Anders"}};
     return gegevens;
   }
-  [[nodiscard]] std::vector<std::string> Regels() const {
-    std::vector<std::string> regels;
-    for (int index = 0; index < lijst_.ListCount(); ++index) regels.push_back(lijst_.List(index));
-    return regels;
+  [[nodiscard]] std::vector<std::string> Lines() const {
+    std::vector<std::string> lines;
+    for (int index = 0; index < list_.ListCount(); ++index) lines.push_back(list_.List(index));
+    return lines;
   }
-  void Vul(const std::string& code, const std::string& leeg = {}, std::optional<std::int32_t> keuze = std::nullopt) {
-    application_.VulCombo(application_.Codetabellen(), "MaatschappijType", lijst_, code, leeg, keuze);
+  void Fill(const std::string& code, const std::string& empty = {}, std::optional<std::int32_t> choice = std::nullopt) {
+    application_.VulCombo(application_.Codetabellen(), "MaatschappijType", list_, code, empty, choice);
   }
-  [[nodiscard]] std::string Zoek(const std::string& tekst, std::string_view tabel = "MaatschappijType") {
-    return application_.ZoekCode(application_.Codetabellen(), tabel, tekst);
+  [[nodiscard]] std::string Find(const std::string& text, std::string_view table = "MaatschappijType") {
+    return application_.ZoekCode(application_.Codetabellen(), table, text);
   }
 
-  Application application_{std::make_shared<Dossier>(Gegevens(), std::make_shared<Omgeving>())};
+  Application application_{std::make_shared<Dossier>(Gegevens(), std::make_shared<Environment>())};
   memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_ = toolkit_.MakeSurface(vrijekolom::kOntwerp);
-  host::ListBox& lijst_ =
-      dynamic_cast<host::ListBox&>(controls::Surface::Of(*surface_).Find("cboMaatschappij")->Host());
+  host::ListBox& list_ = dynamic_cast<host::ListBox&>(controls::Surface::Of(*surface_).Find("cboMaatschappij")->Host());
 };
 
 TEST_F(ApplicationTest, FillsAListInTableOrderAndSelectsTheCode) {
-  Vul("ab");
-  EXPECT_THAT(Regels(), ElementsAre("Alfa Bank", "Andere Bank", "Alfa Bank", "Anders"));
-  EXPECT_EQ(lijst_.ListIndex(), 1);
+  Fill("ab");
+  EXPECT_THAT(Lines(), ElementsAre("Alfa Bank", "Andere Bank", "Alfa Bank", "Anders"));
+  EXPECT_EQ(list_.ListIndex(), 1);
 }
 
 TEST_F(ApplicationTest, SelectsByCodeWhereATextStandsTwice) {
-  Vul("X1");
-  EXPECT_EQ(lijst_.ListIndex(), 2);
+  Fill("X1");
+  EXPECT_EQ(list_.ListIndex(), 2);
 }
 
 TEST_F(ApplicationTest, SelectsNothingForACodeThatIsNotThere) {
-  Vul("Ab");
-  EXPECT_EQ(lijst_.ListIndex(), -1);
-  EXPECT_EQ(lijst_.ListCount(), 4);
+  Fill("Ab");
+  EXPECT_EQ(list_.ListIndex(), -1);
+  EXPECT_EQ(list_.ListCount(), 4);
 }
 
 TEST_F(ApplicationTest, ClearsNothing) {
-  lijst_.Add("stond er al", 77);
-  Vul("AB");
-  EXPECT_EQ(lijst_.ListCount(), 5);
-  EXPECT_EQ(lijst_.Text(), "Alfa Bank");
+  list_.Add("stond er al", 77);
+  Fill("AB");
+  EXPECT_EQ(list_.ListCount(), 5);
+  EXPECT_EQ(list_.Text(), "Alfa Bank");
 }
 
 TEST_F(ApplicationTest, ShowsAnEmptyEntryFirstAndSelectsByNumberWhereNoCodeIsFound) {
-  Vul("", "(geen)", 2);
-  EXPECT_THAT(Regels(), ElementsAre("(geen)", "Alfa Bank", "Andere Bank", "Alfa Bank", "Anders"));
-  EXPECT_EQ(lijst_.ListIndex(), 2);
+  Fill("", "(geen)", 2);
+  EXPECT_THAT(Lines(), ElementsAre("(geen)", "Alfa Bank", "Andere Bank", "Alfa Bank", "Anders"));
+  EXPECT_EQ(list_.ListIndex(), 2);
 }
 
 TEST_F(ApplicationTest, PrefersTheCodeToTheNumber) {
-  Vul("ZZ", "", 1);
-  EXPECT_EQ(lijst_.Text(), "Anders");
+  Fill("ZZ", "", 1);
+  EXPECT_EQ(list_.Text(), "Anders");
 }
 
 TEST_F(ApplicationTest, FindsTheFirstCodeOfATextAndComparesExactly) {
-  EXPECT_EQ(Zoek("Alfa Bank"), "AB");
-  EXPECT_EQ(Zoek("Anders"), "ZZ");
-  EXPECT_EQ(Zoek("alfa bank"), "");
-  EXPECT_EQ(Zoek("Alfa Bank", "OnbekendeTabel"), "");
+  EXPECT_EQ(Find("Alfa Bank"), "AB");
+  EXPECT_EQ(Find("Anders"), "ZZ");
+  EXPECT_EQ(Find("alfa bank"), "");
+  EXPECT_EQ(Find("Alfa Bank", "OnbekendeTabel"), "");
 }
 
 TEST_F(ApplicationTest, NeedsASourceOfItsOwn) {
   EXPECT_THROW(static_cast<void>(application_.ZoekCode(nullptr, "MaatschappijType", "x")), host::Error);
-  EXPECT_THROW(application_.VulCombo(nullptr, "MaatschappijType", lijst_, "AB", "", {}), host::Error);
+  EXPECT_THROW(application_.VulCombo(nullptr, "MaatschappijType", list_, "AB", "", {}), host::Error);
 }
 
 TEST_F(ApplicationTest, AnswersTheSameObjectsAtEachLookUp) {
@@ -99,10 +98,10 @@ TEST_F(ApplicationTest, GivesTheAgeLimitOfTheCase) {
 }
 
 TEST_F(ApplicationTest, HandsTheErrorRecordToItsListener) {
-  std::vector<std::string> gemeld;
-  application_.FoutGemeld.Connect([&](const Foutrecord& fout) {
-    gemeld = {fout.ApplicationTitle, fout.ObjectName,  fout.Caption,          fout.ObjectDescription,
-              fout.Message,          fout.ErrorNumber, fout.ErrorDescription, fout.ErrorSource};
+  std::vector<std::string> told;
+  const host::Subscription errors = application_.FoutGemeld.Connect([&](const host::ErrorRecord& error) {
+    told = {error.ApplicationTitle, error.ObjectName,  error.Caption,          error.ObjectDescription,
+            error.Message,          error.ErrorNumber, error.ErrorDescription, error.ErrorSource};
   });
   Tracer tracer;
   tracer.EnterProcedure("A");
@@ -117,7 +116,7 @@ TEST_F(ApplicationTest, HandsTheErrorRecordToItsListener) {
   tracer.SetErrorDescription("7");
   tracer.SetErrorSource("8");
   application_.ReportError(tracer);
-  EXPECT_THAT(gemeld, ElementsAre("1", "2", "3", "4", "5", "6", "7", "8"));
+  EXPECT_THAT(told, ElementsAre("1", "2", "3", "4", "5", "6", "7", "8"));
 }
 
 }  // namespace

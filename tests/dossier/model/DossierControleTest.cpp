@@ -13,28 +13,28 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const host::Date kVandaag = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
+const host::Date kToday = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
 
-std::vector<std::string> Teksten(const std::vector<Bevinding>& bevindingen) {
-  std::vector<std::string> teksten;
-  for (const Bevinding& bevinding : bevindingen) teksten.push_back(bevinding.tekst);
-  return teksten;
+std::vector<std::string> Texts(const std::vector<Finding>& findings) {
+  std::vector<std::string> texts;
+  for (const Finding& finding : findings) texts.push_back(finding.text);
+  return texts;
 }
 
 /// What is found in a case with one column that is in order but for a change.
-std::vector<std::string> Gevonden(const std::function<void(KolomGegevens&)>& wijziging) {
+std::vector<std::string> Found(const std::function<void(KolomGegevens&)>& change) {
   DossierGegevens gegevens = LeegDossier();
   KolomGegevens kolom;
   kolom.Omschrijving = "Post";
   kolom.Bedrag.Bedrag = 10;
   kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 31});
-  wijziging(kolom);
+  change(kolom);
   gegevens.HuidigeLening.VrijeKolommen = {kolom};
-  Dossier dossier(gegevens, std::make_shared<Omgeving>());
-  return Teksten(ControleerDossier(dossier, kVandaag));
+  Dossier dossier(gegevens, std::make_shared<Environment>());
+  return Texts(ControleerDossier(dossier, kToday));
 }
 
-void MaakProduct(KolomGegevens& kolom) {
+void MakeProduct(KolomGegevens& kolom) {
   kolom.IsProduct = true;
   kolom.Maatschappij = "DM";
   kolom.Productsoort = 44;
@@ -43,46 +43,45 @@ void MaakProduct(KolomGegevens& kolom) {
 }
 
 TEST(ControleerDossier, FindsNothingInTheSample) {
-  Dossier dossier(VoorbeeldDossier(), std::make_shared<Omgeving>());
-  EXPECT_THAT(Teksten(ControleerDossier(dossier, kVandaag)), IsEmpty());
+  Dossier dossier(VoorbeeldDossier(), std::make_shared<Environment>());
+  EXPECT_THAT(Texts(ControleerDossier(dossier, kToday)), IsEmpty());
 }
 
 TEST(ControleerDossier, FindsWhatAColumnLacks) {
-  EXPECT_THAT(Gevonden([](KolomGegevens&) {}), IsEmpty());
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Omschrijving.clear(); }),
+  EXPECT_THAT(Found([](KolomGegevens&) {}), IsEmpty());
+  EXPECT_THAT(Found([](KolomGegevens& kolom) { kolom.Omschrijving.clear(); }),
               ElementsAre("Er is geen omschrijving ingevuld."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Bedrag.Bedrag = 0; }),
-              ElementsAre("Er is geen bedrag ingevuld."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.Termijn = 2; }), ElementsAre("Er is geen termijn gekozen."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) { kolom.HeffingBij = 2; }),
+  EXPECT_THAT(Found([](KolomGegevens& kolom) { kolom.Bedrag.Bedrag = 0; }), ElementsAre("Er is geen bedrag ingevuld."));
+  EXPECT_THAT(Found([](KolomGegevens& kolom) { kolom.Termijn = 2; }), ElementsAre("Er is geen termijn gekozen."));
+  EXPECT_THAT(Found([](KolomGegevens& kolom) { kolom.HeffingBij = 2; }),
               ElementsAre("De post staat op naam van een partner die er niet is."));
 }
 
 TEST(ControleerDossier, TakesAScenarioForAnAmount) {
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
                 kolom.Bedrag.Bedrag = 0;
-                kolom.Bedrag.Perioden = {{.Maand = 12, .Bedrag = 5}};
+                kolom.Bedrag.Perioden = {{{.Maand = 12, .Bedrag = 5}}};
               }),
               IsEmpty());
 }
 
 TEST(ControleerDossier, FindsADurationThatIsOver) {
-  const auto met = [](int looptijd) {
-    return Gevonden([looptijd](KolomGegevens& kolom) {
+  const auto lasting = [](int looptijd) {
+    return Found([looptijd](KolomGegevens& kolom) {
       kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 21});
       kolom.Looptijd = looptijd;
     });
   };
   // 21 January plus ten months is today.
-  EXPECT_THAT(met(10), ElementsAre("De looptijd van de post is voorbij."));
-  EXPECT_THAT(met(11), IsEmpty());
-  EXPECT_THAT(met(0), IsEmpty());
-  EXPECT_THAT(met(2147483647), IsEmpty());
+  EXPECT_THAT(lasting(10), ElementsAre("De looptijd van de post is voorbij."));
+  EXPECT_THAT(lasting(11), IsEmpty());
+  EXPECT_THAT(lasting(0), IsEmpty());
+  EXPECT_THAT(lasting(2147483647), IsEmpty());
 }
 
 TEST(ControleerDossier, CountsADurationInWholeMonths) {
   // 22 January plus ten months is tomorrow.
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
                 kolom.DatumAanvang = frame::MakeDate({.year = 2026, .month = 1, .day = 22});
                 kolom.Looptijd = 10;
               }),
@@ -90,29 +89,29 @@ TEST(ControleerDossier, CountsADurationInWholeMonths) {
 }
 
 TEST(ControleerDossier, FindsWhatAProductLacks) {
-  EXPECT_THAT(Gevonden(MaakProduct), IsEmpty());
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
-                MaakProduct(kolom);
+  EXPECT_THAT(Found(MakeProduct), IsEmpty());
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
+                MakeProduct(kolom);
                 kolom.Maatschappij = "dm";
               }),
               ElementsAre("Er is geen maatschappij gekozen."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
-                MaakProduct(kolom);
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
+                MakeProduct(kolom);
                 kolom.Maatschappij = "ZZ";
               }),
               ElementsAre("De naam van de andere maatschappij ontbreekt."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
-                MaakProduct(kolom);
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
+                MakeProduct(kolom);
                 kolom.Contractvervaldatum = {};
               }),
               ElementsAre("Er is geen contractvervaldatum ingevuld."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
-                MaakProduct(kolom);
-                kolom.Contractvervaldatum = kVandaag;
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
+                MakeProduct(kolom);
+                kolom.Contractvervaldatum = kToday;
               }),
               ElementsAre("Het contract is vervallen."));
-  EXPECT_THAT(Gevonden([](KolomGegevens& kolom) {
-                MaakProduct(kolom);
+  EXPECT_THAT(Found([](KolomGegevens& kolom) {
+                MakeProduct(kolom);
                 kolom.Productsoort = 99;
                 kolom.Looptijd = 1;
               }),
@@ -122,33 +121,34 @@ TEST(ControleerDossier, FindsWhatAProductLacks) {
 TEST(ControleerDossier, FindsAProposalThatEndsWhatTheCurrentSituationHasNot) {
   DossierGegevens gegevens = LeegDossier();
   gegevens.Voorstellen[2] = {5};
-  Dossier dossier(gegevens, std::make_shared<Omgeving>());
-  EXPECT_THAT(Teksten(ControleerDossier(dossier, kVandaag)),
+  Dossier dossier(gegevens, std::make_shared<Environment>());
+  EXPECT_THAT(Texts(ControleerDossier(dossier, kToday)),
               ElementsAre("Voorstel 3 beëindigt een post die niet in de huidige situatie staat."));
 }
 
 TEST(ControleerDossier, SaysWhereItFoundSomething) {
   DossierGegevens gegevens = VoorbeeldDossier();
   gegevens.Leningen[0].VrijeKolommen[1].Omschrijving.clear();
-  Dossier dossier(gegevens, std::make_shared<Omgeving>());
-  const std::vector<Bevinding> bevindingen = ControleerDossier(dossier, kVandaag);
-  ASSERT_EQ(bevindingen.size(), 1u);
-  EXPECT_EQ(bevindingen[0].Len_Id, 1);
-  EXPECT_EQ(bevindingen[0].Vrij_Id, 7);
+  Dossier dossier(gegevens, std::make_shared<Environment>());
+  const std::vector<Finding> findings = ControleerDossier(dossier, kToday);
+  ASSERT_EQ(findings.size(), 1u);
+  EXPECT_EQ(findings[0].Len_Id, 1);
+  EXPECT_EQ(findings[0].Vrij_Id, 7);
 }
 
 TEST(DossierControle, TellsItsListenerWhatThereIsToLookAt) {
-  DossierControle controle([] { return kVandaag; });
-  std::vector<std::string> gevonden;
-  controle.Gecontroleerd.Connect([&](const std::vector<Bevinding>& bevindingen) { gevonden = Teksten(bevindingen); });
+  DossierControle check([] { return kToday; });
+  std::vector<std::string> found;
+  const host::Subscription listening =
+      check.Gecontroleerd.Connect([&](const std::vector<Finding>& findings) { found = Texts(findings); });
   DossierGegevens gegevens = VoorbeeldDossier();
   gegevens.HuidigeLening.VrijeKolommen[0].Omschrijving.clear();
   const auto application =
-      std::make_shared<Application>(std::make_shared<Dossier>(gegevens, std::make_shared<Omgeving>()));
-  controle.Controleer(application, 1);
-  EXPECT_THAT(gevonden, ElementsAre("Er is geen omschrijving ingevuld."));
-  EXPECT_THROW(controle.Controleer(application, 2), host::Error);
-  EXPECT_THROW(controle.Controleer(nullptr, 1), host::Error);
+      std::make_shared<Application>(std::make_shared<Dossier>(gegevens, std::make_shared<Environment>()));
+  check.Controleer(application, 1);
+  EXPECT_THAT(found, ElementsAre("Er is geen omschrijving ingevuld."));
+  EXPECT_THROW(check.Controleer(application, 2), host::Error);
+  EXPECT_THROW(check.Controleer(nullptr, 1), host::Error);
 }
 
 }  // namespace

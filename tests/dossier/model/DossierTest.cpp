@@ -11,8 +11,8 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::shared_ptr<Dossier> MaakDossier(DossierGegevens gegevens = VoorbeeldDossier()) {
-  return std::make_shared<Dossier>(std::move(gegevens), std::make_shared<Omgeving>());
+std::shared_ptr<Dossier> MakeDossier(DossierGegevens gegevens = VoorbeeldDossier()) {
+  return std::make_shared<Dossier>(std::move(gegevens), std::make_shared<Environment>());
 }
 
 std::vector<int> Ids(const Lening& lening) {
@@ -22,9 +22,9 @@ std::vector<int> Ids(const Lening& lening) {
 }
 std::vector<int> Ids(const Dossier& dossier, std::int16_t Len_Id) { return Ids(*dossier.ZoekLening(Len_Id)); }
 
-template <class Function> int FoutVan(Function&& functie) {
+template <class Function> int ErrorOf(Function&& function) {
   try {
-    functie();
+    function();
   } catch (const host::Error& error) {
     return error.Number();
   }
@@ -32,7 +32,7 @@ template <class Function> int FoutVan(Function&& functie) {
 }
 
 TEST(Dossier, AnswersTheCurrentLoanForZeroAndNothingPastTheLast) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   EXPECT_EQ(dossier->Lening(0), dossier->HuidigeLening());
   EXPECT_NE(dossier->Lening(1), nullptr);
   EXPECT_NE(dossier->Lening(2), nullptr);
@@ -42,7 +42,7 @@ TEST(Dossier, AnswersTheCurrentLoanForZeroAndNothingPastTheLast) {
 }
 
 TEST(Dossier, AnswersTheSameObjectAtEachLookUp) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   EXPECT_EQ(dossier->HuidigeLening(), dossier->HuidigeLening());
   EXPECT_EQ(dossier->Lening(1), dossier->Lening(1));
   EXPECT_EQ(dossier->Persoon(1), dossier->Persoon(1));
@@ -55,16 +55,16 @@ TEST(Dossier, AnswersTheSameObjectAtEachLookUp) {
 }
 
 TEST(Dossier, HasOneOrTwoPersons) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   EXPECT_THAT(dossier->Persoon(1)->Naam(), ElementsAre("M.C.", "van den", "Heuvel"));
   EXPECT_NE(dossier->Persoon(2), nullptr);
   EXPECT_EQ(dossier->Persoon(0), nullptr);
   EXPECT_EQ(dossier->Persoon(3), nullptr);
-  EXPECT_EQ(MaakDossier(LeegDossier())->Persoon(2), nullptr);
+  EXPECT_EQ(MakeDossier(LeegDossier())->Persoon(2), nullptr);
 }
 
 TEST(Dossier, KeepsItsOwnListsOfProposals) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   const auto kolom = dossier->ZoekKolom(0, 3);
   dossier->VoegToeAanVoorstel(2, 3);
   dossier->VoegToeAanVoorstel(2, 3);
@@ -78,18 +78,18 @@ TEST(Dossier, KeepsItsOwnListsOfProposals) {
 }
 
 TEST(Dossier, KnowsThreeProposals) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   const auto kolom = dossier->ZoekKolom(0, 3);
   for (const std::int16_t voorstel : {0, 4, -1}) {
-    EXPECT_EQ(FoutVan([&] { dossier->VoegToeAanVoorstel(voorstel, 3); }), 9);
-    EXPECT_EQ(FoutVan([&] { dossier->VerwijderUitVoorstel(voorstel, 3, 0); }), 9);
-    EXPECT_EQ(FoutVan([&] { static_cast<void>(kolom->Voorstel(voorstel)); }), 9);
-    EXPECT_EQ(FoutVan([&] { kolom->SetVoorstel(voorstel, "J"); }), 9);
+    EXPECT_EQ(ErrorOf([&] { dossier->VoegToeAanVoorstel(voorstel, 3); }), 9);
+    EXPECT_EQ(ErrorOf([&] { dossier->VerwijderUitVoorstel(voorstel, 3, 0); }), 9);
+    EXPECT_EQ(ErrorOf([&] { static_cast<void>(kolom->Voorstel(voorstel)); }), 9);
+    EXPECT_EQ(ErrorOf([&] { kolom->SetVoorstel(voorstel, "J"); }), 9);
   }
 }
 
 TEST(Dossier, AddsAColumnWithValidCodesAndAnIdentifierOfItsOwn) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   const auto kolom = dossier->NieuweKolom(1);
   EXPECT_EQ(kolom->Id(), 8);
   EXPECT_EQ(kolom->CorrectieLast(), 1);
@@ -98,11 +98,11 @@ TEST(Dossier, AddsAColumnWithValidCodesAndAnIdentifierOfItsOwn) {
   EXPECT_EQ(kolom->Termijn(), 1);
   EXPECT_EQ(kolom->Bedrag()->Invoersoort(), 1);
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7, 8));
-  EXPECT_EQ(FoutVan([&] { dossier->NieuweKolom(3); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->NieuweKolom(3); }), 91);
 }
 
 TEST(Dossier, GivesNoIdentifierThatAProposalStillNames) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   dossier->VoegToeAanVoorstel(1, 20);
   EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 21);
 }
@@ -111,7 +111,7 @@ TEST(Dossier, FillsTheGapsWhereTheHighestIdentifierIsTaken) {
   DossierGegevens gegevens = LeegDossier();
   gegevens.HuidigeLening.VrijeKolommen.resize(2);
   gegevens.HuidigeLening.VrijeKolommen[1].Id = 32767;
-  const auto dossier = MaakDossier(gegevens);
+  const auto dossier = MakeDossier(gegevens);
   EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 2);
   EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 3);
 }
@@ -119,42 +119,42 @@ TEST(Dossier, FillsTheGapsWhereTheHighestIdentifierIsTaken) {
 TEST(Dossier, RefusesAColumnWhereEveryIdentifierIsTaken) {
   DossierGegevens gegevens = LeegDossier();
   for (int id = 1; id <= 32767; ++id) gegevens.Voorstellen[0].insert(static_cast<std::int16_t>(id));
-  EXPECT_EQ(FoutVan([&] { MaakDossier(gegevens)->NieuweKolom(0); }), 6);
+  EXPECT_EQ(ErrorOf([&] { MakeDossier(gegevens)->NieuweKolom(0); }), 6);
 }
 
 TEST(Dossier, DuplicatesAColumnAsAnItemOfItsOwn) {
-  const auto dossier = MaakDossier();
-  const auto kopie = dossier->Dupliceer(0, 6);
-  EXPECT_EQ(kopie->Id(), 8);
-  EXPECT_EQ(kopie->Omschrijving(), "Tennislidmaatschap");
-  EXPECT_EQ(kopie->Voorstel(1), "");
+  const auto dossier = MakeDossier();
+  const auto copy = dossier->Dupliceer(0, 6);
+  EXPECT_EQ(copy->Id(), 8);
+  EXPECT_EQ(copy->Omschrijving(), "Tennislidmaatschap");
+  EXPECT_EQ(copy->Voorstel(1), "");
   EXPECT_THAT(dossier->Voorstel(1), ElementsAre(6));
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 2, 3, 4, 5, 6, 8));
-  EXPECT_EQ(FoutVan([&] { dossier->Dupliceer(0, 99); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->Dupliceer(0, 99); }), 91);
 }
 
 TEST(Dossier, ACopysPeriodsAreItsOwn) {
-  const auto dossier = MaakDossier();
-  const auto kopie = dossier->Dupliceer(0, 1);
-  EXPECT_EQ(kopie->Gegevens().Bedrag.Perioden.size(), 2u);
-  kopie->Bedrag()->Periode(1)->SetBedrag(1);
-  kopie->Bedrag()->VerwijderPeriode(2);
+  const auto dossier = MakeDossier();
+  const auto copy = dossier->Dupliceer(0, 1);
+  EXPECT_EQ(copy->Gegevens().Bedrag.Perioden.size(), 2u);
+  copy->Bedrag()->Periode(1)->SetBedrag(1);
+  copy->Bedrag()->VerwijderPeriode(2);
   EXPECT_EQ(dossier->ZoekKolom(0, 1)->Bedrag()->Periode(1)->Bedrag(), 310);
   EXPECT_NE(dossier->ZoekKolom(0, 1)->Bedrag()->Periode(2), nullptr);
 }
 
 TEST(Dossier, RemovesAnItemFromTheProposalsWhenNoVersionOfItIsLeft) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   dossier->MaakAfwijking(6, 2);
   dossier->Verwijder(0, 6);
   EXPECT_THAT(dossier->Voorstel(1), ElementsAre(6));
   dossier->Verwijder(2, 6);
   EXPECT_THAT(dossier->Voorstel(1), IsEmpty());
-  EXPECT_EQ(FoutVan([&] { dossier->Verwijder(2, 6); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->Verwijder(2, 6); }), 91);
 }
 
 TEST(Dossier, MovesAColumnUnderItsOwnIdentifier) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   const auto kolom = dossier->ZoekKolom(0, 2);
   EXPECT_EQ(dossier->Verplaats(0, 2, 1), 2);
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 3, 4, 5, 6));
@@ -163,22 +163,22 @@ TEST(Dossier, MovesAColumnUnderItsOwnIdentifier) {
 }
 
 TEST(Dossier, MovesAColumnUnderANewIdentifierWhereItsOwnIsTaken) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   EXPECT_EQ(dossier->Verplaats(1, 1, 0), 8);
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 2, 3, 4, 5, 6, 8));
   EXPECT_EQ(dossier->ZoekKolom(0, 8)->Bedrag()->Bedrag(), 310);
 }
 
 TEST(Dossier, AMoveToTheSameLoanChangesNothing) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   EXPECT_EQ(dossier->Verplaats(0, 2, 0), 2);
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 2, 3, 4, 5, 6));
-  EXPECT_EQ(FoutVan([&] { dossier->Verplaats(0, 99, 0); }), 91);
-  EXPECT_EQ(FoutVan([&] { dossier->Verplaats(0, 2, 9); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->Verplaats(0, 99, 0); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->Verplaats(0, 2, 9); }), 91);
 }
 
 TEST(NieuweSituatie, FollowsTheCurrentOneWhereItHasNoVersionOfItsOwn) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   std::vector<int> ids;
   for (const auto& kolom : dossier->VolgtHuidigeSituatie()) ids.push_back(kolom->Id());
   EXPECT_THAT(ids, ElementsAre(2, 3, 4, 5, 6));
@@ -187,25 +187,25 @@ TEST(NieuweSituatie, FollowsTheCurrentOneWhereItHasNoVersionOfItsOwn) {
 }
 
 TEST(NieuweSituatie, GetsAVersionThatIsEqualAtFirst) {
-  const auto dossier = MaakDossier();
+  const auto dossier = MakeDossier();
   const auto afwijking = dossier->MaakAfwijking(5, 2);
   KolomGegevens kolom = dossier->ZoekKolom(0, 5)->Gegevens();
-  KolomGegevens versie = afwijking->Gegevens();
-  EXPECT_NE(versie.Sleutel, kolom.Sleutel);
-  versie.Sleutel = kolom.Sleutel;
-  versie.Bedrag.Perioden[0].Sleutel = kolom.Bedrag.Perioden[0].Sleutel;
-  EXPECT_EQ(versie, kolom);
+  KolomGegevens version = afwijking->Gegevens();
+  EXPECT_NE(version.Sleutel, kolom.Sleutel);
+  version.Sleutel = kolom.Sleutel;
+  version.Bedrag.Perioden[0].Sleutel = kolom.Bedrag.Perioden[0].Sleutel;
+  EXPECT_EQ(version, kolom);
   EXPECT_TRUE(dossier->HeeftAfwijking(5));
 }
 
 TEST(NieuweSituatie, HasOneVersionOfAnItemInALoan) {
-  const auto dossier = MaakDossier();
-  const auto bestaand = dossier->ZoekKolom(1, 1);
-  EXPECT_EQ(dossier->MaakAfwijking(1, 1), bestaand);
+  const auto dossier = MakeDossier();
+  const auto existing = dossier->ZoekKolom(1, 1);
+  EXPECT_EQ(dossier->MaakAfwijking(1, 1), existing);
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7));
-  EXPECT_EQ(FoutVan([&] { dossier->MaakAfwijking(1, 0); }), 91);
-  EXPECT_EQ(FoutVan([&] { dossier->MaakAfwijking(1, 9); }), 91);
-  EXPECT_EQ(FoutVan([&] { dossier->MaakAfwijking(99, 1); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(1, 0); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(1, 9); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(99, 1); }), 91);
 }
 
 TEST(Lening, FindsTheFirstOfTwoColumnsWithOneIdentifier) {
@@ -213,13 +213,13 @@ TEST(Lening, FindsTheFirstOfTwoColumnsWithOneIdentifier) {
   gegevens.HuidigeLening.VrijeKolommen.resize(2);
   gegevens.HuidigeLening.VrijeKolommen[0].Omschrijving = "eerste";
   gegevens.HuidigeLening.VrijeKolommen[1].Omschrijving = "tweede";
-  const auto lening = MaakDossier(gegevens)->HuidigeLening();
+  const auto lening = MakeDossier(gegevens)->HuidigeLening();
   EXPECT_EQ(lening->VrijeKolommen(1)->Omschrijving(), "eerste");
   EXPECT_EQ(lening->VrijeKolomOp(2)->Omschrijving(), "tweede");
 }
 
 TEST(Lening, CountsPositionsFromOne) {
-  const auto lening = MaakDossier()->HuidigeLening();
+  const auto lening = MakeDossier()->HuidigeLening();
   EXPECT_EQ(lening->VrijeKolomOp(0), nullptr);
   EXPECT_EQ(lening->VrijeKolomOp(1)->Id(), 1);
   EXPECT_EQ(lening->VrijeKolomOp(6)->Id(), 6);
@@ -227,12 +227,12 @@ TEST(Lening, CountsPositionsFromOne) {
   EXPECT_EQ(lening->VrijeKolommen(7), nullptr);
   lening->VerwijderVrijeKolom(2);
   EXPECT_EQ(lening->VrijeKolomOp(2)->Id(), 3);
-  EXPECT_EQ(FoutVan([&] { lening->VerwijderVrijeKolom(6); }), 9);
-  EXPECT_EQ(FoutVan([&] { lening->VerwijderVrijeKolom(0); }), 9);
+  EXPECT_EQ(ErrorOf([&] { lening->VerwijderVrijeKolom(6); }), 9);
+  EXPECT_EQ(ErrorOf([&] { lening->VerwijderVrijeKolom(0); }), 9);
 }
 
 TEST(Bedrag, IsOneNumberUnderTwoNames) {
-  const auto bedrag = MaakDossier()->ZoekKolom(0, 1)->Bedrag();
+  const auto bedrag = MakeDossier()->ZoekKolom(0, 1)->Bedrag();
   bedrag->SetBasisbedrag(12.5);
   EXPECT_EQ(bedrag->Bedrag(), 12.5);
   bedrag->SetBedrag(13.5);
@@ -240,7 +240,7 @@ TEST(Bedrag, IsOneNumberUnderTwoNames) {
 }
 
 TEST(Bedrag, LivesAsLongAsItsColumnIsHeld) {
-  auto dossier = MaakDossier();
+  auto dossier = MakeDossier();
   const auto bedrag = dossier->ZoekKolom(0, 1)->Bedrag();
   dossier->Verwijder(0, 1);
   dossier.reset();
@@ -248,7 +248,7 @@ TEST(Bedrag, LivesAsLongAsItsColumnIsHeld) {
 }
 
 TEST(Bedrag, KeepsItsPeriodsInTheOrderOfAdding) {
-  const auto bedrag = MaakDossier()->ZoekKolom(0, 2)->Bedrag();
+  const auto bedrag = MakeDossier()->ZoekKolom(0, 2)->Bedrag();
   EXPECT_EQ(bedrag->Periode(1), nullptr);
   EXPECT_EQ(bedrag->NieuwePeriode(), 1);
   EXPECT_EQ(bedrag->NieuwePeriode(), 2);
@@ -259,11 +259,11 @@ TEST(Bedrag, KeepsItsPeriodsInTheOrderOfAdding) {
   EXPECT_EQ(bedrag->Periode(1)->Maand(), 12);
   EXPECT_EQ(bedrag->Periode(2), nullptr);
   EXPECT_EQ(bedrag->Periode(0), nullptr);
-  EXPECT_EQ(FoutVan([&] { bedrag->VerwijderPeriode(2); }), 9);
+  EXPECT_EQ(ErrorOf([&] { bedrag->VerwijderPeriode(2); }), 9);
 }
 
 TEST(Bedrag, ANewPeriodIsEmpty) {
-  const auto bedrag = MaakDossier()->ZoekKolom(0, 2)->Bedrag();
+  const auto bedrag = MakeDossier()->ZoekKolom(0, 2)->Bedrag();
   const auto periode = bedrag->Periode(bedrag->NieuwePeriode());
   EXPECT_EQ(periode->Maand(), 0);
   EXPECT_EQ(periode->Bedrag(), 0);
@@ -273,33 +273,33 @@ TEST(Bedrag, ANewPeriodIsEmpty) {
 }
 
 /// Refuses everything.
-class Weigeraar : public Journal {
+class Refuser : public Journal {
  public:
-  void SetField(Sleutel, KolomVeld, const Waarde&) override { Weiger(); }
-  Sleutel AddPeriod(Sleutel) override { return Weiger(); }
-  void SetField(Sleutel, PeriodeVeld, const Waarde&) override { Weiger(); }
-  void RemovePeriod(Sleutel) override { Weiger(); }
-  void AddColumn(Sleutel, KolomGegevens&) override { Weiger(); }
-  void RemoveColumn(Sleutel) override { Weiger(); }
-  void MoveColumn(Sleutel, Sleutel, std::int16_t) override { Weiger(); }
-  void AddLoan(LeningGegevens&) override { Weiger(); }
-  void SetPersons(const std::vector<PersoonGegevens>&) override { Weiger(); }
-  void SetAgeLimit(std::int16_t) override { Weiger(); }
-  void SetProposal(std::int16_t, std::int16_t, Lidmaatschap) override { Weiger(); }
+  void SetField(Sleutel, KolomVeld, const Waarde&) override { Refuse(); }
+  Sleutel AddPeriod(Sleutel) override { return Refuse(); }
+  void SetField(Sleutel, PeriodeVeld, const Waarde&) override { Refuse(); }
+  void RemovePeriod(Sleutel) override { Refuse(); }
+  void AddColumn(Sleutel, KolomGegevens&) override { Refuse(); }
+  void RemoveColumn(Sleutel) override { Refuse(); }
+  void MoveColumn(Sleutel, Sleutel, std::int16_t) override { Refuse(); }
+  void AddLoan(LeningGegevens&) override { Refuse(); }
+  void SetPersons(const std::vector<PersoonGegevens>&) override { Refuse(); }
+  void SetAgeLimit(std::int16_t) override { Refuse(); }
+  void SetProposal(std::int16_t, std::int16_t, Membership) override { Refuse(); }
 
  private:
-  static Sleutel Weiger() { throw host::Error(1013, "vol", "Dossier"); }
+  static Sleutel Refuse() { throw host::Error(1013, "vol", "Dossier"); }
 };
 
 TEST(Journal, RefusingAChangeLeavesTheMemoryAsItWas) {
-  auto omgeving = std::make_shared<Omgeving>();
-  omgeving->Journal = std::make_shared<Weigeraar>();
-  const auto dossier = std::make_shared<Dossier>(VoorbeeldDossier(), omgeving);
+  auto environment = std::make_shared<Environment>();
+  environment->Journal = std::make_shared<Refuser>();
+  const auto dossier = std::make_shared<Dossier>(VoorbeeldDossier(), environment);
   const auto kolom = dossier->ZoekKolom(0, 1);
   const auto bedrag = kolom->Bedrag();
   const auto periode = bedrag->Periode(1);
-  const DossierGegevens eerst = dossier->Gegevens();
-  const std::vector<std::function<void()>> wijzigingen = {
+  const DossierGegevens before = dossier->Gegevens();
+  const std::vector<std::function<void()>> changes = {
       [&] { kolom->SetCorrectieLast(3); },
       [&] { kolom->SetCorrectieFiscaal(1); },
       [&] { kolom->SetHeffingBij(2); },
@@ -347,17 +347,17 @@ TEST(Journal, RefusingAChangeLeavesTheMemoryAsItWas) {
         dossier->SetClient({{.Naam = {"a", "b", "c"}, .Geboortedatum = {}}}, 1);
       },
   };
-  for (std::size_t nummer = 0; nummer < wijzigingen.size(); ++nummer) {
-    SCOPED_TRACE(nummer);
-    EXPECT_EQ(FoutVan(wijzigingen[nummer]), 1013);
-    EXPECT_EQ(dossier->Gegevens(), eerst);
+  for (std::size_t number = 0; number < changes.size(); ++number) {
+    SCOPED_TRACE(number);
+    EXPECT_EQ(ErrorOf(changes[number]), 1013);
+    EXPECT_EQ(dossier->Gegevens(), before);
   }
 }
 
 TEST(Client, IsOneOrTwoPersons) {
-  const auto dossier = MaakDossier();
-  EXPECT_EQ(FoutVan([&] { dossier->SetClient({}, 67); }), 9);
-  EXPECT_EQ(FoutVan([&] { dossier->SetClient(std::vector<PersoonGegevens>(3), 67); }), 9);
+  const auto dossier = MakeDossier();
+  EXPECT_EQ(ErrorOf([&] { dossier->SetClient({}, 67); }), 9);
+  EXPECT_EQ(ErrorOf([&] { dossier->SetClient(std::vector<PersoonGegevens>(3), 67); }), 9);
   dossier->SetClient({{.Naam = {"A.", "", "Alleen"}, .Geboortedatum = host::Date(30000)}}, 70);
   EXPECT_THAT(dossier->Persoon(1)->Naam(), ElementsAre("A.", "", "Alleen"));
   EXPECT_EQ(dossier->Persoon(2), nullptr);

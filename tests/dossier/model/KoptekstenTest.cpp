@@ -5,44 +5,44 @@
 namespace brivane::dossier {
 namespace {
 
-TEST(BedragTekst, GroupsByThousandsAndShowsCents) {
-  EXPECT_EQ(BedragTekst(0), "0,00");
-  EXPECT_EQ(BedragTekst(0.05), "0,05");
-  EXPECT_EQ(BedragTekst(12.5), "12,50");
-  EXPECT_EQ(BedragTekst(999.99), "999,99");
-  EXPECT_EQ(BedragTekst(1000), "1.000,00");
-  EXPECT_EQ(BedragTekst(1234567.891), "1.234.567,89");
-}
-
-TEST(BedragTekst, RoundsHalvesOfACentAwayFromZero) {
-  EXPECT_EQ(BedragTekst(0.125), "0,13");
-  EXPECT_EQ(BedragTekst(-0.125), "-0,13");
-}
-
-TEST(BedragTekst, ShowsNoMinusBeforeZero) {
-  EXPECT_EQ(BedragTekst(-0.001), "0,00");
-  EXPECT_EQ(BedragTekst(-1234.5), "-1.234,50");
-}
-
-TEST(BedragTekst, ShowsAQuestionMarkForWhatIsNoNumber) { EXPECT_EQ(BedragTekst(1e308 * 10), "?"); }
-
-TEST(TermijnTekst, NamesTheFiveTermsAndNoOther) {
-  EXPECT_EQ(TermijnTekst(1), "per maand");
-  EXPECT_EQ(TermijnTekst(3), "per kwartaal");
-  EXPECT_EQ(TermijnTekst(6), "per half jaar");
-  EXPECT_EQ(TermijnTekst(12), "per jaar");
-  EXPECT_EQ(TermijnTekst(99), "eenmalig");
-  EXPECT_EQ(TermijnTekst(2), "");
-}
-
-KolomGegevens Product(const char* soort, const char* omschrijving, const char* productnaam) {
+KolomGegevens Product(const char* kind, const char* omschrijving, const char* productnaam) {
   KolomGegevens kolom;
   kolom.IsProduct = true;
-  kolom.ProductsoortOmschrijving = soort;
+  kolom.ProductsoortOmschrijving = kind;
   kolom.Omschrijving = omschrijving;
   kolom.Productnaam = productnaam;
   kolom.Bedrag.Bedrag = 12.5;
   return kolom;
+}
+
+std::string Kopregel(double bedrag, std::int16_t termijn) {
+  KolomGegevens kolom;
+  kolom.Bedrag.Bedrag = bedrag;
+  kolom.Termijn = termijn;
+  return BerekendeKopteksten().Kopregel(kolom);
+}
+
+TEST(BerekendeKopteksten, ShowAnAmountAsItsBoxShowsIt) {
+  EXPECT_EQ(Kopregel(0.05, 2), "Vrije kolom · € 0,05");
+  EXPECT_EQ(Kopregel(1234567.891, 2), "Vrije kolom · € 1.234.567,89");
+  EXPECT_EQ(Kopregel(-1234.5, 2), "Vrije kolom · € -1.234,50");
+  EXPECT_EQ(Kopregel(-0.001, 2), "Vrije kolom · € 0,00");
+  EXPECT_EQ(Kopregel(-0.125, 2), "Vrije kolom · € -0,13");
+  // A half as it reads, although the nearest double lies below it.
+  EXPECT_EQ(Kopregel(1.005, 2), "Vrije kolom · € 1,01");
+}
+
+TEST(BerekendeKopteksten, ShowAQuestionMarkForAnAmountThatIsNoNumber) {
+  EXPECT_EQ(Kopregel(1e308 * 10, 12), "Vrije kolom · € ? per jaar");
+}
+
+TEST(BerekendeKopteksten, NameTheFiveTermsAndNoOther) {
+  EXPECT_EQ(Kopregel(1, 1), "Vrije kolom · € 1,00 per maand");
+  EXPECT_EQ(Kopregel(1, 3), "Vrije kolom · € 1,00 per kwartaal");
+  EXPECT_EQ(Kopregel(1, 6), "Vrije kolom · € 1,00 per half jaar");
+  EXPECT_EQ(Kopregel(1, 12), "Vrije kolom · € 1,00 per jaar");
+  EXPECT_EQ(Kopregel(1, 99), "Vrije kolom · € 1,00 eenmalig");
+  EXPECT_EQ(Kopregel(1, 2), "Vrije kolom · € 1,00");
 }
 
 TEST(BerekendeKopteksten, NameTheItemItsAmountAndItsTerm) {

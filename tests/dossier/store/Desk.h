@@ -19,15 +19,16 @@ namespace brivane::dossier {
 
 /// The real editor on the controls in memory, bound to a case whose edits are stored: what an adviser works with,
 /// without a window.
-class Werkplek {
+class Desk {
  public:
-  Werkplek(std::shared_ptr<dossier::Dossier> dossier, std::shared_ptr<Edits> edits)
+  Desk(std::shared_ptr<dossier::Dossier> dossier, std::shared_ptr<Edits> edits)
       : application_(std::make_shared<Application>(std::move(dossier))),
         edits_(std::move(edits)),
         surface_(toolkit_.MakeSurface(vrijekolom::kOntwerp)) {
     toolkit_.Desktop().today = frame::MakeDate({.year = 2026, .month = 11, .day = 21});
-    application_->FoutGemeld.Connect([this](const Foutrecord& fout) { fouten.push_back(fout); });
-    edits_->Failed.Connect([this](const StoreFailure& failure) { mislukt.push_back(failure); });
+    subscriptions_ +=
+        application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) { reports.push_back(error); });
+    subscriptions_ += edits_->Failed.Connect([this](const StoreFailure& failure) { failed.push_back(failure); });
     const host::HostFactories factories{
         .MaakProcedureTrace =
             [this](std::string_view control) { return std::make_shared<StoreTrace>(control, edits_, nullptr); },
@@ -36,31 +37,31 @@ class Werkplek {
               return std::make_shared<DossierControle>([this] { return toolkit_.Desktop().Today(); });
             }};
     editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
-    scenario_ = std::make_unique<Scenarioopslag>(*editor_, toolkit_, *edits_);
+    scenario_ = std::make_unique<ScenarioTransaction>(*editor_, *edits_);
   }
-  explicit Werkplek(DossierBestand& bestand) : Werkplek(bestand.Dossier(), bestand.GedeeldeBewerkingen()) {}
+  explicit Desk(DossierFile& file) : Desk(file.Dossier(), file.GedeeldeBewerkingen()) {}
 
   void Bind(std::int16_t Len_Id, std::int16_t Vrij_Id) { editor_->SetApplication(application_, Len_Id, Vrij_Id); }
-  [[nodiscard]] controls::AnyControl& Control(std::string_view naam, int index = frame::kNoIndex) {
-    controls::AnyControl* control = controls::Surface::Of(*surface_).Find(naam, index);
-    EXPECT_NE(control, nullptr) << naam;
+  [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
+    controls::AnyControl* control = controls::Surface::Of(*surface_).Find(name, index);
+    EXPECT_NE(control, nullptr) << name;
     return *control;
   }
-  controls::Outcome Doe(std::string_view naam, const controls::Action& actie, int index = frame::kNoIndex) {
-    return Control(naam, index).Perform(actie);
+  controls::Outcome Do(std::string_view name, const controls::Action& action, int index = frame::kNoIndex) {
+    return Control(name, index).Perform(action);
   }
   /// Types a value into a box and leaves it.
-  controls::Outcome Typ(std::string_view naam, const controls::BoxValue& waarde) {
-    return Doe(naam, controls::Enter{waarde});
+  controls::Outcome Type(std::string_view name, const controls::BoxValue& value) {
+    return Do(name, controls::Enter{value});
   }
   [[nodiscard]] brivane::VrijeKolom& Editor() { return *editor_; }
   [[nodiscard]] memory::Toolkit& Toolkit() { return toolkit_; }
   [[nodiscard]] Application& App() { return *application_; }
 
   /// The reports that reached the adviser.
-  std::vector<Foutrecord> fouten;
+  std::vector<host::ErrorRecord> reports;
   /// What the store told.
-  std::vector<StoreFailure> mislukt;
+  std::vector<StoreFailure> failed;
 
  private:
   memory::Toolkit toolkit_;
@@ -68,7 +69,8 @@ class Werkplek {
   std::shared_ptr<Edits> edits_;
   std::unique_ptr<host::Surface> surface_;
   std::unique_ptr<brivane::VrijeKolom> editor_;
-  std::unique_ptr<Scenarioopslag> scenario_;
+  std::unique_ptr<ScenarioTransaction> scenario_;
+  host::Subscriptions subscriptions_;
 };
 
 }  // namespace brivane::dossier

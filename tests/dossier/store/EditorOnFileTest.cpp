@@ -15,96 +15,96 @@ using controls::Select;
 using controls::Tick;
 using controls::Toggle;
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
 /// How many transactions the write-ahead log of an open file holds: frames that end one name the file's size.
-int Transacties(const QString& pad) {
+int Transactions(const QString& path) {
   constexpr qsizetype kLogHeader = 32;
   constexpr qsizetype kFrameHeader = 24;
-  const QByteArray log = Bytes(pad + QStringLiteral("-wal"));
+  const QByteArray log = Bytes(path + QStringLiteral("-wal"));
   if (log.size() < kLogHeader) return 0;
-  const auto pagina = static_cast<qsizetype>(qFromBigEndian<quint32>(log.constData() + 8));
-  const QByteArray zout = log.mid(16, 8);
-  int transacties = 0;
-  for (qsizetype plaats = kLogHeader; plaats + kFrameHeader + pagina <= log.size(); plaats += kFrameHeader + pagina) {
+  const auto page = static_cast<qsizetype>(qFromBigEndian<quint32>(log.constData() + 8));
+  const QByteArray salt = log.mid(16, 8);
+  int transactions = 0;
+  for (qsizetype position = kLogHeader; position + kFrameHeader + page <= log.size(); position += kFrameHeader + page) {
     // Frames of an earlier round of the log carry another salt.
-    if (log.mid(plaats + 8, 8) != zout) break;
-    if (qFromBigEndian<quint32>(log.constData() + plaats + 4) != 0) ++transacties;
+    if (log.mid(position + 8, 8) != salt) break;
+    if (qFromBigEndian<quint32>(log.constData() + position + 4) != 0) ++transactions;
   }
-  return transacties;
+  return transactions;
 }
 
-class EditorOpBestand : public testing::Test {
+class EditorOnFileTest : public testing::Test {
  protected:
-  EditorOpBestand() { werk_.Bind(0, 1); }
+  EditorOnFileTest() { desk_.Bind(0, 1); }
 
   /// What the disk holds at this moment: the file and its log, copied and opened elsewhere.
-  [[nodiscard]] DossierGegevens OpSchijf() const {
-    const Map kopie;
-    EXPECT_TRUE(QFile::copy(pad_, kopie.Pad()));
-    if (QFileInfo::exists(pad_ + "-wal")) {
-      EXPECT_TRUE(QFile::copy(pad_ + "-wal", kopie.Pad("test.dossier-wal")));
+  [[nodiscard]] DossierGegevens OnDisk() const {
+    const Folder copy;
+    EXPECT_TRUE(QFile::copy(path_, copy.Path()));
+    if (QFileInfo::exists(path_ + "-wal")) {
+      EXPECT_TRUE(QFile::copy(path_ + "-wal", copy.Path("test.dossier-wal")));
     }
-    return Gelezen(kopie.Pad());
+    return ReadBack(copy.Path());
   }
-  [[nodiscard]] KolomGegevens KolomOpSchijf(std::int16_t Vrij_Id) const {
-    for (const KolomGegevens& kolom : OpSchijf().HuidigeLening.VrijeKolommen) {
+  [[nodiscard]] KolomGegevens KolomOnDisk(std::int16_t Vrij_Id) const {
+    for (const KolomGegevens& kolom : OnDisk().HuidigeLening.VrijeKolommen) {
       if (kolom.Id == Vrij_Id) return kolom;
     }
     ADD_FAILURE() << "no column " << Vrij_Id;
     return {};
   }
   /// Runs an action and answers how many transactions it took.
-  int TransactiesVan(const std::function<void()>& actie) {
-    const int eerst = Transacties(pad_);
-    actie();
-    return Transacties(pad_) - eerst;
+  int TransactionsOf(const std::function<void()>& action) {
+    const int before = Transactions(path_);
+    action();
+    return Transactions(path_) - before;
   }
 
-  Map map_;
-  QString pad_ = map_.Maak();
-  std::unique_ptr<DossierBestand> bestand_ = DossierBestand::Open(pad_);
-  Werkplek werk_{*bestand_};
+  Folder folder_;
+  QString path_ = folder_.Make();
+  std::unique_ptr<DossierFile> file_ = DossierFile::Open(path_);
+  Desk desk_{*file_};
 };
 
-TEST_F(EditorOpBestand, BindingStoresNothing) {
-  EXPECT_EQ(TransactiesVan([&] {
-              for (const std::int16_t id : {1, 2, 3, 4, 5, 6}) werk_.Bind(0, id);
+TEST_F(EditorOnFileTest, BindingStoresNothing) {
+  EXPECT_EQ(TransactionsOf([&] {
+              for (const std::int16_t id : {1, 2, 3, 4, 5, 6}) desk_.Bind(0, id);
             }),
             0);
-  EXPECT_TRUE(werk_.fouten.empty());
+  EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOpBestand, EachAcceptedEditIsOneTransaction) {
-  werk_.Bind(0, 3);
-  const auto doe = [&](std::string_view naam, const controls::Action& actie, int index = frame::kNoIndex) {
-    SCOPED_TRACE(naam);
-    EXPECT_EQ(TransactiesVan([&] { EXPECT_EQ(werk_.Doe(naam, actie, index), Outcome::Done); }), 1);
+TEST_F(EditorOnFileTest, EachAcceptedEditIsOneTransaction) {
+  desk_.Bind(0, 3);
+  const auto act = [&](std::string_view name, const controls::Action& action, int index = frame::kNoIndex) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(TransactionsOf([&] { EXPECT_EQ(desk_.Do(name, action, index), Outcome::Done); }), 1);
   };
-  doe("TxtOm", Enter{std::string("Pianolessen")});
-  doe("TxtBd", Enter{412.75});
-  doe("TxtDtAanvang", Enter{Datum(1, 5, 2025)});
-  doe("TxtAnJaar", Enter{4.0});
-  doe("TxtDtEind", Enter{Datum(1, 8, 2030)});
-  doe("jnInDagloon", Toggle{host::kJa});
+  act("TxtOm", Enter{std::string("Pianolessen")});
+  act("TxtBd", Enter{412.75});
+  act("TxtDtAanvang", Enter{DateOf(1, 5, 2025)});
+  act("TxtAnJaar", Enter{4.0});
+  act("TxtDtEind", Enter{DateOf(1, 8, 2030)});
+  act("jnInDagloon", Toggle{host::kJa});
   // Writes InkomenUitArbeid, and through the other toggle InDagloon.
-  doe("jnInkUitArbeid", Toggle{host::kNee});
+  act("jnInkUitArbeid", Toggle{host::kNee});
   // Writes the flag and the three values of the transition.
-  doe("Toelichting.jnOverlijden", Toggle{host::kJa});
+  act("Toelichting.jnOverlijden", Toggle{host::kJa});
   // Writes CorrectieLast, and through the other group CorrectieFiscaal.
-  doe("optLast", Select{}, 1);
-  doe("optAanvrager", Select{}, 1);
+  act("optLast", Select{}, 1);
+  act("optAanvrager", Select{}, 1);
   // Writes IsProduct, UwBemiddeling and, while it fills, Productsoort.
-  EXPECT_LE(TransactiesVan([&] { werk_.Doe("chkProduct", Tick{1}); }), 1);
-  doe("cboProductsoort", Choose{2});
-  doe("cboMaatschappij", Choose{1});
-  doe("txtProductnaam", Enter{std::string("Zaterdag")});
-  doe("txtVervaldatum", Enter{Datum(31, 12, 2029)});
+  EXPECT_LE(TransactionsOf([&] { desk_.Do("chkProduct", Tick{1}); }), 1);
+  act("cboProductsoort", Choose{2});
+  act("cboMaatschappij", Choose{1});
+  act("txtProductnaam", Enter{std::string("Zaterdag")});
+  act("txtVervaldatum", Enter{DateOf(31, 12, 2029)});
 
-  const KolomGegevens kolom = KolomOpSchijf(3);
+  const KolomGegevens kolom = KolomOnDisk(3);
   EXPECT_EQ(kolom.Omschrijving, "Pianolessen");
   EXPECT_EQ(kolom.Bedrag.Bedrag, 412.75);
-  EXPECT_EQ(kolom.DatumAanvang, Datum(1, 5, 2025));
+  EXPECT_EQ(kolom.DatumAanvang, DateOf(1, 5, 2025));
   EXPECT_EQ(kolom.InkomenUitArbeid, false);
   EXPECT_EQ(kolom.InDagloon, false);
   EXPECT_EQ(kolom.ScenarioOverlijden, true);
@@ -117,107 +117,131 @@ TEST_F(EditorOpBestand, EachAcceptedEditIsOneTransaction) {
   EXPECT_EQ(kolom.Looptijd, 999);
   EXPECT_EQ(kolom.Maatschappij, "BV");
   EXPECT_EQ(kolom.Productnaam, "Zaterdag");
-  EXPECT_EQ(kolom.Contractvervaldatum, Datum(31, 12, 2029));
-  EXPECT_EQ(bestand_->Dossier()->ZoekKolom(0, 3)->Gegevens(), kolom);
-  EXPECT_TRUE(werk_.fouten.empty());
+  EXPECT_EQ(kolom.Contractvervaldatum, DateOf(31, 12, 2029));
+  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 3)->Gegevens(), kolom);
+  EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOpBestand, ARefusedEditStoresNothing) {
-  EXPECT_EQ(TransactiesVan([&] { EXPECT_EQ(werk_.Doe("TxtDtAanvang", Enter{}), Outcome::Refused); }), 0);
-  EXPECT_EQ(KolomOpSchijf(1).DatumAanvang, Datum(1, 9, 2024));
+TEST_F(EditorOnFileTest, ARefusedEditStoresNothing) {
+  EXPECT_EQ(TransactionsOf([&] { EXPECT_EQ(desk_.Do("TxtDtAanvang", Enter{}), Outcome::Refused); }), 0);
+  EXPECT_EQ(KolomOnDisk(1).DatumAanvang, DateOf(1, 9, 2024));
 }
 
-TEST_F(EditorOpBestand, AHandlerThatFailsKeepsWhatItWrote) {
+TEST_F(EditorOnFileTest, AHandlerThatFailsKeepsWhatItWrote) {
   // The start date is written; the end date, 96 months later, would lie past the year 9999.
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("TxtDtAanvang", Enter{Datum(1, 12, 9999)}); }), 1);
-  ASSERT_EQ(werk_.fouten.size(), 1u);
-  EXPECT_EQ(werk_.fouten[0].ErrorNumber, "6");
-  EXPECT_EQ(werk_.fouten[0].ObjectName, "VrijeKolom");
-  EXPECT_EQ(KolomOpSchijf(1).DatumAanvang, Datum(1, 12, 9999));
-  EXPECT_TRUE(werk_.mislukt.empty());
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("TxtOm", Enter{std::string("daarna")}); }), 1);
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("TxtDtAanvang", Enter{DateOf(1, 12, 9999)}); }), 1);
+  ASSERT_EQ(desk_.reports.size(), 1u);
+  EXPECT_EQ(desk_.reports[0].ErrorNumber, "6");
+  EXPECT_EQ(desk_.reports[0].ObjectName, "VrijeKolom");
+  EXPECT_EQ(KolomOnDisk(1).DatumAanvang, DateOf(1, 12, 9999));
+  EXPECT_TRUE(desk_.failed.empty());
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("TxtOm", Enter{std::string("daarna")}); }), 1);
 }
 
-TEST_F(EditorOpBestand, ChoosingOneOffEmptiesTheScenarioInTheSameTransaction) {
-  EXPECT_EQ(KolomOpSchijf(1).Bedrag.Perioden.size(), 2u);
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("cboTermijn", Choose{4}); }), 1);
-  const KolomGegevens kolom = KolomOpSchijf(1);
+TEST_F(EditorOnFileTest, ChoosingOneOffEmptiesTheScenarioInTheSameTransaction) {
+  EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("cboTermijn", Choose{4}); }), 1);
+  const KolomGegevens kolom = KolomOnDisk(1);
   EXPECT_EQ(kolom.Termijn, 99);
   EXPECT_EQ(kolom.Looptijd, 0);
   EXPECT_TRUE(kolom.Bedrag.Perioden.empty());
 }
 
-TEST_F(EditorOpBestand, TickingAProposalRegistersTheColumnInTheSameTransaction) {
-  werk_.Editor().SetBeeindigenZichtbaar(true);
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("ChkVoorstel", Tick{1}, 2); }), 1);
-  EXPECT_TRUE(OpSchijf().Voorstellen[1].contains(1));
-  EXPECT_EQ(KolomOpSchijf(1).Voorstel[1], "J");
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("ChkVoorstel", Tick{0}, 2); }), 1);
-  EXPECT_FALSE(OpSchijf().Voorstellen[1].contains(1));
-  EXPECT_EQ(KolomOpSchijf(1).Voorstel[1], "N");
+TEST_F(EditorOnFileTest, TickingAProposalRegistersTheColumnInTheSameTransaction) {
+  desk_.Editor().SetBeeindigenZichtbaar(true);
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("ChkVoorstel", Tick{1}, 2); }), 1);
+  EXPECT_TRUE(OnDisk().Voorstellen[1].contains(1));
+  EXPECT_EQ(KolomOnDisk(1).Voorstel[1], "J");
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("ChkVoorstel", Tick{0}, 2); }), 1);
+  EXPECT_FALSE(OnDisk().Voorstellen[1].contains(1));
+  EXPECT_EQ(KolomOnDisk(1).Voorstel[1], "N");
 }
 
-TEST_F(EditorOpBestand, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) {
-  bestand_->Dossier()->MaakAfwijking(1, 2);
-  bestand_->Dossier()->VoegToeAanVoorstel(3, 1);
-  werk_.Doe("TxtOm", Enter{std::string("Buitenschoolse opvang")});
-  werk_.Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::Yes; };
+TEST_F(EditorOnFileTest, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) {
+  file_->Dossier()->MaakAfwijking(1, 2);
+  file_->Dossier()->VoegToeAanVoorstel(3, 1);
+  desk_.Do("TxtOm", Enter{std::string("Buitenschoolse opvang")});
+  desk_.Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::Yes; };
   bool cancel = false;
-  EXPECT_EQ(TransactiesVan([&] { werk_.Editor().Validation(cancel); }), 1);
+  EXPECT_EQ(TransactionsOf([&] { desk_.Editor().Validation(cancel); }), 1);
   EXPECT_FALSE(cancel);
-  const DossierGegevens dossier = OpSchijf();
+  const DossierGegevens dossier = OnDisk();
   for (const LeningGegevens& lening : dossier.Leningen) {
     for (const KolomGegevens& kolom : lening.VrijeKolommen) EXPECT_NE(kolom.Id, 1) << lening.Naam;
   }
   EXPECT_FALSE(dossier.Voorstellen[2].contains(1));
   // The new situation now takes over the column as it was changed.
-  const auto volgt = bestand_->Dossier()->VolgtHuidigeSituatie();
-  EXPECT_TRUE(std::any_of(volgt.begin(), volgt.end(),
+  const auto following = file_->Dossier()->VolgtHuidigeSituatie();
+  EXPECT_TRUE(std::any_of(following.begin(), following.end(),
                           [](const auto& kolom) { return kolom->Omschrijving() == "Buitenschoolse opvang"; }));
 }
 
-TEST_F(EditorOpBestand, AnEditThatWaitsInTheQueueIsStoredBeforeTheCheckThatLetItRunGoesOn) {
-  werk_.Bind(0, 5);
+TEST_F(EditorOnFileTest, AnEditThatWaitsInTheQueueIsStoredBeforeTheCheckThatLetItRunGoesOn) {
+  desk_.Bind(0, 5);
   // The check of the explanation lets a waiting edit run, and then refuses.
-  werk_.Toolkit().Desktop().pending = [&] { werk_.Doe("TxtBd", Enter{7000.0}); };
-  werk_.Doe("Toelichting.TxtPcOvergang", Enter{0.5});
-  int transactiesBijDeMelding = -1;
-  const int eerst = Transacties(pad_);
-  werk_.Toolkit().Desktop().today = Datum(1, 1, 2050);
-  werk_.Toolkit().Desktop().answer = [&](const auto&...) {
-    transactiesBijDeMelding = Transacties(pad_) - eerst;
+  desk_.Toolkit().Desktop().pending = [&] { desk_.Do("TxtBd", Enter{7000.0}); };
+  desk_.Do("Toelichting.TxtPcOvergang", Enter{0.5});
+  int transactionsAtTheMessage = -1;
+  const int before = Transactions(path_);
+  desk_.Toolkit().Desktop().today = DateOf(1, 1, 2050);
+  desk_.Toolkit().Desktop().answer = [&](const auto&...) {
+    transactionsAtTheMessage = Transactions(path_) - before;
     return host::MessageAnswer::Ok;
   };
   bool cancel = false;
-  werk_.Editor().Toelichting().Validation(cancel);
+  desk_.Editor().Toelichting().Validation(cancel);
   EXPECT_TRUE(cancel);
-  EXPECT_EQ(transactiesBijDeMelding, 1);
+  EXPECT_EQ(transactionsAtTheMessage, 1);
 }
 
-TEST_F(EditorOpBestand, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWithItsOk) {
-  werk_.Toolkit().modal = [&](controls::Form& form) {
-    EXPECT_EQ(TransactiesVan([&] { form.Find("txtBedrag", 1)->Perform(Enter{500.0}); }), 1);
-    EXPECT_EQ(KolomOpSchijf(1).Bedrag.Bedrag, 500);
-    EXPECT_EQ(TransactiesVan([&] { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); }), 0);
-    EXPECT_EQ(KolomOpSchijf(1).Bedrag.Perioden.size(), 2u);
-    EXPECT_EQ(TransactiesVan([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
-    EXPECT_EQ(bestand_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOpSchijf(1));
+TEST_F(EditorOnFileTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWithItsOk) {
+  desk_.Toolkit().modal = [&](controls::Form& form) {
+    EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 1)->Perform(Enter{500.0}); }), 1);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Bedrag, 500);
+    EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); }), 0);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
+    EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOnDisk(1));
   };
-  EXPECT_EQ(werk_.Doe("cmdScenario", Press{}), Outcome::Done);
-  const KolomGegevens kolom = KolomOpSchijf(1);
+  EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
+  const KolomGegevens kolom = KolomOnDisk(1);
   EXPECT_EQ(kolom.Bedrag.Bedrag, 500);
   // The rows were 485.50, 485.50, 310, 310, 165 and so on; rows 1 and 3 were retyped.
   std::vector<std::pair<int, double>> perioden;
   for (const PeriodeGegevens& periode : kolom.Bedrag.Perioden) perioden.emplace_back(periode.Maand, periode.Bedrag);
   EXPECT_EQ(perioden, (std::vector<std::pair<int, double>>{{24, 485.5}, {36, 600}, {48, 310}, {60, 165}}));
-  EXPECT_TRUE(werk_.fouten.empty());
+  EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOpBestand, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
-  const std::vector<PeriodeGegevens> eerst = KolomOpSchijf(1).Bedrag.Perioden;
-  werk_.Toolkit().modal = [&](controls::Form& form) { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); };
-  EXPECT_EQ(TransactiesVan([&] { werk_.Doe("cmdScenario", Press{}); }), 0);
-  EXPECT_EQ(KolomOpSchijf(1).Bedrag.Perioden, eerst);
+TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransactionBeforeItTells) {
+  int messages = 0;
+  desk_.Toolkit().Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
+    ++messages;
+    // Nothing is undone: the list was emptied before the third row could not be read.
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, file_->Dossier()->ZoekKolom(0, 1)->Gegevens().Bedrag.Perioden);
+    EXPECT_NE(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
+    return host::MessageAnswer::Ok;
+  };
+  desk_.Toolkit().modal = [&](controls::Form& form) {
+    form.Find("txtBedrag", 3)->Perform(Enter{std::string("drie")});
+    EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_FALSE(form.IsUnloaded());
+    EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 1)->Perform(Enter{700.0}); }), 1);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Bedrag, 700);
+    form.Find("txtBedrag", 3)->Perform(Enter{600.0});
+    EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
+    EXPECT_TRUE(form.IsUnloaded());
+  };
+  EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
+  EXPECT_EQ(messages, 1);
+  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+}
+
+TEST_F(EditorOnFileTest, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
+  const std::vector<PeriodeGegevens> before = KolomOnDisk(1).Bedrag.Perioden;
+  desk_.Toolkit().modal = [&](controls::Form& form) { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); };
+  EXPECT_EQ(TransactionsOf([&] { desk_.Do("cmdScenario", Press{}); }), 0);
+  EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, before);
 }
 
 }  // namespace

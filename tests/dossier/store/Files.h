@@ -14,34 +14,36 @@
 namespace brivane::dossier {
 
 /// A folder of its own for the loan files of one test.
-class Map {
+class Folder {
  public:
-  [[nodiscard]] QString Pad(const char* naam = "test.dossier") const { return map_.filePath(QString::fromUtf8(naam)); }
+  [[nodiscard]] QString Path(const char* name = "test.dossier") const {
+    return folder_.filePath(QString::fromUtf8(name));
+  }
   /// Makes a loan file and answers its path.
-  [[nodiscard]] QString Maak(const DossierGegevens& gegevens = VoorbeeldDossier(),
-                             const char* naam = "test.dossier") const {
-    DossierBestand::Maak(Pad(naam), gegevens);
-    return Pad(naam);
+  [[nodiscard]] QString Make(const DossierGegevens& gegevens = VoorbeeldDossier(),
+                             const char* name = "test.dossier") const {
+    DossierFile::Maak(Path(name), gegevens);
+    return Path(name);
   }
   /// The names of all that stands in the folder.
-  [[nodiscard]] QStringList Inhoud() const {
-    return QDir(map_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+  [[nodiscard]] QStringList Contents() const {
+    return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
   }
 
  private:
-  QTemporaryDir map_;
+  QTemporaryDir folder_;
 };
 
-[[nodiscard]] inline QByteArray Bytes(const QString& pad) {
-  QFile bestand(pad);
-  EXPECT_TRUE(bestand.open(QIODevice::ReadOnly));
-  return bestand.readAll();
+[[nodiscard]] inline QByteArray Bytes(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
 }
 
 /// The problem that opening meets, or nothing.
-[[nodiscard]] inline std::optional<OpeningProblem> ProbleemBijOpenen(const QString& pad) {
+[[nodiscard]] inline std::optional<OpeningProblem> ProblemAtOpening(const QString& path) {
   try {
-    static_cast<void>(DossierBestand::Open(pad));
+    static_cast<void>(DossierFile::Open(path));
     return std::nullopt;
   } catch (const OpeningError& error) {
     return error.Problem();
@@ -49,8 +51,8 @@ class Map {
 }
 
 /// What the file holds, read anew.
-[[nodiscard]] inline DossierGegevens Gelezen(const QString& pad) {
-  return DossierBestand::Open(pad)->Dossier()->Gegevens();
+[[nodiscard]] inline DossierGegevens ReadBack(const QString& path) {
+  return DossierFile::Open(path)->Dossier()->Gegevens();
 }
 
 }  // namespace brivane::dossier

@@ -10,113 +10,113 @@ namespace brivane::dossier {
 namespace {
 
 /// Opening meets this problem, tells the adviser in Dutch which file it is, and leaves the folder as it was.
-void VerwachtGeweigerd(const Map& map, const QString& pad, OpeningProblem problem, const QString& melding) {
-  const QStringList inhoud = map.Inhoud();
-  const QByteArray bytes = QFileInfo(pad).isFile() ? Bytes(pad) : QByteArray();
+void ExpectRefused(const Folder& folder, const QString& path, OpeningProblem problem, const QString& message) {
+  const QStringList contents = folder.Contents();
+  const QByteArray bytes = QFileInfo(path).isFile() ? Bytes(path) : QByteArray();
   try {
-    static_cast<void>(DossierBestand::Open(pad));
+    static_cast<void>(DossierFile::Open(path));
     ADD_FAILURE() << "opened";
   } catch (const OpeningError& error) {
     EXPECT_EQ(error.Problem(), problem);
-    EXPECT_EQ(error.Melding(), melding);
-    EXPECT_EQ(QString::fromUtf8(error.what()), melding);
+    EXPECT_EQ(error.Melding(), message);
+    EXPECT_EQ(QString::fromUtf8(error.what()), message);
   }
-  EXPECT_EQ(map.Inhoud(), inhoud);
-  if (QFileInfo(pad).isFile()) {
-    EXPECT_EQ(Bytes(pad), bytes);
+  EXPECT_EQ(folder.Contents(), contents);
+  if (QFileInfo(path).isFile()) {
+    EXPECT_EQ(Bytes(path), bytes);
   }
 }
 
-void Schrijf(const QString& pad, const QByteArray& bytes) {
-  QFile bestand(pad);
-  ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
-  bestand.write(bytes);
+void Write(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes);
 }
 
-void Overschrijf(const QString& pad, qint64 plaats, const QByteArray& bytes) {
-  QFile bestand(pad);
-  ASSERT_TRUE(bestand.open(QIODevice::ReadWrite));
-  ASSERT_TRUE(bestand.seek(plaats));
-  bestand.write(bytes);
+void Overwrite(const QString& path, qint64 position, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.seek(position));
+  file.write(bytes);
 }
 
 /// Changes a loan file behind the program's back.
-void Wijzig(const QString& pad, const char* sql) {
-  Database database(pad, Access::ReadWrite);
+void Change(const QString& path, const char* sql) {
+  Database database(path, Access::ReadWrite);
   database.Run(QString::fromLatin1(sql));
 }
 
-const char kBeschadigd[] = "Het dossier \"test.dossier\" is beschadigd en is niet geopend. Zet een reservekopie terug.";
+const char kDamaged[] = "Het dossier \"test.dossier\" is beschadigd en is niet geopend. Zet een reservekopie terug.";
 
-TEST(Openen, AFileThatIsNotThere) {
-  const Map map;
-  const QString melding = QStringLiteral("Het dossier \"weg.dossier\" bestaat niet (meer) in de map \"%1\".")
-                              .arg(QFileInfo(map.Pad()).absolutePath());
-  VerwachtGeweigerd(map, map.Pad("weg.dossier"), OpeningProblem::Missing, melding);
+TEST(OpeningTest, AFileThatIsNotThere) {
+  const Folder folder;
+  const QString message = QStringLiteral("Het dossier \"weg.dossier\" bestaat niet (meer) in de map \"%1\".")
+                              .arg(QFileInfo(folder.Path()).absolutePath());
+  ExpectRefused(folder, folder.Path("weg.dossier"), OpeningProblem::Missing, message);
 }
 
-TEST(Openen, AFolder) {
-  const Map map;
-  QDir().mkdir(map.Pad("map.dossier"));
-  VerwachtGeweigerd(map, map.Pad("map.dossier"), OpeningProblem::Directory,
-                    "\"map.dossier\" is een map en geen dossier.");
+TEST(OpeningTest, AFolder) {
+  const Folder folder;
+  QDir().mkdir(folder.Path("map.dossier"));
+  ExpectRefused(folder, folder.Path("map.dossier"), OpeningProblem::Directory,
+                "\"map.dossier\" is een map en geen dossier.");
 }
 
-TEST(Openen, AnEmptyFile) {
-  const Map map;
-  Schrijf(map.Pad(), {});
-  VerwachtGeweigerd(map, map.Pad(), OpeningProblem::Empty,
-                    "Het bestand \"test.dossier\" is leeg en bevat geen dossier.");
+TEST(OpeningTest, AnEmptyFile) {
+  const Folder folder;
+  Write(folder.Path(), {});
+  ExpectRefused(folder, folder.Path(), OpeningProblem::Empty,
+                "Het bestand \"test.dossier\" is leeg en bevat geen dossier.");
 }
 
-TEST(Openen, AFileOfAnotherKind) {
-  const Map map;
-  const QString melding = QStringLiteral("Het bestand \"test.dossier\" is geen dossier.");
+TEST(OpeningTest, AFileOfAnotherKind) {
+  const Folder folder;
+  const QString message = QStringLiteral("Het bestand \"test.dossier\" is geen dossier.");
   for (const QByteArray& bytes : {QByteArray("kort"), QByteArray(5000, 'x'), QByteArray(5000, '\0')}) {
-    Schrijf(map.Pad(), bytes);
-    VerwachtGeweigerd(map, map.Pad(), OpeningProblem::NotALoanFile, melding);
+    Write(folder.Path(), bytes);
+    ExpectRefused(folder, folder.Path(), OpeningProblem::NotALoanFile, message);
   }
 }
 
-TEST(Openen, ADatabaseOfAnotherProgram) {
-  const Map map;
-  Wijzig(map.Pad(), "CREATE TABLE iets (anders INTEGER)");
-  VerwachtGeweigerd(map, map.Pad(), OpeningProblem::NotALoanFile, "Het bestand \"test.dossier\" is geen dossier.");
+TEST(OpeningTest, ADatabaseOfAnotherProgram) {
+  const Folder folder;
+  Change(folder.Path(), "CREATE TABLE iets (anders INTEGER)");
+  ExpectRefused(folder, folder.Path(), OpeningProblem::NotALoanFile, "Het bestand \"test.dossier\" is geen dossier.");
 }
 
-TEST(Openen, APipe) {
-  const Map map;
-  ASSERT_EQ(mkfifo(map.Pad().toLocal8Bit().constData(), 0600), 0);
-  EXPECT_EQ(ProbleemBijOpenen(map.Pad()), OpeningProblem::NotALoanFile);
+TEST(OpeningTest, APipe) {
+  const Folder folder;
+  ASSERT_EQ(mkfifo(folder.Path().toLocal8Bit().constData(), 0600), 0);
+  EXPECT_EQ(ProblemAtOpening(folder.Path()), OpeningProblem::NotALoanFile);
 }
 
-TEST(Openen, AFileWithAnOverwrittenPage) {
-  const Map map;
-  const QString pad = map.Maak();
-  Overschrijf(pad, 3 * 4096, QByteArray(4096, '\x55'));
-  VerwachtGeweigerd(map, pad, OpeningProblem::Damaged, kBeschadigd);
+TEST(OpeningTest, AFileWithAnOverwrittenPage) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Overwrite(path, 3 * 4096, QByteArray(4096, '\x55'));
+  ExpectRefused(folder, path, OpeningProblem::Damaged, kDamaged);
 }
 
-TEST(Openen, AFileThatWasCutOff) {
-  const Map map;
-  const QString pad = map.Maak();
-  for (const qint64 lengte : {qint64{100}, qint64{4096}, QFileInfo(pad).size() - 4096, QFileInfo(pad).size() - 1}) {
-    const Map stuk;
-    SCOPED_TRACE(lengte);
-    QFile::copy(pad, stuk.Pad());
-    QFile::resize(stuk.Pad(), lengte);
-    VerwachtGeweigerd(stuk, stuk.Pad(), OpeningProblem::Damaged, kBeschadigd);
+TEST(OpeningTest, AFileThatWasCutOff) {
+  const Folder folder;
+  const QString path = folder.Make();
+  for (const qint64 length : {qint64{100}, qint64{4096}, QFileInfo(path).size() - 4096, QFileInfo(path).size() - 1}) {
+    const Folder cut;
+    SCOPED_TRACE(length);
+    QFile::copy(path, cut.Path());
+    QFile::resize(cut.Path(), length);
+    ExpectRefused(cut, cut.Path(), OpeningProblem::Damaged, kDamaged);
   }
 }
 
-TEST(Openen, AFileWithoutATable) {
-  const Map map;
-  const QString pad = map.Maak();
-  Wijzig(pad, "DROP TABLE periode");
-  VerwachtGeweigerd(map, pad, OpeningProblem::Damaged, kBeschadigd);
+TEST(OpeningTest, AFileWithoutATable) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Change(path, "DROP TABLE periode");
+  ExpectRefused(folder, path, OpeningProblem::Damaged, kDamaged);
 }
 
-TEST(Openen, AFileWithValuesThatNoEditWrites) {
+TEST(OpeningTest, AFileWithValuesThatNoEditWrites) {
   for (const char* sql :
        {"UPDATE vrijekolom SET termijn = 32768 WHERE id = 2", "UPDATE vrijekolom SET is_product = 2 WHERE id = 2",
         "UPDATE vrijekolom SET looptijd = 2147483648 WHERE id = 2",
@@ -124,175 +124,175 @@ TEST(Openen, AFileWithValuesThatNoEditWrites) {
         "UPDATE lening SET nummer = 9 WHERE nummer = 1", "DELETE FROM dossier", "DELETE FROM persoon",
         "DELETE FROM lening WHERE nummer = 0", "UPDATE vrijekolom SET lening = 999 WHERE id = 2",
         "UPDATE periode SET kolom = 999", "INSERT INTO voorstel VALUES (1, 40000)"}) {
-    const Map map;
-    const QString pad = map.Maak();
-    Wijzig(pad, sql);
+    const Folder folder;
+    const QString path = folder.Make();
+    Change(path, sql);
     SCOPED_TRACE(sql);
-    VerwachtGeweigerd(map, pad, OpeningProblem::Damaged, kBeschadigd);
+    ExpectRefused(folder, path, OpeningProblem::Damaged, kDamaged);
   }
 }
 
-TEST(Openen, AFileWithoutAVersion) {
-  const Map map;
-  const QString pad = map.Maak();
-  Wijzig(pad, "PRAGMA user_version = 0");
+TEST(OpeningTest, AFileWithoutAVersion) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Change(path, "PRAGMA user_version = 0");
   // In the file itself, not only in a log beside it.
-  Wijzig(pad, "PRAGMA wal_checkpoint(TRUNCATE)");
-  VerwachtGeweigerd(map, pad, OpeningProblem::Damaged, kBeschadigd);
+  Change(path, "PRAGMA wal_checkpoint(TRUNCATE)");
+  ExpectRefused(folder, path, OpeningProblem::Damaged, kDamaged);
 }
 
-const char kNieuwer[] =
+const char kNewer[] =
     "Het dossier \"test.dossier\" is gemaakt met een nieuwere versie van dit programma. Werk het programma bij om het "
     "te "
     "openen.";
 
-TEST(Openen, AFileOfANewerVersion) {
-  const Map map;
-  const QString pad = map.Maak();
-  Wijzig(pad, "PRAGMA user_version = 2");
-  VerwachtGeweigerd(map, pad, OpeningProblem::Newer, kNieuwer);
+TEST(OpeningTest, AFileOfANewerVersion) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Change(path, "PRAGMA user_version = 2");
+  ExpectRefused(folder, path, OpeningProblem::Newer, kNewer);
 }
 
-TEST(Openen, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
-  const Map map;
-  const QString pad = map.Maak();
-  const Map gekopieerd;
+TEST(OpeningTest, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const Folder copied;
   {
-    Database database(pad, Access::ReadWrite);
+    Database database(path, Access::ReadWrite);
     database.Run(QStringLiteral("PRAGMA user_version = 2"));
     // The log holds the version, the file does not yet.
-    ASSERT_TRUE(QFile::copy(pad, gekopieerd.Pad()));
-    ASSERT_TRUE(QFile::copy(pad + "-wal", gekopieerd.Pad("test.dossier-wal")));
+    ASSERT_TRUE(QFile::copy(path, copied.Path()));
+    ASSERT_TRUE(QFile::copy(path + "-wal", copied.Path("test.dossier-wal")));
   }
-  VerwachtGeweigerd(gekopieerd, gekopieerd.Pad(), OpeningProblem::Newer, kNieuwer);
+  ExpectRefused(copied, copied.Path(), OpeningProblem::Newer, kNewer);
 }
 
-TEST(Openen, AReadOnlyFile) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::setPermissions(pad, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-  VerwachtGeweigerd(map, pad, OpeningProblem::ReadOnly,
-                    "Het dossier \"test.dossier\" kan niet worden gewijzigd: het bestand of de map is alleen-lezen.");
+TEST(OpeningTest, AReadOnlyFile) {
+  const Folder folder;
+  const QString path = folder.Make();
+  QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+  ExpectRefused(folder, path, OpeningProblem::ReadOnly,
+                "Het dossier \"test.dossier\" kan niet worden gewijzigd: het bestand of de map is alleen-lezen.");
 }
 
-TEST(Openen, AFileInAReadOnlyFolder) {
-  const Map map;
-  QDir().mkdir(map.Pad("vast"));
-  const QString pad = map.Maak(VoorbeeldDossier(), "vast/test.dossier");
-  QFile::setPermissions(map.Pad("vast"), QFile::ReadOwner | QFile::ExeOwner);
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::ReadOnly);
-  QFile::setPermissions(map.Pad("vast"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+TEST(OpeningTest, AFileInAReadOnlyFolder) {
+  const Folder folder;
+  QDir().mkdir(folder.Path("vast"));
+  const QString path = folder.Make(VoorbeeldDossier(), "vast/test.dossier");
+  QFile::setPermissions(folder.Path("vast"), QFile::ReadOwner | QFile::ExeOwner);
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::ReadOnly);
+  QFile::setPermissions(folder.Path("vast"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-TEST(Openen, AFileThatTheUserMayNotRead) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::setPermissions(QFileInfo(pad).absolutePath(), QFile::Permissions(0x7777));
-  QFile::setPermissions(pad, {});
-  const GewoneGebruiker gebruiker;
-  ASSERT_TRUE(gebruiker.Gelukt());
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::Unreadable);
+TEST(OpeningTest, AFileThatTheUserMayNotRead) {
+  const Folder folder;
+  const QString path = folder.Make();
+  QFile::setPermissions(QFileInfo(path).absolutePath(), QFile::Permissions(0x7777));
+  QFile::setPermissions(path, {});
+  const OrdinaryUser user;
+  ASSERT_TRUE(user.Succeeded());
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::Unreadable);
 }
 
-TEST(Openen, AFileOfAnotherUser) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::setPermissions(QFileInfo(pad).absolutePath(), QFile::Permissions(0x7777));
-  QFile::setPermissions(pad, QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup);
-  const GewoneGebruiker gebruiker;
-  ASSERT_TRUE(gebruiker.Gelukt());
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::ReadOnly);
+TEST(OpeningTest, AFileOfAnotherUser) {
+  const Folder folder;
+  const QString path = folder.Make();
+  QFile::setPermissions(QFileInfo(path).absolutePath(), QFile::Permissions(0x7777));
+  QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadOther | QFile::ReadGroup);
+  const OrdinaryUser user;
+  ASSERT_TRUE(user.Succeeded());
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::ReadOnly);
 }
 
-TEST(Openen, AFileThatIsOpenInAnotherWindow) {
-  const Map map;
-  const QString pad = map.Maak();
-  const auto eerste = DossierBestand::Open(pad);
-  VerwachtGeweigerd(map, pad, OpeningProblem::InUse,
-                    "Het dossier \"test.dossier\" is al geopend in een ander venster of programma.");
+TEST(OpeningTest, AFileThatIsOpenInAnotherWindow) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const auto first = DossierFile::Open(path);
+  ExpectRefused(folder, path, OpeningProblem::InUse,
+                "Het dossier \"test.dossier\" is al geopend in een ander venster of programma.");
 }
 
-TEST(Openen, AFileThatIsOpenUnderAnotherName) {
-  const Map map;
-  const QString pad = map.Maak();
-  QFile::link(pad, map.Pad("verwijzing.dossier"));
-  const auto eerste = DossierBestand::Open(pad);
-  EXPECT_EQ(ProbleemBijOpenen(map.Pad("verwijzing.dossier")), OpeningProblem::InUse);
+TEST(OpeningTest, AFileThatIsOpenUnderAnotherName) {
+  const Folder folder;
+  const QString path = folder.Make();
+  QFile::link(path, folder.Path("verwijzing.dossier"));
+  const auto first = DossierFile::Open(path);
+  EXPECT_EQ(ProblemAtOpening(folder.Path("verwijzing.dossier")), OpeningProblem::InUse);
 }
 
-TEST(Openen, AFileAgainOnceItWasClosed) {
-  const Map map;
-  const QString pad = map.Maak();
-  static_cast<void>(DossierBestand::Open(pad));
-  EXPECT_EQ(ProbleemBijOpenen(pad), std::nullopt);
-  EXPECT_EQ(map.Inhoud(), QStringList("test.dossier"));
+TEST(OpeningTest, AFileAgainOnceItWasClosed) {
+  const Folder folder;
+  const QString path = folder.Make();
+  static_cast<void>(DossierFile::Open(path));
+  EXPECT_EQ(ProblemAtOpening(path), std::nullopt);
+  EXPECT_EQ(folder.Contents(), QStringList("test.dossier"));
 }
 
-TEST(Openen, AFileAgainAfterItWasRefused) {
-  const Map map;
-  const QString pad = map.Pad();
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::Missing);
-  DossierBestand::Maak(pad, VoorbeeldDossier());
-  EXPECT_EQ(ProbleemBijOpenen(pad), std::nullopt);
+TEST(OpeningTest, AFileAgainAfterItWasRefused) {
+  const Folder folder;
+  const QString path = folder.Path();
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::Missing);
+  DossierFile::Maak(path, VoorbeeldDossier());
+  EXPECT_EQ(ProblemAtOpening(path), std::nullopt);
 }
 
-TEST(Openen, AFileWithANameThatLooksLikeAnAddress) {
-  const Map map;
-  const QString pad = map.Maak(VoorbeeldDossier(), "50% été?mode=ro#1 &'x'.dossier");
-  const auto bestand = DossierBestand::Open(pad);
-  bestand->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
-  EXPECT_EQ(bestand->Dossier()->ZoekKolom(0, 1)->Looptijd(), 17);
+TEST(OpeningTest, AFileWithANameThatLooksLikeAnAddress) {
+  const Folder folder;
+  const QString path = folder.Make(VoorbeeldDossier(), "50% été?mode=ro#1 &'x'.dossier");
+  const auto file = DossierFile::Open(path);
+  file->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+  EXPECT_EQ(file->Dossier()->ZoekKolom(0, 1)->Looptijd(), 17);
 }
 
-TEST(Openen, AnEditLeavesTheFilesMarksInPlace) {
-  const Map map;
-  const QString pad = map.Maak();
-  DossierBestand::Open(pad)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
-  Database database(pad, Access::ReadOnly);
+TEST(OpeningTest, AnEditLeavesTheFilesMarksInPlace) {
+  const Folder folder;
+  const QString path = folder.Make();
+  DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+  Database database(path, Access::ReadOnly);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA application_id")).toUInt(), kApplicationId);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), 1);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA journal_mode")).toString(), "wal");
 }
 
-TEST(Maken, NeverReplacesAFile) {
-  const Map map;
-  Schrijf(map.Pad(), "van een ander");
+TEST(MakingTest, NeverReplacesAFile) {
+  const Folder folder;
+  Write(folder.Path(), "van een ander");
   try {
-    DossierBestand::Maak(map.Pad(), LeegDossier());
+    DossierFile::Maak(folder.Path(), LeegDossier());
     ADD_FAILURE() << "made";
   } catch (const OpeningError& error) {
     EXPECT_EQ(error.Problem(), OpeningProblem::AlreadyThere);
     EXPECT_TRUE(error.Melding().contains("staat al een bestand \"test.dossier\"")) << error.what();
   }
-  EXPECT_EQ(Bytes(map.Pad()), "van een ander");
-  EXPECT_EQ(map.Inhoud(), QStringList("test.dossier"));
+  EXPECT_EQ(Bytes(folder.Path()), "van een ander");
+  EXPECT_EQ(folder.Contents(), QStringList("test.dossier"));
 }
 
-TEST(Maken, AFileWhereNoneCanBe) {
-  const Map map;
+TEST(MakingTest, AFileWhereNoneCanBe) {
+  const Folder folder;
   try {
-    DossierBestand::Maak(map.Pad("weg/test.dossier"), LeegDossier());
+    DossierFile::Maak(folder.Path("weg/test.dossier"), LeegDossier());
     ADD_FAILURE() << "made";
   } catch (const OpeningError& error) {
     EXPECT_EQ(error.Problem(), OpeningProblem::CannotCreate);
     EXPECT_TRUE(error.Melding().contains("kan niet worden gemaakt")) << error.what();
   }
-  EXPECT_EQ(map.Inhoud(), QStringList());
+  EXPECT_EQ(folder.Contents(), QStringList());
 }
 
-TEST(Maken, LeavesNothingBesideTheFile) {
-  const Map map;
-  const QString pad = map.Maak(LeegDossier());
-  EXPECT_EQ(map.Inhoud(), QStringList("test.dossier"));
-  EXPECT_EQ(DossierBestand::Open(pad)->ControleerHeelheid(), QStringList());
+TEST(MakingTest, LeavesNothingBesideTheFile) {
+  const Folder folder;
+  const QString path = folder.Make(LeegDossier());
+  EXPECT_EQ(folder.Contents(), QStringList("test.dossier"));
+  EXPECT_EQ(DossierFile::Open(path)->ControleerHeelheid(), QStringList());
 }
 
-TEST(Openen, AFileThatWasOpenedUnderARelativeNameIsFreeAfterIt) {
-  const Map map;
-  const QString naam = QDir::current().relativeFilePath(map.Maak());
-  ASSERT_TRUE(QFileInfo(naam).isRelative());
-  static_cast<void>(DossierBestand::Open(naam));
-  EXPECT_EQ(ProbleemBijOpenen(naam), std::nullopt);
+TEST(OpeningTest, AFileThatWasOpenedUnderARelativeNameIsFreeAfterIt) {
+  const Folder folder;
+  const QString name = QDir::current().relativeFilePath(folder.Make());
+  ASSERT_TRUE(QFileInfo(name).isRelative());
+  static_cast<void>(DossierFile::Open(name));
+  EXPECT_EQ(ProblemAtOpening(name), std::nullopt);
 }
 
 }  // namespace

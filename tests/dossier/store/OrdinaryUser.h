@@ -5,22 +5,22 @@
 namespace brivane::dossier {
 
 /// While it lives, the process has the rights of an ordinary user: an administrator may read and write anything.
-class GewoneGebruiker {
+class OrdinaryUser {
  public:
-  GewoneGebruiker() : eigen_(geteuid()) {
-    if (eigen_ == 0) gelukt_ = seteuid(kNobody) == 0;
+  OrdinaryUser() : own_(geteuid()) {
+    if (own_ == 0) succeeded_ = seteuid(kNobody) == 0;
   }
-  GewoneGebruiker(const GewoneGebruiker&) = delete;
-  GewoneGebruiker& operator=(const GewoneGebruiker&) = delete;
-  ~GewoneGebruiker() {
-    if (eigen_ == 0 && gelukt_) gelukt_ = seteuid(0) == 0;
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  ~OrdinaryUser() {
+    if (own_ == 0 && succeeded_) succeeded_ = seteuid(0) == 0;
   }
-  [[nodiscard]] bool Gelukt() const { return gelukt_; }
+  [[nodiscard]] bool Succeeded() const { return succeeded_; }
 
  private:
   static constexpr uid_t kNobody = 65534;
-  uid_t eigen_;
-  bool gelukt_ = true;
+  uid_t own_;
+  bool succeeded_ = true;
 };
 
 }  // namespace brivane::dossier

@@ -6,10 +6,10 @@
 namespace brivane::dossier {
 namespace {
 
-host::Date Datum(int dag, int maand, int jaar) { return frame::MakeDate({.year = jaar, .month = maand, .day = dag}); }
+host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
 /// The same contents with the keys left out, which the file gives.
-DossierGegevens ZonderSleutels(DossierGegevens dossier) {
+DossierGegevens WithoutKeys(DossierGegevens dossier) {
   dossier.Leningen.push_back(std::exchange(dossier.HuidigeLening, {}));
   for (LeningGegevens& lening : dossier.Leningen) {
     lening.Sleutel = 0;
@@ -22,7 +22,7 @@ DossierGegevens ZonderSleutels(DossierGegevens dossier) {
 }
 
 /// A column in which every field that a file keeps has a value of its own.
-KolomGegevens VolleKolom() {
+KolomGegevens FullKolom() {
   KolomGegevens kolom;
   kolom.Id = -7;
   kolom.CorrectieLast = 3;
@@ -32,9 +32,9 @@ KolomGegevens VolleKolom() {
   kolom.Termijn = 12;
   kolom.InkomenUitArbeid = true;
   kolom.InDagloon = true;
-  kolom.DatumAanvang = Datum(31, 1, 2031);
+  kolom.DatumAanvang = DateOf(31, 1, 2031);
   kolom.Looptijd = 2147483647;
-  kolom.Contractvervaldatum = Datum(1, 1, 100);
+  kolom.Contractvervaldatum = DateOf(1, 1, 100);
   kolom.IsProduct = true;
   kolom.Maatschappij = "ZZ";
   kolom.MaatschappijNaam = "Eigen naam";
@@ -48,167 +48,167 @@ KolomGegevens VolleKolom() {
   kolom.UitsluitenLangleven = true;
   kolom.ScenarioOverlijden = true;
   kolom.PercentageOvergang = 33.333332F;
-  kolom.EinddatumOvergang = Datum(29, 2, 2048);
+  kolom.EinddatumOvergang = DateOf(29, 2, 2048);
   kolom.EindleeftijdOvergang = -32768;
   kolom.Bedrag.Naam = "Overbruggingskrediet";
   kolom.Bedrag.Invoersoort = 3;
   kolom.Bedrag.Bedrag = 0.1 + 0.2;
-  kolom.Bedrag.Perioden = {{.Maand = 25, .Bedrag = -200.05, .Percentage = 1.5, .Korting = 0.25, .Eenmalig = true},
-                           {.Maand = 13, .Bedrag = 1e300, .Percentage = -7, .Korting = 3, .Eenmalig = false}};
+  kolom.Bedrag.Perioden = {{{.Maand = 25, .Bedrag = -200.05, .Percentage = 1.5, .Korting = 0.25, .Eenmalig = true}},
+                           {{.Maand = 13, .Bedrag = 1e300, .Percentage = -7, .Korting = 3, .Eenmalig = false}}};
   return kolom;
 }
 
-TEST(Rondreis, TheSampleComesBackAsItWas) {
-  const Map map;
-  const DossierGegevens voorbeeld = VoorbeeldDossier();
-  EXPECT_EQ(ZonderSleutels(Gelezen(map.Maak(voorbeeld))), ZonderSleutels(voorbeeld));
+TEST(RoundTripTest, TheSampleComesBackAsItWas) {
+  const Folder folder;
+  const DossierGegevens sample = VoorbeeldDossier();
+  EXPECT_EQ(WithoutKeys(ReadBack(folder.Make(sample))), WithoutKeys(sample));
 }
 
-TEST(Rondreis, EveryFieldComesBackAsItWas) {
-  const Map map;
+TEST(RoundTripTest, EveryFieldComesBackAsItWas) {
+  const Folder folder;
   DossierGegevens dossier = VoorbeeldDossier();
   dossier.Leeftijd = 71;
   dossier.MaatschappijType = {{"", "geen"}, {"A'B", "Alfa \"B\""}, {"A'B", "dubbel"}};
-  dossier.HuidigeLening.VrijeKolommen.push_back(VolleKolom());
+  dossier.HuidigeLening.VrijeKolommen.push_back(FullKolom());
   dossier.Voorstellen = {{{1, 2}, {}, {-7, 32767}}};
-  EXPECT_EQ(ZonderSleutels(Gelezen(map.Maak(dossier))), ZonderSleutels(dossier));
+  EXPECT_EQ(WithoutKeys(ReadBack(folder.Make(dossier))), WithoutKeys(dossier));
 }
 
-TEST(Rondreis, ATextComesBackToTheByte) {
-  const Map map;
-  const QString pad = map.Maak();
+TEST(RoundTripTest, ATextComesBackToTheByte) {
+  const Folder folder;
+  const QString path = folder.Make();
   const std::string nul("a\0b", 3);
-  const std::string geen_utf8("\xff\xfe");
-  const std::string lang(100000, 'x');
-  for (const std::string& tekst : {nul, geen_utf8, lang, std::string()}) {
-    DossierBestand::Open(pad)->Dossier()->ZoekKolom(0, 1)->SetOmschrijving(tekst);
-    EXPECT_EQ(DossierBestand::Open(pad)->Dossier()->ZoekKolom(0, 1)->Omschrijving(), tekst);
+  const std::string notUtf8("\xff\xfe");
+  const std::string longText(100000, 'x');
+  for (const std::string& text : {nul, notUtf8, longText, std::string()}) {
+    DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetOmschrijving(text);
+    EXPECT_EQ(DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->Omschrijving(), text);
   }
 }
 
-TEST(Rondreis, WhatEachSetterWritesIsInTheFile) {
-  const Map map;
-  const QString pad = map.Maak(LeegDossier());
-  const KolomGegevens vol = VolleKolom();
+TEST(RoundTripTest, WhatEachSetterWritesIsInTheFile) {
+  const Folder folder;
+  const QString path = folder.Make(LeegDossier());
+  const KolomGegevens full = FullKolom();
   {
-    const auto bestand = DossierBestand::Open(pad);
-    const auto kolom = bestand->Dossier()->NieuweKolom(0);
-    kolom->SetCorrectieLast(vol.CorrectieLast);
-    kolom->SetCorrectieFiscaal(vol.CorrectieFiscaal);
-    kolom->SetHeffingBij(vol.HeffingBij);
-    kolom->SetOmschrijving(vol.Omschrijving);
-    kolom->SetTermijn(vol.Termijn);
+    const auto file = DossierFile::Open(path);
+    const auto kolom = file->Dossier()->NieuweKolom(0);
+    kolom->SetCorrectieLast(full.CorrectieLast);
+    kolom->SetCorrectieFiscaal(full.CorrectieFiscaal);
+    kolom->SetHeffingBij(full.HeffingBij);
+    kolom->SetOmschrijving(full.Omschrijving);
+    kolom->SetTermijn(full.Termijn);
     kolom->SetInkomenUitArbeid(true);
     kolom->SetInDagloon(true);
-    kolom->SetDatumAanvang(vol.DatumAanvang);
-    kolom->SetLooptijd(vol.Looptijd);
-    kolom->SetContractvervaldatum(vol.Contractvervaldatum);
+    kolom->SetDatumAanvang(full.DatumAanvang);
+    kolom->SetLooptijd(full.Looptijd);
+    kolom->SetContractvervaldatum(full.Contractvervaldatum);
     kolom->SetIsProduct(true);
-    kolom->SetMaatschappij(vol.Maatschappij);
-    kolom->SetMaatschappijNaam(vol.MaatschappijNaam);
-    kolom->SetProductsoort(vol.Productsoort);
-    kolom->SetProductsoortOmschrijving(vol.ProductsoortOmschrijving);
-    kolom->SetProductnaam(vol.Productnaam);
+    kolom->SetMaatschappij(full.Maatschappij);
+    kolom->SetMaatschappijNaam(full.MaatschappijNaam);
+    kolom->SetProductsoort(full.Productsoort);
+    kolom->SetProductsoortOmschrijving(full.ProductsoortOmschrijving);
+    kolom->SetProductnaam(full.Productnaam);
     kolom->SetUwBemiddeling(true);
-    for (const std::int16_t nummer : {1, 2, 3})
-      kolom->SetVoorstel(nummer, vol.Voorstel[static_cast<std::size_t>(nummer - 1)]);
+    for (const std::int16_t number : {1, 2, 3})
+      kolom->SetVoorstel(number, full.Voorstel[static_cast<std::size_t>(number - 1)]);
     kolom->SetUitsluitenAO(true);
     kolom->SetUitsluitenWW(true);
     kolom->SetUitsluitenLangleven(true);
     kolom->SetScenarioOverlijden(true);
-    kolom->SetPercentageOvergang(vol.PercentageOvergang);
-    kolom->SetEinddatumOvergang(vol.EinddatumOvergang);
-    kolom->SetEindleeftijdOvergang(vol.EindleeftijdOvergang);
+    kolom->SetPercentageOvergang(full.PercentageOvergang);
+    kolom->SetEinddatumOvergang(full.EinddatumOvergang);
+    kolom->SetEindleeftijdOvergang(full.EindleeftijdOvergang);
     const auto bedrag = kolom->Bedrag();
     bedrag->SetBasisbedrag(1);
-    bedrag->SetBedrag(vol.Bedrag.Bedrag);
-    for (const PeriodeGegevens& periode : vol.Bedrag.Perioden) {
-      const auto nieuw = bedrag->Periode(bedrag->NieuwePeriode());
-      nieuw->SetMaand(periode.Maand);
-      nieuw->SetBedrag(periode.Bedrag);
-      nieuw->SetPercentage(periode.Percentage);
-      nieuw->SetKorting(periode.Korting);
-      nieuw->SetEenmalig(periode.Eenmalig);
+    bedrag->SetBedrag(full.Bedrag.Bedrag);
+    for (const PeriodeGegevens& periode : full.Bedrag.Perioden) {
+      const auto added = bedrag->Periode(bedrag->NieuwePeriode());
+      added->SetMaand(periode.Maand);
+      added->SetBedrag(periode.Bedrag);
+      added->SetPercentage(periode.Percentage);
+      added->SetKorting(periode.Korting);
+      added->SetEenmalig(periode.Eenmalig);
     }
   }
-  DossierGegevens verwacht = LeegDossier();
-  verwacht.HuidigeLening.VrijeKolommen = {vol};
+  DossierGegevens expected = LeegDossier();
+  expected.HuidigeLening.VrijeKolommen = {full};
   // What a new column is given, and no setter changes.
-  verwacht.HuidigeLening.VrijeKolommen[0].Id = 1;
-  verwacht.HuidigeLening.VrijeKolommen[0].Bedrag.Naam = "";
-  verwacht.HuidigeLening.VrijeKolommen[0].Bedrag.Invoersoort = 1;
-  EXPECT_EQ(ZonderSleutels(Gelezen(pad)), ZonderSleutels(verwacht));
+  expected.HuidigeLening.VrijeKolommen[0].Id = 1;
+  expected.HuidigeLening.VrijeKolommen[0].Bedrag.Naam = "";
+  expected.HuidigeLening.VrijeKolommen[0].Bedrag.Invoersoort = 1;
+  EXPECT_EQ(WithoutKeys(ReadBack(path)), WithoutKeys(expected));
 }
 
-TEST(Rondreis, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
-  const Map map;
-  const QString pad = map.Maak();
-  const auto na = [&](const char* wat, const std::function<void(Dossier&)>& operatie) {
-    SCOPED_TRACE(wat);
-    DossierGegevens geheugen;
+TEST(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const auto after = [&](const char* what, const std::function<void(Dossier&)>& operation) {
+    SCOPED_TRACE(what);
+    DossierGegevens inMemory;
     {
-      const auto bestand = DossierBestand::Open(pad);
-      operatie(*bestand->Dossier());
-      geheugen = bestand->Dossier()->Gegevens();
-      EXPECT_EQ(bestand->ControleerHeelheid(), QStringList());
+      const auto file = DossierFile::Open(path);
+      operation(*file->Dossier());
+      inMemory = file->Dossier()->Gegevens();
+      EXPECT_EQ(file->ControleerHeelheid(), QStringList());
     }
     // Keys and places too: an order that only the memory knew would show.
-    EXPECT_EQ(Gelezen(pad), geheugen);
+    EXPECT_EQ(ReadBack(path), inMemory);
   };
-  na("add", [](Dossier& dossier) { dossier.NieuweKolom(1); });
-  na("duplicate, with periods", [](Dossier& dossier) { dossier.Dupliceer(0, 1); });
-  na("deviate", [](Dossier& dossier) { dossier.MaakAfwijking(5, 2); });
-  na("move", [](Dossier& dossier) { dossier.Verplaats(0, 2, 1); });
-  na("move to where it deviates", [](Dossier& dossier) { dossier.Verplaats(0, 1, 1); });
-  na("add after a move", [](Dossier& dossier) {
+  after("add", [](Dossier& dossier) { dossier.NieuweKolom(1); });
+  after("duplicate, with periods", [](Dossier& dossier) { dossier.Dupliceer(0, 1); });
+  after("deviate", [](Dossier& dossier) { dossier.MaakAfwijking(5, 2); });
+  after("move", [](Dossier& dossier) { dossier.Verplaats(0, 2, 1); });
+  after("move to where it deviates", [](Dossier& dossier) { dossier.Verplaats(0, 1, 1); });
+  after("add after a move", [](Dossier& dossier) {
     dossier.Verplaats(1, 2, 0);
     dossier.NieuweKolom(0);
   });
-  na("remove, from a proposal too", [](Dossier& dossier) { dossier.Verwijder(0, 6); });
-  na("remove by position", [](Dossier& dossier) { dossier.Lening(1)->VerwijderVrijeKolom(1); });
-  na("remove a period", [](Dossier& dossier) { dossier.ZoekKolom(0, 5)->Bedrag()->VerwijderPeriode(1); });
-  na("proposals", [](Dossier& dossier) {
+  after("remove, from a proposal too", [](Dossier& dossier) { dossier.Verwijder(0, 6); });
+  after("remove by position", [](Dossier& dossier) { dossier.Lening(1)->VerwijderVrijeKolom(1); });
+  after("remove a period", [](Dossier& dossier) { dossier.ZoekKolom(0, 5)->Bedrag()->VerwijderPeriode(1); });
+  after("proposals", [](Dossier& dossier) {
     dossier.VoegToeAanVoorstel(2, 3);
     dossier.VoegToeAanVoorstel(2, 3);
     dossier.VoegToeAanVoorstel(3, 3);
     dossier.VerwijderUitVoorstel(3, 3, 0);
     dossier.VerwijderUitVoorstel(3, 3, 0);
   });
-  na("a new loan", [](Dossier& dossier) {
-    const std::int16_t nummer = dossier.NieuweLening("Nieuwe lening 3");
-    dossier.NieuweKolom(nummer);
+  after("a new loan", [](Dossier& dossier) {
+    const std::int16_t number = dossier.NieuweLening("Nieuwe lening 3");
+    dossier.NieuweKolom(number);
   });
-  na("another client", [](Dossier& dossier) {
-    dossier.SetClient({{.Naam = {"A.", "", "Alleen"}, .Geboortedatum = Datum(1, 2, 1990)}}, 70);
+  after("another client", [](Dossier& dossier) {
+    dossier.SetClient({{.Naam = {"A.", "", "Alleen"}, .Geboortedatum = DateOf(1, 2, 1990)}}, 70);
   });
 }
 
-TEST(Rondreis, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
-  const Map map;
-  const auto bestand = DossierBestand::Open(map.Maak());
-  Dossier& dossier = *bestand->Dossier();
-  const auto verwijderd = dossier.NieuweKolom(0);
-  dossier.Verwijder(0, verwijderd->Id());
-  const auto nieuw = dossier.NieuweKolom(0);
-  nieuw->SetOmschrijving("nieuw");
+TEST(RoundTripTest, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
+  const Folder folder;
+  const auto file = DossierFile::Open(folder.Make());
+  Dossier& dossier = *file->Dossier();
+  const auto removed = dossier.NieuweKolom(0);
+  dossier.Verwijder(0, removed->Id());
+  const auto added = dossier.NieuweKolom(0);
+  added->SetOmschrijving("nieuw");
   // Somebody still holds the column that is gone: its change must not reach the new one.
   try {
-    verwijderd->SetOmschrijving("oud");
+    removed->SetOmschrijving("oud");
     ADD_FAILURE() << "stored";
   } catch (const host::Error& error) {
     EXPECT_EQ(error.Number(), 91);
   }
-  EXPECT_EQ(nieuw->Omschrijving(), "nieuw");
-  EXPECT_EQ(verwijderd->Omschrijving(), "");
+  EXPECT_EQ(added->Omschrijving(), "nieuw");
+  EXPECT_EQ(removed->Omschrijving(), "");
 }
 
-TEST(Rondreis, TheCaseOutlivesItsFileButChangesNoMore) {
-  const Map map;
-  const QString pad = map.Maak();
-  auto bestand = DossierBestand::Open(pad);
-  const auto dossier = bestand->Dossier();
-  const auto trace = bestand->MaakTrace("VrijeKolom");
-  bestand.reset();
+TEST(RoundTripTest, TheCaseOutlivesItsFileButChangesNoMore) {
+  const Folder folder;
+  const QString path = folder.Make();
+  auto file = DossierFile::Open(path);
+  const auto dossier = file->Dossier();
+  const auto trace = file->MaakTrace("VrijeKolom");
+  file.reset();
   EXPECT_EQ(dossier->ZoekKolom(0, 1)->Omschrijving(), "Kinderopvang");
   trace->EnterProcedure("TxtOm_Validation");
   try {

@@ -7,39 +7,39 @@
 
 namespace brivane::dossier {
 
-/// A second process at work on a loan file; see Tweede.cpp for what it can be told.
-class TweedeProces {
+/// A second process at work on a loan file; see second_process.cpp for what it can be told.
+class SecondProcess {
  public:
-  explicit TweedeProces(const QStringList& opdracht) {
-    proces_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    proces_.start(QStringLiteral(SECOND_PROCESS), opdracht);
-    EXPECT_TRUE(proces_.waitForStarted());
+  explicit SecondProcess(const QStringList& command) {
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.start(QStringLiteral(SECOND_PROCESS), command);
+    EXPECT_TRUE(process_.waitForStarted());
   }
 
   /// Its next line, or nothing where it ended without one.
-  [[nodiscard]] QString Regel() {
-    while (!proces_.canReadLine()) {
-      if (!proces_.waitForReadyRead(kGeduld)) return {};
+  [[nodiscard]] QString Line() {
+    while (!process_.canReadLine()) {
+      if (!process_.waitForReadyRead(kPatience)) return {};
     }
-    return QString::fromUtf8(proces_.readLine()).trimmed();
+    return QString::fromUtf8(process_.readLine()).trimmed();
   }
   /// Kills it, and answers all that it had said by then.
-  [[nodiscard]] QStringList Dood() {
-    proces_.kill();
-    EXPECT_TRUE(proces_.waitForFinished(kGeduld));
-    return QString::fromUtf8(proces_.readAll()).split('\n', Qt::SkipEmptyParts);
+  [[nodiscard]] QStringList Kill() {
+    process_.kill();
+    EXPECT_TRUE(process_.waitForFinished(kPatience));
+    return QString::fromUtf8(process_.readAll()).split('\n', Qt::SkipEmptyParts);
   }
   /// Lets it finish, and answers its exit code.
-  int Sluit() {
-    proces_.closeWriteChannel();
-    EXPECT_TRUE(proces_.waitForFinished(kGeduld));
-    EXPECT_EQ(proces_.exitStatus(), QProcess::NormalExit);
-    return proces_.exitCode();
+  int Close() {
+    process_.closeWriteChannel();
+    EXPECT_TRUE(process_.waitForFinished(kPatience));
+    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
+    return process_.exitCode();
   }
 
  private:
-  static constexpr int kGeduld = 60000;
-  QProcess proces_;
+  static constexpr int kPatience = 60000;
+  QProcess process_;
 };
 
 }  // namespace brivane::dossier

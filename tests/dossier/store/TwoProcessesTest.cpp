@@ -5,53 +5,53 @@
 namespace brivane::dossier {
 namespace {
 
-const char kInGebruik[] = "Het dossier \"test.dossier\" is al geopend in een ander venster of programma.";
+const char kInUse[] = "Het dossier \"test.dossier\" is al geopend in een ander venster of programma.";
 
-TEST(TweeProcessen, AFileThatAnotherProcessHasOpenIsRefusedAndItsProcessWorksOn) {
-  const Map map;
-  const QString pad = map.Maak();
-  TweedeProces tweede({"open", pad});
-  EXPECT_EQ(tweede.Regel(), "open Kinderopvang");
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::InUse);
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::InUse);
-  EXPECT_EQ(tweede.Sluit(), 0);
-  EXPECT_EQ(ProbleemBijOpenen(pad), std::nullopt);
+TEST(TwoProcessesTest, AFileThatAnotherProcessHasOpenIsRefusedAndItsProcessWorksOn) {
+  const Folder folder;
+  const QString path = folder.Make();
+  SecondProcess second({"open", path});
+  EXPECT_EQ(second.Line(), "open Kinderopvang");
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::InUse);
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::InUse);
+  EXPECT_EQ(second.Close(), 0);
+  EXPECT_EQ(ProblemAtOpening(path), std::nullopt);
 }
 
-TEST(TweeProcessen, AnotherProcessIsRefusedTheFileThatThisOneHasOpen) {
-  const Map map;
-  const QString pad = map.Maak();
-  const auto bestand = DossierBestand::Open(pad);
+TEST(TwoProcessesTest, AnotherProcessIsRefusedTheFileThatThisOneHasOpen) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const auto file = DossierFile::Open(path);
   // Being refused in this process must not let go of the lock that keeps the other one out.
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::InUse);
-  TweedeProces tweede({"open", pad});
-  EXPECT_EQ(tweede.Regel(), kInGebruik);
-  EXPECT_EQ(tweede.Sluit(), 0);
-  bestand->Dossier()->ZoekKolom(0, 1)->SetOmschrijving("werkt door");
-  TweedeProces derde({"open", pad});
-  EXPECT_EQ(derde.Regel(), kInGebruik);
-  EXPECT_EQ(derde.Sluit(), 0);
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::InUse);
+  SecondProcess second({"open", path});
+  EXPECT_EQ(second.Line(), kInUse);
+  EXPECT_EQ(second.Close(), 0);
+  file->Dossier()->ZoekKolom(0, 1)->SetOmschrijving("werkt door");
+  SecondProcess third({"open", path});
+  EXPECT_EQ(third.Line(), kInUse);
+  EXPECT_EQ(third.Close(), 0);
 }
 
-TEST(TweeProcessen, AFileThatAnotherProgramIsReadingIsRefused) {
-  const Map map;
-  const QString pad = map.Maak();
-  TweedeProces lezer({"lees", pad});
-  EXPECT_EQ(lezer.Regel(), "leest 8");
-  EXPECT_EQ(ProbleemBijOpenen(pad), OpeningProblem::InUse);
-  EXPECT_EQ(lezer.Sluit(), 0);
-  EXPECT_EQ(ProbleemBijOpenen(pad), std::nullopt);
+TEST(TwoProcessesTest, AFileThatAnotherProgramIsReadingIsRefused) {
+  const Folder folder;
+  const QString path = folder.Make();
+  SecondProcess reader({"read", path});
+  EXPECT_EQ(reader.Line(), "reads 8");
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::InUse);
+  EXPECT_EQ(reader.Close(), 0);
+  EXPECT_EQ(ProblemAtOpening(path), std::nullopt);
 }
 
-TEST(TweeProcessen, TheNextProcessFindsWhatTheFirstOneAccepted) {
-  const Map map;
-  const QString pad = map.Maak();
-  TweedeProces eerste({"bewerk", pad, "6", "6"});
-  EXPECT_EQ(eerste.Regel(), "6");
-  EXPECT_EQ(eerste.Sluit(), 0);
-  TweedeProces tweede({"open", pad});
-  EXPECT_EQ(tweede.Regel(), "open Bewerking 6");
-  EXPECT_EQ(tweede.Sluit(), 0);
+TEST(TwoProcessesTest, TheNextProcessFindsWhatTheFirstOneAccepted) {
+  const Folder folder;
+  const QString path = folder.Make();
+  SecondProcess first({"edit", path, "6", "6"});
+  EXPECT_EQ(first.Line(), "6");
+  EXPECT_EQ(first.Close(), 0);
+  SecondProcess second({"open", path});
+  EXPECT_EQ(second.Line(), "open Bewerking 6");
+  EXPECT_EQ(second.Close(), 0);
 }
 
 }  // namespace

@@ -12,49 +12,49 @@ namespace {
 using namespace brivane;
 using namespace brivane::dossier;
 
-void Zeg(const std::string& regel) {
-  const std::string tekst = regel + "\n";
-  if (write(STDOUT_FILENO, tekst.data(), tekst.size()) < 0) std::abort();
+void Say(const std::string& line) {
+  const std::string text = line + "\n";
+  if (write(STDOUT_FILENO, text.data(), text.size()) < 0) std::abort();
 }
 
 /// Until the parent closes the pipe.
-void Wacht() {
+void Wait() {
   char byte = 0;
   while (read(STDIN_FILENO, &byte, 1) > 0) {
   }
 }
 
-int Open(const QString& pad) {
+int Open(const QString& path) {
   try {
-    const auto bestand = DossierBestand::Open(pad);
-    Zeg("open " + bestand->Dossier()->ZoekKolom(0, 1)->Omschrijving());
-    Wacht();
+    const auto file = DossierFile::Open(path);
+    Say("open " + file->Dossier()->ZoekKolom(0, 1)->Omschrijving());
+    Wait();
   } catch (const OpeningError& error) {
-    Zeg(error.what());
+    Say(error.what());
   }
   return 0;
 }
 
 /// As another program would that reads the file.
-int Lees(const QString& pad) {
-  Database database(pad, Access::ReadOnly);
-  Zeg("leest " + database.Value(QStringLiteral("SELECT count(*) FROM vrijekolom")).toString().toStdString());
-  Wacht();
+int Read(const QString& path) {
+  Database database(path, Access::ReadOnly);
+  Say("reads " + database.Value(QStringLiteral("SELECT count(*) FROM vrijekolom")).toString().toStdString());
+  Wait();
   return 0;
 }
 
 /// Says the number of each edit once it has been accepted, until it is killed or has done the last one.
-int Bewerk(const QString& pad, int eerste, int laatste) {
-  const auto bestand = DossierBestand::Open(pad);
-  Werkplek werk(*bestand);
-  werk.Bind(0, 1);
-  for (int n = eerste; n <= laatste; ++n) {
-    DoeBewerking(werk, n);
-    if (!werk.fouten.empty()) {
-      Zeg("fout: " + werk.fouten.back().ErrorDescription);
+int Edit(const QString& path, int first, int last) {
+  const auto file = DossierFile::Open(path);
+  Desk desk(*file);
+  desk.Bind(0, 1);
+  for (int n = first; n <= last; ++n) {
+    DoEdit(desk, n);
+    if (!desk.reports.empty()) {
+      Say("error: " + desk.reports.back().ErrorDescription);
       return 1;
     }
-    Zeg(std::to_string(n));
+    Say(std::to_string(n));
   }
   return 0;
 }
@@ -63,10 +63,10 @@ int Bewerk(const QString& pad, int eerste, int laatste) {
 
 int main(int argc, char** argv) {
   if (argc < 3) return 2;
-  const std::string wat = argv[1];
-  const QString pad = QString::fromLocal8Bit(argv[2]);
-  if (wat == "open") return Open(pad);
-  if (wat == "lees") return Lees(pad);
-  if (wat == "bewerk" && argc == 5) return Bewerk(pad, std::atoi(argv[3]), std::atoi(argv[4]));
+  const std::string command = argv[1];
+  const QString path = QString::fromLocal8Bit(argv[2]);
+  if (command == "open") return Open(path);
+  if (command == "read") return Read(path);
+  if (command == "edit" && argc == 5) return Edit(path, std::atoi(argv[3]), std::atoi(argv[4]));
   return 2;
 }

@@ -14,7 +14,7 @@ using controls::Toggle;
 
 TEST_P(Conformance, AToggleRaisesChangeWhenAPersonChangesIt) {
   auto& toggle = Get<JaNee>("jnDiep");
-  toggle.Change.Connect([&] { log.push_back("Change " + std::to_string(toggle.Value())); });
+  subscriptions += toggle.Change.Connect([&] { log.push_back("Change " + std::to_string(toggle.Value())); });
   Act(toggle, Toggle{host::kJa});
   EXPECT_EQ(Shown("jnDiep").value, DumpValue(2));
   Act(toggle, Toggle{host::kJa});
@@ -25,7 +25,7 @@ TEST_P(Conformance, AToggleRaisesChangeWhenAPersonChangesIt) {
 
 TEST_P(Conformance, AToggleRaisesChangeAtOnceWhenCodeChangesIt) {
   auto& toggle = Get<JaNee>("jnDiep");
-  toggle.Change.Connect([&] { log.emplace_back("Change"); });
+  subscriptions += toggle.Change.Connect([&] { log.emplace_back("Change"); });
   toggle.SetValue(host::kNee);
   log.emplace_back("set to the same");
   toggle.SetValue(host::kJa);
@@ -36,7 +36,7 @@ TEST_P(Conformance, AToggleRaisesChangeAtOnceWhenCodeChangesIt) {
 
 TEST_P(Conformance, ACheckBoxRaisesClickWhenAPersonChangesIt) {
   auto& box = Get<CheckBox>("chkVinkje");
-  box.Click.Connect([&] { log.push_back("Click " + std::to_string(box.Value())); });
+  subscriptions += box.Click.Connect([&] { log.push_back("Click " + std::to_string(box.Value())); });
   Act(box, Tick{host::kTicked});
   EXPECT_EQ(Shown("chkVinkje").value, DumpValue(1));
   Act(box, Tick{host::kTicked});
@@ -46,7 +46,7 @@ TEST_P(Conformance, ACheckBoxRaisesClickWhenAPersonChangesIt) {
 
 TEST_P(Conformance, ACheckBoxRaisesClickAtOnceWhenCodeChangesIt) {
   auto& box = Get<CheckBox>("chkVinkje");
-  box.Click.Connect([&] { log.emplace_back("Click"); });
+  subscriptions += box.Click.Connect([&] { log.emplace_back("Click"); });
   box.SetValue(host::kUnticked);
   log.emplace_back("set to the same");
   box.SetValue(host::kTicked);
@@ -57,7 +57,8 @@ TEST_P(Conformance, ACheckBoxRaisesClickAtOnceWhenCodeChangesIt) {
 
 TEST_P(Conformance, AnOptionRaisesClickWhenAPersonSelectsItAndNotAgain) {
   for (int i = 1; i <= 3; ++i)
-    Get<OptionButton>("optSoort", i).Click.Connect([&, i] { log.push_back("Click " + std::to_string(i)); });
+    subscriptions +=
+        Get<OptionButton>("optSoort", i).Click.Connect([&, i] { log.push_back("Click " + std::to_string(i)); });
   Act(Get<OptionButton>("optSoort", 2), Select{});
   Act(Get<OptionButton>("optSoort", 2), Select{});
   Act(Get<OptionButton>("optSoort", 3), Select{});
@@ -69,7 +70,8 @@ TEST_P(Conformance, AnOptionRaisesClickWhenAPersonSelectsItAndNotAgain) {
 
 TEST_P(Conformance, AnOptionRaisesClickAtOnceWhenCodeSelectsItAndNotAgain) {
   for (int i = 1; i <= 3; ++i)
-    Get<OptionButton>("optSoort", i).Click.Connect([&, i] { log.push_back("Click " + std::to_string(i)); });
+    subscriptions +=
+        Get<OptionButton>("optSoort", i).Click.Connect([&, i] { log.push_back("Click " + std::to_string(i)); });
   Get<OptionButton>("optSoort", 1).SetValue(true);
   log.emplace_back("selected");
   Get<OptionButton>("optSoort", 1).SetValue(true);
@@ -82,7 +84,7 @@ TEST_P(Conformance, AnOptionRaisesClickAtOnceWhenCodeSelectsItAndNotAgain) {
 
 TEST_P(Conformance, TheOthersAreDeselectedBeforeTheClickIsRaised) {
   Get<OptionButton>("optSoort", 1).SetValue(true);
-  Get<OptionButton>("optSoort", 2).Click.Connect([&] {
+  subscriptions += Get<OptionButton>("optSoort", 2).Click.Connect([&] {
     EXPECT_FALSE(Get<OptionButton>("optSoort", 1).Value());
     EXPECT_TRUE(Get<OptionButton>("optSoort", 2).Value());
     log.emplace_back("Click");
@@ -94,7 +96,8 @@ TEST_P(Conformance, TheOthersAreDeselectedBeforeTheClickIsRaised) {
 TEST_P(Conformance, DeselectingByCodeRaisesNothingAndLeavesNoneSelected) {
   auto& option = Get<OptionButton>("optSoort", 2);
   option.SetValue(true);
-  for (int i = 1; i <= 3; ++i) Get<OptionButton>("optSoort", i).Click.Connect([&] { log.emplace_back("Click"); });
+  for (int i = 1; i <= 3; ++i)
+    subscriptions += Get<OptionButton>("optSoort", i).Click.Connect([&] { log.emplace_back("Click"); });
   option.SetValue(false);
   subject->Settle();
   EXPECT_EQ(log, std::vector<std::string>{});
@@ -115,7 +118,7 @@ TEST_P(Conformance, GroupsInOneFrameAreApart) {
 
 TEST_P(Conformance, AButtonRaisesClickEachTimeItIsPressed) {
   auto& button = Get<controls::Button>("cmdDoen");
-  button.Click.Connect([&] { log.emplace_back("Click"); });
+  subscriptions += button.Click.Connect([&] { log.emplace_back("Click"); });
   Act(button, Press{});
   Act(button, Press{});
   EXPECT_EQ(log, (std::vector<std::string>{"Click", "Click"}));
@@ -124,8 +127,8 @@ TEST_P(Conformance, AButtonRaisesClickEachTimeItIsPressed) {
 TEST_P(Conformance, AnEventSetOffInAHandlerIsDeliveredInsideIt) {
   auto& toggle = Get<JaNee>("jnDiep");
   auto& box = Get<CheckBox>("chkVinkje");
-  box.Click.Connect([&] { log.emplace_back("Click"); });
-  toggle.Change.Connect([&] {
+  subscriptions += box.Click.Connect([&] { log.emplace_back("Click"); });
+  subscriptions += toggle.Change.Connect([&] {
     log.emplace_back("Change begins");
     box.SetValue(host::kTicked);
     log.emplace_back("Change ends");
@@ -136,7 +139,7 @@ TEST_P(Conformance, AnEventSetOffInAHandlerIsDeliveredInsideIt) {
 
 TEST_P(Conformance, AHandlerMayTurnTheControlBack) {
   auto& toggle = Get<JaNee>("jnDiep");
-  toggle.Change.Connect([&] {
+  subscriptions += toggle.Change.Connect([&] {
     log.push_back("Change " + std::to_string(toggle.Value()));
     toggle.SetValue(host::kNee);
   });
@@ -148,8 +151,8 @@ TEST_P(Conformance, AHandlerMayTurnTheControlBack) {
 TEST_P(Conformance, CaptionEnabledVisibleAndPlaceRaiseNothing) {
   auto& toggle = Get<JaNee>("jnDiep");
   auto& box = Get<CheckBox>("chkVinkje");
-  toggle.Change.Connect([&] { log.emplace_back("Change"); });
-  box.Click.Connect([&] { log.emplace_back("Click"); });
+  subscriptions += toggle.Change.Connect([&] { log.emplace_back("Change"); });
+  subscriptions += box.Click.Connect([&] { log.emplace_back("Click"); });
   box.SetCaption("Anders");
   box.SetEnabled(false);
   box.SetVisible(false);

@@ -89,6 +89,7 @@ class Conformance : public testing::TestWithParam<Subject> {
 
   std::unique_ptr<ToolkitUnderTest> subject;
   std::unique_ptr<host::Surface> surface;
+  host::Subscriptions subscriptions;
   std::vector<std::string> log;  ///< what the listeners of a test heard, in order
 };
 

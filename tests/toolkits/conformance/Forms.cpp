@@ -13,8 +13,8 @@ class FormConformance : public Conformance {
   static constexpr auto cmdOK = frame::Find<Kind::Button>(kForm, "cmdOK");
 
   FormConformance() : form(subject->Toolkit().MakeForm(kForm)) {
-    form->Activate.Connect([this] { log.emplace_back("Activate"); });
-    form->Unloaded.Connect([this] { log.emplace_back("Unloaded"); });
+    subscriptions += form->Activate.Connect([this] { log.emplace_back("Activate"); });
+    subscriptions += form->Unloaded.Connect([this] { log.emplace_back("Unloaded"); });
   }
 
   template <Kind K> [[nodiscard]] frame::TypeOf<K>& At(frame::Handle<K> handle) {
@@ -131,7 +131,7 @@ TEST_P(FormConformance, TheWindowIsLargerThanItsInsideByFrameAndTitle) {
   EXPECT_GE(frameWidth.value, 0);
   EXPECT_GT(frameHeight.value, 0);
   int resizes = 0;
-  form->Resize.Connect([&] { ++resizes; });
+  subscriptions += form->Resize.Connect([&] { ++resizes; });
   form->Write(host::Measure::Height, 4500 + frameHeight.value);
   form->Write(host::Measure::Width, 7500 + frameWidth.value);
   EXPECT_EQ(resizes, 2);
@@ -153,8 +153,8 @@ TEST_P(FormConformance, ShowingActivatesAndClosesWhatWasLeftOpen) {
 TEST_P(FormConformance, APersonWorksTheFormWhileItIsOpen) {
   host::TextBox& box = Create(txtBedrag, 1);
   box.SetVisible(true);
-  box.Validation.Connect([&](bool&) { log.push_back("entered " + std::to_string(box.Number())); });
-  At(cmdOK).Click.Connect([this] {
+  subscriptions += box.Validation.Connect([&](bool&) { log.push_back("entered " + std::to_string(box.Number())); });
+  subscriptions += At(cmdOK).Click.Connect([this] {
     log.emplace_back("OK");
     form->Unload();
     log.emplace_back("OK ends");
@@ -182,16 +182,13 @@ TEST_P(FormConformance, UnloadingTellsOnce) {
 }
 
 TEST_P(FormConformance, AFormUnloadedInItsActivateDoesNotOpen) {
-  form->Activate.Connect([this] {
-    log.emplace_back("Activate");
-    form->Unload();
-  });
+  subscriptions += form->Activate.Connect([this] { form->Unload(); });
   Open([] {});
   EXPECT_EQ(log, (std::vector<std::string>{"Activate", "Unloaded", "closed"}));
 }
 
 TEST_P(FormConformance, AnActionAfterUnloadingIsIgnored) {
-  At(cmdOK).Click.Connect([this] { log.emplace_back("OK"); });
+  subscriptions += At(cmdOK).Click.Connect([this] { log.emplace_back("OK"); });
   form->Unload();
   EXPECT_EQ(Door(*Window().Find("cmdOK"), controls::Press{}), Outcome::Ignored);
   EXPECT_EQ(log, std::vector<std::string>{"Unloaded"});

@@ -9,7 +9,7 @@ using controls::ListView;
 
 TEST_P(Conformance, AListRaisesClickWhenAPersonPicksAnotherEntry) {
   auto& list = Get<ListBox>("cboTermijn");
-  list.Click.Connect([&] { log.push_back(list.Text()); });
+  subscriptions += list.Click.Connect([&] { log.push_back(list.Text()); });
   Act(list, Choose{2});
   Act(list, Choose{2});
   Act(list, Choose{0});
@@ -19,7 +19,7 @@ TEST_P(Conformance, AListRaisesClickWhenAPersonPicksAnotherEntry) {
 
 TEST_P(Conformance, AListRaisesClickWhenCodeChangesTheIndexToNoneToo) {
   auto& list = Get<ListBox>("cboTermijn");
-  list.Click.Connect([&] { log.push_back("Click " + std::to_string(list.ListIndex())); });
+  subscriptions += list.Click.Connect([&] { log.push_back("Click " + std::to_string(list.ListIndex())); });
   list.SetListIndex(-1);
   log.emplace_back("still none");
   list.SetListIndex(1);
@@ -32,7 +32,7 @@ TEST_P(Conformance, AListRaisesClickWhenCodeChangesTheIndexToNoneToo) {
 TEST_P(Conformance, ClearingAndAddingRaiseNothingAndClearingSelectsNone) {
   auto& list = Get<ListBox>("cboTermijn");
   list.SetListIndex(1);
-  list.Click.Connect([&] { log.emplace_back("Click"); });
+  subscriptions += list.Click.Connect([&] { log.emplace_back("Click"); });
   list.Clear();
   EXPECT_EQ(list.ListIndex(), -1);
   EXPECT_EQ(list.ListCount(), 0);

@@ -9,14 +9,17 @@ using controls::Outcome;
 class ReachConformance : public Conformance {
  protected:
   ReachConformance() {
-    Get<controls::TextBox>("txtNaam").Validation.Connect([this](bool&) { log.emplace_back("txtNaam"); });
-    Get<controls::TextBox>("txtTotaal").Validation.Connect([this](bool&) { log.emplace_back("txtTotaal"); });
-    Get<controls::JaNee>("jnDiep").Change.Connect([this] { log.emplace_back("jnDiep"); });
-    Get<controls::OptionButton>("optSoort", 2).Click.Connect([this] { log.emplace_back("optSoort"); });
-    Get<controls::CheckBox>("chkVinkje").Click.Connect([this] { log.emplace_back("chkVinkje"); });
-    Get<controls::ListBox>("cboTermijn").Click.Connect([this] { log.emplace_back("cboTermijn"); });
-    Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("cmdDoen"); });
-    Get<controls::JaNee>("Binnenste.jnBinnen").Change.Connect([this] { log.emplace_back("jnBinnen"); });
+    subscriptions +=
+        Get<controls::TextBox>("txtNaam").Validation.Connect([this](bool&) { log.emplace_back("txtNaam"); });
+    subscriptions +=
+        Get<controls::TextBox>("txtTotaal").Validation.Connect([this](bool&) { log.emplace_back("txtTotaal"); });
+    subscriptions += Get<controls::JaNee>("jnDiep").Change.Connect([this] { log.emplace_back("jnDiep"); });
+    subscriptions += Get<controls::OptionButton>("optSoort", 2).Click.Connect([this] { log.emplace_back("optSoort"); });
+    subscriptions += Get<controls::CheckBox>("chkVinkje").Click.Connect([this] { log.emplace_back("chkVinkje"); });
+    subscriptions += Get<controls::ListBox>("cboTermijn").Click.Connect([this] { log.emplace_back("cboTermijn"); });
+    subscriptions += Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("cmdDoen"); });
+    subscriptions +=
+        Get<controls::JaNee>("Binnenste.jnBinnen").Change.Connect([this] { log.emplace_back("jnBinnen"); });
   }
 
   struct Try {

@@ -6,7 +6,8 @@ namespace brivane::test {
 using host::Measure;
 
 TEST_P(Conformance, ASizeChangeRaisesOneResize) {
-  surface->Resize.Connect([&] { log.push_back("Resize " + std::to_string(surface->Place().width.value)); });
+  subscriptions +=
+      surface->Resize.Connect([&] { log.push_back("Resize " + std::to_string(surface->Place().width.value)); });
   surface->Move({{0}, {0}, {9000}, {4500}});
   surface->Write(Measure::Width, 7500);
   surface->Write(Measure::Width, 7500);
@@ -17,7 +18,7 @@ TEST_P(Conformance, ASizeChangeRaisesOneResize) {
 
 TEST_P(Conformance, TheContainersSizingRaisesOneResizeAlsoToThePresentSize) {
   int resizes = 0;
-  surface->Resize.Connect([&] { ++resizes; });
+  subscriptions += surface->Resize.Connect([&] { ++resizes; });
   Area().Size({9000}, {4500});
   EXPECT_EQ(resizes, 1);
   EXPECT_EQ(surface->Place().width, host::Twips{9000});
@@ -28,7 +29,7 @@ TEST_P(Conformance, TheContainersSizingRaisesOneResizeAlsoToThePresentSize) {
 }
 
 TEST_P(Conformance, ResizingInsideTheResizeRaisesANestedOne) {
-  surface->Resize.Connect([&] {
+  subscriptions += surface->Resize.Connect([&] {
     log.push_back("begin " + std::to_string(static_cast<int>(surface->Place().height.value)));
     if (log.size() == 1) surface->Write(Measure::Height, 3000);
     log.emplace_back("end");
@@ -41,8 +42,8 @@ TEST_P(Conformance, ResizingInsideTheResizeRaisesANestedOne) {
 
 TEST_P(Conformance, AnEmbeddedSurfaceResizesByItself) {
   auto& inner = Get<controls::ControlSurface>("Binnenste");
-  surface->Resize.Connect([&] { log.emplace_back("outer"); });
-  inner.Resize.Connect([&] { log.emplace_back("inner"); });
+  subscriptions += surface->Resize.Connect([&] { log.emplace_back("outer"); });
+  subscriptions += inner.Resize.Connect([&] { log.emplace_back("inner"); });
   inner.Write(Measure::Height, 600);
   surface->Write(Measure::Height, 6000);
   subject->Settle();
@@ -110,8 +111,9 @@ TEST_P(Conformance, EveryControlTakesABackgroundColour) {
 
 TEST_P(Conformance, ASurfaceTellsThatItsBackgroundWasSet) {
   auto& inner = Get<controls::ControlSurface>("Binnenste");
-  surface->BackColorSet.Connect([&](host::Color color) { log.push_back("outer " + std::to_string(color.value)); });
-  inner.BackColorSet.Connect([&](host::Color color) {
+  subscriptions +=
+      surface->BackColorSet.Connect([&](host::Color color) { log.push_back("outer " + std::to_string(color.value)); });
+  subscriptions += inner.BackColorSet.Connect([&](host::Color color) {
     log.push_back("inner " + std::to_string(color.value));
     EXPECT_EQ(inner.BackColor(), color);
   });

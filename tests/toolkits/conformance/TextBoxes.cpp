@@ -103,7 +103,7 @@ TEST_P(Conformance, AWholeNumberBoxHandsAFractionOverUnrounded) {
 TEST_P(Conformance, APersonsEntryIsInTheBoxBeforeItsValidation) {
   auto& amount = Get<TextBox>("txtBedrag");
   std::vector<double> seen;
-  amount.Validation.Connect([&](bool& Cancel) {
+  subscriptions += amount.Validation.Connect([&](bool& Cancel) {
     EXPECT_FALSE(Cancel);
     seen.push_back(amount.Number());
   });
@@ -126,7 +126,7 @@ TEST_P(Conformance, EveryKindOfBoxTakesAPersonsEntry) {
 TEST_P(Conformance, EveryEntryRaisesValidationOnceAlsoOfTheValueThatStandsThere) {
   auto& text = Get<TextBox>("txtNaam");
   int raised = 0;
-  text.Validation.Connect([&](bool&) { ++raised; });
+  subscriptions += text.Validation.Connect([&](bool&) { ++raised; });
   Act(text, Enter{std::string("Krant")});
   EXPECT_EQ(raised, 1);
   Act(text, Enter{std::string("Krant")});
@@ -135,7 +135,7 @@ TEST_P(Conformance, EveryEntryRaisesValidationOnceAlsoOfTheValueThatStandsThere)
 
 TEST_P(Conformance, WritingByCodeRaisesNothing) {
   for (const char* name : {"txtNaam", "txtBedrag", "txtDatum"})
-    Get<TextBox>(name).Validation.Connect([&, name](bool&) { log.emplace_back(name); });
+    subscriptions += Get<TextBox>(name).Validation.Connect([&, name](bool&) { log.emplace_back(name); });
   Get<TextBox>("txtNaam").SetText("Krant");
   Get<TextBox>("txtBedrag").SetNumber(12);
   Get<TextBox>("txtDatum").SetDate(kDate);
@@ -147,7 +147,7 @@ TEST_P(Conformance, ARefusedEntryStaysAsTyped) {
   auto& amount = Get<TextBox>("txtBedrag");
   amount.SetNumber(10);
   bool refuse = true;
-  amount.Validation.Connect([&](bool& Cancel) { Cancel = refuse; });
+  subscriptions += amount.Validation.Connect([&](bool& Cancel) { Cancel = refuse; });
   EXPECT_EQ(Door(amount, Enter{-1.0}), Outcome::Refused);
   EXPECT_EQ(amount.Number(), -1.0);
   EXPECT_EQ(Shown("txtBedrag").value, DumpValue(-1.0));
@@ -157,14 +157,14 @@ TEST_P(Conformance, ARefusedEntryStaysAsTyped) {
 
 TEST_P(Conformance, AFailingListenerFailsTheAction) {
   auto& text = Get<TextBox>("txtNaam");
-  text.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  subscriptions += text.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
   EXPECT_EQ(ErrorOf([&] { Door(text, Enter{std::string("x")}); }), 91);
   EXPECT_EQ(text.Text(), "x");
 }
 
 TEST_P(Conformance, CodeMayWriteIntoTheBoxThatIsBeingValidated) {
   auto& amount = Get<TextBox>("txtBedrag");
-  amount.Validation.Connect([&](bool&) { amount.SetNumber(99); });
+  subscriptions += amount.Validation.Connect([&](bool&) { amount.SetNumber(99); });
   Act(amount, Enter{1.0});
   EXPECT_EQ(amount.Number(), 99);
   EXPECT_EQ(Shown("txtBedrag").value, DumpValue(99.0));

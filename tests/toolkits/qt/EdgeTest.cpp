@@ -51,24 +51,5 @@ TEST(Colors, OfTheSystemAreLeftToThePalette) {
   EXPECT_EQ(TextOn(Qt::darkBlue), Qt::white);
 }
 
-TEST(Contents, AreShownByTheirFormat) {
-  using controls::BoxValue;
-  using frame::Format;
-  EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::Amount), "1.500,00");
-  EXPECT_EQ(ShownContent(BoxValue(1500.0), Format::WholeNumber), "1500");
-  EXPECT_EQ(ShownContent(BoxValue(1.5), Format::WholeNumber), "1,5");
-  EXPECT_EQ(ShownContent(BoxValue(3.7), Format::Number), "3,7");
-  EXPECT_EQ(ShownContent(BoxValue(), Format::Amount), "");
-  EXPECT_EQ(ShownContent(BoxValue(std::string("12")), Format::Amount), "12");
-  EXPECT_EQ(ShownContent(BoxValue(host::Date(45322)), Format::Date), "31-01-2024");
-}
-
-TEST(Contents, OfATextBoxAreOneLine) {
-  using controls::BoxValue;
-  EXPECT_EQ(ReadContent("een\r\ntwee", frame::Format::Text).value, BoxValue(std::string("een twee")));
-  EXPECT_EQ(ReadContent("", frame::Format::Text).value, BoxValue());
-  EXPECT_EQ(ReadContent("12,50\r\n", frame::Format::Amount).value, BoxValue(12.5));
-}
-
 }  // namespace
 }  // namespace brivane::qt

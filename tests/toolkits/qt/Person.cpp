@@ -8,7 +8,8 @@
 #include "controls/Choices.h"
 #include "controls/Surface.h"
 #include "controls/TextBox.h"
-#include "toolkits/qt/Edge.h"
+#include "controls/entry/Content.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/rows/RowCanvas.h"
@@ -85,7 +86,7 @@ class Doer {
     Click(widget_, place_.center());
     if (QApplication::focusWidget() == nullptr || !Focused()) return;
     const auto format = static_cast<const controls::TextBox&>(control_).Format();
-    TypeOver(qt::ShownContent(enter.value, format));
+    TypeOver(qt::ToQt(controls::ShowContent(enter.value, format)));
     Press(Qt::Key_Tab);
   }
   void operator()(const controls::Close&) const { widget_.window()->close(); }

@@ -1,17 +1,58 @@
 #include <QApplication>
+#include <QClipboard>
 #include <QTimer>
-#include <QVBoxLayout>
+#include <QToolTip>
+#include <QTreeWidget>
 
-#include "tests/toolkits/conformance/Conformance.h"
+#include "tests/toolkits/conformance/Screen.h"
 #include "tests/toolkits/qt/Person.h"
 #include "toolkits/qt/Dump.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/Toolkit.h"
+#include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/widgets/Bubble.h"
+#include "toolkits/qt/widgets/DateBox.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 
 namespace brivane::test {
 namespace {
 
-class QtUnderTest final : public ToolkitUnderTest {
+struct Stroke {
+  Qt::Key key;
+  Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+};
+
+Stroke StrokeOf(Key key) {
+  switch (key) {
+    case Key::Tab: return {Qt::Key_Tab};
+    case Key::Enter: return {Qt::Key_Return};
+    case Key::KeypadEnter: return {Qt::Key_Enter, Qt::KeypadModifier};
+    case Key::Escape: return {Qt::Key_Escape};
+    case Key::Space: return {Qt::Key_Space};
+    case Key::Delete: return {Qt::Key_Delete};
+    case Key::Left: return {Qt::Key_Left};
+    case Key::Right: return {Qt::Key_Right};
+    case Key::Up: return {Qt::Key_Up};
+    case Key::Down: return {Qt::Key_Down};
+    case Key::End: return {Qt::Key_End};
+    case Key::F4: return {Qt::Key_F4};
+    case Key::KeypadPoint: return {Qt::Key_Period, Qt::KeypadModifier};
+    case Key::KeypadComma: return {Qt::Key_Comma, Qt::KeypadModifier};
+  }
+  return {Qt::Key_unknown};
+}
+
+Qt::KeyboardModifiers ModifierOf(With with) {
+  switch (with) {
+    case With::Shift: return Qt::ShiftModifier;
+    case With::Control: return Qt::ControlModifier;
+    case With::Alt: return Qt::AltModifier;
+    case With::None: break;
+  }
+  return Qt::NoModifier;
+}
+
+class QtUnderTest final : public ScreenUnderTest {
  public:
   [[nodiscard]] qt::Toolkit& Toolkit() override { return toolkit_; }
 
@@ -31,6 +72,7 @@ class QtUnderTest final : public ToolkitUnderTest {
     QTimer::singleShot(0, &window_, [script = std::move(script)] {
       auto* const dialog = dynamic_cast<qt::FormWindow::Window*>(QApplication::activeModalWidget());
       if (dialog == nullptr) return;
+      ShowActive(*dialog);
       script(dialog->Form());
       if (dialog->isVisible()) dialog->done(0);
     });
@@ -40,15 +82,99 @@ class QtUnderTest final : public ToolkitUnderTest {
     return qt::DumpShown(surface, toolkit_);
   }
 
+  void Press(Key key, With with) override {
+    const Stroke stroke = StrokeOf(key);
+    // Qt knows Tab backwards as a key of its own.
+    const bool back = key == Key::Tab && with == With::Shift;
+    test::Press(back ? Qt::Key_Backtab : stroke.key, stroke.modifiers | ModifierOf(with));
+    Settle();
+  }
+  void Press(char key, With with) override {
+    test::Press(key, ModifierOf(with));  // capital letters and digits are their own codes
+    Settle();
+  }
+  void Type(const std::string& text) override { test::Type(qt::ToQt(text)); }
+  void Click(controls::AnyControl& control) override {
+    const QRect place = PlaceOn(control);
+    test::Click(*WidgetFor(control), QPoint(place.left() + 8, place.center().y()));
+  }
+  void Copy(const std::string& text) override { QGuiApplication::clipboard()->setText(qt::ToQt(text)); }
+  void LeaveWindow() override { ShowActive(other_); }
+  void ReturnToWindow() override {
+    other_.hide();
+    ShowActive(window_);
+  }
+  void ClickCalendarButton(controls::AnyControl& box) override {
+    QWidget& widget = *WidgetFor(box);
+    test::Click(widget, QPoint(widget.width() - 12, widget.height() / 2));
+  }
+  void ClickRow(controls::AnyControl& list, int row) override {
+    const QTreeWidget& tree = TreeOf(list);
+    test::Click(*tree.viewport(), tree.visualItemRect(tree.topLevelItem(row - 1)).center());
+  }
+  void CloseWindow(controls::Form& form) override { DialogOf(form).close(); }
+
+  [[nodiscard]] std::string Focused() override {
+    const QWidget* const widget = QApplication::focusWidget();
+    for (const QWidget* area = widget; area != nullptr; area = area->parentWidget())
+      if (const auto* canvas = dynamic_cast<const qt::RowCanvas*>(area))
+        return canvas->Current()->Control().ElementName();
+    return widget != nullptr ? qt::FromQt(widget->objectName()) : "";
+  }
+  [[nodiscard]] std::string Typed(controls::AnyControl& box) override {
+    const auto* const cell = dynamic_cast<const qt::CellPeer*>(box.GetPeer());
+    if (cell != nullptr && !cell->Canvas()->IsEdited(*cell)) return qt::FromQt(cell->Text());
+    return qt::FromQt(EntryOf(box).text());
+  }
+  [[nodiscard]] std::string Reason(controls::AnyControl& box) override {
+    return qt::FromQt(qt::Bubble::ReasonOf(EntryOf(box)));
+  }
+  [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
+    const QWidget* const calendar = dynamic_cast<qt::DateBox&>(EntryOf(box)).Calendar();
+    return calendar != nullptr && calendar->isVisible();
+  }
+  [[nodiscard]] std::string Help() override {
+    if (!QToolTip::isVisible()) return "";
+    return qt::FromQt(QToolTip::text().remove("<qt>").remove("</qt>"));
+  }
+  [[nodiscard]] std::vector<int> MarkedRows(controls::AnyControl& list) override {
+    std::vector<int> rows;
+    for (const QModelIndex& row : TreeOf(list).selectionModel()->selectedRows()) rows.push_back(row.row() + 1);
+    return rows;
+  }
+  [[nodiscard]] bool IsOpen(controls::Form& form) override { return DialogOf(form).isVisible(); }
+  [[nodiscard]] bool IsBare() override { return window_.findChild<QWidget*>() == nullptr; }
+  void Answer(std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle)>
+                  answer) override {
+    toolkit_.Desktop().answer = std::move(answer);
+  }
+
  private:
+  [[nodiscard]] static QDialog& DialogOf(controls::Form& form) {
+    return dynamic_cast<qt::FormWindow&>(*form.GetPeer()).Dialog();
+  }
+  [[nodiscard]] static QTreeWidget& TreeOf(controls::AnyControl& list) {
+    return dynamic_cast<QTreeWidget&>(*WidgetFor(list));
+  }
+  [[nodiscard]] static qt::EntryBox& EntryOf(controls::AnyControl& box) {
+    if (const auto* cell = dynamic_cast<const qt::CellPeer*>(box.GetPeer())) return *cell->Canvas()->Editor();
+    return dynamic_cast<qt::EntryBox&>(*WidgetFor(box));
+  }
+
   QWidget window_;
+  QWidget other_;
   qt::Toolkit toolkit_;
 };
 
-std::unique_ptr<ToolkitUnderTest> MakeQt() { return std::make_unique<QtUnderTest>(); }
-
 }  // namespace
 
-std::vector<Subject> Subjects() { return {{"QtDoor", &MakeQt, Way::Door}, {"QtGesture", &MakeQt, Way::Gesture}}; }
+std::vector<Subject> Subjects() {
+  const auto make = [] { return std::make_unique<QtUnderTest>(); };
+  return {{"QtDoor", make, Way::Door}, {"QtGesture", make, Way::Gesture}};
+}
+
+std::vector<ScreenSubject> Screens() {
+  return {{"Qt", [] { return std::make_unique<QtUnderTest>(); }}};
+}
 
 }  // namespace brivane::test

@@ -17,7 +17,7 @@
 
 namespace brivane::test {
 
-/// The design with every kind of control, on the screen. `log` holds what its boxes hand over.
+/// The design with every kind of control, on the screen.
 class SurfaceTest : public testing::Test {
  protected:
   SurfaceTest() : surface_(toolkit_.MakeSurface(kSurface)) {
@@ -26,10 +26,6 @@ class SurfaceTest : public testing::Test {
     area.show();
     window_.resize(area.size());
     ShowActive(window_);
-    toolkit_.Desktop().answer = [this](const std::string& title, const std::string& text, host::MessageStyle) {
-      log_.push_back("message " + title + ": " + text);
-      return host::MessageAnswer::Ok;
-    };
   }
 
   [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {
@@ -37,15 +33,6 @@ class SurfaceTest : public testing::Test {
   }
   template <class Box = qt::EntryBox> [[nodiscard]] Box& Entry(std::string_view name) {
     return dynamic_cast<Box&>(*WidgetFor(Control(name)));
-  }
-  [[nodiscard]] controls::TextBox& Box(std::string_view name) { return static_cast<controls::TextBox&>(Control(name)); }
-  /// Notes each Validation of a box; refuses while `refuse_` stands.
-  void Follow(std::string_view name) {
-    controls::TextBox& box = Box(name);
-    box.Validation.Connect([this, &box](bool& Cancel) {
-      log_.push_back(box.ElementName() + " = " + qt::ShownContent(box.Content(), box.Format()).toStdString());
-      Cancel = refuse_;
-    });
   }
   void Focus(std::string_view name) { Click(*WidgetFor(Control(name))); }
   [[nodiscard]] static std::string Focused() {
@@ -56,8 +43,8 @@ class SurfaceTest : public testing::Test {
   QWidget window_;
   qt::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
+  host::Subscriptions subscriptions_;
   std::vector<std::string> log_;
-  bool refuse_ = false;
 };
 
 }  // namespace brivane::test

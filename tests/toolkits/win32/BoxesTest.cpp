@@ -1,5 +1,3 @@
-#include "controls/Choices.h"
-#include "controls/Plain.h"
 #include "frame/Calendar.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
 #include "toolkits/win32/controls/Calendar.h"
@@ -19,79 +17,10 @@ class Boxes : public SurfaceTest {
   }
 };
 
-TEST_F(Boxes, HandOverOnceWhenLeftAfterAnEdit) {
-  Focus("txtBedrag");
-  TypeOver(L"1234,5");
-  EXPECT_THAT(log_, IsEmpty());
-  Press(VK_TAB);
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 1.234,50"));
-  EXPECT_EQ(Typed("txtBedrag"), "1.234,50");
-  EXPECT_EQ(Focused(), "txtPercentage");
-  Press(VK_TAB, With::Shift);
-  EXPECT_EQ(Focused(), "txtBedrag");
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 1U);
-}
-
-TEST_F(Boxes, HandOverOnEnterAndKeepTheFocus) {
-  Focus("txtBedrag");
-  TypeOver(L"12");
-  Press(VK_RETURN);
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 12,00"));
-  EXPECT_EQ(Focused(), "txtBedrag");
-  Press(VK_RETURN);
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 1U);
-}
-
-TEST_F(Boxes, HandOverNothingWhenLeftWithoutAnEdit) {
-  Focus("txtBedrag");
-  Press(VK_TAB);
-  Press(VK_TAB);
-  EXPECT_THAT(log_, IsEmpty());
-}
-
-TEST_F(Boxes, TakeThePointOfTheKeypadAsTheDecimalSign) {
-  Focus("txtBedrag");
-  Press('1');
-  Press('2');
-  Press(VK_DECIMAL);
-  Press('5');
-  Press(VK_TAB);
-  Press('3');
-  Press(VK_SEPARATOR);
-  Press('7');
-  Press(VK_TAB);
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 12,50", "txtPercentage = 3,7"));
-}
-
-TEST_F(Boxes, TakeThePointOfTheKeypadAsItIsWhereThereAreNoDecimals) {
-  Focus("txtNaam");
-  Press('1');
-  Press(VK_DECIMAL);
-  Press('5');
-  Press(VK_TAB);
-  EXPECT_EQ(Box("txtNaam").Text(), "1.5");
-}
-
-TEST_F(Boxes, ReadAPointOfTheMainKeysAsThousands) {
-  Focus("txtBedrag");
-  TypeOver(L"1.500");
-  Press(VK_TAB);
-  EXPECT_EQ(Box("txtBedrag").Number(), 1500);
-}
-
-TEST_F(Boxes, RefuseMalformedTypingBesideTheBoxAndKeepFocusAndText) {
-  Box("txtBedrag").SetNumber(7);
+TEST_F(Boxes, TheReasonStandsUnderItsBoxUntilSomethingIsTyped) {
   Focus("txtBedrag");
   TypeOver(L"12.50");
   Press(VK_TAB);
-  EXPECT_THAT(log_, IsEmpty());
-  EXPECT_EQ(Focused(), "txtBedrag");
-  EXPECT_EQ(Typed("txtBedrag"), "12.50");
-  EXPECT_EQ(Reason("txtBedrag"), "Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen.");
-  EXPECT_EQ(Box("txtBedrag").Number(), 7);
-
   const HWND bubble = Entry("txtBedrag").ReasonShown()->Handle();
   EXPECT_TRUE(IsWindowVisible(bubble));
   RECT reason{};
@@ -101,103 +30,8 @@ TEST_F(Boxes, RefuseMalformedTypingBesideTheBoxAndKeepFocusAndText) {
   EXPECT_GE(reason.top, box.bottom);
   EXPECT_LE(reason.top, box.bottom + 4);
   EXPECT_EQ(reason.left, box.left);
-
   TypeOver(L"12,50");
-  EXPECT_EQ(Reason("txtBedrag"), "");
   EXPECT_FALSE(IsWindow(bubble));
-  Press(VK_TAB);
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 12,50"));
-}
-
-TEST_F(Boxes, RefusedKeepTheFocusFromAClickAndDropIt) {
-  Focus("txtDatum");
-  TypeOver(L"31-2-2031");
-  for (const char* name : {"jnDiep", "chkVinkje", "cboTermijn", "cmdDoen", "txtNaam", "lvwLijst", "hntDiep"}) {
-    Click(WindowOf(name));
-    EXPECT_EQ(Focused(), "txtDatum") << name;
-  }
-  EXPECT_EQ(static_cast<controls::JaNee&>(Control("jnDiep")).Value(), host::kNee);
-  EXPECT_EQ(static_cast<controls::CheckBox&>(Control("chkVinkje")).Value(), host::kUnticked);
-  EXPECT_EQ(Reason("txtDatum"), "31 februari 2031 bestaat niet.");
-}
-
-TEST_F(Boxes, HandOverBeforeAMnemonicPressesAButton) {
-  static_cast<controls::Button&>(Control("cmdDoen")).Click.Connect([this] { log_.emplace_back("pressed"); });
-  Focus("txtBedrag");
-  TypeOver(L"5");
-  Press('D', With::Alt);
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 5,00", "pressed"));
-}
-
-TEST_F(Boxes, ALabelsMnemonicGoesToItsBox) {
-  Focus("txtDatum");
-  Press('N', With::Alt);
-  EXPECT_EQ(Focused(), "txtNaam");
-}
-
-TEST_F(Boxes, RefusedByTheControlKeepFocusAndText) {
-  refuse_ = true;
-  Box("txtDatum").SetDate(frame::MakeDate({2024, 1, 31}));
-  Focus("txtDatum");
-  TypeOver(L"1-4-2031");
-  Press(VK_TAB);
-  EXPECT_THAT(log_, ElementsAre("txtDatum = 01-04-2031"));
-  EXPECT_EQ(Focused(), "txtDatum");
-  EXPECT_EQ(Typed("txtDatum"), "1-4-2031");
-  EXPECT_EQ(Reason("txtDatum"), "");
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 2U);
-  refuse_ = false;
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 3U);
-  EXPECT_EQ(Typed("txtDatum"), "01-04-2031");
-}
-
-TEST_F(Boxes, EscapePutsBackWhatStoodThereAlsoAfterARefusal) {
-  Box("txtDatum").SetDate(frame::MakeDate({2024, 1, 31}));
-  Focus("txtDatum");
-  TypeOver(L"1-4-2031");
-  Press(VK_ESCAPE);
-  EXPECT_EQ(Typed("txtDatum"), "31-01-2024");
-  Press(VK_TAB);
-  EXPECT_THAT(log_, IsEmpty());
-
-  refuse_ = true;
-  Focus("txtDatum");
-  TypeOver(L"1-4-2031");
-  Press(VK_TAB);
-  Press(VK_ESCAPE);
-  EXPECT_EQ(Typed("txtDatum"), "31-01-2024");
-  EXPECT_EQ(Box("txtDatum").DateValue(), frame::MakeDate({2024, 1, 31}));
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 1U);
-}
-
-TEST_F(Boxes, AnEmptiedBoxIsEmpty) {
-  Box("txtBedrag").SetNumber(7);
-  Focus("txtBedrag");
-  TypeOver(L"");
-  Press(VK_TAB);
-  EXPECT_EQ(Box("txtBedrag").Content(), controls::BoxValue());
-}
-
-TEST_F(Boxes, DecimalsThatAreNotShownSurviveARetypedText) {
-  Box("txtBedrag").SetNumber(1036.9994);
-  Focus("txtBedrag");
-  TypeOver(L"1.037,00");
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 1U);
-  EXPECT_EQ(Box("txtBedrag").Number(), 1036.9994);
-}
-
-TEST_F(Boxes, WhatCodeWritesWhileTypingReplacesTheTyping) {
-  Box("txtBedrag").SetNumber(7);
-  Focus("txtBedrag");
-  TypeOver(L"12.50");
-  Box("txtBedrag").SetNumber(7);
-  EXPECT_EQ(Typed("txtBedrag"), "7,00");
-  Press(VK_TAB);
-  EXPECT_THAT(log_, IsEmpty());
 }
 
 TEST_F(Boxes, TextOutsideAsciiIsTakenAndShown) {
@@ -208,20 +42,11 @@ TEST_F(Boxes, TextOutsideAsciiIsTakenAndShown) {
   EXPECT_EQ(Typed("txtNaam"), "Zoë € 日");
 }
 
-TEST_F(Boxes, AnotherWindowDoesNotHandOverButAnotherControlOfTheContainerDoes) {
-  Focus("txtBedrag");
-  TypeOver(L"5");
-  const HWND other =
-      CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr, nullptr, nullptr);
-  SetForegroundWindow(other);
-  SetFocus(other);
-  stage_.Settle();
-  EXPECT_THAT(log_, IsEmpty());
-  DestroyWindow(other);
-  SetForegroundWindow(stage_.Window());
+TEST_F(Boxes, AnotherControlOfTheContainerDoesHandOver) {
   const HWND sibling = CreateWindowExW(0, L"EDIT", L"", WS_CHILD | WS_VISIBLE, 700, 500, 50, 20, stage_.Window(),
                                        nullptr, nullptr, nullptr);
-  SetFocus(WindowOf("txtBedrag"));
+  Focus("txtBedrag");
+  TypeOver(L"5");
   SetFocus(sibling);
   stage_.Settle();
   EXPECT_THAT(log_, ElementsAre("txtBedrag = 5,00"));
@@ -235,52 +60,6 @@ TEST_F(Boxes, AnotherWindowDoesNotHandOverButAnotherControlOfTheContainerDoes) {
   EXPECT_EQ(Focused(), "txtBedrag");
 }
 
-TEST_F(Boxes, AHostHandsOverWhatIsBeingTyped) {
-  EXPECT_TRUE(toolkit_.CommitPending(*surface_));
-  Focus("txtBedrag");
-  TypeOver(L"12.50");
-  EXPECT_FALSE(toolkit_.CommitPending(*surface_));
-  TypeOver(L"12,50");
-  EXPECT_TRUE(toolkit_.CommitPending(*surface_));
-  EXPECT_THAT(log_, ElementsAre("txtBedrag = 12,50"));
-}
-
-TEST_F(Boxes, AFailureIsToldAndDoesNotCrossTheWindowProcedure) {
-  Box("txtNaam").Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
-  Focus("txtNaam");
-  TypeOver(L"x");
-  Press(VK_TAB);
-  EXPECT_THAT(log_, ElementsAre("message Kwandero: Er is een fout opgetreden.\r\n91: Object missing"));
-  toolkit_.SetFailureListener([this](const host::Error& failure) { log_.push_back(failure.Description()); });
-  Focus("txtNaam");
-  TypeOver(L"y");
-  Press(VK_TAB);
-  EXPECT_EQ(log_.back(), "Object missing");
-  Box("txtNaam").Validation.Connect([](bool&) { throw 5; });
-  Focus("txtNaam");
-  TypeOver(L"z");
-  Press(VK_TAB);
-  EXPECT_EQ(log_.size(), 3U);
-}
-
-TEST_F(Boxes, ALockedBoxTakesTheFocusButNoTyping) {
-  Box("txtTotaal").SetNumber(3);
-  Focus("txtTotaal");
-  EXPECT_EQ(Focused(), "txtTotaal");
-  TypeOver(L"5");
-  Press(VK_DECIMAL);
-  EXPECT_EQ(Typed("txtTotaal"), "3,00");
-}
-
-TEST_F(Boxes, ABoxMayTakeItsSurfaceAwayWhenItIsLeft) {
-  Box("txtNaam").Validation.Connect([this](bool&) { surface_.reset(); });
-  Focus("txtNaam");
-  TypeOver(L"x");
-  Press(VK_TAB);
-  EXPECT_EQ(surface_, nullptr);
-  EXPECT_EQ(GetWindow(stage_.Window(), GW_CHILD), nullptr);
-}
-
 class Dates : public Boxes {
  protected:
   [[nodiscard]] win32::DateWindow& Date() { return Entry<win32::DateWindow>("txtDatum"); }
@@ -290,23 +69,6 @@ class Dates : public Boxes {
     return {area.right + 8, area.bottom / 2};
   }
 };
-
-TEST_F(Dates, TheCalendarDropsDownByKeyAndAPickIsHandedOver) {
-  Box("txtDatum").SetDate(frame::MakeDate({2031, 4, 1}));
-  for (const auto& [key, with] : {std::pair{WORD{VK_F4}, With::None}, std::pair{WORD{VK_DOWN}, With::Alt}}) {
-    log_.clear();
-    Focus("txtDatum");
-    Press(key, with);
-    ASSERT_NE(Date().CalendarShown(), nullptr);
-    EXPECT_TRUE(IsWindowVisible(Date().CalendarShown()));
-    Press(VK_RIGHT);
-    Press(VK_RETURN);
-    EXPECT_EQ(Date().CalendarShown(), nullptr);
-    ASSERT_EQ(log_.size(), 1U);
-    EXPECT_EQ(Focused(), "txtDatum");
-  }
-  EXPECT_EQ(log_.back(), "txtDatum = 03-04-2031");
-}
 
 TEST_F(Dates, TheKeysMoveTheDay) {
   struct Case {
@@ -322,18 +84,6 @@ TEST_F(Dates, TheKeysMoveTheDay) {
     Press(VK_RETURN);
     EXPECT_EQ(frame::Split(Box("txtDatum").DateValue()), c.day) << c.key;
   }
-}
-
-TEST_F(Dates, EscapeClosesTheCalendarAndChangesNothing) {
-  Box("txtDatum").SetDate(frame::MakeDate({2031, 4, 1}));
-  Focus("txtDatum");
-  Press(VK_F4);
-  Press(VK_RIGHT);
-  Press(VK_ESCAPE);
-  EXPECT_EQ(Date().CalendarShown(), nullptr);
-  Press(VK_TAB);
-  EXPECT_EQ(Box("txtDatum").DateValue(), frame::MakeDate({2031, 4, 1}));
-  EXPECT_THAT(log_, IsEmpty());
 }
 
 TEST_F(Dates, AClickOnTheButtonDropsTheCalendarDownAndAClickOnADayPicksIt) {
@@ -379,17 +129,6 @@ TEST_F(Dates, AnEmptyBoxOpensTheCalendarOnToday) {
   Press(VK_F4);
   Press(VK_RETURN);
   EXPECT_THAT(log_, ElementsAre("txtDatum = 21-11-2026"));
-}
-
-TEST_F(Dates, ADisabledOrLockedBoxHasNoCalendar) {
-  Control("txtDatum").Host().SetEnabled(false);
-  Click(WindowOf("txtDatum"), Button());
-  EXPECT_EQ(Date().CalendarShown(), nullptr);
-  Control("txtDatum").Host().SetEnabled(true);
-  Box("txtDatum").SetLocked(true);
-  Click(WindowOf("txtDatum"), Button());
-  Press(VK_F4);
-  EXPECT_EQ(Date().CalendarShown(), nullptr);
 }
 
 }  // namespace

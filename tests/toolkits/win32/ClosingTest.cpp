@@ -128,7 +128,7 @@ TEST_P(ClosingTheWindow, TheContainersWindowIsDestroyedWhateverIsOpen) {
 TEST_F(Closing, TheContainersWindowIsDestroyedWhileACheckAsks) {
   toolkit_.Desktop().answer = nullptr;
   host::MessageAnswer given{};
-  Box("txtNaam").Validation.Connect([&](bool& Cancel) {
+  subscriptions_ += Box("txtNaam").Validation.Connect([&](bool& Cancel) {
     given = toolkit_.Desktop().MessageBox("Onjuiste invoer", "Weet u het zeker?", host::MessageStyle::YesNoQuestion);
     Cancel = true;
   });

@@ -125,7 +125,7 @@ TEST_P(TheEditor, KeysOfAnInputMethodNeitherHandOverNorLeadAway) {
   PostMessageW(box, WM_IME_CHAR, L'é', 0);
   stage_.Settle();
   EXPECT_EQ(Typed(), "halfé");
-  EXPECT_TRUE(dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).HasPendingEdit());
+  EXPECT_TRUE(dynamic_cast<win32::BoxWindow&>(*win32::Window::Of(box)).Edit().IsPending());
   Press(VK_RETURN);
   EXPECT_EQ(static_cast<controls::TextBox&>(Control("TxtOm")).Text(), "halfé");
 }

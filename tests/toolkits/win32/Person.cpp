@@ -1,5 +1,6 @@
 #include "tests/toolkits/win32/Person.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -60,10 +61,10 @@ Stage::Stage(win32::Toolkit& toolkit) : toolkit_(toolkit) {
   entry.cbSize = sizeof entry;
   entry.lpfnWndProc = DefWindowProcW;
   entry.hInstance = toolkit.Module();
-  entry.lpszClassName = L"BrivaneProefvenster";
+  entry.lpszClassName = L"BrivaneTestWindow";
   entry.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   RegisterClassExW(&entry);
-  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, entry.lpszClassName, L"Proef", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+  window_ = CreateWindowExW(WS_EX_CONTROLPARENT, entry.lpszClassName, L"Test", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                             40, 40, 900, 640, nullptr, nullptr, toolkit.Module(), nullptr);
   stage = this;
 }
@@ -151,6 +152,16 @@ void TypeOver(const std::wstring& text) {
     Press(VK_DELETE);
   else
     Type(text);
+}
+
+void Copy(HWND owner, const std::wstring& text) {
+  OpenClipboard(owner);
+  EmptyClipboard();
+  const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
+  std::copy_n(text.c_str(), text.size() + 1, static_cast<wchar_t*>(GlobalLock(memory)));
+  GlobalUnlock(memory);
+  SetClipboardData(CF_UNICODETEXT, memory);
+  CloseClipboard();
 }
 
 win32::ControlWindow& Shown(controls::AnyControl& control) { return win32::WindowFor(control); }

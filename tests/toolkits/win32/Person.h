@@ -6,6 +6,7 @@
 
 #include "controls/Control.h"
 #include "host/controls/Surface.h"
+#include "tests/toolkits/conformance/Keys.h"
 
 /// What a person does with mouse and keyboard, through the input queue of Windows: a click lands on whatever is
 /// under the pointer, a key goes to whatever has the focus.
@@ -44,11 +45,13 @@ void Click(HWND window, POINT at);
 void Click(HWND window);
 void MoveTo(HWND window, POINT at);
 
-enum class With { None, Shift, Control, Alt };
 void Press(WORD key, With with = With::None);
 void Type(const std::wstring& text);
 /// Replaces what stands in the focused box.
 void TypeOver(const std::wstring& text);
+
+/// Puts a text on the clipboard, which a window is to own.
+void Copy(HWND owner, const std::wstring& text);
 
 [[nodiscard]] win32::ControlWindow& Shown(controls::AnyControl& control);
 /// Name of the control that has the focus; empty where none of ours has it.

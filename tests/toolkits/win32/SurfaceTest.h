@@ -43,7 +43,7 @@ class SurfaceTest : public testing::Test {
   /// Notes each Validation of a box; refuses while `refuse_` stands.
   void Follow(std::string_view name) {
     controls::TextBox& box = Box(name);
-    box.Validation.Connect([this, &box](bool& Cancel) {
+    subscriptions_ += box.Validation.Connect([this, &box](bool& Cancel) {
       log_.push_back(box.ElementName() + " = " + controls::ShowContent(box.Content(), box.Format()));
       Cancel = refuse_;
     });
@@ -53,6 +53,7 @@ class SurfaceTest : public testing::Test {
   win32::Toolkit toolkit_{GetModuleHandleW(nullptr)};
   Stage stage_{toolkit_};
   std::unique_ptr<host::Surface> surface_;
+  host::Subscriptions subscriptions_;
   std::vector<std::string> log_;
   bool refuse_ = false;
 };

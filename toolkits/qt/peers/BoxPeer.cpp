@@ -15,14 +15,14 @@ EntryBox* MakeBox(frame::Format format, QWidget* parent) {
 }  // namespace
 
 BoxPeer::BoxPeer(controls::TextBox& box, qt::Toolkit& toolkit, QWidget* container)
-    : WidgetPeer(box, toolkit, MakeBox(box.Format(), container)), box_(box), link_(Entry(), toolkit) {
-  link_.Tie(box);
+    : WidgetPeer(box, toolkit, MakeBox(box.Format(), container)), box_(box) {
+  Entry().Tie(box, toolkit);
 }
 
 void BoxPeer::Refresh(Aspect aspect) {
   if (Widget() == nullptr) return;
   switch (aspect) {
-    case Aspect::Value: link_.ShowContent(); break;
+    case Aspect::Value: Entry().Edit().ShowContent(); break;
     case Aspect::Locked: Entry().setReadOnly(box_.Locked()); break;
     default: WidgetPeer::Refresh(aspect);
   }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/TextBox.h"
-#include "toolkits/qt/peers/BoxLink.h"
 #include "toolkits/qt/peers/Peers.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 
 namespace brivane::qt {
 
@@ -17,7 +17,6 @@ class BoxPeer final : public WidgetPeer {
   [[nodiscard]] EntryBox& Entry() const { return static_cast<EntryBox&>(*Widget()); }
 
   controls::TextBox& box_;
-  BoxLink link_;
 };
 
 }  // namespace brivane::qt

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/RowCanvas.h"
 
 namespace brivane::qt {
@@ -17,13 +18,7 @@ CellEditor::CellEditor(RowCanvas& canvas) : EntryBox(&canvas), canvas_(canvas) {
   setFocusPolicy(Qt::ClickFocus);
 }
 
-void CellEditor::Paste() {
-  const QString text = QGuiApplication::clipboard()->text();
-  const QString trimmed = text.trimmed();
-  if (isReadOnly() || trimmed.isEmpty()) return;
-  if (trimmed.contains('\n') || trimmed.contains('\t')) return canvas_.PasteColumn(text);
-  InsertTyped(trimmed);
-}
+void CellEditor::Paste() { Edit().Paste(FromQt(QGuiApplication::clipboard()->text())); }
 
 void CellEditor::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Paste)) return Paste();
@@ -48,7 +43,8 @@ void CellEditor::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 bool CellEditor::focusNextPrevChild(bool next) {
-  if (!CommitPending()) return true;
+  const auto life = Edit().Life();
+  if (!Edit().Commit() || life.expired()) return true;
   const Direction direction = next ? Direction::Forward : Direction::Back;
   return canvas_.Step(direction) || canvas_.LeaveRows(direction);
 }

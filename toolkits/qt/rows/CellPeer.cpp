@@ -3,6 +3,8 @@
 #include "controls/Choices.h"
 #include "controls/Plain.h"
 #include "controls/TextBox.h"
+#include "controls/entry/Content.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
 
 namespace brivane::qt {
@@ -46,7 +48,7 @@ const QString& CellPeer::Text() const {
   if (!std::exchange(stale_, false)) return text_;
   if (control_.ControlKind() == Kind::TextBox) {
     const auto& box = static_cast<const controls::TextBox&>(control_);
-    text_ = ShownContent(box.Content(), box.Format());
+    text_ = ToQt(controls::ShowContent(box.Content(), box.Format()));
   } else if (control_.ControlKind() == Kind::Label) {
     text_ = PlainCaption(static_cast<const controls::Label&>(control_).Caption());
   }

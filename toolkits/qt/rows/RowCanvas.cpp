@@ -7,20 +7,18 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollArea>
-#include <QStyle>
-#include <QStyleOptionButton>
 #include <QToolTip>
 #include <algorithm>
 
 #include "controls/Choices.h"
 #include "controls/Plain.h"
 #include "controls/Surface.h"
-#include "controls/entry/Column.h"
+#include "controls/TextBox.h"
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/AccessibleRows.h"
 #include "toolkits/qt/rows/CellEditor.h"
+#include "toolkits/qt/rows/CellPainter.h"
 #include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
 
 namespace brivane::qt {
@@ -31,7 +29,6 @@ using host::Kind;
 namespace {
 
 constexpr char kCanvasName[] = "rijen";
-constexpr int kTextMargin = 4;
 
 QScrollArea* ScrollAreaAround(const QWidget& widget) {
   for (QWidget* area = widget.parentWidget(); area != nullptr; area = area->parentWidget())
@@ -39,98 +36,13 @@ QScrollArea* ScrollAreaAround(const QWidget& widget) {
   return nullptr;
 }
 
-/// A line that can be seen on a light and on a dark background.
-QColor Between(const QColor& back, const QColor& front) {
-  const auto mix = [](int from, int to) { return from + (to - from) * 3 / 10; };
-  return {mix(back.red(), front.red()), mix(back.green(), front.green()), mix(back.blue(), front.blue())};
+/// The cell before or after one; nothing past the ends, and where the one is not there.
+CellPeer* Neighbour(const std::vector<CellPeer*>& cells, const CellPeer* cell, RowCanvas::Direction direction) {
+  const auto here = std::find(cells.begin(), cells.end(), cell);
+  if (here == cells.end()) return nullptr;
+  if (direction == RowCanvas::Direction::Back) return here != cells.begin() ? *std::prev(here) : nullptr;
+  return std::next(here) != cells.end() ? *std::next(here) : nullptr;
 }
-
-/// Paints cells with what is common to them all looked up once.
-class CellPainter {
- public:
-  CellPainter(QPainter& painter, const QWidget& canvas)
-      : painter_(painter),
-        canvas_(canvas),
-        colors_(canvas.palette()),
-        border_(Between(colors_.color(QPalette::Window), colors_.color(QPalette::WindowText))) {}
-
-  void Paint(const CellPeer& cell, bool focused) {
-    switch (cell.Control().ControlKind()) {
-      case Kind::TextBox: return PaintBox(cell);
-      case Kind::CheckBox: return PaintCheck(cell, focused);
-      case Kind::Hint: return PaintHelpIcon(painter_, cell.Place(), colors_, focused);
-      default: return PaintLabel(cell);
-    }
-  }
-
- private:
-  void PaintLabel(const CellPeer& cell) {
-    SetPen(colors_.color(Group(cell), QPalette::WindowText));
-    painter_.drawText(cell.Place(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, cell.Text());
-  }
-
-  void PaintBox(const CellPeer& cell) {
-    const QRect& place = cell.Place();
-    painter_.fillRect(place, border_);
-    const QPalette::ColorGroup group = Group(cell);
-    const QRect inside = place.adjusted(1, 1, -1, -1);
-    const std::optional<host::Color> asked = cell.Control().Host().BackColor();
-    const std::optional<QColor> back = asked ? ToQt(*asked) : std::nullopt;
-    painter_.fillRect(inside, back.value_or(colors_.color(group, QPalette::Base)));
-    if (cell.Text().isEmpty()) return;
-    SetPen(back ? TextOn(*back) : colors_.color(group, QPalette::Text));
-    const bool text = cell.Control().Row().format == frame::Format::Text;
-    painter_.drawText(inside.adjusted(kTextMargin - 1, 0, 1 - kTextMargin, 0),
-                      (text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter | Qt::TextSingleLine, cell.Text());
-  }
-
-  void PaintCheck(const CellPeer& cell, bool focused) {
-    QStyleOptionButton option;
-    option.initFrom(&canvas_);
-    option.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
-    if (!cell.Control().Host().Enabled()) option.state &= ~QStyle::State_Enabled;
-    option.state |= cell.Ticked() ? QStyle::State_On : QStyle::State_Off;
-    const int size = canvas_.style()->pixelMetric(QStyle::PM_IndicatorWidth, &option, &canvas_);
-    option.rect = QRect(cell.Place().left(), cell.Place().center().y() - size / 2, size, size);
-    canvas_.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter_, &canvas_);
-    pen_ = {};
-    if (!focused) return;
-    SetPen(colors_.color(QPalette::Highlight));
-    painter_.drawRect(option.rect.adjusted(-2, -2, 1, 1));
-  }
-
-  [[nodiscard]] static QPalette::ColorGroup Group(const CellPeer& cell) {
-    return cell.Control().Host().Enabled() ? QPalette::Active : QPalette::Disabled;
-  }
-
-  void SetPen(const QColor& color) {
-    if (pen_ == color) return;
-    pen_ = color;
-    painter_.setPen(color);
-  }
-
-  QPainter& painter_;
-  const QWidget& canvas_;
-  const QPalette& colors_;
-  QColor border_;
-  QColor pen_;
-};
-
-/// Keeps the canvas as large as its container.
-class Follower final : public QObject {
- public:
-  Follower(QWidget& container, QWidget& canvas) : QObject(&canvas), canvas_(canvas) {
-    container.installEventFilter(this);
-    canvas.setGeometry(container.rect());
-  }
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Resize) canvas_.setGeometry(static_cast<QWidget*>(watched)->rect());
-    return false;
-  }
-
- private:
-  QWidget& canvas_;
-};
 
 }  // namespace
 
@@ -147,23 +59,21 @@ RowCanvas* RowCanvas::Of(const QWidget& container) {
 }
 
 RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
-    : QWidget(&container), toolkit_(toolkit), editor_(new CellEditor(*this)), link_(*editor_, toolkit) {
+    : QWidget(&container), toolkit_(toolkit), editor_(new CellEditor(*this)) {
   InstallAccessibleRows();
   setObjectName(kCanvasName);
   setFocusPolicy(Qt::TabFocus);
   editor_->hide();
-  link_.entered = [this] { changed_ = true; };
-  new Follower(container, *this);
+  container.installEventFilter(this);
+  setGeometry(container.rect());
   lower();
 }
 
 QWidget& RowCanvas::LineEdit() const { return *editor_; }
-
 EntryBox* RowCanvas::Editor() const { return edited_ != nullptr ? editor_ : nullptr; }
 
-void RowCanvas::Add(CellPeer& cell) { cells_.push_back(&cell); }
-
 void RowCanvas::Remove(CellPeer& cell) {
+  if (editor_->Edit().Box() == &cell.Control()) editor_->Edit().Tie(frame::Format::Text);
   if (edited_ == &cell) StopEditing();
   if (current_ == &cell) current_ = nullptr;
   if (pressed_ == &cell) pressed_ = nullptr;
@@ -175,8 +85,8 @@ void RowCanvas::Remove(CellPeer& cell) {
 
 void RowCanvas::Changed(CellPeer& cell, Aspect aspect) {
   if (edited_ == &cell) {
-    if (aspect == Aspect::Value) link_.ShowContent();
-    if (aspect == Aspect::Locked) editor_->setReadOnly(link_.Box()->Locked());
+    if (aspect == Aspect::Value) editor_->Edit().ShowContent();
+    if (aspect == Aspect::Locked) editor_->setReadOnly(editor_->Edit().Box()->Locked());
     if (aspect == Aspect::Place) editor_->setGeometry(cell.Place());
     if (aspect == Aspect::Enabled) editor_->setEnabled(cell.Control().Host().Enabled());
     if (aspect == Aspect::Visible) StopEditing();
@@ -194,9 +104,8 @@ void RowCanvas::Repaint(const QRect& area) {
 }
 
 std::vector<CellPeer*> RowCanvas::Stops() const {
-  std::vector<CellPeer*> stops;
-  for (CellPeer* cell : cells_)
-    if (cell->IsStop()) stops.push_back(cell);
+  std::vector<CellPeer*> stops = cells_;
+  std::erase_if(stops, [](const CellPeer* cell) { return !cell->IsStop(); });
   return stops;
 }
 
@@ -206,8 +115,14 @@ CellPeer* RowCanvas::CellAt(QPoint point) const {
   return nullptr;
 }
 
+/// False where it was refused, or where nothing is left to go on from.
+bool RowCanvas::HandOver() {
+  const auto life = editor_->Edit().Life();
+  return editor_->Edit().Commit() && !life.expired();
+}
+
 bool RowCanvas::GoTo(CellPeer& cell) {
-  if (!editor_->CommitPending()) return false;
+  if (!HandOver()) return false;
   if (!cell.IsStop()) return false;
   if (cell.Control().ControlKind() == Kind::TextBox)
     Edit(cell);
@@ -221,7 +136,7 @@ void RowCanvas::Edit(CellPeer& cell) {
   if (current_ != nullptr) update(current_->Place());
   const bool moved = edited_ != &cell;
   current_ = edited_ = &cell;
-  if (moved) link_.Tie(static_cast<controls::TextBox&>(cell.Control()));
+  if (moved) editor_->Tie(static_cast<controls::TextBox&>(cell.Control()), toolkit_);
   editor_->setEnabled(true);
   editor_->setAccessibleName(ToQt(cell.Control().AccessibleName()));
   editor_->setGeometry(cell.Place());
@@ -263,26 +178,21 @@ void RowCanvas::BringIntoView(const CellPeer& cell) {
 }
 
 bool RowCanvas::Step(Direction direction) {
-  if (!editor_->CommitPending()) return true;  // the focus stays where it is
-  const std::vector<CellPeer*> stops = Stops();
-  const auto here = std::find(stops.begin(), stops.end(), current_);
-  if (here == stops.end()) return false;
-  if (direction == Direction::Back) return here != stops.begin() && GoTo(**std::prev(here));
-  return std::next(here) != stops.end() && GoTo(**std::next(here));
+  if (!HandOver()) return true;  // the focus stays where it is
+  CellPeer* const next = Neighbour(Stops(), current_, direction);
+  return next != nullptr && GoTo(*next);
 }
 
 bool RowCanvas::StepInColumn(Direction direction) {
-  if (current_ == nullptr || !editor_->CommitPending()) return false;
+  if (current_ == nullptr || !HandOver()) return false;
   std::vector<CellPeer*> column = Stops();
   std::erase_if(column, [this](CellPeer* cell) { return &cell->Control().Row() != &current_->Control().Row(); });
-  const auto here = std::find(column.begin(), column.end(), current_);
-  if (here == column.end()) return false;
-  if (direction == Direction::Back) return here != column.begin() && GoTo(**std::prev(here));
-  return std::next(here) != column.end() && GoTo(**std::next(here));
+  CellPeer* const next = Neighbour(column, current_, direction);
+  return next != nullptr && GoTo(*next);
 }
 
 void RowCanvas::EnterAndGoDown() {
-  if (editor_->CommitPending() && !StepInColumn(Direction::Forward)) (void)LeaveRows(Direction::Forward);
+  if (HandOver() && !StepInColumn(Direction::Forward)) (void)LeaveRows(Direction::Forward);
 }
 
 bool RowCanvas::GoToFirst() {
@@ -305,29 +215,12 @@ bool RowCanvas::focusNextPrevChild(bool next) {
   return Step(direction) || LeaveRows(direction);
 }
 
-void RowCanvas::PasteColumn(const QString& text) {
-  if (edited_ == nullptr) return;
-  editor_->Restore();
-  controls::Column column =
-      controls::ReadColumn(FromQt(text), static_cast<const controls::TextBox&>(edited_->Control()));
-  if (!column.refusal.empty()) return editor_->ShowReason(ToQt(column.refusal));
-  for (controls::Column::Entry& entry : column.entries) {
-    controls::Outcome outcome = controls::Outcome::Done;
-    toolkit_.Guard([&] { outcome = entry.box->Perform(controls::Enter{std::move(entry.value)}); });
-    changed_ = true;
-    if (outcome == controls::Outcome::Refused) break;
-  }
-  editor_->selectAll();
-  if (!column.surplus.empty()) editor_->ShowReason(ToQt(column.surplus));
-}
-
 void RowCanvas::Activate(CellPeer& cell) {
   if (!cell.IsStop()) return;
   if (cell.Control().ControlKind() == Kind::Hint) return ShowHelp(cell);
   if (cell.Control().ControlKind() != Kind::CheckBox) return;
   const controls::Tick tick{cell.Ticked() ? host::kUnticked : host::kTicked};
-  toolkit_.Guard([&] { cell.Control().Perform(tick); });
-  changed_ = true;
+  toolkit_.Hand(cell.Control(), tick);
 }
 
 void RowCanvas::ShowHelp(const CellPeer& cell) {
@@ -336,15 +229,19 @@ void RowCanvas::ShowHelp(const CellPeer& cell) {
 }
 
 bool RowCanvas::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip) {
-    const CellPeer* const cell = CellAt(static_cast<QHelpEvent*>(event)->pos());
-    if (cell != nullptr && cell->Control().ControlKind() == Kind::Hint)
-      ShowHelp(*cell);
-    else
-      QToolTip::hideText();
-    return true;
-  }
-  return QWidget::event(event);
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const CellPeer* const cell = CellAt(static_cast<QHelpEvent*>(event)->pos());
+  if (cell != nullptr && cell->Control().ControlKind() == Kind::Hint)
+    ShowHelp(*cell);
+  else
+    QToolTip::hideText();
+  return true;
+}
+
+/// Keeps the canvas as large as its container.
+bool RowCanvas::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) setGeometry(static_cast<QWidget*>(watched)->rect());
+  return false;
 }
 
 void RowCanvas::paintEvent(QPaintEvent* event) {

@@ -4,8 +4,9 @@
 #include <memory>
 #include <vector>
 
+#include "controls/Peer.h"
 #include "toolkits/qt/Toolkit.h"
-#include "toolkits/qt/peers/BoxLink.h"
+#include "toolkits/qt/widgets/EntryBox.h"
 
 namespace brivane::qt {
 
@@ -24,16 +25,17 @@ class RowCanvas : public QWidget {
   /// The canvas of a container, or nothing.
   [[nodiscard]] static RowCanvas* Of(const QWidget& container);
 
-  void Add(CellPeer& cell);
+  void Add(CellPeer& cell) { cells_.push_back(&cell); }
   void Remove(CellPeer& cell);
   void Changed(CellPeer& cell, controls::Aspect aspect);
 
   enum class Direction { Forward, Back };
 
   /// Moves the focus to a cell, after the box that is being edited was handed over; false where that was
-  /// refused.
+  /// refused, or where a person cannot go there.
   bool GoTo(CellPeer& cell);
-  /// Moves to the next or previous cell that a person can go to; false at the end or on a refusal.
+  /// Moves to the next or previous cell that a person can go to; false at the end, where the focus is to leave the
+  /// rows. True on a refusal, which keeps the focus.
   bool Step(Direction direction);
   /// Moves to the next or previous element of the same control array; false at the end or on a refusal.
   bool StepInColumn(Direction direction);
@@ -41,13 +43,6 @@ class RowCanvas : public QWidget {
   void EnterAndGoDown();
   /// Goes to the first cell.
   bool GoToFirst();
-
-  /// Fills boxes from the focused one down with the lines of a text, each as if typed. A line that is no
-  /// number refuses the whole, and nothing is filled. Rows that cannot be edited keep what they have.
-  void PasteColumn(const QString& text);
-
-  /// A row was changed by a person.
-  [[nodiscard]] bool RowsChanged() const { return changed_; }
 
   [[nodiscard]] const std::vector<CellPeer*>& Cells() const { return cells_; }
   [[nodiscard]] CellPeer* Current() const { return current_; }
@@ -63,6 +58,7 @@ class RowCanvas : public QWidget {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -78,6 +74,7 @@ class RowCanvas : public QWidget {
 
   [[nodiscard]] std::vector<CellPeer*> Stops() const;
   [[nodiscard]] bool LeaveRows(Direction direction);
+  bool HandOver();
   void Edit(CellPeer& cell);
   void FocusSelf(CellPeer& cell);
   void StopEditing();
@@ -88,12 +85,10 @@ class RowCanvas : public QWidget {
   Toolkit& toolkit_;
   std::vector<CellPeer*> cells_;
   CellEditor* editor_;
-  BoxLink link_;
   CellPeer* current_ = nullptr;
   CellPeer* edited_ = nullptr;
   CellPeer* pressed_ = nullptr;
   QRect dirty_;
-  bool changed_ = false;
 };
 
 }  // namespace brivane::qt

@@ -2,7 +2,6 @@
 
 #include <QEvent>
 
-#include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
 
 namespace brivane::qt {
@@ -42,10 +41,7 @@ void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   });
 }
 
-bool ControlWidget::CommitPending() {
-  EntryBox* const box = EntryBox::PendingWithin(*this);
-  return box == nullptr || box->CommitPending();
-}
+bool ControlWidget::CommitPending() { return toolkit_.Pending().Commit(controls::Surface::Of(*surface_)); }
 
 QColor ControlWidget::backColor() const { return backColor_.value_or(palette().color(QPalette::Window)); }
 

@@ -35,6 +35,7 @@ QIcon CalendarIcon(const QColor& color, qreal ratio) {
 }  // namespace
 
 DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
+  Edit().Tie(frame::Format::Date);
   setInputMethodHints(Qt::ImhDate);
   icon_->setText("Kalender");
   icon_->setToolTip("Kalender (F4)");
@@ -91,8 +92,8 @@ void DateBox::Pick(QDate date) {
   popup_->close();
   popup_ = nullptr;
   setFocus(Qt::OtherFocusReason);
-  TypeText(ToQt(frame::ShowDate(frame::MakeDate({date.year(), date.month(), date.day()}))));
-  if (CommitPending()) selectAll();
+  Edit().TypeOver(frame::ShowDate(frame::MakeDate({date.year(), date.month(), date.day()})));
+  Edit().CommitAndSelect();
 }
 
 void DateBox::keyPressEvent(QKeyEvent* event) {

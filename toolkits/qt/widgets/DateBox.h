@@ -10,7 +10,8 @@ class QFrame;
 namespace brivane::qt {
 
 /// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its icon. A day picked
-/// there is handed over at once; Escape closes the calendar and changes nothing.
+/// there is handed over at once; Escape closes the calendar and changes nothing. Without a control it takes dates all
+/// the same, and who wants one reads its text.
 class DateBox : public EntryBox {
  public:
   explicit DateBox(QWidget* parent = nullptr);

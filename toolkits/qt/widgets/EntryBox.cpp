@@ -4,89 +4,54 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include "controls/DrawnToolkit.h"
+#include "controls/TextBox.h"
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/widgets/Bubble.h"
 
 namespace brivane::qt {
 
+using frame::Format;
+
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
-  QObject::connect(this, &QLineEdit::textEdited, this, [this] { OnTextEdited(); });
+  QObject::connect(this, &QLineEdit::textEdited, this, [this] { edit_.Typed(); });
 }
 
 EntryBox::~EntryBox() = default;
 
-void EntryBox::ShowText(const QString& text) {
-  edited_ = refused_ = false;
-  TakeReasonAway();
-  shown_ = text;
-  if (this->text() == text) return;
-  setText(text);
+void EntryBox::Tie(controls::TextBox& box, controls::DrawnToolkit& toolkit) {
+  const Format format = box.Format();
+  const bool right = format == Format::Amount || format == Format::Number || format == Format::WholeNumber;
+  setAlignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+  if (right) setInputMethodHints(Qt::ImhFormattedNumbersOnly);
+  setReadOnly(box.Locked());
+  edit_.Tie(box, toolkit);
+}
+
+void EntryBox::ShowText(const QString& text) { edit_.ShowText(FromQt(text)); }
+
+std::string EntryBox::Text() const { return FromQt(text()); }
+
+void EntryBox::ShowText(const std::string& text) {
+  setText(ToQt(text));
   setCursorPosition(0);
-  if (hasFocus()) selectAll();
 }
 
-bool EntryBox::HasPendingEdit() const { return refused_ || edited_; }
+void EntryBox::InsertText(const std::string& text) { insert(ToQt(text)); }
 
-bool EntryBox::CommitPending() {
-  if (committing_ || !HasPendingEdit()) return true;
-  const QPointer<EntryBox> alive(this);
-  Verdict verdict;
-  committing_ = true;
-  if (committer_) verdict = committer_(text());
-  if (!alive) return verdict.accepted;
-  committing_ = false;
-  refused_ = !verdict.accepted;
-  if (verdict.accepted) {
-    edited_ = false;
-    TakeReasonAway();
-    shown_ = text();
-    return true;
-  }
-  setFocus(Qt::OtherFocusReason);
-  selectAll();
-  TakeReasonAway();
-  if (!verdict.reason.isEmpty()) ShowReason(verdict.reason);
-  return false;
-}
-
-void EntryBox::ShowReason(const QString& reason) {
-  Bubble::Show(*this, reason);
+void EntryBox::ShowReason(const std::string& reason) {
+  Bubble::Show(*this, ToQt(reason));
   reasonShown_ = true;
 }
 
-void EntryBox::TakeReasonAway() {
-  if (!reasonShown_) return;
-  reasonShown_ = false;
+void EntryBox::HideReason() {
+  if (!std::exchange(reasonShown_, false)) return;
   Bubble::Hide(*this);
-}
-
-bool EntryBox::Restore() {
-  if (!HasPendingEdit()) return false;
-  const QString standing = shown_;
-  ShowText(standing);
-  selectAll();
-  if (restored_) restored_();
-  return true;
 }
 
 EntryBox* EntryBox::PendingWithin(const QWidget& area) {
   auto* const box = dynamic_cast<EntryBox*>(area.window()->focusWidget());
-  return box != nullptr && area.isAncestorOf(box) && box->HasPendingEdit() ? box : nullptr;
-}
-
-void EntryBox::TypeText(const QString& text) {
-  setText(text);
-  OnTextEdited();
-}
-
-void EntryBox::InsertTyped(const QString& text) {
-  insert(text);
-  OnTextEdited();
-}
-
-void EntryBox::OnTextEdited() {
-  TakeReasonAway();
-  if (!edited_ && onEdit_) onEdit_();
-  edited_ = true;
+  return box != nullptr && area.isAncestorOf(box) && box->edit_.IsPending() ? box : nullptr;
 }
 
 bool EntryBox::TakesFocusFromBox(const QWidget* target) const {
@@ -99,9 +64,11 @@ bool EntryBox::TakesFocusFromBox(const QWidget* target) const {
 /// A click on another control commits first: refused content keeps the focus, and the click is dropped.
 bool EntryBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-  if (press && watched->isWidgetType() && HasPendingEdit() && TakesFocusFromBox(static_cast<QWidget*>(watched))) {
+  if (press && watched->isWidgetType() && edit_.IsPending() && TakesFocusFromBox(static_cast<QWidget*>(watched))) {
     const QPointer<QObject> target(watched);
-    if (!CommitPending() || !target) return true;
+    const auto life = edit_.Life();
+    if (!edit_.Commit() || !target) return true;
+    if (life.expired()) return false;
   }
   return QLineEdit::eventFilter(watched, event);
 }
@@ -119,36 +86,28 @@ void EntryBox::focusOutEvent(QFocusEvent* event) {
     return;
   qApp->removeEventFilter(this);
   if (!isEnabled() || !isVisible()) return;
-  CommitPending();
+  edit_.Commit();
 }
 
 bool EntryBox::focusNextPrevChild(bool next) {
-  if (!CommitPending()) return true;
+  const auto life = edit_.Life();
+  if (!edit_.Commit() || life.expired()) return true;
   return QLineEdit::focusNextPrevChild(next);
 }
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {
   const int key = event->key();
   if (key == Qt::Key_Escape) {
-    if (Restore())
-      event->accept();
-    else
-      event->ignore();
+    event->setAccepted(edit_.Restore());
     return;
   }
   if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-    const bool pending = HasPendingEdit();
-    if (pending) {
-      if (CommitPending()) selectAll();
-      event->accept();
-    } else {
-      event->ignore();
-    }
+    event->setAccepted(edit_.IsPending());
+    if (edit_.IsPending()) edit_.CommitAndSelect();
     return;
   }
-  if (keypadPoint_ == KeypadPoint::Comma && event->modifiers().testFlag(Qt::KeypadModifier) &&
-      (event->text() == "." || event->text() == ",")) {
-    InsertTyped(",");
+  const bool sign = event->text() == "." || event->text() == ",";
+  if (sign && event->modifiers().testFlag(Qt::KeypadModifier) && edit_.TypeDecimalSign()) {
     event->accept();
     return;
   }

@@ -1,51 +1,32 @@
 #pragma once
 
 #include <QLineEdit>
-#include <functional>
+
+#include "controls/entry/PendingEdit.h"
 
 namespace brivane::qt {
 
-/// A line edit whose content is handed over once, when it is left after an edit or Enter is pressed.
-///
-/// Refused content stays as typed with the focus in the box, and the reason beside it. Escape puts back
-/// what stood there.
+/// A line edit whose content is handed over once, when it is left after an edit or Enter is pressed; what is being
+/// typed is a controls::PendingEdit.
 ///
 ///     auto* box = new EntryBox(parent);
-///     box->SetCommitter([](const QString& typed) { return Verdict{.accepted = !typed.isEmpty(), .reason = "..."}; });
-///     box->ShowText("12,50");
-class EntryBox : public QLineEdit {
+///     box->Tie(textBox, toolkit);           // shows a control's box and hands over to it
+///     box->Edit().Tie(frame::Format::Date); // or: of no control, but of a format
+class EntryBox : public QLineEdit, private controls::EntryFace {
  public:
-  /// What became of a typed text. Without a reason the person was told in another way.
-  struct Verdict {
-    bool accepted = true;
-    QString reason = {};
-  };
-  using Committer = std::function<Verdict(const QString& typed)>;
-
-  /// What the point and comma of the numeric keypad type.
-  enum class KeypadPoint { AsTyped, Comma };
-
   explicit EntryBox(QWidget* parent = nullptr);
   ~EntryBox() override;
 
-  void SetCommitter(Committer committer) { committer_ = std::move(committer); }
-  /// Called when Escape has put back what stood there.
-  void SetOnRestore(std::function<void()> restored) { restored_ = std::move(restored); }
-  /// Called by the first keystroke of an edit.
-  void SetOnEdit(std::function<void()> edited) { onEdit_ = std::move(edited); }
-  void SetKeypadPoint(KeypadPoint point) { keypadPoint_ = point; }
+  /// Becomes the box of a control on the screen. It may become that of another when nothing is pending.
+  void Tie(controls::TextBox& box, controls::DrawnToolkit& toolkit);
+  [[nodiscard]] controls::PendingEdit& Edit() { return edit_; }
 
   /// Shows a text set by code; what was being typed is gone.
   void ShowText(const QString& text);
-  /// Something was typed that was not handed over or was refused.
-  [[nodiscard]] bool HasPendingEdit() const;
   /// Hands a pending edit over; false where it was refused.
-  bool CommitPending();
+  bool CommitPending() { return edit_.Commit(); }
   /// Puts back what stood there before the edit; false where nothing was edited.
-  bool Restore();
-
-  /// Shows a reason beside the box until the next keystroke.
-  void ShowReason(const QString& reason);
+  bool Restore() { return edit_.Restore(); }
 
   /// The box being edited within a widget, or nothing.
   [[nodiscard]] static EntryBox* PendingWithin(const QWidget& area);
@@ -56,24 +37,21 @@ class EntryBox : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
-  /// Makes a text the pending edit, as if typed.
-  void TypeText(const QString& text);
-  /// Inserts a text where the cursor stands, as if typed.
-  void InsertTyped(const QString& text);
 
  private:
-  void OnTextEdited();
-  void TakeReasonAway();
+  [[nodiscard]] std::string Text() const override;
+  void ShowText(const std::string& text) override;
+  void InsertText(const std::string& text) override;
+  void SelectAll() override { selectAll(); }
+  [[nodiscard]] bool HasFocus() const override { return hasFocus(); }
+  void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
+  [[nodiscard]] bool ReadOnly() const override { return isReadOnly(); }
+  void ShowReason(const std::string& reason) override;
+  void HideReason() override;
+
   [[nodiscard]] bool TakesFocusFromBox(const QWidget* target) const;
 
-  Committer committer_;
-  std::function<void()> restored_;
-  std::function<void()> onEdit_;
-  QString shown_;
-  KeypadPoint keypadPoint_ = KeypadPoint::AsTyped;
-  bool edited_ = false;
-  bool refused_ = false;
-  bool committing_ = false;
+  controls::PendingEdit edit_{*this};
   bool reasonShown_ = false;
 };
 

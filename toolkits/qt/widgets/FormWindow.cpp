@@ -7,7 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include "controls/Messages.h"
+#include "controls/RowChanges.h"
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/rows/RowCanvas.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
@@ -104,19 +104,6 @@ void FormWindow::Unload() {
   if (dialog_->isVisible()) dialog_->done(QDialog::Accepted);
 }
 
-bool FormWindow::RowsChanged() const {
-  for (const RowCanvas* const canvas : Canvases(form_))
-    if (canvas->RowsChanged() || (canvas->Editor() != nullptr && canvas->Editor()->HasPendingEdit())) return true;
-  return false;
-}
-
-void FormWindow::Close() {
-  if (RowsChanged()) {
-    const host::MessageAnswer answer =
-        toolkit_.Desktop().Ask(form_.Caption(), controls::kRowsLost, host::MessageStyle::YesNoQuestion);
-    if (answer != host::MessageAnswer::Yes) return;
-  }
-  toolkit_.Guard([this] { form_.Perform(controls::Close{}); });
-}
+void FormWindow::Close() { controls::RowChanges::Close(form_, toolkit_); }
 
 }  // namespace brivane::qt

@@ -48,7 +48,6 @@ class FormWindow final : public controls::FormPeer, public AreaHolder {
 
  private:
   [[nodiscard]] QSize Inside() const;
-  [[nodiscard]] bool RowsChanged() const;
   void Fit();
   void ShowBackColor();
   /// A person closes the window.

@@ -4,31 +4,27 @@
 #include <string>
 
 #include "controls/TextBox.h"
+#include "controls/entry/PendingEdit.h"
 #include "toolkits/win32/window/Bubble.h"
 #include "toolkits/win32/window/NameLabel.h"
 
 namespace brivane::win32 {
 
 /// A text box: an edit control whose content is handed over once, when it is left after an edit or Enter is
-/// pressed. Typing that is not of the box's format is refused here and never reaches the control.
-///
-/// Refused content stays as typed with the focus in the box, and the reason beside it. Escape puts back what
-/// stood there.
-class BoxWindow : public ControlWindow {
+/// pressed; what is being typed is a controls::PendingEdit.
+class BoxWindow : public ControlWindow, private controls::EntryFace {
  public:
   BoxWindow(controls::TextBox& box, win32::Toolkit& toolkit);
 
   void Refresh(controls::Aspect aspect) override;
   void FocusByKey() override;
+  void TakeFocus() override { ControlWindow::TakeFocus(); }
 
-  /// Something was typed that was not handed over or was refused.
-  [[nodiscard]] bool HasPendingEdit() const { return edited_ || refused_; }
+  [[nodiscard]] controls::PendingEdit& Edit() { return edit_; }
   /// Hands a pending edit over; false where it was refused.
-  bool CommitPending();
+  bool CommitPending() { return edit_.Commit(); }
   /// The box being edited in the same top-level window, or nothing.
   [[nodiscard]] static BoxWindow* PendingWith(HWND window);
-  /// The box being edited on a surface or on one that stands on it, or nothing.
-  [[nodiscard]] static BoxWindow* PendingOn(const controls::Surface& surface);
   /// The reason that is shown beside the box; empty where there is none.
   [[nodiscard]] std::wstring Reason() const;
   [[nodiscard]] const Bubble* ReasonShown() const { return bubble_.get(); }
@@ -41,35 +37,27 @@ class BoxWindow : public ControlWindow {
   void ShowVisible() override;
   void ShowFont() override;
   void ShowBackColor() override;
-  /// Makes a text the pending edit, as if typed.
-  void TypeText(const std::wstring& text);
-  [[nodiscard]] bool IsReadOnly() const;
-  void SelectAll() const;
+  [[nodiscard]] bool ReadOnly() const override;
+  /// Draws over the frame what the edit control does not: it never draws there itself.
+  virtual void PaintFrame(HDC context);
 
  private:
+  [[nodiscard]] std::string Text() const override;
+  void ShowText(const std::string& text) override;
+  void InsertText(const std::string& text) override;
+  void SelectAll() override;
+  [[nodiscard]] bool HasFocus() const override { return GetFocus() == Handle(); }
+  void ShowReason(const std::string& reason) override;
+  void HideReason() override { bubble_.reset(); }
+
   [[nodiscard]] RECT RoomAbove() const;
-  void PaintRoomAbove(HDC context);
-  void ShowContent();
-  void ShowText(const std::wstring& text);
-  void OnEdited();
-  bool Restore();
-  void PutBack();
   void OnLeft(HWND gaining);
-  void ShowReason(const std::string& reason);
-  /// A keypad key that types the decimal sign here.
-  bool TypeDecimalSign(WPARAM key);
-  void Paste();
-  void PasteColumn(const std::string& text);
+  /// Takes away the character that a key which was handled would type.
+  void DropCharacter() const;
 
   controls::TextBox& box_;
-  controls::BoxValue standing_;  ///< content before the edit that is going on
-  std::wstring shown_;
   std::unique_ptr<Bubble> bubble_;
-  bool edited_ = false;
-  bool refused_ = false;
-  bool committing_ = false;
-  bool taking_ = false;
-  bool dropCharacter_ = false;
+  controls::PendingEdit edit_{*this};
   // Before the edit control in its parent, but gone after it.
   std::unique_ptr<NameLabel> name_;
 };

@@ -1,7 +1,6 @@
 #include "toolkits/win32/controls/ButtonWindows.h"
 
 #include "controls/Caption.h"
-#include "toolkits/win32/form/FormWindow.h"
 #include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
@@ -111,9 +110,7 @@ void CheckWindow::DrawFocus() const {
   if (GetFocus() != Handle()) return;
   RECT area{};
   GetClientRect(Handle(), &area);
-  const HDC context = GetDC(Handle());
-  FrameRect(context, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
-  ReleaseDC(Handle(), context);
+  FrameRect(WindowContext(Handle()).Get(), &area, GetSysColorBrush(COLOR_HIGHLIGHT));
 }
 
 void CheckWindow::Choose() {
@@ -122,9 +119,7 @@ void CheckWindow::Choose() {
 }
 
 void CheckWindow::OnClick() {
-  const auto life = Life();
   Toolkit().Act(check_, controls::Tick{check_.Value() == host::kTicked ? host::kUnticked : host::kTicked}, *this);
-  if (!life.expired() && IsRowElement()) FormWindow::MarkChanged(*this);
 }
 
 }  // namespace brivane::win32

@@ -72,9 +72,10 @@ RECT DateWindow::ButtonPlace() const {
   return {std::max(across, right - Toolkit().Edge().Designed(kButtonWidth)), along, right, HeightOf(window) - along};
 }
 
-void DateWindow::PaintButton(HDC context) const {
+void DateWindow::PaintFrame(HDC context) {
+  BoxWindow::PaintFrame(context);
   const RECT place = ButtonPlace();
-  const bool open = IsWindowEnabled(Handle()) != FALSE && !IsReadOnly();
+  const bool open = IsWindowEnabled(Handle()) != FALSE && !ReadOnly();
   FillRect(context, &place, GetSysColorBrush(open ? COLOR_WINDOW : COLOR_BTNFACE));
   const HBRUSH ink = GetSysColorBrush(open ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
   const win32::Edge& edge = Toolkit().Edge();
@@ -105,7 +106,7 @@ void DateWindow::PressButton() {
 HWND DateWindow::CalendarShown() const { return calendar_ ? calendar_->Handle() : nullptr; }
 
 void DateWindow::OpenCalendar() {
-  if (calendar_ || IsReadOnly() || !Control().Reachable()) return;
+  if (calendar_ || ReadOnly() || !Control().Reachable()) return;
   SetFocus(Handle());
   const auto typed = frame::ReadDate(Narrow(TextOf(Handle())));
   const host::Date date = typed.IsRefused() || typed.IsEmpty() ? Toolkit().Desktop().Today() : *typed;
@@ -122,9 +123,8 @@ void DateWindow::Pick(host::Date date) {
   if (!calendar_) return;  // a double click reports the day twice
   CloseCalendar();
   SetFocus(Handle());
-  TypeText(Wide(frame::ShowDate(date)));
-  const auto life = Life();
-  if (CommitPending() && !life.expired()) SelectAll();
+  Edit().TypeOver(frame::ShowDate(date));
+  Edit().CommitAndSelect();
 }
 
 bool DateWindow::OnKey(WPARAM key) {
@@ -157,18 +157,6 @@ LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
       RECT& inside = *reinterpret_cast<RECT*>(lParam);  // also the first of the structure
       inside.right = std::max(inside.left, inside.right - Toolkit().Edge().Designed(kButtonWidth));
-      return result;
-    }
-    case WM_NCPAINT: {
-      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
-      const HDC context = GetWindowDC(Handle());
-      PaintButton(context);
-      ReleaseDC(Handle(), context);
-      return result;
-    }
-    case WM_PRINT: {
-      const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
-      if ((lParam & PRF_NONCLIENT) != 0) PaintButton(reinterpret_cast<HDC>(wParam));
       return result;
     }
     case WM_NCHITTEST: {

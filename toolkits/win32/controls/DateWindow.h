@@ -24,11 +24,11 @@ class DateWindow final : public BoxWindow {
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
   bool OnKey(WPARAM key) override;
+  void PaintFrame(HDC context) override;
 
  private:
   /// The button lies in the frame of the box, where the edit control never draws. In pixels of the window.
   [[nodiscard]] RECT ButtonPlace() const;
-  void PaintButton(HDC context) const;
   void PressButton();
 
   class ClickWatch;

@@ -74,27 +74,25 @@ LRESULT HintWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 void HintWindow::Paint(HDC context) const {
   RECT area{};
   GetClientRect(Handle(), &area);
-  const HBRUSH back = CreateSolidBrush(DrawnColor(BackgroundOf(hint_)));
-  FillRect(context, &area, back);
-  DeleteObject(back);
+  const OwnedBrush back(CreateSolidBrush(DrawnColor(BackgroundOf(hint_))));
+  FillRect(context, &area, back.Get());
 
   const LONG diameter = std::min(area.right, area.bottom) - 2;
   const LONG left = (area.right - diameter) / 2;
   const LONG top = (area.bottom - diameter) / 2;
   const bool enabled = IsWindowEnabled(Handle()) != FALSE;
-  const HGDIOBJ pen = SelectObject(context, GetStockObject(NULL_PEN));
-  const HGDIOBJ brush = SelectObject(context, GetSysColorBrush(enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT));
-  Ellipse(context, left, top, left + diameter + 1, top + diameter + 1);
-  SelectObject(context, brush);
-  SelectObject(context, pen);
+  {
+    const Selected pen(context, GetStockObject(NULL_PEN));
+    const Selected brush(context, GetSysColorBrush(enabled ? COLOR_HIGHLIGHT : COLOR_GRAYTEXT));
+    Ellipse(context, left, top, left + diameter + 1, top + diameter + 1);
+  }
 
   const auto points = static_cast<float>(diameter * 0.75 * 0.75 / Toolkit().Edge().Scale());
-  const HGDIOBJ font = SelectObject(context, Toolkit().FontOf(hint_.Owner()->Table(), points, Weight::Bold));
+  const Selected font(context, Toolkit().FontOf(hint_.Owner()->Table(), points, Weight::Bold));
   SetBkMode(context, TRANSPARENT);
   SetTextColor(context, GetSysColor(COLOR_HIGHLIGHTTEXT));
   RECT circle{left, top, left + diameter, top + diameter};
   DrawTextW(context, L"?", -1, &circle, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-  SelectObject(context, font);
   if (GetFocus() == Handle()) {
     SetTextColor(context, GetSysColor(COLOR_BTNTEXT));
     DrawFocusRect(context, &area);

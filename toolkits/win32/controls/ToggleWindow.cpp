@@ -108,10 +108,9 @@ void ToggleWindow::Paint(HDC context) {
   FillRect(context, &area, GetSysColorBrush(focused ? COLOR_HIGHLIGHT : COLOR_BTNSHADOW));
   const int border = focused ? 2 : 1;
   const LONG middle = area.right / 2;
-  const HGDIOBJ before = SelectObject(context, Font());
+  const Selected font(context, Font());
   PaintHalf(context, {border, border, middle, area.bottom - border}, host::kJa);
   PaintHalf(context, {middle, border, area.right - border, area.bottom - border}, host::kNee);
-  SelectObject(context, before);
 }
 
 }  // namespace brivane::win32

@@ -1,11 +1,12 @@
 #include "toolkits/win32/form/FormWindow.h"
 
 #include <algorithm>
-#include <vector>
+#include <memory>
+#include <type_traits>
 
-#include "controls/Messages.h"
-#include "toolkits/win32/controls/BoxWindow.h"
+#include "controls/RowChanges.h"
 #include "toolkits/win32/controls/ButtonWindows.h"
+#include "toolkits/win32/form/OthersDisabled.h"
 #include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/window/Text.h"
 
@@ -20,33 +21,7 @@ constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 constexpr int kLine = 24;
 
-/// The other windows of the thread, and the owner, take no input meanwhile.
-class OthersDisabled {
- public:
-  OthersDisabled(HWND form, HWND owner) : form_(form) {
-    EnumThreadWindows(GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(this));
-    if (owner != nullptr && std::find(windows_.begin(), windows_.end(), owner) == windows_.end() &&
-        IsWindowEnabled(owner) != FALSE)
-      windows_.push_back(owner);
-    for (const HWND window : windows_) EnableWindow(window, FALSE);
-  }
-  OthersDisabled(const OthersDisabled&) = delete;
-  OthersDisabled& operator=(const OthersDisabled&) = delete;
-  ~OthersDisabled() {
-    for (const HWND window : windows_) EnableWindow(window, TRUE);
-  }
-
- private:
-  static BOOL CALLBACK Collect(HWND window, LPARAM self) {
-    auto& others = *reinterpret_cast<OthersDisabled*>(self);
-    if (window != others.form_ && IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE)
-      others.windows_.push_back(window);
-    return TRUE;
-  }
-
-  HWND form_;
-  std::vector<HWND> windows_;
-};
+using Brush = std::unique_ptr<std::remove_pointer_t<HBRUSH>, decltype(&DeleteObject)>;
 
 controls::Button* FirstButton(const controls::Form& form) {
   for (const auto& control : form.Made())
@@ -79,9 +54,8 @@ class FormWindow::AreaWindow final : public Window {
     if (message != WM_ERASEBKGND) return Window::OnMessage(message, wParam, lParam);
     RECT area{};
     GetClientRect(Handle(), &area);
-    const HBRUSH brush = CreateSolidBrush(DrawnColor(BackgroundOf(form_)));
-    FillRect(reinterpret_cast<HDC>(wParam), &area, brush);
-    DeleteObject(brush);
+    const Brush brush(CreateSolidBrush(DrawnColor(BackgroundOf(form_))), &DeleteObject);
+    FillRect(reinterpret_cast<HDC>(wParam), &area, brush.get());
     return 1;
   }
 
@@ -217,10 +191,6 @@ void FormWindow::BringIntoView(const ControlWindow& control) {
   if (target.x != form->scrolled_.x || target.y != form->scrolled_.y) form->ScrollTo(target);
 }
 
-void FormWindow::MarkChanged(const ControlWindow& control) {
-  if (FormWindow* const form = Of(control)) form->changed_ = true;
-}
-
 void FormWindow::GiveFocus() {
   if (focused_ != nullptr && IsChild(Handle(), focused_) != FALSE && IsWindowVisible(focused_) != FALSE) {
     SetFocus(focused_);
@@ -285,15 +255,7 @@ void FormWindow::PressDefault() {
   if (button != nullptr && button->Reachable()) static_cast<PushWindow&>(WindowFor(*button)).Press();
 }
 
-void FormWindow::Close() {
-  const BoxWindow* const pending = BoxWindow::PendingOn(form_);
-  if (changed_ || (pending != nullptr && pending->IsRowElement())) {
-    const host::MessageAnswer answer =
-        Toolkit().Desktop().Ask(form_.Caption(), controls::kRowsLost, host::MessageStyle::YesNoQuestion);
-    if (answer != host::MessageAnswer::Yes) return;
-  }
-  Toolkit().Guard([this] { form_.Perform(controls::Close{}); });
-}
+void FormWindow::Close() { controls::RowChanges::Close(form_, Toolkit()); }
 
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {

@@ -27,8 +27,6 @@ class FormWindow final : public controls::FormPeer, public Window, public AreaHo
 
   /// Scrolls the form around a control so far that the control is seen; nothing on another surface.
   static void BringIntoView(const ControlWindow& control);
-  /// A person changed a row of the form around a control.
-  static void MarkChanged(const ControlWindow& control);
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -49,7 +47,6 @@ class FormWindow final : public controls::FormPeer, public Window, public AreaHo
   HWND focused_ = nullptr;  ///< where the focus was when the window was left
   POINT scrolled_{};
   bool open_ = false;
-  bool changed_ = false;
 };
 
 }  // namespace brivane::win32

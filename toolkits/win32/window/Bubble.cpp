@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkits/win32/Toolkit.h"
+#include "toolkits/win32/window/Fonts.h"
 
 namespace brivane::win32 {
 
@@ -35,15 +36,10 @@ Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const s
   const int gap = toolkit.Edge().Designed(kGap);
   const int around = 2 * GetSystemMetrics(SM_CXBORDER) + toolkit.Edge().Designed(kMargin);
   RECT text{0, 0, std::max<LONG>(toolkit.Edge().Designed(80), WidthOf(room) - 2 * gap - around), 0};
-  const HDC context = GetDC(Handle());
-  const HGDIOBJ before = SelectObject(context, font);
-  const int height = DrawTextW(context, reason.c_str(), -1, &text, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
-  TEXTMETRICW metrics{};
-  GetTextMetricsW(context, &metrics);
-  SelectObject(context, before);
-  ReleaseDC(Handle(), context);
+  const Measuring measuring(font);
+  const int height = measuring.WrappedHeight(reason, text);
   // One line stands in the middle, so that it keeps from the border.
-  if (height < 2 * metrics.tmHeight)
+  if (height < 2 * measuring.LineHeight())
     SetWindowLongPtrW(Handle(), GWL_STYLE, GetWindowLongPtrW(Handle(), GWL_STYLE) | SS_CENTER);
 
   RECT place{};

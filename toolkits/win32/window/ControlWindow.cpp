@@ -50,10 +50,6 @@ ControlWindow::ControlWindow(controls::AnyControl& control, win32::Toolkit& tool
   SendMessageW(Handle(), WM_UPDATEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS | UISF_HIDEACCEL), 0);
 }
 
-ControlWindow::~ControlWindow() {
-  if (brush_ != nullptr) DeleteObject(brush_);
-}
-
 void ControlWindow::Refresh(Aspect aspect) {
   if (Handle() == nullptr) return;
   switch (aspect) {
@@ -115,12 +111,11 @@ void ControlWindow::ShowBackColor() {
 void ControlWindow::SetText(const std::string& text) const { SetWindowTextW(Handle(), Wide(text).c_str()); }
 
 HBRUSH ControlWindow::Brush(COLORREF color) {
-  if (brush_ == nullptr || brushColor_ != color) {
-    if (brush_ != nullptr) DeleteObject(brush_);
-    brush_ = CreateSolidBrush(color);
+  if (!brush_ || brushColor_ != color) {
+    brush_.Reset(CreateSolidBrush(color));
     brushColor_ = color;
   }
-  return brush_;
+  return brush_.Get();
 }
 
 HBRUSH ControlWindow::OnColor(UINT message, HDC context) {

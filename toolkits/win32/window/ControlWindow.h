@@ -7,6 +7,7 @@
 #include "controls/Peer.h"
 #include "controls/Surface.h"
 #include "toolkits/win32/Toolkit.h"
+#include "toolkits/win32/window/Owned.h"
 #include "toolkits/win32/window/Window.h"
 
 namespace brivane::win32 {
@@ -26,8 +27,6 @@ class AreaHolder {
 /// Shows a control by a window of its own.
 class ControlWindow : public controls::Peer, public Window, public AreaHolder {
  public:
-  ~ControlWindow() override;
-
   void Refresh(controls::Aspect aspect) override;
   void TakeFocus() override;
   [[nodiscard]] HWND Area() const override { return Handle(); }
@@ -70,7 +69,7 @@ class ControlWindow : public controls::Peer, public Window, public AreaHolder {
  private:
   controls::AnyControl& control_;
   bool showing_ = false;
-  HBRUSH brush_ = nullptr;
+  OwnedBrush brush_;
   COLORREF brushColor_ = 0;
 };
 

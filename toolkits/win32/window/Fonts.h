@@ -7,6 +7,8 @@
 #include <string_view>
 #include <tuple>
 
+#include "toolkits/win32/window/Owned.h"
+
 namespace brivane::win32 {
 
 enum class Weight { Regular, Bold };
@@ -17,28 +19,26 @@ class Fonts {
   Fonts() = default;
   Fonts(const Fonts&) = delete;
   Fonts& operator=(const Fonts&) = delete;
-  ~Fonts();
 
   [[nodiscard]] HFONT Get(std::string_view face, int pixels, Weight weight);
 
  private:
-  std::map<std::tuple<std::string, int, Weight>, HFONT> made_;
+  std::map<std::tuple<std::string, int, Weight>, OwnedFont> made_;
 };
 
 /// A device context of the screen with a font, to measure with.
 class Measuring {
  public:
-  explicit Measuring(HFONT font) : before_(SelectObject(dc_, font)) {}
-  Measuring(const Measuring&) = delete;
-  Measuring& operator=(const Measuring&) = delete;
-  ~Measuring();
+  explicit Measuring(HFONT font) : font_(screen_.Get(), font) {}
 
   [[nodiscard]] int Width(std::wstring_view text) const;
   [[nodiscard]] int LineHeight() const;
+  /// The height of a text in lines no longer than the width of `area`, which becomes as narrow as they are.
+  [[nodiscard]] int WrappedHeight(const std::wstring& text, RECT& area) const;
 
  private:
-  HDC dc_ = GetDC(nullptr);
-  HGDIOBJ before_;
+  WindowContext screen_;
+  Selected font_;
 };
 
 }  // namespace brivane::win32

@@ -1,0 +1,144 @@
+#include "controls/entry/PendingEdit.h"
+
+#include <utility>
+
+#include "controls/DrawnToolkit.h"
+#include "controls/TextBox.h"
+#include "controls/entry/Column.h"
+#include "controls/entry/Content.h"
+#include "frame/Trim.h"
+
+namespace brivane::controls {
+
+using frame::Format;
+
+PendingEdit::~PendingEdit() { End(); }
+
+void PendingEdit::Tie(TextBox& box, DrawnToolkit& toolkit) {
+  End();
+  box_ = &box;
+  toolkit_ = &toolkit;
+  format_ = box.Format();
+  ShowContent();
+}
+
+void PendingEdit::Tie(frame::Format format) {
+  End();
+  box_ = nullptr;
+  format_ = format;
+}
+
+void PendingEdit::ShowContent() {
+  if (box_ != nullptr && !committing_) ShowText(controls::ShowContent(box_->Content(), format_));
+}
+
+void PendingEdit::ShowText(const std::string& text) {
+  End();
+  face_.HideReason();
+  shown_ = text;
+  if (face_.Text() == text) return;
+  face_.ShowText(text);
+  if (face_.HasFocus()) face_.SelectAll();
+}
+
+void PendingEdit::End() {
+  pending_ = false;
+  if (toolkit_ != nullptr) toolkit_->Pending().Remove(*this);
+}
+
+void PendingEdit::Typed() {
+  face_.HideReason();
+  if (std::exchange(pending_, true) || box_ == nullptr) return;
+  standing_ = box_->Content();
+  box_->MarkEdited();
+  toolkit_->Pending().Add(*this);
+}
+
+void PendingEdit::TypeOver(const std::string& text) {
+  face_.ShowText(text);
+  Typed();
+}
+
+void PendingEdit::Insert(const std::string& text) {
+  face_.InsertText(text);
+  Typed();
+}
+
+bool PendingEdit::TypeDecimalSign() {
+  const bool decimals = format_ == Format::Amount || format_ == Format::Number;
+  if (!decimals || face_.ReadOnly()) return false;
+  Insert(",");
+  return true;
+}
+
+bool PendingEdit::Commit() {
+  if (committing_ || !pending_) return true;
+  const std::string typed = face_.Text();
+  TypedContent content = ReadContent(typed, format_);
+  if (!content.refusal.empty()) return Refuse(content.refusal);
+  if (box_ == nullptr) {
+    ShowText(controls::ShowContent(content.value, format_));
+    return true;
+  }
+  // What reads as what stood there is what stood there, decimals that are not shown included.
+  if (typed == controls::ShowContent(standing_, format_)) content.value = standing_;
+  const auto life = Life();
+  committing_ = true;
+  const Outcome outcome = toolkit_->Hand(*box_, Enter{std::move(content.value)});
+  if (life.expired()) return true;
+  committing_ = false;
+  if (outcome == Outcome::Refused) return Refuse({});
+  ShowContent();
+  return true;
+}
+
+bool PendingEdit::Refuse(const std::string& reason) {
+  const auto life = Life();
+  if (!face_.HasFocus()) face_.TakeFocus();
+  // The box that loses the focus may have something to hand over too.
+  if (life.expired()) return false;
+  face_.SelectAll();
+  face_.HideReason();
+  if (!reason.empty()) face_.ShowReason(reason);
+  return false;
+}
+
+bool PendingEdit::CommitAndSelect() {
+  const auto life = Life();
+  if (!Commit()) return false;
+  if (!life.expired()) face_.SelectAll();
+  return true;
+}
+
+bool PendingEdit::Restore() {
+  if (!pending_) return false;
+  ShowText(std::string(shown_));
+  face_.SelectAll();
+  // Refused content had reached the control: what stood there goes back into it.
+  if (box_ != nullptr && box_->Content() != standing_) box_->SetContent(standing_);
+  return true;
+}
+
+void PendingEdit::Paste(std::string_view clipboard) {
+  if (face_.ReadOnly()) return;
+  const bool row = box_ != nullptr && box_->IsRowElement();
+  if (row && IsColumn(clipboard)) return PasteColumn(clipboard);
+  const std::string line = OneLine(row ? frame::Trim(clipboard) : clipboard);
+  if (!line.empty()) Insert(line);
+}
+
+void PendingEdit::PasteColumn(std::string_view text) {
+  Restore();
+  Column column = ReadColumn(text, *box_);
+  if (!column.refusal.empty()) return face_.ShowReason(column.refusal);
+  const auto life = Life();
+  for (Column::Entry& entry : column.entries) {
+    const Outcome outcome = toolkit_->Hand(*entry.box, Enter{std::move(entry.value)});
+    if (life.expired()) return;
+    if (outcome == Outcome::Refused) break;
+  }
+  face_.SelectAll();
+  if (!column.surplus.empty()) face_.ShowReason(column.surplus);
+}
+
+}  // namespace brivane::controls

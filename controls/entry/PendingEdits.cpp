@@ -1,0 +1,44 @@
+#include "controls/entry/PendingEdits.h"
+
+#include <algorithm>
+
+#include "controls/Surface.h"
+#include "controls/TextBox.h"
+#include "controls/entry/PendingEdit.h"
+
+namespace brivane::controls {
+
+namespace {
+
+bool IsOn(const AnyControl& control, const Surface& surface) {
+  const Surface* owner = control.Owner();
+  while (owner != nullptr && owner != &surface) owner = owner->Owner();
+  return owner != nullptr;
+}
+
+}  // namespace
+
+std::vector<PendingEdit*> PendingEdits::On(const Surface& surface) const {
+  std::vector<PendingEdit*> found;
+  for (PendingEdit* edit : edits_)
+    if (IsOn(*edit->Box(), surface)) found.push_back(edit);
+  return found;
+}
+
+bool PendingEdits::InRowsOf(const Surface& form) const {
+  const std::vector<PendingEdit*> found = On(form);
+  return std::any_of(found.begin(), found.end(), [](const PendingEdit* edit) { return edit->Box()->IsRowElement(); });
+}
+
+bool PendingEdits::Commit(const Surface& surface) {
+  const std::weak_ptr<const char> life = life_;
+  for (PendingEdit* edit : On(surface)) {
+    // What one hands over may end another, or take everything away.
+    if (life.expired()) return true;
+    if (std::find(edits_.begin(), edits_.end(), edit) == edits_.end()) continue;
+    if (edit->Box()->Reachable() && !edit->Commit()) return false;
+  }
+  return true;
+}
+
+}  // namespace brivane::controls

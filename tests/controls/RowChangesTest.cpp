@@ -1,0 +1,82 @@
+#include "host/controls/CheckBox.h"
+#include "tests/controls/entry/EntryDesk.h"
+
+/// A person closes a form by Escape or its close box.
+namespace brivane::controls {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class RowChangesTest : public RowsTest {
+ protected:
+  /// Whether the form went, after a question where rows would be lost.
+  [[nodiscard]] bool Closes() {
+    RowChanges::Close(Window(), toolkit);
+    return Window().IsUnloaded();
+  }
+};
+
+TEST_F(RowChangesTest, NoneCloseWithoutAQuestion) {
+  Row(1).SetNumber(5);
+  TypeOver(Row(1), "6");
+  EXPECT_TRUE(Edit(Row(1)).Restore());
+  TypeOver(Box("txtBedrag"), "of another surface");
+  EXPECT_TRUE(Closes());
+  EXPECT_THAT(toolkit.asked, IsEmpty());
+}
+
+TEST_F(RowChangesTest, AreAskedAboutOnceARowWasEntered) {
+  TypeOver(Row(2), "5");
+  EXPECT_TRUE(Edit(Row(2)).Commit());
+  EXPECT_FALSE(Closes());
+  EXPECT_THAT(toolkit.asked,
+              ElementsAre("Proefformulier: De gewijzigde rijen worden niet bewaard als u het venster sluit zonder op "
+                          "OK te drukken. Wilt u het sluiten?"));
+  toolkit.answer = host::MessageAnswer::Yes;
+  EXPECT_TRUE(Closes());
+}
+
+TEST_F(RowChangesTest, AreAskedAboutAfterATick) {
+  EXPECT_EQ(toolkit.Hand(AnyControl::Of(*form->Element(kEenmalig.row, 1)), Tick{host::kTicked}), Outcome::Done);
+  EXPECT_FALSE(Closes());
+}
+
+TEST_F(RowChangesTest, AreAskedAboutAfterAPastedColumn) {
+  Edit(Row(1)).Paste("1\n2");
+  EXPECT_FALSE(Closes());
+}
+
+TEST_F(RowChangesTest, AreAskedAboutAlsoWhereTheEntryWasRefusedAndPutBack) {
+  refuse = true;
+  TypeOver(Row(1), "5");
+  EXPECT_FALSE(Edit(Row(1)).Commit());
+  EXPECT_TRUE(Edit(Row(1)).Restore());
+  EXPECT_FALSE(Closes());
+}
+
+TEST_F(RowChangesTest, AreAskedAboutWhileARowIsBeingTyped) {
+  TypeOver(Row(1), "5");
+  EXPECT_FALSE(Window().Rows()->Any());
+  EXPECT_FALSE(Closes());
+  EXPECT_EQ(toolkit.asked.size(), 1U);
+}
+
+TEST_F(RowChangesTest, AreNotThoseOfAnActionThatWasIgnored) {
+  Row(1).SetEnabled(false);
+  EXPECT_EQ(toolkit.Hand(Row(1), Enter{5.0}), Outcome::Ignored);
+  EXPECT_TRUE(Closes());
+}
+
+TEST_F(RowChangesTest, AreNotThoseOfOtherControls) {
+  EXPECT_EQ(toolkit.Hand(*Window().Find("cmdOK"), Press{}), Outcome::Done);
+  EXPECT_EQ(toolkit.Hand(Box("txtBedrag"), Enter{5.0}), Outcome::Done);
+  EXPECT_TRUE(Closes());
+}
+
+TEST_F(RowChangesTest, MayComeOfAnActionThatTakesTheFormAway) {
+  const host::Subscription listening = Row(1).Validation.Connect([this](bool&) { form.reset(); });
+  EXPECT_EQ(toolkit.Hand(Row(1), Enter{5.0}), Outcome::Done);
+  EXPECT_EQ(form, nullptr);
+}
+
+}  // namespace brivane::controls

@@ -1,0 +1,262 @@
+#include "frame/Calendar.h"
+#include "host/Error.h"
+#include "tests/controls/entry/EntryDesk.h"
+
+/// What is typed in one box, until it is handed over or put back.
+namespace brivane::controls {
+
+using frame::Format;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PendingEditTest : public EntryTest {
+ protected:
+  TextBox& amount = Box("txtBedrag");
+  TestFace& face = Face(amount);
+  PendingEdit& edit = Edit(amount);
+};
+
+TEST_F(PendingEditTest, ShowsWhatTheBoxHolds) {
+  amount.SetNumber(1234.5);
+  EXPECT_EQ(face.text, "1.234,50");
+  EXPECT_FALSE(face.selected);
+  face.focused = true;
+  amount.SetNumber(7);
+  EXPECT_EQ(face.text, "7,00");
+  EXPECT_TRUE(face.selected);
+}
+
+TEST_F(PendingEditTest, IsHandedOverOnceAfterTyping) {
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, IsEmpty());
+  TypeOver(amount, "1234,5");
+  EXPECT_TRUE(edit.IsPending());
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_FALSE(edit.IsPending());
+  EXPECT_EQ(face.text, "1.234,50");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 1.234,50"));
+}
+
+TEST_F(PendingEditTest, SelectsWhatStandsAfterEnter) {
+  TypeOver(amount, "5");
+  EXPECT_TRUE(edit.CommitAndSelect());
+  EXPECT_EQ(face.text, "5,00");
+  EXPECT_TRUE(face.selected);
+}
+
+TEST_F(PendingEditTest, ThatIsNotOfTheFormatStaysWithTheReasonAndNeverReachesTheBox) {
+  amount.SetNumber(7);
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(amount.Number(), 7);
+  EXPECT_EQ(face.text, "12.50");
+  EXPECT_EQ(face.reason, "Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen.");
+  EXPECT_TRUE(face.focused);
+  EXPECT_TRUE(face.selected);
+  EXPECT_TRUE(edit.IsPending());
+  TypeOver(amount, "12,50");
+  EXPECT_EQ(face.reason, "");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 12,50"));
+}
+
+TEST_F(PendingEditTest, ThatTheControlRefusesStaysAsTypedWithoutAReason) {
+  TextBox& date = Box("txtDatum");
+  refuse = true;
+  TypeOver(date, "1-4-2031");
+  for (std::size_t asked = 1; asked <= 2; ++asked) {
+    EXPECT_FALSE(Edit(date).Commit());
+    EXPECT_EQ(log.size(), asked);
+    EXPECT_EQ(Face(date).text, "1-4-2031");
+    EXPECT_EQ(Face(date).reason, "");
+    EXPECT_TRUE(Face(date).focused);
+  }
+  refuse = false;
+  EXPECT_TRUE(Edit(date).Commit());
+  EXPECT_EQ(Face(date).text, "01-04-2031");
+}
+
+TEST_F(PendingEditTest, IsPutBackByEscape) {
+  amount.SetNumber(7);
+  EXPECT_FALSE(edit.Restore());
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_TRUE(edit.Restore());
+  EXPECT_EQ(face.text, "7,00");
+  EXPECT_EQ(face.reason, "");
+  EXPECT_TRUE(face.selected);
+  EXPECT_FALSE(edit.Restore());
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(PendingEditTest, ThatWasRefusedIsPutBackIntoTheControlToo) {
+  amount.SetNumber(1036.9994);
+  refuse = true;
+  TypeOver(amount, "5");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(amount.Number(), 5);
+  TypeOver(amount, "6");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_TRUE(edit.Restore());
+  EXPECT_EQ(face.text, "1.037,00");
+  EXPECT_EQ(amount.Number(), 1036.9994);
+  EXPECT_EQ(log.size(), 2U);
+}
+
+TEST_F(PendingEditTest, ThatReadsAsWhatStoodKeepsTheDecimalsThatAreNotShown) {
+  amount.SetNumber(1036.9994);
+  TypeOver(amount, "1.037,00");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(log.size(), 1U);
+  EXPECT_EQ(amount.Number(), 1036.9994);
+  TypeOver(amount, "1037");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(amount.Number(), 1037);
+}
+
+TEST_F(PendingEditTest, EndsWhenCodeWritesAlsoTheSameValue) {
+  amount.SetNumber(7);
+  for (const double written : {7.0, 8.0}) {
+    TypeOver(amount, "12.50");
+    EXPECT_FALSE(edit.Commit());
+    amount.SetNumber(written);
+    EXPECT_FALSE(edit.IsPending());
+    EXPECT_EQ(face.text, ShowContent(BoxValue(written), Format::Amount));
+    EXPECT_EQ(face.reason, "");
+  }
+  EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(PendingEditTest, StaysAsTypedUntilItIsAcceptedWhateverCodeWritesMeanwhile) {
+  bool cancel = true;
+  std::vector<std::string> seen;
+  subscriptions.Reset();
+  const host::Subscription listening = amount.Validation.Connect([&](bool& Cancel) {
+    amount.SetNumber(99);
+    seen.push_back(face.text);
+    EXPECT_TRUE(edit.IsCommitting());
+    EXPECT_TRUE(edit.Commit());  // nested: it is on its way
+    Cancel = cancel;
+  });
+  TypeOver(amount, "5");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.text, "5");
+  cancel = false;
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(face.text, "99,00");
+  EXPECT_THAT(seen, ElementsAre("5", "5"));
+  EXPECT_FALSE(edit.IsCommitting());
+}
+
+TEST_F(PendingEditTest, CountsAsTakenWhereTheControlFails) {
+  subscriptions.Reset();
+  const host::Subscription listening =
+      amount.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  TypeOver(amount, "5");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(toolkit.asked, ElementsAre("Kwandero: Er is een fout opgetreden.\r\n91: Object missing"));
+  EXPECT_EQ(face.text, "5,00");
+  EXPECT_FALSE(edit.IsPending());
+}
+
+TEST_F(PendingEditTest, IsDroppedWhereTheBoxCanNoLongerBeReached) {
+  amount.SetNumber(7);
+  TypeOver(amount, "5");
+  amount.SetEnabled(false);
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(face.text, "7,00");
+  EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(PendingEditTest, TypesTheDecimalSignOfTheKeypadWhereThereAreDecimals) {
+  struct Case {
+    const char* name;
+    bool typed;
+  };
+  for (const Case& c : {Case{"txtNaam", false}, Case{"txtBedrag", true}, Case{"txtPercentage", true},
+                        Case{"txtJaren", false}, Case{"txtDatum", false}}) {
+    const TextBox& box = Box(c.name);
+    TypeOver(box, "12");
+    EXPECT_EQ(Edit(box).TypeDecimalSign(), c.typed) << c.name;
+    EXPECT_EQ(Face(box).text, c.typed ? "12," : "12") << c.name;
+    Face(box).readOnly = true;
+    EXPECT_FALSE(Edit(box).TypeDecimalSign()) << c.name;
+  }
+}
+
+TEST_F(PendingEditTest, TakesWhatIsPickedAsIfTyped) {
+  TextBox& date = Box("txtDatum");
+  Edit(date).TypeOver("03-04-2031");
+  EXPECT_TRUE(Edit(date).IsPending());
+  EXPECT_TRUE(Edit(date).Commit());
+  EXPECT_EQ(date.DateValue(), frame::MakeDate({2031, 4, 3}));
+}
+
+TEST_F(PendingEditTest, TakesAPastedTextAsOneLine) {
+  TextBox& name = Box("txtNaam");
+  struct Case {
+    const char* pasted;
+    const char* text;
+  };
+  for (const Case& c : {Case{"Zoë", "Zoë"}, Case{"een\r\n\ntwee", "een twee"}, Case{"a\tb", "a\tb"}, Case{" a ", " a "},
+                        Case{"", ""}}) {
+    Face(name).text.clear();
+    Edit(name).Paste(c.pasted);
+    EXPECT_EQ(Face(name).text, c.text);
+  }
+  Face(name).readOnly = true;
+  Edit(name).Paste("x");
+  EXPECT_EQ(Face(name).text, "");
+}
+
+TEST_F(PendingEditTest, OfNoControlIsReadByItsFormatAlone) {
+  TestFace alone;
+  PendingEdit date(alone);
+  date.Tie(Format::Date);
+  date.ShowText("31-01-2024");
+  alone.text = "31-2-2031";
+  date.Typed();
+  EXPECT_FALSE(date.Commit());
+  EXPECT_EQ(alone.reason, "31 februari 2031 bestaat niet.");
+  EXPECT_TRUE(date.Restore());
+  EXPECT_EQ(alone.text, "31-01-2024");
+  alone.text = "1-4-31";
+  date.Typed();
+  EXPECT_TRUE(date.Commit());
+  EXPECT_EQ(alone.text, "01-04-2031");
+  EXPECT_FALSE(date.IsPending());
+  EXPECT_EQ(date.Box(), nullptr);
+}
+
+TEST_F(PendingEditTest, MayBeGoneWhenItsEntryComesBack) {
+  for (const bool cancel : {false, true}) {
+    TestFace outlives;
+    auto gone = std::make_unique<PendingEdit>(outlives);
+    gone->Tie(amount, toolkit);
+    subscriptions.Reset();
+    const host::Subscription listening = amount.Validation.Connect([&](bool& Cancel) {
+      gone.reset();
+      outlives.calls = 0;
+      Cancel = cancel;
+    });
+    outlives.text = "5";
+    gone->Typed();
+    EXPECT_TRUE(gone->CommitAndSelect());
+    EXPECT_EQ(outlives.calls, 0);
+    EXPECT_THAT(toolkit.Pending().On(Surface::Of(*surface)), IsEmpty());
+  }
+}
+
+TEST_F(PendingEditTest, MovesToAnotherBoxWithWhatThatHolds) {
+  Box("txtDatum").SetDate(frame::MakeDate({2024, 1, 31}));
+  TypeOver(amount, "5");
+  edit.Tie(Box("txtDatum"), toolkit);
+  EXPECT_EQ(face.text, "31-01-2024");
+  EXPECT_FALSE(edit.IsPending());
+  EXPECT_EQ(edit.Format(), Format::Date);
+}
+
+}  // namespace brivane::controls
