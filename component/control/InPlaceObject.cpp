@@ -6,12 +6,12 @@ namespace brivane::component {
 
 namespace {
 
-bool IsDown(int key) { return ::GetKeyState(key) < 0; }
+bool IsKeyDown(int key) { return ::GetKeyState(key) < 0; }
 
 /// Whether a key is one by which text is edited. A container may have a use of its own for these (a page that scrolls
 /// by the arrow keys); as long as a box has the focus they belong to the box.
 bool IsEditing(const MSG& message) {
-  if (message.message != WM_KEYDOWN || IsDown(VK_MENU)) return false;
+  if (message.message != WM_KEYDOWN || IsKeyDown(VK_MENU)) return false;
   switch (message.wParam) {
     case VK_LEFT:
     case VK_RIGHT:
@@ -28,7 +28,7 @@ bool IsEditing(const MSG& message) {
     case 'C':
     case 'V':
     case 'X':
-    case 'Z': return IsDown(VK_CONTROL);
+    case 'Z': return IsKeyDown(VK_CONTROL);
     default: return false;
   }
 }
@@ -38,7 +38,7 @@ DWORD Modifiers() {
   constexpr DWORD kShift = 1;
   constexpr DWORD kControl = 2;
   constexpr DWORD kAlt = 4;
-  return (IsDown(VK_SHIFT) ? kShift : 0) | (IsDown(VK_CONTROL) ? kControl : 0) | (IsDown(VK_MENU) ? kAlt : 0);
+  return (IsKeyDown(VK_SHIFT) ? kShift : 0) | (IsKeyDown(VK_CONTROL) ? kControl : 0) | (IsKeyDown(VK_MENU) ? kAlt : 0);
 }
 
 }  // namespace

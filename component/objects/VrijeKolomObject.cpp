@@ -14,7 +14,7 @@ namespace {
 // Of the event interface.
 constexpr DISPID kRefreshTopDisplay = 1;
 constexpr DISPID kHeightChanged = 2;
-constexpr DISPID kChanged = 1;  // of the explanation control
+constexpr DISPID kPartChanged = 1;  // of the explanation control
 
 VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 
@@ -28,7 +28,7 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
   virtual ~Embedded() = default;
 
   /// The adviser changed something.
-  void Changed() { events_.Raise(kChanged); }
+  void Changed() { events_.Raise(kPartChanged); }
 
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
