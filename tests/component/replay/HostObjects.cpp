@@ -2,6 +2,8 @@
 
 #include <type_traits>
 
+#include "host/model/PeriodeFields.h"
+#include "host/model/VrijeKolomFields.h"
 #include "tests/component/replay/ForeignList.h"
 
 namespace brivane::latebound {
