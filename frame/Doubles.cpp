@@ -2,9 +2,6 @@
 
 #include <charconv>
 #include <limits>
-#include <locale>
-#include <sstream>
-#include <string>
 #include <system_error>
 
 namespace brivane::frame {
@@ -22,15 +19,6 @@ double NearestDouble(std::string_view digits) {
 #else
   return NearestDoubleByStream(digits);
 #endif
-}
-
-double NearestDoubleByStream(std::string_view digits) {
-  std::istringstream stream{std::string(digits)};
-  stream.imbue(std::locale::classic());
-  double value = 0;
-  // Out of range the stream fails and stores the largest number.
-  if (stream >> value) return value;
-  return value == 0 ? 0 : std::numeric_limits<double>::infinity();
 }
 
 }  // namespace brivane::frame
