@@ -1,10 +1,12 @@
 #include "toolkits/qt/Toolkit.h"
 
 #include <QFontMetricsF>
+#include <QPointer>
 
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 
@@ -15,6 +17,12 @@ void Toolkit::ShowFailure(const std::string& caption, const std::string& text) {
 }
 
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget) {
+  ChoiceBox* const list = ChoiceBox::UnderWayWithin(*widget.window());
+  if (list != nullptr && list != &widget) {
+    const QPointer<const QWidget> alive(&widget);
+    list->HandOver();
+    if (!alive) return false;
+  }
   EntryBox* const elsewhere = EntryBox::PendingWithin(*widget.window());
   if (elsewhere != nullptr && elsewhere != &widget && !elsewhere->CommitPending()) return false;
   controls::Outcome outcome = controls::Outcome::Done;

@@ -17,8 +17,9 @@ class Toolkit : public controls::DrawnToolkit {
  public:
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
 
-  /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
-  /// handed over first; where that is refused, the action is not done. False where it was not done.
+  /// A person acts on a control through its widget. A box that is being edited or a choice that is under way
+  /// elsewhere in the window is handed over first; where that is refused, the action is not done. False where it
+  /// was not done.
   bool Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget);
 
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }

@@ -2,7 +2,6 @@
 #include <QComboBox>
 #include <QToolTip>
 #include <QTreeWidget>
-#include <QWheelEvent>
 
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
@@ -94,23 +93,6 @@ TEST_F(Options, ARefusedBoxElsewhereDropsTheChoice) {
   Do(Control("optSoort", 3), controls::Select{});
   EXPECT_EQ(Selected(), 1);
   EXPECT_EQ(Focused(), "txtBedrag");
-}
-
-TEST_F(SurfaceTest, AListIsWorkedByKeysAndOnlyAFocusedOneByTheWheel) {
-  auto& list = static_cast<controls::ListBox&>(Control("cboTermijn"));
-  auto& combo = dynamic_cast<QComboBox&>(*WidgetFor(list));
-  list.Click.Connect([&] { log_.push_back(list.ListIndex() < 0 ? "none" : list.Text()); });
-  combo.setFocus();
-  Press(Qt::Key_Down);
-  Press(Qt::Key_Down);
-  Press(Qt::Key_P);
-  EXPECT_THAT(log_, ElementsAre("per maand", "per kwartaal", "per jaar"));
-
-  Focus("txtNaam");
-  QWheelEvent turn(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                   Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&combo, &turn);
-  EXPECT_EQ(list.ListIndex(), 2);
 }
 
 TEST_F(SurfaceTest, AListKeepsWhatStandsWhenABoxElsewhereRefuses) {

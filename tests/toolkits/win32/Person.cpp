@@ -132,6 +132,14 @@ void Press(WORD key, With with) {
   TheStage().Settle();
 }
 
+void QueueKey(WORD key, With with) {
+  const WORD modifier = ModifierOf(with);
+  if (modifier != 0) SendKey(modifier, 0);
+  SendKey(key, 0);
+  SendKey(key, KEYEVENTF_KEYUP);
+  if (modifier != 0) SendKey(modifier, KEYEVENTF_KEYUP);
+}
+
 void Type(const std::wstring& text) {
   for (const wchar_t character : text) {
     INPUT input{};

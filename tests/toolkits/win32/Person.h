@@ -46,6 +46,8 @@ void MoveTo(HWND window, POINT at);
 
 enum class With { None, Shift, Control, Alt };
 void Press(WORD key, With with = With::None);
+/// The same for a message loop that runs already.
+void QueueKey(WORD key, With with = With::None);
 void Type(const std::wstring& text);
 /// Replaces what stands in the focused box.
 void TypeOver(const std::wstring& text);

@@ -22,6 +22,7 @@
 #include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/widgets/Bubble.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::qt {
 
@@ -152,6 +153,7 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   setObjectName(kCanvasName);
   setFocusPolicy(Qt::TabFocus);
   editor_->hide();
+  TypesNothingWithAlt(*editor_);
   link_.entered = [this] { changed_ = true; };
   new Follower(container, *this);
   lower();

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
 
@@ -43,6 +44,7 @@ void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
 }
 
 bool ControlWidget::CommitPending() {
+  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
   EntryBox* const box = EntryBox::PendingWithin(*this);
   return box == nullptr || box->CommitPending();
 }
