@@ -32,6 +32,7 @@ Clientvenster::Clientvenster(const QString& titel, const Client& client, QWidget
   QWidget* partner = MaakVelden(partner_, QStringLiteral("Partner"));
   partner->setEnabled(false);
   connect(metPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
+  connect(metPartner_, &QCheckBox::toggled, this, [this] { reden_->clear(); });
 
   leeftijd_ = new QSpinBox;
   leeftijd_->setRange(kLaagsteLeeftijd, kHoogsteLeeftijd);
@@ -110,6 +111,7 @@ Client Clientvenster::Gegevens() const {
 }
 
 void Clientvenster::accept() {
+  reden_->clear();
   if (qt::EntryBox* vak = qt::EntryBox::PendingWithin(*this); vak && !vak->CommitPending()) return;
   if (!Controleer(aanvrager_, QStringLiteral("de aanvrager"))) return;
   if (metPartner_->isChecked() && !Controleer(partner_, QStringLiteral("de partner"))) return;
@@ -133,9 +135,12 @@ bool Clientvenster::Controleer(const Persoonsvelden& velden, const QString& wie)
   return true;
 }
 
-void Clientvenster::Meld(const QString& reden, QWidget* veld) {
+void Clientvenster::Meld(const QString& reden, QLineEdit* veld) {
   reden_->setText(reden);
   veld->setFocus(Qt::OtherFocusReason);
+  veld->selectAll();
+  // What is being mended is refused no more.
+  connect(veld, &QLineEdit::textChanged, reden_, &QLabel::clear, Qt::UniqueConnection);
 }
 
 }  // namespace brivane::dossier

@@ -47,7 +47,7 @@ class Clientvenster final : public QDialog {
   [[nodiscard]] PersoonGegevens Lees(const Persoonsvelden& velden) const;
   /// Puts the focus in the first field that is not right and says why; false when there is one.
   bool Controleer(const Persoonsvelden& velden, const QString& wie);
-  void Meld(const QString& reden, QWidget* veld);
+  void Meld(const QString& reden, QLineEdit* veld);
 
   Persoonsvelden aanvrager_;
   Persoonsvelden partner_;

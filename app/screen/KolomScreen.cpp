@@ -7,10 +7,13 @@
 #include <utility>
 
 #include "app/recording/Recording.h"
+#include "app/screen/CarryOver.h"
 #include "app/screen/KopregelLabel.h"
 #include "frame/Handle.h"
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
+#include "vrijekolom/Teksten.h"
 
 namespace brivane::dossier {
 
@@ -26,6 +29,10 @@ Kolomscherm::Kolomscherm(std::shared_ptr<Application> application, const host::H
   editor_->setObjectName(QStringLiteral("editor"));
   opname_.Begin(application_->Bestand(), *editor_);
   editor_->SetHostFactories(factories);
+  editor_->Toolkit().Desktop().details = [this](const std::string& titel, const std::string&) {
+    const bool overnemen = titel == vrijekolom::kOvernemenTitel && plek_.Vrij_Id;
+    return overnemen ? app::RemovedByCarryOver(*application_->Bestand(), *plek_.Vrij_Id) : std::string();
+  };
   auto* vlak = new QWidget;
   auto* stapel = new QVBoxLayout(vlak);
   stapel->setContentsMargins(0, 0, 0, 0);
@@ -53,6 +60,7 @@ void Kolomscherm::Toon(const Plek& plek) {
   plek_ = plek;
   // What was being typed belongs to what stood here.
   if (qt::EntryBox* vak = qt::EntryBox::PendingWithin(*editor_)) vak->Restore();
+  if (qt::ChoiceBox* lijst = qt::ChoiceBox::UnderWayWithin(*editor_)) lijst->PutBack();
   if (!plek.Vrij_Id) {
     setCurrentWidget(leeg_);
     return;

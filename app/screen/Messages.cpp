@@ -1,26 +1,32 @@
 #include "app/screen/Messages.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "dossier/model/Tracer.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::dossier {
 namespace {
 
+constexpr auto kPauze = controls::KeysUnderWay::kPause;
 constexpr char kHerladen[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
 
 }  // namespace
 
 void ToonMelding(QWidget* boven, const QString& titel, const QString& tekst) {
-  QMessageBox bericht(QMessageBox::Warning, titel, tekst, QMessageBox::Ok, boven);
-  bericht.setTextFormat(Qt::PlainText);
+  qt::QuestionBox bericht(kPauze, boven);
+  bericht.setIcon(QMessageBox::Warning);
+  bericht.setWindowTitle(titel);
+  bericht.setText(tekst);
+  bericht.setStandardButtons(QMessageBox::Ok);
   bericht.exec();
 }
 
 Antwoord Vraag(QWidget* boven, const QString& titel, const QString& tekst, const QString& jaTekst) {
-  QMessageBox bericht(QMessageBox::Question, titel, tekst, QMessageBox::NoButton, boven);
-  bericht.setTextFormat(Qt::PlainText);
+  qt::QuestionBox bericht(kPauze, boven);
+  bericht.setIcon(QMessageBox::Question);
+  bericht.setWindowTitle(titel);
+  bericht.setText(tekst);
   QPushButton* ja = bericht.addButton(jaTekst, QMessageBox::AcceptRole);
   QPushButton* nee = bericht.addButton(QStringLiteral("&Annuleren"), QMessageBox::RejectRole);
   bericht.setDefaultButton(nee);
@@ -31,8 +37,11 @@ Antwoord Vraag(QWidget* boven, const QString& titel, const QString& tekst, const
 
 void ToonFout(QWidget* boven, const Foutrecord& fout, Gevolg gevolg) {
   const auto tekst = [](const std::string& s) { return QString::fromStdString(s); };
-  QMessageBox bericht(QMessageBox::Critical, tekst(fout.Caption), tekst(fout.Message), QMessageBox::Ok, boven);
-  bericht.setTextFormat(Qt::PlainText);
+  qt::QuestionBox bericht(kPauze, boven);
+  bericht.setIcon(QMessageBox::Critical);
+  bericht.setWindowTitle(tekst(fout.Caption));
+  bericht.setText(tekst(fout.Message));
+  bericht.setStandardButtons(QMessageBox::Ok);
   bericht.setInformativeText(QStringLiteral("%1\n\n"
                                             "Onderdeel: %2 (%3)\n"
                                             "Foutnummer: %4\n"

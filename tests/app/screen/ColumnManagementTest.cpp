@@ -107,6 +107,8 @@ TEST_F(Beheer, WijzigingenOvernemenHaaltDeAfwijkingUitDeBoom) {
   Toets(Qt::Key_B, Qt::AltModifier);
   Typ("500");
   dialogen_.VerwachtMelding("Wilt u de wijzigingen overnemen in de nieuwe situatie?", [](QWidget& venster) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(venster).informativeText(),
+              "\"Ja\" verwijdert:\n• 1 afwijkende kolom in Nieuwe lening 1: Kinderopvang, € 310,00 per maand");
     QTest::keyClick(venster.windowHandle(), Qt::Key_J, Qt::AltModifier);
   });
   Toets(Qt::Key_PageDown, Qt::ControlModifier);

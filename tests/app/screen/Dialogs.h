@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <functional>
+
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::dossier {
 
@@ -44,11 +47,18 @@ class Dialogen {
       venster->activateWindow();
       return;
     }
+    // Who answers on purpose has read it first.
+    if (gezien_ != venster) {
+      gezien_ = venster;
+      sinds_.start();
+    }
+    const bool bericht = dynamic_cast<qt::QuestionBox*>(venster) != nullptr;
+    if (bericht && sinds_.elapsed() < controls::KeysUnderWay::kPause.count() + 20) return;
     behandeld_ = venster;
     if (wachtrij_.empty()) {
-      const auto* bericht = qobject_cast<QMessageBox*>(venster);
+      const auto* onverwacht = qobject_cast<QMessageBox*>(venster);
       ADD_FAILURE() << "unexpected window: " << qPrintable(venster->windowTitle()) << ": "
-                    << (bericht ? qPrintable(bericht->text()) : "");
+                    << (onverwacht ? qPrintable(onverwacht->text()) : "");
       venster->close();
       return;
     }
@@ -59,6 +69,8 @@ class Dialogen {
 
   QTimer klok_;
   std::deque<Behandeling> wachtrij_;
+  QPointer<QWidget> gezien_;
+  QElapsedTimer sinds_;
   QPointer<QWidget> behandeld_;  ///< null again when it is gone: the next one may take its address
 };
 
