@@ -69,6 +69,19 @@ TEST_F(Beheer, VerwijdertEenKolomPasNaEenJa) {
   EXPECT_FALSE(LeesNaSluiten().contains("0/3/bedrag"));
 }
 
+TEST_F(Beheer, EenLetterAlleenVerwijdertGeenKolom) {
+  ASSERT_TRUE(Scherm().GaNaar({0, 3}));
+  Toets(Qt::Key_F6);
+  dialogen_.VerwachtMelding("Wilt u deze vrije kolom verwijderen?", [](QWidget& venster) {
+    QTest::keyClick(venster.windowHandle(), Qt::Key_V);
+    QTest::qWait(200);  // a button that a letter presses stays down for a moment
+    EXPECT_TRUE(venster.isVisible());
+    if (venster.isVisible()) QTest::keyClick(venster.windowHandle(), Qt::Key_Escape);
+  });
+  Toets(Qt::Key_Delete);
+  EXPECT_EQ(Kolommen(0).size(), 6);
+}
+
 TEST_F(Beheer, VerplaatstEenKolomMetHetToetsenbord) {
   ASSERT_TRUE(Scherm().GaNaar({0, 5}));
   Toets(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
