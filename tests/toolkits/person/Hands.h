@@ -22,7 +22,7 @@
 /// A toolkit's test program compiles these files in and defines MakeHands().
 namespace brivane::test {
 
-/// A key in a message box: one of the above, a letter, or a letter with Alt.
+/// A key in a message box: one that types no letter, a letter, or a letter with Alt.
 struct BoxKey {
   std::optional<Key> key = {};
   char letter = '\0';
