@@ -32,6 +32,7 @@ ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* 
   QWidget* partner = MakeFields(partner_, QStringLiteral("Partner"));
   partner->setEnabled(false);
   connect(withPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
+  connect(withPartner_, &QCheckBox::toggled, this, [this] { reason_->clear(); });
 
   leeftijd_ = new QSpinBox;
   leeftijd_->setRange(kLowestLeeftijd, kHighestLeeftijd);
@@ -104,6 +105,7 @@ Client ClientDialog::Contents() const {
 }
 
 void ClientDialog::accept() {
+  reason_->clear();
   if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*this); box && !box->CommitPending()) return;
   if (!Check(aanvrager_, QStringLiteral("de aanvrager"))) return;
   if (withPartner_->isChecked() && !Check(partner_, QStringLiteral("de partner"))) return;
@@ -127,9 +129,12 @@ bool ClientDialog::Check(const PersoonFields& fields, const QString& who) {
   return true;
 }
 
-void ClientDialog::Tell(const QString& reason, QWidget* field) {
+void ClientDialog::Tell(const QString& reason, QLineEdit* field) {
   reason_->setText(reason);
   field->setFocus(Qt::OtherFocusReason);
+  field->selectAll();
+  // What is being mended is refused no more.
+  connect(field, &QLineEdit::textChanged, reason_, &QLabel::clear, Qt::UniqueConnection);
 }
 
 }  // namespace brivane::app

@@ -7,10 +7,13 @@
 #include <utility>
 
 #include "app/recording/Recording.h"
+#include "app/screen/CarryOver.h"
 #include "app/screen/KopregelLabel.h"
 #include "frame/Handle.h"
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
+#include "vrijekolom/Teksten.h"
 
 namespace brivane::app {
 
@@ -29,6 +32,10 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   editor_->setObjectName(QStringLiteral("editor"));
   recording_.Begin(dossier_, *editor_);
   editor_->SetHostFactories(host.factories);
+  editor_->Toolkit().Desktop().details = [this](const std::string& title, const std::string&) {
+    const bool carryingOver = title == vrijekolom::kOvernemenTitel && place_.Vrij_Id;
+    return carryingOver ? RemovedByCarryOver(*dossier_, *place_.Vrij_Id) : std::string();
+  };
   auto* area = new QWidget;
   auto* stack = new QVBoxLayout(area);
   stack->setContentsMargins(0, 0, 0, 0);
@@ -56,6 +63,7 @@ void KolomScreen::Show(const Place& place) {
   place_ = place;
   // What was being typed belongs to what stood here.
   if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*editor_)) box->Restore();
+  if (qt::ChoiceBox* list = qt::ChoiceBox::UnderWayWithin(*editor_)) list->PutBack();
   if (!place.Vrij_Id) {
     setCurrentWidget(empty_);
     return;

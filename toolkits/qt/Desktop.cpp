@@ -3,30 +3,36 @@
 #include <QApplication>
 #include <QDate>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <cmath>
 
 #include "frame/Calendar.h"
 #include "toolkits/qt/Edge.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::qt {
 
 std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::applicationDisplayName()); }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
-  const host::MessageAnswer given = Ask(title, text, style);
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  const host::MessageAnswer given =
+      answer ? answer(title, text, style) : Show(title, text, question && details ? details(title, text) : "", style);
   if (answered) answered(given);
   return given;
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& text, host::MessageStyle style) {
-  if (answer) return answer(title, text, style);
-  QMessageBox box(QApplication::activeWindow());
+  return answer ? answer(title, text, style) : Show(title, text, "", style);
+}
+
+host::MessageAnswer Desktop::Show(const std::string& title, const std::string& text, const std::string& below,
+                                  host::MessageStyle style) const {
+  QuestionBox box(pause, QApplication::activeWindow());
   box.setWindowTitle(ToQt(title));
-  box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text).replace("\r\n", "\n"));
+  box.setInformativeText(ToQt(below));
   if (style == host::MessageStyle::OkExclamation) {
     box.setIcon(QMessageBox::Warning);
     box.addButton("OK", QMessageBox::AcceptRole);
@@ -35,7 +41,9 @@ host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& te
   }
   box.setIcon(QMessageBox::Question);
   const QPushButton* const yes = box.addButton("&Ja", QMessageBox::YesRole);
-  box.setEscapeButton(box.addButton("&Nee", QMessageBox::NoRole));
+  QPushButton* const no = box.addButton("&Nee", QMessageBox::NoRole);
+  box.setDefaultButton(no);
+  box.setEscapeButton(no);
   box.exec();
   return box.clickedButton() == yes ? host::MessageAnswer::Yes : host::MessageAnswer::No;
 }

@@ -1,13 +1,18 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 
+#include "controls/entry/KeysUnderWay.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::qt {
 
 /// The machine as Qt sees it: message boxes with Dutch buttons, the application's name and locale.
+///
+/// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
+/// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
   /// Answers today's date instead of the clock, when set.
@@ -18,7 +23,12 @@ class Desktop final : public host::Desktop {
   /// Told what a message box of the controls was answered.
   std::function<void(host::MessageAnswer answer)> answered;
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is told.
+  /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
+  std::function<std::string(const std::string& title, const std::string& text)> details;
+  /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
+  std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
+
+  /// A message box of the toolkit's own: as MessageBox, and nobody is told or asked for details.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
@@ -29,6 +39,10 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] host::Date Today() const override;
   void DoPendingEvents() override;
   [[nodiscard]] std::string FormatWhole(double number) const override;
+
+ private:
+  [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const std::string& below,
+                                         host::MessageStyle style) const;
 };
 
 }  // namespace brivane::qt

@@ -68,6 +68,19 @@ TEST_F(ColumnManagementTest, RemovesAColumnOnlyAfterAYes) {
   EXPECT_FALSE(ReadAfterClosing().contains("0/3/bedrag"));
 }
 
+TEST_F(ColumnManagementTest, ALetterAloneRemovesNoColumn) {
+  ASSERT_TRUE(Screen().GoTo({0, 3}));
+  PressKey(Qt::Key_F6);
+  dialogs_.ExpectMessage("Wilt u deze vrije kolom verwijderen?", [](QWidget& window) {
+    QTest::keyClick(window.windowHandle(), Qt::Key_V);
+    QTest::qWait(200);  // a button that a letter presses stays down for a moment
+    EXPECT_TRUE(window.isVisible());
+    if (window.isVisible()) QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+  });
+  PressKey(Qt::Key_Delete);
+  EXPECT_EQ(Kolommen(0).size(), 6);
+}
+
 TEST_F(ColumnManagementTest, MovesAColumnByKeyboard) {
   ASSERT_TRUE(Screen().GoTo({0, 5}));
   PressKey(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
@@ -105,8 +118,11 @@ TEST_F(ColumnManagementTest, CarryingChangesOverTakesTheDeviationOutOfTheTree) {
   // Column 1 has a version of its own in the first new loan.
   PressKey(Qt::Key_B, Qt::AltModifier);
   Type("500");
-  dialogs_.ExpectMessage("Wilt u de wijzigingen overnemen in de nieuwe situatie?",
-                         [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_J, Qt::AltModifier); });
+  dialogs_.ExpectMessage("Wilt u de wijzigingen overnemen in de nieuwe situatie?", [](QWidget& window) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(window).informativeText(),
+              "\"Ja\" verwijdert:\n• 1 afwijkende kolom in Nieuwe lening 1: Kinderopvang, € 310,00 per maand");
+    QTest::keyClick(window.windowHandle(), Qt::Key_J, Qt::AltModifier);
+  });
   PressKey(Qt::Key_PageDown, Qt::ControlModifier);
   EXPECT_EQ(Screen().Shown(), (Place{0, 2}));
   EXPECT_EQ(Kolommen(0).front(), "Kinderopvang · € 500,00 per maand");
