@@ -46,10 +46,11 @@ template <class Control> class Embedded {
   /// The control itself, for its events and its state. What it does is asked of it here.
   [[nodiscard]] Control& Get() { return *body_->control; }
 
-  /// Binds the control; as its own SetApplication.
-  template <class... Which> void SetApplication(const std::shared_ptr<host::Application>& application, Which... which) {
+  /// These bind the control, as its own SetApplication does.
+  void SetApplication(const std::shared_ptr<host::Application>& application, std::int16_t Len_Id,
+                      std::int16_t Vrij_Id) {
     Run([&](Body& body) {
-      body.control->SetApplication(body.host.Hold(application), which...);
+      body.control->SetApplication(body.host.Hold(application), Len_Id, Vrij_Id);
       body.host.Rest();
     });
   }

@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "controls/entry/KeysUnderWay.h"
+#include "controls/life/Life.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::qt {
@@ -15,6 +17,10 @@ namespace brivane::qt {
 /// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
+  Desktop() = default;
+  /// Whoever asks it something after that life has ended is abandoned; what is open then closes.
+  explicit Desktop(std::shared_ptr<controls::Life> life) : life_(std::move(life)) {}
+
   /// Answers today's date instead of the clock, when set.
   std::function<host::Date()> clock;
   /// Answers a message box instead of a person, when set.
@@ -28,7 +34,8 @@ class Desktop final : public host::Desktop {
   /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
   std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is told or asked for details.
+  /// A message box of the toolkit's own: as MessageBox, and nobody is told, asked for details or abandoned. Where the
+  /// life has ended, or the box goes with the window that it belongs to, it answers "Nee".
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
@@ -43,6 +50,8 @@ class Desktop final : public host::Desktop {
  private:
   [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const std::string& below,
                                          host::MessageStyle style) const;
+
+  std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
 };
 
 }  // namespace brivane::qt

@@ -9,8 +9,12 @@ ToelichtingWidget::ToelichtingWidget(QWidget* parent) : ControlWidget(toelichtin
 ToelichtingWidget::~ToelichtingWidget() = default;
 
 void ToelichtingWidget::MakeControl(const host::HostFactories& factories) {
-  control_ = std::make_unique<Toelichting>(Surface(), Toolkit().Desktop(), factories);
-  subscriptions_ += control_->Changed.Connect([this] { emit changed(); });
+  control_ = std::make_shared<Toelichting>(Surface(), Toolkit().Desktop(), factories);
+  Keep(control_);
+  subscriptions_ += control_->Changed.Connect([this, life = Life()] {
+    emit changed();
+    life->Check();
+  });
 }
 
 void ToelichtingWidget::ColorControl(host::Color color) {
@@ -19,17 +23,28 @@ void ToelichtingWidget::ColorControl(host::Color color) {
 
 void ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
                                        std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
-  host::Need(control_).SetApplication(Application, Lening, Vrij_Id);
+  Run([&, &control = host::Need(control_), &held = Host()] {
+    std::shared_ptr<host::Application> application = held.Hold(Application);
+    std::shared_ptr<host::Lening> lening = held.Hold(Lening);
+    control.SetApplication(application, lening, Vrij_Id);
+    application.reset();
+    held.Rest();
+  });
 }
 
 void ToelichtingWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  if (!Cancel && !CommitPending()) Cancel = true;
-  host::Need(control_).Validation(Cancel, ControleNr);
+  bool cancel = Cancel;
+  const bool done = Run([&, &control = host::Need(control_), life = Life()] {
+    if (!cancel && !CommitPending()) cancel = true;
+    life->Check();
+    control.Validation(cancel, ControleNr);
+  });
+  if (done) Cancel = cancel;
 }
 
 void ToelichtingWidget::resizeEvent(QResizeEvent* event) {
   ControlWidget::resizeEvent(event);
-  emit heightChanged();
+  TellHeightLater();
 }
 
 }  // namespace brivane::qt

@@ -10,10 +10,16 @@ VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::
 VrijeKolomWidget::~VrijeKolomWidget() = default;
 
 void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
-  control_ = std::make_unique<VrijeKolom>(Surface(), Toolkit(), factories);
-  subscriptions_ +=
-      control_->RefreshTopDisplay.Connect([this](const std::string& text) { emit refreshTopDisplay(ToQt(text)); });
-  subscriptions_ += control_->HeightChanged.Connect([this] { emit heightChanged(); });
+  control_ = std::make_shared<VrijeKolom>(Surface(), Toolkit(), factories);
+  Keep(control_);
+  subscriptions_ += control_->RefreshTopDisplay.Connect([this, life = Life()](const std::string& text) {
+    emit refreshTopDisplay(ToQt(text));
+    life->Check();
+  });
+  subscriptions_ += control_->HeightChanged.Connect([this, life = Life()] {
+    TellHeight();
+    life->Check();
+  });
   control_->SetBeeindigenZichtbaar(beeindigenZichtbaar_);
 }
 
@@ -23,17 +29,25 @@ void VrijeKolomWidget::ColorControl(host::Color color) {
 
 void VrijeKolomWidget::SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id,
                                       std::int16_t Vrij_Id) {
-  host::Need(control_).SetApplication(Application, Len_Id, Vrij_Id);
+  Run([&, &control = host::Need(control_), &held = Host()] {
+    control.SetApplication(held.Hold(Application), Len_Id, Vrij_Id);
+    held.Rest();
+  });
 }
 
 void VrijeKolomWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  if (!Cancel && !CommitPending()) Cancel = true;
-  host::Need(control_).Validation(Cancel, ControleNr);
+  bool cancel = Cancel;
+  const bool done = Run([&, &control = host::Need(control_), life = Life()] {
+    if (!cancel && !CommitPending()) cancel = true;
+    life->Check();
+    control.Validation(cancel, ControleNr);
+  });
+  if (done) Cancel = cancel;
 }
 
 void VrijeKolomWidget::SetBeeindigenZichtbaar(bool zichtbaar) {
   beeindigenZichtbaar_ = zichtbaar;
-  if (control_) control_->SetBeeindigenZichtbaar(zichtbaar);
+  if (control_) Run([&control = *control_, zichtbaar] { control.SetBeeindigenZichtbaar(zichtbaar); });
 }
 
 }  // namespace brivane::qt

@@ -25,7 +25,7 @@ class VrijeKolomWidget : public ControlWidget {
   /// As VrijeKolom::SetApplication. Fails with error 91 before the factories were set.
   void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
   /// As VrijeKolom::Validation, after the box that is being edited was handed over; refused there is
-  /// refused here.
+  /// refused here. Cancel stays as it is where the widget is deleted meanwhile.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
@@ -42,7 +42,7 @@ class VrijeKolomWidget : public ControlWidget {
   void ColorControl(host::Color color) override;
 
  private:
-  std::unique_ptr<VrijeKolom> control_;
+  std::shared_ptr<VrijeKolom> control_;
   host::Subscriptions subscriptions_;
   bool beeindigenZichtbaar_ = false;
 };

@@ -1,6 +1,7 @@
 #include "toolkits/qt/widgets/ControlWidget.h"
 
 #include <QEvent>
+#include <QScopedValueRollback>
 
 #include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
@@ -8,7 +9,8 @@
 namespace brivane::qt {
 
 ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
-    : QWidget(parent), surface_(toolkit_.MakeSurface(design)) {
+    : QWidget(parent), body_(std::make_shared<Body>()), toolkit_(body_->toolkit), surface_(body_->surface) {
+  body_->surface = toolkit_.MakeSurface(design);
   auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
   area.setParent(this);
   area.move(0, 0);
@@ -18,7 +20,18 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-ControlWidget::~ControlWidget() = default;
+ControlWidget::~ControlWidget() {
+  const std::shared_ptr<controls::Life> life = toolkit_.Life();
+  auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
+  area.sized = nullptr;
+  const bool running = life->Running();
+  life->End(std::move(body_));
+  if (!running) return;
+  // What runs on it stays a while, out of sight.
+  for (QWidget* const inside : area.findChildren<QWidget*>())
+    if (inside->isWindow()) inside->hide();
+  area.setParent(nullptr);
+}
 
 void ControlWidget::FollowFont() {
   const qt::Edge edge = Edge::OfFont(font());
@@ -35,7 +48,7 @@ void ControlWidget::changeEvent(QEvent* event) {
 
 void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   toolkit_.Guard([&] {
-    MakeControl(factories);
+    MakeControl(Host().Hold(factories));
     if (backColor_) ColorControl(FromQt(*backColor_));
     const host::Place place = surface_->Place();
     controls::Surface::Of(*surface_).Size(place.width, place.height);
@@ -43,8 +56,12 @@ void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
 }
 
 bool ControlWidget::CommitPending() {
-  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
-  return toolkit_.Pending().Commit(controls::Surface::Of(*surface_));
+  bool passed = true;
+  Run([&, &toolkit = toolkit_, &surface = controls::Surface::Of(*surface_)] {
+    if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+    passed = toolkit.Pending().Commit(surface);
+  });
+  return passed;
 }
 
 QColor ControlWidget::backColor() const { return backColor_.value_or(palette().color(QPalette::Window)); }
@@ -61,7 +78,22 @@ QSize ControlWidget::sizeHint() const {
 
 QSize ControlWidget::minimumSizeHint() const { return sizeHint(); }
 
+void ControlWidget::TellHeight() {
+  if (sizing_) return TellHeightLater();
+  emit heightChanged();
+}
+
+void ControlWidget::TellHeightLater() {
+  if (std::exchange(heightToTell_, true)) return;
+  const auto tell = [this] {
+    heightToTell_ = false;
+    emit heightChanged();
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
 void ControlWidget::resizeEvent(QResizeEvent* event) {
+  const QScopedValueRollback sizing(sizing_, true);
   QWidget::resizeEvent(event);
   const host::Place place = surface_->Place();
   if (size() == toolkit_.Edge().Pixels(place.width, place.height)) return;

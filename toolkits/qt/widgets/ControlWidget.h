@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "controls/life/HeldHost.h"
 #include "host/model/HostFactories.h"
 #include "toolkits/qt/Toolkit.h"
 
@@ -16,9 +17,21 @@ namespace brivane::qt {
 /// The control keeps the typeface of its design and takes its size from the widget's font, which is the
 /// application's unless the host sets another: at 9 points it is as designed, and it grows with the font.
 /// The size hint is the control's own size. Sizing the widget lays the control out; its height is its own.
+///
+/// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
+/// its form open, or calls the host. What is open closes, what was going on is abandoned without a word, and nothing of
+/// the host is touched any more when the deletion comes back.
 class ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
+
+  /// What the control runs on: it stays as long as something of it runs, the widget or no widget.
+  struct Body {
+    qt::Toolkit toolkit;
+    controls::HeldHost host{toolkit.Life()};
+    std::unique_ptr<host::Surface> surface;
+    std::shared_ptr<void> control;
+  };
 
  public:
   ~ControlWidget() override;
@@ -54,6 +67,18 @@ class ControlWidget : public QWidget {
   /// Makes the control behind the widget; it may fail, as the host's factories may.
   virtual void MakeControl(const host::HostFactories& factories) = 0;
   virtual void ColorControl(host::Color color) = 0;
+  /// Keeps the control behind the widget as long as something of it runs.
+  void Keep(std::shared_ptr<void> control) { body_->control = std::move(control); }
+  /// The host as the control is given it.
+  [[nodiscard]] controls::HeldHost& Host() { return body_->host; }
+  /// Runs something of the control for the host. False where the widget is gone; a failure goes on to the host.
+  template <class Work> bool Run(const Work& work) { return controls::Life::Run(toolkit_.Life(), work); }
+  /// To be checked by what emits a signal from inside a procedure of the control.
+  [[nodiscard]] std::shared_ptr<const controls::Life> Life() const { return toolkit_.Life(); }
+  /// Emits heightChanged. What came of a size that the widget was given is told after that event: Qt goes on with the
+  /// widget then, and a host may delete it.
+  void TellHeight();
+  void TellHeightLater();
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
@@ -61,8 +86,11 @@ class ControlWidget : public QWidget {
   void FollowFont();
 
   std::optional<QColor> backColor_;
-  qt::Toolkit toolkit_;
-  std::unique_ptr<host::Surface> surface_;
+  std::shared_ptr<Body> body_;
+  qt::Toolkit& toolkit_;
+  const std::unique_ptr<host::Surface>& surface_;
+  bool sizing_ = false;
+  bool heightToTell_ = false;
 };
 
 }  // namespace brivane::qt
