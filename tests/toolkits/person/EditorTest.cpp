@@ -21,6 +21,7 @@ class EditorByHand : public testing::Test {
     const host::Place place = surface_->Place();
     controls::Surface::Of(*surface_).Size(place.width, place.height);
     hands_->Show(*surface_);
+    hands_->GiveFocus(Get<controls::TextBox>("TxtOm"));
   }
   void Make(std::int16_t id, std::int16_t last, std::int16_t fiscaal) {
     KolomVelden& velden = host_.Kolom(id).velden;

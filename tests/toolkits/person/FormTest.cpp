@@ -9,7 +9,7 @@ namespace {
 using std::chrono::milliseconds;
 using testing::ElementsAre;
 
-class ClosingTheForm : public ByHand {
+class LeavingTheForm : public ByHand {
  protected:
   struct Closed {
     bool answered;  ///< by the keys
@@ -42,26 +42,26 @@ class ClosingTheForm : public ByHand {
   std::shared_ptr<tests::RecordingScenario> scenario = std::make_shared<tests::RecordingScenario>();
 };
 
-TEST_F(ClosingTheForm, TakesMoreThanEnterOrEscape) {
+TEST_F(LeavingTheForm, TakesMoreThanEnterOrEscape) {
   ExpectOpenAfter({.key = Key::Enter});
   ExpectOpenAfter({.key = Key::Escape});
   ExpectOpenAfter({.key = Key::Space});
   ExpectOpenAfter({.letter = 'n', .alt = true});
 }
 
-TEST_F(ClosingTheForm, TakesAltAndTheLetterOfJa) {
+TEST_F(LeavingTheForm, TakesAltAndTheLetterOfJa) {
   const Closed closed = Close(2, {{.letter = 'j', .alt = true}});
   EXPECT_TRUE(closed.answered);
   EXPECT_FALSE(closed.open);
 }
 
-TEST_F(ClosingTheForm, IsNotDoneByKeysThatWereUnderWay) {
+TEST_F(LeavingTheForm, IsNotDoneByKeysThatWereUnderWay) {
   const Closed closed = Close(2, {{.letter = 'j', .alt = true}, {.key = Key::Escape}}, milliseconds(2000));
   EXPECT_FALSE(closed.answered);
   EXPECT_TRUE(closed.open);
 }
 
-TEST_F(ClosingTheForm, SaysWhatStaysAndWhatIsLost) {
+TEST_F(LeavingTheForm, SaysWhatStaysAndWhatIsLost) {
   const std::string lost = " worden niet bewaard als u het venster sluit zonder op OK te drukken. Wilt u het sluiten?";
   EXPECT_EQ(Close(2, {{.key = Key::Enter}}).text, "De wijzigingen in de rijen" + lost);
   EXPECT_EQ(scenario->basis, 0);
