@@ -1,5 +1,7 @@
 #include "controls/ListBox.h"
 
+#include <utility>
+
 #include "host/Error.h"
 
 namespace brivane::controls {
@@ -29,7 +31,10 @@ void ListBox::Add(const std::string& text, std::int32_t itemData) {
 
 void ListBox::SetListIndex(int index) {
   if (index != host::kNoSelection) (void)At(index);
-  if (Assign(index_, index, Aspect::ListIndex)) Click.Raise();
+  const bool changed = std::exchange(index_, index) != index;
+  // Also where it stood already: a choice that a person has under way is shown no more.
+  Notify(Aspect::ListIndex);
+  if (changed) Click.Raise();
 }
 
 Outcome ListBox::Act(const Action& action) {

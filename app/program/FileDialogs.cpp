@@ -5,11 +5,12 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include "app/screen/Messages.h"
 
 namespace brivane::app {
 namespace {
@@ -68,12 +69,9 @@ class Dialog final : public QFileDialog {
       QFileDialog::accept();
       return;
     }
-    QMessageBox message(QMessageBox::Warning, windowTitle(),
-                        QStringLiteral("In de map \"%1\" staat al een bestand \"%2\". Kies een andere naam.")
-                            .arg(QDir::toNativeSeparators(chosen.absolutePath()), chosen.fileName()),
-                        QMessageBox::Ok, this);
-    message.setTextFormat(Qt::PlainText);
-    message.exec();
+    ShowMessage(this, windowTitle(),
+                QStringLiteral("In de map \"%1\" staat al een bestand \"%2\". Kies een andere naam.")
+                    .arg(QDir::toNativeSeparators(chosen.absolutePath()), chosen.fileName()));
     // One Enter is heard by the box and by the button.
     refused_ = true;
     QTimer::singleShot(0, this, [this] { refused_ = false; });

@@ -21,7 +21,12 @@ constexpr std::size_t kSurname = 2;
 constexpr int kLowestLeeftijd = 1;
 constexpr int kHighestLeeftijd = 120;
 
-frame::Reading<host::Date> DateIn(const QLineEdit& box) { return frame::ReadDate(box.text().toStdString()); }
+/// A date of birth as it is typed.
+controls::TypedContent ReadBirth(std::string_view typed) {
+  const frame::Reading<host::Date> date = frame::ReadPastDate(typed, Today());
+  if (date.IsRefused()) return {.refusal = date.Reason()};
+  return date.IsEmpty() ? controls::TypedContent() : controls::TypedContent{.value = *date};
+}
 
 }  // namespace
 
@@ -32,6 +37,7 @@ ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* 
   QWidget* partner = MakeFields(partner_, QStringLiteral("Partner"));
   partner->setEnabled(false);
   connect(withPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
+  connect(withPartner_, &QCheckBox::toggled, this, [this] { reason_->clear(); });
 
   leeftijd_ = new QSpinBox;
   leeftijd_->setRange(kLowestLeeftijd, kHighestLeeftijd);
@@ -75,6 +81,7 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
     layout->addRow(heading, fields.name[part]);
   }
   fields.geboortedatum = new qt::DateBox;
+  fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
   return group;
@@ -92,8 +99,8 @@ dossier::PersoonGegevens ClientDialog::Read(const PersoonFields& fields) const {
   for (std::size_t part = 0; part < fields.name.size(); ++part) {
     persoon.Naam[part] = fields.name[part]->text().trimmed().toStdString();
   }
-  const auto datum = DateIn(*fields.geboortedatum);
-  if (!datum.IsRefused() && !datum.IsEmpty()) persoon.Geboortedatum = *datum;
+  const controls::TypedContent datum = ReadBirth(fields.geboortedatum->text().toStdString());
+  if (const auto* geboortedatum = std::get_if<host::Date>(&datum.value)) persoon.Geboortedatum = *geboortedatum;
   return persoon;
 }
 
@@ -104,6 +111,7 @@ Client ClientDialog::Contents() const {
 }
 
 void ClientDialog::accept() {
+  reason_->clear();
   if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*this); box && !box->CommitPending()) return;
   if (!Check(aanvrager_, QStringLiteral("de aanvrager"))) return;
   if (withPartner_->isChecked() && !Check(partner_, QStringLiteral("de partner"))) return;
@@ -127,9 +135,12 @@ bool ClientDialog::Check(const PersoonFields& fields, const QString& who) {
   return true;
 }
 
-void ClientDialog::Tell(const QString& reason, QWidget* field) {
+void ClientDialog::Tell(const QString& reason, QLineEdit* field) {
   reason_->setText(reason);
   field->setFocus(Qt::OtherFocusReason);
+  field->selectAll();
+  // What is being mended is refused no more.
+  connect(field, &QLineEdit::textChanged, reason_, &QLabel::clear, Qt::UniqueConnection);
 }
 
 }  // namespace brivane::app

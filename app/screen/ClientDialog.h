@@ -47,7 +47,7 @@ class ClientDialog final : public QDialog {
   [[nodiscard]] dossier::PersoonGegevens Read(const PersoonFields& fields) const;
   /// Puts the focus in the first field that is not right and says why; false when there is one.
   bool Check(const PersoonFields& fields, const QString& who);
-  void Tell(const QString& reason, QWidget* field);
+  void Tell(const QString& reason, QLineEdit* field);
 
   PersoonFields aanvrager_;
   PersoonFields partner_;

@@ -41,6 +41,7 @@ class DossierScreen final : public QSplitter {
   /// What is on the screen: a loan, or a column of it.
   [[nodiscard]] const Place& Shown() const { return kolom_->Shown(); }
 
+  /// Also where it could not be left and was removed instead: its loan is shown then.
   bool MayLeave();
   bool GoTo(const Place& place);
   /// To the next (1) or previous (-1) column, past the end of a loan too.
@@ -76,6 +77,10 @@ class DossierScreen final : public QSplitter {
   void Connect(Recording& recording);
   void Show(const Place& place);
   void Refresh();
+  /// Whether there is such a loan or column.
+  [[nodiscard]] bool Exists(const Place& place);
+  /// Removes the column that is shown and shows another place.
+  bool Remove(const Place& next);
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Try(const std::function<void()>& change);
   void TellFailure(const host::ErrorRecord& error);

@@ -1,13 +1,14 @@
 #include "app/screen/Messages.h"
 
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "dossier/store/StoreErrors.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::app {
 namespace {
 
+constexpr auto kPause = controls::KeysUnderWay::kPause;
 constexpr char kReloadedText[] = "\n\nDe wijziging is niet opgeslagen. Het scherm toont weer wat in het dossier staat.";
 
 constexpr char kKeepText[] =
@@ -16,14 +17,19 @@ constexpr char kKeepText[] =
 }  // namespace
 
 void ShowMessage(QWidget* above, const QString& title, const QString& text) {
-  QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, above);
-  box.setTextFormat(Qt::PlainText);
+  qt::QuestionBox box(kPause, above);
+  box.setIcon(QMessageBox::Warning);
+  box.setWindowTitle(title);
+  box.setText(text);
+  box.setStandardButtons(QMessageBox::Ok);
   box.exec();
 }
 
 Answer Ask(QWidget* above, const QString& title, const QString& text, const QString& yesText) {
-  QMessageBox box(QMessageBox::Question, title, text, QMessageBox::NoButton, above);
-  box.setTextFormat(Qt::PlainText);
+  qt::QuestionBox box(kPause, above);
+  box.setIcon(QMessageBox::Question);
+  box.setWindowTitle(title);
+  box.setText(text);
   QPushButton* yes = box.addButton(yesText, QMessageBox::AcceptRole);
   QPushButton* no = box.addButton(QStringLiteral("&Annuleren"), QMessageBox::RejectRole);
   box.setDefaultButton(no);
@@ -34,8 +40,11 @@ Answer Ask(QWidget* above, const QString& title, const QString& text, const QStr
 
 void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence consequence) {
   const auto text = [](const std::string& s) { return QString::fromStdString(s); };
-  QMessageBox box(QMessageBox::Critical, text(error.Caption), text(error.Message), QMessageBox::Ok, above);
-  box.setTextFormat(Qt::PlainText);
+  qt::QuestionBox box(kPause, above);
+  box.setIcon(QMessageBox::Critical);
+  box.setWindowTitle(text(error.Caption));
+  box.setText(text(error.Message));
+  box.setStandardButtons(QMessageBox::Ok);
   const bool moved = error.ErrorNumber == std::to_string(dossier::kMovedError);
   box.setInformativeText(
       QStringLiteral("%1\n\n"

@@ -3,39 +3,59 @@
 #include <QApplication>
 #include <QDate>
 #include <QLocale>
-#include <QMessageBox>
 #include <QPushButton>
 #include <cmath>
 
 #include "frame/Calendar.h"
 #include "toolkits/qt/Edge.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::qt {
 
 std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::applicationDisplayName()); }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
-  const host::MessageAnswer given = Ask(title, text, style);
+  const host::MessageAnswer given =
+      answer ? answer(title, text, style) : Show(title, text, Added(title, text, style), style);
   if (answered) answered(given);
   return given;
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& text, host::MessageStyle style) {
-  if (answer) return answer(title, text, style);
-  QMessageBox box(QApplication::activeWindow());
+  return answer ? answer(title, text, style) : Show(title, text, {}, style);
+}
+
+Desktop::Additions Desktop::Added(const std::string& title, const std::string& text, host::MessageStyle style) const {
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  Additions added;
+  if (question && details) added.below = details(title, text);
+  if (!question && offer) added.offer = offer(title, text);
+  return added;
+}
+
+host::MessageAnswer Desktop::Show(const std::string& title, const std::string& text, const Additions& added,
+                                  host::MessageStyle style) const {
+  QuestionBox box(pause, QApplication::activeWindow());
   box.setWindowTitle(ToQt(title));
-  box.setTextFormat(Qt::PlainText);
   box.setText(ToQt(text).replace("\r\n", "\n"));
+  box.setInformativeText(ToQt(added.below));
   if (style == host::MessageStyle::OkExclamation) {
     box.setIcon(QMessageBox::Warning);
-    box.addButton("OK", QMessageBox::AcceptRole);
+    QPushButton* const ok = box.addButton("OK", QMessageBox::AcceptRole);
+    const QPushButton* const offered =
+        added.offer ? box.addButton(ToQt(added.offer->button), QMessageBox::DestructiveRole) : nullptr;
+    box.setDefaultButton(ok);
+    box.setEscapeButton(ok);
     box.exec();
+    if (offered != nullptr && box.clickedButton() == offered) added.offer->taken();
     return host::MessageAnswer::Ok;
   }
   box.setIcon(QMessageBox::Question);
   const QPushButton* const yes = box.addButton("&Ja", QMessageBox::YesRole);
-  box.setEscapeButton(box.addButton("&Nee", QMessageBox::NoRole));
+  QPushButton* const no = box.addButton("&Nee", QMessageBox::NoRole);
+  box.setDefaultButton(no);
+  box.setEscapeButton(no);
   box.exec();
   return box.clickedButton() == yes ? host::MessageAnswer::Yes : host::MessageAnswer::No;
 }

@@ -1,13 +1,19 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "controls/entry/KeysUnderWay.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::qt {
 
 /// The machine as Qt sees it: message boxes with Dutch buttons, the application's name and locale.
+///
+/// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
+/// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
   /// Answers today's date instead of the clock, when set.
@@ -18,7 +24,19 @@ class Desktop final : public host::Desktop {
   /// Told what a message box of the controls was answered.
   std::function<void(host::MessageAnswer answer)> answered;
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is told.
+  /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
+  std::function<std::string(const std::string& title, const std::string& text)> details;
+  /// A button that the host puts beside OK in a message of the controls, and what it does when the box was closed by
+  /// it. The controls go on as after OK.
+  struct Offer {
+    std::string button;
+    std::function<void()> taken;
+  };
+  std::function<std::optional<Offer>(const std::string& title, const std::string& text)> offer;
+  /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
+  std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
+
+  /// A message box of the toolkit's own: as MessageBox, and the host is told and asked nothing.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
@@ -29,6 +47,16 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] host::Date Today() const override;
   void DoPendingEvents() override;
   [[nodiscard]] std::string FormatWhole(double number) const override;
+
+ private:
+  /// What the host adds to a message box.
+  struct Additions {
+    std::string below;
+    std::optional<Offer> offer;
+  };
+  [[nodiscard]] Additions Added(const std::string& title, const std::string& text, host::MessageStyle style) const;
+  [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const Additions& added,
+                                         host::MessageStyle style) const;
 };
 
 }  // namespace brivane::qt

@@ -6,6 +6,7 @@
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/peers/Peers.h"
 #include "toolkits/qt/rows/CellPeer.h"
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/EntryBox.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 
@@ -17,9 +18,12 @@ host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& 
 
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget) {
   const QPointer<const QWidget> alive(&widget);
+  ChoiceBox* const list = ChoiceBox::UnderWayWithin(*widget.window());
+  if (list != nullptr && list != &widget) list->HandOver();
+  if (!alive) return true;  // it went with what was handed over, and nothing is left to put right
   EntryBox* const elsewhere = EntryBox::PendingWithin(*widget.window());
   if (elsewhere != nullptr && elsewhere != &widget && !elsewhere->CommitPending()) return false;
-  if (!alive) return true;  // it went with what was handed over, and nothing is left to put right
+  if (!alive) return true;
   return Hand(control, action) == controls::Outcome::Done;
 }
 

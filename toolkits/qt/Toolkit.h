@@ -19,9 +19,9 @@ class Toolkit : public controls::DrawnToolkit {
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle style) override;
 
-  /// A person acts on a control through its widget. A box that is being edited elsewhere in the window is
-  /// handed over first; where that is refused, the action is not done. False where it was not done and there is
-  /// still a widget to show that.
+  /// A person acts on a control through its widget. A box that is being edited or a choice that is under way
+  /// elsewhere in the window is handed over first; where that is refused, the action is not done. False where it was
+  /// not done and there is still a widget to show that.
   bool Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget);
 
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }

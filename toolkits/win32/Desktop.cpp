@@ -1,6 +1,8 @@
 #include "toolkits/win32/Desktop.h"
 
 #include <cmath>
+#include <mutex>
+#include <utility>
 
 #include "frame/Calendar.h"
 #include "frame/GroupedNumber.h"
@@ -11,15 +13,38 @@ namespace brivane::win32 {
 
 namespace {
 
-/// Gives the next message box of this thread Dutch buttons, whatever language Windows has, and lets Escape
-/// answer "Nee".
-class DutchButtons {
+/// Gives the next message box of this thread Dutch buttons, whatever language Windows has, lets Escape answer "Nee",
+/// and keeps from it what nobody meant as an answer: bare letters, and keys that were under way when it came up.
+class BoxHooks {
  public:
-  DutchButtons()
-      : activated_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())),
-        filtered_(SetWindowsHookExW(WH_MSGFILTER, &Filtered, nullptr, GetCurrentThreadId())) {}
+  explicit BoxHooks(std::chrono::milliseconds pause)
+      : pause_(pause),
+        underWay_(pause, Milliseconds(GetTickCount())),
+        activated_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())),
+        filtered_(SetWindowsHookExW(WH_MSGFILTER, &Filtered, nullptr, GetCurrentThreadId())) {
+    const std::scoped_lock locked(lock);
+    around_ = std::exchange(all, this);
+  }
+  BoxHooks(const BoxHooks&) = delete;
+  BoxHooks& operator=(const BoxHooks&) = delete;
+  ~BoxHooks() {
+    const std::scoped_lock locked(lock);
+    BoxHooks** place = &all;
+    while (*place != this) place = &(*place)->around_;
+    *place = around_;
+  }
 
  private:
+  static std::chrono::milliseconds Milliseconds(DWORD time) { return std::chrono::milliseconds(time); }
+
+  /// Those of this thread's innermost box.
+  static BoxHooks* Current() {
+    const std::scoped_lock locked(lock);
+    BoxHooks* hooks = all;
+    while (hooks != nullptr && hooks->thread_ != GetCurrentThreadId()) hooks = hooks->around_;
+    return hooks;
+  }
+
   static LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM info) {
     if (code == HCBT_ACTIVATE) {
       const auto box = reinterpret_cast<HWND>(window);
@@ -27,26 +52,55 @@ class DutchButtons {
         SetDlgItemTextW(box, IDYES, L"&Ja");
         SetDlgItemTextW(box, IDNO, L"&Nee");
       }
+      // Only from when it has the keyboard does a pause say that somebody has seen it.
+      if (BoxHooks* const hooks = Current()) hooks->underWay_ = {hooks->pause_, Milliseconds(GetTickCount())};
     }
     return CallNextHookEx(nullptr, code, window, info);
   }
 
   static LRESULT CALLBACK Filtered(int code, WPARAM unused, LPARAM info) {
     const auto& message = *reinterpret_cast<const MSG*>(info);
-    if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
-      const HWND box = GetAncestor(message.hwnd, GA_ROOT);
-      if (GetDlgItem(box, IDNO) != nullptr) {
-        PostMessageW(box, WM_COMMAND, IDNO, 0);
-        return 1;
-      }
-    }
-    return CallNextHookEx(nullptr, code, unused, info);
+    BoxHooks* const hooks = code == MSGF_DIALOGBOX ? Current() : nullptr;
+    return hooks != nullptr && hooks->Takes(message) ? 1 : CallNextHookEx(nullptr, code, unused, info);
   }
+
+  /// Whether a message goes no further.
+  bool Takes(const MSG& message) {
+    switch (message.message) {
+      case WM_KEYDOWN:
+      case WM_SYSKEYDOWN: {
+        using Press = controls::KeysUnderWay::Press;
+        const bool held = (message.lParam & (1 << 30)) != 0;
+        if (!underWay_.IsMeant(Milliseconds(message.time), held ? Press::Repeat : Press::First)) return true;
+        return message.wParam == VK_ESCAPE && AnswersNo(message.hwnd);
+      }
+      case WM_CHAR: return message.wParam >= L' ';  // the dialog would press the button of that letter
+      default: return false;
+    }
+  }
+
+  static bool AnswersNo(HWND window) {
+    const HWND box = GetAncestor(window, GA_ROOT);
+    if (GetDlgItem(box, IDNO) == nullptr) return false;
+    PostMessageW(box, WM_COMMAND, IDNO, 0);
+    return true;
+  }
+
+  static std::mutex lock;
+  static BoxHooks* all;  ///< of every thread, the last made first
+
+  DWORD thread_ = GetCurrentThreadId();
+  std::chrono::milliseconds pause_;
+  controls::KeysUnderWay underWay_;
+  BoxHooks* around_ = nullptr;
 
   using Hook = Owned<HHOOK, &UnhookWindowsHookEx>;
   Hook activated_;
   Hook filtered_;
 };
+
+std::mutex BoxHooks::lock;
+BoxHooks* BoxHooks::all = nullptr;
 
 std::wstring ProgramName() {
   std::wstring path(MAX_PATH, L'\0');
@@ -66,17 +120,20 @@ std::string UserSeparator() {
 std::string Desktop::ApplicationTitle() const { return title.empty() ? Narrow(ProgramName()) : title; }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& caption, const std::string& text, host::MessageStyle style) {
-  const host::MessageAnswer given = Ask(caption, text, style);
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  const std::string below = question && details && !answer ? details(caption, text) : "";
+  const host::MessageAnswer given = Ask(caption, below.empty() ? text : text + "\r\n\r\n" + below, style);
   if (answered) answered(given);
   return given;
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
   if (answer) return answer(caption, text, style);
-  const DutchButtons dutch;
-  // The styles are the numbers of Windows.
+  const BoxHooks hooks(pause);
+  // The styles are the numbers of Windows. The second button of a question is "Nee".
+  const UINT standard = style == host::MessageStyle::YesNoQuestion ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
   const int button = MessageBoxW(GetActiveWindow(), Wide(text).c_str(), Wide(caption).c_str(),
-                                 static_cast<UINT>(style) | MB_TASKMODAL);
+                                 static_cast<UINT>(style) | standard | MB_TASKMODAL);
   switch (button) {
     case IDYES: return host::MessageAnswer::Yes;
     case IDNO: return host::MessageAnswer::No;

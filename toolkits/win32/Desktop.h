@@ -2,17 +2,22 @@
 
 #include "toolkits/win32/window/WindowsApi.h"
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
 
 #include "controls/Pixels.h"
+#include "controls/entry/KeysUnderWay.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::win32 {
 
 /// The machine as Windows sees it: message boxes with Dutch buttons, the program's name and the user's
 /// number format.
+///
+/// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
+/// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
   /// Answers today's date instead of the clock, when set.
@@ -32,7 +37,12 @@ class Desktop final : public host::Desktop {
   float twipsPerPixelX = static_cast<float>(controls::kTwipsPerPixel);
   float twipsPerPixelY = static_cast<float>(controls::kTwipsPerPixel);
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is told.
+  /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
+  std::function<std::string(const std::string& title, const std::string& text)> details;
+  /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
+  std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
+
+  /// A message box of the toolkit's own: as MessageBox, and nobody is told or asked for details.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;

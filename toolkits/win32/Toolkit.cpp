@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "toolkits/win32/controls/BoxWindow.h"
+#include "toolkits/win32/controls/ComboWindow.h"
 #include "toolkits/win32/form/FormWindow.h"
 #include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/window/Text.h"
@@ -94,6 +95,12 @@ host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& 
 }
 
 bool Toolkit::LeaveBox(const Window& target) {
+  if (const auto* const control = dynamic_cast<const ControlWindow*>(&target)) {
+    const auto life = target.Life();
+    ComboWindow* const list = ComboWindow::UnderWayOn(RootOf(control->Control()));
+    if (list != nullptr && static_cast<const Window*>(list) != &target) list->HandOver();
+    if (life.expired()) return false;
+  }
   BoxWindow* const box = BoxWindow::PendingWith(target.Handle());
   return box == nullptr || static_cast<const Window*>(box) == &target || box->CommitPending();
 }
@@ -119,7 +126,10 @@ bool Toolkit::FocusFirst(host::Surface& surface) {
 }
 bool Toolkit::FocusLast(host::Surface& surface) { return FocusEnd(controls::Surface::Of(surface), Direction::Back); }
 
-bool Toolkit::CommitPending(host::Surface& surface) { return Pending().Commit(controls::Surface::Of(surface)); }
+bool Toolkit::CommitPending(host::Surface& surface) {
+  if (ComboWindow* const list = ComboWindow::UnderWayOn(controls::Surface::Of(surface))) list->HandOver();
+  return Pending().Commit(controls::Surface::Of(surface));
+}
 
 void Toolkit::Rescale(host::Surface& surface) {
   const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {

@@ -49,11 +49,11 @@ class Toolkit : public controls::DrawnToolkit {
                                         host::MessageStyle style) override;
 
   /// A person acts on a control through its window. A box that is being edited elsewhere in the same
-  /// top-level window is handed over first; where that is refused, the action is not done. False where it
-  /// was not done.
+  /// top-level window, or a choice that is under way there, is handed over first; where that is refused, the
+  /// action is not done. False where it was not done.
   bool Act(controls::AnyControl& control, const controls::Action& action, const Window& window);
-  /// Hands over the box that is being edited in the top-level window around `target`, unless it is the
-  /// target itself; false where that was refused and the focus is kept.
+  /// Hands over the box that is being edited in the top-level window around `target` and the choice that is
+  /// under way on its surface, unless it is the target itself; false where that was refused and the focus is kept.
   bool LeaveBox(const Window& target);
 
   /// Runs while a form is open, on the screen and in its message loop; a form that it leaves open is closed
@@ -72,8 +72,8 @@ class Toolkit : public controls::DrawnToolkit {
   /// Goes to the first or last stop of the tab order; false where there is none.
   bool FocusFirst(host::Surface& surface);
   bool FocusLast(host::Surface& surface);
-  /// Hands over what is being typed on this surface, if anything; false where it was refused and keeps
-  /// the focus. A host calls it before it leaves the record, saves or closes.
+  /// Hands over what is being typed on this surface or the choice that is under way, if anything; false where it was
+  /// refused and keeps the focus. A host calls it before it leaves the record, saves or closes.
   bool CommitPending(host::Surface& surface);
 
   /// The scale of what is made later: 1 at 96 dots per inch. At first that of the system.

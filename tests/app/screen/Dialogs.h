@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <functional>
+
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 namespace brivane::app {
 
@@ -44,6 +47,13 @@ class Dialogs {
       window->activateWindow();
       return;
     }
+    // Who answers on purpose has read it first.
+    if (seen_ != window) {
+      seen_ = window;
+      since_.start();
+    }
+    const bool message = dynamic_cast<qt::QuestionBox*>(window) != nullptr;
+    if (message && since_.elapsed() < controls::KeysUnderWay::kPause.count() + 20) return;
     handled_ = window;
     if (queue_.empty()) {
       const auto* box = qobject_cast<QMessageBox*>(window);
@@ -59,6 +69,8 @@ class Dialogs {
 
   QTimer clock_;
   std::deque<Handler> queue_;
+  QPointer<QWidget> seen_;
+  QElapsedTimer since_;
   QPointer<QWidget> handled_;  ///< null again when it is gone: the next one may take its address
 };
 

@@ -14,6 +14,7 @@ enum class Key {
   Right,
   Up,
   Down,
+  Home,
   End,
   F4,
   KeypadPoint,

@@ -1,7 +1,6 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include "controls/Choices.h"
 #include "controls/ListBox.h"
@@ -38,23 +37,6 @@ TEST_F(ToggleKeys, ShowsItsFocus) {
   const QImage without = widget_.grab().toImage();
   widget_.setFocus(Qt::TabFocusReason);
   EXPECT_NE(widget_.grab().toImage(), without);
-}
-
-TEST_F(SurfaceTest, AListIsWorkedByKeysAndOnlyAFocusedOneByTheWheel) {
-  auto& list = static_cast<controls::ListBox&>(Control("cboTermijn"));
-  auto& combo = dynamic_cast<QComboBox&>(*WidgetFor(list));
-  subscriptions_ += list.Click.Connect([&] { log_.push_back(list.ListIndex() < 0 ? "none" : list.Text()); });
-  combo.setFocus();
-  Press(Qt::Key_Down);
-  Press(Qt::Key_Down);
-  Press(Qt::Key_P);
-  EXPECT_THAT(log_, ElementsAre("per maand", "per kwartaal", "per jaar"));
-
-  Focus("txtNaam");
-  QWheelEvent turn(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                   Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&combo, &turn);
-  EXPECT_EQ(list.ListIndex(), 2);
 }
 
 TEST_F(SurfaceTest, AHelpIconIsAToolTipOnFocusClickAndHover) {

@@ -16,6 +16,7 @@ namespace {
 /// Opens a message box, presses a key in it, and gives the captions of its buttons.
 host::MessageAnswer Answer(host::MessageStyle style, Qt::Key key, QStringList* seen = nullptr) {
   Desktop desktop;
+  desktop.pause = {};
   QTimer::singleShot(0, [key, seen] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     ASSERT_NE(box, nullptr);
@@ -36,12 +37,10 @@ TEST(QtDesktop, AMessageBoxHasDutchButtons) {
   EXPECT_EQ(Answer(host::MessageStyle::OkExclamation, Qt::Key_Escape), host::MessageAnswer::Ok);
 }
 
-TEST(QtDesktop, AQuestionIsAnsweredByItsLettersAndEscapeIsNo) {
+TEST(QtDesktop, AQuestionHasDutchButtonsAndEscapeIsNo) {
   QStringList seen;
   EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, Qt::Key_Escape, &seen), host::MessageAnswer::No);
   EXPECT_EQ(seen.mid(2), (QStringList{"&Ja", "&Nee"}));
-  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, Qt::Key_J), host::MessageAnswer::Yes);
-  EXPECT_EQ(Answer(host::MessageStyle::YesNoQuestion, Qt::Key_N), host::MessageAnswer::No);
 }
 
 TEST(QtDesktop, WholeNumbersAreGroupedByTheLocaleAndHalvesGoAwayFromZero) {

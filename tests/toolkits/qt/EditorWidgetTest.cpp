@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include "controls/ListBox.h"
+#include "controls/Surface.h"
 #include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Person.h"
@@ -91,6 +93,32 @@ TEST_F(EditorWidget, ARefusedDateKeepsTheFocusUntilItIsMended) {
   EXPECT_EQ(TextOf("TxtDtEind"), "");
   Press(Qt::Key_Tab);
   EXPECT_EQ(messages_.size(), 1U);
+}
+
+TEST_F(EditorWidget, PassingOneOffInTheTermListTakesNothingAway) {
+  Focus("TxtAnJaar");
+  TypeOver("1");
+  Press(Qt::Key_Tab);
+  ASSERT_EQ(kolom_.velden.Looptijd, 12);
+  const auto termijn = kolom_.velden.Termijn;
+  auto& list = static_cast<controls::ListBox&>(*controls::Surface::Of(editor_->Surface()).Find("cboTermijn"));
+  WidgetFor(list)->setFocus();
+  for (const int key : {Qt::Key_End, Qt::Key_Home, Qt::Key_E, Qt::Key_Escape}) Press(key);
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(kolom_.velden.Termijn, termijn);
+  EXPECT_EQ(kolom_.velden.Looptijd, 12);
+  EXPECT_NE(TextOf("TxtDtEind"), "");
+}
+
+TEST_F(EditorWidget, ValidationHandsTheChoiceUnderWayOverFirst) {
+  auto& list = static_cast<controls::ListBox&>(*controls::Surface::Of(editor_->Surface()).Find("cboTermijn"));
+  WidgetFor(list)->setFocus();
+  Press(Qt::Key_Home);
+  Press(Qt::Key_Down);
+  bool cancel = false;
+  editor_->Validation(cancel);
+  EXPECT_EQ(list.ListIndex(), 1);
+  EXPECT_EQ(kolom_.velden.Termijn, list.ItemData(1));
 }
 
 TEST_F(EditorWidget, ValidationHandsTheBoxOverFirst) {

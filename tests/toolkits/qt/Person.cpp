@@ -17,6 +17,48 @@
 
 namespace brivane::test {
 
+namespace {
+
+Stroke PlainStroke(Key key) {
+  switch (key) {
+    case Key::Tab: return {Qt::Key_Tab};
+    case Key::Enter: return {Qt::Key_Return};
+    case Key::KeypadEnter: return {Qt::Key_Enter, Qt::KeypadModifier};
+    case Key::Escape: return {Qt::Key_Escape};
+    case Key::Space: return {Qt::Key_Space};
+    case Key::Delete: return {Qt::Key_Delete};
+    case Key::Left: return {Qt::Key_Left};
+    case Key::Right: return {Qt::Key_Right};
+    case Key::Up: return {Qt::Key_Up};
+    case Key::Down: return {Qt::Key_Down};
+    case Key::Home: return {Qt::Key_Home};
+    case Key::End: return {Qt::Key_End};
+    case Key::F4: return {Qt::Key_F4};
+    case Key::KeypadPoint: return {Qt::Key_Period, Qt::KeypadModifier};
+    case Key::KeypadComma: return {Qt::Key_Comma, Qt::KeypadModifier};
+  }
+  return {Qt::Key_unknown};
+}
+
+}  // namespace
+
+Qt::KeyboardModifiers ModifierOf(With with) {
+  switch (with) {
+    case With::Shift: return Qt::ShiftModifier;
+    case With::Control: return Qt::ControlModifier;
+    case With::Alt: return Qt::AltModifier;
+    case With::None: break;
+  }
+  return Qt::NoModifier;
+}
+
+Stroke StrokeOf(Key key, With with) {
+  // Qt knows Tab backwards as a key of its own.
+  if (key == Key::Tab && with == With::Shift) return {Qt::Key_Backtab, Qt::ShiftModifier};
+  const Stroke plain = PlainStroke(key);
+  return {plain.key, plain.modifiers | ModifierOf(with)};
+}
+
 void ShowActive(QWidget& widget) {
   widget.show();
   widget.activateWindow();
@@ -34,6 +76,11 @@ void Press(int key, Qt::KeyboardModifiers modifiers) {
   QWindow* const window = QGuiApplication::focusWindow();
   if (window == nullptr) qFatal("no window has the focus");
   QTest::keyClick(window, static_cast<Qt::Key>(key), modifiers);
+}
+
+void Press(Key key, With with) {
+  const Stroke stroke = StrokeOf(key, with);
+  Press(stroke.key, stroke.modifiers);
 }
 
 void Type(const QString& text) {

@@ -5,10 +5,20 @@
 #include <QWidget>
 
 #include "controls/Control.h"
+#include "tests/toolkits/conformance/Keys.h"
 
 /// What a person does with mouse and keyboard, by the events of the window system: a click lands on
 /// whatever is there, a key goes to whatever has the focus.
 namespace brivane::test {
+
+/// A key as Qt tells of it.
+struct Stroke {
+  Qt::Key key;
+  Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+};
+
+[[nodiscard]] Stroke StrokeOf(Key key, With with = With::None);
+[[nodiscard]] Qt::KeyboardModifiers ModifierOf(With with);
 
 /// Puts a widget in a window of its own that is on the screen and active.
 void ShowActive(QWidget& widget);
@@ -17,6 +27,7 @@ void Click(QWidget& widget, QPoint at);
 /// Clicks in the middle.
 void Click(QWidget& widget);
 void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void Press(Key key, With with = With::None);
 void Type(const QString& text);
 /// Replaces what stands in the focused box.
 void TypeOver(const QString& text);

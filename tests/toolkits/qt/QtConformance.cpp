@@ -17,41 +17,6 @@
 namespace brivane::test {
 namespace {
 
-struct Stroke {
-  Qt::Key key;
-  Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-};
-
-Stroke StrokeOf(Key key) {
-  switch (key) {
-    case Key::Tab: return {Qt::Key_Tab};
-    case Key::Enter: return {Qt::Key_Return};
-    case Key::KeypadEnter: return {Qt::Key_Enter, Qt::KeypadModifier};
-    case Key::Escape: return {Qt::Key_Escape};
-    case Key::Space: return {Qt::Key_Space};
-    case Key::Delete: return {Qt::Key_Delete};
-    case Key::Left: return {Qt::Key_Left};
-    case Key::Right: return {Qt::Key_Right};
-    case Key::Up: return {Qt::Key_Up};
-    case Key::Down: return {Qt::Key_Down};
-    case Key::End: return {Qt::Key_End};
-    case Key::F4: return {Qt::Key_F4};
-    case Key::KeypadPoint: return {Qt::Key_Period, Qt::KeypadModifier};
-    case Key::KeypadComma: return {Qt::Key_Comma, Qt::KeypadModifier};
-  }
-  return {Qt::Key_unknown};
-}
-
-Qt::KeyboardModifiers ModifierOf(With with) {
-  switch (with) {
-    case With::Shift: return Qt::ShiftModifier;
-    case With::Control: return Qt::ControlModifier;
-    case With::Alt: return Qt::AltModifier;
-    case With::None: break;
-  }
-  return Qt::NoModifier;
-}
-
 class QtUnderTest final : public ScreenUnderTest {
  public:
   [[nodiscard]] qt::Toolkit& Toolkit() override { return toolkit_; }
@@ -83,10 +48,7 @@ class QtUnderTest final : public ScreenUnderTest {
   }
 
   void Press(Key key, With with) override {
-    const Stroke stroke = StrokeOf(key);
-    // Qt knows Tab backwards as a key of its own.
-    const bool back = key == Key::Tab && with == With::Shift;
-    test::Press(back ? Qt::Key_Backtab : stroke.key, stroke.modifiers | ModifierOf(with));
+    test::Press(key, with);
     Settle();
   }
   void Press(char key, With with) override {

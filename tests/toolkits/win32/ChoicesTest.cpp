@@ -75,14 +75,6 @@ class Lists : public SurfaceTest {
   controls::ListBox& list_ = static_cast<controls::ListBox&>(Control("cboTermijn"));
 };
 
-TEST_F(Lists, AreWorkedByKeysWhileTheyAreClosed) {
-  SetFocus(WindowOf("cboTermijn"));
-  Press(VK_DOWN);
-  Press(VK_DOWN);
-  Press(VK_END);
-  EXPECT_THAT(log_, ElementsAre("per maand", "per kwartaal", "per jaar"));
-}
-
 TEST_F(Lists, PickWhenTheDroppedListIsLeftByEnterAndNothingByEscape) {
   list_.SetListIndex(0);
   log_.clear();
@@ -135,16 +127,6 @@ TEST_F(Lists, DropDownAsWideAsTheLongestEntry) {
   list_.Add("Onderlinge Levensverzekering-Maatschappij tot Nut van het Algemeen", 6);
   // 66 letters of at least a third of the 12 pixels of the font.
   EXPECT_GT(dropped(), 66 * 12 / 3);
-}
-
-TEST_F(Lists, TurnOnlyWithTheFocusByTheWheel) {
-  list_.SetListIndex(0);
-  Focus("txtNaam");
-  SendMessageW(WindowOf("cboTermijn"), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
-  EXPECT_EQ(list_.ListIndex(), 0);
-  SetFocus(WindowOf("cboTermijn"));
-  SendMessageW(WindowOf("cboTermijn"), WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0);
-  EXPECT_EQ(list_.ListIndex(), 1);
 }
 
 TEST_F(SurfaceTest, AButtonIsPressedBySpaceAndByEnter) {

@@ -123,6 +123,27 @@ void Click(HWND window, POINT at) {
 
 void Click(HWND window) { Click(window, CenterOf(window)); }
 
+WORD CodeOf(Key key) {
+  switch (key) {
+    case Key::Tab: return VK_TAB;
+    case Key::Enter:
+    case Key::KeypadEnter: return VK_RETURN;
+    case Key::Escape: return VK_ESCAPE;
+    case Key::Space: return VK_SPACE;
+    case Key::Delete: return VK_DELETE;
+    case Key::Left: return VK_LEFT;
+    case Key::Right: return VK_RIGHT;
+    case Key::Up: return VK_UP;
+    case Key::Down: return VK_DOWN;
+    case Key::Home: return VK_HOME;
+    case Key::End: return VK_END;
+    case Key::F4: return VK_F4;
+    case Key::KeypadPoint: return VK_DECIMAL;
+    case Key::KeypadComma: return VK_SEPARATOR;
+  }
+  return 0;
+}
+
 void Press(WORD key, With with) {
   const WORD modifier = ModifierOf(with);
   if (modifier != 0) SendKey(modifier, 0);
@@ -131,6 +152,14 @@ void Press(WORD key, With with) {
   SendKey(key, KEYEVENTF_KEYUP);
   if (modifier != 0) SendKey(modifier, KEYEVENTF_KEYUP);
   TheStage().Settle();
+}
+
+void QueueKey(WORD key, With with) {
+  const WORD modifier = ModifierOf(with);
+  if (modifier != 0) SendKey(modifier, 0);
+  SendKey(key, 0);
+  SendKey(key, KEYEVENTF_KEYUP);
+  if (modifier != 0) SendKey(modifier, KEYEVENTF_KEYUP);
 }
 
 void Type(const std::wstring& text) {

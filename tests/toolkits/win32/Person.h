@@ -45,7 +45,11 @@ void Click(HWND window, POINT at);
 void Click(HWND window);
 void MoveTo(HWND window, POINT at);
 
+/// The code by which Windows knows a key.
+[[nodiscard]] WORD CodeOf(Key key);
 void Press(WORD key, With with = With::None);
+/// The same for a message loop that runs already.
+void QueueKey(WORD key, With with = With::None);
 void Type(const std::wstring& text);
 /// Replaces what stands in the focused box.
 void TypeOver(const std::wstring& text);

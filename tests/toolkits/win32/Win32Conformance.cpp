@@ -14,26 +14,6 @@
 namespace brivane::test {
 namespace {
 
-WORD CodeOf(Key key) {
-  switch (key) {
-    case Key::Tab: return VK_TAB;
-    case Key::Enter:
-    case Key::KeypadEnter: return VK_RETURN;
-    case Key::Escape: return VK_ESCAPE;
-    case Key::Space: return VK_SPACE;
-    case Key::Delete: return VK_DELETE;
-    case Key::Left: return VK_LEFT;
-    case Key::Right: return VK_RIGHT;
-    case Key::Up: return VK_UP;
-    case Key::Down: return VK_DOWN;
-    case Key::End: return VK_END;
-    case Key::F4: return VK_F4;
-    case Key::KeypadPoint: return VK_DECIMAL;
-    case Key::KeypadComma: return VK_SEPARATOR;
-  }
-  return 0;
-}
-
 class Win32UnderTest final : public ScreenUnderTest {
  public:
   ~Win32UnderTest() override { ReturnToWindow(); }

@@ -1,6 +1,7 @@
 #include "toolkits/qt/peers/BoxPeer.h"
 
 #include "toolkits/qt/widgets/DateBox.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::qt {
 
@@ -17,6 +18,13 @@ EntryBox* MakeBox(frame::Format format, QWidget* parent) {
 BoxPeer::BoxPeer(controls::TextBox& box, qt::Toolkit& toolkit, QWidget* container)
     : WidgetPeer(box, toolkit, MakeBox(box.Format(), container)), box_(box) {
   Entry().Tie(box, toolkit);
+  TypesNothingWithAlt(Entry());
+}
+
+/// As when Tab leads there: what is typed takes the place of what stands there.
+void BoxPeer::TakeFocus() {
+  WidgetPeer::TakeFocus();
+  if (Widget() != nullptr) Entry().selectAll();
 }
 
 void BoxPeer::Refresh(Aspect aspect) {

@@ -12,6 +12,7 @@ class BoxPeer final : public WidgetPeer {
   BoxPeer(controls::TextBox& box, qt::Toolkit& toolkit, QWidget* container);
 
   void Refresh(controls::Aspect aspect) override;
+  void TakeFocus() override;
 
  private:
   [[nodiscard]] EntryBox& Entry() const { return static_cast<EntryBox&>(*Widget()); }

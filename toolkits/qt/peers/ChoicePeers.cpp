@@ -1,14 +1,12 @@
 #include "toolkits/qt/peers/ChoicePeers.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QWheelEvent>
 
 #include "controls/Surface.h"
 #include "toolkits/qt/Text.h"
+#include "toolkits/qt/widgets/ChoiceBox.h"
+#include "toolkits/qt/widgets/OptionButton.h"
 
 namespace brivane::qt {
 
@@ -20,30 +18,6 @@ JaNeeToggle::Answer AnswerOf(int value) {
   return value == host::kJa ? JaNeeToggle::Answer::Ja : JaNeeToggle::Answer::Nee;
 }
 int ValueOf(JaNeeToggle::Answer answer) { return answer == JaNeeToggle::Answer::Ja ? host::kJa : host::kNee; }
-
-/// The options of one control array are a group, whatever else stands in their frame.
-QButtonGroup& GroupOf(QWidget& container, const QString& array) {
-  auto* group = container.findChild<QButtonGroup*>(array, Qt::FindDirectChildrenOnly);
-  if (group == nullptr) {
-    group = new QButtonGroup(&container);
-    group->setObjectName(array);
-  }
-  return *group;
-}
-
-/// Turning the wheel over a list that has no focus scrolls the window and not the list.
-class Combo final : public QComboBox {
- public:
-  explicit Combo(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
-
- protected:
-  void wheelEvent(QWheelEvent* event) override {
-    if (hasFocus())
-      QComboBox::wheelEvent(event);
-    else
-      event->ignore();
-  }
-};
 
 }  // namespace
 
@@ -60,9 +34,9 @@ void TogglePeer::Refresh(Aspect aspect) {
 }
 
 OptionPeer::OptionPeer(controls::OptionButton& option, qt::Toolkit& toolkit, QWidget* container)
-    : WidgetPeer(option, toolkit, new QRadioButton(container)), option_(option) {
-  auto* const button = static_cast<QRadioButton*>(Widget());
-  GroupOf(*container, ToQt(option.DesignName())).addButton(button);
+    : WidgetPeer(option, toolkit, new qt::OptionButton(ToQt(option.DesignName()), option.Row().tab, container)),
+      option_(option) {
+  auto* const button = static_cast<qt::OptionButton*>(Widget());
   Refresh(Aspect::Caption);
   Refresh(Aspect::Value);
   QObject::connect(button, &QRadioButton::toggled, button, [this](bool selected) {
@@ -72,15 +46,10 @@ OptionPeer::OptionPeer(controls::OptionButton& option, qt::Toolkit& toolkit, QWi
 }
 
 void OptionPeer::Refresh(Aspect aspect) {
-  auto* const button = static_cast<QRadioButton*>(Widget());
+  auto* const button = static_cast<qt::OptionButton*>(Widget());
   if (button == nullptr) return;
   if (aspect == Aspect::Value) {
-    Show([&] {
-      // Qt lets no one deselect the selected button of an exclusive group.
-      button->group()->setExclusive(option_.Value());
-      button->setChecked(option_.Value());
-      button->group()->setExclusive(true);
-    });
+    Show([&] { button->Show(option_.Value()); });
   } else if (aspect == Aspect::Caption) {
     button->setText(ShownCaption(option_.Row(), option_.Caption()));
   } else {
@@ -118,33 +87,28 @@ void CheckPeer::Refresh(Aspect aspect) {
 }
 
 ComboPeer::ComboPeer(controls::ListBox& list, qt::Toolkit& toolkit, QWidget* container)
-    : WidgetPeer(list, toolkit, new qt::Combo(container)), list_(list) {
+    : WidgetPeer(list, toolkit, new ChoiceBox(container)), list_(list) {
   Refresh(Aspect::Entries);
-  QObject::connect(&Combo(), &QComboBox::activated, &Combo(), [this](int index) {
-    if (index == list_.ListIndex()) return;
+  Box().SetOnChoose([this](int index) {
+    const QPointer<QWidget> alive(Widget());
     Toolkit().Act(list_, controls::Choose{index}, *Widget());
-    Refresh(Aspect::ListIndex);
+    if (alive) Refresh(Aspect::ListIndex);
   });
 }
 
-QComboBox& ComboPeer::Combo() const { return static_cast<QComboBox&>(*Widget()); }
+ChoiceBox& ComboPeer::Box() const { return static_cast<ChoiceBox&>(*Widget()); }
 
 void ComboPeer::Refresh(Aspect aspect) {
   if (Widget() == nullptr) return;
   switch (aspect) {
     case Aspect::Entries: {
-      Combo().clear();
       QStringList texts;
       for (const auto& entry : list_.Entries()) texts.append(ToQt(entry.text));
-      Combo().addItems(texts);
-      Combo().setCurrentIndex(list_.ListIndex());
+      Box().ShowEntries(texts, list_.ListIndex());
       break;
     }
-    case Aspect::EntryAdded:
-      Combo().addItem(ToQt(list_.Entries().back().text));
-      Combo().setCurrentIndex(list_.ListIndex());  // Qt selects the first entry by itself
-      break;
-    case Aspect::ListIndex: Combo().setCurrentIndex(list_.ListIndex()); break;
+    case Aspect::EntryAdded: Box().ShowOneMore(ToQt(list_.Entries().back().text), list_.ListIndex()); break;
+    case Aspect::ListIndex: Box().ShowIndex(list_.ListIndex()); break;
     default: WidgetPeer::Refresh(aspect);
   }
 }

@@ -7,12 +7,12 @@
 #include "toolkits/qt/widgets/JaNeeToggle.h"
 
 class QCheckBox;
-class QComboBox;
 class QPushButton;
-class QRadioButton;
 
 /// The peers of what a person chooses with: toggle, option, check box, list and button.
 namespace brivane::qt {
+
+class ChoiceBox;
 
 class TogglePeer final : public WidgetPeer {
  public:
@@ -48,7 +48,7 @@ class ComboPeer final : public WidgetPeer {
   void Refresh(controls::Aspect aspect) override;
 
  private:
-  [[nodiscard]] QComboBox& Combo() const;
+  [[nodiscard]] ChoiceBox& Box() const;
   controls::ListBox& list_;
 };
 

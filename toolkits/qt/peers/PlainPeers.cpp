@@ -1,10 +1,10 @@
 #include "toolkits/qt/peers/PlainPeers.h"
 
 #include <QGroupBox>
-#include <QLabel>
 
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::qt {
 
@@ -31,7 +31,7 @@ void FramePeer::Refresh(Aspect aspect) {
 }
 
 LabelPeer::LabelPeer(controls::Label& label, qt::Toolkit& toolkit, QWidget* container)
-    : WidgetPeer(label, toolkit, new QLabel(container)), label_(label) {
+    : WidgetPeer(label, toolkit, new LeadingLabel(container)), label_(label) {
   auto* const text = static_cast<QLabel*>(Widget());
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(label.Row().multiline);

@@ -20,6 +20,7 @@
 #include "toolkits/qt/rows/CellPainter.h"
 #include "toolkits/qt/rows/CellPeer.h"
 #include "toolkits/qt/widgets/HelpIcon.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::qt {
 
@@ -64,6 +65,7 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   setObjectName(kCanvasName);
   setFocusPolicy(Qt::TabFocus);
   editor_->hide();
+  TypesNothingWithAlt(*editor_);
   container.installEventFilter(this);
   setGeometry(container.rect());
   lower();

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 
+#include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
 
 namespace brivane::qt {
@@ -41,7 +42,10 @@ void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   });
 }
 
-bool ControlWidget::CommitPending() { return toolkit_.Pending().Commit(controls::Surface::Of(*surface_)); }
+bool ControlWidget::CommitPending() {
+  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+  return toolkit_.Pending().Commit(controls::Surface::Of(*surface_));
+}
 
 QColor ControlWidget::backColor() const { return backColor_.value_or(palette().color(QPalette::Window)); }
 

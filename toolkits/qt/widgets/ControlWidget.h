@@ -29,7 +29,8 @@ class ControlWidget : public QWidget {
   /// Where a failure goes that no procedure of the control handled. Without one a message box tells it.
   void SetFailureListener(Toolkit::FailureListener listener) { toolkit_.SetFailureListener(std::move(listener)); }
 
-  /// Hands over the box that is being edited, if any; false where it was refused and keeps the focus.
+  /// Hands over the box that is being edited or the choice that is under way, if any; false where it was refused
+  /// and keeps the focus.
   /// A host calls it before it leaves the column, saves or closes.
   bool CommitPending();
 

@@ -1,6 +1,8 @@
 #include "toolkits/win32/controls/ComboWindow.h"
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include "toolkits/win32/window/Text.h"
 
@@ -13,6 +15,9 @@ namespace {
 constexpr int kMostShown = 12;
 /// Beside the text of an entry in the dropped list.
 constexpr int kEntryMargin = 8;
+constexpr UINT kLeft = WM_APP + 2;
+
+std::chrono::milliseconds Now() { return std::chrono::milliseconds(GetTickCount64()); }
 
 }  // namespace
 
@@ -35,7 +40,10 @@ void ComboWindow::Refresh(Aspect aspect) {
       for (const controls::ListBox::Entry& entry : list_.Entries()) AddEntry(entry);
       ShowIndex();
       break;
-    case Aspect::EntryAdded: AddEntry(list_.Entries().back()); break;
+    case Aspect::EntryAdded:
+      AddEntry(list_.Entries().back());
+      ShowIndex();
+      break;
     case Aspect::ListIndex: ShowIndex(); break;
     default: ControlWindow::Refresh(aspect);
   }
@@ -46,7 +54,14 @@ void ComboWindow::AddEntry(const controls::ListBox::Entry& entry) const {
   SendMessageW(Handle(), CB_SETITEMDATA, static_cast<WPARAM>(place), entry.itemData);
 }
 
-void ComboWindow::ShowIndex() const { SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0); }
+int ComboWindow::Shown() const { return static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0)); }
+
+void ComboWindow::ShowIndex() {
+  typed_.Forget();
+  SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(list_.ListIndex()), 0);
+}
+
+bool ComboWindow::IsUnderWay() const { return Handle() != nullptr && !IsDropped() && Shown() != list_.ListIndex(); }
 
 /// The dropped list is as wide as its longest entry, so that a person reads what there is to choose.
 void ComboWindow::WidenDropped() const {
@@ -86,12 +101,34 @@ void ComboWindow::ShowFont() {
   ShowPlace();
 }
 
-void ComboWindow::Take() {
-  const auto index = static_cast<int>(SendMessageW(Handle(), CB_GETCURSEL, 0, 0));
+void ComboWindow::HandOver() {
+  const int index = Shown();
   if (index == list_.ListIndex() || index < 0) return;
   const auto life = Life();
   Toolkit().Act(list_, controls::Choose{index}, *this);
   if (!life.expired()) ShowIndex();
+}
+
+ComboWindow* ComboWindow::UnderWayOn(const controls::Surface& surface) {
+  for (const auto& control : surface.Made()) {
+    ComboWindow* found = nullptr;
+    if (control->ControlKind() == host::Kind::Surface)
+      found = UnderWayOn(static_cast<const controls::Surface&>(*control));
+    else if (control->ControlKind() == host::Kind::ListBox)
+      found = static_cast<ComboWindow*>(control->GetPeer());
+    if (found != nullptr && found->IsUnderWay()) return found;
+  }
+  return nullptr;
+}
+
+bool ComboWindow::TypeCharacter(WPARAM character) {
+  if (!IsPlainKey() || character < L' ') return false;
+  std::vector<std::string> entries;
+  for (const controls::ListBox::Entry& entry : list_.Entries()) entries.push_back(entry.text);
+  const int shown = Shown();
+  const int index = typed_.Type(entries, shown, Narrow(std::wstring(1, static_cast<wchar_t>(character))), Now());
+  if (index != shown) SendMessageW(Handle(), CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+  return true;
 }
 
 void ComboWindow::OnCommand(int code) {
@@ -102,30 +139,56 @@ void ComboWindow::OnCommand(int code) {
       break;
     case CBN_SELENDCANCEL: givenUp_ = true; break;
     case CBN_SELENDOK: givenUp_ = false; break;
-    case CBN_SELCHANGE:
-      if (!IsDropped()) Take();
-      break;
     case CBN_CLOSEUP:
       if (givenUp_)
         ShowIndex();
       else
-        Take();
+        HandOver();
       break;
     default: break;
   }
 }
 
-/// The dropped list takes these before the form does.
 bool ComboWindow::OnKey(WPARAM key) {
-  if (!IsDropped() || (key != VK_RETURN && key != VK_ESCAPE)) return false;
-  Default(WM_KEYDOWN, key, 0);
+  if (key >= VK_PRIOR && key <= VK_DOWN) typed_.Forget();
+  if (key != VK_RETURN && key != VK_ESCAPE) return false;
+  // The dropped list takes these before the form does.
+  if (IsDropped()) {
+    Default(WM_KEYDOWN, key, 0);
+    return true;
+  }
+  if (!IsUnderWay() || !IsPlainKey()) return false;
+  if (key == VK_RETURN)
+    HandOver();
+  else
+    ShowIndex();
   return true;
 }
 
 LRESULT ComboWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  // Turning the wheel over a list that has no focus scrolls what it stands on.
-  if (message == WM_MOUSEWHEEL && GetFocus() != Handle())
-    return SendMessageW(GetParent(Handle()), message, wParam, lParam);
+  switch (message) {
+    case WM_MOUSEWHEEL:
+      if (IsDropped()) break;
+      return SendMessageW(GetParent(Handle()), message, wParam, lParam);
+    case WM_CHAR:
+      if (TypeCharacter(wParam)) return 0;
+      break;
+    case WM_KILLFOCUS: {
+      const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+      if (!list_.Reachable()) {
+        ShowIndex();
+        return result;
+      }
+      // Another window borrows the focus; a control beside it takes it. What the choice brings about waits until the
+      // focus has moved.
+      const auto gaining = reinterpret_cast<HWND>(wParam);
+      if (gaining != nullptr && GetAncestor(gaining, GA_ROOT) == GetAncestor(Handle(), GA_ROOT))
+        PostMessageW(Handle(), kLeft, 0, 0);
+      return result;
+    }
+    case kLeft: HandOver(); return 0;
+    default: break;
+  }
   const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
   // A field does not become lower than its font; the box does.
   if (message == WM_WINDOWPOSCHANGING && closedHeight_ > 0) {

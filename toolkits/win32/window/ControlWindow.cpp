@@ -68,7 +68,10 @@ void ControlWindow::Refresh(Aspect aspect) {
 }
 
 void ControlWindow::TakeFocus() {
-  if (Handle() != nullptr) SetFocus(Handle());
+  if (Handle() == nullptr) return;
+  SetFocus(Handle());
+  // As when Tab leads there: what is typed takes the place of what stands there.
+  if (control_.ControlKind() == Kind::TextBox) SendMessageW(Handle(), EM_SETSEL, 0, -1);
 }
 
 bool ControlWindow::TakeKey(UINT message, WPARAM key) {

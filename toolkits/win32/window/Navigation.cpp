@@ -8,6 +8,7 @@
 #include "controls/Choices.h"
 #include "controls/Plain.h"
 #include "toolkits/win32/controls/BoxWindow.h"
+#include "toolkits/win32/controls/ComboWindow.h"
 #include "toolkits/win32/form/FormWindow.h"
 #include "toolkits/win32/window/Text.h"
 
@@ -71,10 +72,12 @@ void Collect(const controls::Surface& surface, std::vector<AnyControl*>& stops) 
 
 FormWindow* FormOf(ControlWindow& window) { return dynamic_cast<FormWindow*>(RootOf(window.Control()).GetPeer()); }
 
-/// Hands over what is being typed in a window. False where it was refused, or where nothing is left to go on
-/// from.
+/// Hands over what is being typed or chosen in a window. False where it was refused, or where nothing is left to go
+/// on from.
 bool CommitBox(ControlWindow& window) {
   const auto life = window.Life();
+  if (auto* const list = dynamic_cast<ComboWindow*>(&window); list != nullptr && list->IsUnderWay()) list->HandOver();
+  if (life.expired()) return false;
   auto* const box = dynamic_cast<BoxWindow*>(&window);
   return (box == nullptr || box->CommitPending()) && !life.expired();
 }

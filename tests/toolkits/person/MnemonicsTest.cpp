@@ -1,0 +1,75 @@
+#include "controls/Choices.h"
+#include "controls/Plain.h"
+#include "controls/TextBox.h"
+#include "tests/toolkits/person/Hands.h"
+
+/// Alt and a letter of something that a person cannot go to does nothing, and so does a letter of nothing.
+namespace brivane::test {
+namespace {
+
+using testing::IsEmpty;
+
+class Mnemonics : public ByHand {
+ protected:
+  Mnemonics() {
+    subscriptions += Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("cmdDoen"); });
+    box_.SetText("Kinderopvang");
+    subscriptions += box_.Validation.Connect([this](bool&) { log.emplace_back("txtOm"); });
+  }
+  /// Presses Alt and a letter in a box with all its text selected: nothing happens.
+  void ExpectNothing(char letter) {
+    Control("txtNaam").Host().SetEnabled(true);
+    hands->GiveFocus(box_);
+    box_.SetFocus();
+    ASSERT_EQ(hands->FocusedText(), "[Kinderopvang]") << letter;
+    hands->PressAlt(letter);
+    EXPECT_EQ(hands->FocusedText(), "[Kinderopvang]") << letter;
+    hands->Press(Key::Tab);
+    EXPECT_THAT(log, IsEmpty()) << letter;
+    EXPECT_EQ(box_.Text(), "Kinderopvang");
+  }
+
+  controls::TextBox& box_ = Get<controls::TextBox>("txtNaam");
+};
+
+TEST_F(Mnemonics, OfWhatIsDisabledOrHiddenDoNothing) {
+  controls::AnyControl& button = Control("cmdDoen");
+  button.Host().SetEnabled(false);
+  ExpectNothing('d');
+  button.Host().SetEnabled(true);
+  button.Host().SetVisible(false);
+  ExpectNothing('d');
+  button.Host().SetVisible(true);
+  Control("fraKeuze").Host().SetEnabled(false);
+  ExpectNothing('d');
+  Control("fraKeuze").Host().SetEnabled(true);
+  Control("fraKeuze").Host().SetVisible(false);
+  ExpectNothing('d');
+}
+
+TEST_F(Mnemonics, OfNothingTypeNothing) {
+  ExpectNothing('x');
+  ExpectNothing('q');
+}
+
+TEST_F(Mnemonics, OfALabelDoNothingWhereItsBoxCannotBeReached) {
+  auto& other = Get<controls::TextBox>("txtBedrag");
+  const auto expect = [&] {
+    hands->GiveFocus(other);
+    hands->PressAlt('n');
+    EXPECT_EQ(hands->Focused(), "txtBedrag");
+    EXPECT_EQ(hands->FocusedText(), "[]");
+  };
+  box_.SetEnabled(false);
+  expect();
+  box_.SetEnabled(true);
+  box_.SetVisible(false);
+  expect();
+  box_.SetVisible(true);
+  EXPECT_EQ(hands->Focused(), "txtBedrag");
+  Control("lblNaam").Host().SetVisible(false);
+  expect();
+}
+
+}  // namespace
+}  // namespace brivane::test

@@ -1,0 +1,34 @@
+#include "toolkits/qt/widgets/Mnemonics.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace brivane::qt {
+
+namespace {
+
+class AltFilter final : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    // Control and Alt together are the AltGr of some keyboards, which types.
+    const bool alt = (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier;
+    if (!alt || key.text().isEmpty() || !key.text().front().isPrint()) return QObject::eventFilter(watched, event);
+    event->ignore();  // it may mean something to the window
+    return true;
+  }
+};
+
+}  // namespace
+
+bool LeadingLabel::event(QEvent* event) {
+  const bool leads = buddy() != nullptr && buddy()->isEnabled() && buddy()->isVisible();
+  return (event->type() == QEvent::Shortcut && !leads) || QLabel::event(event);
+}
+
+void TypesNothingWithAlt(QLineEdit& box) { box.installEventFilter(new AltFilter(&box)); }
+
+}  // namespace brivane::qt

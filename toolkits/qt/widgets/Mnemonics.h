@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+class QLineEdit;
+
+/// Alt with a letter goes to what the letter belongs to, or does nothing where that is disabled or hidden.
+namespace brivane::qt {
+
+/// A text whose letter leads to its buddy, if a person can go there now.
+class LeadingLabel final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  bool event(QEvent* event) override;
+};
+
+/// Keeps a line edit from typing the letters that are pressed with Alt: Qt hands it those that no mnemonic takes.
+void TypesNothingWithAlt(QLineEdit& box);
+
+}  // namespace brivane::qt
