@@ -4,12 +4,12 @@
 #include <QStandardPaths>
 #include <cstdio>
 
+#include "app/desk/Settings.h"
 #include "app/program/CommandLine.h"
 #include "app/program/EndSignals.h"
 #include "app/program/PrivateFiles.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
-#include "app/program/Settings.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
 

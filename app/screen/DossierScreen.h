@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "app/program/TraceLog.h"
+#include "app/desk/TraceLog.h"
 #include "app/screen/KolomScreen.h"
 #include "app/screen/KolommenTree.h"
 #include "dossier/model/Application.h"

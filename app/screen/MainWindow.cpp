@@ -10,7 +10,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
-#include "app/program/Settings.h"
+#include "app/desk/Settings.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/Messages.h"
 #include "app/screen/StartPage.h"

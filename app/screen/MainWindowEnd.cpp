@@ -5,7 +5,7 @@
 #include <QInputMethodEvent>
 #include <QTimer>
 
-#include "app/program/UnfinishedText.h"
+#include "app/desk/UnfinishedText.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
 #include "toolkits/qt/VrijeKolomWidget.h"

@@ -14,11 +14,11 @@
 #include <QSettings>
 #include <QTimer>
 
+#include "app/desk/FileDialogs.h"
+#include "app/desk/Settings.h"
+#include "app/desk/UnfinishedText.h"
 #include "app/program/CommandLine.h"
-#include "app/program/FileDialogs.h"
 #include "app/program/PrivateFiles.h"
-#include "app/program/Settings.h"
-#include "app/program/UnfinishedText.h"
 #include "tests/app/screen/WindowTest.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 #include "toolkits/qt/widgets/EntryBox.h"

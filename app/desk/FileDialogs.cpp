@@ -1,4 +1,4 @@
-#include "app/program/FileDialogs.h"
+#include "app/desk/FileDialogs.h"
 
 #include <QAbstractFileIconProvider>
 #include <QApplication>

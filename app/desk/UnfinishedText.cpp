@@ -1,4 +1,4 @@
-#include "app/program/UnfinishedText.h"
+#include "app/desk/UnfinishedText.h"
 
 #include <QSettings>
 
