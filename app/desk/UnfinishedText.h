@@ -2,22 +2,32 @@
 
 #include <QString>
 #include <cstdint>
-#include <optional>
+#include <vector>
 
 namespace brivane::app {
 
-/// What was being typed when the program had to end, and could not be stored. Kept with the settings, for the next
-/// start.
+/// What was being typed or filled in when the program had to end, and could not be stored. Kept with the settings until
+/// the person has said what is to become of it; several windows may keep theirs side by side.
 struct UnfinishedText {
-  QString file;  ///< the loan file, with its path
+  QString file;  ///< the loan file, with its path; empty where none was open
   std::int16_t lening = 0;
-  std::int16_t kolom = 0;
-  QString box;  ///< the box's object name
+  std::int16_t kolom = 0;  ///< 0 where none was shown
+  QString box;             ///< the box's object name; empty for what goes back into no box: rows, a dialog's answers
+  QString title;           ///< of the window that it stood in; empty for a box of the editor
   QString text;
 
-  void Keep() const;
-  /// What is kept, which is forgotten with it.
-  [[nodiscard]] static std::optional<UnfinishedText> Take();
+  /// Keeps it, and answers the name by which it is forgotten.
+  [[nodiscard]] QString Keep() const;
+  static void Forget(const QString& name);
+
+  struct Kept;
+  /// What is kept, the oldest first.
+  [[nodiscard]] static std::vector<Kept> All();
+};
+
+struct UnfinishedText::Kept {
+  QString name;
+  UnfinishedText what;
 };
 
 }  // namespace brivane::app

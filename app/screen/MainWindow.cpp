@@ -125,7 +125,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  Settings::SetWindowPlace(saveGeometry());
+  // A log-out that was called off: the person has ended it otherwise.
+  if (!ending_) ForgetKept();
+  RememberPlace();
   event->accept();
 }
 
