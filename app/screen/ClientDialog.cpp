@@ -9,7 +9,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include "app/program/Today.h"
+#include "app/desk/Today.h"
 #include "frame/Dates.h"
 #include "toolkits/qt/widgets/DateBox.h"
 

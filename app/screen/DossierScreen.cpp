@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/program/Today.h"
+#include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
 #include "app/screen/Messages.h"

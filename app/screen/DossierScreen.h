@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "app/program/TraceLog.h"
+#include "app/desk/TraceLog.h"
 #include "app/screen/KolomScreen.h"
 #include "app/screen/KolommenTree.h"
 #include "dossier/model/Application.h"
@@ -59,6 +59,8 @@ class DossierScreen final : public QSplitter {
   bool RemoveKolom();
   bool AddLening(const QString& name);
   bool SetClient(const std::vector<dossier::PersoonGegevens>& personen, std::int16_t leeftijd);
+  /// Has the file alone hold everything now, and not within a second.
+  void WorkOff() { file_->WorkOff(); }
   /// The complete check of every column, after the box that is being edited was handed over; nothing where
   /// that was refused.
   [[nodiscard]] std::optional<std::vector<dossier::Finding>> Check();

@@ -1,4 +1,4 @@
-#include "app/program/FileDialogs.h"
+#include "app/desk/FileDialogs.h"
 
 #include <QAbstractFileIconProvider>
 #include <QApplication>
@@ -56,6 +56,8 @@ class Dialog final : public QFileDialog {
   Dialog(QWidget* above, const FileQuestion& question, const QString& emptyFolder)
       : QFileDialog(above, question.title, emptyFolder, question.filter) {
     setOption(DontUseNativeDialog);
+    // It is here to choose: its list would rename and delete files, the open one too.
+    setOption(ReadOnly);
     // The model looks around in a thread of its own until the dialog's base is gone.
     static NamesOnly names;
     setIconProvider(&names);
