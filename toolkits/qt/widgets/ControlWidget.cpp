@@ -60,7 +60,7 @@ void ControlWidget::ShowVeil() {
 
 controls::BindingResult ControlWidget::Bind(const std::function<void()>& bind, bool release) {
   const QPointer<ControlWidget> alive(this);
-  if (State() == controls::BindingState::Never)
+  if (!IsBound())
     PutBackPending();
   else if (!CommitPending())
     return controls::BindingResult::Refused;

@@ -75,8 +75,8 @@ class ControlWidget : public QWidget {
   virtual void UnbindControl() = 0;
   /// The widget was bound, or stands for nothing now.
   virtual void StateChanged() {}
-  /// Binds after what is being typed was handed over; before the first binding that is dropped, as it belongs to
-  /// nothing. `release`: nothing was given to bind to, so what is left of the host is let go of afterwards.
+  /// Binds after what is being typed was handed over; where the widget is not bound that is dropped, as it
+  /// belongs to nothing. `release`: nothing was given to bind to, so what is left of the host is let go of afterwards.
   controls::BindingResult Bind(const std::function<void()>& bind, bool release);
   /// Hands over what is being typed, before a check; false where the check is to refuse.
   [[nodiscard]] bool MayCheck(bool cancel) { return cancel || CommitPending(); }

@@ -89,6 +89,10 @@ SurfacePeer::SurfacePeer(controls::Surface& surface, qt::Toolkit& toolkit, QWidg
 void SurfacePeer::Refresh(controls::Aspect aspect) {
   if (aspect != controls::Aspect::Veil) return WidgetPeer::Refresh(aspect);
   if (Widget() == nullptr) return;
+  // Where there is nothing else to go to, Qt leaves the focus in what it hides, and keys go on coming there.
+  QWidget* const focus = Widget()->window()->focusWidget();
+  if (static_cast<const controls::Surface&>(Control()).IsVeiled() && focus != nullptr && Widget()->isAncestorOf(focus))
+    focus->clearFocus();
   ShowVisible();
   const auto& veiled = static_cast<SurfaceWidget*>(Widget())->veiled;
   if (veiled) veiled();
