@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "controls/Surface.h"
+#include "controls/TextBox.h"
 #include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Person.h"
@@ -138,6 +139,31 @@ TEST_F(Embedding, NoApplicationLetsGoOfTheHostToo) {
   EXPECT_EQ(host_.dossier.huidig->kolommen.front().use_count(), 1);
 }
 
+/// Two editors on one column: the host that has both binds the other one anew. Neither binding sets off another.
+TEST_F(Embedding, AHostKeepsTwoEditorsOnOneColumnAlike) {
+  auto* const other = new qt::VrijeKolomWidget;
+  window_.layout()->addWidget(other);
+  other->SetHostFactories(host_.Factories());
+  Bind(0, 1);
+  other->SetApplication(host_.application, 0, 1);
+  int bound = 0;
+  const auto follow = [&](qt::VrijeKolomWidget* edited, qt::VrijeKolomWidget* follower) {
+    QObject::connect(edited, &qt::VrijeKolomWidget::refreshTopDisplay, follower, [this, &bound, follower] {
+      ++bound;
+      follower->SetApplication(host_.application, 0, 1);
+    });
+  };
+  follow(editor_, other);
+  follow(other, editor_);
+  Click(Box("TxtOm"));
+  TypeOver("Blad");
+  Press(Qt::Key_Tab);
+  const auto& box = dynamic_cast<const controls::TextBox&>(*controls::Surface::Of(other->Surface()).Find("TxtOm"));
+  EXPECT_EQ(box.Text(), "Blad");
+  EXPECT_EQ(bound, 1);
+  EXPECT_TRUE(editor_->Control()->Gewijzigd());
+}
+
 TEST_F(Embedding, TypingBeforeTheFirstBindingBelongsToNothing) {
   Click(Box("TxtOm"));
   TypeOver("Blad");
@@ -156,36 +182,36 @@ TEST_F(Embedding, TheVeilIsAsLargeAsTheEditor) {
   }
 }
 
-  TEST_F(Embedding, AnErrorReportLeavesThePointerOfTheHost) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    Bind(9, 1);
-    ASSERT_NE(QApplication::overrideCursor(), nullptr);
-    QApplication::restoreOverrideCursor();
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-  }
+TEST_F(Embedding, AnErrorReportLeavesThePointerOfTheHost) {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  Bind(9, 1);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  QApplication::restoreOverrideCursor();
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
 
-  TEST(ToelichtingEmbedding, AFailedBindingTellsTheHostAndShowsNothing) {
-    TestHost host;
-    QWidget window;
-    auto* const layout = new QVBoxLayout(&window);
-    auto* const toelichting = new qt::ToelichtingWidget;
-    layout->addWidget(toelichting);
-    toelichting->SetHostFactories(host.Factories());
-    std::shared_ptr<host::Application> application = host.application;
-    std::shared_ptr<host::Lening> lening = host.dossier.huidig;
-    ShowActive(window);
-    controls::AnyControl& toggle = *controls::Surface::Of(toelichting->Surface()).Find("jnOverlijden");
-    EXPECT_EQ(toelichting->SetApplication(application, lening, 1), BindingResult::Bound);
-    EXPECT_EQ(toelichting->SetApplication(application, lening, 9), BindingResult::Failed);
-    EXPECT_FALSE(WidgetFor(toggle)->isVisible());
-    EXPECT_EQ(toggle.Perform(controls::Toggle{host::kJa}), controls::Outcome::Ignored);
-    EXPECT_FALSE(host.Kolom(1).velden.ScenarioOverlijden);
-    EXPECT_EQ(toelichting->SetApplication(application, lening, 1), BindingResult::Bound);
-    EXPECT_EQ(toggle.Perform(controls::Toggle{host::kJa}), controls::Outcome::Done);
-    const auto held = host.dossier.huidig->kolommen.front().use_count();
-    toelichting->Unbind();
-    EXPECT_LT(host.dossier.huidig->kolommen.front().use_count(), held);
-  }
+TEST(ToelichtingEmbedding, AFailedBindingTellsTheHostAndShowsNothing) {
+  TestHost host;
+  QWidget window;
+  auto* const layout = new QVBoxLayout(&window);
+  auto* const toelichting = new qt::ToelichtingWidget;
+  layout->addWidget(toelichting);
+  toelichting->SetHostFactories(host.Factories());
+  std::shared_ptr<host::Application> application = host.application;
+  std::shared_ptr<host::Lening> lening = host.dossier.huidig;
+  ShowActive(window);
+  controls::AnyControl& toggle = *controls::Surface::Of(toelichting->Surface()).Find("jnOverlijden");
+  EXPECT_EQ(toelichting->SetApplication(application, lening, 1), BindingResult::Bound);
+  EXPECT_EQ(toelichting->SetApplication(application, lening, 9), BindingResult::Failed);
+  EXPECT_FALSE(WidgetFor(toggle)->isVisible());
+  EXPECT_EQ(toggle.Perform(controls::Toggle{host::kJa}), controls::Outcome::Ignored);
+  EXPECT_FALSE(host.Kolom(1).velden.ScenarioOverlijden);
+  EXPECT_EQ(toelichting->SetApplication(application, lening, 1), BindingResult::Bound);
+  EXPECT_EQ(toggle.Perform(controls::Toggle{host::kJa}), controls::Outcome::Done);
+  const auto held = host.dossier.huidig->kolommen.front().use_count();
+  toelichting->Unbind();
+  EXPECT_LT(host.dossier.huidig->kolommen.front().use_count(), held);
+}
 
 }  // namespace
 }  // namespace brivane::test
