@@ -10,6 +10,7 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
     body();
   } catch (...) {
     const host::Error failure = frame::CurrentError();
+    Desktop().ProcedureFailed.Raise();
     if (failureListener_) return failureListener_(failure);
     const std::string what = std::to_string(failure.Number()) + ": " + failure.Description();
     (void)Ask(std::string(frame::kReportCaption), std::string(frame::kReportMessage) + "\r\n" + what,

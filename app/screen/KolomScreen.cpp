@@ -10,8 +10,6 @@
 #include "app/screen/CarryOver.h"
 #include "app/screen/KopregelLabel.h"
 #include "frame/Handle.h"
-#include "toolkits/qt/widgets/ChoiceBox.h"
-#include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/Teksten.h"
 
@@ -67,8 +65,7 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
 void KolomScreen::Show(const Place& place) {
   place_ = place;
   // What was being typed belongs to what stood here.
-  if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*editor_)) box->Restore();
-  if (qt::ChoiceBox* list = qt::ChoiceBox::UnderWayWithin(*editor_)) list->PutBack();
+  editor_->PutBackPending();
   if (!place.Vrij_Id) {
     setCurrentWidget(empty_);
     return;
@@ -84,6 +81,8 @@ void KolomScreen::Show(const Place& place) {
 
 void KolomScreen::RefreshHeader() {
   if (!place_.Vrij_Id) return;
+  // What could not be bound was told by the host's report; its name stands above nothing.
+  if (!editor_->IsBound()) return header_->Show(QString());
   if (const auto kolom = dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
     header_->Show(QString::fromStdString(kolom->Kopregel()));
   }
@@ -121,7 +120,7 @@ void KolomScreen::FocusRefused() {
 void KolomScreen::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrijekolom::TxtOm].SetFocus(); }
 
 void KolomScreen::FocusFirst() {
-  if (place_.Vrij_Id) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
+  if (place_.Vrij_Id && editor_->IsBound()) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
 }
 
 bool KolomScreen::HasFocus() const {
