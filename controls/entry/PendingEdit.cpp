@@ -88,6 +88,7 @@ bool PendingEdit::TypeDecimalSign() {
 
 bool PendingEdit::Commit() {
   if (committing_) return true;
+  if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
   if (!pending_) {
     // Who goes on without what was refused, as a pasted column is, has done with it.
     face_.HideReason();

@@ -2,10 +2,12 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "controls/entry/KeysUnderWay.h"
+#include "controls/life/Life.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::qt {
@@ -16,6 +18,10 @@ namespace brivane::qt {
 /// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
+  Desktop() = default;
+  /// Whoever asks it something after that life has ended is abandoned; what is open then closes.
+  explicit Desktop(std::shared_ptr<controls::Life> life) : life_(std::move(life)) {}
+
   /// Answers today's date instead of the clock, when set.
   std::function<host::Date()> clock;
   /// Answers a message box instead of a person, when set.
@@ -36,7 +42,8 @@ class Desktop final : public host::Desktop {
   /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
   std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
 
-  /// A message box of the toolkit's own: as MessageBox, and the host is told and asked nothing.
+  /// A message box of the toolkit's own: as MessageBox, and the host is told and asked nothing, and nobody abandoned.
+  /// Where the life has ended, or the box goes with the window that it belongs to, it answers "Nee".
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
@@ -57,6 +64,8 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] Additions Added(const std::string& title, const std::string& text, host::MessageStyle style) const;
   [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const Additions& added,
                                          host::MessageStyle style) const;
+
+  std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
 };
 
 }  // namespace brivane::qt
