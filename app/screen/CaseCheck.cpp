@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "controls/Binding.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Tracer.h"
 #include "toolkits/memory/Toolkit.h"
@@ -36,7 +37,9 @@ class Checker {
 
   std::vector<std::string> Check(std::int16_t Len_Id, std::int16_t Vrij_Id) {
     messages_.clear();
-    editor_.SetApplication(application_, Len_Id, Vrij_Id);
+    const auto bound = binding_.Bind([&] { editor_.SetApplication(application_, Len_Id, Vrij_Id); });
+    // The report says so; the checks would be of the column before it.
+    if (bound != controls::BindingResult::Bound) return std::move(messages_);
     bool cancel = false;
     editor_.Validation(cancel);
     cancel = false;
@@ -50,6 +53,7 @@ class Checker {
   memory::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
   brivane::VrijeKolom editor_;
+  controls::Binding binding_{*surface_};
   host::Subscription errors_;
 };
 

@@ -1,7 +1,7 @@
 #include "app/screen/KolomScreen.h"
 
 #include <QLabel>
-#include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
@@ -10,8 +10,6 @@
 #include "app/screen/CarryOver.h"
 #include "app/screen/KopregelLabel.h"
 #include "frame/Handle.h"
-#include "toolkits/qt/widgets/ChoiceBox.h"
-#include "toolkits/qt/widgets/EntryBox.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/Teksten.h"
 
@@ -35,6 +33,11 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   editor_->Toolkit().Desktop().details = [this](const std::string& title, const std::string&) {
     const bool carryingOver = title == vrijekolom::kOvernemenTitel && place_.Vrij_Id;
     return carryingOver ? RemovedByCarryOver(*dossier_, *place_.Vrij_Id) : std::string();
+  };
+  editor_->Toolkit().Desktop().offer = [this](const std::string&,
+                                              const std::string&) -> std::optional<qt::Desktop::Offer> {
+    if (!leaving_ || !IsIncomplete()) return std::nullopt;
+    return qt::Desktop::Offer{.button = "Kolom &verwijderen", .taken = [this] { remove_ = true; }};
   };
   auto* area = new QWidget;
   auto* stack = new QVBoxLayout(area);
@@ -62,8 +65,7 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
 void KolomScreen::Show(const Place& place) {
   place_ = place;
   // What was being typed belongs to what stood here.
-  if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*editor_)) box->Restore();
-  if (qt::ChoiceBox* list = qt::ChoiceBox::UnderWayWithin(*editor_)) list->PutBack();
+  editor_->PutBackPending();
   if (!place.Vrij_Id) {
     setCurrentWidget(empty_);
     return;
@@ -79,18 +81,29 @@ void KolomScreen::Show(const Place& place) {
 
 void KolomScreen::RefreshHeader() {
   if (!place_.Vrij_Id) return;
+  // What could not be bound was told by the host's report; its name stands above nothing.
+  if (!editor_->IsBound()) return header_->Show(QString());
   if (const auto kolom = dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
     header_->Show(QString::fromStdString(kolom->Kopregel()));
   }
 }
 
-bool KolomScreen::MayLeave() {
-  if (!place_.Vrij_Id) return true;
-  if (!editor_->CommitPending()) return false;
-  bool cancel = false;
-  recording_.Do(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
-  if (cancel) FocusRefused();
-  return !cancel;
+Leaving KolomScreen::Leave() {
+  if (!place_.Vrij_Id) return Leaving::May;
+  const QScopedValueRollback leaving(leaving_, true);
+  remove_ = false;
+  bool cancel = !editor_->CommitPending();
+  if (!cancel) {
+    recording_.Do(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
+    if (cancel && !remove_) FocusRefused();
+  }
+  if (remove_) return Leaving::Remove;
+  return cancel ? Leaving::Stays : Leaving::May;
+}
+
+bool KolomScreen::IsIncomplete() const {
+  const auto kolom = place_.Vrij_Id ? dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id) : nullptr;
+  return kolom && kolom->DatumAanvang().IsNone();
 }
 
 void KolomScreen::FocusRefused() {
@@ -98,22 +111,16 @@ void KolomScreen::FocusRefused() {
   host::TextBox& aanvang = boxes[vrijekolom::TxtDtAanvang];
   // The editor refuses an empty start date before it looks at the end date.
   if (aanvang.DateValue().IsNone()) {
-    PutFocus(aanvang);
+    aanvang.SetFocus();
   } else {
-    PutFocus(boxes[vrijekolom::TxtDtEind]);
+    boxes[vrijekolom::TxtDtEind].SetFocus();
   }
 }
 
-void KolomScreen::FocusOmschrijving() { PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
+void KolomScreen::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrijekolom::TxtOm].SetFocus(); }
 
 void KolomScreen::FocusFirst() {
-  if (place_.Vrij_Id) PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);
-}
-
-void KolomScreen::PutFocus(host::TextBox& box) {
-  box.SetFocus();
-  // As when Tab leads there: what is typed takes the place of what stands there.
-  if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) line->selectAll();
+  if (place_.Vrij_Id && editor_->IsBound()) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
 }
 
 bool KolomScreen::HasFocus() const {

@@ -3,14 +3,21 @@
 #include <utility>
 
 #include "controls/DrawnToolkit.h"
+#include "controls/FailureWatch.h"
 #include "controls/TextBox.h"
 #include "controls/entry/Column.h"
-#include "controls/entry/Content.h"
 #include "frame/Trim.h"
 
 namespace brivane::controls {
 
 using frame::Format;
+
+namespace {
+
+constexpr char kNotStored[] = "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.";
+constexpr char kNotTaken[] = "Niet overgenomen";
+
+}  // namespace
 
 PendingEdit::~PendingEdit() { End(); }
 
@@ -19,13 +26,19 @@ void PendingEdit::Tie(TextBox& box, DrawnToolkit& toolkit) {
   box_ = &box;
   toolkit_ = &toolkit;
   format_ = box.Format();
+  reader_ = nullptr;
   ShowContent();
 }
 
-void PendingEdit::Tie(frame::Format format) {
+void PendingEdit::Tie(frame::Format format, Reader reader) {
   End();
   box_ = nullptr;
   format_ = format;
+  reader_ = std::move(reader);
+}
+
+TypedContent PendingEdit::Read(std::string_view typed) const {
+  return reader_ ? reader_(typed) : ReadEntry(typed, format_);
 }
 
 void PendingEdit::ShowContent() {
@@ -35,6 +48,7 @@ void PendingEdit::ShowContent() {
 void PendingEdit::ShowText(const std::string& text) {
   End();
   face_.HideReason();
+  refusal_.clear();
   shown_ = text;
   if (face_.Text() == text) return;
   face_.ShowText(text);
@@ -48,6 +62,7 @@ void PendingEdit::End() {
 
 void PendingEdit::Typed() {
   face_.HideReason();
+  refusal_.clear();
   if (std::exchange(pending_, true) || box_ == nullptr) return;
   standing_ = box_->Content();
   box_->MarkEdited();
@@ -72,10 +87,16 @@ bool PendingEdit::TypeDecimalSign() {
 }
 
 bool PendingEdit::Commit() {
-  if (committing_ || !pending_) return true;
+  if (committing_) return true;
   if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
+  if (!pending_) {
+    // Who goes on without what was refused, as a pasted column is, has done with it.
+    face_.HideReason();
+    return true;
+  }
+  if (!CanBeTaken()) return true;
   const std::string typed = face_.Text();
-  TypedContent content = ReadContent(typed, format_);
+  TypedContent content = Read(typed);
   if (!content.refusal.empty()) return Refuse(content.refusal);
   if (box_ == nullptr) {
     ShowText(controls::ShowContent(content.value, format_));
@@ -84,16 +105,51 @@ bool PendingEdit::Commit() {
   // What reads as what stood there is what stood there, decimals that are not shown included.
   if (typed == controls::ShowContent(standing_, format_)) content.value = standing_;
   const auto life = Life();
+  const FailureWatch failures(toolkit_->Desktop());
   committing_ = true;
   const Outcome outcome = toolkit_->Hand(*box_, Enter{std::move(content.value)});
   if (life.expired()) return true;
   committing_ = false;
   if (outcome == Outcome::Refused) return Refuse({});
+  if (failures.Seen()) {
+    box_->MarkEdited();
+    return Refuse(kNotStored);
+  }
   ShowContent();
   return true;
 }
 
+bool PendingEdit::CanBeTaken() const { return box_ == nullptr || box_->Reachable(); }
+
+bool PendingEdit::HandOver() {
+  const auto life = Life();
+  if (CanBeTaken()) {
+    if (Commit()) return true;
+    if (life.expired() || face_.IsAtHand()) return false;
+  }
+  return AskToDrop();
+}
+
+bool PendingEdit::AskToDrop() {
+  if (toolkit_ == nullptr) return false;
+  const std::string name(box_->AccessibleName());
+  std::string question = "In " + (name.empty() ? "een vak" : "het vak \"" + name + '"') + " staat nog \"" +
+                         face_.Text() + "\". Dat is niet overgenomen, en het vak is nu niet te bereiken.";
+  if (!refusal_.empty()) question += "\r\n\r\n" + refusal_;
+  question += "\r\n\r\nWilt u wat daar getypt is laten vervallen?";
+  const auto life = Life();
+  const bool drop = toolkit_->Ask(kNotTaken, question, host::MessageStyle::YesNoQuestion) == host::MessageAnswer::Yes;
+  if (drop && !life.expired()) Restore();
+  return drop;
+}
+
+void PendingEdit::Shown() {
+  if (pending_ && !refusal_.empty()) face_.ShowReason(refusal_);
+}
+
 bool PendingEdit::Refuse(const std::string& reason) {
+  refusal_ = reason;
+  if (!face_.IsAtHand()) return false;
   const auto life = Life();
   if (!face_.HasFocus()) face_.TakeFocus();
   // The box that loses the focus may have something to hand over too.

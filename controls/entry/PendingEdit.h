@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "controls/Action.h"
+#include "controls/entry/Content.h"
 #include "frame/Design.h"
 
 namespace brivane::controls {
@@ -27,6 +29,8 @@ class EntryFace {
   [[nodiscard]] virtual bool HasFocus() const = 0;
   virtual void TakeFocus() = 0;
   [[nodiscard]] virtual bool ReadOnly() const = 0;
+  /// Whether a person can get at the box now: it is on the screen, and nothing around it is disabled.
+  [[nodiscard]] virtual bool IsAtHand() const = 0;
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
   virtual void HideReason() = 0;
@@ -36,7 +40,7 @@ class EntryFace {
 /// pressed. Typing that is not of the box's format is refused here and never reaches the control.
 ///
 /// Refused content stays as typed with the focus in the box, and the reason beside it where there is one. Escape puts
-/// back what stood there.
+/// back what stood there. What the host failed to take is refused too: it was not stored.
 ///
 /// It belongs to the face, and may be gone with it when something that was handed over comes back: a caller that goes
 /// on after Commit or Paste keeps Life().
@@ -53,8 +57,12 @@ class PendingEdit {
 
   /// What is typed from now on is of this box, and goes through the toolkit. What was pending is gone.
   void Tie(TextBox& box, DrawnToolkit& toolkit);
+  /// Reads what is typed in a box of no control, where its format leaves a choice.
+  using Reader = std::function<TypedContent(std::string_view typed)>;
   /// What is typed from now on is of no control: it has a format, and who wants it reads the face.
-  void Tie(frame::Format format);
+  void Tie(frame::Format format, Reader reader = nullptr);
+  /// What a text would be handed over as.
+  [[nodiscard]] TypedContent Read(std::string_view typed) const;
   /// The box that is typed in; nothing where it is no control's.
   [[nodiscard]] TextBox* Box() const { return box_; }
   [[nodiscard]] frame::Format Format() const { return format_; }
@@ -81,15 +89,23 @@ class PendingEdit {
   /// Types a text from the clipboard. In a row of a form several lines are a column: they fill the boxes from this one
   /// down, each as if typed, or, where a line is not of the format, nothing.
   void Paste(std::string_view clipboard);
-  /// Hands over what is pending; false where it was refused.
+  /// Hands over what is pending; false where it was refused. Where the logic hid or disabled the control meanwhile it
+  /// stays pending, and is in nobody's way.
   bool Commit();
+  /// The same before the host leaves: false where something stays pending. Where nobody can get at the box to mend it,
+  /// a question is asked whether the text may go.
+  bool HandOver();
+  /// The box is on the screen again: so is the reason why it was refused.
+  void Shown();
   /// The same, and selects what stands then.
   bool CommitAndSelect();
   /// Puts back what stood there before; false where nothing is pending.
   bool Restore();
 
  private:
+  [[nodiscard]] bool CanBeTaken() const;
   bool Refuse(const std::string& reason);
+  bool AskToDrop();
   void Insert(const std::string& text);
   void PasteColumn(std::string_view text);
   void End();
@@ -98,8 +114,10 @@ class PendingEdit {
   DrawnToolkit* toolkit_ = nullptr;
   TextBox* box_ = nullptr;
   frame::Format format_ = frame::Format::Text;
-  std::string shown_;  ///< what stood there before the typing
-  BoxValue standing_;  ///< the same as content, of a control
+  Reader reader_;
+  std::string shown_;    ///< what stood there before the typing
+  BoxValue standing_;    ///< the same as content, of a control
+  std::string refusal_;  ///< why what is pending was refused
   bool pending_ = false;
   bool committing_ = false;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');

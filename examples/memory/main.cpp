@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "controls/Binding.h"
 #include "frame/Calendar.h"
 #include "host/MemoryHost.h"
 #include "toolkits/memory/Toolkit.h"
@@ -31,7 +32,8 @@ int main() {
   VrijeKolom editor(*surface, toolkit, memory_host::Factories());
   const auto header =
       editor.RefreshTopDisplay.Connect([](const std::string& text) { std::cout << "header: " << text << '\n'; });
-  editor.SetApplication(application, 0, 1);
+  controls::Binding binding(*surface);
+  if (binding.Bind([&] { editor.SetApplication(application, 0, 1); }) != controls::BindingResult::Bound) return 1;
 
   // What the adviser does.
   auto& boxes = controls::Surface::Of(*surface);

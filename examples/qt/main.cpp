@@ -36,7 +36,7 @@ int main(int argc, char** argv) {
   QMainWindow window;
   auto* page = new QWidget;
   auto* layout = new QVBoxLayout(page);
-  auto* header = new QLabel("Vereniging");
+  auto* header = new QLabel;
   auto* editor = new qt::VrijeKolomWidget;
   layout->addWidget(header);
   layout->addWidget(editor);
@@ -47,9 +47,10 @@ int main(int argc, char** argv) {
   window.setCentralWidget(scroll);
 
   editor->SetHostFactories(memory_host::Factories());
-  QObject::connect(editor, &qt::VrijeKolomWidget::refreshTopDisplay, header, &QLabel::setText);
+  QObject::connect(editor, &qt::VrijeKolomWidget::topDisplayChanged, header, &QLabel::setText);
   auto application = MakeApplication();
-  editor->SetApplication(application, 0, 1);  // column 1 of the current situation
+  // Column 1 of the current situation.
+  if (editor->SetApplication(application, 0, 1) != controls::BindingResult::Bound) return 1;
 
   window.resize(page->sizeHint() + QSize(20, 20));
   window.show();

@@ -19,9 +19,8 @@ std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::a
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
   life_->Check();
-  const bool question = style == host::MessageStyle::YesNoQuestion;
   const host::MessageAnswer given =
-      answer ? answer(title, text, style) : Show(title, text, question && details ? details(title, text) : "", style);
+      answer ? answer(title, text, style) : Show(title, text, Added(title, text, style), style);
   life_->Check();
   if (answered) answered(given);
   life_->Check();
@@ -29,10 +28,18 @@ host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::str
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& title, const std::string& text, host::MessageStyle style) {
-  return answer ? answer(title, text, style) : Show(title, text, "", style);
+  return answer ? answer(title, text, style) : Show(title, text, {}, style);
 }
 
-host::MessageAnswer Desktop::Show(const std::string& title, const std::string& text, const std::string& below,
+Desktop::Additions Desktop::Added(const std::string& title, const std::string& text, host::MessageStyle style) const {
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  Additions added;
+  if (question && details) added.below = details(title, text);
+  if (!question && offer) added.offer = offer(title, text);
+  return added;
+}
+
+host::MessageAnswer Desktop::Show(const std::string& title, const std::string& text, const Additions& added,
                                   host::MessageStyle style) const {
   const bool question = style == host::MessageStyle::YesNoQuestion;
   const host::MessageAnswer unanswered = question ? host::MessageAnswer::No : host::MessageAnswer::Ok;
@@ -45,11 +52,16 @@ host::MessageAnswer Desktop::Show(const std::string& title, const std::string& t
   });
   box->setWindowTitle(ToQt(title));
   box->setText(ToQt(text).replace("\r\n", "\n"));
-  box->setInformativeText(ToQt(below));
+  box->setInformativeText(ToQt(added.below));
   if (!question) {
     box->setIcon(QMessageBox::Warning);
-    box->addButton("OK", QMessageBox::AcceptRole);
+    QPushButton* const ok = box->addButton("OK", QMessageBox::AcceptRole);
+    const QPushButton* const offered =
+        added.offer ? box->addButton(ToQt(added.offer->button), QMessageBox::DestructiveRole) : nullptr;
+    box->setDefaultButton(ok);
+    box->setEscapeButton(ok);
     box->exec();
+    if (box && offered != nullptr && box->clickedButton() == offered) added.offer->taken();
     return unanswered;
   }
   box->setIcon(QMessageBox::Question);
@@ -64,9 +76,8 @@ host::MessageAnswer Desktop::Show(const std::string& title, const std::string& t
 float Desktop::TwipsPerPixelX() const { return kTwipsPerPixel; }
 float Desktop::TwipsPerPixelY() const { return kTwipsPerPixel; }
 
-void Desktop::ResetMousePointer() {
-  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
-}
+/// The controls set no override cursor, and one of the host's is the host's to put back.
+void Desktop::ResetMousePointer() {}
 
 host::Date Desktop::Today() const {
   if (clock) {

@@ -1,5 +1,7 @@
 #include "toolkits/qt/ToelichtingWidget.h"
 
+#include <QPointer>
+
 #include "toelichting/Ontwerp.h"
 
 namespace brivane::qt {
@@ -21,25 +23,23 @@ void ToelichtingWidget::ColorControl(host::Color color) {
   if (control_) control_->SetBackColor(color);
 }
 
-void ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
-                                       std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
-  Run([&, &control = host::Need(control_), &held = Host()] {
+void ToelichtingWidget::UnbindControl() {
+  if (control_) control_->Unbind();
+}
+
+controls::BindingResult ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
+                                                          std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
+  const auto bind = [&, &control = host::Need(control_), &held = Host()] {
     std::shared_ptr<host::Application> application = held.Hold(Application);
     std::shared_ptr<host::Lening> lening = held.Hold(Lening);
     control.SetApplication(application, lening, Vrij_Id);
-    application.reset();
-    held.Rest();
-  });
+  };
+  return Bind(bind, Application == nullptr);
 }
 
 void ToelichtingWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  bool cancel = Cancel;
-  const bool done = Run([&, &control = host::Need(control_), life = Life()] {
-    if (!cancel && !CommitPending()) cancel = true;
-    life->Check();
-    control.Validation(cancel, ControleNr);
-  });
-  if (done) Cancel = cancel;
+  Check(Cancel,
+        [&control = host::Need(control_), ControleNr](bool& cancel) { control.Validation(cancel, ControleNr); });
 }
 
 void ToelichtingWidget::resizeEvent(QResizeEvent* event) {

@@ -38,6 +38,31 @@ TEST_F(PendingEditTest, IsHandedOverOnceAfterTyping) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 1.234,50"));
 }
 
+TEST_F(PendingEditTest, ThatEmptiesAnAmountShowsWhatItCountsFor) {
+  amount.SetNumber(7);
+  TypeOver(amount, "");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(face.text, "0,00");
+  EXPECT_EQ(amount.Number(), 0);
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 0,00"));
+}
+
+TEST_F(PendingEditTest, OfNoControlIsReadItsOwnWay) {
+  TestFace own;
+  PendingEdit date(own);
+  date.Tie(Format::Date, [](std::string_view typed) {
+    return typed == "gisteren" ? TypedContent{.value = host::Date(45322)} : TypedContent{.refusal = "Nee."};
+  });
+  own.text = "gisteren";
+  date.Typed();
+  EXPECT_TRUE(date.Commit());
+  EXPECT_EQ(own.text, "31-01-2024");
+  own.text = "morgen";
+  date.Typed();
+  EXPECT_FALSE(date.Commit());
+  EXPECT_EQ(own.reason, "Nee.");
+}
+
 TEST_F(PendingEditTest, SelectsWhatStandsAfterEnter) {
   TypeOver(amount, "5");
   EXPECT_TRUE(edit.CommitAndSelect());
@@ -151,24 +176,80 @@ TEST_F(PendingEditTest, StaysAsTypedUntilItIsAcceptedWhateverCodeWritesMeanwhile
   EXPECT_FALSE(edit.IsCommitting());
 }
 
-TEST_F(PendingEditTest, CountsAsTakenWhereTheControlFails) {
+TEST_F(PendingEditTest, StaysAsTypedWhereTheHostFailsToTakeIt) {
   subscriptions.Reset();
   const host::Subscription listening =
       amount.Validation.Connect([](bool&) { throw host::Error(host::ErrorNumber::ObjectMissing); });
+  amount.SetNumber(7);
   TypeOver(amount, "5");
-  EXPECT_TRUE(edit.Commit());
+  EXPECT_FALSE(edit.Commit());
   EXPECT_THAT(toolkit.asked, ElementsAre("Kwandero: Er is een fout opgetreden.\r\n91: Object missing"));
+  EXPECT_EQ(face.text, "5");
+  EXPECT_EQ(face.reason, "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.");
+  EXPECT_TRUE(face.focused);
+  EXPECT_TRUE(edit.IsPending());
+  EXPECT_FALSE(toolkit.Pending().Commit(Surface::Of(*surface)));
+  EXPECT_TRUE(edit.Restore());
+  EXPECT_EQ(face.text, "7,00");
+  EXPECT_EQ(amount.Number(), 7);
+  EXPECT_TRUE(toolkit.Pending().Commit(Surface::Of(*surface)));
+}
+
+/// A procedure of a control tells its host what failed, and nobody else.
+TEST_F(PendingEditTest, StaysAsTypedWhereTheFailureIsTheHostsToTell) {
+  bool fails = true;
+  subscriptions += amount.Validation.Connect([&](bool&) {
+    if (fails) toolkit.Desktop().ProcedureFailed.Raise();
+  });
+  TypeOver(amount, "5");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_THAT(toolkit.asked, IsEmpty());
+  EXPECT_EQ(face.text, "5");
+  EXPECT_NE(face.reason, "");
+  fails = false;
+  EXPECT_TRUE(edit.Commit());
   EXPECT_EQ(face.text, "5,00");
+  EXPECT_EQ(face.reason, "");
+}
+
+/// The record is shown anew, also where it holds what was typed.
+TEST_F(PendingEditTest, ThatFailedEndsWhenCodeWritesTheBox) {
+  const host::Subscription listening =
+      amount.Validation.Connect([this](bool&) { toolkit.Desktop().ProcedureFailed.Raise(); });
+  TypeOver(amount, "5");
+  EXPECT_FALSE(edit.Commit());
+  amount.SetNumber(5);
+  EXPECT_EQ(face.text, "5,00");
+  EXPECT_EQ(face.reason, "");
   EXPECT_FALSE(edit.IsPending());
 }
 
-TEST_F(PendingEditTest, IsDroppedWhereTheBoxCanNoLongerBeReached) {
+TEST_F(PendingEditTest, StaysAsTypedWhereTheBoxCanNoLongerBeReached) {
   amount.SetNumber(7);
   TypeOver(amount, "5");
   amount.SetEnabled(false);
   EXPECT_TRUE(edit.Commit());
-  EXPECT_EQ(face.text, "7,00");
+  EXPECT_EQ(face.text, "5");
+  EXPECT_TRUE(edit.IsPending());
   EXPECT_THAT(log, IsEmpty());
+  amount.SetEnabled(true);
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 5,00"));
+}
+
+TEST_F(PendingEditTest, ThatIsRefusedOutOfSightSaysWhyWhenItIsSeenAgain) {
+  face.atHand = false;
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_FALSE(face.focused);
+  EXPECT_EQ(face.reason, "");
+  face.atHand = true;
+  edit.Shown();
+  EXPECT_EQ(face.reason, "Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen.");
+  TypeOver(amount, "12,50");
+  face.reason.clear();
+  edit.Shown();
+  EXPECT_EQ(face.reason, "");
 }
 
 TEST_F(PendingEditTest, TypesTheDecimalSignOfTheKeypadWhereThereAreDecimals) {

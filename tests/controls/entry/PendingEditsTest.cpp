@@ -56,14 +56,56 @@ TEST_F(PendingEditsTest, StopAtTheFirstThatIsRefusedWhichTakesTheFocus) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 12,50", "txtNaam = x"));
 }
 
-TEST_F(PendingEditsTest, PassOverABoxThatNobodyCanReach) {
-  TypeOver(amount, "12.50");
+TEST_F(PendingEditsTest, AreAskedOfAPersonWhereNobodyCanReachTheBox) {
+  amount.SetNumber(7);
+  TypeOver(amount, "5");
   amount.SetEnabled(false);
-  EXPECT_TRUE(toolkit.Pending().Commit(area));
-  EXPECT_THAT(log, IsEmpty());
-  EXPECT_EQ(Face(amount).text, "12.50");
-  amount.SetEnabled(true);
   EXPECT_FALSE(toolkit.Pending().Commit(area));
+  EXPECT_THAT(
+      toolkit.asked,
+      ElementsAre("Niet overgenomen: In het vak \"Bedrag\" staat nog \"5\". Dat is niet overgenomen, en het vak "
+                  "is nu niet te bereiken.\r\n\r\nWilt u wat daar getypt is laten vervallen?"));
+  EXPECT_EQ(Face(amount).text, "5");
+  toolkit.answer = host::MessageAnswer::Yes;
+  EXPECT_TRUE(toolkit.Pending().Commit(area));
+  EXPECT_EQ(Face(amount).text, "7,00");
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_TRUE(toolkit.Pending().Commit(area));
+  EXPECT_EQ(toolkit.asked.size(), 2U);
+}
+
+TEST_F(PendingEditsTest, ThatPassAreHandedOverFromABoxOutOfSightAndTheOthersAreAskedOf) {
+  Face(amount).atHand = Face(name).atHand = false;
+  TypeOver(amount, "12.50");
+  TypeOver(name, "x");
+  EXPECT_FALSE(toolkit.Pending().Commit(area));
+  EXPECT_THAT(toolkit.asked,
+              ElementsAre(testing::HasSubstr("Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen.")));
+  toolkit.answer = host::MessageAnswer::Yes;
+  EXPECT_TRUE(toolkit.Pending().Commit(area));
+  EXPECT_THAT(log, ElementsAre("txtNaam = x"));
+}
+
+TEST_F(PendingEditsTest, AreLeftWithoutAQuestion) {
+  amount.SetNumber(7);
+  TypeOver(amount, "12.50");
+  TypeOver(name, "x");
+  toolkit.Pending().Leave(area);
+  EXPECT_THAT(log, ElementsAre("txtNaam = x"));
+  EXPECT_EQ(Face(amount).text, "7,00");
+  EXPECT_EQ(Face(amount).reason, "");
+  EXPECT_THAT(toolkit.asked, IsEmpty());
+  EXPECT_THAT(toolkit.Pending().On(area), IsEmpty());
+}
+
+TEST_F(PendingEditsTest, ArePutBackAll) {
+  amount.SetNumber(7);
+  TypeOver(amount, "5");
+  TypeOver(name, "x");
+  toolkit.Pending().PutBack(area);
+  EXPECT_EQ(Face(amount).text, "7,00");
+  EXPECT_EQ(Face(name).text, "");
+  EXPECT_THAT(log, IsEmpty());
 }
 
 TEST_F(PendingEditsTest, MayEndOneAnother) {

@@ -69,15 +69,21 @@ TEST(QtDesktop, TellsTitleScreenAndDate) {
   EXPECT_EQ(desktop.Today(), frame::MakeDate({2026, 11, 21}));
 }
 
-TEST(QtDesktop, PendingEventsRunAndThePointerIsAnArrowAgain) {
+TEST(QtDesktop, PendingEventsRun) {
   Desktop desktop;
   bool ran = false;
   QTimer::singleShot(0, [&] { ran = true; });
   desktop.DoPendingEvents();
   EXPECT_TRUE(ran);
-  QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+TEST(QtDesktop, LeavesThePointerOfTheHostAsItIs) {
+  Desktop desktop;
   QApplication::setOverrideCursor(Qt::WaitCursor);
   desktop.ResetMousePointer();
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  QApplication::restoreOverrideCursor();
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 

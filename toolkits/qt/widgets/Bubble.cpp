@@ -41,7 +41,10 @@ void Bubble::Show(QWidget& box, const QString& reason) {
 void Bubble::Hide(QWidget& box) {
   Bubble* const bubble = Find(box);
   if (bubble == nullptr) return;
-  delete bubble;
+  // Not at once: the window may be going through its children.
+  bubble->box_ = nullptr;
+  bubble->hide();
+  bubble->deleteLater();
   box.setAccessibleDescription({});
 }
 

@@ -1,21 +1,33 @@
 #include "toolkits/qt/widgets/ControlWidget.h"
 
 #include <QEvent>
+#include <QLabel>
 #include <QScopedValueRollback>
 
+#include "toolkits/qt/Text.h"
 #include "toolkits/qt/widgets/ChoiceBox.h"
 #include "toolkits/qt/widgets/SurfaceWidget.h"
 
 namespace brivane::qt {
 
 ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
-    : QWidget(parent), body_(std::make_shared<Body>()), toolkit_(body_->toolkit), surface_(body_->surface) {
+    : QWidget(parent),
+      body_(std::make_shared<Body>()),
+      toolkit_(body_->toolkit),
+      surface_(body_->surface),
+      veil_(new QLabel(ToQt(controls::kVeil), this)) {
   body_->surface = toolkit_.MakeSurface(design);
+  body_->binding.emplace(*surface_);
+  veil_->setAlignment(Qt::AlignCenter);
+  veil_->setWordWrap(true);
+  veil_->setEnabled(false);
+  veil_->hide();
   auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
   area.setParent(this);
   area.move(0, 0);
   area.show();
   area.sized = [this] { updateGeometry(); };
+  area.veiled = [this] { ShowVeil(); };
   FollowFont();
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
@@ -24,6 +36,7 @@ ControlWidget::~ControlWidget() {
   const std::shared_ptr<controls::Life> life = toolkit_.Life();
   auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
   area.sized = nullptr;
+  area.veiled = nullptr;
   const bool running = life->Running();
   life->End(std::move(body_));
   if (!running) return;
@@ -55,13 +68,79 @@ void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   });
 }
 
+void ControlWidget::ShowVeil() {
+  veil_->setGeometry(rect());
+  veil_->setVisible(controls::Surface::Of(*surface_).IsVeiled());
+}
+
+controls::BindingResult ControlWidget::Bind(const std::function<void()>& bind, bool release) {
+  controls::BindingResult result = controls::BindingResult::Failed;
+  const bool done = Run([&, life = Life(), body = body_] {
+    if (!IsBound())
+      PutBackPending();
+    else if (!CommitPending())
+      result = controls::BindingResult::Refused;
+    life->Check();
+    if (result == controls::BindingResult::Refused) return;
+    try {
+      result = body->binding->Bind(bind);
+    } catch (...) {
+      life->Check();
+      StateChanged();
+      throw;
+    }
+    life->Check();
+    if (release) {
+      LetGo();
+      result = controls::BindingResult::Failed;
+    }
+    Host().Rest();
+    StateChanged();
+  });
+  return done ? result : controls::BindingResult::Failed;
+}
+
+void ControlWidget::Unbind() {
+  Run([&, life = Life()] {
+    if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+    life->Check();
+    toolkit_.Pending().Leave(controls::Surface::Of(*surface_));
+    life->Check();
+    LetGo();
+    StateChanged();
+  });
+}
+
+void ControlWidget::LetGo() {
+  const auto body = body_;
+  body->binding->Unbind([this] { UnbindControl(); });
+  toolkit_.Life()->Check();
+  body->host.LetGo();
+}
+
+void ControlWidget::Check(bool& Cancel, const std::function<void(bool& cancel)>& check) {
+  bool cancel = Cancel;
+  const bool done = Run([&, life = Life(), body = body_] {
+    if (!cancel && !CommitPending()) cancel = true;
+    life->Check();
+    if (!body->binding->IsVoid()) check(cancel);
+  });
+  if (done) Cancel = cancel;
+}
+
 bool ControlWidget::CommitPending() {
   bool passed = true;
-  Run([&, &toolkit = toolkit_, &surface = controls::Surface::Of(*surface_)] {
+  Run([&, life = Life(), &toolkit = toolkit_, &surface = controls::Surface::Of(*surface_)] {
     if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+    life->Check();
     passed = toolkit.Pending().Commit(surface);
   });
   return passed;
+}
+
+void ControlWidget::PutBackPending() {
+  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->PutBack();
+  toolkit_.Pending().PutBack(controls::Surface::Of(*surface_));
 }
 
 QColor ControlWidget::backColor() const { return backColor_.value_or(palette().color(QPalette::Window)); }
@@ -95,6 +174,7 @@ void ControlWidget::TellHeightLater() {
 void ControlWidget::resizeEvent(QResizeEvent* event) {
   const QScopedValueRollback sizing(sizing_, true);
   QWidget::resizeEvent(event);
+  veil_->setGeometry(rect());
   const host::Place place = surface_->Place();
   if (size() == toolkit_.Edge().Pixels(place.width, place.height)) return;
   toolkit_.Guard([&] {
