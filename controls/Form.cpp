@@ -41,6 +41,7 @@ host::Twips Form::ScaleHeight() const { return Current().place.height - MadeBy()
 
 void Form::ShowModal(host::Hoofdvenster* eigenaar) {
   const std::shared_ptr<Life> life = MadeBy().Life();
+  const Life::Call call(life);
   Activate.Raise();
   life->Check();
   if (unloaded_) return;
