@@ -15,6 +15,7 @@
 #include "frame/Calendar.h"
 #include "scenario/frmScenario.h"
 #include "tests/support/Moments.h"
+#include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/qt/Person.h"
 #include "toolkits/qt/ToelichtingWidget.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
@@ -654,6 +655,35 @@ TEST(DeletedEditorSession, AtEveryMomentOfASessionThatTheHostHasItsTurn) {
     });
     if (testing::Test::HasFailure()) break;
   }
+}
+
+/// A window that is not the editor's, but owns what is open.
+TEST(DeletedOwner, TakesItsFormOffTheScreenAndStoresNothing) {
+  qt::Toolkit toolkit;
+  auto scenario = std::make_shared<tests::RecordingScenario>();
+  scenario->basis = 100;
+  frmScenario form(toolkit);
+  form.Invoeren(scenario, 3);
+  auto* const window = new QWidget;
+  window->show();
+  qt::Hoofdvenster owner(window);
+  QTimer::singleShot(0, [&] {
+    EXPECT_NE(QApplication::activeModalWidget(), nullptr);
+    delete window;
+  });
+  form.ShowModal(&owner);
+  EXPECT_TRUE(dynamic_cast<controls::Form&>(form.Form()).IsUnloaded());
+  EXPECT_TRUE(scenario->Inhoud().empty());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST(DeletedOwner, AnswersItsQuestionWithNo) {
+  qt::Toolkit toolkit;
+  auto* const window = new QWidget;
+  ShowActive(*window);
+  QTimer::singleShot(0, [&] { delete window; });
+  EXPECT_EQ(toolkit.Desktop().MessageBox("Titel", "Vraag", host::MessageStyle::YesNoQuestion), host::MessageAnswer::No);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 }  // namespace
