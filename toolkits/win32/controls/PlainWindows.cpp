@@ -61,8 +61,13 @@ void SurfaceWindow::Refresh(Aspect aspect) {
 
 /// Screen readers have the veil's text too.
 void SurfaceWindow::ShowVeil() {
+  const bool veiled = surface_.IsVeiled();
   for (const auto& control : surface_.Made()) control->GetPeer()->Refresh(Aspect::Visible);
-  SetText(surface_.IsVeiled() ? std::string(controls::kVeil) : std::string());
+  // In a disabled window nothing can be given the focus, what is hidden included.
+  if (const HWND focus = GetFocus(); veiled && (focus == Handle() || IsChild(Handle(), focus) != FALSE))
+    SetFocus(GetParent(Handle()));
+  EnableWindow(Handle(), !veiled && surface_.Host().Enabled() ? TRUE : FALSE);
+  SetText(veiled ? std::string(controls::kVeil) : std::string());
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
 }
 
