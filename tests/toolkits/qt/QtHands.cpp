@@ -82,7 +82,7 @@ class QtHands final : public Hands {
   void PickInOpenList(controls::ListBox& list, int index) override { Do(list, controls::Choose{index}); }
   bool CommitPending() override {
     if (auto* const box = qt::ChoiceBox::UnderWayWithin(ground_)) box->HandOver();
-    return true;
+    return toolkit_.Pending().Commit(controls::Surface::Of(*surface_));
   }
 
   [[nodiscard]] std::string Focused() const override {
