@@ -1,53 +1,56 @@
-# What an embedding project gets: the logic and the toolkit in memory as Brivane::VrijeKolom, the Qt toolkit as
-# Brivane::Qt, their headers under include/brivane, and a package that find_package() finds.
+# The package that find_package() and pkg-config find: headers under include/brivane, the libraries, and what tells where
+# they are. Parts that were not built are left out, and the package says so to who asks for them.
+#
+# Components: runtime (programs and shared libraries), development (all else that is linked), documents, tools.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/BrivaneVrijeKolom)
 
-add_library(brivane_embedding INTERFACE)
-set_target_properties(brivane_embedding PROPERTIES EXPORT_NAME VrijeKolom)
-add_library(Brivane::VrijeKolom ALIAS brivane_embedding)
-add_library(brivane_embedding_qt INTERFACE)
-set_target_properties(brivane_embedding_qt PROPERTIES EXPORT_NAME Qt)
-add_library(Brivane::Qt ALIAS brivane_embedding_qt)
-target_link_libraries(brivane_embedding_qt INTERFACE brivane_embedding)
+# brivane_install_part(PART targets...): the libraries of a part, and what find_package() knows them by.
+function(brivane_install_part part)
+  install(TARGETS ${ARGN} EXPORT ${part}
+          LIBRARY COMPONENT runtime OPTIONAL NAMELINK_COMPONENT development
+          ARCHIVE COMPONENT development OPTIONAL
+          RUNTIME COMPONENT runtime OPTIONAL)
+  install(EXPORT ${part} NAMESPACE Brivane:: FILE ${part}Targets.cmake DESTINATION ${package_dir} COMPONENT development)
+endfunction()
 
-# The libraries by their folder: those of toolkits/qt form the Qt part, the reference host and the tools stay here.
-set(core brivane_embedding)
-set(qt brivane_embedding_qt)
-get_property(libraries GLOBAL PROPERTY BRIVANE_LIBRARIES)
-foreach(library IN LISTS libraries)
-  get_target_property(folder ${library} SOURCE_DIR)
-  cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
-  if(folder MATCHES "^toolkits/qt")
-    list(APPEND qt ${library})
-    target_link_libraries(brivane_embedding_qt INTERFACE ${library})
-  elseif(folder MATCHES "^(host|frame|toelichting|scenario|vrijekolom|controls|toolkits)")
-    list(APPEND core ${library})
-    target_link_libraries(brivane_embedding INTERFACE ${library})
-  endif()
-endforeach()
+# brivane_pkg_config(NAME DESCRIPTION REQUIRES targets...): the same for pkg-config. The last library first, since each
+# uses those before it.
+function(brivane_pkg_config name description requires)
+  set(libraries "")
+  foreach(library IN LISTS ARGN)
+    get_target_property(type ${library} TYPE)
+    if(NOT type STREQUAL "INTERFACE_LIBRARY")
+      list(PREPEND libraries -l${library})
+    endif()
+  endforeach()
+  list(JOIN libraries " " libraries)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${name}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endfunction()
 
-install(TARGETS ${core} EXPORT VrijeKolom)
-install(EXPORT VrijeKolom NAMESPACE Brivane:: FILE VrijeKolomTargets.cmake DESTINATION ${package_dir})
-list(LENGTH qt parts)
-if(parts GREATER 1)
-  install(TARGETS ${qt} EXPORT Qt)
-  install(EXPORT Qt NAMESPACE Brivane:: FILE QtTargets.cmake DESTINATION ${package_dir})
-endif()
-
+brivane_install_part(VrijeKolom ${core})
+brivane_pkg_config(brivane-vrijekolom "${PROJECT_DESCRIPTION}" "" ${core})
 install(DIRECTORY host frame toelichting scenario vrijekolom controls toolkits DESTINATION include/brivane
+        COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE PATTERN "toolkits/win32" EXCLUDE)
 if(WIN32)
-  install(DIRECTORY toolkits/win32 DESTINATION include/brivane/toolkits FILES_MATCHING PATTERN "*.h")
+  install(DIRECTORY toolkits/win32 DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
 endif()
-if(parts GREATER 1)
-  install(DIRECTORY toolkits/qt DESTINATION include/brivane/toolkits FILES_MATCHING PATTERN "*.h")
+if(BRIVANE_QT)
+  brivane_install_part(Qt ${qt})
+  brivane_pkg_config(brivane-vrijekolom-qt "${PROJECT_DESCRIPTION}, as Qt widgets"
+                     "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4" ${qt})
+  install(DIRECTORY toolkits/qt DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
 endif()
 
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake
                               INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(BrivaneVrijeKolomConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/BrivaneVrijeKolomConfig.cmake
-              ${CMAKE_CURRENT_BINARY_DIR}/BrivaneVrijeKolomConfigVersion.cmake DESTINATION ${package_dir})
+              ${CMAKE_CURRENT_BINARY_DIR}/BrivaneVrijeKolomConfigVersion.cmake
+        DESTINATION ${package_dir} COMPONENT development)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)

@@ -1,7 +1,11 @@
-# Warnings are errors, everywhere; the logic folders are held to conversions as well.
+# Warnings are errors wherever this project is built for itself; the logic folders are held to conversions as well.
+# None of this reaches who links the libraries.
 add_library(brivane_warnings INTERFACE)
 if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
-  target_compile_options(brivane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+  target_compile_options(brivane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
+  if(BRIVANE_WARNINGS_AS_ERRORS)
+    target_compile_options(brivane_warnings INTERFACE -Werror)
+  endif()
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_FLAGS MATCHES "-fsanitize")
   # Under the sanitizers GCC takes the alternatives of a variant that are not in use for uninitialised values.

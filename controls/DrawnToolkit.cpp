@@ -6,8 +6,9 @@
 namespace brivane::controls {
 
 void DrawnToolkit::Guard(const std::function<void()>& body) {
+  const controls::Life::Call call(Life());
   try {
-    body();
+    controls::Life::Run(Life(), body);
   } catch (...) {
     const host::Error failure = frame::CurrentError();
     Desktop().ProcedureFailed.Raise();
@@ -20,9 +21,12 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
 
 Outcome DrawnToolkit::Hand(AnyControl& control, const Action& action) {
   const std::shared_ptr<RowChanges> rows = RowChanges::Around(control);
+  // The control may be gone when the action comes back.
+  const RowChanges::Stays stays = rows != nullptr ? RowChanges::WhatStays(control) : RowChanges::Stays::Nothing;
   Outcome outcome = Outcome::Done;
   Guard([&] { outcome = control.Perform(action); });
-  if (rows != nullptr && outcome != Outcome::Ignored) rows->Mark();
+  if (rows == nullptr || outcome == Outcome::Ignored) return outcome;
+  rows->Mark(outcome == Outcome::Done ? stays : RowChanges::Stays::Nothing);
   return outcome;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 namespace brivane::controls {
@@ -8,15 +9,24 @@ class AnyControl;
 class DrawnToolkit;
 class Form;
 
-/// Whether a person has changed rows of a form. They are stored by its button alone, so Escape and the close box ask
-/// first.
+/// What a person has changed in the rows of a form. They are stored by its button alone, so Escape and the close box
+/// ask first. The value of the first row is the exception: it is stored as soon as it is entered, and stays.
 class RowChanges {
  public:
   /// Of the form that a control is a row of; nothing for any other control. It outlives the form, which may be gone
   /// when an action on the row comes back.
   [[nodiscard]] static std::shared_ptr<RowChanges> Around(const AnyControl& control);
 
-  void Mark() { changed_ = true; }
+  /// What closing the form leaves of an entry.
+  enum class Stays : std::uint8_t { Nothing, Amount, Value };
+  /// Of one in this row element. The value of the first row is its amount, or where the rows have none, what its boxes
+  /// make of it.
+  [[nodiscard]] static Stays WhatStays(const AnyControl& control);
+
+  void Mark(Stays stays) {
+    changed_ = true;
+    if (stays != Stays::Nothing) stays_ = stays;
+  }
   [[nodiscard]] bool Any() const { return changed_; }
 
   /// A person closes the window of a form.
@@ -24,6 +34,7 @@ class RowChanges {
 
  private:
   bool changed_ = false;
+  Stays stays_ = Stays::Nothing;
 };
 
 }  // namespace brivane::controls

@@ -48,22 +48,21 @@ std::vector<std::string_view> Split(std::string_view text) {
   return parts;
 }
 
-int Year(std::string_view digits) {
+/// A year of two digits is one of the hundred from `firstShort` on.
+int Year(std::string_view digits, int firstShort) {
   const int year = ToInt(digits);
   if (digits.size() == kFullYear) return year;
-  const int century = kFirstShortYear - kFirstShortYear % 100;
-  return century + year < kFirstShortYear ? century + 100 + year : century + year;
+  const int century = firstShort - firstShort % 100;
+  return century + year < firstShort ? century + 100 + year : century + year;
 }
 
-}  // namespace
-
-Reading<host::Date> ReadDate(std::string_view text) {
+Reading<host::Date> Read(std::string_view text, int firstShort) {
   using Answer = Reading<host::Date>;
   text = Trim(text);
   if (text.empty()) return {};
   const std::vector<std::string_view> parts = Split(text);
   if (parts.empty()) return Answer::Refuse(std::string(kExpected));
-  const frame::YearMonthDay date{Year(parts[2]), ToInt(parts[1]), ToInt(parts[0])};
+  const frame::YearMonthDay date{Year(parts[2], firstShort), ToInt(parts[1]), ToInt(parts[0])};
   if (date.year < kFirstYear) return Answer::Refuse("Vul een jaar vanaf " + std::to_string(kFirstYear) + " in.");
   if (date.month < 1 || date.month > 12)
     return Answer::Refuse("Maand " + std::to_string(date.month) + " bestaat niet. " + std::string(kExpected));
@@ -72,6 +71,17 @@ Reading<host::Date> ReadDate(std::string_view text) {
                           std::string(kMonths[static_cast<std::size_t>(date.month) - 1]) + " " +
                           std::to_string(date.year) + " bestaat niet.");
   return frame::MakeDate(date);
+}
+
+}  // namespace
+
+Reading<host::Date> ReadDate(std::string_view text) { return Read(text, kFirstShortYear); }
+
+Reading<host::Date> ReadPastDate(std::string_view text, host::Date today) {
+  const int year = frame::Split(today).year;
+  const Reading<host::Date> reading = Read(text, year - 99);
+  const bool ahead = !reading.IsRefused() && !reading.IsEmpty() && *reading >= today;
+  return ahead ? Read(text, year - 100) : reading;
 }
 
 std::string ShowDate(host::Date date) {

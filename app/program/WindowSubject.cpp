@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "controls/life/HeldHost.h"
 #include "replay/play/OnSurface.h"
 
 namespace brivane::app {
@@ -51,7 +52,9 @@ class WindowSubject final : public replay::OnSurface<replay::Subject> {
     Refuse("The window shows a form from its editor alone.");
   }
 
-  [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> Item() override { return editor_.Control()->Item(); }
+  [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> Item() override {
+    return controls::HostsOwn(editor_.Control()->Item());
+  }
   [[nodiscard]] bool Filling() override { return editor_.Control()->Filling(); }
   [[nodiscard]] bool Gewijzigd() override { return editor_.Control()->Gewijzigd(); }
   [[nodiscard]] VrijeKolom* Editor() override { return editor_.Control(); }

@@ -4,12 +4,12 @@
 #include <QStandardPaths>
 #include <cstdio>
 
+#include "app/desk/Settings.h"
 #include "app/program/CommandLine.h"
-#include "app/program/EndSignals.h"
 #include "app/program/PrivateFiles.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
-#include "app/program/Settings.h"
+#include "app/program/SessionEnd.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
 
@@ -49,9 +49,7 @@ int ShowWindow(const QString& file) {
   MakePrivate(QFileInfo(QSettings().fileName()).absolutePath());
   EventLog eventLog(folder);
   MainWindow window(eventLog);
-  const EndSignals endSignals([&] { window.EndInOrder(); });
-  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, &MainWindow::HandOverTyped,
-                   Qt::DirectConnection);
+  const SessionEnd end(window);
   window.show();
   if (!file.isEmpty()) {
     window.Open(file);

@@ -9,7 +9,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include "app/program/Today.h"
+#include "app/desk/Today.h"
 #include "frame/Dates.h"
 #include "toolkits/qt/widgets/DateBox.h"
 
@@ -21,7 +21,12 @@ constexpr std::size_t kSurname = 2;
 constexpr int kLowestLeeftijd = 1;
 constexpr int kHighestLeeftijd = 120;
 
-frame::Reading<host::Date> DateIn(const QLineEdit& box) { return frame::ReadDate(box.text().toStdString()); }
+/// A date of birth as it is typed.
+controls::TypedContent ReadBirth(std::string_view typed) {
+  const frame::Reading<host::Date> date = frame::ReadPastDate(typed, Today());
+  if (date.IsRefused()) return {.refusal = date.Reason()};
+  return date.IsEmpty() ? controls::TypedContent() : controls::TypedContent{.value = *date};
+}
 
 }  // namespace
 
@@ -76,6 +81,7 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
     layout->addRow(heading, fields.name[part]);
   }
   fields.geboortedatum = new qt::DateBox;
+  fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
   return group;
@@ -93,8 +99,8 @@ dossier::PersoonGegevens ClientDialog::Read(const PersoonFields& fields) const {
   for (std::size_t part = 0; part < fields.name.size(); ++part) {
     persoon.Naam[part] = fields.name[part]->text().trimmed().toStdString();
   }
-  const auto datum = DateIn(*fields.geboortedatum);
-  if (!datum.IsRefused() && !datum.IsEmpty()) persoon.Geboortedatum = *datum;
+  const controls::TypedContent datum = ReadBirth(fields.geboortedatum->text().toStdString());
+  if (const auto* geboortedatum = std::get_if<host::Date>(&datum.value)) persoon.Geboortedatum = *geboortedatum;
   return persoon;
 }
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/program/Today.h"
+#include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
 #include "app/screen/Messages.h"
@@ -129,19 +129,34 @@ void DossierScreen::Connect(Recording& recording) {
 
 bool DossierScreen::MayLeave() {
   if (leaving_) return false;
+  // Nothing can be mended in a file that is only read.
+  if (file_->IsReadOnly()) return true;
   leaving_ = true;
-  const bool may = kolom_->MayLeave();
+  const Leaving leaving = kolom_->Leave();
   leaving_ = false;
   // The check may have taken columns out of the new situation.
   Refresh();
-  if (!may) tree_->Select(Shown());
-  return may;
+  if (leaving == Leaving::Remove) return Remove({Shown().Len_Id, std::nullopt});
+  if (leaving == Leaving::Stays) tree_->Select(Shown());
+  return leaving == Leaving::May;
+}
+
+bool DossierScreen::Exists(const Place& place) {
+  if (!place.Vrij_Id) return Dossier().ZoekLening(place.Len_Id) != nullptr;
+  return Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id) != nullptr;
+}
+
+bool DossierScreen::Remove(const Place& next) {
+  const Place place = Shown();
+  if (!Try([&] { Dossier().Verwijder(place.Len_Id, *place.Vrij_Id); })) return false;
+  Show(next);
+  return true;
 }
 
 bool DossierScreen::GoTo(const Place& place) {
   if (place == Shown()) return true;
   if (!MayLeave()) return false;
-  const bool exists = !place.Vrij_Id || Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
+  const bool exists = Exists(place);
   Show(exists ? place : Place{place.Len_Id, std::nullopt});
   return exists;
 }
@@ -180,7 +195,7 @@ bool DossierScreen::AddKolom() {
 
 bool DossierScreen::DuplicateKolom() {
   const Place place = Shown();
-  if (!place.Vrij_Id || !MayLeave()) return false;
+  if (!place.Vrij_Id || !MayLeave() || !Exists(place)) return false;
   std::shared_ptr<dossier::VrijeKolom> kolom;
   if (!Try([&] { kolom = Dossier().Dupliceer(place.Len_Id, *place.Vrij_Id); })) return false;
   Show({place.Len_Id, kolom->Id()});
@@ -189,7 +204,7 @@ bool DossierScreen::DuplicateKolom() {
 }
 
 bool DossierScreen::MoveKolom(const Place& kolom, std::int16_t toLen_Id) {
-  if (!kolom.Vrij_Id || kolom.Len_Id == toLen_Id || !MayLeave()) return false;
+  if (!kolom.Vrij_Id || kolom.Len_Id == toLen_Id || !MayLeave() || !Exists(kolom)) return false;
   std::int16_t Vrij_Id = 0;
   if (!Try([&] { Vrij_Id = Dossier().Verplaats(kolom.Len_Id, *kolom.Vrij_Id, toLen_Id); })) return false;
   Show({toLen_Id, Vrij_Id});
@@ -198,7 +213,7 @@ bool DossierScreen::MoveKolom(const Place& kolom, std::int16_t toLen_Id) {
 
 bool DossierScreen::MakeAfwijking(std::int16_t Len_Id) {
   const Place place = Shown();
-  if (!place.Vrij_Id || place.Len_Id != dossier::Dossier::kHuidig || !MayLeave()) return false;
+  if (!place.Vrij_Id || place.Len_Id != dossier::Dossier::kHuidig || !MayLeave() || !Exists(place)) return false;
   if (!Try([&] { Dossier().MaakAfwijking(*place.Vrij_Id, Len_Id); })) return false;
   Show({Len_Id, place.Vrij_Id});
   return true;
@@ -215,9 +230,7 @@ bool DossierScreen::RemoveKolom() {
   if (Ask(window(), QStringLiteral("Kolom verwijderen"), question, QStringLiteral("&Verwijderen")) == Answer::No) {
     return false;
   }
-  const Place to = tree_->Neighbour(place);
-  if (!Try([&] { Dossier().Verwijder(place.Len_Id, *place.Vrij_Id); })) return false;
-  Show(to);
+  if (!Remove(tree_->Neighbour(place))) return false;
   tree_->setFocus(Qt::OtherFocusReason);
   return true;
 }
@@ -281,8 +294,7 @@ void DossierScreen::Rebind() {
   }
   Refresh();
   const Place place = Shown();
-  const bool exists = place.Vrij_Id && Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
-  kolom_->Show(exists ? place : Place{place.Len_Id, std::nullopt});
+  kolom_->Show(Exists(place) ? place : Place{place.Len_Id, std::nullopt});
   // What fails while binding is not followed by another binding.
   rebind_ = false;
 }

@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-#include "app/program/TraceLog.h"
+#include "app/desk/TraceLog.h"
 #include "app/screen/KolomScreen.h"
 #include "app/screen/KolommenTree.h"
 #include "dossier/model/Application.h"
@@ -41,6 +41,7 @@ class DossierScreen final : public QSplitter {
   /// What is on the screen: a loan, or a column of it.
   [[nodiscard]] const Place& Shown() const { return kolom_->Shown(); }
 
+  /// Also where it could not be left and was removed instead: its loan is shown then.
   bool MayLeave();
   bool GoTo(const Place& place);
   /// To the next (1) or previous (-1) column, past the end of a loan too.
@@ -58,6 +59,8 @@ class DossierScreen final : public QSplitter {
   bool RemoveKolom();
   bool AddLening(const QString& name);
   bool SetClient(const std::vector<dossier::PersoonGegevens>& personen, std::int16_t leeftijd);
+  /// Has the file alone hold everything now, and not within a second.
+  void WorkOff() { file_->WorkOff(); }
   /// The complete check of every column, after the box that is being edited was handed over; nothing where
   /// that was refused.
   [[nodiscard]] std::optional<std::vector<dossier::Finding>> Check();
@@ -76,6 +79,10 @@ class DossierScreen final : public QSplitter {
   void Connect(Recording& recording);
   void Show(const Place& place);
   void Refresh();
+  /// Whether there is such a loan or column.
+  [[nodiscard]] bool Exists(const Place& place);
+  /// Removes the column that is shown and shows another place.
+  bool Remove(const Place& next);
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Try(const std::function<void()>& change);
   void TellFailure(const host::ErrorRecord& error);

@@ -1,7 +1,7 @@
 #include "app/screen/KolomScreen.h"
 
 #include <QLabel>
-#include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <utility>
@@ -33,6 +33,11 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   editor_->Toolkit().Desktop().details = [this](const std::string& title, const std::string&) {
     const bool carryingOver = title == vrijekolom::kOvernemenTitel && place_.Vrij_Id;
     return carryingOver ? RemovedByCarryOver(*dossier_, *place_.Vrij_Id) : std::string();
+  };
+  editor_->Toolkit().Desktop().offer = [this](const std::string&,
+                                              const std::string&) -> std::optional<qt::Desktop::Offer> {
+    if (!leaving_ || !IsIncomplete()) return std::nullopt;
+    return qt::Desktop::Offer{.button = "Kolom &verwijderen", .taken = [this] { remove_ = true; }};
   };
   auto* area = new QWidget;
   auto* stack = new QVBoxLayout(area);
@@ -83,13 +88,22 @@ void KolomScreen::RefreshHeader() {
   }
 }
 
-bool KolomScreen::MayLeave() {
-  if (!place_.Vrij_Id) return true;
-  if (!editor_->CommitPending()) return false;
-  bool cancel = false;
-  recording_.Do(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
-  if (cancel) FocusRefused();
-  return !cancel;
+Leaving KolomScreen::Leave() {
+  if (!place_.Vrij_Id) return Leaving::May;
+  const QScopedValueRollback leaving(leaving_, true);
+  remove_ = false;
+  bool cancel = !editor_->CommitPending();
+  if (!cancel) {
+    recording_.Do(replay::ValidationStep{replay::Target::Editor, 0, false}, [&] { editor_->Validation(cancel); });
+    if (cancel && !remove_) FocusRefused();
+  }
+  if (remove_) return Leaving::Remove;
+  return cancel ? Leaving::Stays : Leaving::May;
+}
+
+bool KolomScreen::IsIncomplete() const {
+  const auto kolom = place_.Vrij_Id ? dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id) : nullptr;
+  return kolom && kolom->DatumAanvang().IsNone();
 }
 
 void KolomScreen::FocusRefused() {
@@ -97,23 +111,16 @@ void KolomScreen::FocusRefused() {
   host::TextBox& aanvang = boxes[vrijekolom::TxtDtAanvang];
   // The editor refuses an empty start date before it looks at the end date.
   if (aanvang.DateValue().IsNone()) {
-    PutFocus(aanvang);
+    aanvang.SetFocus();
   } else {
-    PutFocus(boxes[vrijekolom::TxtDtEind]);
+    boxes[vrijekolom::TxtDtEind].SetFocus();
   }
 }
 
-void KolomScreen::FocusOmschrijving() { PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtOm]); }
+void KolomScreen::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrijekolom::TxtOm].SetFocus(); }
 
 void KolomScreen::FocusFirst() {
-  if (place_.Vrij_Id) PutFocus(frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang]);
-}
-
-void KolomScreen::PutFocus(host::TextBox& box) {
-  if (!editor_->IsBound()) return;
-  box.SetFocus();
-  // As when Tab leads there: what is typed takes the place of what stands there.
-  if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) line->selectAll();
+  if (place_.Vrij_Id && editor_->IsBound()) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
 }
 
 bool KolomScreen::HasFocus() const {

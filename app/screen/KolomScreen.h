@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QStackedWidget>
+#include <cstdint>
 #include <memory>
 
 #include "app/screen/EditorHost.h"
@@ -12,6 +13,10 @@ namespace brivane::app {
 
 class KopregelLabel;
 class Recording;
+
+/// What comes of the wish to leave a column: it may be left, it stays on the screen to be mended, or it is to be
+/// removed.
+enum class Leaving : std::uint8_t { May, Stays, Remove };
 
 /// One free column on the screen: its header text above the editor, which is as high as it says. Where the
 /// window is smaller it scrolls.
@@ -27,9 +32,9 @@ class KolomScreen final : public QStackedWidget {
   void Rebind() { Show(place_); }
   [[nodiscard]] const Place& Shown() const { return place_; }
 
-  /// Whether the column may be left: hands over the box that is being edited, then asks the editor. Refused,
-  /// the focus is in the box that has to be mended.
-  [[nodiscard]] bool MayLeave();
+  /// Hands over the box that is being edited, then asks the editor. Where the column stays, the focus is in the box
+  /// that has to be mended. The refusal of a column that was never complete offers to remove it.
+  [[nodiscard]] Leaving Leave();
   /// The header text as the record has it now.
   void RefreshHeader();
 
@@ -42,8 +47,9 @@ class KolomScreen final : public QStackedWidget {
   [[nodiscard]] qt::VrijeKolomWidget& Editor() { return *editor_; }
 
  private:
+  /// A new column has no start date, and is not left before it has one.
+  [[nodiscard]] bool IsIncomplete() const;
   void FocusRefused();
-  void PutFocus(host::TextBox& box);
 
   std::shared_ptr<dossier::Dossier> dossier_;
   std::shared_ptr<host::Application> application_;
@@ -53,6 +59,8 @@ class KolomScreen final : public QStackedWidget {
   QWidget* kolom_;
   KopregelLabel* header_;
   qt::VrijeKolomWidget* editor_;
+  bool leaving_ = false;
+  bool remove_ = false;  ///< a refusal was answered by removing the column
 };
 
 }  // namespace brivane::app

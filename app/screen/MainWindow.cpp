@@ -10,7 +10,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
-#include "app/program/Settings.h"
+#include "app/desk/Settings.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/Messages.h"
 #include "app/screen/StartPage.h"
@@ -125,7 +125,9 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  Settings::SetWindowPlace(saveGeometry());
+  // A log-out that was called off: the person has ended it otherwise.
+  if (!ending_) ForgetKept();
+  RememberPlace();
   event->accept();
 }
 

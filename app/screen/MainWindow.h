@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
 #include <memory>
 
 #include "app/recording/Recording.h"
@@ -15,6 +16,7 @@ namespace brivane::app {
 
 class FindingsList;
 class StartPage;
+struct UnfinishedText;
 
 /// The program's window: one loan file at a time, or the page that offers to open one.
 ///
@@ -47,13 +49,16 @@ class MainWindow final : public QMainWindow {
   /// how nothing of it is lost.
   void SaveCopy();
 
-  /// Hands over what is being typed; where it is refused it is kept for the next start. Shows nothing.
-  void HandOverTyped();
-  /// Ends the program as soon as what stands in front has been closed: hands over or keeps what is being typed, and
-  /// closes the file. Shows nothing and asks nothing.
+  /// A log-out is coming, which may yet be called off: hands over what is being typed, keeps for the next start what is
+  /// refused or stands unconfirmed in a window in front, and works the file's log off. Asks nothing and closes nothing.
+  void PrepareForLogOut();
+  /// Ends the program as soon as what stands in front has been closed, with all of it kept for the next start: hands
+  /// over what is being typed, and closes the file. Shows nothing and asks nothing.
   void EndInOrder();
   /// Offers what the last time could not be stored.
   void OfferUnfinished();
+  /// The next start shows the window as it is now.
+  void RememberPlace();
 
   /// Put between the next file's editor and its host, when set.
   Instrument instrument;
@@ -82,6 +87,15 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] bool MayLoseFile();
   void LetGoOfFile();
   void FinishEnd();
+  void HandOverTyped();
+  /// What was filled in in a window in front is kept for the next start.
+  void KeepFilledIn(const QWidget* window);
+  /// What this window kept is no longer unfinished.
+  void ForgetKept();
+  /// The place of what is on the screen, without a text.
+  [[nodiscard]] UnfinishedText Here() const;
+  /// Brings a text back to where it stood. False where its file could not be opened.
+  [[nodiscard]] bool GoOnWith(const UnfinishedText& unfinished);
   void ShowAttention(std::size_t count);
   void UpdateActions();
   void FillLeningMenus();
@@ -97,6 +111,8 @@ class MainWindow final : public QMainWindow {
   Recording recording_;
   QPointer<DossierScreen> screen_;
   bool ending_ = false;
+  bool finishing_ = false;
+  QStringList kept_;  ///< names of what this window kept for the next start
 };
 
 }  // namespace brivane::app

@@ -1,27 +1,37 @@
 // How the window ends when nobody is asked, and what it keeps then.
 #include <QApplication>
+#include <QClipboard>
 #include <QDialog>
 #include <QFileInfo>
 #include <QInputMethodEvent>
 #include <QTimer>
+#include <utility>
 
-#include "app/program/UnfinishedText.h"
+#include "app/desk/Settings.h"
+#include "app/desk/UnfinishedText.h"
+#include "app/screen/FilledIn.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
+#include "app/screen/UnfinishedDialog.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 #include "toolkits/qt/widgets/EntryBox.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 namespace brivane::app {
 namespace {
 
 constexpr int kBetweenLooks = 20;  ///< milliseconds: a loop that was ended gets time to return
 
-/// Answers whatever stands in front as Escape does. False where nothing does.
+/// Answers whatever stands in front as Escape does; a form is put away without its question, which nobody would answer.
+/// False where nothing stands there.
 bool DismissInFront() {
   if (QWidget* popup = QApplication::activePopupWidget()) return popup->close();
   QWidget* front = QApplication::activeModalWidget();
   if (front == nullptr) return false;
-  if (auto* dialog = qobject_cast<QDialog*>(front))
+  auto* dialog = qobject_cast<QDialog*>(front);
+  if (dynamic_cast<qt::FormWindow::Window*>(dialog) != nullptr)
+    dialog->done(QDialog::Rejected);
+  else if (dialog != nullptr)
     dialog->reject();
   else
     front->close();
@@ -44,59 +54,130 @@ qt::EntryBox* BoxOf(const QWidget& area, const QString& name) {
 
 }  // namespace
 
+UnfinishedText MainWindow::Here() const {
+  UnfinishedText here;
+  if (!screen_) return here;
+  here.file = screen_->File().Pad();
+  here.lening = screen_->Shown().Len_Id;
+  here.kolom = screen_->Shown().Vrij_Id.value_or(0);
+  return here;
+}
+
+void MainWindow::ForgetKept() {
+  for (const QString& name : std::exchange(kept_, {})) UnfinishedText::Forget(name);
+}
+
+void MainWindow::KeepFilledIn(const QWidget* window) {
+  const auto* dialog = qobject_cast<const QDialog*>(window);
+  UnfinishedText unfinished = Here();
+  unfinished.text = dialog ? FilledIn(*dialog) : QString();
+  if (unfinished.text.isEmpty()) return;
+  unfinished.title = dialog->windowTitle();
+  kept_ << unfinished.Keep();
+}
+
 void MainWindow::HandOverTyped() {
   if (!screen_ || !screen_->Shown().Vrij_Id) return;
   qt::VrijeKolomWidget& editor = screen_->Kolom().Editor();
-  const qt::EntryBox* box = qt::EntryBox::PendingWithin(editor);
-  if (box == nullptr) return;
-  const UnfinishedText typed{.file = screen_->File().Pad(),
-                             .lening = screen_->Shown().Len_Id,
-                             .kolom = *screen_->Shown().Vrij_Id,
-                             .box = NameOf(box),
-                             .text = box->text()};
+  UnfinishedText typed = Here();
+  if (const qt::EntryBox* box = qt::EntryBox::PendingWithin(editor)) {
+    typed.box = NameOf(box);
+    typed.text = box->text();
+  }
   // Kept first: what the handing over asks may be cut off.
-  typed.Keep();
-  if (!editor.CommitPending()) return;
-  static_cast<void>(UnfinishedText::Take());
+  const QString name = typed.text.isEmpty() ? QString() : typed.Keep();
+  // Under a window in front the editor waits for it.
+  const bool handedOver = QApplication::activeModalWidget() == nullptr && editor.CommitPending();
+  if (name.isEmpty()) return;
+  if (handedOver)
+    UnfinishedText::Forget(name);
+  else
+    kept_ << name;
+}
+
+void MainWindow::PrepareForLogOut() {
+  ForgetKept();
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible()) KeepFilledIn(window);
+  }
+  {
+    // Nobody answers what the handing over asks.
+    QTimer look;
+    connect(&look, &QTimer::timeout, &look, [] { DismissInFront(); });
+    if (QApplication::activeModalWidget() == nullptr) look.start(kBetweenLooks);
+    HandOverTyped();
+  }
+  if (screen_) screen_->WorkOff();
+  RememberPlace();
+}
+
+void MainWindow::RememberPlace() {
+  Settings::SetWindowPlace(saveGeometry());
+  if (screen_) Settings::SetSplit(screen_->saveState());
 }
 
 void MainWindow::EndInOrder() {
   if (ending_) return;
   ending_ = true;
+  ForgetKept();
   auto* look = new QTimer(this);
   connect(look, &QTimer::timeout, this, [this] {
-    if (!DismissInFront()) FinishEnd();
+    KeepFilledIn(QApplication::activeModalWidget());
+    // Not from within the timer, which would not look again before that returns.
+    if (!DismissInFront()) QMetaObject::invokeMethod(this, &MainWindow::FinishEnd, Qt::QueuedConnection);
   });
   look->start(kBetweenLooks);
 }
 
 void MainWindow::FinishEnd() {
   // The handing over may bring up a box, which the timer dismisses from within.
-  static bool finishing = false;
-  if (finishing) return;
-  finishing = true;
+  if (finishing_) return;
+  finishing_ = true;
   HandOverTyped();
+  RememberPlace();
   if (screen_) LetGoOfFile();
-  finishing = false;
   QApplication::quit();
 }
 
 void MainWindow::OfferUnfinished() {
-  const auto kept = UnfinishedText::Take();
-  if (!kept) return;
-  const QString what = QStringLiteral(
-                           "Bij het afsluiten stond nog in een vak, en is niet opgeslagen:\n\n%1\n\nDossier: %2\n\n"
-                           "Wilt u verdergaan waar u was?")
-                           .arg(kept->text, QFileInfo(kept->file).fileName());
-  if (Ask(this, QStringLiteral("Niet opgeslagen"), what, QStringLiteral("&Verdergaan")) == Answer::No) return;
-  if (!Open(kept->file) || !screen_->GoTo({kept->lening, kept->kolom})) return;
-  qt::EntryBox* box = BoxOf(screen_->Kolom().Editor(), kept->box);
-  if (box == nullptr || !box->isEnabled()) return;
+  for (const UnfinishedText::Kept& kept : UnfinishedText::All()) {
+    switch (UnfinishedDialog(kept.what, this).Ask()) {
+      case UnfinishedDialog::Choice::Later: break;
+      case UnfinishedDialog::Choice::ThrowAway: UnfinishedText::Forget(kept.name); break;
+      case UnfinishedDialog::Choice::GoOn:
+        // Where the file does not open it is offered again.
+        if (!GoOnWith(kept.what)) break;
+        UnfinishedText::Forget(kept.name);
+        // What comes next would take its place.
+        if (!kept.what.box.isEmpty()) return;
+        break;
+    }
+  }
+}
+
+bool MainWindow::GoOnWith(const UnfinishedText& unfinished) {
+  if (unfinished.box.isEmpty()) QGuiApplication::clipboard()->setText(unfinished.text);
+  if (unfinished.file.isEmpty()) return true;
+  if (!Open(unfinished.file)) return false;
+  if (unfinished.kolom == 0) return true;
+  const bool shown = screen_->GoTo({unfinished.lening, unfinished.kolom});
+  if (unfinished.box.isEmpty()) return true;
+  qt::EntryBox* box = shown ? BoxOf(screen_->Kolom().Editor(), unfinished.box) : nullptr;
+  if (box == nullptr || !box->isEnabled() || box->isReadOnly()) {
+    QGuiApplication::clipboard()->setText(unfinished.text);
+    ShowMessage(
+        this, QStringLiteral("Niet opgeslagen"),
+        QStringLiteral("Het vak waarin dit stond is er niet meer, of kan niet worden ingevuld. De tekst staat op "
+                       "het klembord:\n\n%1")
+            .arg(unfinished.text));
+    return true;
+  }
   box->setFocus(Qt::OtherFocusReason);
   box->selectAll();
   QInputMethodEvent typing;
-  typing.setCommitString(kept->text);
+  typing.setCommitString(unfinished.text);
   QApplication::sendEvent(box, &typing);
+  return true;
 }
 
 void MainWindow::SaveCopy() {

@@ -5,10 +5,10 @@
 #include <QMenu>
 #include <QMessageBox>
 
-#include "app/program/EventLogWindow.h"
-#include "app/program/FileDialogs.h"
-#include "app/program/Settings.h"
+#include "app/desk/FileDialogs.h"
+#include "app/desk/Settings.h"
 #include "app/screen/ClientDialog.h"
+#include "app/screen/EventLogWindow.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"

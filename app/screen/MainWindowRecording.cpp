@@ -4,8 +4,8 @@
 #include <QFileInfo>
 #include <QStatusBar>
 
-#include "app/program/FileDialogs.h"
-#include "app/program/Settings.h"
+#include "app/desk/FileDialogs.h"
+#include "app/desk/Settings.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/Messages.h"
 

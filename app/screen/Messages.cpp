@@ -43,7 +43,6 @@ void ShowFailure(QWidget* above, const host::ErrorRecord& error, Consequence con
   qt::QuestionBox box(kPause, above);
   box.setIcon(QMessageBox::Critical);
   box.setWindowTitle(text(error.Caption));
-  box.setTextFormat(Qt::PlainText);
   box.setText(text(error.Message));
   box.setStandardButtons(QMessageBox::Ok);
   const bool moved = error.ErrorNumber == std::to_string(dossier::kMovedError);

@@ -57,6 +57,13 @@ TypedContent ReadContent(std::string_view typed, frame::Format format) {
   return line.empty() ? TypedContent{} : TypedContent{std::move(line), {}};
 }
 
+TypedContent ReadEntry(std::string_view typed, frame::Format format) {
+  TypedContent content = ReadContent(typed, format);
+  const bool emptied = content.refusal.empty() && std::holds_alternative<std::monostate>(content.value);
+  if (emptied && format == frame::Format::Amount) content.value = 0.0;
+  return content;
+}
+
 std::string OneLine(std::string_view text) {
   std::string line;
   bool ended = false;

@@ -18,6 +18,8 @@ struct TypedContent {
   std::string refusal = {};
 };
 [[nodiscard]] TypedContent ReadContent(std::string_view typed, frame::Format format);
+/// The same of what is handed over: an amount that was emptied is 0, and is shown as what it counts for.
+[[nodiscard]] TypedContent ReadEntry(std::string_view typed, frame::Format format);
 
 /// A box is one line: each run of line ends becomes a blank.
 [[nodiscard]] std::string OneLine(std::string_view text);

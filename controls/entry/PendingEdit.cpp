@@ -6,7 +6,6 @@
 #include "controls/FailureWatch.h"
 #include "controls/TextBox.h"
 #include "controls/entry/Column.h"
-#include "controls/entry/Content.h"
 #include "frame/Trim.h"
 
 namespace brivane::controls {
@@ -27,13 +26,19 @@ void PendingEdit::Tie(TextBox& box, DrawnToolkit& toolkit) {
   box_ = &box;
   toolkit_ = &toolkit;
   format_ = box.Format();
+  reader_ = nullptr;
   ShowContent();
 }
 
-void PendingEdit::Tie(frame::Format format) {
+void PendingEdit::Tie(frame::Format format, Reader reader) {
   End();
   box_ = nullptr;
   format_ = format;
+  reader_ = std::move(reader);
+}
+
+TypedContent PendingEdit::Read(std::string_view typed) const {
+  return reader_ ? reader_(typed) : ReadEntry(typed, format_);
 }
 
 void PendingEdit::ShowContent() {
@@ -82,9 +87,16 @@ bool PendingEdit::TypeDecimalSign() {
 }
 
 bool PendingEdit::Commit() {
-  if (committing_ || !pending_ || !CanBeTaken()) return true;
+  if (committing_) return true;
+  if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
+  if (!pending_) {
+    // Who goes on without what was refused, as a pasted column is, has done with it.
+    face_.HideReason();
+    return true;
+  }
+  if (!CanBeTaken()) return true;
   const std::string typed = face_.Text();
-  TypedContent content = ReadContent(typed, format_);
+  TypedContent content = Read(typed);
   if (!content.refusal.empty()) return Refuse(content.refusal);
   if (box_ == nullptr) {
     ShowText(controls::ShowContent(content.value, format_));

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "controls/Action.h"
+#include "controls/entry/Content.h"
 #include "frame/Design.h"
 
 namespace brivane::controls {
@@ -55,8 +57,12 @@ class PendingEdit {
 
   /// What is typed from now on is of this box, and goes through the toolkit. What was pending is gone.
   void Tie(TextBox& box, DrawnToolkit& toolkit);
+  /// Reads what is typed in a box of no control, where its format leaves a choice.
+  using Reader = std::function<TypedContent(std::string_view typed)>;
   /// What is typed from now on is of no control: it has a format, and who wants it reads the face.
-  void Tie(frame::Format format);
+  void Tie(frame::Format format, Reader reader = nullptr);
+  /// What a text would be handed over as.
+  [[nodiscard]] TypedContent Read(std::string_view typed) const;
   /// The box that is typed in; nothing where it is no control's.
   [[nodiscard]] TextBox* Box() const { return box_; }
   [[nodiscard]] frame::Format Format() const { return format_; }
@@ -108,6 +114,7 @@ class PendingEdit {
   DrawnToolkit* toolkit_ = nullptr;
   TextBox* box_ = nullptr;
   frame::Format format_ = frame::Format::Text;
+  Reader reader_;
   std::string shown_;    ///< what stood there before the typing
   BoxValue standing_;    ///< the same as content, of a control
   std::string refusal_;  ///< why what is pending was refused

@@ -35,6 +35,10 @@ OpeningProblem ProblemOf(const DatabaseError& error) {
   }
 }
 
+OpeningProblem ProblemOf(const ContentsError& error) {
+  return error.Which() == ContentsError::What::Value ? OpeningProblem::Impossible : OpeningProblem::Damaged;
+}
+
 OpeningProblem ProblemOf(const LockError& error) {
   switch (error.Why()) {
     case LockError::Cause::InUse: return OpeningProblem::InUse;
@@ -67,6 +71,9 @@ Opened OpenToWork(const QString& pad) {
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
+  // What is stored opens again: an edit that would make the file larger than that fails.
+  database.Run(QStringLiteral("PRAGMA max_page_count = %1")
+                   .arg(kMostFile / database.Value(QStringLiteral("PRAGMA page_size")).toLongLong()));
   // The log is worked off whole or not at all: FileJournal::WorkOff.
   database.Run(QStringLiteral("PRAGMA wal_autocheckpoint = 0"));
   // Where the file cannot be written, it shows here and not at the first edit.
@@ -122,6 +129,8 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     dossier_ = std::make_shared<dossier::Dossier>(std::move(opened.contents.gegevens), std::move(omgeving));
     *doel = dossier_;
     ComeToRest();
+  } catch (const ContentsError& error) {
+    throw OpeningError(ProblemOf(error), pad_, QString::fromStdString(error.Place()));
   } catch (const DatabaseError& error) {
     throw OpeningError(ProblemOf(error), pad_);
   } catch (const LockError& error) {
@@ -191,6 +200,8 @@ std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &j
 std::shared_ptr<StoreTrace> DossierFile::MaakTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
   return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
 }
+
+void DossierFile::WorkOff() noexcept { journal_->WorkOff(); }
 
 QStringList DossierFile::ControleerHeelheid() {
   Database& database = *journal_->Bestand();

@@ -57,6 +57,8 @@ class DossierFile {
   /// The file stands where it was opened: it was not moved, replaced or deleted. Where it was, every change fails, and
   /// what is stored can be kept by making another file with Dossier()->Gegevens().
   [[nodiscard]] bool InPlace() const;
+  /// Works the log off now, where no edit is under way and the disk lets it: the file alone holds everything.
+  void WorkOff() noexcept;
   /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
   [[nodiscard]] QStringList ControleerHeelheid();
 

@@ -27,9 +27,24 @@ std::string Oorzaak(const DatabaseError& error) {
   }
 }
 
-host::Error AlsFout(const DatabaseError& error) {
-  return {kStoreError + static_cast<std::int32_t>(error.Code()),
-          "De wijziging is niet opgeslagen: " + Oorzaak(error) + ".", kBron};
+host::Error AlsFout(const DatabaseError& error, const std::string& oorzaak) {
+  return {kStoreError + static_cast<std::int32_t>(error.Code()), "De wijziging is niet opgeslagen: " + oorzaak + ".",
+          kBron};
+}
+
+host::Error AlsFout(const DatabaseError& error) { return AlsFout(error, Oorzaak(error)); }
+
+/// Pages that the longest texts of a column would take, and something for the tables.
+constexpr qlonglong kRoomForAnEdit = 256;
+
+/// Whether the file has as many pages as it may have: SQLite says so with the code of a full disk.
+bool IsAsLargeAsItMayBe(Database& database) {
+  const auto number = [&](const char* sql) { return database.Value(QLatin1String(sql)).toLongLong(); };
+  try {
+    return number("PRAGMA page_count") + kRoomForAnEdit >= number("PRAGMA max_page_count");
+  } catch (const DatabaseError&) {
+    return false;
+  }
 }
 
 QVariant AlsVariant(const Waarde& waarde) {
@@ -115,6 +130,8 @@ template <class Change> void FileJournal::Write(Change&& change) {
     try {
       change(Open());
     } catch (const DatabaseError& error) {
+      if (error.Code() == SqliteCode::Full && IsAsLargeAsItMayBe(Open()))
+        throw AlsFout(error, "het dossier is zo groot als een dossier kan zijn");
       throw AlsFout(error);
     }
   });

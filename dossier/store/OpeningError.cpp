@@ -16,14 +16,13 @@ QString Tekst(OpeningProblem problem, const QString& naam, const QString& map, c
     case OpeningProblem::Impossible:
       return QStringLiteral(
                  "Het dossier \"%1\" is niet geopend: het bevat een waarde die dit programma niet schrijft (%2). Zet "
-                 "een "
-                 "reservekopie terug.")
+                 "een reservekopie terug.")
           .arg(naam, plaats);
     case OpeningProblem::TooLarge:
       return QStringLiteral("Het bestand \"%1\" is niet geopend: het is groter dan een dossier kan zijn.").arg(naam);
     case OpeningProblem::Damaged:
-      return QStringLiteral("Het dossier \"%1\" is beschadigd en is niet geopend. Zet een reservekopie terug.")
-          .arg(naam);
+      return QStringLiteral("Het dossier \"%1\" is beschadigd en is niet geopend%2. Zet een reservekopie terug.")
+          .arg(naam, plaats.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(plaats));
     case OpeningProblem::Newer:
       return QStringLiteral(
                  "Het dossier \"%1\" is gemaakt met een nieuwere versie van dit programma. "

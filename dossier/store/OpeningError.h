@@ -34,7 +34,7 @@ enum class OpeningProblem {
 /// A loan file that cannot be opened or made. The file itself was left as it was.
 class OpeningError : public std::exception {
  public:
-  /// `plaats`: where in the case it lies, in Dutch, for Impossible.
+  /// `plaats`: where in the case it lies, in Dutch: for Impossible, and for Damaged where that is known.
   OpeningError(OpeningProblem problem, const QString& pad, const QString& plaats = {});
 
   [[nodiscard]] OpeningProblem Problem() const noexcept { return problem_; }

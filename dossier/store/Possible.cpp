@@ -4,8 +4,8 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <set>
 #include <span>
+#include <unordered_set>
 
 #include "dossier/store/Fields.h"
 #include "frame/Calendar.h"
@@ -140,37 +140,65 @@ const Rule* RuleOf(std::span<const Rule> rules, std::string_view field) {
 /// A field without a rule may hold nothing: a new field is told here before it is stored.
 bool MayHold(const Rule* rule, const Waarde& value) { return rule != nullptr && rule->possible(value); }
 
+std::string InWords(std::span<const Rule> rules, std::string_view field) {
+  const Rule* rule = RuleOf(rules, field);
+  return rule ? std::string(rule->name) : std::string(field);
+}
+
 /// Looks at the fields that it is handed, and keeps what the first one is called that breaks its rule.
 class Look {
  public:
   explicit Look(std::span<const Rule> rules) : rules_(rules) {}
   void operator()(std::string_view field, const auto& value) {
     if (found) return;
-    const Rule* rule = RuleOf(rules_, field);
-    if (!MayHold(rule, AlsWaarde(value))) found = rule ? std::string(rule->name) : std::string(field);
+    if (!MayHold(Next(field), AlsWaarde(value))) found = InWords(rules_, field);
   }
   std::optional<std::string> found;
 
  private:
+  /// The rules stand in the order in which the fields come by; one that does not is looked for.
+  const Rule* Next(std::string_view field) {
+    if (next_ < rules_.size() && rules_[next_].field == field) return &rules_[next_++];
+    const Rule* rule = RuleOf(rules_, field);
+    if (rule) next_ = static_cast<std::size_t>(rule - rules_.data()) + 1;
+    return rule;
+  }
+
   std::span<const Rule> rules_;
+  std::size_t next_ = 0;
 };
 
-std::string NameOf(std::size_t loan) {
-  return loan == 0 ? "de huidige situatie" : "lening " + std::to_string(loan) + " van de nieuwe situatie";
-}
-
 std::optional<std::string> FirstImpossible(const LeningGegevens& loan, std::size_t number) {
-  if (!IsPossibleText(loan.Naam)) return "naam van " + NameOf(number);
-  std::set<std::int16_t> ids;
+  if (!IsPossibleText(loan.Naam)) return "naam van " + LoanInWords(number);
+  std::unordered_set<std::int16_t> ids;
+  ids.reserve(loan.VrijeKolommen.size());
   for (const KolomGegevens& column : loan.VrijeKolommen) {
-    const std::string place = "kolom " + std::to_string(column.Id) + " van " + NameOf(number) + ", ";
-    if (!ids.insert(column.Id).second) return place + "nummer komt twee keer voor";
-    if (const auto field = FirstImpossible(column)) return place + *field;
+    const auto at = [&](const std::string& what) { return ColumnInWords(column.Id, number) + ", " + what; };
+    if (!ids.insert(column.Id).second) return at("nummer komt twee keer voor");
+    if (const auto field = FirstImpossible(column)) return at(*field);
   }
   return std::nullopt;
 }
 
 }  // namespace
+
+std::string LoanInWords(std::size_t loan) {
+  return loan == 0 ? "de huidige situatie" : "lening " + std::to_string(loan) + " van de nieuwe situatie";
+}
+
+std::string ColumnInWords(std::int16_t Vrij_Id, std::size_t loan) {
+  return "kolom " + std::to_string(Vrij_Id) + " van " + LoanInWords(loan);
+}
+
+std::string PersonInWords(std::size_t person) { return person == 0 ? "aanvrager" : "partner"; }
+
+std::string PeriodeInWords(std::size_t periode) { return "periode " + std::to_string(periode); }
+
+std::string KolomFieldInWords(std::string_view field) { return InWords(kKolomRules, field); }
+
+std::string PeriodeFieldInWords(std::string_view field) { return InWords(kPeriodeRules, field); }
+
+std::string TooManyLoans() { return "meer dan " + std::to_string(kMostLoans) + " leningen"; }
 
 bool IsPossible(KolomVeld field, const Waarde& value) { return MayHold(RuleOf(kKolomRules, field.naam), value); }
 
@@ -189,7 +217,7 @@ std::optional<std::string> FirstImpossible(const KolomGegevens& kolom) {
   for (std::size_t n = 0; n < kolom.Bedrag.Perioden.size(); ++n) {
     Look inPeriod(kPeriodeRules);
     BezoekPeriode(kolom.Bedrag.Perioden[n], inPeriod);
-    if (inPeriod.found) return "periode " + std::to_string(n + 1) + ", " + *inPeriod.found;
+    if (inPeriod.found) return PeriodeInWords(n + 1) + ", " + *inPeriod.found;
   }
   return std::nullopt;
 }
@@ -204,13 +232,13 @@ std::optional<std::string> FirstImpossible(const DossierGegevens& dossier) {
   if (!IsPossibleAgeLimit(dossier.Leeftijd)) return "leeftijdsgrens";
   for (std::size_t n = 0; n < dossier.Personen.size(); ++n) {
     if (const auto field = FirstImpossible(dossier.Personen[n])) {
-      return (n == 0 ? "aanvrager, " : "partner, ") + *field;
+      return PersonInWords(n) + ", " + *field;
     }
   }
   for (const Code& code : dossier.MaatschappijType) {
     if (!IsPossibleText(code.code) || !IsPossibleText(code.tekst)) return "lijst van maatschappijen";
   }
-  if (dossier.Leningen.size() > kMostLoans) return "meer dan " + std::to_string(kMostLoans) + " leningen";
+  if (dossier.Leningen.size() > kMostLoans) return TooManyLoans();
   if (auto place = FirstImpossible(dossier.HuidigeLening, 0)) return place;
   for (std::size_t n = 0; n < dossier.Leningen.size(); ++n) {
     if (auto place = FirstImpossible(dossier.Leningen[n], n + 1)) return place;

@@ -31,6 +31,20 @@ inline constexpr std::int64_t kMostFile = std::int64_t{64} << 20;
 [[nodiscard]] bool IsPossibleAgeLimit(std::int16_t leeftijd);
 [[nodiscard]] bool IsPossibleText(std::string_view text);
 
+/// How a place in a case is told, in Dutch: "de huidige situatie" is loan 0, "lening 2 van de nieuwe situatie" loan 2.
+[[nodiscard]] std::string LoanInWords(std::size_t loan);
+/// "kolom 3 van de huidige situatie".
+[[nodiscard]] std::string ColumnInWords(std::int16_t Vrij_Id, std::size_t loan);
+/// The applicant is 0.
+[[nodiscard]] std::string PersonInWords(std::size_t person);
+/// The first is 1.
+[[nodiscard]] std::string PeriodeInWords(std::size_t periode);
+/// A field by its name in the model; one without a rule goes by that name.
+[[nodiscard]] std::string KolomFieldInWords(std::string_view field);
+[[nodiscard]] std::string PeriodeFieldInWords(std::string_view field);
+/// There are more loans than kMostLoans.
+[[nodiscard]] std::string TooManyLoans();
+
 /// The first value that is not possible, told in Dutch by its place: "kolom 3 van de huidige situatie, termijn".
 [[nodiscard]] std::optional<std::string> FirstImpossible(const KolomGegevens& kolom);
 [[nodiscard]] std::optional<std::string> FirstImpossible(const PersoonGegevens& persoon);

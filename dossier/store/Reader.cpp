@@ -10,14 +10,27 @@
 #include <unordered_map>
 
 #include "dossier/store/Fields.h"
+#include "dossier/store/Possible.h"
 #include "frame/Calendar.h"
 
 namespace brivane::dossier {
 namespace {
 
-[[noreturn]] void Beschadigd() {
-  throw DatabaseError(QSqlError({}, QStringLiteral("The file holds impossible values"), QSqlError::UnknownError,
-                                QString::number(static_cast<int>(SqliteCode::Corrupt))));
+/// A number that does not fit what it is read into: who reads it knows the place.
+struct OutOfRange {};
+
+[[noreturn]] void Damaged(const std::string& place) { throw ContentsError(ContentsError::What::Structure, place); }
+
+/// Runs `read`, and tells a value in it that cannot be by its place.
+template <class Read, class Place> void At(Place&& place, Read&& read) {
+  try {
+    read();
+  } catch (const OutOfRange&) {
+    throw ContentsError(ContentsError::What::Value, place());
+  }
+}
+template <class Read> void At(const char* place, Read&& read) {
+  At([&] { return std::string(place); }, std::forward<Read>(read));
 }
 
 /// Keys and places start at 1, and new ones are given out after the highest.
@@ -31,31 +44,29 @@ class Rij {
   void Lees(std::integral auto& getal) {
     using Getal = std::remove_reference_t<decltype(getal)>;
     const qlonglong waarde = query_.value(plaats_++).toLongLong();
-    if (waarde < std::numeric_limits<Getal>::min() || waarde > std::numeric_limits<Getal>::max()) Beschadigd();
+    if (waarde < std::numeric_limits<Getal>::min() || waarde > std::numeric_limits<Getal>::max()) throw OutOfRange();
     getal = static_cast<Getal>(waarde);
   }
   void Lees(double& getal) { getal = query_.value(plaats_++).toDouble(); }
   void Lees(float& getal) {
     const double waarde = query_.value(plaats_++).toDouble();
-    if (std::isfinite(waarde) && std::fabs(waarde) > std::numeric_limits<float>::max()) Beschadigd();
+    if (std::isfinite(waarde) && std::fabs(waarde) > std::numeric_limits<float>::max()) throw OutOfRange();
     getal = static_cast<float>(waarde);
   }
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
     Lees(dagen);
     datum = host::Date(dagen);
-    if (datum < frame::kFirstDay || datum > frame::kLastDay) Beschadigd();
+    if (datum < frame::kFirstDay || datum > frame::kLastDay) throw OutOfRange();
   }
   /// A key, or a place in an order.
   void LeesSleutel(std::int64_t& sleutel) {
     Lees(sleutel);
-    if (sleutel < 1 || sleutel > kHoogsteSleutel) Beschadigd();
+    if (sleutel < 1 || sleutel > kHoogsteSleutel) throw OutOfRange();
   }
-  /// A row's number, which counts on from the rows before it.
-  void LeesNummer(std::size_t verwacht) {
-    std::int16_t nummer = 0;
-    Lees(nummer);
-    if (nummer < 0 || static_cast<std::size_t>(nummer) != verwacht) Beschadigd();
+  /// Whether a row's number counts on from the rows before it.
+  [[nodiscard]] bool HeeftNummer(std::size_t verwacht) {
+    return query_.value(plaats_++).toLongLong() == static_cast<qlonglong>(verwacht);
   }
   void Lees(std::string& tekst) {
     const QByteArray bytes = query_.value(plaats_++).toByteArray();
@@ -98,16 +109,22 @@ std::vector<Opbouw> LeesLeningen(Database& database) {
                              "(SELECT count(*) FROM vrijekolom WHERE lening = lening.sleutel) "
                              "FROM lening ORDER BY nummer"),
               [&](Rij& rij) {
-                rij.LeesNummer(leningen.size());
+                const std::size_t nummer = leningen.size();
+                if (!rij.HeeftNummer(nummer)) Damaged(LoanInWords(nummer) + " ontbreekt");
+                // Looking up the loan of each column would take ever longer.
+                if (nummer > kMostLoans) throw ContentsError(ContentsError::What::Value, TooManyLoans());
                 Opbouw& opbouw = leningen.emplace_back();
-                rij.LeesSleutel(opbouw.lening.Sleutel);
-                rij.Lees(opbouw.lening.Naam);
                 std::int32_t kolommen = 0;
-                rij.Lees(kolommen);
+                At([&] { return LoanInWords(nummer) + ", sleutel"; },
+                   [&] {
+                     rij.LeesSleutel(opbouw.lening.Sleutel);
+                     rij.Lees(opbouw.lening.Naam);
+                     rij.Lees(kolommen);
+                   });
                 opbouw.lening.VrijeKolommen.reserve(static_cast<std::size_t>(kolommen));
                 opbouw.volgorde.reserve(static_cast<std::size_t>(kolommen));
               });
-  if (leningen.empty()) Beschadigd();
+  if (leningen.empty()) Damaged(LoanInWords(0) + " ontbreekt");
   return leningen;
 }
 
@@ -122,12 +139,38 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
     rij.Lees(sleutel);
     const auto opbouw = std::find_if(leningen.begin(), leningen.end(),
                                      [&](const Opbouw& kandidaat) { return kandidaat.lening.Sleutel == sleutel; });
-    if (opbouw == leningen.end()) Beschadigd();
-    rij.LeesSleutel(opbouw->volgorde.emplace_back());
+    if (opbouw == leningen.end()) Damaged("een kolom hoort bij geen lening");
     KolomGegevens& kolom = opbouw->lening.VrijeKolommen.emplace_back();
-    rij.LeesSleutel(kolom.Sleutel);
-    BezoekKolom(kolom, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
+    kolom.Id = 0;
+    std::string_view veld = "volgorde";
+    At(
+        [&] {
+          const auto lening = static_cast<std::size_t>(opbouw - leningen.begin());
+          // Its own number is the first of its fields.
+          const std::string welke =
+              kolom.Id == 0 ? "een kolom van " + LoanInWords(lening) : ColumnInWords(kolom.Id, lening);
+          return welke + ", " + KolomFieldInWords(veld);
+        },
+        [&] {
+          rij.LeesSleutel(opbouw->volgorde.emplace_back());
+          veld = "sleutel";
+          rij.LeesSleutel(kolom.Sleutel);
+          BezoekKolom(kolom, [&](std::string_view naam, auto& waarde) {
+            veld = naam;
+            rij.Lees(waarde);
+          });
+        });
   });
+}
+
+/// A column in words, by its key.
+std::string PlaceOf(const std::vector<Opbouw>& leningen, Sleutel sleutel) {
+  for (std::size_t nummer = 0; nummer < leningen.size(); ++nummer) {
+    for (const KolomGegevens& kolom : leningen[nummer].lening.VrijeKolommen) {
+      if (kolom.Sleutel == sleutel) return ColumnInWords(kolom.Id, nummer);
+    }
+  }
+  return "een kolom";
 }
 
 /// Gives the columns their periods, and answers the highest key.
@@ -151,10 +194,21 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
     Sleutel kolom = 0;
     rij.Lees(kolom);
     const auto eigenaar = perioden.find(kolom);
-    if (eigenaar == perioden.end()) Beschadigd();
+    if (eigenaar == perioden.end()) Damaged("een periode hoort bij geen kolom");
     PeriodeGegevens& periode = eigenaar->second->emplace_back();
-    rij.LeesSleutel(periode.Sleutel);
-    BezoekPeriode(periode, [&](std::string_view, auto& waarde) { rij.Lees(waarde); });
+    std::string_view veld = "sleutel";
+    At(
+        [&] {
+          return PlaceOf(leningen, kolom) + ", " + PeriodeInWords(eigenaar->second->size()) + ", " +
+                 PeriodeFieldInWords(veld);
+        },
+        [&] {
+          rij.LeesSleutel(periode.Sleutel);
+          BezoekPeriode(periode, [&](std::string_view naam, auto& waarde) {
+            veld = naam;
+            rij.Lees(waarde);
+          });
+        });
     hoogste = periode.Sleutel;
   });
   return hoogste;
@@ -197,19 +251,22 @@ StoredDossier LeesDossier(Database& database) {
   DossierGegevens& dossier = gelezen.gegevens;
   std::size_t dossiers = 0;
   VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {
-    rij.LeesNummer(++dossiers);
-    rij.Lees(dossier.Leeftijd);
+    if (!rij.HeeftNummer(++dossiers)) Damaged("uitgangspunten");
+    At("leeftijdsgrens", [&] { rij.Lees(dossier.Leeftijd); });
   });
+  if (dossiers != 1) Damaged("de uitgangspunten ontbreken");
   VoorElkeRij(database,
               QStringLiteral("SELECT nummer, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), "
                              "geboortedatum FROM persoon ORDER BY nummer"),
               [&](Rij& rij) {
-                rij.LeesNummer(dossier.Personen.size() + 1);
+                const std::size_t plaats = dossier.Personen.size();
+                if (!rij.HeeftNummer(plaats + 1)) Damaged(PersonInWords(plaats) + " ontbreekt");
                 PersoonGegevens& persoon = dossier.Personen.emplace_back();
                 for (std::string& naam : persoon.Naam) rij.Lees(naam);
-                rij.Lees(persoon.Geboortedatum);
+                At([&] { return PersonInWords(plaats) + ", geboortedatum"; }, [&] { rij.Lees(persoon.Geboortedatum); });
               });
-  if (dossiers != 1 || dossier.Personen.empty() || dossier.Personen.size() > 2) Beschadigd();
+  if (dossier.Personen.empty()) Damaged(PersonInWords(0) + " ontbreekt");
+  if (dossier.Personen.size() > 2) Damaged("meer dan twee personen");
   VoorElkeRij(database,
               QStringLiteral("SELECT CAST(code AS BLOB), CAST(tekst AS BLOB) FROM maatschappij_type ORDER BY volgorde"),
               [&](Rij& rij) {
@@ -221,9 +278,9 @@ StoredDossier LeesDossier(Database& database) {
   VoorElkeRij(database, QStringLiteral("SELECT voorstel, vrij_id FROM voorstel"), [&](Rij& rij) {
     std::int16_t voorstel = 0;
     std::int16_t Vrij_Id = 0;
-    rij.Lees(voorstel);
-    rij.Lees(Vrij_Id);
-    if (voorstel < 1 || voorstel > 3) Beschadigd();
+    At("voorstel", [&] { rij.Lees(voorstel); });
+    if (voorstel < 1 || voorstel > 3) Damaged("voorstel " + std::to_string(voorstel));
+    At([&] { return "voorstel " + std::to_string(voorstel); }, [&] { rij.Lees(Vrij_Id); });
     dossier.Voorstellen[static_cast<std::size_t>(voorstel - 1)].insert(Vrij_Id);
   });
   return gelezen;

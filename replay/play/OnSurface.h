@@ -7,6 +7,7 @@
 
 #include "controls/Form.h"
 #include "controls/ListBox.h"
+#include "controls/life/HeldHost.h"
 #include "replay/play/Subject.h"
 #include "scenario/frmScenario.h"
 
@@ -49,7 +50,7 @@ class SurfaceForm final : public OnSurface<FormScreen> {
   void Close() override { window_.Perform(controls::Close{}); }
   [[nodiscard]] host::Color BackColor() override { return form_.BackColor(); }
   [[nodiscard]] std::int16_t AantalJaar() override { return form_.AantalJaar(); }
-  [[nodiscard]] std::shared_ptr<host::BedragObject> Scenario() override { return form_.Scenario(); }
+  [[nodiscard]] std::shared_ptr<host::BedragObject> Scenario() override { return controls::HostsOwn(form_.Scenario()); }
 
  protected:
   [[nodiscard]] controls::Surface& Surface() override { return window_; }

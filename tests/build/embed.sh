@@ -1,17 +1,50 @@
 #!/usr/bin/env bash
-# embed.sh ROOT BUILD WORK CMAKE: installs the build into an empty prefix, builds the examples against it with
-# find_package, and runs them. The examples see the prefix and not the source tree.
+# embed.sh ROOT BUILD WORK CMAKE CXX: installs the build into an empty prefix, and embeds what stands there as its users
+# do: the examples with find_package, one of them by pkg-config, and without Qt. They see the prefix and not the source
+# tree. None of the library's own flags reaches them.
 set -euo pipefail
-root=$1 build=$2 work=$3 cmake=$4
+root=$1 build=$2 work=$3 cmake=$4 cxx=$5
 rm -rf "$work"
 mkdir -p "$work"
 "$cmake" --install "$build" --prefix "$work/prefix" >"$work/install.log"
 cp -r "$root/examples" "$work/examples"
-"$cmake" -G Ninja -S "$work/examples" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_BUILD_TYPE=Release \
-  -DCMAKE_CXX_FLAGS="-Wall -Wextra -Wpedantic -Werror" >"$work/configure.log"
+configure() {  # BUILD [OPTION...]
+  local into=$work/$1
+  shift
+  "$cmake" -G Ninja -S "$work/examples" -B "$into" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_BUILD_TYPE=Release \
+    -DCMAKE_CXX_FLAGS="-Wall -Wextra -Wpedantic" "$@"
+}
+
+echo "== with find_package"
+configure build -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/configure.log"
+if grep -E -- '-Werror|-ffp-contract|-Wshadow|-Wconversion' "$work/build/compile_commands.json"; then
+  echo "flags of the library reach who links it" && exit 1
+fi
 "$cmake" --build "$work/build"
 for example in "$work"/build/*_example; do
   echo "== $(basename "$example")"
   QT_QPA_PLATFORM=offscreen "$example" --quit
 done
+
+echo "== without Qt on the machine"
+configure without -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON >"$work/without.log"
+grep -q '^build memory_example: ' "$work/without/build.ninja"
+if grep '^build qt_example: ' "$work/without/build.ninja"; then
+  echo "the Qt part is there although Qt is not" && exit 1
+fi
+sed -i 's/OPTIONAL_COMPONENTS Qt/COMPONENTS Qt/' "$work/examples/CMakeLists.txt"
+if configure required -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON 2>"$work/required.log" >&2; then
+  echo "the Qt part was required, is not there, and nobody says so" && exit 1
+fi
+tr -s '\n ' ' ' <"$work/required.log" | grep -q 'its Qt component needs Qt 6.4 or later'
+
+echo "== with pkg-config"
+export PKG_CONFIG_PATH
+PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name brivane-vrijekolom.pc)")
+read -ra flags <<<"$(pkg-config --define-prefix --cflags --libs brivane-vrijekolom)"
+"$cxx" -I"$root/examples" "$root/examples/memory/main.cpp" "${flags[@]}" -o "$work/by_pkg_config"
+"$work/by_pkg_config" --quit
+if [[ -e $PKG_CONFIG_PATH/brivane-vrijekolom-qt.pc ]]; then
+  pkg-config --define-prefix --print-requires brivane-vrijekolom-qt | grep -q '^Qt6Widgets >= 6.4$'
+fi
 rm -rf "$work"

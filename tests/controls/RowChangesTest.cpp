@@ -1,11 +1,14 @@
 #include "host/controls/CheckBox.h"
+#include "scenario/Ontwerp.h"
 #include "tests/controls/entry/EntryDesk.h"
 
 /// A person closes a form by Escape or its close box.
 namespace brivane::controls {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 class RowChangesTest : public RowsTest {
  protected:
@@ -29,11 +32,62 @@ TEST_F(RowChangesTest, AreAskedAboutOnceARowWasEntered) {
   TypeOver(Row(2), "5");
   EXPECT_TRUE(Edit(Row(2)).Commit());
   EXPECT_FALSE(Closes());
-  EXPECT_THAT(toolkit.asked,
-              ElementsAre("Proefformulier: De gewijzigde rijen worden niet bewaard als u het venster sluit zonder op "
-                          "OK te drukken. Wilt u het sluiten?"));
+  EXPECT_THAT(toolkit.asked, ElementsAre("Proefformulier: De wijzigingen in de rijen worden niet bewaard als u het "
+                                         "venster sluit zonder op OK te drukken. Wilt u het sluiten?"));
   toolkit.answer = host::MessageAnswer::Yes;
   EXPECT_TRUE(Closes());
+}
+
+TEST_F(RowChangesTest, LeaveTheAmountOfTheFirstRowAndSaySo) {
+  TypeOver(Row(1), "5");
+  EXPECT_TRUE(Edit(Row(1)).Commit());
+  TypeOver(Row(3), "6");
+  EXPECT_TRUE(Edit(Row(3)).Commit());
+  EXPECT_FALSE(Closes());
+  EXPECT_THAT(
+      toolkit.asked,
+      ElementsAre("Proefformulier: Het bedrag van de eerste rij is bij het invullen al bewaard en blijft staan. "
+                  "De andere wijzigingen worden niet bewaard als u het venster sluit zonder op OK te drukken. "
+                  "Wilt u het sluiten?"));
+}
+
+TEST_F(RowChangesTest, LeaveNothingOfTheFirstRowBesideItsAmount) {
+  EXPECT_EQ(toolkit.Hand(AnyControl::Of(*form->Element(kEenmalig.row, 1)), Tick{host::kTicked}), Outcome::Done);
+  EXPECT_FALSE(Closes());
+  refuse = true;
+  EXPECT_EQ(toolkit.Hand(Row(1), Enter{5.0}), Outcome::Refused);
+  EXPECT_FALSE(Closes());
+  EXPECT_THAT(toolkit.asked, Each(StartsWith("Proefformulier: De wijzigingen in de rijen worden niet bewaard")));
+}
+
+TEST_F(RowChangesTest, OfWhatIsBeingTypedAreLostToo) {
+  TypeOver(Row(1), "5");
+  EXPECT_FALSE(Closes());
+  EXPECT_THAT(
+      toolkit.asked,
+      ElementsAre("Proefformulier: De wijzigingen in de rijen worden niet bewaard als u het venster sluit zonder "
+                  "op OK te drukken. Dat geldt ook voor wat u nu aan het typen bent. Wilt u het sluiten?"));
+}
+
+/// A form whose rows hold percentages.
+TEST(RowChangesWithoutAmounts, LeaveTheValueOfTheFirstRow) {
+  TestToolkit toolkit;
+  const std::unique_ptr<host::Form> form = toolkit.MakeForm(scenario::kOntwerp);
+  const auto row = [&](std::size_t design, int index) -> AnyControl& {
+    form->Create(design, index).SetVisible(true);
+    return AnyControl::Of(*form->Element(design, index));
+  };
+  EXPECT_EQ(toolkit.Hand(row(scenario::txtPercentage.row, 1), Enter{5.0}), Outcome::Done);
+  RowChanges::Close(dynamic_cast<Form&>(*form), toolkit);
+  // Beside amounts a percentage of the first row waits for OK.
+  const std::unique_ptr<host::Form> growth = toolkit.MakeForm(scenario::kOntwerp);
+  growth->Create(scenario::txtBedrag.row, 1).SetVisible(true);
+  growth->Create(scenario::txtPercentage.row, 1).SetVisible(true);
+  EXPECT_EQ(toolkit.Hand(AnyControl::Of(*growth->Element(scenario::txtPercentage.row, 1)), Enter{5.0}), Outcome::Done);
+  RowChanges::Close(dynamic_cast<Form&>(*growth), toolkit);
+  EXPECT_THAT(toolkit.asked,
+              ElementsAre(StartsWith("Scenario: De waarde van de eerste rij is bij het invullen al bewaard"),
+                          StartsWith("Scenario: De wijzigingen in de rijen worden niet bewaard")));
 }
 
 TEST_F(RowChangesTest, AreAskedAboutAfterATick) {

@@ -36,6 +36,17 @@ TEST(TypedDate, PutsAYearOfTwoDigitsBetween1980And2079) {
   for (const Accepted& row : kTable) EXPECT_EQ(frame::Split(*ReadDate(row.typed)), row.date) << row.typed;
 }
 
+TEST(TypedDate, OfThePastHasAYearOfTwoDigitsBeforeThisDay) {
+  const Accepted kTable[] = {{"1-2-80", {1980, 2, 1}},   {"010250", {1950, 2, 1}},     {"1-2-30", {1930, 2, 1}},
+                             {"1-1-27", {1927, 1, 1}},   {"21-11-26", {2026, 11, 21}}, {"22-11-26", {1926, 11, 22}},
+                             {"1-12-26", {1926, 12, 1}}, {"1-1-00", {2000, 1, 1}},     {"1-2-2050", {2050, 2, 1}},
+                             {"1-2-1919", {1919, 2, 1}}};
+  const host::Date today = frame::MakeDate({2026, 11, 22});
+  for (const Accepted& row : kTable) EXPECT_EQ(frame::Split(*ReadPastDate(row.typed, today)), row.date) << row.typed;
+  EXPECT_TRUE(ReadPastDate("", today).IsEmpty());
+  EXPECT_EQ(ReadPastDate("31-4-50", today).Reason(), "31 april 1950 bestaat niet.");
+}
+
 TEST(TypedDate, MayBeEmpty) {
   EXPECT_TRUE(ReadDate("").IsEmpty());
   EXPECT_TRUE(ReadDate("  ").IsEmpty());

@@ -5,7 +5,7 @@ set -euo pipefail
 cmake=$1 build=$2 golden=$3 work=$4
 rm -rf "$work"
 mkdir -p "$work"
-"$cmake" --install "$build" --component replay --prefix "$work/prefix" >"$work/install.log"
+"$cmake" --install "$build" --component tools --prefix "$work/prefix" >"$work/install.log"
 program=$work/prefix/bin/vrijekolom-replay
 schema=$("$program" --help | sed -n 's/^The JSON Schema of the document is installed as \(.*\)\.$/\1/p')
 test -s "$work/prefix/$schema"

@@ -2,9 +2,12 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "controls/entry/KeysUnderWay.h"
+#include "controls/life/Life.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::qt {
@@ -15,6 +18,10 @@ namespace brivane::qt {
 /// counts only after a pause in the typing.
 class Desktop final : public host::Desktop {
  public:
+  Desktop() = default;
+  /// Whoever asks it something after that life has ended is abandoned; what is open then closes.
+  explicit Desktop(std::shared_ptr<controls::Life> life) : life_(std::move(life)) {}
+
   /// Answers today's date instead of the clock, when set.
   std::function<host::Date()> clock;
   /// Answers a message box instead of a person, when set.
@@ -25,10 +32,18 @@ class Desktop final : public host::Desktop {
 
   /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
   std::function<std::string(const std::string& title, const std::string& text)> details;
+  /// A button that the host puts beside OK in a message of the controls, and what it does when the box was closed by
+  /// it. The controls go on as after OK.
+  struct Offer {
+    std::string button;
+    std::function<void()> taken;
+  };
+  std::function<std::optional<Offer>(const std::string& title, const std::string& text)> offer;
   /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
   std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is told or asked for details.
+  /// A message box of the toolkit's own: as MessageBox, and the host is told and asked nothing, and nobody abandoned.
+  /// Where the life has ended, or the box goes with the window that it belongs to, it answers "Nee".
   [[nodiscard]] host::MessageAnswer Ask(const std::string& title, const std::string& text, host::MessageStyle style);
 
   [[nodiscard]] std::string ApplicationTitle() const override;
@@ -41,8 +56,16 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] std::string FormatWhole(double number) const override;
 
  private:
-  [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const std::string& below,
+  /// What the host adds to a message box.
+  struct Additions {
+    std::string below;
+    std::optional<Offer> offer;
+  };
+  [[nodiscard]] Additions Added(const std::string& title, const std::string& text, host::MessageStyle style) const;
+  [[nodiscard]] host::MessageAnswer Show(const std::string& title, const std::string& text, const Additions& added,
                                          host::MessageStyle style) const;
+
+  std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
 };
 
 }  // namespace brivane::qt

@@ -11,8 +11,12 @@ ToelichtingWidget::ToelichtingWidget(QWidget* parent) : ControlWidget(toelichtin
 ToelichtingWidget::~ToelichtingWidget() = default;
 
 void ToelichtingWidget::MakeControl(const host::HostFactories& factories) {
-  control_ = std::make_unique<Toelichting>(Surface(), Toolkit().Desktop(), factories);
-  subscriptions_ += control_->Changed.Connect([this] { emit changed(); });
+  control_ = std::make_shared<Toelichting>(Surface(), Toolkit().Desktop(), factories);
+  Keep(control_);
+  subscriptions_ += control_->Changed.Connect([this, life = Life()] {
+    emit changed();
+    life->Check();
+  });
 }
 
 void ToelichtingWidget::ColorControl(host::Color color) {
@@ -25,19 +29,22 @@ void ToelichtingWidget::UnbindControl() {
 
 controls::BindingResult ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
                                                           std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
-  Toelichting& control = host::Need(control_);
-  return Bind([&] { control.SetApplication(Application, Lening, Vrij_Id); }, Application == nullptr);
+  const auto bind = [&, &control = host::Need(control_), &held = Host()] {
+    std::shared_ptr<host::Application> application = held.Hold(Application);
+    std::shared_ptr<host::Lening> lening = held.Hold(Lening);
+    control.SetApplication(application, lening, Vrij_Id);
+  };
+  return Bind(bind, Application == nullptr);
 }
 
 void ToelichtingWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  const QPointer<const QWidget> alive(this);
-  if (!MayCheck(Cancel)) Cancel = true;
-  if (alive && !IsVoid()) host::Need(control_).Validation(Cancel, ControleNr);
+  Check(Cancel,
+        [&control = host::Need(control_), ControleNr](bool& cancel) { control.Validation(cancel, ControleNr); });
 }
 
 void ToelichtingWidget::resizeEvent(QResizeEvent* event) {
   ControlWidget::resizeEvent(event);
-  emit heightChanged();
+  TellHeightLater();
 }
 
 }  // namespace brivane::qt

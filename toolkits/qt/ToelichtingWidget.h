@@ -20,7 +20,8 @@ class ToelichtingWidget : public ControlWidget {
   controls::BindingResult SetApplication(std::shared_ptr<host::Application>& Application,
                                          std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id);
   /// As Toelichting::Validation, after every box that is being edited was handed over; refused there is
-  /// refused here. A widget that stands for nothing has nothing to check.
+  /// refused here. A widget that stands for nothing has nothing to check. Cancel stays as it is where the widget is
+  /// deleted meanwhile.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
   /// The control behind the widget; nothing until the factories were set.
@@ -37,7 +38,7 @@ class ToelichtingWidget : public ControlWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  std::unique_ptr<Toelichting> control_;
+  std::shared_ptr<Toelichting> control_;
   host::Subscriptions subscriptions_;
 };
 

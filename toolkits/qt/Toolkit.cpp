@@ -12,6 +12,24 @@
 
 namespace brivane::qt {
 
+namespace {
+
+/// What a control ran on, until the event loop has come back to where it was: whoever delivered the event in which the
+/// control ended still stands in its widgets.
+class Remains final : public QObject {
+ public:
+  explicit Remains(std::shared_ptr<void> remains) : remains_(std::move(remains)) {}
+
+ private:
+  std::shared_ptr<void> remains_;
+};
+
+}  // namespace
+
+Toolkit::Toolkit() {
+  Life()->bury = [](std::shared_ptr<void> remains) { (new Remains(std::move(remains)))->deleteLater(); };
+}
+
 host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
   return desktop_.Ask(caption, text, style);
 }

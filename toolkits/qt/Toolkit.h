@@ -15,6 +15,8 @@ namespace brivane::qt {
 /// Must outlive the surfaces and forms that it made.
 class Toolkit : public controls::DrawnToolkit {
  public:
+  Toolkit();
+
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle style) override;
@@ -38,7 +40,7 @@ class Toolkit : public controls::DrawnToolkit {
   [[nodiscard]] std::unique_ptr<controls::FormPeer> MakeFormPeer(controls::Form& form) override;
 
  private:
-  qt::Desktop desktop_;
+  qt::Desktop desktop_{Life()};
   qt::Edge edge_;
 };
 

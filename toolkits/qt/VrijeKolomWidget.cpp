@@ -13,13 +13,18 @@ VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::
 VrijeKolomWidget::~VrijeKolomWidget() = default;
 
 void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
-  control_ = std::make_unique<VrijeKolom>(Surface(), Toolkit(), factories);
-  subscriptions_ += control_->RefreshTopDisplay.Connect([this](const std::string& text) {
-    const QPointer<VrijeKolomWidget> alive(this);
+  control_ = std::make_shared<VrijeKolom>(Surface(), Toolkit(), factories);
+  Keep(control_);
+  subscriptions_ += control_->RefreshTopDisplay.Connect([this, life = Life()](const std::string& text) {
     emit refreshTopDisplay(ToQt(text));
-    if (alive) TellTopDisplay(ToQt(text));
+    life->Check();
+    TellTopDisplay(ToQt(text));
+    life->Check();
   });
-  subscriptions_ += control_->HeightChanged.Connect([this] { emit heightChanged(); });
+  subscriptions_ += control_->HeightChanged.Connect([this, life = Life()] {
+    TellHeight();
+    life->Check();
+  });
   control_->SetBeeindigenZichtbaar(beeindigenZichtbaar_);
 }
 
@@ -33,19 +38,23 @@ void VrijeKolomWidget::UnbindControl() {
 
 controls::BindingResult VrijeKolomWidget::SetApplication(const std::shared_ptr<host::Application>& Application,
                                                          std::int16_t Len_Id, std::int16_t Vrij_Id) {
-  VrijeKolom& control = host::Need(control_);
-  return Bind([&] { control.SetApplication(Application, Len_Id, Vrij_Id); }, Application == nullptr);
+  const auto bind = [&, &control = host::Need(control_), &held = Host()] {
+    control.SetApplication(held.Hold(Application), Len_Id, Vrij_Id);
+  };
+  return Bind(bind, Application == nullptr);
 }
 
 void VrijeKolomWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  const QPointer<const QWidget> alive(this);
-  if (!MayCheck(Cancel)) Cancel = true;
-  if (alive && !IsVoid()) host::Need(control_).Validation(Cancel, ControleNr);
+  Check(Cancel,
+        [&control = host::Need(control_), ControleNr](bool& cancel) { control.Validation(cancel, ControleNr); });
 }
 
 QString VrijeKolomWidget::topDisplay() {
-  if (!topDisplay_) topDisplay_ = ReadTopDisplay();
-  return *topDisplay_;
+  if (topDisplay_) return *topDisplay_;
+  const QPointer<VrijeKolomWidget> alive(this);
+  const QString text = ReadTopDisplay();
+  if (alive) topDisplay_ = text;
+  return text;
 }
 
 QString VrijeKolomWidget::ReadTopDisplay() {
@@ -70,7 +79,7 @@ void VrijeKolomWidget::StateChanged() {
 
 void VrijeKolomWidget::SetBeeindigenZichtbaar(bool zichtbaar) {
   beeindigenZichtbaar_ = zichtbaar;
-  if (control_) control_->SetBeeindigenZichtbaar(zichtbaar);
+  if (control_) Run([&control = *control_, zichtbaar] { control.SetBeeindigenZichtbaar(zichtbaar); });
 }
 
 }  // namespace brivane::qt

@@ -30,7 +30,8 @@ class VrijeKolomWidget : public ControlWidget {
   controls::BindingResult SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id,
                                          std::int16_t Vrij_Id);
   /// As VrijeKolom::Validation, after every box that is being edited was handed over; refused there is
-  /// refused here. A widget that stands for nothing has nothing to check.
+  /// refused here. A widget that stands for nothing has nothing to check. Cancel stays as it is where the widget is
+  /// deleted meanwhile.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
@@ -58,7 +59,7 @@ class VrijeKolomWidget : public ControlWidget {
   [[nodiscard]] QString ReadTopDisplay();
   void TellTopDisplay(const QString& text);
 
-  std::unique_ptr<VrijeKolom> control_;
+  std::shared_ptr<VrijeKolom> control_;
   host::Subscriptions subscriptions_;
   bool beeindigenZichtbaar_ = false;
   std::optional<QString> topDisplay_;  ///< nothing until it is asked for

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 
 #include "app/screen/ClientDialog.h"
+#include "frame/Calendar.h"
+#include "toolkits/qt/widgets/DateBox.h"
 
 namespace brivane::app {
 namespace {
@@ -51,6 +54,28 @@ TEST_F(ClientDialogTest, ARefusalOfThePartnerEndsWithoutAPartner) {
   EXPECT_TRUE(Says(QStringLiteral("Vul de achternaam van de partner in.")));
   partner.setChecked(false);
   EXPECT_FALSE(Says(QStringLiteral("Vul de achternaam van de partner in.")));
+}
+
+TEST_F(ClientDialogTest, ABirthInAYearOfTwoDigitsLiesInThePast) {
+  Field(QStringLiteral("Aanvrager, Achternaam")).setText(QStringLiteral("Jansen"));
+  QLineEdit& date = Field(QStringLiteral("Aanvrager, Geboortedatum"));
+  date.setFocus();
+  QTest::keyClicks(&date, QStringLiteral("1-2-50"));
+  QTest::keyClick(&date, Qt::Key_Tab);
+  EXPECT_EQ(date.text(), "01-02-1950");
+  dialog_.accept();
+  EXPECT_EQ(dialog_.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog_.Contents().personen.front().Geboortedatum, frame::MakeDate({1950, 2, 1}));
+}
+
+TEST_F(ClientDialogTest, ItsCalendarOpensAtTheBirthThatIsBeingTyped) {
+  QLineEdit& date = Field(QStringLiteral("Aanvrager, Geboortedatum"));
+  date.setFocus();
+  QTest::keyClicks(&date, QStringLiteral("1-2-50"));
+  QTest::keyClick(&date, Qt::Key_F4);
+  const QWidget* const popup = dynamic_cast<qt::DateBox&>(date).Calendar();
+  ASSERT_NE(popup, nullptr);
+  EXPECT_EQ(popup->findChild<QCalendarWidget*>()->selectedDate(), QDate(1950, 2, 1));
 }
 
 TEST_F(ClientDialogTest, WhatIsRefusedIsSelected) {

@@ -68,6 +68,114 @@ TEST_F(ColumnManagementTest, RemovesAColumnOnlyAfterAYes) {
   EXPECT_FALSE(ReadAfterClosing().contains("0/3/bedrag"));
 }
 
+/// Answers the refusal of a column that has no start date yet.
+class NewColumnTest : public ColumnManagementTest {
+ protected:
+  void SetUp() override {
+    ColumnManagementTest::SetUp();
+    PressKey(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_EQ(Screen().Shown(), (Place{0, 8}));
+  }
+  void ExpectRefusal(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    dialogs_.ExpectMessage("Voer s.v.p. een aanvangsdatum in.", [key, modifiers](QWidget& window) {
+      QTest::keyClick(window.windowHandle(), key, modifiers);
+    });
+  }
+  void ExpectRemoval() { ExpectRefusal(Qt::Key_V, Qt::AltModifier); }
+};
+
+TEST_F(NewColumnTest, IsRemovedFromItsRefusalAndLeft) {
+  Type("Kinderopvang");
+  ExpectRemoval();
+  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 6}));
+  EXPECT_EQ(Kolommen(0).size(), 6);
+  EXPECT_FALSE(ReadAfterClosing().contains("0/8/bedrag"));
+}
+
+TEST_F(NewColumnTest, IsRemovedFromItsRefusalAndTheProgramClosed) {
+  ExpectRemoval();
+  PressKey(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_FALSE(window_->isVisible());
+  EXPECT_FALSE(ReadInSecondProcess(file_).contains("0/8/bedrag"));
+}
+
+TEST_F(NewColumnTest, IsRemovedFromTheRefusalOfItsDateToo) {
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("1");
+  PressKey(Qt::Key_Backspace);
+  ExpectRemoval();
+  PressKey(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_FALSE(window_->isVisible());
+  EXPECT_FALSE(ReadInSecondProcess(file_).contains("0/8/bedrag"));
+}
+
+TEST_F(NewColumnTest, StaysAfterOkEscapeAndABareLetter) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+    ExpectRefusal(key);
+    PressKey(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(Focus(), "Aanvangsdatum");
+  }
+  dialogs_.ExpectMessage("Voer s.v.p. een aanvangsdatum in.", [](QWidget& window) {
+    QTest::keyClick(window.windowHandle(), Qt::Key_V);
+    QTest::qWait(200);
+    EXPECT_TRUE(window.isVisible());
+    if (window.isVisible()) QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+  });
+  PressKey(Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
+}
+
+TEST_F(NewColumnTest, ThatIsRemovedWhenItWasToBeCopiedIsNotCopied) {
+  ExpectRemoval();
+  PressKey(Qt::Key_D, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, std::nullopt}));
+  EXPECT_EQ(Kolommen(0).size(), 6);
+}
+
+TEST_F(NewColumnTest, ThatIsCompleteIsNotOfferedForRemoval) {
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("010127");
+  PressKey(Qt::Key_Tab);
+  Type("010126");
+  dialogs_.ExpectMessage("De einddatum dient na de aanvangsdatum te liggen.", [](QWidget& window) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(window).buttons().size(), 1);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+  });
+  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
+}
+
+TEST_F(NewColumnTest, WithAnEmptiedAmountShowsWhatItsHeaderSays) {
+  PressKey(Qt::Key_B, Qt::AltModifier);
+  Type("12,5");
+  PressKey(Qt::Key_Tab);
+  PressKey(Qt::Key_B, Qt::AltModifier);
+  PressKey(Qt::Key_Delete);
+  PressKey(Qt::Key_Tab);
+  QApplication::processEvents();
+  const auto* box = window_->findChild<QLineEdit*>("TxtBd");
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->text(), "0,00");
+  EXPECT_EQ(Kolommen(0).back(), "Vrije kolom · € 0,00 per maand");
+}
+
+TEST_F(ColumnManagementTest, AFileToBeReadIsClosedAlsoOnAColumnThatIsNotComplete) {
+  window_->CloseDossier();
+  {
+    dossier::DossierGegevens gegevens = dossier::VoorbeeldDossier();
+    gegevens.Leningen.clear();
+    gegevens.HuidigeLening.VrijeKolommen.front().DatumAanvang = host::kNoDate;
+    QFile::remove(file_);
+    dossier::DossierFile::Maak(file_, gegevens);
+  }
+  ASSERT_TRUE(QFile::setPermissions(file_, QFile::ReadOwner));
+  Open();
+  ASSERT_TRUE(Screen().File().IsReadOnly());
+  EXPECT_TRUE(window_->CloseDossier());
+}
+
 TEST_F(ColumnManagementTest, ALetterAloneRemovesNoColumn) {
   ASSERT_TRUE(Screen().GoTo({0, 3}));
   PressKey(Qt::Key_F6);

@@ -29,6 +29,9 @@ class Dialogs {
   Dialogs& operator=(const Dialogs&) = delete;
 
   void Expect(Handler handler) { queue_.push_back(std::move(handler)); }
+  /// Nobody is there to see what comes up, until LookOn.
+  void LookAway() { clock_.stop(); }
+  void LookOn() { clock_.start(); }
   /// Expects a message box with this text in it.
   void ExpectMessage(const QString& text, Handler answer) {
     Expect([text, answer](QWidget& window) {

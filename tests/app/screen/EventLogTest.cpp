@@ -4,9 +4,9 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 
-#include "app/program/EventLog.h"
-#include "app/program/EventLogWindow.h"
-#include "app/program/TraceLog.h"
+#include "app/desk/EventLog.h"
+#include "app/desk/TraceLog.h"
+#include "app/screen/EventLogWindow.h"
 
 namespace brivane::app {
 namespace {

@@ -23,4 +23,13 @@ TEST(Contents, OfATextBoxAreOneLine) {
   EXPECT_EQ(ReadContent("12,50\r\n", Format::Amount).value, BoxValue(12.5));
 }
 
+TEST(Contents, OfAnAmountThatWasEmptiedAre0) {
+  EXPECT_EQ(ReadEntry("", Format::Amount).value, BoxValue(0.0));
+  EXPECT_EQ(ReadEntry(" ", Format::Amount).value, BoxValue(0.0));
+  EXPECT_EQ(ReadEntry("12.50", Format::Amount).value, BoxValue());
+  EXPECT_EQ(ReadEntry("", Format::Number).value, BoxValue());
+  EXPECT_EQ(ReadEntry("", Format::Date).value, BoxValue());
+  EXPECT_EQ(ReadContent("", Format::Amount).value, BoxValue());
+}
+
 }  // namespace brivane::controls

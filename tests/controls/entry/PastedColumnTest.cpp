@@ -34,6 +34,13 @@ TEST_F(PastedColumn, WithAMistakeFillsNothing) {
   EXPECT_THAT(log, IsEmpty());
 }
 
+TEST_F(PastedColumn, ThatWasRefusedIsOverWhenTheBoxIsLeft) {
+  Edit(Row(1)).Paste("10\n12.50\n30");
+  ASSERT_NE(Face(Row(1)).reason, "");
+  EXPECT_TRUE(Edit(Row(1)).Commit());
+  EXPECT_EQ(Face(Row(1)).reason, "");
+}
+
 TEST_F(PastedColumn, PassesOverWhatCannotBeEditedAndSaysWhatIsLeft) {
   Row(2).SetLocked(true);
   Edit(Row(1)).Paste("1\n2\n3\n4\n5");

@@ -38,6 +38,31 @@ TEST_F(PendingEditTest, IsHandedOverOnceAfterTyping) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 1.234,50"));
 }
 
+TEST_F(PendingEditTest, ThatEmptiesAnAmountShowsWhatItCountsFor) {
+  amount.SetNumber(7);
+  TypeOver(amount, "");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(face.text, "0,00");
+  EXPECT_EQ(amount.Number(), 0);
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 0,00"));
+}
+
+TEST_F(PendingEditTest, OfNoControlIsReadItsOwnWay) {
+  TestFace own;
+  PendingEdit date(own);
+  date.Tie(Format::Date, [](std::string_view typed) {
+    return typed == "gisteren" ? TypedContent{.value = host::Date(45322)} : TypedContent{.refusal = "Nee."};
+  });
+  own.text = "gisteren";
+  date.Typed();
+  EXPECT_TRUE(date.Commit());
+  EXPECT_EQ(own.text, "31-01-2024");
+  own.text = "morgen";
+  date.Typed();
+  EXPECT_FALSE(date.Commit());
+  EXPECT_EQ(own.reason, "Nee.");
+}
+
 TEST_F(PendingEditTest, SelectsWhatStandsAfterEnter) {
   TypeOver(amount, "5");
   EXPECT_TRUE(edit.CommitAndSelect());

@@ -186,7 +186,7 @@ TEST(FailedWriteTest, AFullFileIsReportedOnceByTheHandlerThatWrites) {
   Desk desk(own.dossier, {own.journal, &own.journal->Bewerkingen()});
   desk.Bind(0, 1);
   desk.Do("TxtOm", Enter{std::string(50000, 'x')});
-  ExpectOneReport(desk.reports, "de schijf is vol");
+  ExpectOneReport(desk.reports, "het dossier is zo groot als een dossier kan zijn");
   EXPECT_EQ(desk.reports[0].ErrorNumber, "1013");
   EXPECT_EQ(own.dossier->ZoekKolom(0, 1)->Omschrijving(), "Kinderopvang");
   // What needs no room is stored.

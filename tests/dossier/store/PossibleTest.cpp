@@ -122,6 +122,27 @@ TEST(PossibleTest, AFileLargerThanAnyCaseIsRefusedAtOnce) {
   EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::TooLarge);
 }
 
+TEST(PossibleTest, WhatMakesAFileLargerThanItMayBeIsRefusedAndTheRestOpensAgain) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const std::string longest(kMostText, 'x');
+  std::string reason;
+  DossierGegevens stored;
+  {
+    const auto open = DossierFile::Open(path);
+    try {
+      for (int n = 0; n < 1000; ++n) open->Dossier()->NieuweKolom(0)->SetOmschrijving(longest);
+    } catch (const host::Error& error) {
+      reason = error.Description();
+    }
+    stored = open->Dossier()->Gegevens();
+  }
+  EXPECT_EQ(reason, "De wijziging is niet opgeslagen: het dossier is zo groot als een dossier kan zijn.");
+  EXPECT_GT(QFileInfo(path).size(), kMostFile / 2);
+  EXPECT_LE(QFileInfo(path).size(), kMostFile);
+  EXPECT_TRUE(ReadBack(path) == stored);
+}
+
 TEST(PossibleTest, AChangeThatWouldNotOpenAgainIsNotStored) {
   const Folder folder;
   const QString path = folder.Make();

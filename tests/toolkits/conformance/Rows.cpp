@@ -9,8 +9,11 @@ using testing::IsEmpty;
 namespace {
 
 constexpr char kVraag[] =
-    "Scenario: De gewijzigde rijen worden niet bewaard als u het venster sluit zonder op OK te drukken. Wilt u het "
-    "sluiten?";
+    "Scenario: De wijzigingen in de rijen worden niet bewaard als u het venster sluit zonder op OK te drukken. Wilt u "
+    "het sluiten?";
+constexpr char kVraagOnderHetTypen[] =
+    "Scenario: De wijzigingen in de rijen worden niet bewaard als u het venster sluit zonder op OK te drukken. Dat "
+    "geldt ook voor wat u nu aan het typen bent. Wilt u het sluiten?";
 
 }  // namespace
 
@@ -142,7 +145,7 @@ TEST_P(Rows, ThatAreBeingTypedAreAskedAboutBeforeClosing) {
     subject->CloseWindow(Window());
     EXPECT_TRUE(IsOpen());
   });
-  EXPECT_THAT(messages, ElementsAre(kVraag));
+  EXPECT_THAT(messages, ElementsAre(kVraagOnderHetTypen));
 }
 
 TEST_P(Rows, RefuseMalformedTypingBesideTheBox) {

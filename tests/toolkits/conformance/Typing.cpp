@@ -162,11 +162,22 @@ TEST_P(Boxes, EscapePutsBackWhatStoodThereAlsoAfterARefusal) {
 }
 
 TEST_P(Boxes, AnEmptiedBoxIsEmpty) {
+  Box("txtPercentage").SetNumber(7);
+  Click("txtPercentage");
+  TypeOver("");
+  Press(Key::Tab);
+  EXPECT_EQ(Box("txtPercentage").Content(), controls::BoxValue());
+  EXPECT_EQ(Typed("txtPercentage"), "");
+}
+
+TEST_P(Boxes, AnEmptiedAmountIsTheZeroThatItCountsFor) {
   Box("txtBedrag").SetNumber(7);
   Click("txtBedrag");
   TypeOver("");
   Press(Key::Tab);
-  EXPECT_EQ(Box("txtBedrag").Content(), controls::BoxValue());
+  EXPECT_EQ(Typed("txtBedrag"), "0,00");
+  EXPECT_EQ(Box("txtBedrag").Content(), controls::BoxValue(0.0));
+  EXPECT_EQ(log.size(), 1U);
 }
 
 TEST_P(Boxes, DecimalsThatAreNotShownSurviveARetypedText) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,6 +12,8 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/DrawnToolkit.h"
+#include "controls/Form.h"
 #include "controls/ListBox.h"
 #include "controls/Surface.h"
 #include "host/controls/Desktop.h"
@@ -37,7 +40,11 @@ class Hands {
   virtual ~Hands() = default;
 
   [[nodiscard]] virtual host::Surface& Surface() = 0;
-  [[nodiscard]] virtual host::Desktop& Desktop() = 0;
+  [[nodiscard]] virtual controls::DrawnToolkit& Toolkit() = 0;
+  /// Puts another surface of the toolkit in its place.
+  virtual void Show(host::Surface& surface) = 0;
+  /// Runs a script in the next form that is opened, and closes what it left open without asking.
+  virtual void WhileOpen(std::function<void(controls::Form&)> script) = 0;
 
   virtual void Press(Key key, With with = With::None) = 0;
   virtual void PressAlt(char letter) = 0;
@@ -58,11 +65,19 @@ class Hands {
   /// What stands in the focused box, with its selection in brackets: "12[,50]".
   [[nodiscard]] virtual std::string FocusedText() const = 0;
 
-  /// Asks, presses keys in the box that comes up, and gives the answer; nothing where no key answered.
-  [[nodiscard]] virtual std::optional<host::MessageAnswer> Ask(host::MessageStyle style,
-                                                               std::chrono::milliseconds pause,
-                                                               const std::vector<BoxKey>& keys) = 0;
-  /// The texts that the message box of the last Ask showed, from the top, as one.
+  /// Does something that brings up a message box, in which these keys are pressed; false where they left it open, and
+  /// it was closed in another way.
+  [[nodiscard]] virtual bool AnswerBox(std::chrono::milliseconds pause, const std::vector<BoxKey>& keys,
+                                       const std::function<void()>& bringUp) = 0;
+  /// Asks, and gives what the keys answer; nothing where they do not.
+  [[nodiscard]] std::optional<host::MessageAnswer> Ask(host::MessageStyle style, std::chrono::milliseconds pause,
+                                                       const std::vector<BoxKey>& keys) {
+    host::MessageAnswer answer{};
+    const bool answered =
+        AnswerBox(pause, keys, [&] { answer = Toolkit().Desktop().MessageBox("Vraag", "Wilt u dit?", style); });
+    return answered ? std::optional(answer) : std::nullopt;
+  }
+  /// The texts that the last message box showed, from the top, as one.
   [[nodiscard]] virtual std::string Read() const = 0;
   /// What the host adds to questions from now on.
   virtual void AddToQuestions(const std::string& details) = 0;

@@ -13,6 +13,7 @@
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/Toolkit.h"
 #include "toolkits/qt/widgets/ChoiceBox.h"
+#include "toolkits/qt/widgets/FormWindow.h"
 
 namespace brivane::test {
 namespace {
@@ -47,16 +48,28 @@ void PressIn(QMessageBox& box, const BoxKey& key) {
 
 class QtHands final : public Hands {
  public:
-  QtHands() : surface_(toolkit_.MakeSurface(kSurface)) {
-    QWidget& area = qt::Toolkit::WidgetOf(*surface_);
+  QtHands() : surface_(toolkit_.MakeSurface(kSurface)) { Show(*surface_); }
+
+  [[nodiscard]] host::Surface& Surface() override { return *surface_; }
+  [[nodiscard]] qt::Toolkit& Toolkit() override { return toolkit_; }
+  void Show(host::Surface& surface) override {
+    qt::Toolkit::WidgetOf(*surface_).hide();
+    QWidget& area = qt::Toolkit::WidgetOf(surface);
     area.setParent(&ground_);
     area.show();
     ground_.resize(area.size());
     ShowActive(ground_);
   }
-
-  [[nodiscard]] host::Surface& Surface() override { return *surface_; }
-  [[nodiscard]] host::Desktop& Desktop() override { return toolkit_.Desktop(); }
+  void WhileOpen(std::function<void(controls::Form&)> script) override {
+    QTimer::singleShot(0, &ground_, [script = std::move(script)] {
+      auto* const dialog = dynamic_cast<qt::FormWindow::Window*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      ShowActive(*dialog);
+      QApplication::processEvents();
+      script(dialog->Form());
+      if (dialog->isVisible()) dialog->done(0);
+    });
+  }
 
   void Press(Key key, With with) override { test::Press(key, with); }
   void PressAlt(char letter) override {
@@ -101,8 +114,8 @@ class QtHands final : public Hands {
     return qt::FromQt(text.insert(from, '['));
   }
 
-  [[nodiscard]] std::optional<host::MessageAnswer> Ask(host::MessageStyle style, std::chrono::milliseconds pause,
-                                                       const std::vector<BoxKey>& keys) override {
+  [[nodiscard]] bool AnswerBox(std::chrono::milliseconds pause, const std::vector<BoxKey>& keys,
+                               const std::function<void()>& bringUp) override {
     toolkit_.Desktop().pause = pause;
     bool answered = true;
     QTimer::singleShot(0, &ground_, [&] {
@@ -120,8 +133,8 @@ class QtHands final : public Hands {
       answered = false;
       box->done(0);
     });
-    const host::MessageAnswer answer = toolkit_.Desktop().MessageBox("Vraag", "Wilt u dit?", style);
-    return answered ? std::optional(answer) : std::nullopt;
+    bringUp();
+    return answered;
   }
   [[nodiscard]] std::string Read() const override { return read_; }
   void AddToQuestions(const std::string& details) override {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string_view>
 
 #include "tests/toolkits/person/Hands.h"
 #include "tests/toolkits/win32/Person.h"
@@ -47,8 +48,8 @@ class BoxPresser {
   }
 
   void Go() {
-    const HWND box = FindWindowW(L"#32770", L"Vraag");
-    if (box == nullptr || IsWindowVisible(box) == FALSE || GetActiveWindow() != box) return;
+    const HWND box = GetActiveWindow();
+    if (!IsMessageBox(box) || IsWindowVisible(box) == FALSE) return;
     if (read_.empty()) {
       read_ = win32::Narrow(win32::TextOf(GetDlgItem(box, 0xFFFF)));
       std::erase(read_, '\r');
@@ -64,6 +65,11 @@ class BoxPresser {
       PostMessageW(box, WM_COMMAND, GetDlgItem(box, IDNO) != nullptr ? IDNO : IDOK, 0);
       last_ = GetTickCount();
     }
+  }
+
+  static bool IsMessageBox(HWND window) {
+    wchar_t name[16] = {};
+    return window != nullptr && GetClassNameW(window, name, 16) != 0 && std::wstring_view(name) == L"#32770";
   }
 
   void PressNext(HWND box) {
@@ -97,7 +103,17 @@ class Win32Hands final : public Hands {
   Win32Hands& operator=(const Win32Hands&) = delete;
 
   [[nodiscard]] host::Surface& Surface() override { return *surface_; }
-  [[nodiscard]] host::Desktop& Desktop() override { return toolkit_.Desktop(); }
+  [[nodiscard]] win32::Toolkit& Toolkit() override { return toolkit_; }
+  void Show(host::Surface& surface) override {
+    ShowWindow(win32::Toolkit::WindowOf(*surface_), SW_HIDE);
+    stage_.Show(surface);
+  }
+  void WhileOpen(std::function<void(controls::Form&)> script) override {
+    toolkit_.modal = [this, script = std::move(script)](controls::Form& form) {
+      stage_.Settle();
+      script(form);
+    };
+  }
 
   void Press(Key key, With with) override { test::Press(CodeOf(key), with); }
   void PressAlt(char letter) override { test::Press(LetterCode(letter), With::Alt); }
@@ -140,14 +156,14 @@ class Win32Hands final : public Hands {
     return win32::Narrow(text);
   }
 
-  [[nodiscard]] std::optional<host::MessageAnswer> Ask(host::MessageStyle style, std::chrono::milliseconds pause,
-                                                       const std::vector<BoxKey>& keys) override {
+  [[nodiscard]] bool AnswerBox(std::chrono::milliseconds pause, const std::vector<BoxKey>& keys,
+                               const std::function<void()>& bringUp) override {
     toolkit_.Desktop().pause = pause;
     const BoxPresser presser(keys);
-    const host::MessageAnswer answer = toolkit_.Desktop().MessageBox("Vraag", "Wilt u dit?", style);
+    bringUp();
     read_ = presser.Read();
     stage_.Settle();
-    return presser.Answered() ? std::optional(answer) : std::nullopt;
+    return presser.Answered();
   }
   [[nodiscard]] std::string Read() const override { return read_; }
   void AddToQuestions(const std::string& details) override {

@@ -34,7 +34,8 @@ void TogglePeer::Refresh(Aspect aspect) {
 }
 
 OptionPeer::OptionPeer(controls::OptionButton& option, qt::Toolkit& toolkit, QWidget* container)
-    : WidgetPeer(option, toolkit, new qt::OptionButton(ToQt(option.DesignName()), container)), option_(option) {
+    : WidgetPeer(option, toolkit, new qt::OptionButton(ToQt(option.DesignName()), option.Row().tab, container)),
+      option_(option) {
   auto* const button = static_cast<qt::OptionButton*>(Widget());
   Refresh(Aspect::Caption);
   Refresh(Aspect::Value);

@@ -2,7 +2,7 @@
 
 #include <QEvent>
 #include <QLabel>
-#include <QPointer>
+#include <QScopedValueRollback>
 
 #include "toolkits/qt/Text.h"
 #include "toolkits/qt/widgets/ChoiceBox.h"
@@ -12,9 +12,12 @@ namespace brivane::qt {
 
 ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
     : QWidget(parent),
-      surface_(toolkit_.MakeSurface(design)),
-      binding_(*surface_),
+      body_(std::make_shared<Body>()),
+      toolkit_(body_->toolkit),
+      surface_(body_->surface),
       veil_(new QLabel(ToQt(controls::kVeil), this)) {
+  body_->surface = toolkit_.MakeSurface(design);
+  body_->binding.emplace(*surface_);
   veil_->setAlignment(Qt::AlignCenter);
   veil_->setWordWrap(true);
   veil_->setEnabled(false);
@@ -29,7 +32,19 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-ControlWidget::~ControlWidget() = default;
+ControlWidget::~ControlWidget() {
+  const std::shared_ptr<controls::Life> life = toolkit_.Life();
+  auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
+  area.sized = nullptr;
+  area.veiled = nullptr;
+  const bool running = life->Running();
+  life->End(std::move(body_));
+  if (!running) return;
+  // What runs on it stays a while, out of sight.
+  for (QWidget* const inside : area.findChildren<QWidget*>())
+    if (inside->isWindow()) inside->hide();
+  area.setParent(nullptr);
+}
 
 void ControlWidget::FollowFont() {
   const qt::Edge edge = Edge::OfFont(font());
@@ -46,7 +61,7 @@ void ControlWidget::changeEvent(QEvent* event) {
 
 void ControlWidget::SetHostFactories(const host::HostFactories& factories) {
   toolkit_.Guard([&] {
-    MakeControl(factories);
+    MakeControl(Host().Hold(factories));
     if (backColor_) ColorControl(FromQt(*backColor_));
     const host::Place place = surface_->Place();
     controls::Surface::Of(*surface_).Size(place.width, place.height);
@@ -59,38 +74,68 @@ void ControlWidget::ShowVeil() {
 }
 
 controls::BindingResult ControlWidget::Bind(const std::function<void()>& bind, bool release) {
-  const QPointer<ControlWidget> alive(this);
-  if (!IsBound())
-    PutBackPending();
-  else if (!CommitPending())
-    return controls::BindingResult::Refused;
-  if (!alive) return controls::BindingResult::Failed;
-  controls::BindingResult result{};
-  try {
-    result = binding_.Bind(bind);
-  } catch (...) {
-    if (alive) StateChanged();
-    throw;
-  }
-  if (!alive) return controls::BindingResult::Failed;
-  if (release) binding_.Unbind([this] { UnbindControl(); });
-  StateChanged();
-  return release ? controls::BindingResult::Failed : result;
+  controls::BindingResult result = controls::BindingResult::Failed;
+  const bool done = Run([&, life = Life(), body = body_] {
+    if (!IsBound())
+      PutBackPending();
+    else if (!CommitPending())
+      result = controls::BindingResult::Refused;
+    life->Check();
+    if (result == controls::BindingResult::Refused) return;
+    try {
+      result = body->binding->Bind(bind);
+    } catch (...) {
+      life->Check();
+      StateChanged();
+      throw;
+    }
+    life->Check();
+    if (release) {
+      LetGo();
+      result = controls::BindingResult::Failed;
+    }
+    Host().Rest();
+    StateChanged();
+  });
+  return done ? result : controls::BindingResult::Failed;
 }
 
 void ControlWidget::Unbind() {
-  const QPointer<ControlWidget> alive(this);
-  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
-  if (alive) toolkit_.Pending().Leave(controls::Surface::Of(*surface_));
-  if (!alive) return;
-  binding_.Unbind([this] { UnbindControl(); });
-  StateChanged();
+  Run([&, life = Life()] {
+    if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+    life->Check();
+    toolkit_.Pending().Leave(controls::Surface::Of(*surface_));
+    life->Check();
+    LetGo();
+    StateChanged();
+  });
+}
+
+void ControlWidget::LetGo() {
+  const auto body = body_;
+  body->binding->Unbind([this] { UnbindControl(); });
+  toolkit_.Life()->Check();
+  body->host.LetGo();
+}
+
+void ControlWidget::Check(bool& Cancel, const std::function<void(bool& cancel)>& check) {
+  bool cancel = Cancel;
+  const bool done = Run([&, life = Life(), body = body_] {
+    if (!cancel && !CommitPending()) cancel = true;
+    life->Check();
+    if (!body->binding->IsVoid()) check(cancel);
+  });
+  if (done) Cancel = cancel;
 }
 
 bool ControlWidget::CommitPending() {
-  const QPointer<ControlWidget> alive(this);
-  if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
-  return !alive || toolkit_.Pending().Commit(controls::Surface::Of(*surface_));
+  bool passed = true;
+  Run([&, life = Life(), &toolkit = toolkit_, &surface = controls::Surface::Of(*surface_)] {
+    if (ChoiceBox* const list = ChoiceBox::UnderWayWithin(*this)) list->HandOver();
+    life->Check();
+    passed = toolkit.Pending().Commit(surface);
+  });
+  return passed;
 }
 
 void ControlWidget::PutBackPending() {
@@ -112,7 +157,22 @@ QSize ControlWidget::sizeHint() const {
 
 QSize ControlWidget::minimumSizeHint() const { return sizeHint(); }
 
+void ControlWidget::TellHeight() {
+  if (sizing_) return TellHeightLater();
+  emit heightChanged();
+}
+
+void ControlWidget::TellHeightLater() {
+  if (std::exchange(heightToTell_, true)) return;
+  const auto tell = [this] {
+    heightToTell_ = false;
+    emit heightChanged();
+  };
+  QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+}
+
 void ControlWidget::resizeEvent(QResizeEvent* event) {
+  const QScopedValueRollback sizing(sizing_, true);
   QWidget::resizeEvent(event);
   veil_->setGeometry(rect());
   const host::Place place = surface_->Place();

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "controls/Binding.h"
+#include "controls/life/HeldHost.h"
 #include "host/model/HostFactories.h"
 #include "toolkits/qt/Toolkit.h"
 
@@ -23,9 +24,22 @@ namespace brivane::qt {
 ///
 /// A binding that failed, and letting go of the host, leave the widget empty: it shows controls::kVeil, nothing of what
 /// stood there, and takes no input until a binding succeeds.
+///
+/// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
+/// its form open, or calls the host. What is open closes, what was going on is abandoned without a word, and nothing of
+/// the host is touched any more when the deletion comes back.
 class ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
+
+  /// What the control runs on: it stays as long as something of it runs, the widget or no widget.
+  struct Body {
+    qt::Toolkit toolkit;
+    controls::HeldHost host{toolkit.Life()};
+    std::unique_ptr<host::Surface> surface;
+    std::optional<controls::Binding> binding;
+    std::shared_ptr<void> control;
+  };
 
  public:
   ~ControlWidget() override;
@@ -37,7 +51,7 @@ class ControlWidget : public QWidget {
   void SetFailureListener(Toolkit::FailureListener listener) { toolkit_.SetFailureListener(std::move(listener)); }
 
   /// What the control stands for.
-  [[nodiscard]] controls::BindingState State() const { return binding_.State(); }
+  [[nodiscard]] controls::BindingState State() const { return body_->binding->State(); }
   [[nodiscard]] bool IsBound() const { return State() == controls::BindingState::Bound; }
   /// Lets go of every object of the host's, and leaves the widget empty. What is being typed is handed over first; what
   /// does not pass is dropped. The factories stay, for the next binding.
@@ -77,23 +91,38 @@ class ControlWidget : public QWidget {
   virtual void StateChanged() {}
   /// Binds after what is being typed was handed over; where the widget is not bound that is dropped, as it
   /// belongs to nothing. `release`: nothing was given to bind to, so what is left of the host is let go of afterwards.
+  /// Failed where the widget is deleted meanwhile.
   controls::BindingResult Bind(const std::function<void()>& bind, bool release);
-  /// Hands over what is being typed, before a check; false where the check is to refuse.
-  [[nodiscard]] bool MayCheck(bool cancel) { return cancel || CommitPending(); }
-  /// A control that stands for nothing has nothing to check.
-  [[nodiscard]] bool IsVoid() const { return binding_.IsVoid(); }
+  /// Checks after what is being typed was handed over; what is refused there is refused here. A control that stands for
+  /// nothing has nothing to check. Cancel stays as it is where the widget is deleted meanwhile.
+  void Check(bool& Cancel, const std::function<void(bool& cancel)>& check);
+  /// Keeps the control behind the widget as long as something of it runs.
+  void Keep(std::shared_ptr<void> control) { body_->control = std::move(control); }
+  /// The host as the control is given it.
+  [[nodiscard]] controls::HeldHost& Host() { return body_->host; }
+  /// Runs something of the control for the host. False where the widget is gone; a failure goes on to the host.
+  template <class Work> bool Run(const Work& work) { return controls::Life::Run(toolkit_.Life(), work); }
+  /// To be checked by what emits a signal from inside a procedure of the control.
+  [[nodiscard]] std::shared_ptr<const controls::Life> Life() const { return toolkit_.Life(); }
+  /// Emits heightChanged. What came of a size that the widget was given is told after that event: Qt goes on with the
+  /// widget then, and a host may delete it.
+  void TellHeight();
+  void TellHeightLater();
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void FollowFont();
   void ShowVeil();
+  void LetGo();
 
   std::optional<QColor> backColor_;
-  qt::Toolkit toolkit_;
-  std::unique_ptr<host::Surface> surface_;
-  controls::Binding binding_;
+  std::shared_ptr<Body> body_;
+  qt::Toolkit& toolkit_;
+  const std::unique_ptr<host::Surface>& surface_;
   QLabel* veil_;
+  bool sizing_ = false;
+  bool heightToTell_ = false;
 };
 
 }  // namespace brivane::qt

@@ -69,9 +69,9 @@ void DateBox::OpenCalendar() {
   calendar->setFirstDayOfWeek(Qt::Monday);
   calendar->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
   calendar->setMinimumDate(QDate(frame::kFirstYear, 1, 1));
-  const auto typed = frame::ReadDate(FromQt(text()));
-  if (!typed.IsRefused() && !typed.IsEmpty()) {
-    const frame::YearMonthDay day = frame::Split(*typed);
+  const controls::TypedContent typed = Edit().Read(FromQt(text()));
+  if (const auto* date = std::get_if<host::Date>(&typed.value)) {
+    const frame::YearMonthDay day = frame::Split(*date);
     calendar->setSelectedDate(QDate(day.year, day.month, day.day));
   }
   QObject::connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) { Pick(date); });

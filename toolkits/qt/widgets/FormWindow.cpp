@@ -85,7 +85,15 @@ void FormWindow::Fit() {
 void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
   const auto* const owner = dynamic_cast<const qt::Hoofdvenster*>(eigenaar);
   QWidget* const window = owner != nullptr ? owner->Venster() : QApplication::activeWindow();
-  if (window != nullptr) dialog_->setParent(window->window(), dialog_->windowFlags());
+  QMetaObject::Connection owned;
+  if (window != nullptr) {
+    dialog_->setParent(window->window(), dialog_->windowFlags());
+    // An owner that goes takes no part of the form with it: somebody still runs on that.
+    owned = QObject::connect(window->window(), &QObject::destroyed, dialog_.get(), [this] {
+      LeaveOwner();
+      form_.Unload();
+    });
+  }
   ChainTabOrder(form_, nullptr);
   for (const auto& control : form_.Made())
     if (control->ControlKind() == host::Kind::Button) {
@@ -97,11 +105,15 @@ void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
   for (RowCanvas* const canvas : Canvases(form_))
     if (canvas->GoToFirst()) break;
   dialog_->exec();
-  dialog_->setParent(nullptr, dialog_->windowFlags());
+  QObject::disconnect(owned);
+  LeaveOwner();
 }
+
+void FormWindow::LeaveOwner() { dialog_->setParent(nullptr, dialog_->windowFlags()); }
 
 void FormWindow::Unload() {
   if (dialog_->isVisible()) dialog_->done(QDialog::Accepted);
+  if (toolkit_.Life()->Ended()) LeaveOwner();
 }
 
 void FormWindow::Close() { controls::RowChanges::Close(form_, toolkit_); }

@@ -52,6 +52,7 @@ class FormWindow final : public controls::FormPeer, public AreaHolder {
   void ShowBackColor();
   /// A person closes the window.
   void Close();
+  void LeaveOwner();
 
   controls::Form& form_;
   Toolkit& toolkit_;

@@ -29,8 +29,8 @@ bool CanGoTo(const QAbstractButton& option) { return option.isEnabled() && optio
 
 }  // namespace
 
-OptionButton::OptionButton(const QString& array, QWidget* container) : QRadioButton(container) {
-  GroupOf(*container, array).addButton(this);
+OptionButton::OptionButton(const QString& array, int tab, QWidget* container) : QRadioButton(container) {
+  GroupOf(*container, array).addButton(this, tab);
 }
 
 void OptionButton::Show(bool chosen) {
@@ -43,9 +43,10 @@ void OptionButton::Show(bool chosen) {
 QAbstractButton* OptionButton::Entrance() const {
   QAbstractButton* const chosen = group()->checkedButton();
   if (chosen != nullptr && CanGoTo(*chosen)) return chosen;
+  QAbstractButton* first = nullptr;
   for (QAbstractButton* option : group()->buttons())
-    if (CanGoTo(*option)) return option;
-  return nullptr;
+    if (CanGoTo(*option) && (first == nullptr || group()->id(option) < group()->id(first))) first = option;
+  return first;
 }
 
 void OptionButton::focusInEvent(QFocusEvent* event) {

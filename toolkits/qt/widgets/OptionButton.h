@@ -9,8 +9,8 @@ namespace brivane::qt {
 /// that a person can go to.
 class OptionButton final : public QRadioButton {
  public:
-  /// Made as one of the group of this name in the container.
-  OptionButton(const QString& array, QWidget* container);
+  /// Made as one of the group of this name in the container, at a place in the tab order.
+  OptionButton(const QString& array, int tab, QWidget* container);
 
   /// Shows it as chosen or not, whatever the rest of its group shows.
   void Show(bool chosen);

@@ -143,8 +143,10 @@ std::wstring BoxWindow::Reason() const { return bubble_ ? TextOf(bubble_->Handle
 
 /// Another window, a menu or a list that drops down borrows the focus: the box has not been left.
 void BoxWindow::OnLeft(HWND gaining) {
-  if (!edit_.IsPending() || edit_.IsCommitting() || gaining == nullptr || !box_.Reachable()) return;
+  if (edit_.IsCommitting() || gaining == nullptr || !box_.Reachable()) return;
   if (GetAncestor(gaining, GA_ROOT) != GetAncestor(Handle(), GA_ROOT)) return;
+  // Nothing to hand over: what was refused, as a pasted column is, has been given up.
+  if (!edit_.IsPending()) return HideReason();
   // The focus cannot be taken back while it is being given away.
   PostMessageW(Handle(), kTakeFocusBack, 0, 0);
 }

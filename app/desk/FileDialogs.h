@@ -4,8 +4,8 @@
 
 class QWidget;
 
-/// The dialogs in which a file is chosen. They look at names alone: no file is opened to guess what it holds, and
-/// nothing of where a person has been is kept outside the program's own settings.
+/// The dialogs in which a file is chosen. They look at names alone: no file is opened to guess what it holds, none is
+/// renamed or deleted, and nothing of where a person has been is kept outside the program's own settings.
 namespace brivane::app {
 
 struct FileQuestion {

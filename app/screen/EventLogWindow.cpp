@@ -1,4 +1,4 @@
-#include "app/program/EventLogWindow.h"
+#include "app/screen/EventLogWindow.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
-#include "app/program/EventLog.h"
+#include "app/desk/EventLog.h"
 
 namespace brivane::app {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/program/EventLog.h"
+#include "app/desk/EventLog.h"
 #include "dossier/store/StoreTrace.h"
 
 namespace brivane::app {

@@ -1,4 +1,4 @@
-#include "app/program/Settings.h"
+#include "app/desk/Settings.h"
 
 #include <QFileInfo>
 #include <QSettings>

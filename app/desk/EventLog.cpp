@@ -1,4 +1,4 @@
-#include "app/program/EventLog.h"
+#include "app/desk/EventLog.h"
 
 #include <QDateTime>
 #include <QDir>

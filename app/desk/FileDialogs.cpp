@@ -1,15 +1,16 @@
-#include "app/program/FileDialogs.h"
+#include "app/desk/FileDialogs.h"
 
 #include <QAbstractFileIconProvider>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTimer>
+
+#include "app/screen/Messages.h"
 
 namespace brivane::app {
 namespace {
@@ -55,6 +56,8 @@ class Dialog final : public QFileDialog {
   Dialog(QWidget* above, const FileQuestion& question, const QString& emptyFolder)
       : QFileDialog(above, question.title, emptyFolder, question.filter) {
     setOption(DontUseNativeDialog);
+    // It is here to choose: its list would rename and delete files, the open one too.
+    setOption(ReadOnly);
     // The model looks around in a thread of its own until the dialog's base is gone.
     static NamesOnly names;
     setIconProvider(&names);
@@ -68,12 +71,9 @@ class Dialog final : public QFileDialog {
       QFileDialog::accept();
       return;
     }
-    QMessageBox message(QMessageBox::Warning, windowTitle(),
-                        QStringLiteral("In de map \"%1\" staat al een bestand \"%2\". Kies een andere naam.")
-                            .arg(QDir::toNativeSeparators(chosen.absolutePath()), chosen.fileName()),
-                        QMessageBox::Ok, this);
-    message.setTextFormat(Qt::PlainText);
-    message.exec();
+    ShowMessage(this, windowTitle(),
+                QStringLiteral("In de map \"%1\" staat al een bestand \"%2\". Kies een andere naam.")
+                    .arg(QDir::toNativeSeparators(chosen.absolutePath()), chosen.fileName()));
     // One Enter is heard by the box and by the button.
     refused_ = true;
     QTimer::singleShot(0, this, [this] { refused_ = false; });

@@ -1,4 +1,4 @@
-#include "app/program/TraceLog.h"
+#include "app/desk/TraceLog.h"
 
 #include <algorithm>
 

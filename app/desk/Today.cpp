@@ -1,4 +1,4 @@
-#include "app/program/Today.h"
+#include "app/desk/Today.h"
 
 #include <QDate>
 

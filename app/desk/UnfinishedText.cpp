@@ -1,0 +1,58 @@
+#include "app/desk/UnfinishedText.h"
+
+#include <QDateTime>
+#include <QSettings>
+#include <QUuid>
+
+namespace brivane::app {
+namespace {
+
+constexpr char kGroup[] = "onafgemaakt";
+
+}  // namespace
+
+QString UnfinishedText::Keep() const {
+  // In order of time, and of no other program's.
+  const QString name = QString::number(QDateTime::currentMSecsSinceEpoch()).rightJustified(15, u'0') + u'-' +
+                       QUuid::createUuid().toString(QUuid::Id128);
+  QSettings settings;
+  settings.beginGroup(QLatin1String(kGroup));
+  settings.beginGroup(name);
+  settings.setValue(QStringLiteral("bestand"), file);
+  settings.setValue(QStringLiteral("lening"), lening);
+  settings.setValue(QStringLiteral("kolom"), kolom);
+  settings.setValue(QStringLiteral("vak"), box);
+  settings.setValue(QStringLiteral("titel"), title);
+  settings.setValue(QStringLiteral("tekst"), text);
+  return name;
+}
+
+void UnfinishedText::Forget(const QString& name) {
+  QSettings settings;
+  settings.beginGroup(QLatin1String(kGroup));
+  settings.remove(name);
+}
+
+std::vector<UnfinishedText::Kept> UnfinishedText::All() {
+  QSettings settings;
+  settings.beginGroup(QLatin1String(kGroup));
+  std::vector<Kept> all;
+  for (const QString& name : settings.childGroups()) {
+    settings.beginGroup(name);
+    const auto text = [&](const char* key) { return settings.value(QLatin1String(key)).toString(); };
+    const auto number = [&](const char* key) {
+      return static_cast<std::int16_t>(settings.value(QLatin1String(key)).toInt());
+    };
+    all.push_back({name,
+                   {.file = text("bestand"),
+                    .lening = number("lening"),
+                    .kolom = number("kolom"),
+                    .box = text("vak"),
+                    .title = text("titel"),
+                    .text = text("tekst")}});
+    settings.endGroup();
+  }
+  return all;
+}
+
+}  // namespace brivane::app

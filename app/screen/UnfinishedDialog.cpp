@@ -1,0 +1,72 @@
+#include "app/screen/UnfinishedDialog.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace brivane::app {
+namespace {
+
+constexpr int kMostLines = 14;  ///< of the text that are shown at once
+constexpr int kCharacters = 60;
+
+QString Introduction(const UnfinishedText& unfinished) {
+  QString text =
+      unfinished.title.isEmpty()
+          ? QStringLiteral("Bij het afsluiten stond dit nog in een vak, en is niet opgeslagen.")
+          : QStringLiteral("Bij het afsluiten was dit ingevuld in het venster \"%1\", en is niet opgeslagen.")
+                .arg(unfinished.title);
+  if (!unfinished.file.isEmpty()) {
+    text += QStringLiteral("\n\nDossier: %1").arg(QFileInfo(unfinished.file).fileName());
+  }
+  return text;
+}
+
+}  // namespace
+
+UnfinishedDialog::UnfinishedDialog(const UnfinishedText& unfinished, QWidget* parent) : QDialog(parent) {
+  setWindowTitle(QStringLiteral("Niet opgeslagen"));
+  auto* introduction = new QLabel(Introduction(unfinished));
+  introduction->setTextFormat(Qt::PlainText);
+  introduction->setWordWrap(true);
+  auto* text = new QPlainTextEdit(unfinished.text);
+  text->setReadOnly(true);
+  text->setTabChangesFocus(true);
+  text->setLineWrapMode(QPlainTextEdit::NoWrap);
+  text->setAccessibleName(QStringLiteral("Niet opgeslagen tekst"));
+  const QFontMetrics metrics = text->fontMetrics();
+  text->setTabStopDistance(14.0 * metrics.averageCharWidth());
+  const int lines = qBound(1, static_cast<int>(unfinished.text.count(u'\n')) + 1, kMostLines) + 1;
+  text->setMinimumSize(kCharacters * metrics.averageCharWidth(), lines * metrics.lineSpacing() + 12);
+
+  // What goes back into no box goes along on the clipboard.
+  const bool inBox = !unfinished.box.isEmpty();
+  auto* buttons = new QDialogButtonBox;
+  const auto add = [&](const QString& name, Choice choice) {
+    QPushButton* button = buttons->addButton(name, QDialogButtonBox::ActionRole);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, choice] {
+      choice_ = choice;
+      accept();
+    });
+    return button;
+  };
+  add(inBox ? QStringLiteral("&Verdergaan") : QStringLiteral("&Kopiëren en verdergaan"), Choice::GoOn);
+  add(QStringLiteral("&Weggooien"), Choice::ThrowAway);
+  add(QStringLiteral("&Later"), Choice::Later)->setDefault(true);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(introduction);
+  layout->addWidget(text, 1);
+  layout->addWidget(buttons);
+}
+
+UnfinishedDialog::Choice UnfinishedDialog::Ask() {
+  exec();
+  return choice_;
+}
+
+}  // namespace brivane::app

@@ -1,0 +1,27 @@
+# What an embedding project links: the logic and the toolkit in memory as Brivane::VrijeKolom, the Qt toolkit as
+# Brivane::Qt. The lists `core` and `qt` name what each is made of.
+add_library(brivane_embedding INTERFACE)
+set_target_properties(brivane_embedding PROPERTIES EXPORT_NAME VrijeKolom)
+add_library(Brivane::VrijeKolom ALIAS brivane_embedding)
+set(core brivane_embedding)
+if(BRIVANE_QT)
+  add_library(brivane_embedding_qt INTERFACE)
+  set_target_properties(brivane_embedding_qt PROPERTIES EXPORT_NAME Qt)
+  add_library(Brivane::Qt ALIAS brivane_embedding_qt)
+  target_link_libraries(brivane_embedding_qt INTERFACE brivane_embedding)
+  set(qt brivane_embedding_qt)
+endif()
+
+# The libraries by their folder: those of toolkits/qt form the Qt part, the reference host and the tools stay here.
+get_property(libraries GLOBAL PROPERTY BRIVANE_LIBRARIES)
+foreach(library IN LISTS libraries)
+  get_target_property(folder ${library} SOURCE_DIR)
+  cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
+  if(folder MATCHES "^toolkits/qt")
+    list(APPEND qt ${library})
+    target_link_libraries(brivane_embedding_qt INTERFACE ${library})
+  elseif(folder MATCHES "^(host|frame|toelichting|scenario|vrijekolom|controls|toolkits)")
+    list(APPEND core ${library})
+    target_link_libraries(brivane_embedding INTERFACE ${library})
+  endif()
+endforeach()
