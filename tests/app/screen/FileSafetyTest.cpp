@@ -22,6 +22,7 @@
 #include "tests/app/screen/WindowTest.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 #include "toolkits/qt/widgets/EntryBox.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 // What the window does to files, and what it does when it has to end.
 namespace brivane::app {
@@ -231,6 +232,8 @@ TEST(NewFileDialogTest, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
       auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (message == nullptr) return;
       ++messages;
+      // Keys that were under way do not close it.
+      EXPECT_NE(dynamic_cast<qt::QuestionBox*>(message), nullptr);
       EXPECT_TRUE(message->text().contains("staat al een bestand \"bezet.dossier\"")) << message->text().toStdString();
       message->accept();
     });
