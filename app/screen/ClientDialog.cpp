@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "app/desk/Today.h"
 #include "frame/Dates.h"
@@ -20,6 +21,20 @@ constexpr std::array<const char*, 3> kNameFields = {"Voorletters", "Tussenvoegse
 constexpr std::size_t kSurname = 2;
 constexpr int kLowestLeeftijd = 1;
 constexpr int kHighestLeeftijd = 120;
+
+/// A number that the wheel changes only where somebody has gone to it.
+class AgeBox final : public QSpinBox {
+ public:
+  AgeBox() { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus())
+      QSpinBox::wheelEvent(event);
+    else
+      event->ignore();
+  }
+};
 
 /// A date of birth as it is typed.
 controls::TypedContent ReadBirth(std::string_view typed) {
@@ -39,7 +54,7 @@ ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* 
   connect(withPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
   connect(withPartner_, &QCheckBox::toggled, this, [this] { reason_->clear(); });
 
-  leeftijd_ = new QSpinBox;
+  leeftijd_ = new AgeBox;
   leeftijd_->setRange(kLowestLeeftijd, kHighestLeeftijd);
   leeftijd_->setSuffix(QStringLiteral(" jaar"));
   leeftijd_->setAccessibleName(QStringLiteral("Leeftijdsgrens"));

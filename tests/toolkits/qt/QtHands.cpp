@@ -18,7 +18,9 @@
 namespace brivane::test {
 namespace {
 
-Qt::Key LetterKey(char letter) { return static_cast<Qt::Key>(Qt::Key_A + (letter - 'a')); }
+Qt::Key LetterKey(char letter) {
+  return static_cast<Qt::Key>(letter >= 'a' ? Qt::Key_A + (letter - 'a') : Qt::Key_0 + (letter - '0'));
+}
 
 class Ground final : public QWidget {
  public:
