@@ -79,11 +79,14 @@ int TotalWeight() {
   return total;
 }
 
-/// A key goes down, and up again where the window is still there.
-void Press(QWindow& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+/// A key goes down, and up again where the window is still there. Not by QTest::keyClick, which presses Ctrl and Alt
+/// first and counts on a window that outlives that.
+void Press(QWindow& window, int key, Qt::KeyboardModifiers modifiers, const QString& text = {}) {
   const QPointer<QWindow> life(&window);
-  QTest::keyPress(&window, key, modifiers);
-  if (life) QTest::keyRelease(&window, key, modifiers);
+  for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    if (life) qt_handleKeyEvent(life, type, key, modifiers, text, false, 1);
+    QApplication::processEvents();
+  }
 }
 
 void Press(QWindow& window, Qt::MouseButton button, QPoint place) {
@@ -162,7 +165,8 @@ void RandomHands::Key(QWindow& window) {
   const Chord* chord = std::begin(kChords);
   for (; left >= chord->weight; ++chord) left -= chord->weight;
   Note("key", QKeySequence(static_cast<int>(chord->key) | static_cast<int>(chord->modifiers)).toString());
-  Press(window, chord->key, chord->modifiers);
+  const bool space = chord->key == Qt::Key_Space;
+  Press(window, chord->key, chord->modifiers, space ? QStringLiteral(" ") : QString());
 }
 
 void RandomHands::Word(QWindow& window) {
@@ -173,8 +177,7 @@ void RandomHands::Word(QWindow& window) {
     // A letter may bring up a window: the others go to what has the focus then.
     const QPointer<QWindow> now = QGuiApplication::focusWindow() ? QGuiApplication::focusWindow() : before.data();
     if (!now) return;
-    QTest::sendKeyEvent(QTest::Press, now, Qt::Key_unknown, QString(letter), Qt::NoModifier);
-    if (now) QTest::sendKeyEvent(QTest::Release, now, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+    Press(*now, Qt::Key_unknown, Qt::NoModifier, QString(letter));
   }
 }
 

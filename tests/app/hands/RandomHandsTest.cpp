@@ -139,7 +139,7 @@ class Session {
     DossierScreen& screen = *window_->Screen();
     if (!screen.Shown().Vrij_Id) return;
     const auto& editor = screen.Kolom().Editor();
-    if (qt::EntryBox::PendingWithin(editor) != nullptr || qt::ChoiceBox::UnderWayWithin(editor) != nullptr) return;
+    if (AnyPending(editor) || qt::ChoiceBox::UnderWayWithin(editor) != nullptr) return;
     const auto column = screen.Dossier().ZoekKolom(screen.Shown().Len_Id, *screen.Shown().Vrij_Id);
     ASSERT_TRUE(column) << "the screen shows a column that is not there";
     const QWidget* description = editor.findChild<QWidget*>(QStringLiteral("TxtOm"));
@@ -149,6 +149,17 @@ class Session {
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(line->text().toStdString(), column->Omschrijving());
     ++looks_;
+  }
+
+  /// Something is being typed in some box, which need not have the focus.
+  bool AnyPending(const QWidget& editor) {
+    for (QLineEdit* line : editor.findChildren<QLineEdit*>()) {
+      auto* box = dynamic_cast<qt::EntryBox*>(line);
+      if (box == nullptr || !box->Edit().IsPending()) continue;
+      if (qt::EntryBox::PendingWithin(editor) == nullptr) ++withoutFocus_;
+      return true;
+    }
+    return false;
   }
 
   /// What is on the disk now, should the machine stop.
@@ -203,8 +214,12 @@ class Session {
     std::cout << done_ << " actions:";
     for (const auto& [kind, times] : hands_.Counts()) std::cout << ' ' << times << ' ' << kind << ',';
     std::cout << " looked " << looks_ << " times at the screen and " << files_
-              << " times at the file; closed the window " << quits_ << " times; " << made_
+              << " times at the file; saw a box that is edited without the focus " << withoutFocus_
+              << " times; closed the window " << quits_ << " times; " << made_
               << " loan files in the end; error reports: " << eventLog_.Read().count(QStringLiteral("FOUT")) << '\n';
+    for (const QString& line : eventLog_.Read().split(u'\n')) {
+      if (line.contains(QStringLiteral("FOUT"))) std::cout << "  " << line.toStdString() << '\n';
+    }
     if (testing::Test::HasFailure()) {
       for (const QString& action : hands_.Last()) std::cout << "  " << action.toStdString() << '\n';
     }
@@ -221,6 +236,7 @@ class Session {
   int onStartPage_ = 0;
   int quits_ = 0;
   int looks_ = 0;
+  int withoutFocus_ = 0;  ///< looks at which a box was being edited that has not the focus
   int files_ = 0;
   int made_ = 0;
 };
