@@ -14,7 +14,7 @@ class NotTaken : public ByHand {
  protected:
   NotTaken() {
     subscriptions += box_.Validation.Connect([this](bool&) {
-      if (fails_) hands->Desktop().ProcedureFailed.Raise();
+      if (fails_) hands->Toolkit().Desktop().ProcedureFailed.Raise();
       log.emplace_back(fails_ ? "failed" : "taken");
     });
     subscriptions += Get<controls::Button>("cmdDoen").Click.Connect([this] { log.emplace_back("cmdDoen"); });

@@ -1,5 +1,7 @@
 #include "toolkits/win32/controls/PlainWindows.h"
 
+#include <optional>
+
 #include "controls/Caption.h"
 #include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/window/Text.h"
@@ -76,7 +78,8 @@ void SurfaceWindow::DrawVeil(HDC context) const {
   GetClientRect(Handle(), &area);
   const HGDIOBJ before = SelectObject(context, Font());
   SetBkMode(context, TRANSPARENT);
-  SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
+  const std::optional<COLORREF> own = OwnColor(BackgroundOf(surface_));
+  SetTextColor(context, own ? TextOn(*own) : GetSysColor(COLOR_BTNTEXT));
   DrawTextW(context, Wide(controls::kVeil).c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
   SelectObject(context, before);
 }
