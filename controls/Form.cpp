@@ -40,19 +40,20 @@ host::Twips Form::ScaleWidth() const { return Current().place.width - MadeBy().W
 host::Twips Form::ScaleHeight() const { return Current().place.height - MadeBy().WindowFrame().height; }
 
 void Form::ShowModal(host::Hoofdvenster* eigenaar) {
-  const Life& life = *MadeBy().Life();
+  const std::shared_ptr<Life> life = MadeBy().Life();
+  const Life::Call call(life);
   Activate.Raise();
-  life.Check();
+  life->Check();
   if (unloaded_) return;
   {
-    const Life::AtEnd unload(*MadeBy().Life(), [this] { Unload(); });
+    const Life::AtEnd unload(*life, [this] { Unload(); });
     if (formPeer_ != nullptr)
       formPeer_->ShowModal(HostsOwn(eigenaar));
     else
       MadeBy().RunModal(*this);
   }
   Unload();
-  life.Check();
+  life->Check();
 }
 
 void Form::Unload() {

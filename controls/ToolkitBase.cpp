@@ -36,20 +36,22 @@ std::unique_ptr<host::Form> ToolkitBase::MakeForm(const frame::Design& design) {
   return form;
 }
 
-/// One that left meanwhile is told nothing more, and nobody is when the control's life has ended.
-bool ToolkitBase::Listens(const ActionListener* listener) const {
-  return !life_->Ended() && std::find(listeners_.begin(), listeners_.end(), listener) != listeners_.end();
-}
+ToolkitBase::~ToolkitBase() { life_->End(nullptr); }
 
 Outcome ToolkitBase::Watch(AnyControl& control, const Action& action, const std::function<Outcome()>& act) {
   const std::vector<ActionListener*> listeners = listeners_;
+  // One that left meanwhile is told nothing more, and nobody is when the life has ended, perhaps with this.
+  const std::shared_ptr<const controls::Life> life = life_;
+  const auto listens = [&](const ActionListener* listener) {
+    return !life->Ended() && std::find(listeners_.begin(), listeners_.end(), listener) != listeners_.end();
+  };
   const auto after = [&](std::optional<Outcome> outcome) {
     for (auto listener = listeners.rbegin(); listener != listeners.rend(); ++listener)
-      if (Listens(*listener)) (*listener)->After(control, action, outcome);
+      if (listens(*listener)) (*listener)->After(control, action, outcome);
   };
   for (ActionListener* listener : listeners)
-    if (Listens(listener)) listener->Before(control, action);
-  if (life_->Ended()) return Outcome::Ignored;
+    if (listens(listener)) listener->Before(control, action);
+  if (life->Ended()) return Outcome::Ignored;
   Outcome outcome{};
   try {
     outcome = act();
@@ -63,8 +65,7 @@ Outcome ToolkitBase::Watch(AnyControl& control, const Action& action, const std:
 
 void ToolkitBase::TellSizing(Surface& surface, host::Twips width, host::Twips height) const {
   const std::vector<ActionListener*> listeners = listeners_;
-  for (ActionListener* listener : listeners)
-    if (Listens(listener)) listener->Sizing(surface, width, height);
+  for (ActionListener* listener : listeners) listener->Sizing(surface, width, height);
 }
 
 }  // namespace brivane::controls

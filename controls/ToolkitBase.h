@@ -24,10 +24,12 @@ struct WindowFrame {
 /// Must outlive the surfaces and forms that it made.
 class ToolkitBase : public frame::Toolkit {
  public:
+  ~ToolkitBase() override;
+
   [[nodiscard]] std::unique_ptr<host::Surface> MakeSurface(const frame::Design& design) final;
   [[nodiscard]] std::unique_ptr<host::Form> MakeForm(const frame::Design& design) final;
 
-  /// How long what it makes lives, where a host may delete it at any moment; it never ends by itself.
+  /// How long what it makes lives, where a host may delete it at any moment; it ends with the toolkit at the latest.
   [[nodiscard]] const std::shared_ptr<controls::Life>& Life() const { return life_; }
 
   /// Listeners are told in the order of adding, and of what an action became in the reverse order.
@@ -57,8 +59,6 @@ class ToolkitBase : public frame::Toolkit {
  private:
   Outcome Watch(AnyControl& control, const Action& action, const std::function<Outcome()>& act);
   void TellSizing(Surface& surface, host::Twips width, host::Twips height) const;
-
-  [[nodiscard]] bool Listens(const ActionListener* listener) const;
 
   std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
   std::vector<ActionListener*> listeners_;

@@ -75,6 +75,7 @@ template <class Interface, class Base = Interface> class Held : public Base, pub
   template <class Operation, class... Arguments> auto Ask(Operation operation, Arguments&&... arguments) const {
     // This may go while the host is at work, and the host may let go of its object.
     const std::shared_ptr<Life> life = TheShared()->life;
+    const Life::Call call(life);
     const std::shared_ptr<Interface> object = object_;
     life->Check();
     if (!object) throw host::Error(host::ErrorNumber::ObjectMissing);

@@ -80,7 +80,7 @@ class Life {
 
   /// Runs something of the control for somebody who is no part of it. False, and quiet, where the life had ended or
   /// ended meanwhile; any other failure goes on to the caller.
-  template <class Body> static bool Run(const std::shared_ptr<Life>& life, Body&& body) {
+  template <class Body> static bool Run(std::shared_ptr<Life> life, Body&& body) {
     const Call call(life);
     if (life->Ended()) return false;
     try {

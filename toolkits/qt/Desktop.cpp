@@ -18,6 +18,7 @@ namespace brivane::qt {
 std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::applicationDisplayName()); }
 
 host::MessageAnswer Desktop::MessageBox(const std::string& title, const std::string& text, host::MessageStyle style) {
+  const controls::Life::Call call(life_);
   life_->Check();
   const host::MessageAnswer given =
       answer ? answer(title, text, style) : Show(title, text, Added(title, text, style), style);

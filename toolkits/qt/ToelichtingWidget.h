@@ -24,7 +24,8 @@ class ToelichtingWidget : public ControlWidget {
   /// deleted meanwhile.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
-  /// The control behind the widget; nothing until the factories were set.
+  /// The control behind the widget; nothing until the factories were set. For its events and its state: where the
+  /// widget is deleted from inside a call on the control itself, that call ends in controls::Abandoned.
   [[nodiscard]] Toelichting* Control() { return control_.get(); }
 
  signals:

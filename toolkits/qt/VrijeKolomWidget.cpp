@@ -49,6 +49,12 @@ void VrijeKolomWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
         [&control = host::Need(control_), ControleNr](bool& cancel) { control.Validation(cancel, ControleNr); });
 }
 
+void VrijeKolomWidget::ValidationToelichting(bool& Cancel, std::int32_t ControleNr) {
+  Check(Cancel, [&control = host::Need(control_), ControleNr](bool& cancel) {
+    control.Toelichting().Validation(cancel, ControleNr);
+  });
+}
+
 QString VrijeKolomWidget::topDisplay() {
   if (topDisplay_) return *topDisplay_;
   const QPointer<VrijeKolomWidget> alive(this);

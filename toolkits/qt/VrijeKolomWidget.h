@@ -33,13 +33,16 @@ class VrijeKolomWidget : public ControlWidget {
   /// refused here. A widget that stands for nothing has nothing to check. Cancel stays as it is where the widget is
   /// deleted meanwhile.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
+  /// As the Validation of the explanation control inside the editor, which is the host's to call, after the same.
+  void ValidationToelichting(bool& Cancel, std::int32_t ControleNr = 0);
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 
   /// The header text of the column as it was told last; empty while the widget stands for no column.
   [[nodiscard]] QString topDisplay();
 
-  /// The control behind the widget; nothing until the factories were set.
+  /// The control behind the widget; nothing until the factories were set. For its events and its state: where the
+  /// widget is deleted from inside a call on the control itself, that call ends in controls::Abandoned.
   [[nodiscard]] VrijeKolom* Control() { return control_.get(); }
 
  signals:

@@ -303,6 +303,20 @@ constexpr Place<Editor> kPlaces[] = {
        on.StrikeInLoop();
        Press(Qt::Key_Tab);
      }},
+    {"ExplanationRefuses",
+     [](Editor& on) {
+       Do(on.Find("Toelichting.jnOverlijden"), controls::Toggle{host::kJa});
+       on.StrikeInLoop();
+       bool cancel = false;
+       on.Get()->ValidationToelichting(cancel);
+     }},
+    {"ExplanationRefusesAHostThatAsksTheControl",
+     [](Editor& on) {
+       Do(on.Find("Toelichting.jnOverlijden"), controls::Toggle{host::kJa});
+       on.StrikeInLoop();
+       bool cancel = false;
+       EXPECT_THROW(on.Get()->Control()->Toelichting().Validation(cancel), controls::Abandoned);
+     }},
     {"HostReports",
      [](Editor& on) {
        ReportOpen(on);
@@ -337,10 +351,32 @@ constexpr Place<Editor> kPlaces[] = {
        TypeOm(on);
        Click(*WidgetFor(on.Find("optLast", 2)));
      }},
-    {"RefreshTopDisplayWhileBinding",
+    {"HeightChangedWhileBinding",
      [](Editor& on) {
        QObject::connect(on.Get(), &qt::VrijeKolomWidget::heightChanged, on.Get(), [&on] { on.Strike(); });
        Bind(on);
+     }},
+    {"TopDisplayChangedByBinding",
+     [](Editor& on) {
+       QObject::connect(on.Get(), &qt::VrijeKolomWidget::topDisplayChanged, on.Get(), [&on] { on.Strike(); });
+       Bind(on);
+     }},
+    {"TopDisplayChangedByUnbinding",
+     [](Editor& on) {
+       QObject::connect(on.Get(), &qt::VrijeKolomWidget::topDisplayChanged, on.Get(), [&on] { on.Strike(); });
+       on.Get()->Unbind();
+     }},
+    {"TopDisplayRead",
+     [](Editor& on) {
+       At(on, kField<&Values::Kopregel>, Op::Get);
+       (void)on.Get()->topDisplay();
+     }},
+    {"AsksWhetherToDropWhatNobodyCanReach",
+     [](Editor& on) {
+       TypeOm(on);
+       on.Find("fraGegevens").Host().SetEnabled(false);
+       on.StrikeInLoop();
+       on.Get()->CommitPending();
      }},
     {"HeightChangedByAnEdit",
      [](Editor& on) {
