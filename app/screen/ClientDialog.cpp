@@ -13,6 +13,7 @@
 #include "app/desk/Today.h"
 #include "frame/Dates.h"
 #include "toolkits/qt/widgets/DateBox.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::app {
 namespace {
@@ -91,11 +92,13 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
   for (std::size_t part = 0; part < fields.name.size(); ++part) {
     const QString heading = QString::fromUtf8(kNameFields[part]);
     fields.name[part] = new QLineEdit;
+    qt::TypesNothingWithAlt(*fields.name[part]);
     fields.name[part]->setAccessibleName(name + QStringLiteral(", ") + heading);
     fields.name[part]->setMinimumWidth(fields.name[part]->fontMetrics().averageCharWidth() * 34);
     layout->addRow(heading, fields.name[part]);
   }
   fields.geboortedatum = new qt::DateBox;
+  qt::TypesNothingWithAlt(*fields.geboortedatum);
   fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);

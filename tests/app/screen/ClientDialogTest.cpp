@@ -98,6 +98,17 @@ TEST_F(ClientDialogTest, TheWheelChangesTheAgeLimitOnlyWhereTheFocusIs) {
   EXPECT_EQ(age.value(), before - 1);
 }
 
+TEST_F(ClientDialogTest, ALetterWithAltIsTypedNowhere) {
+  for (const char* name : {"Aanvrager, Achternaam", "Aanvrager, Geboortedatum"}) {
+    QLineEdit& field = Field(QLatin1String(name));
+    field.setText(QStringLiteral("01-02-1980"));
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(field.text(), "01-02-1980");
+  }
+}
+
 TEST_F(ClientDialogTest, WhatIsRefusedIsSelected) {
   Field(QStringLiteral("Aanvrager, Achternaam")).setText(QStringLiteral("Jansen"));
   QLineEdit& date = Field(QStringLiteral("Aanvrager, Geboortedatum"));

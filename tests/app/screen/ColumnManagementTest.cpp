@@ -181,6 +181,17 @@ TEST_F(ColumnManagementTest, AFileToBeReadIsClosedAlsoOnAColumnThatIsNotComplete
   EXPECT_TRUE(window_->CloseDossier());
 }
 
+TEST_F(ColumnManagementTest, ALetterWithAltIsTypedIntoNoNameOfALoan) {
+  dialogs_.Expect([](QWidget& window) {
+    auto& box = *window.findChild<QLineEdit*>();
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(box.text(), "Nieuwe lening 3");
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  window_->Actions().addLening->trigger();
+}
+
 TEST_F(ColumnManagementTest, ALetterAloneRemovesNoColumn) {
   ASSERT_TRUE(Screen().GoTo({0, 3}));
   PressKey(Qt::Key_F6);

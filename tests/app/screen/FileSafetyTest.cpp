@@ -188,6 +188,9 @@ TEST(NewFileDialogTest, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
     auto* box = dialog->findChild<QLineEdit*>("fileNameEdit");
     box->setFocus();
     box->setText(folder.filePath(name));
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(box->text(), folder.filePath(name));
     QTest::keyClick(box, Qt::Key_Return);
   };
   QTimer::singleShot(200, qApp, [&] {
