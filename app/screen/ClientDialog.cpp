@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -23,7 +24,7 @@ constexpr std::size_t kSurname = 2;
 constexpr int kLowestLeeftijd = 1;
 constexpr int kHighestLeeftijd = 120;
 
-/// A number that the wheel changes only where somebody has gone to it.
+/// A number that the wheel changes only where somebody has gone to it, and a digit only without Alt.
 class AgeBox final : public QSpinBox {
  public:
   AgeBox() { setFocusPolicy(Qt::StrongFocus); }
@@ -34,6 +35,12 @@ class AgeBox final : public QSpinBox {
       QSpinBox::wheelEvent(event);
     else
       event->ignore();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (qt::IsTypedWithAlt(*event))
+      event->ignore();
+    else
+      QSpinBox::keyPressEvent(event);
   }
 };
 

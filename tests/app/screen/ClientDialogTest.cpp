@@ -107,6 +107,14 @@ TEST_F(ClientDialogTest, ALetterWithAltIsTypedNowhere) {
     QTest::keyClick(&field, Qt::Key_X, Qt::AltModifier);
     EXPECT_EQ(field.text(), "01-02-1980");
   }
+  auto& age = *dialog_.findChild<QSpinBox*>();
+  const int before = age.value();
+  age.setFocus();
+  age.selectAll();
+  QTest::keyClick(&age, Qt::Key_5, Qt::AltModifier);
+  EXPECT_EQ(age.value(), before);
+  QTest::keyClick(&age, Qt::Key_5);
+  EXPECT_EQ(age.value(), 5);
 }
 
 TEST_F(ClientDialogTest, WhatIsRefusedIsSelected) {
