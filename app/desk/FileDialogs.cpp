@@ -5,12 +5,14 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QSettings>
 #include <QStyle>
 #include <QTemporaryDir>
 #include <QTimer>
 
 #include "app/screen/Messages.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::app {
 namespace {
@@ -63,6 +65,7 @@ class Dialog final : public QFileDialog {
     setIconProvider(&names);
     setDirectory(question.folder);
     setHistory({});
+    for (QLineEdit* box : findChildren<QLineEdit*>()) qt::TypesNothingWithAlt(*box);
   }
   void accept() override {
     if (refused_) return;

@@ -4,14 +4,17 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "app/desk/Today.h"
 #include "frame/Dates.h"
 #include "toolkits/qt/widgets/DateBox.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::app {
 namespace {
@@ -20,6 +23,26 @@ constexpr std::array<const char*, 3> kNameFields = {"Voorletters", "Tussenvoegse
 constexpr std::size_t kSurname = 2;
 constexpr int kLowestLeeftijd = 1;
 constexpr int kHighestLeeftijd = 120;
+
+/// A number that the wheel changes only where somebody has gone to it, and a digit only without Alt.
+class AgeBox final : public QSpinBox {
+ public:
+  AgeBox() { setFocusPolicy(Qt::StrongFocus); }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus())
+      QSpinBox::wheelEvent(event);
+    else
+      event->ignore();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (qt::IsTypedWithAlt(*event))
+      event->ignore();
+    else
+      QSpinBox::keyPressEvent(event);
+  }
+};
 
 /// A date of birth as it is typed.
 controls::TypedContent ReadBirth(std::string_view typed) {
@@ -39,7 +62,7 @@ ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* 
   connect(withPartner_, &QCheckBox::toggled, partner, &QWidget::setEnabled);
   connect(withPartner_, &QCheckBox::toggled, this, [this] { reason_->clear(); });
 
-  leeftijd_ = new QSpinBox;
+  leeftijd_ = new AgeBox;
   leeftijd_->setRange(kLowestLeeftijd, kHighestLeeftijd);
   leeftijd_->setSuffix(QStringLiteral(" jaar"));
   leeftijd_->setAccessibleName(QStringLiteral("Leeftijdsgrens"));
@@ -76,11 +99,13 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
   for (std::size_t part = 0; part < fields.name.size(); ++part) {
     const QString heading = QString::fromUtf8(kNameFields[part]);
     fields.name[part] = new QLineEdit;
+    qt::TypesNothingWithAlt(*fields.name[part]);
     fields.name[part]->setAccessibleName(name + QStringLiteral(", ") + heading);
     fields.name[part]->setMinimumWidth(fields.name[part]->fontMetrics().averageCharWidth() * 34);
     layout->addRow(heading, fields.name[part]);
   }
   fields.geboortedatum = new qt::DateBox;
+  qt::TypesNothingWithAlt(*fields.geboortedatum);
   fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);

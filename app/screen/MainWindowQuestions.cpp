@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -12,6 +13,7 @@
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
+#include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::app {
 namespace {
@@ -98,6 +100,7 @@ void MainWindow::AskLening() {
   question.setWindowTitle(QStringLiteral("Lening toevoegen"));
   question.setLabelText(QStringLiteral("Naam van de lening in de nieuwe situatie"));
   question.setTextValue(QStringLiteral("Nieuwe lening %1").arg(screen_->Dossier().AantalLeningen() + 1));
+  if (auto* box = question.findChild<QLineEdit*>()) qt::TypesNothingWithAlt(*box);
   question.setOkButtonText(QStringLiteral("OK"));
   question.setCancelButtonText(QStringLiteral("Annuleren"));
   if (question.exec() == QDialog::Accepted) screen_->AddLening(question.textValue().trimmed());

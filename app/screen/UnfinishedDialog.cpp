@@ -39,8 +39,10 @@ UnfinishedDialog::UnfinishedDialog(const UnfinishedText& unfinished, QWidget* pa
   text->setAccessibleName(QStringLiteral("Niet opgeslagen tekst"));
   const QFontMetrics metrics = text->fontMetrics();
   text->setTabStopDistance(14.0 * metrics.averageCharWidth());
-  const int lines = qBound(1, static_cast<int>(unfinished.text.count(u'\n')) + 1, kMostLines) + 1;
-  text->setMinimumSize(kCharacters * metrics.averageCharWidth(), lines * metrics.lineSpacing() + 12);
+  const auto lines = static_cast<int>(unfinished.text.count(u'\n')) + 1;
+  const int height = (qMin(lines, kMostLines) + 1) * metrics.lineSpacing() + 2 * text->frameWidth();
+  text->setMinimumSize(kCharacters * metrics.averageCharWidth(), height);
+  if (lines < kMostLines) text->setMaximumHeight(height);
 
   // What goes back into no box goes along on the clipboard.
   const bool inBox = !unfinished.box.isEmpty();

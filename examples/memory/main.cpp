@@ -4,10 +4,9 @@
 #include <memory>
 #include <string>
 
-#include "controls/Binding.h"
 #include "frame/Calendar.h"
 #include "host/MemoryHost.h"
-#include "toolkits/memory/Toolkit.h"
+#include "toolkits/memory/Embedded.h"
 #include "vrijekolom/Ontwerp.h"
 #include "vrijekolom/VrijeKolom.h"
 
@@ -27,16 +26,13 @@ int main() {
   };
 
   // The editor on the toolkit in memory.
-  memory::Toolkit toolkit;
-  auto surface = toolkit.MakeSurface(vrijekolom::kOntwerp);
-  VrijeKolom editor(*surface, toolkit, memory_host::Factories());
+  memory::Embedded<VrijeKolom> editor(vrijekolom::kOntwerp, memory_host::Factories());
   const auto header =
-      editor.RefreshTopDisplay.Connect([](const std::string& text) { std::cout << "header: " << text << '\n'; });
-  controls::Binding binding(*surface);
-  if (binding.Bind([&] { editor.SetApplication(application, 0, 1); }) != controls::BindingResult::Bound) return 1;
+      editor.Get().RefreshTopDisplay.Connect([](const std::string& text) { std::cout << "header: " << text << '\n'; });
+  if (editor.SetApplication(application, 0, 1) != controls::BindingResult::Bound) return 1;
 
   // What the adviser does.
-  auto& boxes = controls::Surface::Of(*surface);
+  auto& boxes = editor.Surface();
   boxes.Find("TxtOm")->Perform(controls::Enter{std::string("Vereniging")});
   boxes.Find("TxtBd")->Perform(controls::Enter{12.5});
   boxes.Find("TxtDtAanvang")->Perform(controls::Enter{frame::MakeDate({2031, 4, 1})});

@@ -45,7 +45,7 @@ PLANTED_INCLUDES = [
     ("dossier/model/B.h", "#include <QString>"),
     ("dossier/store/B.h", "#include <nlohmann/json.hpp>"),
     ("replay/document/B.h", "#include <QJsonObject>"),
-    ("app/B.h", "#include <gtest/gtest.h>"),
+    ("app/screen/B.h", "#include <gtest/gtest.h>"),
     # Round the list.
     ("vrijekolom/B.cpp", '#include "host/../controls/Surface.h"'),
     ("frame/B.cpp", '#include "Calendar.h"'),

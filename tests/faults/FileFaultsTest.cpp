@@ -1,20 +1,11 @@
 // A program works in a loan file, and something happens to the file at a random moment. What the program said it had
 // accepted is where the documents say, or the next change was refused in a message.
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
-#include <iostream>
-#include <map>
-#include <random>
+#include <cstdio>
 
 #include "dossier/model/SampleCase.h"
-#include "dossier/store/DossierFile.h"
+#include "tests/faults/FileTry.h"
 
 namespace brivane::faults {
 namespace {
@@ -22,118 +13,6 @@ namespace {
 using dossier::DossierFile;
 using dossier::OpeningError;
 using dossier::OpeningProblem;
-
-constexpr int kTries = 100;
-constexpr int kPatience = 60000;
-
-/// What the child has accepted: the number that stands in the first column as its duration.
-using Number = int;
-
-/// A program that writes ever higher numbers into the duration of the first column, one edit each, and says each one
-/// once it was accepted; then "refused" once a change was refused, and what file it could keep in place of it.
-class Worker {
- public:
-  explicit Worker(const QString& file, Number from) {
-    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process_.start(QStringLiteral(FILE_WORKER), {file, QString::number(from)});
-    EXPECT_TRUE(process_.waitForStarted());
-  }
-  ~Worker() {
-    if (process_.state() == QProcess::NotRunning) return;
-    process_.kill();
-    process_.waitForFinished(kPatience);
-  }
-  Worker(const Worker&) = delete;
-  Worker& operator=(const Worker&) = delete;
-
-  /// Waits until it works.
-  [[nodiscard]] bool Works() { return Read() && accepted_ > 0; }
-  void Kill() {
-    process_.kill();
-    EXPECT_TRUE(process_.waitForFinished(kPatience));
-    while (Read()) {
-    }
-  }
-  /// Lets it go on until a change is refused, or asks it to stop and close the file in order.
-  void Finish() {
-    process_.closeWriteChannel();
-    EXPECT_TRUE(process_.waitForFinished(kPatience));
-    EXPECT_EQ(process_.exitStatus(), QProcess::NormalExit);
-    while (Read()) {
-    }
-  }
-
-  [[nodiscard]] Number Accepted() const { return accepted_; }
-  [[nodiscard]] bool Refused() const { return refused_; }
-
- private:
-  bool Read() {
-    while (!process_.canReadLine()) {
-      if (process_.state() == QProcess::NotRunning || !process_.waitForReadyRead(kPatience)) {
-        if (!process_.canReadLine()) return false;
-      }
-    }
-    const QByteArray line = process_.readLine().trimmed();
-    if (line == "refused")
-      refused_ = true;
-    else
-      accepted_ = line.toInt();
-    return true;
-  }
-
-  QProcess process_;
-  Number accepted_ = 0;
-  bool refused_ = false;
-};
-
-/// One folder with a loan file, and chance.
-class Try {
- public:
-  explicit Try(unsigned seed) : chance_(seed) { DossierFile::Maak(Path(), dossier::VoorbeeldDossier()); }
-
-  [[nodiscard]] QString Path(const char* name = "k.dossier") const { return folder_.filePath(QLatin1String(name)); }
-  void Wait(int most) { QThread::usleep(std::uniform_int_distribution<unsigned long>(0, most * 1000UL)(chance_)); }
-  [[nodiscard]] bool Toss() { return std::bernoulli_distribution()(chance_); }
-
- private:
-  QTemporaryDir folder_;
-  std::mt19937 chance_;
-};
-
-Number NumberIn(const QString& file) {
-  const auto open = DossierFile::Open(file);
-  EXPECT_TRUE(open->ControleerHeelheid().isEmpty());
-  return open->Dossier()->ZoekKolom(0, 1)->Looptijd();
-}
-
-/// The problem that opening meets, or nothing.
-std::optional<OpeningProblem> Problem(const QString& file) {
-  try {
-    static_cast<void>(DossierFile::Open(file));
-    return std::nullopt;
-  } catch (const OpeningError& error) {
-    return error.Problem();
-  }
-}
-
-/// A copy of the file alone, as a mail or a backup takes it.
-QString CopyOf(const Try& one, const char* name = "kopie.dossier") {
-  EXPECT_TRUE(QFile::copy(one.Path(), one.Path(name)));
-  return one.Path(name);
-}
-
-template <class Body> void TryOften(const char* what, Body body) {
-  std::map<std::string, int> outcomes;
-  for (int n = 0; n < kTries; ++n) {
-    SCOPED_TRACE(std::string(what) + ", try " + std::to_string(n));
-    Try one(20261122u + static_cast<unsigned>(n));
-    ++outcomes[body(one)];
-    ASSERT_FALSE(testing::Test::HasFailure());
-  }
-  std::cout << what << ":";
-  for (const auto& [outcome, times] : outcomes) std::cout << ' ' << times << " x " << outcome << ';';
-  std::cout << '\n';
-}
 
 TEST(FileFaults, Killed) {
   TryOften("killed", [](Try& one) -> std::string {
@@ -244,6 +123,35 @@ TEST(FileFaults, CopiedAtRest) {
     return "all of it";
   });
 }
+
+/// The disk is full from some call on, or one call fails; then it is well again, and the work goes on.
+void TryADiskThat(const char* how) {
+  TryOften(how, [how](Try& one) -> std::string {
+    Worker worker(one.Path(), 1, {QLatin1String(how), QString::number(one.Pick(400))});
+    worker.WaitForRefusal();
+    const bool killed = worker.Refused() && one.Toss();
+    one.Wait(20);
+    if (killed)
+      worker.Kill();
+    else
+      worker.Finish();
+    const Number stored = NumberIn(one.Path());
+    if (worker.NotOpened()) {
+      EXPECT_EQ(worker.Accepted(), 0);
+      return "not opened, with its reason";
+    }
+    // A kill may take the word for what was accepted just now.
+    EXPECT_TRUE(stored == worker.Accepted() || (killed && stored == worker.Accepted() + 1))
+        << stored << ' ' << worker.Accepted();
+    EXPECT_FALSE(QFile::exists(one.Path("k.dossier-wal")));
+    if (!worker.Refused()) return "met by no edit, and in the file";
+    return killed ? "refused, then killed, and in the file" : "refused, and in the file with what came after";
+  });
+}
+
+TEST(FileFaults, DiskFull) { TryADiskThat("full"); }
+
+TEST(FileFaults, DiskError) { TryADiskThat("error"); }
 
 TEST(FileFaults, TwoPrograms) {
   TryOften("two programs", [](Try& one) -> std::string {

@@ -5,6 +5,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "controls/Binding.h"
 #include "controls/life/HeldHost.h"
 #include "frame/Design.h"
 #include "toolkits/memory/Toolkit.h"
@@ -28,6 +29,7 @@ template <class Control> class Embedded {
       : body_(std::make_shared<Body>()) {
     if (prepare) prepare(body_->toolkit);
     body_->surface = body_->toolkit.MakeSurface(design);
+    body_->binding = std::make_unique<controls::Binding>(*body_->surface);
     if constexpr (std::is_constructible_v<Control, host::Surface&, frame::Toolkit&, const host::HostFactories&>)
       body_->control = std::make_unique<Control>(*body_->surface, body_->toolkit, body_->host.Hold(factories));
     else
@@ -46,28 +48,37 @@ template <class Control> class Embedded {
   /// The control itself, for its events and its state. What it does is asked of it here.
   [[nodiscard]] Control& Get() { return *body_->control; }
 
-  /// These bind the control, as its own SetApplication does.
-  void SetApplication(const std::shared_ptr<host::Application>& application, std::int16_t Len_Id,
-                      std::int16_t Vrij_Id) {
-    Run([&](Body& body) {
-      body.control->SetApplication(body.host.Hold(application), Len_Id, Vrij_Id);
-      body.host.Rest();
-    });
+  /// These bind the control, as its own SetApplication does, and say what became of it. A control that could not be
+  /// bound takes no actions until it is. Without an application it also lets go of the host, as Unbind does.
+  controls::BindingResult SetApplication(const std::shared_ptr<host::Application>& application, std::int16_t Len_Id,
+                                         std::int16_t Vrij_Id) {
+    return Bind([&](Body& body) { body.control->SetApplication(body.host.Hold(application), Len_Id, Vrij_Id); },
+                application == nullptr);
   }
-  void SetApplication(const std::shared_ptr<host::Application>& application,
-                      const std::shared_ptr<host::Lening>& lening, std::int16_t Vrij_Id) {
-    Run([&](Body& body) {
-      std::shared_ptr<host::Application> heldApplication = body.host.Hold(application);
-      std::shared_ptr<host::Lening> heldLening = body.host.Hold(lening);
-      body.control->SetApplication(heldApplication, heldLening, Vrij_Id);
-      heldApplication.reset();
-      body.host.Rest();
-    });
+  controls::BindingResult SetApplication(const std::shared_ptr<host::Application>& application,
+                                         const std::shared_ptr<host::Lening>& lening, std::int16_t Vrij_Id) {
+    return Bind(
+        [&](Body& body) {
+          std::shared_ptr<host::Application> heldApplication = body.host.Hold(application);
+          std::shared_ptr<host::Lening> heldLening = body.host.Hold(lening);
+          body.control->SetApplication(heldApplication, heldLening, Vrij_Id);
+        },
+        application == nullptr);
   }
-  /// As its own Validation; Cancel stays as it is where the host deletes the control meanwhile.
+  /// What the control stands for.
+  [[nodiscard]] controls::BindingState State() const { return body_->binding->State(); }
+  /// Lets go of every object of the host's.
+  void Unbind() {
+    Run([](Body& body) { LetGo(body); });
+  }
+  /// As its own Validation; Cancel stays as it is where the host deletes the control meanwhile. A control that stands
+  /// for nothing has nothing to check.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0) {
     bool cancel = Cancel;
-    if (Run([&](Body& body) { body.control->Validation(cancel, ControleNr); })) Cancel = cancel;
+    const auto check = [&](Body& body) {
+      if (!body.binding->IsVoid()) body.control->Validation(cancel, ControleNr);
+    };
+    if (Run(check)) Cancel = cancel;
   }
 
  private:
@@ -75,8 +86,28 @@ template <class Control> class Embedded {
     memory::Toolkit toolkit;
     controls::HeldHost host{toolkit.Life()};
     std::unique_ptr<host::Surface> surface;
+    std::unique_ptr<controls::Binding> binding;
     std::unique_ptr<Control> control;
   };
+
+  static void LetGo(Body& body) {
+    body.binding->Unbind([&] { body.control->Unbind(); });
+    body.toolkit.Life()->Check();
+    body.host.LetGo();
+  }
+
+  template <class Work> controls::BindingResult Bind(const Work& work, bool release) {
+    controls::BindingResult result = controls::BindingResult::Failed;
+    const bool done = Run([&](Body& body) {
+      result = body.binding->Bind([&] { work(body); });
+      body.toolkit.Life()->Check();
+      body.host.Rest();
+      if (!release) return;
+      LetGo(body);
+      result = controls::BindingResult::Failed;
+    });
+    return done ? result : controls::BindingResult::Failed;
+  }
 
   template <class Work> bool Run(const Work& work) {
     Body& body = *body_;

@@ -60,6 +60,19 @@ TEST(CaseCheckTest, LeavesTheCaseAlone) {
   EXPECT_EQ(dossier.ZoekKolom(0, 2)->Productsoort(), 0);
 }
 
+/// The checks would be of the column before it, which has no start date.
+TEST(CaseCheckTest, ChecksNoColumnThatCannotBeBound) {
+  dossier::DossierGegevens gegevens = WithFaults();
+  gegevens.HuidigeLening.VrijeKolommen[1].CorrectieLast = 77;
+  const dossier::Dossier dossier(gegevens, std::make_shared<dossier::Environment>());
+  std::vector<std::string> texts;
+  for (const dossier::Finding& finding : CheckAll(dossier, DateOf(21, 11, 2026)))
+    if (finding.Len_Id == 0 && finding.Vrij_Id == 2) texts.push_back(finding.text);
+  ASSERT_FALSE(texts.empty());
+  EXPECT_EQ(texts.front().find("De post kan niet worden gecontroleerd: "), 0U) << texts.front();
+  for (const std::string& text : texts) EXPECT_NE(text, "Voer s.v.p. een aanvangsdatum in.");
+}
+
 class FindingsListTest : public WindowTest {};
 
 TEST_F(FindingsListTest, F7ShowsTheFindingsAndEnterGoesToTheColumn) {

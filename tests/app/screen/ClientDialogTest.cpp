@@ -1,10 +1,13 @@
+#include <QtTest/qtestspontaneevent.h>
 #include <gtest/gtest.h>
 
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "app/screen/ClientDialog.h"
 #include "frame/Calendar.h"
@@ -76,6 +79,42 @@ TEST_F(ClientDialogTest, ItsCalendarOpensAtTheBirthThatIsBeingTyped) {
   const QWidget* const popup = dynamic_cast<qt::DateBox&>(date).Calendar();
   ASSERT_NE(popup, nullptr);
   EXPECT_EQ(popup->findChild<QCalendarWidget*>()->selectedDate(), QDate(1950, 2, 1));
+}
+
+TEST_F(ClientDialogTest, TheWheelChangesTheAgeLimitOnlyWhereTheFocusIs) {
+  auto& age = *dialog_.findChild<QSpinBox*>();
+  const int before = age.value();
+  const auto turn = [&] {
+    QWheelEvent event({5, 5}, age.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&age, &event);
+  };
+  turn();
+  EXPECT_FALSE(age.hasFocus());
+  EXPECT_EQ(age.value(), before);
+  age.setFocus();
+  turn();
+  EXPECT_EQ(age.value(), before - 1);
+}
+
+TEST_F(ClientDialogTest, ALetterWithAltIsTypedNowhere) {
+  for (const char* name : {"Aanvrager, Achternaam", "Aanvrager, Geboortedatum"}) {
+    QLineEdit& field = Field(QLatin1String(name));
+    field.setText(QStringLiteral("01-02-1980"));
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClick(&field, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(field.text(), "01-02-1980");
+  }
+  auto& age = *dialog_.findChild<QSpinBox*>();
+  const int before = age.value();
+  age.setFocus();
+  age.selectAll();
+  QTest::keyClick(&age, Qt::Key_5, Qt::AltModifier);
+  EXPECT_EQ(age.value(), before);
+  QTest::keyClick(&age, Qt::Key_5);
+  EXPECT_EQ(age.value(), 5);
 }
 
 TEST_F(ClientDialogTest, WhatIsRefusedIsSelected) {

@@ -78,7 +78,12 @@ class NewColumnTest : public ColumnManagementTest {
   }
   void ExpectRefusal(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     dialogs_.ExpectMessage("Voer s.v.p. een aanvangsdatum in.", [key, modifiers](QWidget& window) {
+      const QPointer<QWidget> box(&window);
       QTest::keyClick(window.windowHandle(), key, modifiers);
+      // A button that a letter presses stays down for a moment.
+      if (QTest::qWaitFor([&] { return !box || !box->isVisible(); }, 1000)) return;
+      ADD_FAILURE() << "the key did not close the message";
+      box->close();
     });
   }
   void ExpectRemoval() { ExpectRefusal(Qt::Key_V, Qt::AltModifier); }
@@ -174,6 +179,17 @@ TEST_F(ColumnManagementTest, AFileToBeReadIsClosedAlsoOnAColumnThatIsNotComplete
   Open();
   ASSERT_TRUE(Screen().File().IsReadOnly());
   EXPECT_TRUE(window_->CloseDossier());
+}
+
+TEST_F(ColumnManagementTest, ALetterWithAltIsTypedIntoNoNameOfALoan) {
+  dialogs_.Expect([](QWidget& window) {
+    auto& box = *window.findChild<QLineEdit*>();
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(box.text(), "Nieuwe lening 3");
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  window_->Actions().addLening->trigger();
 }
 
 TEST_F(ColumnManagementTest, ALetterAloneRemovesNoColumn) {

@@ -1,6 +1,7 @@
 #include <sys/resource.h>
 
 #include <QFileInfo>
+#include <QLabel>
 #include <csignal>
 
 #include "frame/Handle.h"
@@ -57,6 +58,24 @@ TEST_F(FailureTest, AChangeThatIsNotStoredStandsThereNoMore) {
   Type("Avondkrant");
   PressKey(Qt::Key_Tab);
   EXPECT_EQ(ReadAfterClosing()["0/2/omschrijving"].toString(), "Avondkrant");
+}
+
+TEST_F(FailureTest, AColumnThatCannotBeBoundLeavesAnEmptyEditorWithoutAName) {
+  ASSERT_TRUE(Screen().GoTo({0, 2}));
+  KolomScreen& kolom = Screen().Kolom();
+  const auto* header = kolom.findChild<QLabel*>("kopregel");
+  ASSERT_TRUE(header && !header->text().isEmpty());
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+  kolom.Show({0, 99});
+  EXPECT_EQ(header->text(), "");
+  EXPECT_FALSE(kolom.Editor().IsBound());
+  EXPECT_EQ(kolom.Leave(), Leaving::May);
+  kolom.FocusOmschrijving();
+  PressKey(Qt::Key_X);
+  EXPECT_EQ(Screen().Dossier().ZoekKolom(0, 2)->Omschrijving(), "Weekendabonnement");
+  kolom.Show({0, 1});
+  EXPECT_TRUE(kolom.Editor().IsBound());
+  EXPECT_NE(header->text(), "");
 }
 
 TEST_F(FailureTest, AColumnThatIsNotStoredDoesNotComeIntoTheTree) {

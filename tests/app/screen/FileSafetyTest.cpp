@@ -20,6 +20,7 @@
 #include "app/program/CommandLine.h"
 #include "app/program/PrivateFiles.h"
 #include "tests/app/screen/WindowTest.h"
+#include "toolkits/qt/widgets/QuestionBox.h"
 
 // What the window and its dialogs do to files.
 namespace brivane::app {
@@ -187,6 +188,9 @@ TEST(NewFileDialogTest, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
     auto* box = dialog->findChild<QLineEdit*>("fileNameEdit");
     box->setFocus();
     box->setText(folder.filePath(name));
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_X, Qt::AltModifier);
+    EXPECT_EQ(box->text(), folder.filePath(name));
     QTest::keyClick(box, Qt::Key_Return);
   };
   QTimer::singleShot(200, qApp, [&] {
@@ -195,6 +199,8 @@ TEST(NewFileDialogTest, ANameThatIsTakenIsToldOnceAndTheDialogStays) {
       auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (message == nullptr) return;
       ++messages;
+      // Keys that were under way do not close it.
+      EXPECT_NE(dynamic_cast<qt::QuestionBox*>(message), nullptr);
       EXPECT_TRUE(message->text().contains("staat al een bestand \"bezet.dossier\"")) << message->text().toStdString();
       message->accept();
     });

@@ -35,6 +35,19 @@ TEST_P(PastedColumns, IsEnteredAsIfTyped) {
   });
 }
 
+TEST_P(PastedColumns, ThatWereRefusedAreOverWhenTheBoxIsLeft) {
+  Open(4, [&] {
+    for (const bool byKey : {true, false}) {
+      Click(Cell("txtBedrag", 1));
+      Paste("10\n12.50\n30");
+      EXPECT_NE(Reason(), "");
+      byKey ? Press(Key::Down) : Click(Cell("txtBedrag", 2));
+      EXPECT_EQ(Focused(), "txtBedrag(2)");
+      EXPECT_EQ(subject->Reason(Cell("txtBedrag", 1)), "");
+    }
+  });
+}
+
 TEST_P(PastedColumns, WithAMistakeFillsNothing) {
   Open(4, [&] {
     Paste("10\n12.50\n30");

@@ -99,7 +99,7 @@ TEST_F(EditorByHand, LettersOfWhatIsHiddenDoNothing) {
   host_.Kolom(1).velden.Omschrijving = "Kinderopvang";
   Bind(1);
   // A company and a product's name are shown for a product alone, and the proposals where the host says so.
-  for (const char letter : {'m', 'p', 'n', 'u'}) {
+  for (const char letter : {'m', 'p', 'n', 'u', '1', '2', '3'}) {
     hands_->PressAlt('o');
     EXPECT_EQ(hands_->FocusedText(), "[Kinderopvang]") << letter;
     hands_->PressAlt(letter);
@@ -108,6 +108,9 @@ TEST_F(EditorByHand, LettersOfWhatIsHiddenDoNothing) {
   }
   hands_->Press(Key::Tab);
   EXPECT_EQ(host_.Kolom(1).velden.Omschrijving, "Kinderopvang");
+  for (int index = 1; index <= 3; ++index)
+    EXPECT_EQ(dynamic_cast<controls::CheckBox&>(*controls::Surface::Of(*surface_).Find("ChkVoorstel", index)).Value(),
+              host::kUnticked);
 }
 
 }  // namespace

@@ -47,6 +47,7 @@ class Hands {
   virtual void WhileOpen(std::function<void(controls::Form&)> script) = 0;
 
   virtual void Press(Key key, With with = With::None) = 0;
+  /// A small letter, or a digit.
   virtual void PressAlt(char letter) = 0;
   virtual void Type(const std::string& text) = 0;
   virtual void Click(controls::AnyControl& control) = 0;

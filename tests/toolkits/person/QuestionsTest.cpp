@@ -50,8 +50,9 @@ TEST_F(Questions, KeysThatWereUnderWayDoNotCount) {
 }
 
 TEST_F(Questions, KeysCountAfterAPause) {
-  EXPECT_EQ(Answer({{.key = Key::Space}, {.letter = 'j', .alt = true, .after = milliseconds(300)}}, milliseconds(200)),
-            MessageAnswer::Yes);
+  EXPECT_EQ(
+      Answer({{.key = Key::Space}, {.letter = 'j', .alt = true, .after = milliseconds(1200)}}, milliseconds(1000)),
+      MessageAnswer::Yes);
 }
 
 TEST_F(Questions, AKeyThatIsHeldDownDoesNotCount) {

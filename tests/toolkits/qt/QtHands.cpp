@@ -18,7 +18,9 @@
 namespace brivane::test {
 namespace {
 
-Qt::Key LetterKey(char letter) { return static_cast<Qt::Key>(Qt::Key_A + (letter - 'a')); }
+Qt::Key LetterKey(char letter) {
+  return static_cast<Qt::Key>(letter >= 'a' ? Qt::Key_A + (letter - 'a') : Qt::Key_0 + (letter - '0'));
+}
 
 class Ground final : public QWidget {
  public:
@@ -95,7 +97,7 @@ class QtHands final : public Hands {
   void PickInOpenList(controls::ListBox& list, int index) override { Do(list, controls::Choose{index}); }
   bool CommitPending() override {
     if (auto* const box = qt::ChoiceBox::UnderWayWithin(ground_)) box->HandOver();
-    return true;
+    return toolkit_.Pending().Commit(controls::Surface::Of(*surface_));
   }
 
   [[nodiscard]] std::string Focused() const override {

@@ -41,7 +41,7 @@ class BoxPresser {
   [[nodiscard]] const std::string& Read() const { return read_; }
 
  private:
-  static constexpr DWORD kPatience = 150;  ///< in which a key has its effect
+  static constexpr DWORD kPatience = 400;  ///< in which a key has its effect
 
   static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
     if (current != nullptr) current->Go();
@@ -95,6 +95,8 @@ BoxPresser* BoxPresser::current = nullptr;
 class Win32Hands final : public Hands {
  public:
   Win32Hands() : surface_(toolkit_.MakeSurface(kSurface)) {
+    // A list that drops down under the pointer marks the entry there.
+    SetCursorPos(0, 0);
     stage_.Show(*surface_);
     SetWindowSubclass(stage_.Window(), &CountWheel, 1, reinterpret_cast<DWORD_PTR>(&scrolled_));
   }

@@ -20,7 +20,6 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
   body_->binding.emplace(*surface_);
   veil_->setAlignment(Qt::AlignCenter);
   veil_->setWordWrap(true);
-  veil_->setEnabled(false);
   veil_->hide();
   auto& area = static_cast<SurfaceWidget&>(Toolkit::WidgetOf(*surface_));
   area.setParent(this);

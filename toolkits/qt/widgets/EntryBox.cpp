@@ -92,6 +92,8 @@ bool EntryBox::LeavesBox(const QWidget* target) const {
 /// A click on another control commits first: refused content keeps the focus, and the click is dropped.
 bool EntryBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+  // A click moves the focus before it comes by here: what was refused then is not asked again.
+  if (press && watched->isWidgetType() && std::exchange(clickRefused_, false) && edit_.IsPending()) return true;
   if (press && watched->isWidgetType() && edit_.IsPending() && LeavesBox(static_cast<QWidget*>(watched))) {
     const QPointer<QObject> target(watched);
     const auto life = edit_.Life();
@@ -144,7 +146,9 @@ void EntryBox::focusOutEvent(QFocusEvent* event) {
     return;
   qApp->removeEventFilter(this);
   if (!isEnabled() || !isVisible()) return;
-  edit_.Commit();
+  const auto life = edit_.Life();
+  const bool kept = edit_.IsPending() && !edit_.Commit();
+  if (!life.expired()) clickRefused_ = kept && reason == Qt::MouseFocusReason;
 }
 
 bool EntryBox::focusNextPrevChild(bool next) {

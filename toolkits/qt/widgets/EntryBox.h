@@ -58,6 +58,7 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
 
   controls::PendingEdit edit_{*this};
   bool reasonShown_ = false;
+  bool clickRefused_ = false;  ///< the click that is under way was refused when it took the focus
 };
 
 }  // namespace brivane::qt

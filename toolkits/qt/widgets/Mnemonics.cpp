@@ -13,10 +13,7 @@ class AltFilter final : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return QObject::eventFilter(watched, event);
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    // Control and Alt together are the AltGr of some keyboards, which types.
-    const bool alt = (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier;
-    if (!alt || key.text().isEmpty() || !key.text().front().isPrint()) return QObject::eventFilter(watched, event);
+    if (!IsTypedWithAlt(static_cast<const QKeyEvent&>(*event))) return QObject::eventFilter(watched, event);
     event->ignore();  // it may mean something to the window
     return true;
   }
@@ -27,6 +24,11 @@ class AltFilter final : public QObject {
 bool LeadingLabel::event(QEvent* event) {
   const bool leads = buddy() != nullptr && buddy()->isEnabled() && buddy()->isVisible();
   return (event->type() == QEvent::Shortcut && !leads) || QLabel::event(event);
+}
+
+bool IsTypedWithAlt(const QKeyEvent& key) {
+  const bool alt = (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier;
+  return alt && !key.text().isEmpty() && key.text().front().isPrint();
 }
 
 void TypesNothingWithAlt(QLineEdit& box) { box.installEventFilter(new AltFilter(&box)); }

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+class QKeyEvent;
 class QLineEdit;
 
 /// Alt with a letter goes to what the letter belongs to, or does nothing where that is disabled or hidden.
@@ -15,6 +16,9 @@ class LeadingLabel final : public QLabel {
  protected:
   bool event(QEvent* event) override;
 };
+
+/// Whether a key types something, pressed with Alt: what Control and Alt together type is that of AltGr.
+[[nodiscard]] bool IsTypedWithAlt(const QKeyEvent& key);
 
 /// Keeps a line edit from typing the letters that are pressed with Alt: Qt hands it those that no mnemonic takes.
 void TypesNothingWithAlt(QLineEdit& box);

@@ -87,12 +87,13 @@ SurfacePeer::SurfacePeer(controls::Surface& surface, qt::Toolkit& toolkit, QWidg
     : WidgetPeer(surface, toolkit, new SurfaceWidget(surface, toolkit, container)) {}
 
 void SurfacePeer::Refresh(controls::Aspect aspect) {
+  if (aspect == controls::Aspect::Enabled && IsVeiled()) return;
   if (aspect != controls::Aspect::Veil) return WidgetPeer::Refresh(aspect);
   if (Widget() == nullptr) return;
-  // Where there is nothing else to go to, Qt leaves the focus in what it hides, and keys go on coming there.
+  // Where there is nothing else to go to, Qt leaves the focus in what it hides; and what is hidden can be given it.
   QWidget* const focus = Widget()->window()->focusWidget();
-  if (static_cast<const controls::Surface&>(Control()).IsVeiled() && focus != nullptr && Widget()->isAncestorOf(focus))
-    focus->clearFocus();
+  if (IsVeiled() && focus != nullptr && Widget()->isAncestorOf(focus)) focus->clearFocus();
+  Widget()->setEnabled(!IsVeiled() && Control().Host().Enabled());
   ShowVisible();
   const auto& veiled = static_cast<SurfaceWidget*>(Widget())->veiled;
   if (veiled) veiled();
@@ -101,7 +102,7 @@ void SurfacePeer::Refresh(controls::Aspect aspect) {
 void SurfacePeer::ShowVisible() {
   // A surface of its own is shown by the widget that takes it in.
   if (!IsEmbedded() && Widget()->parentWidget() == nullptr) return;
-  Widget()->setVisible(Control().Host().Visible() && !static_cast<const controls::Surface&>(Control()).IsVeiled());
+  Widget()->setVisible(Control().Host().Visible() && !IsVeiled());
 }
 
 void SurfacePeer::ShowPlace() {

@@ -45,6 +45,7 @@ class SurfacePeer final : public WidgetPeer {
 
  private:
   [[nodiscard]] bool IsEmbedded() const { return Control().Owner() != nullptr; }
+  [[nodiscard]] bool IsVeiled() const { return static_cast<const controls::Surface&>(Control()).IsVeiled(); }
 };
 
 /// Puts what takes the focus in the tab order of the design, an embedded surface in its own place, and

@@ -1,5 +1,7 @@
 #include "toolkits/win32/controls/PlainWindows.h"
 
+#include <optional>
+
 #include "controls/Caption.h"
 #include "toolkits/win32/window/Navigation.h"
 #include "toolkits/win32/window/Text.h"
@@ -61,8 +63,13 @@ void SurfaceWindow::Refresh(Aspect aspect) {
 
 /// Screen readers have the veil's text too.
 void SurfaceWindow::ShowVeil() {
+  const bool veiled = surface_.IsVeiled();
   for (const auto& control : surface_.Made()) control->GetPeer()->Refresh(Aspect::Visible);
-  SetText(surface_.IsVeiled() ? std::string(controls::kVeil) : std::string());
+  // In a disabled window nothing can be given the focus, what is hidden included.
+  if (const HWND focus = GetFocus(); veiled && (focus == Handle() || IsChild(Handle(), focus) != FALSE))
+    SetFocus(GetParent(Handle()));
+  EnableWindow(Handle(), !veiled && surface_.Host().Enabled() ? TRUE : FALSE);
+  SetText(veiled ? std::string(controls::kVeil) : std::string());
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
 }
 
@@ -71,7 +78,8 @@ void SurfaceWindow::DrawVeil(HDC context) const {
   GetClientRect(Handle(), &area);
   const HGDIOBJ before = SelectObject(context, Font());
   SetBkMode(context, TRANSPARENT);
-  SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
+  const std::optional<COLORREF> own = OwnColor(BackgroundOf(surface_));
+  SetTextColor(context, own ? TextOn(*own) : GetSysColor(COLOR_BTNTEXT));
   DrawTextW(context, Wide(controls::kVeil).c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
   SelectObject(context, before);
 }
