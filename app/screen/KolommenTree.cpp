@@ -46,14 +46,14 @@ KolommenTree::KolommenTree(std::shared_ptr<dossier::Dossier> dossier, QWidget* p
     });
   };
   model_->Show(std::move(dossier));
-  expandAll();
+  expandToDepth(0);
 }
 
 bool KolommenTree::Refresh(const Place& shown) {
   const bool previous = std::exchange(selecting_, true);
   const bool changed = model_->Refresh();
   if (changed) {
-    expandAll();
+    expandToDepth(0);
     setCurrentIndex(model_->IndexOf(shown));
   }
   selecting_ = previous;

@@ -22,7 +22,7 @@ inline constexpr double kMostAmount = 1e15;
 /// Month of a period: the year form has up to 80 rows of years.
 inline constexpr std::int64_t kMostMonths = 960;
 /// Bytes of a file: tens of thousands of columns, or hundreds of thousands of periods, and opened within a second.
-inline constexpr std::int64_t kMostFile = std::int64_t{8} << 20;
+inline constexpr std::int64_t kMostFile = std::int64_t{4} << 20;
 
 [[nodiscard]] bool IsPossible(KolomVeld field, const Waarde& value);
 [[nodiscard]] bool IsPossible(PeriodeVeld field, const Waarde& value);
