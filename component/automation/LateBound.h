@@ -44,6 +44,7 @@ class LateBound {
 
   ComPtr<IDispatch> object_;
   ComPtr<IDispatchEx> scripted_;
+  ComPtr<IServiceProvider> caller_;  ///< as a script's object is told it
   std::map<std::wstring_view, DISPID> ids_;
 };
 

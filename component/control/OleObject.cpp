@@ -38,9 +38,10 @@ STDMETHODIMP OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
 STDMETHODIMP OleObject::Close(DWORD save) {
   const ComPtr<IUnknown> keep(this);
   return Answer([&] {
-    if (save != OLECLOSE_NOSAVE && properties_.IsDirty() && site_.Client()) {
-      const auto client = site_.Client();
-      client->SaveObject();
+    if (save != OLECLOSE_NOSAVE && properties_.IsDirty() && site_.Client() &&
+        (save != OLECLOSE_PROMPTSAVE || TheSubject().WantsToKeep())) {
+      // While somebody was asked, the container may have gone.
+      if (const auto client = site_.Client()) client->SaveObject();
     }
     activation_.Deactivate();
     if (const auto advised = advised_) advised->SendOnClose();

@@ -96,6 +96,10 @@ class CoObject : public Dispatching<Interface>,
   std::unique_ptr<Companion> companion_ = Companions::Used().Of(*this);
 };
 
+/// A colour in the type that containers and tools know colours by.
+[[nodiscard]] inline OLE_COLOR OleColor(host::Color color) { return static_cast<OLE_COLOR>(color.value); }
+[[nodiscard]] inline host::Color ColorOf(OLE_COLOR color) { return {static_cast<std::int32_t>(color)}; }
+
 /// Gives a by-reference argument back as True where the check refused; otherwise it stays what it is.
 void StoreCancel(VARIANT* argument, bool before, bool after);
 

@@ -34,6 +34,10 @@ void Identity::Leave() {
   }
 }
 
+void Identity::Return() {
+  if (--busy_ == 0 && count_ == 0) Destroy();
+}
+
 void Identity::Destroy() {
   count_ = kBeingDestroyed;
   delete this;

@@ -6,7 +6,9 @@ namespace brivane::component {
 
 /// The identity and the count of references of an object that a class factory makes, alone or as part of another one.
 ///
-/// An object that loses its last reference while something of it still runs is destroyed when that is done.
+/// An object that loses its last reference while something of it still runs is destroyed when that is done: at once
+/// where it was called from outside, and with the thread's next message where a message had set it off, as the windows
+/// of the object are still at work then.
 class Identity : private module::LiveObject {
  public:
   explicit Identity(IUnknown* outer) : inner_(*this), outer_(outer ? outer : &inner_) {}
@@ -23,11 +25,12 @@ class Identity : private module::LiveObject {
     explicit Busy(Identity& object) : object_(object) { ++object_.busy_; }
     Busy(const Busy&) = delete;
     Busy& operator=(const Busy&) = delete;
-    ~Busy() { object_.Leave(); }
+    ~Busy() { object_.Return(); }
 
    private:
     Identity& object_;
   };
+  /// The same for what begins and ends in two calls.
   void Enter() { ++busy_; }
   void Leave();
 
@@ -47,6 +50,8 @@ class Identity : private module::LiveObject {
     Identity& object_;
   };
 
+  /// A call from outside is done: whoever called may have nothing after it but the end of his thread.
+  void Return();
   void Destroy();
 
   InnerUnknown inner_;

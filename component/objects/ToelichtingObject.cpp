@@ -22,7 +22,7 @@ ToelichtingObject::ToelichtingObject(IUnknown* outer)
       part_({Controlling(), OwnClass(), L"Brivane toelichting", [this] { return control_->BackColor(); },
              [this](host::Color color) { control_->SetBackColor(color); }, [this] { Session().LetGo(); }},
             TheToolkit(), *surface_),
-      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+      points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   changed_ = control_->Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) events_.Raise(kChanged);
   });
@@ -56,12 +56,12 @@ STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
   });
 }
 
-STDMETHODIMP ToelichtingObject::get_BackColor(LONG* Color) {
-  return Giving(Color, [&] { return control_->BackColor().value; });
+STDMETHODIMP ToelichtingObject::get_BackColor(OLE_COLOR* Color) {
+  return Giving(Color, [&] { return OleColor(control_->BackColor()); });
 }
 
-STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
+STDMETHODIMP ToelichtingObject::put_BackColor(OLE_COLOR New_Color) {
+  return Doing([&] { part_.Control().PutBackColor(ColorOf(New_Color)); });
 }
 
 STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {

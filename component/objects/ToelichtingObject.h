@@ -15,8 +15,8 @@ class ToelichtingObject final : public CoObject<IToelichting> {
 
   STDMETHODIMP SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) override;
   STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override;
-  STDMETHODIMP get_BackColor(LONG* Color) override;
-  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override;
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override;
   STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override;
   STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override;
 

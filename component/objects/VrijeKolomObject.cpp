@@ -5,6 +5,7 @@
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/CaseAdapter.h"
 #include "component/automation/Text.h"
+#include "frame/Handle.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::component {
@@ -24,7 +25,14 @@ VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
  public:
   explicit Embedded(VrijeKolomObject& owner)
-      : owner_(owner), events_(Known(), DIID_DToelichtingEvents), points_(Known(), {&events_}) {}
+      : owner_(owner),
+        events_(Known(), DIID_DToelichtingEvents),
+        properties_(Known()),
+        points_(Known(), {&events_, &properties_.Point()}) {
+    // The editor's colour comes here too.
+    colored_ = frame::Controls(*owner.surface_)[vrijekolom::ToelichtingVlak].BackColorSet.Connect(
+        [this](host::Color) { properties_.HasChanged(DISPID_BACKCOLOR); });
+  }
   virtual ~Embedded() = default;
 
   /// The adviser changed something.
@@ -57,11 +65,14 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
       StoreCancel(Cancel, before, cancel);
     });
   }
-  STDMETHODIMP get_BackColor(LONG* Color) override {
-    return owner_.Giving(Color, [&] { return Control().BackColor().value; });
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override {
+    return owner_.Giving(Color, [&] { return OleColor(Control().BackColor()); });
   }
-  STDMETHODIMP put_BackColor(LONG New_Color) override {
-    return owner_.Doing([&] { Control().SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override {
+    return owner_.Doing([&] {
+      if (!properties_.MayChange(DISPID_BACKCOLOR)) throw SetNotPermitted();
+      Control().SetBackColor(ColorOf(New_Color));
+    });
   }
   // The embedded control's tracer is of the editor's class.
   STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override { return owner_.get_ProcedureTraceKlasse(ProgID); }
@@ -73,7 +84,9 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
 
   VrijeKolomObject& owner_;
   ConnectionPoint events_;
+  PropertyChanges properties_;
   ConnectionPoints points_;
+  host::Subscription colored_;
 };
 
 VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
@@ -85,7 +98,7 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
             TheToolkit(), *surface_),
-      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+      points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
   });
@@ -124,12 +137,12 @@ STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
   });
 }
 
-STDMETHODIMP VrijeKolomObject::get_BackColor(LONG* Color) {
-  return Giving(Color, [&] { return editor_->BackColor().value; });
+STDMETHODIMP VrijeKolomObject::get_BackColor(OLE_COLOR* Color) {
+  return Giving(Color, [&] { return OleColor(editor_->BackColor()); });
 }
 
-STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
+STDMETHODIMP VrijeKolomObject::put_BackColor(OLE_COLOR New_Color) {
+  return Doing([&] { part_.Control().PutBackColor(ColorOf(New_Color)); });
 }
 
 STDMETHODIMP VrijeKolomObject::get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) {

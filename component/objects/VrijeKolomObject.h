@@ -15,8 +15,8 @@ class VrijeKolomObject final : public CoObject<IVrijeKolom> {
 
   STDMETHODIMP SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) override;
   STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override;
-  STDMETHODIMP get_BackColor(LONG* Color) override;
-  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override;
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override;
   STDMETHODIMP get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) override;
   STDMETHODIMP put_BeeindigenZichtbaar(VARIANT_BOOL Zichtbaar) override;
   STDMETHODIMP get_Toelichting(IToelichting** Toelichting) override;

@@ -54,6 +54,22 @@ TEST_F(ControlTest, ClosingAsksForSavingWhereSomethingChanged) {
   EXPECT_THAT(container.calls, IsEmpty());
 }
 
+TEST_F(ControlTest, ClosingAsksAPersonWhetherToSaveWhereTheContainerWantsThat) {
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 0) << "nothing changed";
+  dummy->Control().PutBackColor({0x0000FF});
+  dummy->wantsToKeep = false;
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 1);
+  EXPECT_THAT(container.calls, IsEmpty());
+  dummy->wantsToKeep = true;
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 2);
+  EXPECT_THAT(container.calls, ElementsAre("SaveObject"));
+  container.Object().Close(OLECLOSE_SAVEIFDIRTY);
+  EXPECT_EQ(dummy->asked, 2);
+}
+
 TEST_F(ControlTest, TellsThoseWhoAskedThatItCloses) {
   DWORD cookie = 0;
   EXPECT_EQ(container.Object().Advise(&container, &cookie), S_OK);

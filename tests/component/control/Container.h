@@ -53,6 +53,7 @@ class Container final : public IOleClientSite,
   bool takesKeys = false;     ///< answers TranslateAccelerator with S_OK
   std::optional<COLORREF> backColor;
   std::optional<float> fontPoints;
+  VARTYPE fontAs = VT_DISPATCH;
   std::optional<bool> userMode;
   std::function<void(const std::string&)> on;  ///< told of each call after it was written down
   std::vector<DWORD> modifiers;

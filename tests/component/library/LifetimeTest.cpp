@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
+#include <thread>
 
 #include "tests/component/library/ComponentTest.h"
 
@@ -64,9 +66,9 @@ TEST_F(LifetimeTest, WhatIsHandedOutKeepsItsObject) {
   ASSERT_EQ(editor->get_Toelichting(embedded.Put()), S_OK);
   auto door = DoorOf(editor);
   editor.Reset();
-  LONG color = 0;
+  OLE_COLOR color = 0;
   EXPECT_EQ(embedded->get_BackColor(&color), S_OK);
-  EXPECT_EQ(color, -2147483633);
+  EXPECT_EQ(color, 0x8000000FU);
   embedded.Reset();
   EXPECT_EQ(CanUnloadNow(), S_FALSE);
   door.Reset();
@@ -108,6 +110,60 @@ TEST_F(LifetimeTest, AnEditorThatIsLetGoByItsOwnEventEndsAfterIt) {
   EXPECT_FALSE(dropper.editor);
   Unload();
   EXPECT_FALSE(IsLoaded());
+}
+
+TEST_F(LifetimeTest, SoDoesOneOnAThreadThatTakesNoMoreMessages) {
+  bool unloadable = false;
+  std::thread([&] {
+    OleInitialize(nullptr);
+    {
+      FakeHost host;
+      Dropper dropper;
+      dropper.editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+      ComPtr<IConnectionPoint> point;
+      dropper.editor.As<IConnectionPointContainer>()->FindConnectionPoint(DIID_DVrijeKolomEvents, point.Put());
+      DWORD cookie = 0;
+      point->Advise(&dropper, &cookie);
+      point.Reset();
+      IVrijeKolom* const bare = dropper.editor.Get();
+      EXPECT_EQ(bare->SetApplication(host.application.Get(), 0, 1), S_OK);
+      EXPECT_FALSE(dropper.editor);
+    }
+    unloadable = CanUnloadNow() == S_OK;
+    OleUninitialize();
+  }).join();
+  EXPECT_TRUE(unloadable);
+}
+
+/// The highest handle that 64 new objects of the system get: it rises with the handles that are in use.
+std::uintptr_t HighestHandle() {
+  std::array<HANDLE, 64> handles{};
+  std::uintptr_t highest = 0;
+  for (HANDLE& handle : handles) {
+    handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    highest = std::max(highest, reinterpret_cast<std::uintptr_t>(handle));
+  }
+  for (const HANDLE handle : handles) CloseHandle(handle);
+  return highest;
+}
+
+TEST_F(LifetimeTest, LoadedAndUnloadedItLeavesNoHandleBehind) {
+  const auto once = [] {
+    const auto form = Create<IfrmScenario>(CLSID_frmScenario);
+    EXPECT_EQ(form->put_DisableJaar(51, VARIANT_TRUE), static_cast<HRESULT>(0x800A0009));  // by way of an exception
+  };
+  for (int i = 0; i < 3; ++i) {
+    once();
+    Unload();
+    ASSERT_FALSE(IsLoaded());
+  }
+  const std::uintptr_t before = HighestHandle();
+  for (int i = 0; i < 20; ++i) {
+    once();
+    Unload();
+    ASSERT_FALSE(IsLoaded());
+  }
+  EXPECT_EQ(HighestHandle(), before);
 }
 
 /// What the process holds. The system's own counters of handles are not to be had under Wine.
