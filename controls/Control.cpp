@@ -60,7 +60,11 @@ Outcome AnyControl::ActIfReachable(const Action& action) { return Reachable() ? 
 
 Outcome AnyControl::Perform(const Action& action) {
   const Surface* surface = owner_ != nullptr ? owner_ : dynamic_cast<const Surface*>(this);
-  return surface->MadeBy().Watch(*this, action, [&] { return ActIfReachable(action); });
+  ToolkitBase& toolkit = surface->MadeBy();
+  Outcome outcome = Outcome::Ignored;
+  const bool lives = Life::Run(toolkit.Life(),
+                               [&] { outcome = toolkit.Watch(*this, action, [&] { return ActIfReachable(action); }); });
+  return lives ? outcome : Outcome::Ignored;
 }
 
 void AnyControl::CopyFrom(const AnyControl& original) {

@@ -53,7 +53,8 @@ class AnyControl {
   [[nodiscard]] std::string_view AccessibleName() const { return named_.empty() ? row_->label : named_; }
 
   /// A person acts on the control. Events and their effects are done when this returns; a failure of
-  /// a listener is a failure of the action.
+  /// a listener is a failure of the action. Ignored when the life of what made the control has ended, or ended
+  /// meanwhile; the control may be gone then.
   Outcome Perform(const Action& action);
   /// Whether a person can act on it: enabled and visible, as is everything that it stands in.
   [[nodiscard]] bool Reachable() const;

@@ -6,8 +6,9 @@
 namespace brivane::controls {
 
 void DrawnToolkit::Guard(const std::function<void()>& body) {
+  const controls::Life::Call call(Life());
   try {
-    body();
+    controls::Life::Run(Life(), body);
   } catch (...) {
     const host::Error failure = frame::CurrentError();
     if (failureListener_) return failureListener_(failure);

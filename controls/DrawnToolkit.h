@@ -19,7 +19,8 @@ class DrawnToolkit : public ToolkitBase {
   /// Where a failure goes that no procedure handled: it would otherwise cross the event loop. Without a
   /// listener a message box tells it.
   void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
-  /// Runs something that a person sets off, and hands its failure to the listener.
+  /// Runs something that a person sets off, and hands its failure to the listener. Nothing when the life has ended,
+  /// and nobody is told of a failure once it has.
   void Guard(const std::function<void()>& body);
   /// A person acts on a control by what shows it: guarded, and known to the form whose row it changes. A failed action
   /// counts as done.

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/ToolkitBase.h"
+#include "controls/life/HeldHost.h"
 #include "host/Error.h"
 
 namespace brivane::controls {
@@ -39,13 +40,19 @@ host::Twips Form::ScaleWidth() const { return Current().place.width - MadeBy().W
 host::Twips Form::ScaleHeight() const { return Current().place.height - MadeBy().WindowFrame().height; }
 
 void Form::ShowModal(host::Hoofdvenster* eigenaar) {
+  const Life& life = *MadeBy().Life();
   Activate.Raise();
+  life.Check();
   if (unloaded_) return;
-  if (formPeer_ != nullptr)
-    formPeer_->ShowModal(eigenaar);
-  else
-    MadeBy().RunModal(*this);
+  {
+    const Life::AtEnd unload(*MadeBy().Life(), [this] { Unload(); });
+    if (formPeer_ != nullptr)
+      formPeer_->ShowModal(HostsOwn(eigenaar));
+    else
+      MadeBy().RunModal(*this);
+  }
   Unload();
+  life.Check();
 }
 
 void Form::Unload() {

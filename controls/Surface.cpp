@@ -87,12 +87,14 @@ void Surface::JoinGroup(OptionButton& option) {
 }
 
 void Surface::Size(host::Twips width, host::Twips height) {
-  toolkit_->TellSizing(*this, width, height);
-  host::Place place = Current().place;
-  place.width = width;
-  place.height = height;
-  Assign(MutableState().place, place, Aspect::Place);
-  HostSurface().Resize.Raise();
+  Life::Run(toolkit_->Life(), [&] {
+    toolkit_->TellSizing(*this, width, height);
+    host::Place place = Current().place;
+    place.width = width;
+    place.height = height;
+    Assign(MutableState().place, place, Aspect::Place);
+    HostSurface().Resize.Raise();
+  });
 }
 
 void Surface::PutPlace(const host::Place& place) {

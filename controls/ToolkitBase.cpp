@@ -1,5 +1,6 @@
 #include "controls/ToolkitBase.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace brivane::controls {
@@ -35,13 +36,20 @@ std::unique_ptr<host::Form> ToolkitBase::MakeForm(const frame::Design& design) {
   return form;
 }
 
+/// One that left meanwhile is told nothing more, and nobody is when the control's life has ended.
+bool ToolkitBase::Listens(const ActionListener* listener) const {
+  return !life_->Ended() && std::find(listeners_.begin(), listeners_.end(), listener) != listeners_.end();
+}
+
 Outcome ToolkitBase::Watch(AnyControl& control, const Action& action, const std::function<Outcome()>& act) {
   const std::vector<ActionListener*> listeners = listeners_;
   const auto after = [&](std::optional<Outcome> outcome) {
     for (auto listener = listeners.rbegin(); listener != listeners.rend(); ++listener)
-      (*listener)->After(control, action, outcome);
+      if (Listens(*listener)) (*listener)->After(control, action, outcome);
   };
-  for (ActionListener* listener : listeners) listener->Before(control, action);
+  for (ActionListener* listener : listeners)
+    if (Listens(listener)) listener->Before(control, action);
+  if (life_->Ended()) return Outcome::Ignored;
   Outcome outcome{};
   try {
     outcome = act();
@@ -55,7 +63,8 @@ Outcome ToolkitBase::Watch(AnyControl& control, const Action& action, const std:
 
 void ToolkitBase::TellSizing(Surface& surface, host::Twips width, host::Twips height) const {
   const std::vector<ActionListener*> listeners = listeners_;
-  for (ActionListener* listener : listeners) listener->Sizing(surface, width, height);
+  for (ActionListener* listener : listeners)
+    if (Listens(listener)) listener->Sizing(surface, width, height);
 }
 
 }  // namespace brivane::controls

@@ -7,6 +7,7 @@
 
 #include "controls/Form.h"
 #include "controls/Surface.h"
+#include "controls/life/Life.h"
 #include "frame/Toolkit.h"
 
 namespace brivane::controls {
@@ -25,6 +26,9 @@ class ToolkitBase : public frame::Toolkit {
  public:
   [[nodiscard]] std::unique_ptr<host::Surface> MakeSurface(const frame::Design& design) final;
   [[nodiscard]] std::unique_ptr<host::Form> MakeForm(const frame::Design& design) final;
+
+  /// How long what it makes lives, where a host may delete it at any moment; it never ends by itself.
+  [[nodiscard]] const std::shared_ptr<controls::Life>& Life() const { return life_; }
 
   /// Listeners are told in the order of adding, and of what an action became in the reverse order.
   void AddListener(ActionListener& listener) { listeners_.push_back(&listener); }
@@ -54,6 +58,9 @@ class ToolkitBase : public frame::Toolkit {
   Outcome Watch(AnyControl& control, const Action& action, const std::function<Outcome()>& act);
   void TellSizing(Surface& surface, host::Twips width, host::Twips height) const;
 
+  [[nodiscard]] bool Listens(const ActionListener* listener) const;
+
+  std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
   std::vector<ActionListener*> listeners_;
 };
 

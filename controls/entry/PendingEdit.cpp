@@ -73,6 +73,7 @@ bool PendingEdit::TypeDecimalSign() {
 
 bool PendingEdit::Commit() {
   if (committing_ || !pending_) return true;
+  if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
   const std::string typed = face_.Text();
   TypedContent content = ReadContent(typed, format_);
   if (!content.refusal.empty()) return Refuse(content.refusal);

@@ -10,8 +10,13 @@ namespace brivane::memory {
 
 host::MessageAnswer Desktop::MessageBox(const std::string& boxTitle, const std::string& text,
                                         host::MessageStyle style) {
-  if (answer) return answer(boxTitle, text, style);
-  return style == host::MessageStyle::YesNoQuestion ? host::MessageAnswer::No : host::MessageAnswer::Ok;
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  life_->Check();
+  const host::MessageAnswer given = answer     ? answer(boxTitle, text, style)
+                                    : question ? host::MessageAnswer::No
+                                               : host::MessageAnswer::Ok;
+  life_->Check();
+  return given;
 }
 
 host::Date Desktop::Today() const {
@@ -22,7 +27,9 @@ host::Date Desktop::Today() const {
 }
 
 void Desktop::DoPendingEvents() {
+  life_->Check();
   if (pending) pending();
+  life_->Check();
 }
 
 std::string Desktop::FormatWhole(double number) const { return frame::FormatGrouped(number, groupSeparator); }

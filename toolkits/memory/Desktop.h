@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "controls/life/Life.h"
 #include "host/Twips.h"
 #include "host/controls/Desktop.h"
 
@@ -11,6 +13,10 @@ namespace brivane::memory {
 /// A machine that answers as it is set: 96 dots per inch, a Dutch locale, the title "Dossier".
 class Desktop final : public host::Desktop {
  public:
+  Desktop() = default;
+  /// Whoever asks it something after that life has ended is abandoned.
+  explicit Desktop(std::shared_ptr<const controls::Life> life) : life_(std::move(life)) {}
+
   /// Today's date, when set; else the system's.
   host::Date today = host::kNoDate;
   std::string title = "Dossier";
@@ -35,6 +41,9 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] host::Date Today() const override;
   void DoPendingEvents() override;
   [[nodiscard]] std::string FormatWhole(double number) const override;
+
+ private:
+  std::shared_ptr<const controls::Life> life_ = std::make_shared<const controls::Life>();
 };
 
 }  // namespace brivane::memory

@@ -28,7 +28,7 @@ class Toolkit final : public controls::ToolkitBase {
   }
 
  private:
-  memory::Desktop desktop_;
+  memory::Desktop desktop_{Life()};
 };
 
 }  // namespace brivane::memory
