@@ -78,7 +78,7 @@ class AnyControl {
 
   /// Does an action on a control that can be reached; an action that its kind does not know is ignored.
   virtual Outcome Act(const Action&) { return Outcome::Ignored; }
-  /// Whether there is still something to act on: false for an unloaded form.
+  /// Whether there is something to act on: false for an unloaded form and a veiled surface.
   [[nodiscard]] virtual bool Present() const { return true; }
   void Notify(Aspect aspect) const {
     if (peer_) peer_->Refresh(aspect);

@@ -11,6 +11,7 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
     controls::Life::Run(Life(), body);
   } catch (...) {
     const host::Error failure = frame::CurrentError();
+    Desktop().ProcedureFailed.Raise();
     if (failureListener_) return failureListener_(failure);
     const std::string what = std::to_string(failure.Number()) + ": " + failure.Description();
     (void)Ask(std::string(frame::kReportCaption), std::string(frame::kReportMessage) + "\r\n" + what,

@@ -22,6 +22,7 @@ enum class Aspect : std::uint8_t {
   Columns,    ///< a list view's columns
   Rows,       ///< a list view's rows, with their bold marks
   Selection,  ///< a list view's selected row
+  Veil,       ///< whether a surface is veiled
 };
 
 /// What draws a control: shows the state that the control holds, and hands what a person does to

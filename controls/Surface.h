@@ -13,6 +13,9 @@ namespace brivane::controls {
 class OptionButton;
 class ToolkitBase;
 
+/// What a person reads on a veiled surface.
+inline constexpr std::string_view kVeil = "Er is geen vrije kolom geopend.";
+
 /// The controls of one design table, on a surface of its own, embedded in another one, or on a form.
 class Surface : public AnyControl {
  public:
@@ -27,6 +30,11 @@ class Surface : public AnyControl {
 
   /// The container sizes the surface: one Resize, also to the present size.
   void Size(host::Twips width, host::Twips height);
+
+  /// A veiled surface stands for nothing: a person can act on nothing there, and what draws it shows kVeil in place of
+  /// what stands on it. Code sees and sets the controls as always.
+  void SetVeiled(bool veiled) { Assign(veiled_, veiled, Aspect::Veil); }
+  [[nodiscard]] bool IsVeiled() const { return veiled_; }
 
   /// A control by name, and by index in a control array; "Toelichting.jnAO" for one on an embedded
   /// surface. Nothing when there is none.
@@ -47,6 +55,7 @@ class Surface : public AnyControl {
   /// Makes one control of a row; `index` is the element's place in its array.
   AnyControl& Add(const frame::Row& row, int index, const AnyControl* original);
 
+  [[nodiscard]] bool Present() const override { return !veiled_; }
   void PutPlace(const host::Place& place) override;
   void PutBackColor(host::Color color) override;
 
@@ -66,6 +75,7 @@ class Surface : public AnyControl {
   std::vector<std::unique_ptr<AnyControl>> made_;
   std::vector<host::Control*> controls_;
   bool bold_ = false;
+  bool veiled_ = false;
 };
 
 /// A surface behind its interface.

@@ -38,8 +38,11 @@ host::ProcedureTrace& Tracing::Trace() {
 }
 
 void Tracing::Report(const host::Error& error) {
+  reporter_.desktop->ProcedureFailed.Raise();
   reporter_.desktop->ResetMousePointer();
   host::ProcedureTrace& record = Trace();
+  // A host may take the report as a reason to unbind the control.
+  const std::shared_ptr<host::ProcedureTrace> held = trace_;
   record.SetApplicationTitle(reporter_.desktop->ApplicationTitle());
   record.SetObjectName(std::string(identity_.name));
   record.SetCaption(std::string(kReportCaption));

@@ -57,6 +57,8 @@ class Tracing {
 
   /// The tracer, made on first use.
   [[nodiscard]] host::ProcedureTrace& Trace();
+  /// Lets go of the tracer: the next use makes another one.
+  void LetGo() { trace_.reset(); }
 
  private:
   /// Fills the error record in its order and hands it to the host; untraced, without a handler.

@@ -63,6 +63,7 @@ template <class Body> void frmScenario::Guarded(Body&& body) {
 
 void frmScenario::ToonFout() {
   const host::Error fout = frame::CurrentError();
+  desktop_.ProcedureFailed.Raise();
   std::string tekst(frame::kReportMessage);
   tekst += kRegeleinde;
   tekst += std::to_string(fout.Number()) + ": " + fout.Description();

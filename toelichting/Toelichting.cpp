@@ -51,6 +51,15 @@ void Toelichting::SetApplication(std::shared_ptr<host::Application>& Application
   });
 }
 
+void Toelichting::Unbind() {
+  Item_.reset();
+  Lening_.reset();
+  Dossier_.reset();
+  Application_.reset();
+  Filling_ = false;
+  tracing_.LetGo();
+}
+
 void Toelichting::Fill_Controls() {
   tracing_.Unhandled("Fill_Controls", [this] {
     host::VrijeKolomItem& item = host::Need(Item_);

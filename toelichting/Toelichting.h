@@ -32,6 +32,10 @@ class Toelichting {
   void SetApplication(std::shared_ptr<host::Application>& Application, std::shared_ptr<host::Lening>& Lening,
                       std::int16_t Vrij_Id);
 
+  /// Lets go of every object of the host's, the tracer too; what was made by the factories is made anew when it is
+  /// used. Untraced, and nothing is written or raised. What the controls show stays.
+  void Unbind();
+
   /// Checks the input and sets Cancel on a refusal, after a message. With Cancel already set nothing is
   /// checked. ControleNr: 0 the percentage and the end date, 3 the percentage, 4 the end date, 5 the end age.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);

@@ -83,7 +83,9 @@ void VrijeKolom::WerkVoorstellenBij() {
       if (Record().Voorstel(v).empty()) host::Need(Dossier_).VerwijderUitVoorstel(v, Vrij_Id_, 0);
   }
   if (!DossierControle_) DossierControle_ = factories_.MaakDossierControle(kNaam);
-  host::Need(DossierControle_).Controleer(Application_, 1);
+  // A host may take the check as a reason to unbind the editor.
+  const std::shared_ptr<host::DossierControle> controle = DossierControle_;
+  host::Need(controle).Controleer(Application_, 1);
 }
 
 }  // namespace brivane

@@ -60,6 +60,20 @@ void VrijeKolom::ConnectControls() {
   subscriptions_ += Toelichting_.Changed.Connect([this] { Toelichting_Changed(); });
 }
 
+void VrijeKolom::Unbind() {
+  Toelichting_.Unbind();
+  DossierControle_.reset();
+  Item_.reset();
+  Lening_.reset();
+  Dossier_.reset();
+  Application_.reset();
+  Gebonden_.reset();
+  Filling_ = false;
+  Gewijzigd_ = false;
+  HuidigeSituatie_ = false;
+  tracing_.LetGo();
+}
+
 host::Color VrijeKolom::BackColor() const { return surface_.BackColor().value_or(host::kButtonFace); }
 
 void VrijeKolom::SetBackColor(host::Color New_Color) { surface_.SetBackColor(New_Color); }

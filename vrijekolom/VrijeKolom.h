@@ -38,6 +38,10 @@ class VrijeKolom {
   /// fills it. A failure is reported through the application and does not reach the caller.
   void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
 
+  /// Lets go of every object of the host's, the tracer and the check too; what was made by the factories is made anew
+  /// when it is used. Untraced, and nothing is written, asked or raised. What the controls show stays.
+  void Unbind();
+
   /// The host's check before it leaves the column. Sets Cancel on a refusal, after a message; with Cancel
   /// already set nothing is asked or checked. ControleNr: 0 everything, 1 the start date, 2 the end date.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "controls/DrawnToolkit.h"
+#include "controls/FailureWatch.h"
 #include "controls/TextBox.h"
 #include "controls/entry/Column.h"
 #include "controls/entry/Content.h"
@@ -11,6 +12,13 @@
 namespace brivane::controls {
 
 using frame::Format;
+
+namespace {
+
+constexpr char kNotStored[] = "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.";
+constexpr char kNotTaken[] = "Niet overgenomen";
+
+}  // namespace
 
 PendingEdit::~PendingEdit() { End(); }
 
@@ -35,6 +43,7 @@ void PendingEdit::ShowContent() {
 void PendingEdit::ShowText(const std::string& text) {
   End();
   face_.HideReason();
+  refusal_.clear();
   shown_ = text;
   if (face_.Text() == text) return;
   face_.ShowText(text);
@@ -48,6 +57,7 @@ void PendingEdit::End() {
 
 void PendingEdit::Typed() {
   face_.HideReason();
+  refusal_.clear();
   if (std::exchange(pending_, true) || box_ == nullptr) return;
   standing_ = box_->Content();
   box_->MarkEdited();
@@ -72,7 +82,7 @@ bool PendingEdit::TypeDecimalSign() {
 }
 
 bool PendingEdit::Commit() {
-  if (committing_ || !pending_) return true;
+  if (committing_ || !pending_ || !CanBeTaken()) return true;
   if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
   const std::string typed = face_.Text();
   TypedContent content = ReadContent(typed, format_);
@@ -84,16 +94,51 @@ bool PendingEdit::Commit() {
   // What reads as what stood there is what stood there, decimals that are not shown included.
   if (typed == controls::ShowContent(standing_, format_)) content.value = standing_;
   const auto life = Life();
+  const FailureWatch failures(toolkit_->Desktop());
   committing_ = true;
   const Outcome outcome = toolkit_->Hand(*box_, Enter{std::move(content.value)});
   if (life.expired()) return true;
   committing_ = false;
   if (outcome == Outcome::Refused) return Refuse({});
+  if (failures.Seen()) {
+    box_->MarkEdited();
+    return Refuse(kNotStored);
+  }
   ShowContent();
   return true;
 }
 
+bool PendingEdit::CanBeTaken() const { return box_ == nullptr || box_->Reachable(); }
+
+bool PendingEdit::HandOver() {
+  const auto life = Life();
+  if (CanBeTaken()) {
+    if (Commit()) return true;
+    if (life.expired() || face_.IsAtHand()) return false;
+  }
+  return AskToDrop();
+}
+
+bool PendingEdit::AskToDrop() {
+  if (toolkit_ == nullptr) return false;
+  const std::string name(box_->AccessibleName());
+  std::string question = "In " + (name.empty() ? "een vak" : "het vak \"" + name + '"') + " staat nog \"" +
+                         face_.Text() + "\". Dat is niet overgenomen, en het vak is nu niet te bereiken.";
+  if (!refusal_.empty()) question += "\r\n\r\n" + refusal_;
+  question += "\r\n\r\nWilt u wat daar getypt is laten vervallen?";
+  const auto life = Life();
+  const bool drop = toolkit_->Ask(kNotTaken, question, host::MessageStyle::YesNoQuestion) == host::MessageAnswer::Yes;
+  if (drop && !life.expired()) Restore();
+  return drop;
+}
+
+void PendingEdit::Shown() {
+  if (pending_ && !refusal_.empty()) face_.ShowReason(refusal_);
+}
+
 bool PendingEdit::Refuse(const std::string& reason) {
+  refusal_ = reason;
+  if (!face_.IsAtHand()) return false;
   const auto life = Life();
   if (!face_.HasFocus()) face_.TakeFocus();
   // The box that loses the focus may have something to hand over too.

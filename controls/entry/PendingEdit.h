@@ -27,6 +27,8 @@ class EntryFace {
   [[nodiscard]] virtual bool HasFocus() const = 0;
   virtual void TakeFocus() = 0;
   [[nodiscard]] virtual bool ReadOnly() const = 0;
+  /// Whether a person can get at the box now: it is on the screen, and nothing around it is disabled.
+  [[nodiscard]] virtual bool IsAtHand() const = 0;
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
   virtual void HideReason() = 0;
@@ -36,7 +38,7 @@ class EntryFace {
 /// pressed. Typing that is not of the box's format is refused here and never reaches the control.
 ///
 /// Refused content stays as typed with the focus in the box, and the reason beside it where there is one. Escape puts
-/// back what stood there.
+/// back what stood there. What the host failed to take is refused too: it was not stored.
 ///
 /// It belongs to the face, and may be gone with it when something that was handed over comes back: a caller that goes
 /// on after Commit or Paste keeps Life().
@@ -81,15 +83,23 @@ class PendingEdit {
   /// Types a text from the clipboard. In a row of a form several lines are a column: they fill the boxes from this one
   /// down, each as if typed, or, where a line is not of the format, nothing.
   void Paste(std::string_view clipboard);
-  /// Hands over what is pending; false where it was refused.
+  /// Hands over what is pending; false where it was refused. Where the logic hid or disabled the control meanwhile it
+  /// stays pending, and is in nobody's way.
   bool Commit();
+  /// The same before the host leaves: false where something stays pending. Where nobody can get at the box to mend it,
+  /// a question is asked whether the text may go.
+  bool HandOver();
+  /// The box is on the screen again: so is the reason why it was refused.
+  void Shown();
   /// The same, and selects what stands then.
   bool CommitAndSelect();
   /// Puts back what stood there before; false where nothing is pending.
   bool Restore();
 
  private:
+  [[nodiscard]] bool CanBeTaken() const;
   bool Refuse(const std::string& reason);
+  bool AskToDrop();
   void Insert(const std::string& text);
   void PasteColumn(std::string_view text);
   void End();
@@ -98,8 +108,9 @@ class PendingEdit {
   DrawnToolkit* toolkit_ = nullptr;
   TextBox* box_ = nullptr;
   frame::Format format_ = frame::Format::Text;
-  std::string shown_;  ///< what stood there before the typing
-  BoxValue standing_;  ///< the same as content, of a control
+  std::string shown_;    ///< what stood there before the typing
+  BoxValue standing_;    ///< the same as content, of a control
+  std::string refusal_;  ///< why what is pending was refused
   bool pending_ = false;
   bool committing_ = false;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');

@@ -30,15 +30,34 @@ bool PendingEdits::InRowsOf(const Surface& form) const {
   return std::any_of(found.begin(), found.end(), [](const PendingEdit* edit) { return edit->Box()->IsRowElement(); });
 }
 
-bool PendingEdits::Commit(const Surface& surface) {
+bool PendingEdits::ForEach(const Surface& surface, const std::function<bool(PendingEdit&)>& body) {
   const std::weak_ptr<const char> life = life_;
   for (PendingEdit* edit : On(surface)) {
     // What one hands over may end another, or take everything away.
     if (life.expired()) return true;
-    if (std::find(edits_.begin(), edits_.end(), edit) == edits_.end()) continue;
-    if (edit->Box()->Reachable() && !edit->Commit()) return false;
+    if (std::find(edits_.begin(), edits_.end(), edit) != edits_.end() && !body(*edit)) return false;
   }
   return true;
+}
+
+bool PendingEdits::Commit(const Surface& surface) {
+  return ForEach(surface, [](PendingEdit& edit) { return edit.HandOver(); });
+}
+
+void PendingEdits::Leave(const Surface& surface) {
+  ForEach(surface, [](PendingEdit& edit) {
+    const std::weak_ptr<const char> life = edit.Life();
+    (void)edit.Commit();
+    if (!life.expired()) (void)edit.Restore();
+    return true;
+  });
+}
+
+void PendingEdits::PutBack(const Surface& surface) {
+  ForEach(surface, [](PendingEdit& edit) {
+    (void)edit.Restore();
+    return true;
+  });
 }
 
 }  // namespace brivane::controls

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -10,6 +11,8 @@ class Surface;
 
 /// What a person is typing in the boxes of a toolkit and has not handed over, in the order of beginning. Most often it
 /// is one: a box that is left hands over. What was refused, hidden or disabled meanwhile stays pending.
+///
+/// Anything may end while something is handed over, the toolkit too.
 class PendingEdits {
  public:
   void Add(PendingEdit& edit) { edits_.push_back(&edit); }
@@ -19,10 +22,17 @@ class PendingEdits {
   [[nodiscard]] std::vector<PendingEdit*> On(const Surface& surface) const;
   /// Whether a row of a form is being typed in.
   [[nodiscard]] bool InRowsOf(const Surface& form) const;
-  /// Hands over those of a surface in boxes that a person can reach; false where one was refused and keeps the focus.
+  /// Hands over those of a surface, each as PendingEdit::HandOver does; false at the first that stays pending.
   bool Commit(const Surface& surface);
+  /// Hands over those of a surface that pass, and puts back what stood there in the others: nobody is asked anything.
+  void Leave(const Surface& surface);
+  /// Puts back what stood there in all of a surface.
+  void PutBack(const Surface& surface);
 
  private:
+  /// Until one answers false; whether none did.
+  bool ForEach(const Surface& surface, const std::function<bool(PendingEdit&)>& body);
+
   std::vector<PendingEdit*> edits_;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/Date.h"
+#include "host/Event.h"
 
 namespace brivane::host {
 
@@ -26,7 +27,7 @@ class Desktop {
   /// Twips to a pixel: 15 on a screen of 96 dots per inch.
   [[nodiscard]] virtual float TwipsPerPixelX() const = 0;
   [[nodiscard]] virtual float TwipsPerPixelY() const = 0;
-  /// Resets the mouse pointer to the default arrow.
+  /// Resets the mouse pointer to the default arrow, as far as the controls changed it.
   virtual void ResetMousePointer() = 0;
   /// Today's date, without time.
   [[nodiscard]] virtual Date Today() const = 0;
@@ -34,6 +35,10 @@ class Desktop {
   virtual void DoPendingEvents() = 0;
   /// A number formatted as "#,##0" in the user's locale: grouped, no decimals, halves away from zero.
   [[nodiscard]] virtual std::string FormatWhole(double number) const = 0;
+
+  /// Raised by the controls: a procedure failed, and its report to the host is about to be made. The procedure's caller
+  /// does not hear of it; whoever shows the control does.
+  Event<> ProcedureFailed;
 };
 
 }  // namespace brivane::host

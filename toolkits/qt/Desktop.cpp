@@ -51,9 +51,8 @@ host::MessageAnswer Desktop::Show(const std::string& title, const std::string& t
 float Desktop::TwipsPerPixelX() const { return kTwipsPerPixel; }
 float Desktop::TwipsPerPixelY() const { return kTwipsPerPixel; }
 
-void Desktop::ResetMousePointer() {
-  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
-}
+/// The controls set no override cursor, and one of the host's is the host's to put back.
+void Desktop::ResetMousePointer() {}
 
 host::Date Desktop::Today() const {
   if (clock) return clock();

@@ -1,5 +1,7 @@
 #include "toolkits/qt/ToelichtingWidget.h"
 
+#include <QPointer>
+
 #include "toelichting/Ontwerp.h"
 
 namespace brivane::qt {
@@ -17,14 +19,20 @@ void ToelichtingWidget::ColorControl(host::Color color) {
   if (control_) control_->SetBackColor(color);
 }
 
-void ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
-                                       std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
-  host::Need(control_).SetApplication(Application, Lening, Vrij_Id);
+void ToelichtingWidget::UnbindControl() {
+  if (control_) control_->Unbind();
+}
+
+controls::BindingResult ToelichtingWidget::SetApplication(std::shared_ptr<host::Application>& Application,
+                                                          std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id) {
+  Toelichting& control = host::Need(control_);
+  return Bind([&] { control.SetApplication(Application, Lening, Vrij_Id); }, Application == nullptr);
 }
 
 void ToelichtingWidget::Validation(bool& Cancel, std::int32_t ControleNr) {
-  if (!Cancel && !CommitPending()) Cancel = true;
-  host::Need(control_).Validation(Cancel, ControleNr);
+  const QPointer<const QWidget> alive(this);
+  if (!MayCheck(Cancel)) Cancel = true;
+  if (alive && !IsVoid()) host::Need(control_).Validation(Cancel, ControleNr);
 }
 
 void ToelichtingWidget::resizeEvent(QResizeEvent* event) {

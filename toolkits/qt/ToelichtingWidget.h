@@ -15,11 +15,12 @@ class ToelichtingWidget : public ControlWidget {
   explicit ToelichtingWidget(QWidget* parent = nullptr);
   ~ToelichtingWidget() override;
 
-  /// As Toelichting::SetApplication. Fails with error 91 before the factories were set.
-  void SetApplication(std::shared_ptr<host::Application>& Application, std::shared_ptr<host::Lening>& Lening,
-                      std::int16_t Vrij_Id);
-  /// As Toelichting::Validation, after the box that is being edited was handed over; refused there is
-  /// refused here.
+  /// As Toelichting::SetApplication, after what is being typed was handed over. Without an application it also lets go
+  /// of the host, as Unbind does. Fails with error 91 before the factories were set.
+  controls::BindingResult SetApplication(std::shared_ptr<host::Application>& Application,
+                                         std::shared_ptr<host::Lening>& Lening, std::int16_t Vrij_Id);
+  /// As Toelichting::Validation, after every box that is being edited was handed over; refused there is
+  /// refused here. A widget that stands for nothing has nothing to check.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
   /// The control behind the widget; nothing until the factories were set.
@@ -32,6 +33,7 @@ class ToelichtingWidget : public ControlWidget {
  protected:
   void MakeControl(const host::HostFactories& factories) override;
   void ColorControl(host::Color color) override;
+  void UnbindControl() override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:

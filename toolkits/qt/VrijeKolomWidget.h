@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QString>
 #include <memory>
+#include <optional>
 
 #include "toolkits/qt/widgets/ControlWidget.h"
 #include "vrijekolom/VrijeKolom.h"
@@ -11,40 +13,55 @@ namespace brivane::qt {
 ///
 ///     auto* editor = new VrijeKolomWidget(parent);
 ///     editor->SetHostFactories(factories);
-///     connect(editor, &VrijeKolomWidget::refreshTopDisplay, header, &QLabel::setText);
-///     editor->SetApplication(application, 0, 1);
+///     connect(editor, &VrijeKolomWidget::topDisplayChanged, header, &QLabel::setText);
+///     if (editor->SetApplication(application, 0, 1) != controls::BindingResult::Bound) ...
 ///     bool cancel = false;
 ///     editor->Validation(cancel);  // cancel: stay on the column
 class VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
+  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
 
  public:
   explicit VrijeKolomWidget(QWidget* parent = nullptr);
   ~VrijeKolomWidget() override;
 
-  /// As VrijeKolom::SetApplication. Fails with error 91 before the factories were set.
-  void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
-  /// As VrijeKolom::Validation, after the box that is being edited was handed over; refused there is
-  /// refused here.
+  /// As VrijeKolom::SetApplication, after what is being typed was handed over. Without an application it also lets go
+  /// of the host, as Unbind does. Fails with error 91 before the factories were set.
+  controls::BindingResult SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id,
+                                         std::int16_t Vrij_Id);
+  /// As VrijeKolom::Validation, after every box that is being edited was handed over; refused there is
+  /// refused here. A widget that stands for nothing has nothing to check.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
+
+  /// The header text of the column as it was told last; empty while the widget stands for no column.
+  [[nodiscard]] QString topDisplay();
 
   /// The control behind the widget; nothing until the factories were set.
   [[nodiscard]] VrijeKolom* Control() { return control_.get(); }
 
  signals:
-  /// The header text of the column may have changed.
+  /// The control's own event: an edit may have changed the header text.
   void refreshTopDisplay(const QString& text);
+  /// What a header above the widget is to show now: after every binding, after an edit, and nothing when the widget
+  /// stands for no column.
+  void topDisplayChanged(const QString& text);
 
  protected:
   void MakeControl(const host::HostFactories& factories) override;
   void ColorControl(host::Color color) override;
+  void UnbindControl() override;
+  void StateChanged() override;
 
  private:
+  [[nodiscard]] QString ReadTopDisplay();
+  void TellTopDisplay(const QString& text);
+
   std::unique_ptr<VrijeKolom> control_;
   host::Subscriptions subscriptions_;
   bool beeindigenZichtbaar_ = false;
+  std::optional<QString> topDisplay_;  ///< nothing until it is asked for
 };
 
 }  // namespace brivane::qt

@@ -26,6 +26,7 @@ class TestFace final : public EntryFace {
   bool focused = false;
   bool selected = false;
   bool readOnly = false;
+  bool atHand = true;
   int calls = 0;  ///< of whatever changes it
 
   [[nodiscard]] std::string Text() const override { return text; }
@@ -35,6 +36,7 @@ class TestFace final : public EntryFace {
   [[nodiscard]] bool HasFocus() const override { return focused; }
   void TakeFocus() override { Change(focused, true); }
   [[nodiscard]] bool ReadOnly() const override { return readOnly; }
+  [[nodiscard]] bool IsAtHand() const override { return atHand; }
   void ShowReason(const std::string& why) override { Change(reason, why); }
   void HideReason() override { Change(reason, std::string()); }
 

@@ -2,11 +2,15 @@
 
 #include <QColor>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
+#include "controls/Binding.h"
 #include "host/model/HostFactories.h"
 #include "toolkits/qt/Toolkit.h"
+
+class QLabel;
 
 namespace brivane::qt {
 
@@ -16,6 +20,9 @@ namespace brivane::qt {
 /// The control keeps the typeface of its design and takes its size from the widget's font, which is the
 /// application's unless the host sets another: at 9 points it is as designed, and it grows with the font.
 /// The size hint is the control's own size. Sizing the widget lays the control out; its height is its own.
+///
+/// A binding that failed, and letting go of the host, leave the widget empty: it shows controls::kVeil, nothing of what
+/// stood there, and takes no input until a binding succeeds.
 class ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
@@ -29,10 +36,20 @@ class ControlWidget : public QWidget {
   /// Where a failure goes that no procedure of the control handled. Without one a message box tells it.
   void SetFailureListener(Toolkit::FailureListener listener) { toolkit_.SetFailureListener(std::move(listener)); }
 
-  /// Hands over the box that is being edited or the choice that is under way, if any; false where it was refused
-  /// and keeps the focus.
+  /// What the control stands for.
+  [[nodiscard]] controls::BindingState State() const { return binding_.State(); }
+  [[nodiscard]] bool IsBound() const { return State() == controls::BindingState::Bound; }
+  /// Lets go of every object of the host's, and leaves the widget empty. What is being typed is handed over first; what
+  /// does not pass is dropped. The factories stay, for the next binding.
+  void Unbind();
+
+  /// Hands over every box that is being edited and the choice that is under way; false where one was refused. It keeps
+  /// the focus, or, where nobody can get at it, a question was asked whether its text may go.
   /// A host calls it before it leaves the column, saves or closes.
   bool CommitPending();
+  /// Puts back what stood there in every box that is being edited, and the choice that is under way: what was typed is
+  /// to be dropped.
+  void PutBackPending();
 
   /// The background; the palette's until it is set.
   [[nodiscard]] QColor backColor() const;
@@ -54,15 +71,29 @@ class ControlWidget : public QWidget {
   /// Makes the control behind the widget; it may fail, as the host's factories may.
   virtual void MakeControl(const host::HostFactories& factories) = 0;
   virtual void ColorControl(host::Color color) = 0;
+  /// Lets the control behind the widget go of the host.
+  virtual void UnbindControl() = 0;
+  /// The widget was bound, or stands for nothing now.
+  virtual void StateChanged() {}
+  /// Binds after what is being typed was handed over; before the first binding that is dropped, as it belongs to
+  /// nothing. `release`: nothing was given to bind to, so what is left of the host is let go of afterwards.
+  controls::BindingResult Bind(const std::function<void()>& bind, bool release);
+  /// Hands over what is being typed, before a check; false where the check is to refuse.
+  [[nodiscard]] bool MayCheck(bool cancel) { return cancel || CommitPending(); }
+  /// A control that stands for nothing has nothing to check.
+  [[nodiscard]] bool IsVoid() const { return binding_.IsVoid(); }
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void FollowFont();
+  void ShowVeil();
 
   std::optional<QColor> backColor_;
   qt::Toolkit toolkit_;
   std::unique_ptr<host::Surface> surface_;
+  controls::Binding binding_;
+  QLabel* veil_;
 };
 
 }  // namespace brivane::qt

@@ -1,8 +1,16 @@
 #include "toolkits/qt/widgets/EntryBox.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScrollBar>
+#include <QTabBar>
 
 #include "controls/DrawnToolkit.h"
 #include "controls/TextBox.h"
@@ -12,6 +20,21 @@
 namespace brivane::qt {
 
 using frame::Format;
+
+namespace {
+
+/// Whether a click on such a widget does something, also where it takes no focus.
+bool IsWorkedByClicks(const QWidget& widget) {
+  if (qobject_cast<const QAbstractSlider*>(&widget) != nullptr)
+    return qobject_cast<const QScrollBar*>(&widget) == nullptr;
+  if (const auto* const group = qobject_cast<const QGroupBox*>(&widget)) return group->isCheckable();
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr || qobject_cast<const QTabBar*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractItemView*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr;
+}
+
+}  // namespace
 
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {
   QObject::connect(this, &QLineEdit::textEdited, this, [this] { edit_.Typed(); });
@@ -54,23 +77,58 @@ EntryBox* EntryBox::PendingWithin(const QWidget& area) {
   return box != nullptr && area.isAncestorOf(box) && box->edit_.IsPending() ? box : nullptr;
 }
 
-bool EntryBox::TakesFocusFromBox(const QWidget* target) const {
+/// Whether a click there leads elsewhere: it moves the focus, or works something that takes no focus. A scroll bar
+/// leads nowhere.
+bool EntryBox::LeavesBox(const QWidget* target) const {
   if (target->window() != window() || target == this || isAncestorOf(target)) return false;
-  for (; target != nullptr; target = target->isWindow() ? nullptr : target->parentWidget())
-    if (target->isEnabled() && (target->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus) return target != this;
+  for (; target != nullptr; target = target->isWindow() ? nullptr : target->parentWidget()) {
+    if (!target->isEnabled()) continue;
+    if ((target->focusPolicy() & Qt::ClickFocus) == Qt::ClickFocus) return true;
+    if (!target->isAncestorOf(this) && IsWorkedByClicks(*target)) return true;
+  }
   return false;
 }
 
 /// A click on another control commits first: refused content keeps the focus, and the click is dropped.
 bool EntryBox::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
-  if (press && watched->isWidgetType() && edit_.IsPending() && TakesFocusFromBox(static_cast<QWidget*>(watched))) {
+  if (press && watched->isWidgetType() && edit_.IsPending() && LeavesBox(static_cast<QWidget*>(watched))) {
     const QPointer<QObject> target(watched);
     const auto life = edit_.Life();
     if (!edit_.Commit() || !target) return true;
     if (life.expired()) return false;
   }
   return QLineEdit::eventFilter(watched, event);
+}
+
+/// A host hides or disables the box, or what it stands in, while something is typed there. That is handed over when the
+/// host is done: it may be in the middle of taking things apart.
+void EntryBox::HandOverSoon() {
+  if (!edit_.IsPending()) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        if (!hasFocus() || !IsAtHand()) edit_.Commit();
+      },
+      Qt::QueuedConnection);
+}
+
+void EntryBox::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::EnabledChange && !isEnabled()) HandOverSoon();
+}
+
+void EntryBox::hideEvent(QHideEvent* event) {
+  QLineEdit::hideEvent(event);
+  if (event->spontaneous()) return;
+  HideReason();
+  HandOverSoon();
+}
+
+/// Perhaps in another window: the reason goes along.
+void EntryBox::showEvent(QShowEvent* event) {
+  QLineEdit::showEvent(event);
+  if (!event->spontaneous()) edit_.Shown();
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event) {

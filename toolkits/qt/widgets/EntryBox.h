@@ -33,6 +33,9 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -46,10 +49,12 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
   [[nodiscard]] bool HasFocus() const override { return hasFocus(); }
   void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
   [[nodiscard]] bool ReadOnly() const override { return isReadOnly(); }
+  [[nodiscard]] bool IsAtHand() const override { return isVisible() && isEnabled(); }
   void ShowReason(const std::string& reason) override;
   void HideReason() override;
 
-  [[nodiscard]] bool TakesFocusFromBox(const QWidget* target) const;
+  [[nodiscard]] bool LeavesBox(const QWidget* target) const;
+  void HandOverSoon();
 
   controls::PendingEdit edit_{*this};
   bool reasonShown_ = false;

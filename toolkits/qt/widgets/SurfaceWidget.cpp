@@ -86,9 +86,18 @@ void SurfaceWidget::Rescale() {
 SurfacePeer::SurfacePeer(controls::Surface& surface, qt::Toolkit& toolkit, QWidget* container)
     : WidgetPeer(surface, toolkit, new SurfaceWidget(surface, toolkit, container)) {}
 
+void SurfacePeer::Refresh(controls::Aspect aspect) {
+  if (aspect != controls::Aspect::Veil) return WidgetPeer::Refresh(aspect);
+  if (Widget() == nullptr) return;
+  ShowVisible();
+  const auto& veiled = static_cast<SurfaceWidget*>(Widget())->veiled;
+  if (veiled) veiled();
+}
+
 void SurfacePeer::ShowVisible() {
   // A surface of its own is shown by the widget that takes it in.
-  if (IsEmbedded() || Widget()->parentWidget() != nullptr) WidgetPeer::ShowVisible();
+  if (!IsEmbedded() && Widget()->parentWidget() == nullptr) return;
+  Widget()->setVisible(Control().Host().Visible() && !static_cast<const controls::Surface&>(Control()).IsVeiled());
 }
 
 void SurfacePeer::ShowPlace() {

@@ -18,6 +18,9 @@ class SurfaceWidget : public QWidget {
 
   /// Called when code has sized the surface.
   std::function<void()> sized;
+  /// Called when a veil was laid over the surface or lifted. A veiled surface is hidden; what it stands in shows the
+  /// veil.
+  std::function<void()> veiled;
 
   /// Shows places and fonts anew, after the toolkit's scale changed.
   void Rescale();
@@ -34,6 +37,7 @@ class SurfaceWidget : public QWidget {
 class SurfacePeer final : public WidgetPeer {
  public:
   SurfacePeer(controls::Surface& surface, qt::Toolkit& toolkit, QWidget* container);
+  void Refresh(controls::Aspect aspect) override;
 
  protected:
   void ShowVisible() override;

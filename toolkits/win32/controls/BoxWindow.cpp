@@ -116,6 +116,14 @@ void BoxWindow::PaintFrame(HDC context) {
     FillRect(context, &room, brush);
 }
 
+bool BoxWindow::IsAtHand() const {
+  for (HWND window = Handle(); window != nullptr; window = GetAncestor(window, GA_PARENT)) {
+    if (IsWindowEnabled(window) == FALSE) return false;
+    if ((GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) == 0) break;
+  }
+  return IsWindowVisible(Handle()) != FALSE;
+}
+
 std::string BoxWindow::Text() const { return Narrow(TextOf(Handle())); }
 
 void BoxWindow::ShowText(const std::string& text) {

@@ -47,6 +47,7 @@ class BoxWindow : public ControlWindow, private controls::EntryFace {
   void InsertText(const std::string& text) override;
   void SelectAll() override;
   [[nodiscard]] bool HasFocus() const override { return GetFocus() == Handle(); }
+  [[nodiscard]] bool IsAtHand() const override;
   void ShowReason(const std::string& reason) override;
   void HideReason() override { bubble_.reset(); }
 

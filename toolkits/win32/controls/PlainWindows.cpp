@@ -2,6 +2,7 @@
 
 #include "controls/Caption.h"
 #include "toolkits/win32/window/Navigation.h"
+#include "toolkits/win32/window/Text.h"
 
 namespace brivane::win32 {
 
@@ -53,7 +54,34 @@ SurfaceWindow::SurfaceWindow(controls::Surface& surface, win32::Toolkit& toolkit
                     {.className = kAreaClass, .style = kAreaStyle, .extendedStyle = WS_EX_CONTROLPARENT}),
       surface_(surface) {}
 
+void SurfaceWindow::Refresh(Aspect aspect) {
+  if (aspect != Aspect::Veil) return ControlWindow::Refresh(aspect);
+  if (Handle() != nullptr) ShowVeil();
+}
+
+/// Screen readers have the veil's text too.
+void SurfaceWindow::ShowVeil() {
+  for (const auto& control : surface_.Made()) control->GetPeer()->Refresh(Aspect::Visible);
+  SetText(surface_.IsVeiled() ? std::string(controls::kVeil) : std::string());
+  RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
+}
+
+void SurfaceWindow::DrawVeil(HDC context) const {
+  RECT area{};
+  GetClientRect(Handle(), &area);
+  const HGDIOBJ before = SelectObject(context, Font());
+  SetBkMode(context, TRANSPARENT);
+  SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
+  DrawTextW(context, Wide(controls::kVeil).c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+  SelectObject(context, before);
+}
+
 LRESULT SurfaceWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_ERASEBKGND && surface_.IsVeiled()) {
+    const LRESULT result = ControlWindow::OnMessage(message, wParam, lParam);
+    DrawVeil(reinterpret_cast<HDC>(wParam));
+    return result;
+  }
   // A container gives the focus to the surface as a whole.
   if (message == WM_SETFOCUS && surface_.Owner() == nullptr && FocusEnd(surface_, Direction::Forward)) return 0;
   return ControlWindow::OnMessage(message, wParam, lParam);

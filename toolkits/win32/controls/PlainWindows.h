@@ -30,6 +30,7 @@ class LabelWindow final : public ControlWindow {
 class SurfaceWindow final : public ControlWindow {
  public:
   SurfaceWindow(controls::Surface& surface, win32::Toolkit& toolkit);
+  void Refresh(controls::Aspect aspect) override;
 
  protected:
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -37,6 +38,9 @@ class SurfaceWindow final : public ControlWindow {
   void ShowPlace() override;
 
  private:
+  void ShowVeil();
+  void DrawVeil(HDC context) const;
+
   controls::Surface& surface_;
 };
 

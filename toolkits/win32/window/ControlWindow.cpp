@@ -87,7 +87,7 @@ void ControlWindow::Rescale() {
 }
 
 void ControlWindow::ShowVisible() {
-  const bool visible = control_.Host().Visible();
+  const bool visible = control_.Host().Visible() && !RootOf(control_).IsVeiled();
   if (!visible) LeaveInside(*this);
   ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
 }
