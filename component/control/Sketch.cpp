@@ -351,7 +351,10 @@ void SketchSurface(const controls::Surface& surface, HDC target, const RECT& bou
   const win32::SavedContext saved(target);
   Paper paper(target, bounds, size);
   paper.Fill({0, 0, size.cx, size.cy}, win32::DrawnColor(win32::BackgroundOf(surface)));
-  SketchOn(surface, root, paper);
+  if (!surface.IsVeiled()) return SketchOn(surface, root, paper);
+  const auto font = reinterpret_cast<HFONT>(::SendMessageW(root, WM_GETFONT, 0, 0));
+  if (font == nullptr) return;
+  paper.Text({0, 0, size.cx, size.cy}, win32::Wide(controls::kVeil), font, SystemColor(COLOR_GRAYTEXT), Align::Center);
 }
 
 }  // namespace brivane::component

@@ -61,6 +61,9 @@ class Subject {
   /// A person is asked whether a change of the control's own properties is to be kept with its form.
   [[nodiscard]] virtual bool WantsToKeep() = 0;
 
+  /// Ends what is going on in the control, quietly: a form and questions that are up go, and what was running is
+  /// abandoned when what it waits for comes back.
+  virtual void Abandon() = 0;
   /// Lets go of everything of the host's: the control is being closed. It may be bound again later.
   virtual void LetGo() = 0;
 };

@@ -75,7 +75,8 @@ bool SurfaceSubject::WantsToKeep() {
 
 std::wstring SurfaceSubject::Mnemonics() const {
   std::wstring letters;
-  Collect(controls::Surface::Of(surface_).Table(), letters);
+  const controls::Surface& surface = controls::Surface::Of(surface_);
+  if (!surface.IsVeiled()) Collect(surface.Table(), letters);
   return letters;
 }
 

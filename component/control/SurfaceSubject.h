@@ -26,7 +26,8 @@ class SurfaceSubject : public Subject {
   void FollowFont(float points) override;
   [[nodiscard]] bool Navigate(const MSG& message) override { return toolkit_.Navigate(surface_, message); }
   void Focus(TabEnd end) override;
-  void HandOver() override { (void)toolkit_.CommitPending(surface_); }
+  void HandOver() override { toolkit_.LeavePending(surface_); }
+  void Abandon() override { toolkit_.Life()->Abandon(); }
   [[nodiscard]] std::wstring Mnemonics() const override;
   [[nodiscard]] bool WantsToKeep() override;
 

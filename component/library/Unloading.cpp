@@ -2,6 +2,9 @@
 // library that is unloaded before that would leave it behind, once for each time that it is loaded. So they are told
 // that the unloading thread ends, before they learn that the library does: then they forget what they kept.
 //
+// What is made at its first use and lives as long as the library would have them keep two more handles, which they
+// never give back: such things are made when the library is loaded.
+//
 // They learn both by the functions of the library's thread-local storage, which the system calls in the order of the
 // sections that name them; this one's stands before theirs.
 

@@ -22,7 +22,9 @@ struct ControlClass {
 class ControlPart final : private SurfaceSubject {
  public:
   ControlPart(ControlClass around, win32::Toolkit& toolkit, host::Surface& surface)
-      : SurfaceSubject(toolkit, surface), around_(std::move(around)), changes_(around_.outer) {}
+      : SurfaceSubject(toolkit, surface), around_(std::move(around)), changes_(around_.outer) {
+    toolkit.Desktop().modal = [this](bool up) { control_.Modal(up); };
+  }
 
   [[nodiscard]] OleControl& Control() { return control_; }
   [[nodiscard]] ConnectionPoint& PropertyListeners() { return changes_.Point(); }

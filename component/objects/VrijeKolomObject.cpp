@@ -56,14 +56,8 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
     });
   }
   STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override {
-    if (!Cancel) return E_POINTER;
-    return owner_.Doing([&] {
-      const bool before = As<bool>(*Cancel);
-      bool cancel = before;
-      if (!cancel && !owner_.TheToolkit().CommitPending(*owner_.surface_)) cancel = true;
-      Control().Validation(cancel, ControleNr);
-      StoreCancel(Cancel, before, cancel);
-    });
+    return owner_.Validating(owner_.binding_, *owner_.surface_, Cancel,
+                             [&](bool& cancel) { Control().Validation(cancel, ControleNr); });
   }
   STDMETHODIMP get_BackColor(OLE_COLOR* Color) override {
     return owner_.Giving(Color, [&] { return OleColor(Control().BackColor()); });
@@ -74,6 +68,8 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
       Control().SetBackColor(ColorOf(New_Color));
     });
   }
+  // It is bound with the editor.
+  STDMETHODIMP get_Toestand(Bindingstoestand* Toestand) override { return owner_.get_Toestand(Toestand); }
   // The embedded control's tracer is of the editor's class.
   STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override { return owner_.get_ProcedureTraceKlasse(ProgID); }
   STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override { return owner_.put_ProcedureTraceKlasse(ProgID); }
@@ -96,19 +92,23 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
       toelichting_(std::make_unique<Embedded>(*this)),
       events_(Controlling(), DIID_DVrijeKolomEvents),
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
-             [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
+             [this](host::Color color) { editor_->SetBackColor(color); }, [this] { LetGo(); }},
             TheToolkit(), *surface_),
       points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
+    CheckGoingOn();
   });
   subscriptions_ += editor_->HeightChanged.Connect([this] {
     part_.Control().SizeChanged();
+    CheckGoingOn();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
+    CheckGoingOn();
   });
   subscriptions_ += editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Opening(form); });
   subscriptions_ += editor_->Toelichting().Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) toelichting_->Changed();
+    CheckGoingOn();
   });
 }
 
@@ -121,20 +121,21 @@ IUnknown* VrijeKolomObject::Find(REFIID iid) {
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
-  return Binding(Application,
+  return Binding(binding_, *surface_, Application,
                  [&] { editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id); });
 }
 
+void VrijeKolomObject::LetGo() {
+  binding_.Unbind([this] { editor_->Unbind(); });
+  Session().LetGo();
+}
+
+STDMETHODIMP VrijeKolomObject::get_Toestand(Bindingstoestand* Toestand) {
+  return Giving(Toestand, [&] { return ToestandOf(binding_); });
+}
+
 STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
-  if (!Cancel) return E_POINTER;
-  return Doing([&] {
-    const bool before = As<bool>(*Cancel);
-    bool cancel = before;
-    // What is being typed is handed over first; refused there is refused here.
-    if (!cancel && !TheToolkit().CommitPending(*surface_)) cancel = true;
-    editor_->Validation(cancel, ControleNr);
-    StoreCancel(Cancel, before, cancel);
-  });
+  return Validating(binding_, *surface_, Cancel, [&](bool& cancel) { editor_->Validation(cancel, ControleNr); });
 }
 
 STDMETHODIMP VrijeKolomObject::get_BackColor(OLE_COLOR* Color) {

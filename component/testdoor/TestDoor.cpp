@@ -6,6 +6,27 @@
 
 namespace brivane::component {
 
+namespace {
+
+/// While it exists, a surface that stands for nothing can be acted on all the same.
+class Unveiled {
+ public:
+  explicit Unveiled(controls::Surface& surface) : surface_(surface), veiled_(surface.IsVeiled()) {
+    if (veiled_) surface_.SetVeiled(false);
+  }
+  Unveiled(const Unveiled&) = delete;
+  Unveiled& operator=(const Unveiled&) = delete;
+  ~Unveiled() {
+    if (veiled_) surface_.SetVeiled(true);
+  }
+
+ private:
+  controls::Surface& surface_;
+  bool veiled_;
+};
+
+}  // namespace
+
 class LentDoor::Impl final : public DualObject<ITestDoor> {
  public:
   Impl(ComPtr<IUnknown> object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
@@ -16,6 +37,8 @@ class LentDoor::Impl final : public DualObject<ITestDoor> {
   STDMETHODIMP Perform(BSTR element, BSTR action, VARIANT value, SHORT* outcome) override {
     return OnSurface([&](controls::Surface& surface) {
       controls::AnyControl& control = Named(surface, FromBstr(element));
+      // What the controls do is tested here, also after a binding that failed.
+      const Unveiled unveiled(surface);
       *outcome = static_cast<SHORT>(control.Perform(ActionOf(FromBstr(action), value, control)));
     });
   }

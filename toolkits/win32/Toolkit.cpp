@@ -131,6 +131,11 @@ bool Toolkit::CommitPending(host::Surface& surface) {
   return Pending().Commit(controls::Surface::Of(surface));
 }
 
+void Toolkit::LeavePending(host::Surface& surface) {
+  if (ComboWindow* const list = ComboWindow::UnderWayOn(controls::Surface::Of(surface))) list->HandOver();
+  Pending().Leave(controls::Surface::Of(surface));
+}
+
 void Toolkit::Rescale(host::Surface& surface) {
   const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {
     for (const auto& control : area.Made()) {

@@ -85,6 +85,36 @@ TEST_F(ControlTest, CanBeActivatedAgainAfterItWasClosed) {
   EXPECT_EQ(::GetFocus(), dummy->first);
 }
 
+TEST_F(ControlTest, TellsTheFrameOfAFormOrAQuestionThatIsUp) {
+  Activate();
+  dummy->Control().Modal(true);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless no"));
+  dummy->Control().Modal(true);
+  dummy->Control().Modal(false);
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls,
+              ElementsAre("EnableModeless no", "EnableModeless no", "EnableModeless", "EnableModeless"));
+}
+
+TEST_F(ControlTest, TellsTheFrameThatItHasGoneAlsoWhereTheControlWasClosedMeanwhile) {
+  Activate();
+  dummy->Control().Modal(true);
+  container.Object().Close(OLECLOSE_NOSAVE);
+  EXPECT_EQ(dummy->abandoned, 1);
+  container.calls.clear();
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless"));
+  dummy->Control().Modal(true);
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless")) << "it stands in no frame";
+}
+
+TEST_F(ControlTest, WhatWasGoingOnEndsWithTheContainersWindow) {
+  Activate();
+  ::DestroyWindow(container.Window());
+  EXPECT_EQ(dummy->abandoned, 1);
+}
+
 TEST_F(ControlTest, OutlivesTheContainersWindow) {
   Activate();
   ::DestroyWindow(container.Window());

@@ -48,6 +48,7 @@ class Dummy final : public IUnknown, public Subject {
   [[nodiscard]] std::wstring Mnemonics() const override { return L"ae"; }
   [[nodiscard]] bool MayChange(DISPID) override { return agreesToChange; }
   void HasChanged(DISPID property) override { changed.push_back(property); }
+  void Abandon() override { ++abandoned; }
   void LetGo() override { ++letGo; }
   [[nodiscard]] bool WantsToKeep() override {
     ++asked;
@@ -66,6 +67,7 @@ class Dummy final : public IUnknown, public Subject {
   bool agreesToChange = true;
   std::vector<DISPID> changed;
   int letGo = 0;
+  int abandoned = 0;
   int asked = 0;
   bool wantsToKeep = true;
   int handedOver = 0;

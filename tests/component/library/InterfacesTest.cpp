@@ -133,16 +133,18 @@ TEST_F(InterfacesTest, TheEditorHasItsMembersInTheirOrder) {
              "-501 put BackColor([in] OLE_COLOR)", "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
              "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)", "4 get Toelichting([out retval] IToelichting**)",
              "5 get ProcedureTraceKlasse([out retval] BSTR*)", "5 put ProcedureTraceKlasse([in] BSTR)",
-             "6 get DossierControleKlasse([out retval] BSTR*)", "6 put DossierControleKlasse([in] BSTR)"}));
+             "6 get DossierControleKlasse([out retval] BSTR*)", "6 put DossierControleKlasse([in] BSTR)",
+             "7 get Toestand([out retval] Bindingstoestand*)"}));
 }
 
 TEST_F(InterfacesTest, TheExplanationHasItsMembersInTheirOrder) {
   EXPECT_TRUE(IsDual(IID_IToelichting));
-  EXPECT_EQ(Declarations(IID_IToelichting),
-            (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
-                   "2 Validation([in out] VARIANT*, [in optional = 0] long)",
-                   "-501 get BackColor([out retval] OLE_COLOR*)", "-501 put BackColor([in] OLE_COLOR)",
-                   "3 get ProcedureTraceKlasse([out retval] BSTR*)", "3 put ProcedureTraceKlasse([in] BSTR)"}));
+  EXPECT_EQ(
+      Declarations(IID_IToelichting),
+      (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
+             "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] OLE_COLOR*)",
+             "-501 put BackColor([in] OLE_COLOR)", "3 get ProcedureTraceKlasse([out retval] BSTR*)",
+             "3 put ProcedureTraceKlasse([in] BSTR)", "4 get Toestand([out retval] Bindingstoestand*)"}));
 }
 
 TEST_F(InterfacesTest, TheFormHasItsMembersInTheirOrder) {
