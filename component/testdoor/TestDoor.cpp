@@ -8,7 +8,8 @@ namespace brivane::component {
 
 namespace {
 
-/// While it exists, a surface that stands for nothing can be acted on all the same.
+/// While it exists, a surface that stands for nothing can be acted on all the same: what the controls do is tested
+/// here, also after a binding that failed.
 class Unveiled {
  public:
   explicit Unveiled(controls::Surface& surface) : surface_(surface), veiled_(surface.IsVeiled()) {
@@ -37,7 +38,6 @@ class LentDoor::Impl final : public DualObject<ITestDoor> {
   STDMETHODIMP Perform(BSTR element, BSTR action, VARIANT value, SHORT* outcome) override {
     return OnSurface([&](controls::Surface& surface) {
       controls::AnyControl& control = Named(surface, FromBstr(element));
-      // What the controls do is tested here, also after a binding that failed.
       const Unveiled unveiled(surface);
       *outcome = static_cast<SHORT>(control.Perform(ActionOf(FromBstr(action), value, control)));
     });
@@ -49,6 +49,7 @@ class LentDoor::Impl final : public DualObject<ITestDoor> {
       if (name.empty()) {
         if (std::optional<Variant> own = aspects_(asked)) return own->MoveTo(value);
       }
+      const Unveiled unveiled(surface);
       AspectOf(Named(surface, name), asked).MoveTo(value);
     });
   }
