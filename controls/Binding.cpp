@@ -18,7 +18,7 @@ BindingResult Binding::Bind(const std::function<void()>& bind) {
   try {
     bind();
   } catch (...) {
-    if (!life.expired()) Put(BindingState::Failed);
+    if (!life.expired() && turn == turn_) Put(BindingState::Failed);
     throw;
   }
   if (life.expired()) return BindingResult::Failed;

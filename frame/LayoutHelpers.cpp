@@ -1,6 +1,8 @@
 #include "frame/LayoutHelpers.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <optional>
 
 #include "frame/Graphemes.h"
@@ -29,6 +31,31 @@ std::optional<float> Factor(const host::Desktop& desktop) {
   const float y = desktop.TwipsPerPixelY();
   if (x == host::kTwipsPerPixel && y == host::kTwipsPerPixel) return std::nullopt;
   return y / host::kTwipsPerPixel;
+}
+
+/// How far from the place sought a text is shortened character by character, in bytes.
+constexpr std::size_t kNear = 32;
+
+/// A beginning of a text that ends before `end`, where a user-perceived character ends.
+std::string_view Beginning(std::string_view text, std::size_t end) {
+  // Not inside a code point, which has at most three bytes after the first.
+  for (int i = 0; i < 3 && end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U; ++i) --end;
+  return end == 0 ? std::string_view() : text.substr(0, LastGraphemeStart(text.substr(0, end)));
+}
+
+/// A length that a text which does not fit can be cut to before it is shortened character by character: what is passed
+/// over does not fit either, as what is longer by kNear bytes or more is no narrower.
+///
+/// A long text would be measured once for each of its characters; so it is measured some tens of times.
+template <class Fits> std::size_t LeapTo(std::string_view text, const Fits& fits) {
+  std::size_t fitting = 0;
+  std::size_t tooLong = text.size();
+  while (tooLong - fitting > kNear) {
+    const std::size_t middle = fitting + (tooLong - fitting) / 2;
+    (fits(Beginning(text, middle)) ? fitting : tooLong) = middle;
+  }
+  const std::size_t end = tooLong + 2 * kNear;
+  return end < text.size() ? Beginning(text, end).size() : text.size();
 }
 
 }  // namespace
@@ -71,7 +98,9 @@ std::string FitText(host::DrawingSurface* surface, std::string text, host::Twips
   try {
     if (surface->TextWidth(text) > width) {
       const host::Twips ellipsis = surface->TextWidth(kEllipsis);
-      while (!text.empty() && surface->TextWidth(text) + ellipsis > width) text.resize(LastGraphemeStart(text));
+      const auto fits = [&](std::string_view part) { return !(surface->TextWidth(part) + ellipsis > width); };
+      text.resize(LeapTo(text, fits));
+      while (!text.empty() && !fits(text)) text.resize(LastGraphemeStart(text));
       text += kEllipsis;
     }
   } catch (...) {

@@ -35,6 +35,8 @@ template <class Interface> class Dispatching : public Interface, public ISupport
       // A record that somebody else left behind must not be taken for ours.
       SetErrorInfo(0, nullptr);
       answer = Described()->Invoke(static_cast<Interface*>(this), id, flags, arguments, result, error, argument);
+      // Scripts know no numbers without a sign. A colour is the same number to them as to those who were compiled.
+      if (SUCCEEDED(answer) && result && result->vt == VT_UI4) result->vt = VT_I4;
     });
     return FAILED(described) ? described : answer;
   }

@@ -19,6 +19,7 @@ constexpr HRESULT kNumbers = static_cast<HRESULT>(0x800A0000);
 constexpr std::int32_t kHighestNumber = 0xFFFF;
 constexpr const char* kSource = "BrivaneVrijeKolom";
 constexpr const char* kUnknown = "Automation error";
+constexpr std::int32_t kNotPermitted = 387;
 
 struct Known {
   HRESULT result;
@@ -107,6 +108,8 @@ HRESULT ResultOf(const host::Error& error) {
     return kNumbers | static_cast<std::int32_t>(host::ErrorNumber::Foreign);
   return kNumbers | error.Number();
 }
+
+host::Error SetNotPermitted() { return {kNotPermitted, "Set not permitted", kSource}; }
 
 HRESULT LeaveCurrentError(const IID& interfaceId) noexcept {
   try {

@@ -20,6 +20,9 @@ void Check(HRESULT result);
 /// The result of an error. A positive number above 65535 has none and becomes that of error 440.
 [[nodiscard]] HRESULT ResultOf(const host::Error& error);
 
+/// The failure of setting a property that a listener to properties does not let change: error 387.
+[[nodiscard]] host::Error SetNotPermitted();
+
 /// Leaves the exception being handled as the error record of the thread and answers its result. To be called from a
 /// catch clause of a method of the interface.
 [[nodiscard]] HRESULT LeaveCurrentError(const IID& interfaceId) noexcept;

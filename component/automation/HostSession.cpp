@@ -31,7 +31,7 @@ void HostSession::Forget(const Adapter& adapter) {
 }
 
 Adapter::Adapter(std::shared_ptr<HostSession> session, ComPtr<IDispatch> object)
-    : session_(std::move(session)), target_(std::move(object)) {
+    : session_(std::move(session)), target_(std::move(object), session_->Life()) {
   if (target_) target_.Object()->QueryInterface(IID_PPV_ARGS(identity_.Put()));
 }
 
@@ -41,11 +41,16 @@ IDispatch* Adapter::Object() const { return Target().Object(); }
 
 void Adapter::Replace(ComPtr<IDispatch> object) {
   const ComPtr<IUnknown> identity = std::exchange(identity_, object.As<IUnknown>());
-  const LateBound target = std::exchange(target_, LateBound(std::move(object)));
+  const LateBound target = std::exchange(target_, LateBound(std::move(object), session_->Life()));
 }
 
 LateBound& Adapter::Target() const {
-  if (!target_ && maker_) target_ = LateBound(maker_());
+  session_->Life()->Check();
+  if (!target_ && maker_) {
+    ComPtr<IDispatch> made = maker_();
+    session_->Life()->Check();
+    target_ = LateBound(std::move(made), session_->Life());
+  }
   if (!target_) throw host::Error(host::ErrorNumber::ObjectMissing);
   return target_;
 }

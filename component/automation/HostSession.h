@@ -10,6 +10,7 @@
 
 #include "component/automation/Adapter.h"
 #include "component/automation/Variant.h"
+#include "controls/life/Life.h"
 
 namespace brivane::component {
 
@@ -21,6 +22,13 @@ namespace brivane::component {
 ///     session->LetGo();  // the host's objects are released now, whoever still holds an adapter
 class HostSession : public std::enable_shared_from_this<HostSession> {
  public:
+  HostSession() = default;
+  /// Of a control with that life: whoever uses an object of the host after it has ended, or after what he stands in was
+  /// abandoned, is abandoned.
+  explicit HostSession(std::shared_ptr<const controls::Life> life) : life_(std::move(life)) {}
+
+  [[nodiscard]] const std::shared_ptr<const controls::Life>& Life() const { return life_; }
+
   /// The adapter of an object; nothing for Nothing.
   template <class A> [[nodiscard]] std::shared_ptr<A> Adapt(const ComPtr<IDispatch>& object) {
     if (!object) return nullptr;
@@ -54,6 +62,7 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
 
   void Forget(const Adapter& adapter);
 
+  std::shared_ptr<const controls::Life> life_ = std::make_shared<const controls::Life>();
   std::map<Key, std::weak_ptr<Adapter>> known_;
   std::vector<std::weak_ptr<Adapter>> makers_;
 };

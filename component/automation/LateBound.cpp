@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "component/automation/Bstr.h"
+#include "component/automation/Caller.h"
 #include "component/automation/Errors.h"
 
 namespace brivane::component {
@@ -20,7 +21,10 @@ std::vector<VARIANT> Reversed(std::span<const Variant> arguments) {
 
 }  // namespace
 
-LateBound::LateBound(ComPtr<IDispatch> object) : object_(std::move(object)), scripted_(object_.As<IDispatchEx>()) {}
+LateBound::LateBound(ComPtr<IDispatch> object, std::shared_ptr<const controls::Life> life)
+    : object_(std::move(object)), scripted_(object_.As<IDispatchEx>()), life_(std::move(life)) {
+  if (scripted_) caller_ = NewCaller();
+}
 
 HRESULT LateBound::Find(std::wstring_view name, DISPID& id) {
   if (const auto known = ids_.find(name); known != ids_.end()) {
@@ -50,15 +54,25 @@ bool LateBound::Has(std::wstring_view name) {
 }
 
 void LateBound::Invoke(std::wstring_view name, WORD flags, DISPPARAMS& arguments, VARIANT* result) {
+  const std::shared_ptr<const controls::Life> life = life_;
+  if (life) life->Check();
   const DISPID id = Need(name);
   EXCEPINFO info{};
   // The object may let go of us while it works.
   const ComPtr<IDispatch> object = object_;
   const ComPtr<IDispatchEx> scripted = scripted_;
+  const ComPtr<IServiceProvider> caller = caller_;
   const HRESULT answer =
-      scripted ? scripted->InvokeEx(id, LOCALE_USER_DEFAULT, flags, &arguments, result, &info, nullptr)
+      scripted ? scripted->InvokeEx(id, LOCALE_USER_DEFAULT, flags, &arguments, result, &info, caller.Get())
                : object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, &info, nullptr);
-  if (FAILED(answer)) throw ErrorOf(answer, &info);
+  if (SUCCEEDED(answer)) {
+    if (life) life->Check();
+    return;
+  }
+  const host::Error failure = ErrorOf(answer, &info);
+  // A host that fails after it let go has nobody to fail to.
+  if (life) life->Check();
+  throw failure;
 }
 
 Variant LateBound::Get(std::wstring_view name, std::span<const Variant> arguments) {

@@ -3,11 +3,13 @@
 #include <dispex.h>
 
 #include <map>
+#include <memory>
 #include <span>
 #include <string_view>
 
 #include "component/automation/ComPtr.h"
 #include "component/automation/Variant.h"
+#include "controls/life/Life.h"
 
 namespace brivane::component {
 
@@ -19,10 +21,13 @@ namespace brivane::component {
 /// Reached through IDispatchEx where the object has it (a class of a script has nothing else), else through IDispatch.
 /// A failure of the object is thrown with its number, description and source. Names must be literals: what they stand
 /// for is remembered.
+///
+/// Where the object is used by a control, what uses it is abandoned before and after a call, also one that fails, once
+/// the host has let go of the control or closed it: the host may do so while it is called.
 class LateBound {
  public:
   LateBound() = default;
-  explicit LateBound(ComPtr<IDispatch> object);
+  explicit LateBound(ComPtr<IDispatch> object, std::shared_ptr<const controls::Life> life = nullptr);
 
   [[nodiscard]] IDispatch* Object() const { return object_.Get(); }
   [[nodiscard]] explicit operator bool() const { return static_cast<bool>(object_); }
@@ -44,6 +49,8 @@ class LateBound {
 
   ComPtr<IDispatch> object_;
   ComPtr<IDispatchEx> scripted_;
+  std::shared_ptr<const controls::Life> life_;
+  ComPtr<IServiceProvider> caller_;  ///< as a script's object is told it
   std::map<std::wstring_view, DISPID> ids_;
 };
 

@@ -29,10 +29,9 @@ class PeriodeAdapter final : public AdapterOf<host::PeriodeByField<PeriodeAdapte
   template <class Field> void WriteField(const Field& field, const typename Field::Value& value) {
     Put(Names()[field.place], value);
   }
-  static const std::vector<std::wstring>& Names() {
-    static const std::vector<std::wstring> names = WideNames(host::kPeriodeFields);
-    return names;
-  }
+  static const std::vector<std::wstring>& Names() { return names_; }
+
+  static inline const std::vector<std::wstring> names_ = WideNames(host::kPeriodeFields);
 };
 
 /// An amount object of the host.
@@ -75,10 +74,9 @@ class RecordAdapter final : public AdapterOf<host::VrijeKolomByField<RecordAdapt
   template <class Field> void WriteField(const Field& field, const typename Field::Value& value) {
     Put(Names()[field.place], value);
   }
-  static const std::vector<std::wstring>& Names() {
-    static const std::vector<std::wstring> names = WideNames(host::kVrijeKolomFields);
-    return names;
-  }
+  static const std::vector<std::wstring>& Names() { return names_; }
+
+  static inline const std::vector<std::wstring> names_ = WideNames(host::kVrijeKolomFields);
 };
 
 }  // namespace brivane::component

@@ -173,6 +173,15 @@ void Activation::AskForOwnSize() {
 
 void Activation::FollowUserMode() { window_.SetUsable(site_.AmbientUserMode()); }
 
+// The frame that was told the one is told the other, also where the control has left it meanwhile.
+void Activation::Modal(bool up) {
+  if (up) told_.push_back(frame_);
+  if (told_.empty()) return;
+  const ComPtr<IOleInPlaceFrame> frame = told_.back();
+  if (!up) told_.pop_back();
+  if (frame) frame->EnableModeless(up ? FALSE : TRUE);
+}
+
 void Activation::FocusCame(TabEnd end) {
   Answer([&] {
     const unsigned turn = turn_;
@@ -187,6 +196,7 @@ void Activation::MouseCame() {
 
 void Activation::WindowLost() {
   Answer([&] {
+    subject_.Abandon();
     Deactivate();
     return S_OK;
   });

@@ -3,6 +3,7 @@
 #include "component/idl/Windows.h"
 
 #include <optional>
+#include <vector>
 
 #include "component/automation/ComPtr.h"
 #include "component/control/FrameWindow.h"
@@ -30,6 +31,8 @@ class Activation final : private FrameListener {
   void SizeChanged();
   /// Whether a form is in use or being designed.
   void FollowUserMode();
+  /// A form or a message box of the control comes up, or has gone: the container's other windows take no input then.
+  void Modal(bool up);
 
   [[nodiscard]] bool IsInPlace() const { return state_ != State::Inactive; }
   [[nodiscard]] bool IsUiActive() const { return state_ == State::UiActive; }
@@ -58,7 +61,8 @@ class Activation final : private FrameListener {
   RECT granted_{};
   RECT clip_{};
   bool asking_ = false;
-  std::optional<SIZE> refused_;  ///< what was asked for the place that was granted
+  std::vector<ComPtr<IOleInPlaceFrame>> told_;  ///< of each that is up; nothing where there was no frame
+  std::optional<SIZE> refused_;                 ///< what was asked for the place that was granted
 };
 
 }  // namespace brivane::component

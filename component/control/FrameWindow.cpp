@@ -25,14 +25,13 @@ HINSTANCE Module() {
 
 bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
+// The address is part of the name: a class that an unloaded library might have left is never taken for this one.
+const std::wstring kClassName =
+    L"BrivaneVrijeKolom.Kader." + std::to_wstring(reinterpret_cast<std::uintptr_t>(&classUsers));
+
 }  // namespace
 
-// The address is part of the name: a class that an unloaded library might have left is never taken for this one.
-const wchar_t* FrameWindow::ClassName() {
-  static const std::wstring name =
-      L"BrivaneVrijeKolom.Kader." + std::to_wstring(reinterpret_cast<std::uintptr_t>(&Procedure));
-  return name.c_str();
-}
+const wchar_t* FrameWindow::ClassName() { return kClassName.c_str(); }
 
 FrameWindow::ClassUse::ClassUse() {
   const std::scoped_lock lock(classLock);

@@ -3,15 +3,9 @@
 #include <olectl.h>
 
 #include "component/automation/ComPtr.h"
-#include "host/Error.h"
+#include "component/automation/Errors.h"
 
 namespace brivane::component {
-
-namespace {
-
-constexpr std::int32_t kNotPermitted = 387;
-
-}  // namespace
 
 OleControl::OleControl(Subject& subject)
     : subject_(subject),
@@ -39,9 +33,8 @@ IUnknown* OleControl::Find(REFIID iid) {
 
 void OleControl::PutBackColor(host::Color color) {
   const ComPtr<IUnknown> keep(&subject_.Outer());
-  if (!subject_.MayChange(DISPID_BACKCOLOR)) throw host::Error(kNotPermitted, "Set not permitted", "BrivaneVrijeKolom");
+  if (!subject_.MayChange(DISPID_BACKCOLOR)) throw SetNotPermitted();
   properties_.SetBackColor(color);
-  subject_.HasChanged(DISPID_BACKCOLOR);
   view_.Changed();
 }
 

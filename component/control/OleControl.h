@@ -42,6 +42,8 @@ class OleControl {
   /// The surface shows something else; a container that draws the control itself draws it anew.
   void ContentChanged() { view_.Changed(); }
 
+  /// A form or a message box of the control comes up, or has gone.
+  void Modal(bool up) { activation_.Modal(up); }
   /// The container wants no events now.
   [[nodiscard]] bool EventsFrozen() const { return face_.EventsFrozen(); }
   /// The window in the container; null where the control does not stand in one.

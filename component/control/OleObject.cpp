@@ -23,7 +23,9 @@ HRESULT CopyText(std::wstring_view text, LPOLESTR* out) {
 }  // namespace
 
 STDMETHODIMP OleObject::SetClientSite(IOleClientSite* client) {
+  const ComPtr<IUnknown> keep(this);
   return Answer([&] {
+    if (!client) TheSubject().Abandon();
     activation_.Deactivate();
     site_.Set(client);
     if (client) properties_.FollowAmbient();
@@ -38,9 +40,11 @@ STDMETHODIMP OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) { return S_OK; }
 STDMETHODIMP OleObject::Close(DWORD save) {
   const ComPtr<IUnknown> keep(this);
   return Answer([&] {
-    if (save != OLECLOSE_NOSAVE && properties_.IsDirty() && site_.Client()) {
-      const auto client = site_.Client();
-      client->SaveObject();
+    TheSubject().Abandon();
+    if (save != OLECLOSE_NOSAVE && properties_.IsDirty() && site_.Client() &&
+        (save != OLECLOSE_PROMPTSAVE || TheSubject().WantsToKeep())) {
+      // While somebody was asked, the container may have gone.
+      if (const auto client = site_.Client()) client->SaveObject();
     }
     activation_.Deactivate();
     if (const auto advised = advised_) advised->SendOnClose();

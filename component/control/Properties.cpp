@@ -1,13 +1,25 @@
 #include "component/control/Properties.h"
 
+#include <olectl.h>
+
+#include <utility>
+
 #include "component/control/View.h"
 
 namespace brivane::component {
 
 void Properties::SetBackColor(host::Color color) {
-  subject_.SetBackColor(color);
-  ownBackColor_ = true;
+  const bool followed = !std::exchange(ownBackColor_, true);
   Touch();
+  Show(color, followed);
+}
+
+void Properties::Show(host::Color color, bool inPlaceOfTheContainers) {
+  if (inPlaceOfTheContainers)
+    subject_.FollowBackColor(color);
+  else
+    subject_.SetBackColor(color);
+  subject_.HasChanged(DISPID_BACKCOLOR);
 }
 
 void Properties::FollowAmbient() {
@@ -17,8 +29,7 @@ void Properties::FollowAmbient() {
 
 void Properties::FollowAmbientBackColor() {
   if (ownBackColor_) return;
-  if (const auto color = site_.AmbientBackColor(); color && *color != subject_.BackColor())
-    subject_.SetBackColor(*color);
+  if (const auto color = site_.AmbientBackColor(); color && *color != subject_.BackColor()) Show(*color, true);
 }
 
 void Properties::FollowAmbientFont() {
@@ -39,9 +50,9 @@ Kept Properties::Take() const {
 }
 
 void Properties::Restore(const Kept& kept) {
-  ownBackColor_ = kept.backColor.has_value();
+  const bool followed = !std::exchange(ownBackColor_, kept.backColor.has_value());
   if (kept.backColor) {
-    if (*kept.backColor != subject_.BackColor()) subject_.SetBackColor(*kept.backColor);
+    if (*kept.backColor != subject_.BackColor()) Show(*kept.backColor, followed);
   } else {
     FollowAmbientBackColor();
   }

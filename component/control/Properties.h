@@ -39,6 +39,9 @@ class Properties {
   [[nodiscard]] bool IsDirty() const { return dirty_; }
 
  private:
+  /// Shows a colour and tells the listeners; it comes in place of one of the container's, or of one that was set.
+  void Show(host::Color color, bool inPlaceOfTheContainers);
+
   Subject& subject_;
   Site& site_;
   bool ownBackColor_ = false;

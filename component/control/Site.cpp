@@ -27,8 +27,10 @@ std::optional<host::Color> Site::AmbientBackColor() const {
 
 std::optional<float> Site::AmbientFontSize() const {
   Variant value;
-  if (!Ambient(DISPID_AMBIENT_FONT, value) || value.Type() != VT_DISPATCH) return std::nullopt;
-  const auto font = ComPtr<IDispatch>(value.Raw().pdispVal).As<IFont>();
+  if (!Ambient(DISPID_AMBIENT_FONT, value)) return std::nullopt;
+  ComPtr<IFont> font;
+  if (value.Type() == VT_DISPATCH) font = ComPtr<IDispatch>(value.Raw().pdispVal).As<IFont>();
+  if (value.Type() == VT_UNKNOWN) font = ComPtr<IUnknown>(value.Raw().punkVal).As<IFont>();
   CY size{};
   if (!font || FAILED(font->get_Size(&size))) return std::nullopt;
   return static_cast<float>(size.int64) / kParts;

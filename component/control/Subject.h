@@ -35,9 +35,14 @@ class Subject {
   /// The container gives the width. The height is the control's own; it may change by this.
   virtual void SetWidth(host::Twips width) = 0;
 
+  /// Draws everything that the control shows in lines and text, stretched over `bounds`: on what keeps the calls.
+  virtual void Sketch(HDC target, const RECT& bounds) = 0;
+
   [[nodiscard]] virtual host::Color BackColor() const = 0;
   virtual void SetBackColor(host::Color color) = 0;
-  /// The container's font, as far as the control goes along with it. Its background colour comes as SetBackColor.
+  /// The same, where the colour until now was the container's: what took that one takes this one.
+  virtual void FollowBackColor(host::Color color) = 0;
+  /// The container's font, as far as the control goes along with it.
   virtual void FollowFont(float points) = 0;
 
   /// A key for what has the focus in the control: Tab inside it, arrows, mnemonics, Enter. False where the
@@ -53,6 +58,12 @@ class Subject {
   [[nodiscard]] virtual bool MayChange(DISPID property) = 0;
   virtual void HasChanged(DISPID property) = 0;
 
+  /// A person is asked whether a change of the control's own properties is to be kept with its form.
+  [[nodiscard]] virtual bool WantsToKeep() = 0;
+
+  /// Ends what is going on in the control, quietly: a form and questions that are up go, and what was running is
+  /// abandoned when what it waits for comes back.
+  virtual void Abandon() = 0;
   /// Lets go of everything of the host's: the control is being closed. It may be bound again later.
   virtual void LetGo() = 0;
 };

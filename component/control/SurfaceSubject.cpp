@@ -1,7 +1,10 @@
 #include "component/control/SurfaceSubject.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "component/automation/Text.h"
+#include "component/control/Sketch.h"
 #include "controls/Surface.h"
 #include "frame/Design.h"
 
@@ -18,6 +21,17 @@ void Collect(const frame::Design& design, std::wstring& letters) {
   }
 }
 
+/// The controls that a colour of their surface comes to, on it and on what stands on it.
+void CollectDesigned(host::Surface& surface, std::vector<host::Control*>& controls) {
+  for (host::Control* const control : surface.Controls()) {
+    if (control->BackColor() == host::kButtonFace) controls.push_back(control);
+    if (auto* const inner = dynamic_cast<host::Surface*>(control)) CollectDesigned(*inner, controls);
+  }
+}
+
+constexpr char kKeepQuestion[] =
+    "De kleur of de breedte van dit onderdeel is gewijzigd. Wilt u de wijziging bij het formulier bewaren?";
+
 }  // namespace
 
 float SurfaceSubject::Scale() const { return static_cast<float>(toolkit_.Edge().Scale() * kDesignedDpi / ScreenDpi()); }
@@ -29,6 +43,18 @@ Extent SurfaceSubject::Extent() const {
 
 void SurfaceSubject::SetWidth(host::Twips width) {
   controls::Surface::Of(surface_).Size(width * (1 / Scale()), surface_.Place().height);
+}
+
+void SurfaceSubject::Sketch(HDC target, const RECT& bounds) {
+  SketchSurface(controls::Surface::Of(surface_), target, bounds);
+}
+
+void SurfaceSubject::FollowBackColor(host::Color color) {
+  const host::Color before = BackColor();
+  for (host::Control* const control : std::exchange(followers_, {}))
+    if (control->BackColor() == before) control->SetBackColor(host::kButtonFace);
+  CollectDesigned(surface_, followers_);
+  SetBackColor(color);
 }
 
 void SurfaceSubject::FollowFont(float points) {
@@ -43,9 +69,14 @@ void SurfaceSubject::Focus(TabEnd end) {
   (void)(end == TabEnd::First ? toolkit_.FocusFirst(surface_) : toolkit_.FocusLast(surface_));
 }
 
+bool SurfaceSubject::WantsToKeep() {
+  return toolkit_.Ask(Narrow(UserType()), kKeepQuestion, host::MessageStyle::YesNoQuestion) == host::MessageAnswer::Yes;
+}
+
 std::wstring SurfaceSubject::Mnemonics() const {
   std::wstring letters;
-  Collect(controls::Surface::Of(surface_).Table(), letters);
+  const controls::Surface& surface = controls::Surface::Of(surface_);
+  if (!surface.IsVeiled()) Collect(surface.Table(), letters);
   return letters;
 }
 

@@ -2,6 +2,7 @@
 
 #include "component/control/Boundary.h"
 #include "component/control/Paint.h"
+#include "component/control/Sketch.h"
 
 namespace brivane::component {
 
@@ -22,6 +23,10 @@ STDMETHODIMP View::Draw(DWORD aspect, LONG index, void*, DVTARGETDEVICE*, HDC, H
   return Answer([&] {
     Subject& subject = TheSubject();
     const RECT place{bounds->left, bounds->top, bounds->right, bounds->bottom};
+    if (IsMetafile(target)) {
+      subject.Sketch(target, place);
+      return S_OK;
+    }
     return PaintWindow(subject.Window(), ScreenColor(subject.BackColor()), target, place);
   });
 }

@@ -3,9 +3,6 @@
 #include "component/automation/Module.h"
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
-  if (reason == DLL_PROCESS_ATTACH) {
-    brivane::component::module::Attach(instance);
-    DisableThreadLibraryCalls(instance);
-  }
+  if (reason == DLL_PROCESS_ATTACH) brivane::component::module::Attach(instance);
   return TRUE;
 }

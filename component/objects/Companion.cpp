@@ -4,14 +4,12 @@ namespace brivane::component {
 
 namespace {
 
+Companions none_;
 Companions* used_ = nullptr;
 
 }  // namespace
 
-Companions& Companions::Used() {
-  static Companions none;
-  return used_ ? *used_ : none;
-}
+Companions& Companions::Used() { return used_ ? *used_ : none_; }
 
 void Companions::Use(Companions& companions) { used_ = &companions; }
 

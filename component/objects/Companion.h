@@ -41,6 +41,8 @@ class Companion {
   /// The host's object for that control ("VrijeKolom", "Toelichting") in place of one of its class; or nothing.
   [[nodiscard]] virtual ComPtr<IDispatch> TraceFor(std::string_view) { return {}; }
   [[nodiscard]] virtual ComPtr<IDispatch> CheckFor(std::string_view) { return {}; }
+  /// Whether the object is used past what keeps a person from a control that stands for nothing.
+  [[nodiscard]] virtual bool ActsBehindTheVeil() const { return false; }
   /// The form that is shown next.
   virtual void Opening(const brivane::frmScenario&) {}
 };

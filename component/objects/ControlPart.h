@@ -4,7 +4,7 @@
 
 #include "component/control/OleControl.h"
 #include "component/control/SurfaceSubject.h"
-#include "component/objects/ConnectionPoint.h"
+#include "component/objects/PropertyChanges.h"
 
 namespace brivane::component {
 
@@ -22,12 +22,12 @@ struct ControlClass {
 class ControlPart final : private SurfaceSubject {
  public:
   ControlPart(ControlClass around, win32::Toolkit& toolkit, host::Surface& surface)
-      : SurfaceSubject(toolkit, surface),
-        around_(std::move(around)),
-        changes_(around_.outer, IID_IPropertyNotifySink, Calls::ByMethod) {}
+      : SurfaceSubject(toolkit, surface), around_(std::move(around)), changes_(around_.outer) {
+    toolkit.Desktop().modal = [this](bool up) { control_.Modal(up); };
+  }
 
   [[nodiscard]] OleControl& Control() { return control_; }
-  [[nodiscard]] ConnectionPoint& PropertyChanges() { return changes_; }
+  [[nodiscard]] ConnectionPoint& PropertyListeners() { return changes_.Point(); }
 
  private:
   IUnknown& Outer() override { return around_.outer; }
@@ -37,17 +37,11 @@ class ControlPart final : private SurfaceSubject {
   void SetBackColor(host::Color color) override { around_.setBackColor(color); }
   void LetGo() override { around_.letGo(); }
 
-  bool MayChange(DISPID property) override {
-    for (const auto& listener : changes_.Listeners<IPropertyNotifySink>())
-      if (listener->OnRequestEdit(property) == S_FALSE) return false;
-    return true;
-  }
-  void HasChanged(DISPID property) override {
-    for (const auto& listener : changes_.Listeners<IPropertyNotifySink>()) listener->OnChanged(property);
-  }
+  bool MayChange(DISPID property) override { return changes_.MayChange(property); }
+  void HasChanged(DISPID property) override { changes_.HasChanged(property); }
 
   ControlClass around_;
-  ConnectionPoint changes_;
+  PropertyChanges changes_;
   OleControl control_{*this};
 };
 

@@ -54,11 +54,14 @@ HostClasses RegisteredHostClasses(const CLSID& control) {
 
 host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Companion& companion) {
   return {.MaakProcedureTrace = [&](std::string_view control) -> std::shared_ptr<host::ProcedureTrace> {
+            session.Life()->Check();
             return session.Make<TraceAdapter>(
                 [&classes, &companion, name = std::string(control)] { return MakeTrace(classes, companion, name); });
           },
           .MaakDossierControle = [&](std::string_view control) -> std::shared_ptr<host::DossierControle> {
+            session.Life()->Check();
             ComPtr<IDispatch> made = MakeCheck(classes, companion, control);
+            session.Life()->Check();
             if (!made) return std::make_shared<host::GeenDossierControle>();
             return session.Make<ControleAdapter>(
                 [&classes, &companion, name = std::string(control), first = std::move(made)]() mutable {

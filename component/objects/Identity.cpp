@@ -1,5 +1,7 @@
 #include "component/objects/Identity.h"
 
+#include <utility>
+
 #include "component/objects/Later.h"
 
 namespace brivane::component {
@@ -22,16 +24,24 @@ STDMETHODIMP Identity::InnerUnknown::QueryInterface(REFIID iid, void** out) {
 
 STDMETHODIMP_(ULONG) Identity::InnerUnknown::Release() {
   const ULONG left = --object_.count_;
-  if (left == 0 && object_.busy_ == 0) object_.Destroy();
+  if (left == 0) object_.Unreferenced();
   return left;
 }
 
-void Identity::Leave() {
-  // What has just been left may have callers that still use the object.
-  if (--busy_ == 0 && count_ == 0) {
-    count_ = kBeingDestroyed;
-    DoLater([this] { delete this; });
-  }
+void Identity::Unreferenced() {
+  if (busy_ == 0 && !IsAtWork()) return Destroy();
+  if (!std::exchange(abandoned_, true)) Abandoned();
+}
+
+void Identity::Rested() {
+  if (busy_ != 0 || count_ != 0) return;
+  // What has just ended may have callers that still use the object.
+  count_ = kBeingDestroyed;
+  DoLater([this] { delete this; });
+}
+
+void Identity::Return() {
+  if (--busy_ == 0 && count_ == 0 && !IsAtWork()) Destroy();
 }
 
 void Identity::Destroy() {

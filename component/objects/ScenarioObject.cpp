@@ -52,12 +52,12 @@ STDMETHODIMP ScenarioObject::put_SoortScenario(SHORT Soort) {
   return Doing([&] { ToSet().SetSoortScenario(Soort); });
 }
 
-STDMETHODIMP ScenarioObject::get_BackColor(LONG* Color) {
-  return Giving(Color, [&] { return form_->BackColor().value; });
+STDMETHODIMP ScenarioObject::get_BackColor(OLE_COLOR* Color) {
+  return Giving(Color, [&] { return OleColor(form_->BackColor()); });
 }
 
-STDMETHODIMP ScenarioObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { ToSet().SetBackColor({static_cast<std::int32_t>(New_Color)}); });
+STDMETHODIMP ScenarioObject::put_BackColor(OLE_COLOR New_Color) {
+  return Doing([&] { ToSet().SetBackColor(ColorOf(New_Color)); });
 }
 
 STDMETHODIMP ScenarioObject::Tonen(VARIANT Eigenaar) {

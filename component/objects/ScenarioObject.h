@@ -17,8 +17,8 @@ class ScenarioObject final : public CoObject<IfrmScenario> {
   STDMETHODIMP put_DisableJaar(SHORT Jr, VARIANT_BOOL NewValue) override;
   STDMETHODIMP get_SoortScenario(SHORT* Soort) override;
   STDMETHODIMP put_SoortScenario(SHORT Soort) override;
-  STDMETHODIMP get_BackColor(LONG* Color) override;
-  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override;
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override;
   STDMETHODIMP Tonen(VARIANT Eigenaar) override;
 
  private:

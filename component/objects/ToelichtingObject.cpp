@@ -20,11 +20,12 @@ ToelichtingObject::ToelichtingObject(IUnknown* outer)
       control_(std::make_unique<brivane::Toelichting>(*surface_, TheToolkit().Desktop(), Factories())),
       events_(Controlling(), DIID_DToelichtingEvents),
       part_({Controlling(), OwnClass(), L"Brivane toelichting", [this] { return control_->BackColor(); },
-             [this](host::Color color) { control_->SetBackColor(color); }, [this] { Session().LetGo(); }},
+             [this](host::Color color) { control_->SetBackColor(color); }, [this] { LetGo(); }},
             TheToolkit(), *surface_),
-      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+      points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   changed_ = control_->Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) events_.Raise(kChanged);
+    CheckGoingOn();
   });
 }
 
@@ -37,31 +38,32 @@ IUnknown* ToelichtingObject::Find(REFIID iid) {
 }
 
 STDMETHODIMP ToelichtingObject::SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) {
-  return Binding(Application, [&] {
+  return Binding(binding_, *surface_, Application, [&] {
     std::shared_ptr<host::Application> application = Session().Adapt<ApplicationAdapter>(Application);
     std::shared_ptr<host::Lening> lening = Session().Adapt<LeningAdapter>(Lening);
     control_->SetApplication(application, lening, Vrij_Id);
   });
 }
 
+void ToelichtingObject::LetGo() {
+  binding_.Unbind([this] { control_->Unbind(); });
+  Session().LetGo();
+}
+
 STDMETHODIMP ToelichtingObject::Validation(VARIANT* Cancel, LONG ControleNr) {
-  if (!Cancel) return E_POINTER;
-  return Doing([&] {
-    const bool before = As<bool>(*Cancel);
-    bool cancel = before;
-    // What is being typed is handed over first; refused there is refused here.
-    if (!cancel && !TheToolkit().CommitPending(*surface_)) cancel = true;
-    control_->Validation(cancel, ControleNr);
-    StoreCancel(Cancel, before, cancel);
-  });
+  return Validating(binding_, *surface_, Cancel, [&](bool& cancel) { control_->Validation(cancel, ControleNr); });
 }
 
-STDMETHODIMP ToelichtingObject::get_BackColor(LONG* Color) {
-  return Giving(Color, [&] { return control_->BackColor().value; });
+STDMETHODIMP ToelichtingObject::get_Toestand(Bindingstoestand* Toestand) {
+  return Giving(Toestand, [&] { return ToestandOf(binding_); });
 }
 
-STDMETHODIMP ToelichtingObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
+STDMETHODIMP ToelichtingObject::get_BackColor(OLE_COLOR* Color) {
+  return Giving(Color, [&] { return OleColor(control_->BackColor()); });
+}
+
+STDMETHODIMP ToelichtingObject::put_BackColor(OLE_COLOR New_Color) {
+  return Doing([&] { part_.Control().PutBackColor(ColorOf(New_Color)); });
 }
 
 STDMETHODIMP ToelichtingObject::get_ProcedureTraceKlasse(BSTR* ProgID) {

@@ -3,6 +3,7 @@
 #include "component/objects/CoObject.h"
 #include "component/objects/ConnectionPoint.h"
 #include "component/objects/ControlPart.h"
+#include "controls/Binding.h"
 #include "toelichting/Toelichting.h"
 
 namespace brivane::component {
@@ -15,16 +16,19 @@ class ToelichtingObject final : public CoObject<IToelichting> {
 
   STDMETHODIMP SetApplication(IDispatch* Application, IDispatch* Lening, SHORT Vrij_Id) override;
   STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override;
-  STDMETHODIMP get_BackColor(LONG* Color) override;
-  STDMETHODIMP put_BackColor(LONG New_Color) override;
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override;
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override;
   STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override;
   STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override;
+  STDMETHODIMP get_Toestand(Bindingstoestand* Toestand) override;
 
  private:
   IUnknown* Find(REFIID iid) override;
+  void LetGo();
   controls::Surface& Shown() override { return controls::Surface::Of(*surface_); }
 
   std::unique_ptr<host::Surface> surface_;
+  controls::Binding binding_{*surface_};
   std::unique_ptr<brivane::Toelichting> control_;
   ConnectionPoint events_;
   ControlPart part_;

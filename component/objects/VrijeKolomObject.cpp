@@ -5,6 +5,7 @@
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/CaseAdapter.h"
 #include "component/automation/Text.h"
+#include "frame/Handle.h"
 #include "vrijekolom/Ontwerp.h"
 
 namespace brivane::component {
@@ -24,7 +25,14 @@ VARIANT_BOOL Truth(bool value) { return value ? VARIANT_TRUE : VARIANT_FALSE; }
 class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
  public:
   explicit Embedded(VrijeKolomObject& owner)
-      : owner_(owner), events_(Known(), DIID_DToelichtingEvents), points_(Known(), {&events_}) {}
+      : owner_(owner),
+        events_(Known(), DIID_DToelichtingEvents),
+        properties_(Known()),
+        points_(Known(), {&events_, &properties_.Point()}) {
+    // The editor's colour comes here too.
+    colored_ = frame::Controls(*owner.surface_)[vrijekolom::ToelichtingVlak].BackColorSet.Connect(
+        [this](host::Color) { properties_.HasChanged(DISPID_BACKCOLOR); });
+  }
   virtual ~Embedded() = default;
 
   /// The adviser changed something.
@@ -48,21 +56,20 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
     });
   }
   STDMETHODIMP Validation(VARIANT* Cancel, LONG ControleNr) override {
-    if (!Cancel) return E_POINTER;
+    return owner_.Validating(owner_.binding_, *owner_.surface_, Cancel,
+                             [&](bool& cancel) { Control().Validation(cancel, ControleNr); });
+  }
+  STDMETHODIMP get_BackColor(OLE_COLOR* Color) override {
+    return owner_.Giving(Color, [&] { return OleColor(Control().BackColor()); });
+  }
+  STDMETHODIMP put_BackColor(OLE_COLOR New_Color) override {
     return owner_.Doing([&] {
-      const bool before = As<bool>(*Cancel);
-      bool cancel = before;
-      if (!cancel && !owner_.TheToolkit().CommitPending(*owner_.surface_)) cancel = true;
-      Control().Validation(cancel, ControleNr);
-      StoreCancel(Cancel, before, cancel);
+      if (!properties_.MayChange(DISPID_BACKCOLOR)) throw SetNotPermitted();
+      Control().SetBackColor(ColorOf(New_Color));
     });
   }
-  STDMETHODIMP get_BackColor(LONG* Color) override {
-    return owner_.Giving(Color, [&] { return Control().BackColor().value; });
-  }
-  STDMETHODIMP put_BackColor(LONG New_Color) override {
-    return owner_.Doing([&] { Control().SetBackColor({static_cast<std::int32_t>(New_Color)}); });
-  }
+  // It is bound with the editor.
+  STDMETHODIMP get_Toestand(Bindingstoestand* Toestand) override { return owner_.get_Toestand(Toestand); }
   // The embedded control's tracer is of the editor's class.
   STDMETHODIMP get_ProcedureTraceKlasse(BSTR* ProgID) override { return owner_.get_ProcedureTraceKlasse(ProgID); }
   STDMETHODIMP put_ProcedureTraceKlasse(BSTR ProgID) override { return owner_.put_ProcedureTraceKlasse(ProgID); }
@@ -73,7 +80,9 @@ class VrijeKolomObject::Embedded final : public Dispatching<IToelichting> {
 
   VrijeKolomObject& owner_;
   ConnectionPoint events_;
+  PropertyChanges properties_;
   ConnectionPoints points_;
+  host::Subscription colored_;
 };
 
 VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
@@ -83,19 +92,23 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
       toelichting_(std::make_unique<Embedded>(*this)),
       events_(Controlling(), DIID_DVrijeKolomEvents),
       part_({Controlling(), OwnClass(), L"Brivane vrije kolom", [this] { return editor_->BackColor(); },
-             [this](host::Color color) { editor_->SetBackColor(color); }, [this] { Session().LetGo(); }},
+             [this](host::Color color) { editor_->SetBackColor(color); }, [this] { LetGo(); }},
             TheToolkit(), *surface_),
-      points_(Controlling(), {&events_, &part_.PropertyChanges()}) {
+      points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
+    CheckGoingOn();
   });
   subscriptions_ += editor_->HeightChanged.Connect([this] {
     part_.Control().SizeChanged();
+    CheckGoingOn();
     if (!part_.Control().EventsFrozen()) events_.Raise(kHeightChanged);
+    CheckGoingOn();
   });
   subscriptions_ += editor_->ScenarioGeopend.Connect([this](const brivane::frmScenario& form) { Opening(form); });
   subscriptions_ += editor_->Toelichting().Changed.Connect([this] {
     if (!part_.Control().EventsFrozen()) toelichting_->Changed();
+    CheckGoingOn();
   });
 }
 
@@ -108,28 +121,29 @@ IUnknown* VrijeKolomObject::Find(REFIID iid) {
 }
 
 STDMETHODIMP VrijeKolomObject::SetApplication(IDispatch* Application, SHORT Len_Id, SHORT Vrij_Id) {
-  return Binding(Application,
+  return Binding(binding_, *surface_, Application,
                  [&] { editor_->SetApplication(Session().Adapt<ApplicationAdapter>(Application), Len_Id, Vrij_Id); });
 }
 
+void VrijeKolomObject::LetGo() {
+  binding_.Unbind([this] { editor_->Unbind(); });
+  Session().LetGo();
+}
+
+STDMETHODIMP VrijeKolomObject::get_Toestand(Bindingstoestand* Toestand) {
+  return Giving(Toestand, [&] { return ToestandOf(binding_); });
+}
+
 STDMETHODIMP VrijeKolomObject::Validation(VARIANT* Cancel, LONG ControleNr) {
-  if (!Cancel) return E_POINTER;
-  return Doing([&] {
-    const bool before = As<bool>(*Cancel);
-    bool cancel = before;
-    // What is being typed is handed over first; refused there is refused here.
-    if (!cancel && !TheToolkit().CommitPending(*surface_)) cancel = true;
-    editor_->Validation(cancel, ControleNr);
-    StoreCancel(Cancel, before, cancel);
-  });
+  return Validating(binding_, *surface_, Cancel, [&](bool& cancel) { editor_->Validation(cancel, ControleNr); });
 }
 
-STDMETHODIMP VrijeKolomObject::get_BackColor(LONG* Color) {
-  return Giving(Color, [&] { return editor_->BackColor().value; });
+STDMETHODIMP VrijeKolomObject::get_BackColor(OLE_COLOR* Color) {
+  return Giving(Color, [&] { return OleColor(editor_->BackColor()); });
 }
 
-STDMETHODIMP VrijeKolomObject::put_BackColor(LONG New_Color) {
-  return Doing([&] { part_.Control().PutBackColor({static_cast<std::int32_t>(New_Color)}); });
+STDMETHODIMP VrijeKolomObject::put_BackColor(OLE_COLOR New_Color) {
+  return Doing([&] { part_.Control().PutBackColor(ColorOf(New_Color)); });
 }
 
 STDMETHODIMP VrijeKolomObject::get_BeeindigenZichtbaar(VARIANT_BOOL* Zichtbaar) {

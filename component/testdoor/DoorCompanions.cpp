@@ -32,6 +32,7 @@ class DoorCompanion final : public Companion, public ITestDoorHolder {
   ComPtr<IDispatch> CheckFor(std::string_view control) override {
     return hooks_.MadeByCallback(L"MakeDossierControle", control);
   }
+  bool ActsBehindTheVeil() const override { return true; }
   void Opening(const brivane::frmScenario& form) override { hooks_.Opening(form); }
 
   BRIVANE_IDENTITY()
@@ -91,11 +92,10 @@ class WithDoors final : public Companions {
   }
 };
 
+WithDoors doors_;
+
 }  // namespace
 
-Companions& DoorCompanions() {
-  static WithDoors doors;
-  return doors;
-}
+Companions& DoorCompanions() { return doors_; }
 
 }  // namespace brivane::component

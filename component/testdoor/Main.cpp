@@ -9,7 +9,6 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
   if (reason == DLL_PROCESS_ATTACH) {
     component::module::Attach(instance);
     component::Companions::Use(component::DoorCompanions());
-    DisableThreadLibraryCalls(instance);
   }
   return TRUE;
 }

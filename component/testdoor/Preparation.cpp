@@ -14,10 +14,9 @@ struct Ready {
   ComPtr<IDispatch> callback;
 };
 
-Ready& Prepared() {
-  static Ready ready;
-  return ready;
-}
+Ready ready_;
+
+Ready& Prepared() { return ready_; }
 
 class ClassDoor final : public DualObject<ITestDoor> {
  public:

@@ -6,6 +6,28 @@
 
 namespace brivane::component {
 
+namespace {
+
+/// While it exists, a surface that stands for nothing can be acted on all the same: what the controls do is tested
+/// here, also after a binding that failed.
+class Unveiled {
+ public:
+  explicit Unveiled(controls::Surface& surface) : surface_(surface), veiled_(surface.IsVeiled()) {
+    if (veiled_) surface_.SetVeiled(false);
+  }
+  Unveiled(const Unveiled&) = delete;
+  Unveiled& operator=(const Unveiled&) = delete;
+  ~Unveiled() {
+    if (veiled_) surface_.SetVeiled(true);
+  }
+
+ private:
+  controls::Surface& surface_;
+  bool veiled_;
+};
+
+}  // namespace
+
 class LentDoor::Impl final : public DualObject<ITestDoor> {
  public:
   Impl(ComPtr<IUnknown> object, controls::Surface& surface, Hooks& hooks, DoorAspects aspects)
@@ -16,6 +38,7 @@ class LentDoor::Impl final : public DualObject<ITestDoor> {
   STDMETHODIMP Perform(BSTR element, BSTR action, VARIANT value, SHORT* outcome) override {
     return OnSurface([&](controls::Surface& surface) {
       controls::AnyControl& control = Named(surface, FromBstr(element));
+      const Unveiled unveiled(surface);
       *outcome = static_cast<SHORT>(control.Perform(ActionOf(FromBstr(action), value, control)));
     });
   }
@@ -26,6 +49,7 @@ class LentDoor::Impl final : public DualObject<ITestDoor> {
       if (name.empty()) {
         if (std::optional<Variant> own = aspects_(asked)) return own->MoveTo(value);
       }
+      const Unveiled unveiled(surface);
       AspectOf(Named(surface, name), asked).MoveTo(value);
     });
   }

@@ -110,10 +110,13 @@ bool PendingEdit::Commit() {
   const Outcome outcome = toolkit_->Hand(*box_, Enter{std::move(content.value)});
   if (life.expired()) return true;
   committing_ = false;
-  if (outcome == Outcome::Refused) return Refuse({});
-  if (failures.Seen()) {
-    box_->MarkEdited();
-    return Refuse(kNotStored);
+  // Where what was going on was abandoned, nobody is told anything.
+  if (!toolkit_->Life()->Ended()) {
+    if (outcome == Outcome::Refused) return Refuse({});
+    if (failures.Seen()) {
+      box_->MarkEdited();
+      return Refuse(kNotStored);
+    }
   }
   ShowContent();
   return true;

@@ -2,8 +2,7 @@
 
 namespace brivane::controls {
 
-void Life::End(std::shared_ptr<void> remains) {
-  if (std::exchange(ended_, true)) return;
+void Life::CloseAll() {
   while (!open_.empty()) {
     AtEnd& last = *open_.back();
     open_.pop_back();
@@ -11,6 +10,16 @@ void Life::End(std::shared_ptr<void> remains) {
     const std::function<void()> close = std::move(last.close_);
     close();
   }
+}
+
+void Life::Abandon() {
+  if (Running()) ++turn_;
+  CloseAll();
+}
+
+void Life::End(std::shared_ptr<void> remains) {
+  if (std::exchange(ended_, true)) return;
+  CloseAll();
   if (Running())
     remains_ = std::move(remains);
   else
@@ -18,7 +27,9 @@ void Life::End(std::shared_ptr<void> remains) {
 }
 
 Life::Call::~Call() {
-  if (--life_->calls_ != 0 || !life_->remains_) return;
+  const bool outermost = --life_->calls_ == 0;
+  life_->running_ = outermost ? life_->turn_ : around_;
+  if (!outermost || !life_->remains_) return;
   std::shared_ptr<void> remains = std::move(life_->remains_);
   if (life_->bury) life_->bury(std::move(remains));
 }

@@ -23,6 +23,9 @@ struct Abandoned final {};
 ///     box.exec();
 ///     life->Check();                   // abandons the procedure that asked
 ///
+/// A control that lives on, and may be used again, abandons what is going on in the same way: what was running when
+/// the host said so is abandoned, and what begins after that runs.
+///
 /// It belongs to one thread.
 class Life {
  public:
@@ -31,18 +34,22 @@ class Life {
   Life& operator=(const Life&) = delete;
   ~Life() = default;
 
-  [[nodiscard]] bool Ended() const { return ended_; }
+  /// For whoever asks: the life is over, or what he stands in was abandoned.
+  [[nodiscard]] bool Ended() const { return ended_ || running_ != turn_; }
   /// Something of the control is on the stack.
   [[nodiscard]] bool Running() const { return calls_ != 0; }
-  /// Fails with Abandoned once it has ended. For what the control's procedures call, after anything in which the host
-  /// could have had its turn; never where an exception would go through code that is not ours.
+  /// Fails with Abandoned once it has ended, for who asks. For what the control's procedures call, after anything in
+  /// which the host could have had its turn; never where an exception would go through code that is not ours.
   void Check() const {
-    if (ended_) throw Abandoned{};
+    if (Ended()) throw Abandoned{};
   }
 
   /// The host lets go, once. `remains` is what the control ran on: it goes when nothing runs on it any more, which may
   /// be before this returns. Who calls this holds the life.
   void End(std::shared_ptr<void> remains);
+
+  /// What stands open closes, and what runs is abandoned. Nothing where nothing does.
+  void Abandon();
 
   /// Puts the remains away after a call, where they may not go at once: callers that are not ours may still stand in
   /// them.
@@ -51,17 +58,21 @@ class Life {
   /// Something of the control is running, and what it runs on stays.
   class [[nodiscard]] Call {
    public:
-    explicit Call(std::shared_ptr<Life> life) : life_(std::move(life)) { ++life_->calls_; }
+    explicit Call(std::shared_ptr<Life> life)
+        : life_(std::move(life)), around_(std::exchange(life_->running_, life_->turn_)) {
+      ++life_->calls_;
+    }
     Call(const Call&) = delete;
     Call& operator=(const Call&) = delete;
     ~Call();
 
    private:
     std::shared_ptr<Life> life_;
+    unsigned around_;  ///< the turn of what called
   };
 
-  /// While it stands, the end of the life does this too: of several the last one made first. It must not fail, and is
-  /// never asked twice.
+  /// While it stands, the end of the life or of what is running does this too: of several the last one made first. It
+  /// must not fail, and is never asked twice.
   class [[nodiscard]] AtEnd {
    public:
     AtEnd(Life& life, std::function<void()> close) : life_(life), close_(std::move(close)) {
@@ -92,9 +103,13 @@ class Life {
   }
 
  private:
+  void CloseAll();
+
   std::shared_ptr<void> remains_;
   std::vector<AtEnd*> open_;
   int calls_ = 0;
+  unsigned turn_ = 0;     ///< counts the times that what ran was abandoned
+  unsigned running_ = 0;  ///< the turn in which the innermost call began
   bool ended_ = false;
 };
 

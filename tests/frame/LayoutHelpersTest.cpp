@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "frame/Graphemes.h"
 #include "frame/Handle.h"
 #include "frame/LayoutHelpers.h"
 #include "host/Error.h"
@@ -201,6 +202,41 @@ TEST(FitText, WhenMeasuringFailsTheTextStandsAsItIsAndTheWeightIsRestored) {
   EXPECT_FALSE(ruler.bold);
   ruler.calls = 4;  // the text, the ellipsis and two lengths of the text are measured
   EXPECT_EQ(FitText(&ruler, "Krantje", {400}), "Krant");
+}
+
+/// A surface on which characters join: every seventh byte makes what stands before it a little narrower.
+class JoiningRuler final : public host::DrawingSurface {
+ public:
+  [[nodiscard]] bool FontBold() const override { return false; }
+  void SetFontBold(bool) override {}
+  [[nodiscard]] host::Twips TextWidth(std::string_view text) const override {
+    ++measured;
+    const auto length = static_cast<float>(text.size());
+    return {length * 100 - (text.size() % 7 == 0 ? 250.0F : 0.0F)};
+  }
+  mutable int measured = 0;
+};
+
+/// As the rule is told: the last character goes until the rest fits.
+std::string ShortenedOneByOne(const host::DrawingSurface& surface, std::string text, host::Twips width) {
+  if (surface.TextWidth(text) <= width) return text;
+  const host::Twips ellipsis = surface.TextWidth("...");
+  while (!text.empty() && surface.TextWidth(text) + ellipsis > width) text.resize(LastGraphemeStart(text));
+  return text + "...";
+}
+
+TEST(FitText, ALongTextIsShortenedToTheSameWithoutMeasuringItForEachOfItsCharacters) {
+  const std::string_view parts[] = {"a",    "\u00E9", "e\u0308", "\U0001F1F3\U0001F1F1", "\U0001F469\u200D\U0001F469",
+                                    "\x80", "w"};
+  std::string text;
+  for (std::size_t i = 0; text.size() < 3000; ++i) text += parts[i * i % 7];
+  for (int width = 0; width < 320000; width += 1234) {
+    JoiningRuler ruler;
+    const std::string expected = ShortenedOneByOne(ruler, text, {static_cast<float>(width)});
+    ruler.measured = 0;
+    EXPECT_EQ(FitText(&ruler, text, {static_cast<float>(width)}), expected) << width;
+    EXPECT_LT(ruler.measured, 150) << width;
+  }
 }
 
 TEST(SmallerAndLarger, GiveTheSecondWhenEqual) {

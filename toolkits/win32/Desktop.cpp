@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <mutex>
+#include <string_view>
 #include <utility>
 
 #include "frame/Calendar.h"
@@ -34,6 +35,12 @@ class BoxHooks {
     *place = around_;
   }
 
+  /// Takes the box off the screen, as if somebody had said no.
+  void Close() {
+    closed_ = true;
+    if (box_ != nullptr) EndDialog(box_, IDNO);
+  }
+
  private:
   static std::chrono::milliseconds Milliseconds(DWORD time) { return std::chrono::milliseconds(time); }
 
@@ -52,8 +59,11 @@ class BoxHooks {
         SetDlgItemTextW(box, IDYES, L"&Ja");
         SetDlgItemTextW(box, IDNO, L"&Nee");
       }
-      // Only from when it has the keyboard does a pause say that somebody has seen it.
-      if (BoxHooks* const hooks = Current()) hooks->underWay_ = {hooks->pause_, Milliseconds(GetTickCount())};
+      if (BoxHooks* const hooks = Current(); hooks != nullptr && hooks->IsBox(box)) {
+        // Only from when it has the keyboard does a pause say that somebody has seen it.
+        hooks->underWay_ = {hooks->pause_, Milliseconds(GetTickCount())};
+        if (hooks->closed_) PostMessageW(box, WM_COMMAND, IDNO, 0);
+      }
     }
     return CallNextHookEx(nullptr, code, window, info);
   }
@@ -62,6 +72,15 @@ class BoxHooks {
     const auto& message = *reinterpret_cast<const MSG*>(info);
     BoxHooks* const hooks = code == MSGF_DIALOGBOX ? Current() : nullptr;
     return hooks != nullptr && hooks->Takes(message) ? 1 : CallNextHookEx(nullptr, code, unused, info);
+  }
+
+  /// The first dialog that comes up is the box.
+  bool IsBox(HWND window) {
+    constexpr int kMost = 8;
+    wchar_t name[kMost] = {};
+    if (box_ == nullptr && GetClassNameW(window, name, kMost) != 0 && std::wstring_view(name) == L"#32770")
+      box_ = window;
+    return window == box_;
   }
 
   /// Whether a message goes no further.
@@ -92,6 +111,8 @@ class BoxHooks {
   DWORD thread_ = GetCurrentThreadId();
   std::chrono::milliseconds pause_;
   controls::KeysUnderWay underWay_;
+  HWND box_ = nullptr;
+  bool closed_ = false;
   BoxHooks* around_ = nullptr;
 
   using Hook = Owned<HHOOK, &UnhookWindowsHookEx>;
@@ -121,22 +142,30 @@ std::string Desktop::ApplicationTitle() const { return title.empty() ? Narrow(Pr
 
 host::MessageAnswer Desktop::MessageBox(const std::string& caption, const std::string& text, host::MessageStyle style) {
   const bool question = style == host::MessageStyle::YesNoQuestion;
+  life_->Check();
   const std::string below = question && details && !answer ? details(caption, text) : "";
+  life_->Check();
   const host::MessageAnswer given = Ask(caption, below.empty() ? text : text + "\r\n\r\n" + below, style);
+  life_->Check();
   if (answered) answered(given);
   return given;
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
   if (answer) return answer(caption, text, style);
-  const BoxHooks hooks(pause);
+  const std::shared_ptr<controls::Life> life = life_;
+  const ModalTime modalTime(*this);
+  BoxHooks hooks(pause);
+  const controls::Life::AtEnd close(*life, [&hooks] { hooks.Close(); });
   // The styles are the numbers of Windows. The second button of a question is "Nee".
   const UINT standard = style == host::MessageStyle::YesNoQuestion ? MB_DEFBUTTON2 : MB_DEFBUTTON1;
   const int button = MessageBoxW(GetActiveWindow(), Wide(text).c_str(), Wide(caption).c_str(),
                                  static_cast<UINT>(style) | standard | MB_TASKMODAL);
   switch (button) {
     case IDYES: return host::MessageAnswer::Yes;
-    case IDNO: return host::MessageAnswer::No;
+    case IDNO:
+      if (style == host::MessageStyle::YesNoQuestion) return host::MessageAnswer::No;
+      [[fallthrough]];
     default: return host::MessageAnswer::Ok;
   }
 }
@@ -151,12 +180,15 @@ host::Date Desktop::Today() const {
 }
 
 void Desktop::DoPendingEvents() {
+  life_->Check();
   if (pending) pending();
+  life_->Check();
   MSG message{};
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
     if (message.message == WM_QUIT) return PostQuitMessage(static_cast<int>(message.wParam));
     TranslateMessage(&message);
     DispatchMessageW(&message);
+    life_->Check();
   }
 }
 

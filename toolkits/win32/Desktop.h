@@ -4,11 +4,14 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "controls/Pixels.h"
 #include "controls/entry/KeysUnderWay.h"
+#include "controls/life/Life.h"
 #include "host/controls/Desktop.h"
 
 namespace brivane::win32 {
@@ -18,8 +21,14 @@ namespace brivane::win32 {
 ///
 /// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
 /// counts only after a pause in the typing.
+///
+/// A box that is up when the life of the controls ends, or when what they were doing is abandoned, goes without an
+/// answer, and whoever asked is abandoned.
 class Desktop final : public host::Desktop {
  public:
+  Desktop() = default;
+  explicit Desktop(std::shared_ptr<controls::Life> life) : life_(std::move(life)) {}
+
   /// Answers today's date instead of the clock, when set.
   std::function<host::Date()> clock;
   /// Answers a message box instead of a person, when set.
@@ -37,6 +46,8 @@ class Desktop final : public host::Desktop {
   float twipsPerPixelX = static_cast<float>(controls::kTwipsPerPixel);
   float twipsPerPixelY = static_cast<float>(controls::kTwipsPerPixel);
 
+  /// Told that a form or a message box comes up, and that it has gone.
+  std::function<void(bool up)> modal;
   /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
   std::function<std::string(const std::string& title, const std::string& text)> details;
   /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
@@ -54,6 +65,25 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] host::Date Today() const override;
   void DoPendingEvents() override;
   [[nodiscard]] std::string FormatWhole(double number) const override;
+
+ private:
+  std::shared_ptr<controls::Life> life_ = std::make_shared<controls::Life>();
+};
+
+/// While it exists, a form or a message box is up.
+class ModalTime {
+ public:
+  explicit ModalTime(const Desktop& desktop) : told_(desktop.modal) {
+    if (told_) told_(true);
+  }
+  ModalTime(const ModalTime&) = delete;
+  ModalTime& operator=(const ModalTime&) = delete;
+  ~ModalTime() {
+    if (told_) told_(false);
+  }
+
+ private:
+  std::function<void(bool up)> told_;
 };
 
 }  // namespace brivane::win32

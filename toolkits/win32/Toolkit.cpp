@@ -131,7 +131,7 @@ bool Toolkit::CommitPending(host::Surface& surface) {
   return Pending().Commit(controls::Surface::Of(surface));
 }
 
-void Toolkit::Leave(host::Surface& surface) {
+void Toolkit::LeavePending(host::Surface& surface) {
   if (ComboWindow* const list = ComboWindow::UnderWayOn(controls::Surface::Of(surface))) list->HandOver();
   Pending().Leave(controls::Surface::Of(surface));
 }

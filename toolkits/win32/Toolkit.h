@@ -75,8 +75,8 @@ class Toolkit : public controls::DrawnToolkit {
   /// Hands over what is being typed on this surface or the choice that is under way, if anything; false where it was
   /// refused and keeps the focus. A host calls it before it leaves the record, saves or closes.
   bool CommitPending(host::Surface& surface);
-  /// The same where the host leaves whatever becomes of it: what does not pass is dropped, and nothing is asked.
-  void Leave(host::Surface& surface);
+  /// Hands over what passes, and puts back the rest: nobody is asked anything. Before the host lets go.
+  void LeavePending(host::Surface& surface);
 
   /// The scale of what is made later: 1 at 96 dots per inch. At first that of the system.
   void SetScale(double scale) { edge_ = win32::Edge(scale); }
@@ -98,7 +98,7 @@ class Toolkit : public controls::DrawnToolkit {
   class Look;
 
   HINSTANCE module_;
-  win32::Desktop desktop_;
+  win32::Desktop desktop_{Life()};
   win32::Edge edge_;
   mutable Fonts fonts_;
   std::unique_ptr<Look> look_;

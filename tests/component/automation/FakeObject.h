@@ -25,6 +25,7 @@ class FakeObject final : public IDispatch {
 
   [[nodiscard]] static ComPtr<FakeObject> Make() { return ComPtr<FakeObject>::Attach(new FakeObject); }
   static inline int alive = 0;
+  static inline int reached = 0;  ///< the members of any of them, and the names that were looked up
 
   std::map<std::wstring, Member> members;
   std::vector<Access> accesses;
@@ -57,6 +58,7 @@ class FakeObject final : public IDispatch {
   STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override {
     ++lookups;
+    ++reached;
     DISPID id = 1;
     for (const auto& [name, member] : members) {
       if (name == names[0]) {
@@ -69,6 +71,7 @@ class FakeObject final : public IDispatch {
   }
   STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* info,
                       UINT*) override {
+    ++reached;
     if (raw) raw(*arguments);
     if (failure) {
       const HRESULT failed = failure(*info);

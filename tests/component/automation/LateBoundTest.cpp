@@ -110,5 +110,52 @@ TEST(LateBoundTest, AnObjectGivenByReferenceComesBackReplaced) {
   EXPECT_EQ(argument.Get(), second.Get());
 }
 
+/// An object of a script, which is told who calls. Its one member fails as the engine of a script does it: where the
+/// caller sees to failures it gets the failure, else the script's site does and the caller learns that it did.
+class ScriptObject final : public IDispatchEx {
+ public:
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    const bool known = iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(IDispatchEx);
+    *out = known ? this : nullptr;
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+  STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+    return E_NOTIMPL;
+  }
+  STDMETHODIMP GetDispID(BSTR, DWORD, DISPID* id) override {
+    *id = 1;
+    return S_OK;
+  }
+  STDMETHODIMP InvokeEx(DISPID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO* info, IServiceProvider* caller) override {
+    constexpr HRESULT kReported = static_cast<HRESULT>(0x80020101);
+    info->scode = static_cast<SCODE>(0x800A0000 + 1234);
+    ComPtr<ICanHandleException> sees;
+    const bool told =
+        caller && SUCCEEDED(caller->QueryService(__uuidof(ICanHandleException), IID_PPV_ARGS(sees.Put())));
+    return told && sees->CanHandleException(info, nullptr) == S_OK ? DISP_E_EXCEPTION : kReported;
+  }
+  STDMETHODIMP DeleteMemberByName(BSTR, DWORD) override { return E_NOTIMPL; }
+  STDMETHODIMP DeleteMemberByDispID(DISPID) override { return E_NOTIMPL; }
+  STDMETHODIMP GetMemberProperties(DISPID, DWORD, DWORD*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetMemberName(DISPID, BSTR*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetNextDispID(DWORD, DISPID, DISPID*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetNameSpaceParent(IUnknown**) override { return E_NOTIMPL; }
+};
+
+TEST(LateBoundTest, AScriptIsToldThatItsFailuresComeBackToTheCaller) {
+  ScriptObject object;
+  try {
+    (void)LateBound(ComPtr<IDispatch>(&object)).Get(L"Termijn");
+    FAIL() << "it must fail";
+  } catch (const host::Error& error) {
+    EXPECT_EQ(error.Number(), 1234);
+  }
+}
+
 }  // namespace
 }  // namespace brivane::component

@@ -221,9 +221,9 @@ TEST_F(EditorTest, AColourOfTheHostsIsKeptWithTheForm) {
   EXPECT_EQ(editor->put_BackColor(0x00FF0000), S_OK);
   stream->Seek({}, STREAM_SEEK_SET, nullptr);
   EXPECT_EQ(state->Load(stream.Get()), S_OK);
-  LONG color = 0;
+  OLE_COLOR color = 0;
   EXPECT_EQ(editor->get_BackColor(&color), S_OK);
-  EXPECT_EQ(color, 0x00C8FFC8);
+  EXPECT_EQ(color, 0x00C8FFC8U);
 }
 
 TEST_F(EditorTest, MayBeClosedByTheHostWhileItTellsAnEvent) {

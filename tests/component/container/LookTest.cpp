@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 #include "examples/windows/container/Host.h"
@@ -136,6 +137,59 @@ TEST_F(LookTest, DrawnByItsContainerItLooksToThePixelAsOnTheScreen) {
                                            nullptr, nullptr, 0),
             S_OK);
   ExpectSame(seen, drawn);
+}
+
+/// What a metafile holds: how many bytes, and which texts among them.
+struct Recorded {
+  std::vector<unsigned char> bytes;
+
+  [[nodiscard]] bool Holds(const std::string& text) const {
+    return std::search(bytes.begin(), bytes.end(), text.begin(), text.end()) != bytes.end();
+  }
+  [[nodiscard]] bool Holds(const std::wstring& text) const {
+    const auto* const first = reinterpret_cast<const unsigned char*>(text.data());
+    return std::search(bytes.begin(), bytes.end(), first, first + text.size() * sizeof(wchar_t)) != bytes.end();
+  }
+};
+
+TEST_F(LookTest, AMetafileKeepsItInLinesAndText) {
+  const auto editor = NewEditor(application_.Get());
+  const RECTL bounds{0, 0, kWidth, kHeight};
+  const auto draw = [&](HDC drawing) {
+    EXPECT_EQ(editor.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawing, &bounds,
+                                              nullptr, nullptr, 0),
+              S_OK);
+  };
+  Recorded recorded;
+  const HDC enhanced = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+  draw(enhanced);
+  const HENHMETAFILE file = ::CloseEnhMetaFile(enhanced);
+  recorded.bytes.resize(::GetEnhMetaFileBits(file, 0, nullptr));
+  ::GetEnhMetaFileBits(file, static_cast<UINT>(recorded.bytes.size()), recorded.bytes.data());
+  EXPECT_LT(recorded.bytes.size(), 100'000U);
+  for (const wchar_t* text : {L"Vereniging", L"Omschrijving", L"Correctie last", L"Nee"})
+    EXPECT_TRUE(recorded.Holds(std::wstring(text))) << text;
+  EXPECT_TRUE(recorded.Holds(std::wstring(L"Scenario invullen")));
+  EXPECT_FALSE(recorded.Holds(std::wstring(L"&Scenario invullen"))) << "the mark of a mnemonic";
+
+  // Played, it fills the place: in its upper left corner the colour of a form, with letters in black.
+  const Paper played;
+  const RECT whole{0, 0, kWidth, kHeight};
+  ::PlayEnhMetaFile(played.Drawing(), file, &whole);
+  const auto pixels = played.Pixels();
+  EXPECT_GT(std::count(pixels.begin(), pixels.end(), 0U), 1000);
+  if (::GetEnvironmentVariableW(L"BRIVANE_PICTURES", nullptr, 0) != 0) played.Write("metafile.ppm");
+  ::DeleteEnhMetaFile(file);
+
+  // The older kind, in which no text can be measured.
+  const HDC old = ::CreateMetaFileW(nullptr);
+  draw(old);
+  const HMETAFILE oldFile = ::CloseMetaFile(old);
+  recorded.bytes.resize(::GetMetaFileBitsEx(oldFile, 0, nullptr));
+  ::GetMetaFileBitsEx(oldFile, static_cast<UINT>(recorded.bytes.size()), recorded.bytes.data());
+  EXPECT_LT(recorded.bytes.size(), 100'000U);
+  EXPECT_TRUE(recorded.Holds(std::string("Vereniging")));
+  ::DeleteMetaFile(oldFile);
 }
 
 TEST_F(LookTest, LooksTheSameAfterTheFocusWentThroughIt) {

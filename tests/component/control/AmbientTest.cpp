@@ -67,13 +67,31 @@ TEST_F(AmbientTest, LetsTheMouseThroughWhileAFormIsDesigned) {
 
 TEST_F(AmbientTest, TellsItsListenersOfTheColourThatTheHostSets) {
   Insert();
+  dummy->changed.clear();
   dummy->Control().PutBackColor({0x0000FF});
   EXPECT_THAT(dummy->changed, ElementsAre(DISPID_BACKCOLOR));
+}
+
+TEST_F(AmbientTest, TellsItsListenersOfTheContainersColourToo) {
+  Insert();
+  dummy->changed.clear();
+  container.backColor = kSand;
+  Tell(DISPID_AMBIENT_BACKCOLOR);
+  EXPECT_THAT(dummy->changed, ElementsAre(DISPID_BACKCOLOR));
+  Tell(DISPID_AMBIENT_BACKCOLOR);
+  EXPECT_THAT(dummy->changed, ElementsAre(DISPID_BACKCOLOR)) << "it is the same colour";
+}
+
+TEST_F(AmbientTest, TakesAFontThatIsNoMoreThanAnObject) {
+  container.fontAs = VT_UNKNOWN;
+  Insert();
+  EXPECT_EQ(dummy->fontPoints, 11.25F);
 }
 
 TEST_F(AmbientTest, ColourStaysWhereAListenerDoesNotAgree) {
   Insert();
   dummy->agreesToChange = false;
+  dummy->changed.clear();
   try {
     dummy->Control().PutBackColor({0x0000FF});
     ADD_FAILURE() << "was set all the same";

@@ -54,6 +54,22 @@ TEST_F(ControlTest, ClosingAsksForSavingWhereSomethingChanged) {
   EXPECT_THAT(container.calls, IsEmpty());
 }
 
+TEST_F(ControlTest, ClosingAsksAPersonWhetherToSaveWhereTheContainerWantsThat) {
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 0) << "nothing changed";
+  dummy->Control().PutBackColor({0x0000FF});
+  dummy->wantsToKeep = false;
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 1);
+  EXPECT_THAT(container.calls, IsEmpty());
+  dummy->wantsToKeep = true;
+  container.Object().Close(OLECLOSE_PROMPTSAVE);
+  EXPECT_EQ(dummy->asked, 2);
+  EXPECT_THAT(container.calls, ElementsAre("SaveObject"));
+  container.Object().Close(OLECLOSE_SAVEIFDIRTY);
+  EXPECT_EQ(dummy->asked, 2);
+}
+
 TEST_F(ControlTest, TellsThoseWhoAskedThatItCloses) {
   DWORD cookie = 0;
   EXPECT_EQ(container.Object().Advise(&container, &cookie), S_OK);
@@ -67,6 +83,36 @@ TEST_F(ControlTest, CanBeActivatedAgainAfterItWasClosed) {
   container.Object().Close(OLECLOSE_NOSAVE);
   EXPECT_EQ(container.Do(OLEIVERB_UIACTIVATE), S_OK);
   EXPECT_EQ(::GetFocus(), dummy->first);
+}
+
+TEST_F(ControlTest, TellsTheFrameOfAFormOrAQuestionThatIsUp) {
+  Activate();
+  dummy->Control().Modal(true);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless no"));
+  dummy->Control().Modal(true);
+  dummy->Control().Modal(false);
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls,
+              ElementsAre("EnableModeless no", "EnableModeless no", "EnableModeless", "EnableModeless"));
+}
+
+TEST_F(ControlTest, TellsTheFrameThatItHasGoneAlsoWhereTheControlWasClosedMeanwhile) {
+  Activate();
+  dummy->Control().Modal(true);
+  container.Object().Close(OLECLOSE_NOSAVE);
+  EXPECT_EQ(dummy->abandoned, 1);
+  container.calls.clear();
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless"));
+  dummy->Control().Modal(true);
+  dummy->Control().Modal(false);
+  EXPECT_THAT(container.calls, ElementsAre("EnableModeless")) << "it stands in no frame";
+}
+
+TEST_F(ControlTest, WhatWasGoingOnEndsWithTheContainersWindow) {
+  Activate();
+  ::DestroyWindow(container.Window());
+  EXPECT_EQ(dummy->abandoned, 1);
 }
 
 TEST_F(ControlTest, OutlivesTheContainersWindow) {

@@ -139,8 +139,9 @@ STDMETHODIMP Container::Invoke(DISPID property, REFIID, LCID, WORD, DISPPARAMS*,
     description.lpstrName = name;
     description.cySize.int64 = static_cast<LONGLONG>(*fontPoints * 10000);
     description.sWeight = FW_NORMAL;
-    result->vt = VT_DISPATCH;
-    return ::OleCreateFontIndirect(&description, IID_IDispatch, reinterpret_cast<void**>(&result->pdispVal));
+    result->vt = fontAs;
+    const IID& asked = fontAs == VT_DISPATCH ? IID_IDispatch : IID_IUnknown;
+    return ::OleCreateFontIndirect(&description, asked, reinterpret_cast<void**>(&result->punkVal));
   }
   return DISP_E_MEMBERNOTFOUND;
 }

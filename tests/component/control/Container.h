@@ -53,6 +53,7 @@ class Container final : public IOleClientSite,
   bool takesKeys = false;     ///< answers TranslateAccelerator with S_OK
   std::optional<COLORREF> backColor;
   std::optional<float> fontPoints;
+  VARTYPE fontAs = VT_DISPATCH;
   std::optional<bool> userMode;
   std::function<void(const std::string&)> on;  ///< told of each call after it was written down
   std::vector<DWORD> modifiers;
@@ -90,7 +91,7 @@ class Container final : public IOleClientSite,
   STDMETHODIMP SetMenu(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
   STDMETHODIMP RemoveMenus(HMENU) override { return E_NOTIMPL; }
   STDMETHODIMP SetStatusText(LPCOLESTR) override { return E_NOTIMPL; }
-  STDMETHODIMP EnableModeless(BOOL) override { return S_OK; }
+  STDMETHODIMP EnableModeless(BOOL enable) override { return Note(enable ? "EnableModeless" : "EnableModeless no"); }
   STDMETHODIMP TranslateAccelerator(MSG*, WORD) override { return S_FALSE; }
 
   STDMETHODIMP OnControlInfoChanged() override { return S_OK; }

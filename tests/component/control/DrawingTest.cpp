@@ -81,6 +81,17 @@ TEST_F(DrawingTest, DrawsWhatWasTyped) {
   EXPECT_EQ(paper.Count({12, 52, 108, 72}, RGB(0, 0, 0)), 0);
 }
 
+TEST_F(DrawingTest, IsKeptInAMetafileAsWhatItIsDrawnWith) {
+  const HDC drawing = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+  const RECTL bounds{10, 20, 210, 120};
+  EXPECT_EQ(container.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, drawing, &bounds,
+                                               nullptr, nullptr, 0),
+            S_OK);
+  const HENHMETAFILE kept = ::CloseEnhMetaFile(drawing);
+  EXPECT_LT(::GetEnhMetaFileBits(kept, 0, nullptr), 1000U) << "a header and a rectangle";
+  ::DeleteEnhMetaFile(kept);
+}
+
 TEST_F(DrawingTest, IsStretchedOverTheRoomThatItGets) {
   dummy->SetBackColor(kMint);
   const Paper paper(500, 300);

@@ -34,6 +34,10 @@ class Dummy final : public IUnknown, public Subject {
   void SetWidth(host::Twips width) override;
   [[nodiscard]] host::Color BackColor() const override { return color_; }
   void SetBackColor(host::Color color) override;
+  void Sketch(HDC target, const RECT& bounds) override {
+    ::Rectangle(target, bounds.left, bounds.top, bounds.right, bounds.bottom);
+  }
+  void FollowBackColor(host::Color color) override { SetBackColor(color); }
   void FollowFont(float points) override { fontPoints = points; }
   [[nodiscard]] bool Navigate(const MSG& message) override;
   void Focus(TabEnd end) override { ::SetFocus(end == TabEnd::First ? first : second); }
@@ -44,7 +48,12 @@ class Dummy final : public IUnknown, public Subject {
   [[nodiscard]] std::wstring Mnemonics() const override { return L"ae"; }
   [[nodiscard]] bool MayChange(DISPID) override { return agreesToChange; }
   void HasChanged(DISPID property) override { changed.push_back(property); }
+  void Abandon() override { ++abandoned; }
   void LetGo() override { ++letGo; }
+  [[nodiscard]] bool WantsToKeep() override {
+    ++asked;
+    return wantsToKeep;
+  }
 
   /// The surface takes another height by itself.
   void Grow(host::Twips height);
@@ -58,6 +67,9 @@ class Dummy final : public IUnknown, public Subject {
   bool agreesToChange = true;
   std::vector<DISPID> changed;
   int letGo = 0;
+  int abandoned = 0;
+  int asked = 0;
+  bool wantsToKeep = true;
   int handedOver = 0;
   std::function<void()> onHandOver;
   /// What SetWidth fails with, when not null.

@@ -135,6 +135,68 @@ TEST_P(ContainedTest, AsksAndTellsThoseWhoListenToItsProperties) {
   EXPECT_EQ(point->Unadvise(cookie), S_OK);
 }
 
+/// A place in a container that tells the colour of its own background.
+class ColouredSite final : public IOleClientSite, public IDispatch {
+ public:
+  LONG color = 0;
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    *out = nullptr;
+    if (iid == IID_IUnknown || iid == IID_IOleClientSite) *out = static_cast<IOleClientSite*>(this);
+    if (iid == IID_IDispatch) *out = static_cast<IDispatch*>(this);
+    return *out ? S_OK : E_NOINTERFACE;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+  STDMETHODIMP SaveObject() override { return S_OK; }
+  STDMETHODIMP GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetContainer(IOleContainer**) override { return E_NOINTERFACE; }
+  STDMETHODIMP ShowObject() override { return S_OK; }
+  STDMETHODIMP OnShowWindow(BOOL) override { return S_OK; }
+  STDMETHODIMP RequestNewObjectLayout() override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+  STDMETHODIMP Invoke(DISPID property, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) override {
+    if (property != DISPID_AMBIENT_BACKCOLOR) return DISP_E_MEMBERNOTFOUND;
+    Variant(static_cast<std::int32_t>(color)).MoveTo(result);
+    return S_OK;
+  }
+};
+
+TEST_P(ContainedTest, EveryColourOfTheContainerReachesTheFrames) {
+  const auto control = New();
+  const auto door = DoorOf(control);
+  const auto frame = [&] {
+    const BSTR name = SysAllocString(*GetParam() == CLSID_VrijeKolom ? L"Toelichting.fraContent" : L"fraContent");
+    const BSTR aspect = SysAllocString(L"backcolor");
+    Variant value;
+    EXPECT_EQ(door->Read(name, aspect, value.Put()), S_OK);
+    SysFreeString(name);
+    SysFreeString(aspect);
+    return As<std::int32_t>(value);
+  };
+  ColouredSite site;
+  const auto tell = [&](LONG color) {
+    site.color = color;
+    EXPECT_EQ(control.As<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_BACKCOLOR), S_OK);
+  };
+  site.color = 0x00C8FFC8;
+  EXPECT_EQ(control.As<IOleObject>()->SetClientSite(&site), S_OK);
+  EXPECT_EQ(frame(), 0x00C8FFC8);
+  tell(0x00A0D8F0);
+  EXPECT_EQ(Color(control), 0x00A0D8F0);
+  EXPECT_EQ(frame(), 0x00A0D8F0);
+  tell(-2147483633);  // the designed one, which is the system's
+  EXPECT_EQ(frame(), -2147483633);
+  tell(0x00C8FFC8);
+  EXPECT_EQ(frame(), 0x00C8FFC8);
+  // The first one of the host comes in place of the container's.
+  LateBound(control).Put(L"BackColor", Variant(kRed));
+  EXPECT_EQ(frame(), kRed);
+  EXPECT_EQ(control.As<IOleObject>()->SetClientSite(nullptr), S_OK);
+}
+
 TEST_P(ContainedTest, TellsNoEventsWhileTheyAreFrozen) {
   FakeHost host;
   const auto control = New();
@@ -183,6 +245,31 @@ TEST_P(ContainedTest, ItsVerbsAreFoundWhereItSaysThatTheyAre) {
   EXPECT_EQ(verb.grfAttribs, static_cast<DWORD>(OLEVERBATTRIB_ONCONTAINERMENU));
   CoTaskMemFree(verb.lpszVerbName);
   EXPECT_EQ(verbs->Next(1, &verb, &fetched), S_FALSE);
+}
+
+class EmbeddedTest : public ComponentTest {};
+
+TEST_F(EmbeddedTest, TheExplanationInsideAsksAndTellsThoseWhoListenToItsProperties) {
+  const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+  ComPtr<IToelichting> explanation;
+  ASSERT_EQ(editor->get_Toelichting(explanation.Put()), S_OK);
+  PropertyListener listener;
+  ComPtr<IConnectionPoint> point;
+  ASSERT_EQ(explanation.As<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, point.Put()),
+            S_OK);
+  DWORD cookie = 0;
+  ASSERT_EQ(point->Advise(&listener, &cookie), S_OK);
+  EXPECT_EQ(editor->put_BackColor(0x00C8FFC8), S_OK);
+  EXPECT_EQ(listener.told, "changed -501;") << "it takes the editor's";
+  listener.told.clear();
+  EXPECT_EQ(explanation->put_BackColor(kRed), S_OK);
+  EXPECT_EQ(listener.told, "asked -501;changed -501;");
+  listener.agrees = false;
+  EXPECT_EQ(explanation->put_BackColor(0), static_cast<HRESULT>(0x800A0000 + 387));
+  OLE_COLOR color = 0;
+  EXPECT_EQ(explanation->get_BackColor(&color), S_OK);
+  EXPECT_EQ(color, static_cast<OLE_COLOR>(kRed));
+  EXPECT_EQ(point->Unadvise(cookie), S_OK);
 }
 
 INSTANTIATE_TEST_SUITE_P(Controls, ContainedTest, testing::Values(&CLSID_VrijeKolom, &CLSID_Toelichting),

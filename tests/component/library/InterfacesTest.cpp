@@ -126,22 +126,25 @@ bool IsDual(const IID& iid) {
 
 TEST_F(InterfacesTest, TheEditorHasItsMembersInTheirOrder) {
   EXPECT_TRUE(IsDual(IID_IVrijeKolom));
-  EXPECT_EQ(Declarations(IID_IVrijeKolom),
-            (Texts{"1 SetApplication([in] IDispatch*, [in] short, [in] short)",
-                   "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] long*)",
-                   "-501 put BackColor([in] long)", "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
-                   "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)", "4 get Toelichting([out retval] IToelichting**)",
-                   "5 get ProcedureTraceKlasse([out retval] BSTR*)", "5 put ProcedureTraceKlasse([in] BSTR)",
-                   "6 get DossierControleKlasse([out retval] BSTR*)", "6 put DossierControleKlasse([in] BSTR)"}));
+  EXPECT_EQ(
+      Declarations(IID_IVrijeKolom),
+      (Texts{"1 SetApplication([in] IDispatch*, [in] short, [in] short)",
+             "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] OLE_COLOR*)",
+             "-501 put BackColor([in] OLE_COLOR)", "3 get BeeindigenZichtbaar([out retval] VARIANT_BOOL*)",
+             "3 put BeeindigenZichtbaar([in] VARIANT_BOOL)", "4 get Toelichting([out retval] IToelichting**)",
+             "5 get ProcedureTraceKlasse([out retval] BSTR*)", "5 put ProcedureTraceKlasse([in] BSTR)",
+             "6 get DossierControleKlasse([out retval] BSTR*)", "6 put DossierControleKlasse([in] BSTR)",
+             "7 get Toestand([out retval] Bindingstoestand*)"}));
 }
 
 TEST_F(InterfacesTest, TheExplanationHasItsMembersInTheirOrder) {
   EXPECT_TRUE(IsDual(IID_IToelichting));
-  EXPECT_EQ(Declarations(IID_IToelichting),
-            (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
-                   "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] long*)",
-                   "-501 put BackColor([in] long)", "3 get ProcedureTraceKlasse([out retval] BSTR*)",
-                   "3 put ProcedureTraceKlasse([in] BSTR)"}));
+  EXPECT_EQ(
+      Declarations(IID_IToelichting),
+      (Texts{"1 SetApplication([in] IDispatch*, [in] IDispatch*, [in] short)",
+             "2 Validation([in out] VARIANT*, [in optional = 0] long)", "-501 get BackColor([out retval] OLE_COLOR*)",
+             "-501 put BackColor([in] OLE_COLOR)", "3 get ProcedureTraceKlasse([out retval] BSTR*)",
+             "3 put ProcedureTraceKlasse([in] BSTR)", "4 get Toestand([out retval] Bindingstoestand*)"}));
 }
 
 TEST_F(InterfacesTest, TheFormHasItsMembersInTheirOrder) {
@@ -150,8 +153,8 @@ TEST_F(InterfacesTest, TheFormHasItsMembersInTheirOrder) {
             (Texts{"1 Invoeren([in] IDispatch*, [in] short, [in] long, [in] long, [in] VARIANT_BOOL, "
                    "[in] VARIANT_BOOL, [in] double)",
                    "2 put DisableJaar([in] short, [in] VARIANT_BOOL)", "3 get SoortScenario([out retval] short*)",
-                   "3 put SoortScenario([in] short)", "-501 get BackColor([out retval] long*)",
-                   "-501 put BackColor([in] long)", "4 Tonen([in optional] VARIANT)"}));
+                   "3 put SoortScenario([in] short)", "-501 get BackColor([out retval] OLE_COLOR*)",
+                   "-501 put BackColor([in] OLE_COLOR)", "4 Tonen([in optional] VARIANT)"}));
 }
 
 TEST_F(InterfacesTest, TheEventsAreInTheirOrder) {
@@ -178,6 +181,46 @@ TEST_F(InterfacesTest, HelpIsWrittenInLettersThatEveryReaderHas) {
   ASSERT_GE(help.size(), 7U);
   for (const std::string& text : help)
     for (const char letter : text) EXPECT_TRUE(letter >= ' ' && letter <= '~') << text;
+}
+
+TEST_F(InterfacesTest, EventsSayWhatTheyTell) {
+  for (const IID* const events : {&DIID_DVrijeKolomEvents, &DIID_DToelichtingEvents})
+    for (const std::string& text : HelpOf(*Description(*events).Get())) EXPECT_NE(text, "");
+}
+
+TEST_F(InterfacesTest, AColourIsKnownAsOneAndItsListenersAreAskedAndTold) {
+  constexpr GUID kColour{0x66504301, 0xbe0f, 0x101a, {0x8b, 0xbb, 0x00, 0xaa, 0x00, 0x30, 0x0c, 0xab}};
+  for (const IID* const iid : {&IID_IVrijeKolom, &IID_IToelichting}) {
+    const auto info = Description(*iid);
+    int members = 0;
+    FUNCDESC* function = nullptr;
+    for (UINT i = 0; SUCCEEDED(info->GetFuncDesc(i, &function)); ++i) {
+      if (function->memid == DISPID_BACKCOLOR) {
+        ++members;
+        EXPECT_EQ(function->wFuncFlags, FUNCFLAG_FBINDABLE | FUNCFLAG_FREQUESTEDIT);
+        if (function->invkind == INVOKE_PROPERTYPUT) {
+          ComPtr<ITypeInfo> type;
+          ASSERT_EQ(info->GetRefTypeInfo(function->lprgelemdescParam[0].tdesc.hreftype, type.Put()), S_OK);
+          TYPEATTR* attributes = nullptr;
+          type->GetTypeAttr(&attributes);
+          EXPECT_EQ(attributes->guid, kColour);
+          type->ReleaseTypeAttr(attributes);
+        }
+      }
+      info->ReleaseFuncDesc(function);
+    }
+    EXPECT_EQ(members, 2);
+  }
+}
+
+TEST_F(InterfacesTest, AScriptsNumberIsAColourOfTheSystemToo) {
+  const auto editor = Create<IDispatch>(CLSID_VrijeKolom);
+  constexpr std::int32_t kWindowBackground = -2147483643;  // as a script writes 80000005 hex
+  LateBound(editor).Put(L"BackColor", Variant(kWindowBackground));
+  OLE_COLOR color = 0;
+  EXPECT_EQ(editor.As<IVrijeKolom>()->get_BackColor(&color), S_OK);
+  EXPECT_EQ(color, 0x80000005U);
+  EXPECT_EQ(As<std::int32_t>(LateBound(editor).Get(L"BackColor")), kWindowBackground);
 }
 
 TEST_F(InterfacesTest, TheListsTextIsSpelledAsItIsDeclared) {

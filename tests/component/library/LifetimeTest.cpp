@@ -4,9 +4,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
+#include <string_view>
+#include <thread>
 
 #include "tests/component/library/ComponentTest.h"
+
+// After <windows.h>.
+#include <psapi.h>
 
 namespace brivane::component {
 namespace {
@@ -64,9 +70,9 @@ TEST_F(LifetimeTest, WhatIsHandedOutKeepsItsObject) {
   ASSERT_EQ(editor->get_Toelichting(embedded.Put()), S_OK);
   auto door = DoorOf(editor);
   editor.Reset();
-  LONG color = 0;
+  OLE_COLOR color = 0;
   EXPECT_EQ(embedded->get_BackColor(&color), S_OK);
-  EXPECT_EQ(color, -2147483633);
+  EXPECT_EQ(color, 0x8000000FU);
   embedded.Reset();
   EXPECT_EQ(CanUnloadNow(), S_FALSE);
   door.Reset();
@@ -108,6 +114,89 @@ TEST_F(LifetimeTest, AnEditorThatIsLetGoByItsOwnEventEndsAfterIt) {
   EXPECT_FALSE(dropper.editor);
   Unload();
   EXPECT_FALSE(IsLoaded());
+}
+
+TEST_F(LifetimeTest, SoDoesOneOnAThreadThatTakesNoMoreMessages) {
+  bool unloadable = false;
+  std::thread([&] {
+    OleInitialize(nullptr);
+    {
+      FakeHost host;
+      Dropper dropper;
+      dropper.editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+      ComPtr<IConnectionPoint> point;
+      dropper.editor.As<IConnectionPointContainer>()->FindConnectionPoint(DIID_DVrijeKolomEvents, point.Put());
+      DWORD cookie = 0;
+      point->Advise(&dropper, &cookie);
+      point.Reset();
+      IVrijeKolom* const bare = dropper.editor.Get();
+      EXPECT_EQ(bare->SetApplication(host.application.Get(), 0, 1), S_OK);
+      EXPECT_FALSE(dropper.editor);
+    }
+    unloadable = CanUnloadNow() == S_OK;
+    OleUninitialize();
+  }).join();
+  EXPECT_TRUE(unloadable);
+}
+
+/// Handles of this process to objects of a kind, by the system's name for it.
+int HandlesTo(std::wstring_view kind) {
+  using Query = LONG NTAPI(HANDLE, ULONG, void*, ULONG, ULONG*);
+  const auto query = reinterpret_cast<Query*>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryObject")));
+  constexpr ULONG kType = 2;
+  constexpr std::uintptr_t kFurthest = 0x4000;
+  int count = 0;
+  for (std::uintptr_t handle = 4; handle < kFurthest; handle += 4) {
+    alignas(8) std::array<unsigned char, 1024> answer{};
+    ULONG length = 0;
+    if (query(reinterpret_cast<HANDLE>(handle), kType, answer.data(), answer.size(), &length) < 0) continue;
+    struct Name {
+      USHORT bytes;
+      USHORT room;
+      const wchar_t* text;
+    };
+    const auto& name = *reinterpret_cast<const Name*>(answer.data());
+    count += std::wstring_view(name.text, name.bytes / sizeof(wchar_t)) == kind;
+  }
+  return count;
+}
+
+/// Keeps every library of the process in it but our own: what the system's keep for themselves each time that they are
+/// loaded is theirs to see to.
+void KeepTheSystemsLibraries() {
+  std::array<HMODULE, 256> modules{};
+  DWORD bytes = 0;
+  K32EnumProcessModules(GetCurrentProcess(), modules.data(), sizeof modules, &bytes);
+  for (std::size_t i = 0; i < bytes / sizeof(HMODULE) && i < modules.size(); ++i) {
+    HMODULE kept = nullptr;
+    if (modules[i] != GetModuleHandleW(kLibrary))
+      GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+                         reinterpret_cast<const wchar_t*>(modules[i]), &kept);
+  }
+}
+
+TEST_F(LifetimeTest, LoadedAndUnloadedItLeavesNoHandleOfItsThreadBehind) {
+  const auto once = [] {
+    const auto form = Create<IfrmScenario>(CLSID_frmScenario);
+    EXPECT_EQ(form->put_DisableJaar(51, VARIANT_TRUE), static_cast<HRESULT>(0x800A0009));  // by way of an exception
+    KeepTheSystemsLibraries();
+  };
+  for (int i = 0; i < 3; ++i) {
+    once();
+    Unload();
+    ASSERT_FALSE(IsLoaded());
+  }
+  const int threads = HandlesTo(L"Thread");
+  const int events = HandlesTo(L"Event");
+  EXPECT_GT(events, 0) << "they are found";
+  for (int i = 0; i < 20; ++i) {
+    once();
+    Unload();
+    ASSERT_FALSE(IsLoaded());
+  }
+  EXPECT_EQ(HandlesTo(L"Thread"), threads);
+  EXPECT_EQ(HandlesTo(L"Event"), events);
 }
 
 /// What the process holds. The system's own counters of handles are not to be had under Wine.

@@ -75,6 +75,18 @@ TEST_F(ModalTest, WithoutANameTheFormBelongsToTheWindowThatIsActive) {
   EXPECT_TRUE(seen);
 }
 
+TEST_F(ModalTest, TheFormGoesWithTheWindowThatItBelongsTo) {
+  const auto form = NewForm();
+  bool seen = false;
+  WhenOpen([&](HWND) {
+    seen = true;
+    DestroyWindow(owner_);
+  });
+  EXPECT_EQ(form->Tonen(Owner().Raw()), S_OK);
+  EXPECT_TRUE(seen);
+  EXPECT_TRUE(IsWindowEnabled(active_));
+}
+
 TEST_F(ModalTest, TheHostsObjectsAreLetGoOfWhenTheFormCloses) {
   const auto form = NewForm();
   const int alive = FakeObject::alive;

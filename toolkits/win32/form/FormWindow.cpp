@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 #include "controls/RowChanges.h"
 #include "toolkits/win32/controls/ButtonWindows.h"
@@ -213,6 +214,9 @@ void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
   if (const controls::Button* const button = FirstButton(form_))
     static_cast<const PushWindow&>(WindowFor(*button)).ShowDefault();
   {
+    const ModalTime modalTime(Toolkit().Desktop());
+    // Whoever was told may have taken everything away.
+    if (form_.IsUnloaded() || Handle() == nullptr) return;
     const OthersDisabled others(Handle(), owner);
     open_ = true;
     Fit();
@@ -245,9 +249,8 @@ void FormWindow::RunLoop() {
 }
 
 void FormWindow::Unload() {
-  open_ = false;
-  // The loop may be waiting for a message.
-  if (Handle() != nullptr) PostMessageW(Handle(), WM_NULL, 0, 0);
+  // The loop may be waiting for a message, and the window may be gone.
+  if (std::exchange(open_, false)) PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 void FormWindow::PressDefault() {
@@ -260,6 +263,7 @@ void FormWindow::Close() { controls::RowChanges::Close(form_, Toolkit()); }
 LRESULT FormWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_CLOSE: Close(); return 0;
+    case WM_DESTROY: Unload(); break;  // with its owner
     case WM_ACTIVATE:
       if (LOWORD(wParam) == WA_INACTIVE) focused_ = GetFocus();
       break;

@@ -10,17 +10,12 @@ namespace {
 
 /// Another copy of this code in the process has objects of its own, so the property is named after where
 /// the code stands.
-const std::wstring& PropertyName() {
-  static const std::wstring name = [] {
-    static const char here = 0;
-    return L"Brivane" + std::to_wstring(reinterpret_cast<std::uintptr_t>(&here));
-  }();
-  return name;
-}
+const char kHere = 0;
+const std::wstring kPropertyName = L"Brivane" + std::to_wstring(reinterpret_cast<std::uintptr_t>(&kHere));
 
 }  // namespace
 
-Window* Window::Of(HWND window) { return static_cast<Window*>(GetPropW(window, PropertyName().c_str())); }
+Window* Window::Of(HWND window) { return static_cast<Window*>(GetPropW(window, kPropertyName.c_str())); }
 
 Window* Window::Around(HWND window) {
   for (; window != nullptr; window = GetAncestor(window, GA_PARENT))
@@ -32,7 +27,7 @@ Window::Window(win32::Toolkit& toolkit, const Making& making, HWND parent)
     : toolkit_(toolkit), handle_(toolkit.MakeWindow(making, parent)) {
   if (handle_ == nullptr)
     throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), "CreateWindowEx");
-  SetPropW(handle_, PropertyName().c_str(), this);
+  SetPropW(handle_, kPropertyName.c_str(), this);
   original_ = reinterpret_cast<WNDPROC>(
       SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Window::Procedure)));
 }
@@ -41,7 +36,7 @@ Window::~Window() {
   if (handle_ == nullptr) return;
   const HWND window = std::exchange(handle_, nullptr);
   SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
-  RemovePropW(window, PropertyName().c_str());
+  RemovePropW(window, kPropertyName.c_str());
   DestroyWindow(window);
 }
 
@@ -51,7 +46,7 @@ LRESULT CALLBACK Window::Procedure(HWND window, UINT message, WPARAM wParam, LPA
   if (message == WM_NCDESTROY) {
     const WNDPROC original = object->original_;
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-    RemovePropW(window, PropertyName().c_str());
+    RemovePropW(window, kPropertyName.c_str());
     object->handle_ = nullptr;
     return CallWindowProcW(original, window, message, wParam, lParam);
   }

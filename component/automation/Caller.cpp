@@ -1,0 +1,48 @@
+#include "component/automation/Caller.h"
+
+#include <dispex.h>
+
+#include "component/automation/Module.h"
+
+namespace brivane::component {
+
+namespace {
+
+/// A script may hold it after the call.
+class Caller final : public IServiceProvider, public ICanHandleException, private module::LiveObject {
+ public:
+  STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    if (iid == IID_IUnknown || iid == __uuidof(IServiceProvider)) *out = static_cast<IServiceProvider*>(this);
+    if (iid == __uuidof(ICanHandleException)) *out = static_cast<ICanHandleException*>(this);
+    if (!*out) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
+  STDMETHODIMP_(ULONG) Release() override {
+    const ULONG left = --count_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+  STDMETHODIMP QueryService(REFGUID service, REFIID iid, void** out) override {
+    if (!out) return E_POINTER;
+    *out = nullptr;
+    return service == __uuidof(ICanHandleException) ? QueryInterface(iid, out) : E_NOINTERFACE;
+  }
+
+  STDMETHODIMP CanHandleException(EXCEPINFO*, VARIANT*) override { return S_OK; }
+
+ private:
+  ~Caller() = default;
+
+  ULONG count_ = 1;
+};
+
+}  // namespace
+
+ComPtr<IServiceProvider> NewCaller() { return ComPtr<IServiceProvider>::Attach(new Caller); }
+
+}  // namespace brivane::component
