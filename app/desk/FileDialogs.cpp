@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "app/screen/Messages.h"
+#include "app/desk/Messages.h"
 #include "toolkits/qt/widgets/Mnemonics.h"
 
 namespace brivane::app {

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/desk/Messages.h"
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
-#include "app/screen/Messages.h"
 #include "frame/ErrorReport.h"
 
 namespace brivane::app {

@@ -10,9 +10,9 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 
+#include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/screen/FindingsList.h"
-#include "app/screen/Messages.h"
 #include "app/screen/StartPage.h"
 #include "toolkits/qt/widgets/FormWindow.h"
 

@@ -7,11 +7,11 @@
 #include <QTimer>
 #include <utility>
 
+#include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/desk/UnfinishedText.h"
 #include "app/screen/FilledIn.h"
 #include "app/screen/MainWindow.h"
-#include "app/screen/Messages.h"
 #include "app/screen/UnfinishedDialog.h"
 #include "toolkits/qt/VrijeKolomWidget.h"
 #include "toolkits/qt/widgets/EntryBox.h"

@@ -5,9 +5,9 @@
 #include <QStatusBar>
 
 #include "app/desk/FileDialogs.h"
+#include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/screen/MainWindow.h"
-#include "app/screen/Messages.h"
 
 namespace brivane::app {
 namespace {

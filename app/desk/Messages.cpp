@@ -1,4 +1,4 @@
-#include "app/screen/Messages.h"
+#include "app/desk/Messages.h"
 
 #include <QPushButton>
 
