@@ -86,7 +86,7 @@ DossierGegevens Edited(const QString& path) {
   const auto file = DossierFile::Open(path);
   try {
     const std::int16_t loan = file->Dossier()->NieuweLening("nieuw");
-    const auto amount = file->Dossier()->NieuweKolom(loan)->Bedrag();
+    const auto amount = file->Dossier()->NewKolom(loan)->Bedrag();
     amount->Periode(amount->NieuwePeriode())->SetMaand(13);
   } catch (const host::Error& error) {
     Wrong(error.what());

@@ -60,7 +60,7 @@ class Showing {
 
   void Play(const QString& path) {
     Open(path);
-    if (!Dossier().ZoekKolom(kAdded.Len_Id, *kAdded.Vrij_Id)) Must(window_.Screen()->AddKolom(), "adding a column");
+    if (!Dossier().FindKolom(kAdded.Len_Id, *kAdded.Vrij_Id)) Must(window_.Screen()->AddKolom(), "adding a column");
     playing_ = true;
     session_->Run();
     playing_ = false;

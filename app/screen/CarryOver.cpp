@@ -14,7 +14,7 @@ constexpr std::int16_t kVoorstellen = 3;
 QStringList VersionsOf(const dossier::Dossier& dossier, std::int16_t Vrij_Id) {
   QStringList lines;
   for (std::int16_t Len_Id = 1; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    const auto kolom = dossier.ZoekKolom(Len_Id, Vrij_Id);
+    const auto kolom = dossier.FindKolom(Len_Id, Vrij_Id);
     if (!kolom) continue;
     QString text = QString::fromStdString(kolom->Kopregel());
     text.replace(QStringLiteral(" · "), QStringLiteral(", "));

@@ -69,7 +69,7 @@ std::vector<dossier::Finding> CheckAll(const dossier::Dossier& dossier, host::Da
   std::vector<dossier::Finding> findings;
   Checker checker(copy, today);
   for (std::int16_t Len_Id = dossier::Dossier::kHuidig; Len_Id <= copy->AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : copy->ZoekLening(Len_Id)->Kolommen()) {
+    for (const auto& kolom : copy->FindLening(Len_Id)->Kolommen()) {
       const auto add = [&](std::vector<std::string> texts) {
         for (std::string& text : texts) findings.push_back({Len_Id, kolom->Id(), std::move(text)});
       };

@@ -33,7 +33,7 @@ host::ErrorRecord RecordOf(const host::Error& error) {
 std::vector<Place> AllKolommen(const dossier::Dossier& dossier) {
   std::vector<Place> places;
   for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) places.push_back({Len_Id, kolom->Id()});
+    for (const auto& kolom : dossier.FindLening(Len_Id)->Kolommen()) places.push_back({Len_Id, kolom->Id()});
   }
   return places;
 }
@@ -78,7 +78,7 @@ EditorHost DossierScreen::MakeEditorHost(const Instrument& instrument) {
 }
 
 host::HostFactories DossierScreen::Factories() {
-  return {.MaakProcedureTrace = [this](std::string_view control) { return file_->MaakTrace(control, traceLog_); },
+  return {.MaakProcedureTrace = [this](std::string_view control) { return file_->MakeTrace(control, traceLog_); },
           .MaakDossierControle =
               [this](std::string_view) {
                 auto check = std::make_shared<dossier::DossierControle>([] { return Today(); });
@@ -142,8 +142,8 @@ bool DossierScreen::MayLeave() {
 }
 
 bool DossierScreen::Exists(const Place& place) {
-  if (!place.Vrij_Id) return Dossier().ZoekLening(place.Len_Id) != nullptr;
-  return Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id) != nullptr;
+  if (!place.Vrij_Id) return Dossier().FindLening(place.Len_Id) != nullptr;
+  return Dossier().FindKolom(place.Len_Id, *place.Vrij_Id) != nullptr;
 }
 
 bool DossierScreen::Remove(const Place& next) {
@@ -187,7 +187,7 @@ bool DossierScreen::AddKolom() {
   if (!MayLeave()) return false;
   const std::int16_t Len_Id = Shown().Len_Id;
   std::shared_ptr<dossier::VrijeKolom> kolom;
-  if (!Try([&] { kolom = Dossier().NieuweKolom(Len_Id); })) return false;
+  if (!Try([&] { kolom = Dossier().NewKolom(Len_Id); })) return false;
   Show({Len_Id, kolom->Id()});
   kolom_->FocusOmschrijving();
   return true;
@@ -214,7 +214,7 @@ bool DossierScreen::MoveKolom(const Place& kolom, std::int16_t toLen_Id) {
 bool DossierScreen::MakeAfwijking(std::int16_t Len_Id) {
   const Place place = Shown();
   if (!place.Vrij_Id || place.Len_Id != dossier::Dossier::kHuidig || !MayLeave() || !Exists(place)) return false;
-  if (!Try([&] { Dossier().MaakAfwijking(*place.Vrij_Id, Len_Id); })) return false;
+  if (!Try([&] { Dossier().MakeAfwijking(*place.Vrij_Id, Len_Id); })) return false;
   Show({Len_Id, place.Vrij_Id});
   return true;
 }
@@ -222,7 +222,7 @@ bool DossierScreen::MakeAfwijking(std::int16_t Len_Id) {
 bool DossierScreen::RemoveKolom() {
   const Place place = Shown();
   if (!place.Vrij_Id) return false;
-  const auto kolom = Dossier().ZoekKolom(place.Len_Id, *place.Vrij_Id);
+  const auto kolom = Dossier().FindKolom(place.Len_Id, *place.Vrij_Id);
   if (!kolom) return false;
   const QString question =
       QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")

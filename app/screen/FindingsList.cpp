@@ -56,7 +56,7 @@ void FindingsList::Show(const dossier::Dossier& dossier, const std::vector<dossi
   list_->clear();
   QList<QTreeWidgetItem*> lines;
   for (const dossier::Finding& finding : findings) {
-    const auto kolom = dossier.ZoekKolom(finding.Len_Id, finding.Vrij_Id);
+    const auto kolom = dossier.FindKolom(finding.Len_Id, finding.Vrij_Id);
     auto* line = new QTreeWidgetItem({LeningText(dossier, finding.Len_Id),
                                       kolom ? QString::fromStdString(kolom->Kopregel()) : QString(),
                                       QString::fromStdString(finding.text)});

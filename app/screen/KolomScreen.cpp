@@ -83,7 +83,7 @@ void KolomScreen::RefreshHeader() {
   if (!place_.Vrij_Id) return;
   // What could not be bound was told by the host's report; its name stands above nothing.
   if (!editor_->IsBound()) return header_->Show(QString());
-  if (const auto kolom = dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id)) {
+  if (const auto kolom = dossier_->FindKolom(place_.Len_Id, *place_.Vrij_Id)) {
     header_->Show(QString::fromStdString(kolom->Kopregel()));
   }
 }
@@ -102,7 +102,7 @@ Leaving KolomScreen::Leave() {
 }
 
 bool KolomScreen::IsIncomplete() const {
-  const auto kolom = place_.Vrij_Id ? dossier_->ZoekKolom(place_.Len_Id, *place_.Vrij_Id) : nullptr;
+  const auto kolom = place_.Vrij_Id ? dossier_->FindKolom(place_.Len_Id, *place_.Vrij_Id) : nullptr;
   return kolom && kolom->DatumAanvang().IsNone();
 }
 

@@ -17,7 +17,7 @@ constexpr char kMimeType[] = "application/x-brivane-vrije-kolom";
 }  // namespace
 
 QString LeningText(const dossier::Dossier& dossier, std::int16_t Len_Id) {
-  const auto lening = dossier.ZoekLening(Len_Id);
+  const auto lening = dossier.FindLening(Len_Id);
   if (lening && !lening->Naam().empty()) return QString::fromStdString(lening->Naam());
   return Len_Id == dossier::Dossier::kHuidig ? QStringLiteral("Huidige lening")
                                              : QStringLiteral("Nieuwe lening %1").arg(Len_Id);
@@ -34,7 +34,7 @@ void KolommenModel::Show(std::shared_ptr<dossier::Dossier> dossier) {
 bool KolommenModel::Refresh() {
   std::vector<Kolommen> now;
   for (std::int16_t Len_Id = 0; dossier_ && Len_Id <= dossier_->AantalLeningen(); ++Len_Id) {
-    now.push_back(dossier_->ZoekLening(Len_Id)->Kolommen());
+    now.push_back(dossier_->FindLening(Len_Id)->Kolommen());
   }
   if (now == leningen_) return false;
   beginResetModel();

@@ -37,13 +37,13 @@ struct Sides {
         application(std::make_shared<dossier::Application>(bestand->Dossier())),
         surface(toolkit.MakeSurface(vrijekolom::kOntwerp)),
         editor(*surface, toolkit,
-               {.MaakProcedureTrace = [this](std::string_view control) { return bestand->MaakTrace(control); },
+               {.MaakProcedureTrace = [this](std::string_view control) { return bestand->MakeTrace(control); },
                 .MaakDossierControle = {}}),
         box(*controls::Surface::Of(*surface).Find("TxtBd")),
         database(bench::Open(kaal.toLocal8Bit().constData())),
         update(bench::Prepare(database, "UPDATE vrijekolom SET bedrag = ? WHERE sleutel = ?")) {
     // Both files were made alike, so the column has the same key in each.
-    sqlite3_bind_int64(update.get(), 2, bestand->Dossier()->ZoekKolom(0, 1)->Sleutel());
+    sqlite3_bind_int64(update.get(), 2, bestand->Dossier()->FindKolom(0, 1)->Sleutel());
     editor.SetApplication(application, 0, 1);
   }
 

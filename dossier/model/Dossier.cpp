@@ -26,7 +26,7 @@ Dossier::Dossier(DossierGegevens gegevens, std::shared_ptr<Environment> omgeving
       maatschappijen_(std::move(gegevens.MaatschappijType)),
       huidige_(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens.HuidigeLening))),
       voorstellen_(std::move(gegevens.Voorstellen)) {
-  NeemPersonenOver(std::move(gegevens.Personen));
+  AdoptPersonen(std::move(gegevens.Personen));
   for (LeningGegevens& lening : gegevens.Leningen) {
     leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(lening)));
   }
@@ -38,14 +38,14 @@ std::shared_ptr<host::Persoon> Dossier::Persoon(std::int16_t nummer) {
 }
 
 void Dossier::VoegToeAanVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id) {
-  SchrijfVoorstel(voorstel, Vrij_Id, Membership::Yes);
+  WriteVoorstel(voorstel, Vrij_Id, Membership::Yes);
 }
 
 void Dossier::VerwijderUitVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, std::int16_t) {
-  SchrijfVoorstel(voorstel, Vrij_Id, Membership::No);
+  WriteVoorstel(voorstel, Vrij_Id, Membership::No);
 }
 
-void Dossier::SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
+void Dossier::WriteVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   std::set<std::int16_t>& leden = voorstellen_[Plaats(voorstel)];
   // Registering again, or taking out what is not in, changes nothing and costs no write.
   if (leden.contains(Vrij_Id) == (lidmaatschap == Membership::Yes)) return;
@@ -57,14 +57,14 @@ void Dossier::SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membe
   }
 }
 
-std::shared_ptr<dossier::Lening> Dossier::ZoekLening(std::int16_t Len_Id) const {
+std::shared_ptr<dossier::Lening> Dossier::FindLening(std::int16_t Len_Id) const {
   if (Len_Id == kHuidig) return huidige_;
   if (Len_Id < 0 || static_cast<std::size_t>(Len_Id) > leningen_.size()) return nullptr;
   return leningen_[static_cast<std::size_t>(Len_Id - 1)];
 }
 
-std::shared_ptr<dossier::VrijeKolom> Dossier::ZoekKolom(std::int16_t Len_Id, std::int16_t Vrij_Id) const {
-  const auto lening = ZoekLening(Len_Id);
+std::shared_ptr<dossier::VrijeKolom> Dossier::FindKolom(std::int16_t Len_Id, std::int16_t Vrij_Id) const {
+  const auto lening = FindLening(Len_Id);
   return lening ? lening->Zoek(Vrij_Id) : nullptr;
 }
 
@@ -102,8 +102,8 @@ std::int16_t Dossier::VrijId() const {
   throw host::Error(host::ErrorNumber::Overflow);
 }
 
-std::shared_ptr<dossier::VrijeKolom> Dossier::NieuweKolom(std::int16_t Len_Id) {
-  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+std::shared_ptr<dossier::VrijeKolom> Dossier::NewKolom(std::int16_t Len_Id) {
+  dossier::Lening& lening = host::Need(FindLening(Len_Id));
   KolomGegevens gegevens;
   gegevens.Id = VrijId();
   std::shared_ptr<dossier::VrijeKolom> kolom;
@@ -112,7 +112,7 @@ std::shared_ptr<dossier::VrijeKolom> Dossier::NieuweKolom(std::int16_t Len_Id) {
 }
 
 std::shared_ptr<dossier::VrijeKolom> Dossier::Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id) {
-  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+  dossier::Lening& lening = host::Need(FindLening(Len_Id));
   KolomGegevens gegevens = Kopie(host::Need(lening.Zoek(Vrij_Id)), VrijId());
   gegevens.Voorstel = {};
   std::shared_ptr<dossier::VrijeKolom> kolom;
@@ -121,7 +121,7 @@ std::shared_ptr<dossier::VrijeKolom> Dossier::Dupliceer(std::int16_t Len_Id, std
 }
 
 void Dossier::Verwijder(std::int16_t Len_Id, std::int16_t Vrij_Id) {
-  dossier::Lening& lening = host::Need(ZoekLening(Len_Id));
+  dossier::Lening& lening = host::Need(FindLening(Len_Id));
   const auto& kolommen = lening.Kolommen();
   const auto plaats = std::find(kolommen.begin(), kolommen.end(), lening.Zoek(Vrij_Id));
   if (plaats == kolommen.end()) throw host::Error(host::ErrorNumber::ObjectMissing);
@@ -133,8 +133,8 @@ void Dossier::Verwijder(std::int16_t Len_Id, std::int16_t Vrij_Id) {
 }
 
 std::int16_t Dossier::Verplaats(std::int16_t Len_Id, std::int16_t Vrij_Id, std::int16_t naarLen_Id) {
-  dossier::Lening& van = host::Need(ZoekLening(Len_Id));
-  dossier::Lening& naar = host::Need(ZoekLening(naarLen_Id));
+  dossier::Lening& van = host::Need(FindLening(Len_Id));
+  dossier::Lening& naar = host::Need(FindLening(naarLen_Id));
   static_cast<void>(host::Need(van.Zoek(Vrij_Id)));
   if (&van == &naar) return Vrij_Id;
   const std::int16_t nieuwId = naar.Zoek(Vrij_Id) ? VrijId() : Vrij_Id;
@@ -142,8 +142,8 @@ std::int16_t Dossier::Verplaats(std::int16_t Len_Id, std::int16_t Vrij_Id, std::
   return nieuwId;
 }
 
-std::shared_ptr<dossier::VrijeKolom> Dossier::MaakAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id) {
-  dossier::Lening& lening = host::Need(Len_Id == kHuidig ? nullptr : ZoekLening(Len_Id));
+std::shared_ptr<dossier::VrijeKolom> Dossier::MakeAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id) {
+  dossier::Lening& lening = host::Need(Len_Id == kHuidig ? nullptr : FindLening(Len_Id));
   const std::shared_ptr<dossier::VrijeKolom> kolom = huidige_->Zoek(Vrij_Id);
   KolomGegevens gegevens = Kopie(host::Need(kolom), Vrij_Id);
   if (std::shared_ptr<dossier::VrijeKolom> bestaand = lening.Zoek(Vrij_Id)) return bestaand;
@@ -174,11 +174,11 @@ void Dossier::SetClient(std::vector<PersoonGegevens> personen, std::int16_t leef
     omgeving_->Journal->SetPersons(personen);
     omgeving_->Journal->SetAgeLimit(leeftijd);
   });
-  NeemPersonenOver(std::move(personen));
+  AdoptPersonen(std::move(personen));
   leeftijd_ = leeftijd;
 }
 
-void Dossier::NeemPersonenOver(std::vector<PersoonGegevens> personen) {
+void Dossier::AdoptPersonen(std::vector<PersoonGegevens> personen) {
   personen_.clear();
   for (PersoonGegevens& persoon : personen) {
     personen_.push_back(std::make_shared<dossier::Persoon>(std::move(persoon)));
@@ -197,7 +197,7 @@ DossierGegevens Dossier::Gegevens() const {
 }
 
 void Dossier::Herlaad(DossierGegevens gegevens) {
-  NeemPersonenOver(std::move(gegevens.Personen));
+  AdoptPersonen(std::move(gegevens.Personen));
   leeftijd_ = gegevens.Leeftijd;
   huidige_->Herlaad(std::move(gegevens.HuidigeLening));
   leningen_.resize(std::min(leningen_.size(), gegevens.Leningen.size()));

@@ -21,7 +21,7 @@ namespace brivane::dossier {
 /// current situation. See docs/host-meaning.md.
 ///
 ///     Dossier dossier(gegevens, std::make_shared<Environment>());
-///     auto kolom = dossier.NieuweKolom(kHuidig);
+///     auto kolom = dossier.NewKolom(kHuidig);
 class Dossier : public host::Dossier {
  public:
   /// Number of the loan of the current situation.
@@ -30,7 +30,7 @@ class Dossier : public host::Dossier {
   Dossier(DossierGegevens gegevens, std::shared_ptr<Environment> omgeving);
 
   [[nodiscard]] std::shared_ptr<host::Lening> HuidigeLening() override { return huidige_; }
-  [[nodiscard]] std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override { return ZoekLening(Len_Id); }
+  [[nodiscard]] std::shared_ptr<host::Lening> Lening(std::int16_t Len_Id) override { return FindLening(Len_Id); }
   [[nodiscard]] std::shared_ptr<host::Persoon> Persoon(std::int16_t nummer) override;
   /// Both fail with error 9 for a proposal other than 1, 2, 3.
   void VoegToeAanVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id) override;
@@ -41,8 +41,8 @@ class Dossier : public host::Dossier {
   /// How many loans the new situation has.
   [[nodiscard]] std::int16_t AantalLeningen() const { return static_cast<std::int16_t>(leningen_.size()); }
   /// The loan by number as `Lening` answers it, or nothing.
-  [[nodiscard]] std::shared_ptr<dossier::Lening> ZoekLening(std::int16_t Len_Id) const;
-  [[nodiscard]] std::shared_ptr<dossier::VrijeKolom> ZoekKolom(std::int16_t Len_Id, std::int16_t Vrij_Id) const;
+  [[nodiscard]] std::shared_ptr<dossier::Lening> FindLening(std::int16_t Len_Id) const;
+  [[nodiscard]] std::shared_ptr<dossier::VrijeKolom> FindKolom(std::int16_t Len_Id, std::int16_t Vrij_Id) const;
   /// Identifiers of the columns that are ended in proposal 1 to 3.
   [[nodiscard]] const std::set<std::int16_t>& Voorstel(std::int16_t voorstel) const;
   /// The new situation has a version of its own of this item, in one of its loans.
@@ -51,7 +51,7 @@ class Dossier : public host::Dossier {
   [[nodiscard]] std::vector<std::shared_ptr<dossier::VrijeKolom>> VolgtHuidigeSituatie() const;
 
   /// Adds a column with valid codes and an identifier of its own. An unknown loan or column fails with error 91.
-  std::shared_ptr<dossier::VrijeKolom> NieuweKolom(std::int16_t Len_Id);
+  std::shared_ptr<dossier::VrijeKolom> NewKolom(std::int16_t Len_Id);
   /// Adds a copy as an item of its own: another identifier, in no proposal.
   std::shared_ptr<dossier::VrijeKolom> Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id);
   /// Removes a column. An item that is gone from the whole case leaves the proposals too.
@@ -61,7 +61,7 @@ class Dossier : public host::Dossier {
   std::int16_t Verplaats(std::int16_t Len_Id, std::int16_t Vrij_Id, std::int16_t naarLen_Id);
   /// Gives a loan of the new situation its own version of an item of the current one, equal to it at first,
   /// under the same identifier. Answers the version that is there already, if any.
-  std::shared_ptr<dossier::VrijeKolom> MaakAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id);
+  std::shared_ptr<dossier::VrijeKolom> MakeAfwijking(std::int16_t Vrij_Id, std::int16_t Len_Id);
 
   [[nodiscard]] const std::vector<Code>& MaatschappijType() const { return maatschappijen_; }
   /// Age limit of the assumptions, whole years.
@@ -81,8 +81,8 @@ class Dossier : public host::Dossier {
  private:
   [[nodiscard]] std::int16_t VrijId() const;
   template <class Function> void VoorElkeKolom(Function&& functie) const;
-  void NeemPersonenOver(std::vector<PersoonGegevens> personen);
-  void SchrijfVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
+  void AdoptPersonen(std::vector<PersoonGegevens> personen);
+  void WriteVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
 
   std::shared_ptr<Environment> omgeving_;
   std::vector<std::shared_ptr<dossier::Persoon>> personen_;

@@ -65,11 +65,11 @@ std::vector<Finding> ControleerDossier(Dossier& dossier, host::Date vandaag) {
   std::vector<Finding> bevindingen;
   KolomCheck controle(dossier, vandaag, bevindingen);
   for (std::int16_t Len_Id = Dossier::kHuidig; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) controle.Controleer(Len_Id, kolom->Gegevens());
+    for (const auto& kolom : dossier.FindLening(Len_Id)->Kolommen()) controle.Controleer(Len_Id, kolom->Gegevens());
   }
   for (const std::int16_t voorstel : {1, 2, 3}) {
     for (const std::int16_t Vrij_Id : dossier.Voorstel(voorstel)) {
-      if (dossier.ZoekKolom(Dossier::kHuidig, Vrij_Id)) continue;
+      if (dossier.FindKolom(Dossier::kHuidig, Vrij_Id)) continue;
       bevindingen.push_back(
           {Dossier::kHuidig, Vrij_Id,
            "Voorstel " + std::to_string(voorstel) + " beëindigt een post die niet in de huidige situatie staat."});

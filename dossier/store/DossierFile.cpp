@@ -66,7 +66,7 @@ Opened OpenToWork(const QString& pad) {
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
   ControleerInhoud(database, pad);
   static_cast<void>(ReadStates(database));
-  opened.contents = LeesDossier(database);
+  opened.contents = ReadDossier(database);
   CheckPossible(opened.contents.gegevens, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
@@ -97,8 +97,8 @@ Opened OpenToRead(const QString& pad) {
                 .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
                 .contents = {}};
   Migrate(*opened.database, 0);
-  Writer(*opened.database, 1).SchrijfDossier(contents);
-  opened.contents = LeesDossier(*opened.database);
+  Writer(*opened.database, 1).WriteDossier(contents);
+  opened.contents = ReadDossier(*opened.database);
   opened.database->Run(QStringLiteral("PRAGMA query_only = ON"));
   return opened;
 }
@@ -119,7 +119,7 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     journal_ = std::make_shared<FileJournal>(
         std::move(opened.database), opened.contents.hoogste + 1,
         [doel](Database& opnieuw) {
-          if (const auto dossier = doel->lock()) dossier->Herlaad(LeesDossier(opnieuw).gegevens);
+          if (const auto dossier = doel->lock()) dossier->Herlaad(ReadDossier(opnieuw).gegevens);
         },
         std::move(opened.held));
     journal_->WorkOff();
@@ -180,7 +180,7 @@ void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
   try {
     Database database(voorlopig, Access::ReadWrite);
     Migrate(database, 0);
-    Writer(database, 1).SchrijfDossier(gegevens);
+    Writer(database, 1).WriteDossier(gegevens);
     database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   } catch (const DatabaseError& error) {
     Verwijder(voorlopig);
@@ -197,7 +197,7 @@ Edits& DossierFile::Bewerkingen() { return journal_->Bewerkingen(); }
 
 std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
 
-std::shared_ptr<StoreTrace> DossierFile::MaakTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
+std::shared_ptr<StoreTrace> DossierFile::MakeTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
   return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
 }
 

@@ -24,7 +24,7 @@ class FileJournal;
 ///
 ///     auto bestand = DossierFile::Open(pad);   // OpeningError: show its Melding()
 ///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
-///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MaakTrace(control); };
+///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MakeTrace(control); };
 ///     ScenarioTransaction scenario(editor, bestand->Bewerkingen());
 ///     const auto failed = bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */
 ///     });
@@ -50,7 +50,7 @@ class DossierFile {
   [[nodiscard]] Edits& Bewerkingen();
   [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen();
   /// A tracer for one control, bound to this file's edits.
-  [[nodiscard]] std::shared_ptr<StoreTrace> MaakTrace(std::string_view control,
+  [[nodiscard]] std::shared_ptr<StoreTrace> MakeTrace(std::string_view control,
                                                       std::shared_ptr<TraceListener> listener = nullptr);
   /// The file was opened to be read.
   [[nodiscard]] bool IsReadOnly() const { return read_only_; }

@@ -25,7 +25,7 @@ void CheckPossible(const DossierGegevens& contents, const QString& pad);
 
 /// Checks the layout and the whole of an open file, reading only. Throws OpeningError for a file that is newer or
 /// damaged, and DatabaseError where it cannot be read. A connection that cannot write passes over the constraints of
-/// the rows; LeesDossier keeps to those itself.
+/// the rows; ReadDossier keeps to those itself.
 void ControleerInhoud(Database& database, const QString& pad);
 
 }  // namespace brivane::dossier

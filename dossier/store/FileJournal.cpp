@@ -194,7 +194,7 @@ void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) 
 Sleutel FileJournal::AddPeriod(Sleutel kolom) {
   // In an edit that has failed the entry is not stored; it gets a key of its own all the same.
   Sleutel sleutel = 0;
-  Write([&](Database&) { sleutel = writer_.VoegPeriodeToe(kolom); });
+  Write([&](Database&) { sleutel = writer_.AddPeriode(kolom); });
   return sleutel != 0 ? sleutel : writer_.Volgende();
 }
 
@@ -219,7 +219,7 @@ void FileJournal::RemovePeriod(Sleutel periode) {
 void FileJournal::AddColumn(Sleutel lening, KolomGegevens& kolom) {
   Write([&](Database&) {
     MustBePossible(!FirstImpossible(kolom));
-    writer_.VoegKolomToe(lening, kolom);
+    writer_.AddKolom(lening, kolom);
   });
 }
 
@@ -248,7 +248,7 @@ void FileJournal::AddLoan(LeningGegevens& lening) {
   Write([&](Database& database) {
     const int nummer = database.Value(QStringLiteral("SELECT max(nummer) + 1 FROM lening")).toInt();
     MustBePossible(IsPossibleText(lening.Naam) && static_cast<std::size_t>(nummer) <= kMostLoans);
-    writer_.VoegLeningToe(nummer, lening);
+    writer_.AddLening(nummer, lening);
   });
 }
 
@@ -256,7 +256,7 @@ void FileJournal::SetPersons(const std::vector<PersoonGegevens>& personen) {
   Write([&](Database& database) {
     for (const PersoonGegevens& persoon : personen) MustBePossible(!FirstImpossible(persoon));
     database.Run(QStringLiteral("DELETE FROM persoon"));
-    writer_.SchrijfPersonen(personen);
+    writer_.WritePersonen(personen);
   });
 }
 

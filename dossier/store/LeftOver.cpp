@@ -37,7 +37,7 @@ class Copy {
 bool Belongs(Database& file, Database& together) {
   const std::vector<qint64> before = ReadStates(file);
   const std::vector<qint64> after = ReadStates(together);
-  if (before.empty()) return LeesDossier(file).gegevens == LeesDossier(together).gegevens;
+  if (before.empty()) return ReadDossier(file).gegevens == ReadDossier(together).gegevens;
   return std::find(after.begin(), after.end(), before.back()) != after.end();
 }
 
@@ -55,7 +55,7 @@ bool IsProved(const QString& copy, Database& together) {
 /// Checks and reads all of it.
 DossierGegevens ReadChecked(Database& database, const QString& path) {
   ControleerInhoud(database, path);
-  DossierGegevens contents = LeesDossier(database).gegevens;
+  DossierGegevens contents = ReadDossier(database).gegevens;
   CheckPossible(contents, path);
   return contents;
 }

@@ -246,7 +246,7 @@ void LeesInhoud(Database& database, StoredDossier& gelezen) {
 
 }  // namespace
 
-StoredDossier LeesDossier(Database& database) {
+StoredDossier ReadDossier(Database& database) {
   StoredDossier gelezen;
   DossierGegevens& dossier = gelezen.gegevens;
   std::size_t dossiers = 0;

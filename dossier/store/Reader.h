@@ -34,6 +34,6 @@ class ContentsError : public DatabaseError {
 
 /// Reads a loan file. Throws DatabaseError where the file cannot be read, and ContentsError where it holds what no
 /// program of this version wrote: a number out of its range, a part that is missing.
-[[nodiscard]] StoredDossier LeesDossier(Database& database);
+[[nodiscard]] StoredDossier ReadDossier(Database& database);
 
 }  // namespace brivane::dossier

@@ -45,10 +45,10 @@ void Schrijf(Database& database, const char* tabel, std::initializer_list<const 
 
 }  // namespace
 
-void Writer::SchrijfDossier(DossierGegevens dossier) {
+void Writer::WriteDossier(DossierGegevens dossier) {
   database_.Run(QStringLiteral("BEGIN IMMEDIATE"));
   Schrijf(database_, "dossier", {"enig", "leeftijd"}, 1, dossier.Leeftijd);
-  SchrijfPersonen(dossier.Personen);
+  WritePersonen(dossier.Personen);
   int volgorde = 0;
   for (const Code& code : dossier.MaatschappijType) {
     Schrijf(database_, "maatschappij_type", {"volgorde", "code", "tekst"}, ++volgorde, code.code, code.tekst);
@@ -56,8 +56,8 @@ void Writer::SchrijfDossier(DossierGegevens dossier) {
   dossier.Leningen.insert(dossier.Leningen.begin(), std::move(dossier.HuidigeLening));
   int nummer = 0;
   for (LeningGegevens& lening : dossier.Leningen) {
-    VoegLeningToe(nummer++, lening);
-    for (KolomGegevens& kolom : lening.VrijeKolommen) VoegKolomToe(lening.Sleutel, kolom);
+    AddLening(nummer++, lening);
+    for (KolomGegevens& kolom : lening.VrijeKolommen) AddKolom(lening.Sleutel, kolom);
   }
   std::int16_t voorstel = 0;
   for (const auto& leden : dossier.Voorstellen) {
@@ -67,12 +67,12 @@ void Writer::SchrijfDossier(DossierGegevens dossier) {
   database_.Run(QStringLiteral("COMMIT"));
 }
 
-void Writer::VoegLeningToe(int nummer, LeningGegevens& lening) {
+void Writer::AddLening(int nummer, LeningGegevens& lening) {
   lening.Sleutel = Volgende();
   Schrijf(database_, "lening", {"sleutel", "nummer", "naam"}, lening.Sleutel, nummer, lening.Naam);
 }
 
-void Writer::SchrijfPersonen(const std::vector<PersoonGegevens>& personen) {
+void Writer::WritePersonen(const std::vector<PersoonGegevens>& personen) {
   int nummer = 0;
   for (const PersoonGegevens& persoon : personen) {
     Schrijf(database_, "persoon", {"nummer", "naam_1", "naam_2", "naam_3", "geboortedatum"}, ++nummer, persoon.Naam[0],
@@ -80,7 +80,7 @@ void Writer::SchrijfPersonen(const std::vector<PersoonGegevens>& personen) {
   }
 }
 
-void Writer::VoegKolomToe(Sleutel lening, KolomGegevens& kolom) {
+void Writer::AddKolom(Sleutel lening, KolomGegevens& kolom) {
   if (!kolom_) {
     Insert insert;
     insert.Neem("sleutel", kolom.Sleutel);
@@ -96,10 +96,10 @@ void Writer::VoegKolomToe(Sleutel lening, KolomGegevens& kolom) {
   kolom_->bindValue(plaats++, AlsVariant(Volgende()));
   BezoekKolom(kolom, [&](std::string_view, const auto& waarde) { kolom_->bindValue(plaats++, AlsVariant(waarde)); });
   Database::Run(*kolom_);
-  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) SchrijfPeriode(kolom.Sleutel, periode);
+  for (PeriodeGegevens& periode : kolom.Bedrag.Perioden) WritePeriode(kolom.Sleutel, periode);
 }
 
-void Writer::SchrijfPeriode(Sleutel kolom, PeriodeGegevens& periode) {
+void Writer::WritePeriode(Sleutel kolom, PeriodeGegevens& periode) {
   periode.Sleutel = Volgende();
   Insert insert;
   insert.Neem("sleutel", periode.Sleutel);
@@ -113,7 +113,7 @@ void Writer::SchrijfPeriode(Sleutel kolom, PeriodeGegevens& periode) {
   Database::Run(query);
 }
 
-Sleutel Writer::VoegPeriodeToe(Sleutel kolom) {
+Sleutel Writer::AddPeriode(Sleutel kolom) {
   if (!periode_) periode_ = database_.Prepare(QStringLiteral("INSERT INTO periode (sleutel, kolom) VALUES (?, ?)"));
   const Sleutel sleutel = Volgende();
   periode_->bindValue(0, AlsVariant(sleutel));

@@ -16,16 +16,16 @@ class Writer {
   Writer(Database& database, Sleutel eerste) : database_(database), volgende_(eerste) {}
 
   /// Writes a case into a file without rows, in one transaction.
-  void SchrijfDossier(DossierGegevens dossier);
+  void WriteDossier(DossierGegevens dossier);
   // The rest are parts of a transaction.
 
   /// Appends the loan of that number, without columns, and fills in its key.
-  void VoegLeningToe(int nummer, LeningGegevens& lening);
-  void SchrijfPersonen(const std::vector<PersoonGegevens>& personen);
+  void AddLening(int nummer, LeningGegevens& lening);
+  void WritePersonen(const std::vector<PersoonGegevens>& personen);
   /// Appends a column with its periods to a loan and fills in their keys.
-  void VoegKolomToe(Sleutel lening, KolomGegevens& kolom);
+  void AddKolom(Sleutel lening, KolomGegevens& kolom);
   /// Appends an empty period entry.
-  Sleutel VoegPeriodeToe(Sleutel kolom);
+  Sleutel AddPeriode(Sleutel kolom);
   /// A key, or a place at the end of any order, that was not given out before.
   [[nodiscard]] Sleutel Volgende() { return volgende_++; }
   /// Frees the prepared statements, so that the connection can be closed.
@@ -33,7 +33,7 @@ class Writer {
 
  private:
   /// Writes a period entry and fills in its key.
-  void SchrijfPeriode(Sleutel kolom, PeriodeGegevens& periode);
+  void WritePeriode(Sleutel kolom, PeriodeGegevens& periode);
 
   Database& database_;
   Sleutel volgende_;

@@ -197,7 +197,7 @@ void Session::Do(const ActStep& step, const Running& running) {
 }
 
 void Session::Do(const ScenarioStep& step, const Running&) {
-  const std::shared_ptr<dossier::VrijeKolom> kolom = case_->ZoekKolom(step.Len_Id, step.Vrij_Id);
+  const std::shared_ptr<dossier::VrijeKolom> kolom = case_->FindKolom(step.Len_Id, step.Vrij_Id);
   subject_->ShowScenario(step, host_.StandInFor(host::Need(kolom).Bedrag()));
 }
 

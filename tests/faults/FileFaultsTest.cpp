@@ -176,7 +176,7 @@ TEST(FileFaults, TwoWindows) {
   TryOften("two windows", [](Try& one) -> std::string {
     EXPECT_TRUE(QFile::link(one.Path(), one.Path("koppeling.dossier")));
     auto first = DossierFile::Open(one.Toss() ? one.Path() : one.Path("koppeling.dossier"));
-    const auto column = first->Dossier()->ZoekKolom(0, 1);
+    const auto column = first->Dossier()->FindKolom(0, 1);
     for (int n = 1; n <= 5; ++n) {
       EXPECT_EQ(Problem(one.Toss() ? one.Path() : one.Path("koppeling.dossier")), OpeningProblem::InUse);
       column->SetLooptijd(n);

@@ -78,7 +78,7 @@ void Try::Wait(int most) {
 Number NumberIn(const QString& file) {
   const auto open = DossierFile::Open(file);
   EXPECT_TRUE(open->ControleerHeelheid().isEmpty());
-  return open->Dossier()->ZoekKolom(0, 1)->Looptijd();
+  return open->Dossier()->FindKolom(0, 1)->Looptijd();
 }
 
 std::optional<dossier::OpeningProblem> Problem(const QString& file) {

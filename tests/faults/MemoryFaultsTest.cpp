@@ -221,7 +221,7 @@ bool Run(const Named& session, long nth, long together, Tried& tried) {
     const Traced start = bench.Trace();
     bench.Bind(0, 1);
     EXPECT_EQ(bench.Do("TxtOm", Enter{std::string("hersteld")}), controls::Outcome::Done);
-    EXPECT_EQ(bench.Case().ZoekKolom(0, 1)->Omschrijving(), "hersteld");
+    EXPECT_EQ(bench.Case().FindKolom(0, 1)->Omschrijving(), "hersteld");
     EXPECT_EQ(bench.Trace().reports, start.reports);
     EXPECT_EQ(bench.Trace().running, 0u);
     EXPECT_FALSE(bench.Editor().Filling());

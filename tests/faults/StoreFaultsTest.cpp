@@ -104,7 +104,7 @@ class Session {
     bench.Bind(0, 1);
     bench.Type("TxtOm", std::string("hersteld"));
     EXPECT_TRUE(bench.reports.empty() && bench.failed.empty());
-    EXPECT_EQ(file->Dossier()->ZoekKolom(0, 1)->Omschrijving(), "hersteld");
+    EXPECT_EQ(file->Dossier()->FindKolom(0, 1)->Omschrijving(), "hersteld");
   }
 
   FaultyVfs vfs_;

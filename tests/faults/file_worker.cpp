@@ -61,7 +61,7 @@ int main(int count, char** arguments) {
   Disk disk(count, arguments);
   try {
     const auto open = DossierFile::Open(file);
-    const auto column = open->Dossier()->ZoekKolom(0, 1);
+    const auto column = open->Dossier()->FindKolom(0, 1);
     int number = std::atoi(arguments[2]);
     QTimer work;
     QObject::connect(&work, &QTimer::timeout, [&] {

@@ -186,7 +186,7 @@ class RandomSession {
 
  private:
   [[nodiscard]] controls::Surface& Explanation() { return static_cast<controls::Surface&>(bench_.Find("Toelichting")); }
-  [[nodiscard]] KolomGegevens Record() const { return dossier_->ZoekKolom(Len_Id_, Vrij_Id_)->Gegevens(); }
+  [[nodiscard]] KolomGegevens Record() const { return dossier_->FindKolom(Len_Id_, Vrij_Id_)->Gegevens(); }
 
   void Word(const std::string& what) {
     ++actions;
@@ -199,7 +199,7 @@ class RandomSession {
       do {
         Len_Id_ = static_cast<std::int16_t>(draw_.Between(0, 2));
         Vrij_Id_ = static_cast<std::int16_t>(draw_.Between(1, 4));
-      } while (!dossier_->ZoekKolom(Len_Id_, Vrij_Id_));
+      } while (!dossier_->FindKolom(Len_Id_, Vrij_Id_));
     }
     Word("bind");
     bench_.Bind(Len_Id_, Vrij_Id_);

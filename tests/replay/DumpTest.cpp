@@ -152,7 +152,7 @@ TEST(Dump, AColumnThatWasRemovedStaysTheBoundRecord) {
   Session session(document, [&](std::string_view line) { last = line; });
   session.Run();
   EXPECT_EQ(Json::parse(last)["dump"]["record"]["Omschrijving"], "x");
-  EXPECT_TRUE(session.Case().ZoekLening(1)->Kolommen().empty());
+  EXPECT_TRUE(session.Case().FindLening(1)->Kolommen().empty());
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(InstrumentedHostTest, AnObjectHasOneStandIn) {
   EXPECT_EQ(kolom, dossier->HuidigeLening()->VrijeKolommen(1));
   EXPECT_EQ(kolom, dossier->HuidigeLening()->VrijeKolomOp(1));
   EXPECT_EQ(kolom->Bedrag(), kolom->Bedrag());
-  EXPECT_EQ(InnerOf(kolom), inner_->Bestand()->ZoekKolom(0, 1));
+  EXPECT_EQ(InnerOf(kolom), inner_->Bestand()->FindKolom(0, 1));
 }
 
 TEST_F(InstrumentedHostTest, NothingStaysNothing) {
@@ -69,7 +69,7 @@ TEST_F(InstrumentedHostTest, NothingStaysNothing) {
   EXPECT_EQ(dossier->Lening(1)->VrijeKolomOp(1), nullptr);
   EXPECT_EQ(dossier->HuidigeLening()->VrijeKolom(1)->Bedrag()->Periode(1), nullptr);
   EXPECT_EQ(InnerOf(std::shared_ptr<host::VrijeKolomItem>()), nullptr);
-  EXPECT_EQ(InnerOf(std::shared_ptr<host::VrijeKolomItem>(inner_->Bestand()->ZoekKolom(0, 1))), nullptr);
+  EXPECT_EQ(InnerOf(std::shared_ptr<host::VrijeKolomItem>(inner_->Bestand()->FindKolom(0, 1))), nullptr);
 }
 
 TEST_F(InstrumentedHostTest, TheBaseAmountHasTwoNames) {

@@ -280,7 +280,7 @@ TEST(Faults, AFailedWriteLeavesTheRecord) {
                     {"do": "enter", "control": "TxtOm", "value": "wordt"}]})");
   Session session(document, [](std::string_view) {});
   session.Run();
-  EXPECT_EQ(session.Case().ZoekKolom(0, 1)->Omschrijving(), "was");
+  EXPECT_EQ(session.Case().FindKolom(0, 1)->Omschrijving(), "was");
   EXPECT_EQ(session.Ledger().Struck(), 1u);
 }
 
@@ -357,7 +357,7 @@ TEST(LiveHost, IsWhatTheSessionWorksOnWhateverItsDocumentStartsFrom) {
       document, [](std::string_view) {}, {live, std::make_shared<dossier::Application>(live), factories},
       MakeMemorySubject);
   session.Run();
-  EXPECT_EQ(live->ZoekKolom(0, 1)->Bedrag()->Bedrag(), 7);
+  EXPECT_EQ(live->FindKolom(0, 1)->Bedrag()->Bedrag(), 7);
   EXPECT_EQ(&session.Case(), live.get());
   // One for the editor, one for its explanation.
   EXPECT_EQ(tracers, 2);

@@ -140,7 +140,7 @@ class Session {
     if (!screen.Shown().Vrij_Id) return;
     const auto& editor = screen.Kolom().Editor();
     if (AnyPending(editor) || qt::ChoiceBox::UnderWayWithin(editor) != nullptr) return;
-    const auto column = screen.Dossier().ZoekKolom(screen.Shown().Len_Id, *screen.Shown().Vrij_Id);
+    const auto column = screen.Dossier().FindKolom(screen.Shown().Len_Id, *screen.Shown().Vrij_Id);
     ASSERT_TRUE(column) << "the screen shows a column that is not there";
     const QWidget* description = editor.findChild<QWidget*>(QStringLiteral("TxtOm"));
     ASSERT_NE(description, nullptr);

@@ -195,7 +195,7 @@ void RecordedSession::Toelichting() {
   bool cancel = false;
   recorder_->Do(replay::ValidationStep{replay::Target::Toelichting, 0, false},
                 [&] { editor_->Toelichting().Validation(cancel); });
-  EXPECT_EQ(dossier_->ZoekKolom(0, 5)->Omschrijving(), "Lijfrente, na overlijden");
+  EXPECT_EQ(dossier_->FindKolom(0, 5)->Omschrijving(), "Lijfrente, na overlijden");
   Do("Toelichting.TxtPcOvergang", Enter{101.0});
   Do("Toelichting.TxtPcOvergang", Enter{70.0});
 }
@@ -213,12 +213,12 @@ void RecordedSession::ScenarioForm() {
     EXPECT_EQ(Do(surface, "txtBedrag", Enter{1.0}, 1), Outcome::Ignored);
   });
   Do("cmdScenario", Press{});
-  EXPECT_EQ(dossier_->ZoekKolom(0, 5)->Gegevens().Bedrag.Bedrag, 6000);
+  EXPECT_EQ(dossier_->FindKolom(0, 5)->Gegevens().Bedrag.Bedrag, 6000);
   Leave();
 
   // Amounts alone, with a one-off: closed without OK, so only the first row is kept.
   Bind(1, 7);
-  const std::size_t perioden = dossier_->ZoekKolom(1, 7)->Gegevens().Bedrag.Perioden.size();
+  const std::size_t perioden = dossier_->FindKolom(1, 7)->Gegevens().Bedrag.Perioden.size();
   OnForm([this](controls::Surface& surface) {
     Do(surface, "txtBedrag", Enter{120.0}, 1);
     Do(surface, "chkEenmalig", Tick{host::kTicked}, 3);
@@ -226,8 +226,8 @@ void RecordedSession::ScenarioForm() {
     EXPECT_EQ(surface.Perform(Close{}), Outcome::Done);
   });
   Do("cmdScenario", Press{});
-  EXPECT_EQ(dossier_->ZoekKolom(1, 7)->Gegevens().Bedrag.Bedrag, 120);
-  EXPECT_EQ(dossier_->ZoekKolom(1, 7)->Gegevens().Bedrag.Perioden.size(), perioden);
+  EXPECT_EQ(dossier_->FindKolom(1, 7)->Gegevens().Bedrag.Bedrag, 120);
+  EXPECT_EQ(dossier_->FindKolom(1, 7)->Gegevens().Bedrag.Perioden.size(), perioden);
   Do("TxtAnMaand", Enter{200.0});
   EXPECT_TRUE(Leave());
 }

@@ -163,14 +163,14 @@ TEST(RecorderTest, AChangeOfTheCaseBetweenStepsEndsTheRecordingBeforeTheNextOne)
   session.Bind(0, 1);
   session.Do("TxtBd", Enter{500.0});
   const replay::Document before = session.Recorder().Document();
-  session.Dossier().NieuweKolom(0);
+  session.Dossier().NewKolom(0);
   EXPECT_TRUE(session.Recorder().IsRunning());
   session.Bind(0, 2);
   session.Do("TxtBd", Enter{40.0});
   EXPECT_FALSE(session.Recorder().IsRunning());
   EXPECT_EQ(broken, 1);
   EXPECT_EQ(replay::WriteDocument(session.Recorder().Document()), replay::WriteDocument(before));
-  EXPECT_EQ(session.Dossier().ZoekKolom(0, 2)->Gegevens().Bedrag.Bedrag, 40);
+  EXPECT_EQ(session.Dossier().FindKolom(0, 2)->Gegevens().Bedrag.Bedrag, 40);
 }
 
 TEST(RecorderTest, TheHostInTheMiddleOfAStepEndsTheRecordingBeforeThatStep) {

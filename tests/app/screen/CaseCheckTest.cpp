@@ -57,7 +57,7 @@ TEST(CaseCheckTest, LeavesTheCaseAlone) {
   gegevens.HuidigeLening.VrijeKolommen[1].IsProduct = true;
   const dossier::Dossier dossier(gegevens, std::make_shared<dossier::Environment>());
   static_cast<void>(CheckAll(dossier, DateOf(21, 11, 2026)));
-  EXPECT_EQ(dossier.ZoekKolom(0, 2)->Productsoort(), 0);
+  EXPECT_EQ(dossier.FindKolom(0, 2)->Productsoort(), 0);
 }
 
 /// The checks would be of the column before it, which has no start date.

@@ -139,7 +139,7 @@ TEST(CommandLineTest, TheSessionInTheWindowStoresWhatItsDocumentWrites) {
 
 TEST(SampleSession, StartsFromTheSampleCaseWithAColumnAdded) {
   dossier::Dossier dossier(dossier::VoorbeeldDossier(), std::make_shared<dossier::Environment>());
-  dossier.NieuweKolom(dossier::Dossier::kHuidig);
+  dossier.NewKolom(dossier::Dossier::kHuidig);
   EXPECT_EQ(replay::ToJson(ReadSampleSession().dossier), replay::ToJson(dossier.Gegevens()));
 }
 

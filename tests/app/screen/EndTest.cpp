@@ -227,7 +227,7 @@ TEST_F(EndTest, ALogOutHandsOverWhatIsTypedAndWorksTheLogOff) {
   EXPECT_EQ(ReadAlone()["0/1/omschrijving"].toString(), "Oppas");
   EXPECT_EQ(Kept(), 0u);
   // It may have been called off: the work goes on.
-  Screen().Dossier().ZoekKolom(0, 1)->SetLooptijd(17);
+  Screen().Dossier().FindKolom(0, 1)->SetLooptijd(17);
   dialogs_.ExpectMessage("overnemen", Pressing(Qt::Key_Escape));
   EXPECT_EQ(ReadAfterClosing()["0/1/looptijd"].toInt(), 17);
 }

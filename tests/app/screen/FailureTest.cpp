@@ -72,7 +72,7 @@ TEST_F(FailureTest, AColumnThatCannotBeBoundLeavesAnEmptyEditorWithoutAName) {
   EXPECT_EQ(kolom.Leave(), Leaving::May);
   kolom.FocusOmschrijving();
   PressKey(Qt::Key_X);
-  EXPECT_EQ(Screen().Dossier().ZoekKolom(0, 2)->Omschrijving(), "Weekendabonnement");
+  EXPECT_EQ(Screen().Dossier().FindKolom(0, 2)->Omschrijving(), "Weekendabonnement");
   kolom.Show({0, 1});
   EXPECT_TRUE(kolom.Editor().IsBound());
   EXPECT_NE(header->text(), "");
@@ -85,7 +85,7 @@ TEST_F(FailureTest, AColumnThatIsNotStoredDoesNotComeIntoTheTree) {
     QTest::qWait(100);
   });
   EXPECT_EQ(Screen().Shown(), (Place{0, 1}));
-  EXPECT_FALSE(Screen().Dossier().ZoekKolom(0, 8));
+  EXPECT_FALSE(Screen().Dossier().FindKolom(0, 8));
 }
 
 TEST_F(FailureTest, AScenarioThatIsNotStoredIsThereNoMore) {

@@ -131,7 +131,7 @@ TEST_F(FileSafetyTest, ARecordingIsNotWrittenOverTheOpenFileOrAnyOther) {
 
 TEST_F(FileSafetyTest, WhatWasStoredOfADeletedFileIsKeptElsewhere) {
   Open();
-  Screen().Dossier().ZoekKolom(0, 1)->SetOmschrijving("aanvaard");
+  Screen().Dossier().FindKolom(0, 1)->SetOmschrijving("aanvaard");
   ASSERT_TRUE(QFile::remove(file_));
   const QString copy = folder_.filePath("bewaard.dossier");
   dialogs_.Expect([&](QWidget& dialog) {
@@ -142,7 +142,7 @@ TEST_F(FileSafetyTest, WhatWasStoredOfADeletedFileIsKeptElsewhere) {
   window_->Actions().saveCopy->trigger();
   EXPECT_EQ(Screen().File().Pad(), copy);
   EXPECT_EQ(Kolom(0, 1).Omschrijving, "aanvaard");
-  Screen().Dossier().ZoekKolom(0, 1)->SetLooptijd(17);
+  Screen().Dossier().FindKolom(0, 1)->SetLooptijd(17);
   ASSERT_TRUE(window_->CloseDossier());
   EXPECT_EQ(ReadInSecondProcess(copy)["0/1/looptijd"].toInt(), 17);
 }

@@ -7,7 +7,7 @@ namespace brivane::app {
 QJsonObject JsonFields(const dossier::Dossier& dossier) {
   QJsonObject fields;
   for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : dossier.ZoekLening(Len_Id)->Kolommen()) {
+    for (const auto& kolom : dossier.FindLening(Len_Id)->Kolommen()) {
       const dossier::KolomGegevens gegevens = kolom->Gegevens();
       const QString place = QStringLiteral("%1/%2/").arg(Len_Id).arg(gegevens.Id);
       const auto put = [&fields](const QString& prefix) {

@@ -36,7 +36,7 @@ class WindowTest : public testing::Test {
 
   [[nodiscard]] DossierScreen& Screen() { return *window_->Screen(); }
   [[nodiscard]] dossier::KolomGegevens Kolom(std::int16_t Len_Id, std::int16_t Vrij_Id) {
-    const auto kolom = Screen().Dossier().ZoekKolom(Len_Id, Vrij_Id);
+    const auto kolom = Screen().Dossier().FindKolom(Len_Id, Vrij_Id);
     EXPECT_TRUE(kolom) << Len_Id << "/" << Vrij_Id;
     return kolom ? kolom->Gegevens() : dossier::KolomGegevens();
   }

@@ -20,7 +20,7 @@ std::vector<int> Ids(const Lening& lening) {
   for (const auto& kolom : lening.Kolommen()) ids.push_back(kolom->Id());
   return ids;
 }
-std::vector<int> Ids(const Dossier& dossier, std::int16_t Len_Id) { return Ids(*dossier.ZoekLening(Len_Id)); }
+std::vector<int> Ids(const Dossier& dossier, std::int16_t Len_Id) { return Ids(*dossier.FindLening(Len_Id)); }
 
 template <class Function> int ErrorOf(Function&& function) {
   try {
@@ -65,7 +65,7 @@ TEST(Dossier, HasOneOrTwoPersons) {
 
 TEST(Dossier, KeepsItsOwnListsOfProposals) {
   const auto dossier = MakeDossier();
-  const auto kolom = dossier->ZoekKolom(0, 3);
+  const auto kolom = dossier->FindKolom(0, 3);
   dossier->VoegToeAanVoorstel(2, 3);
   dossier->VoegToeAanVoorstel(2, 3);
   EXPECT_THAT(dossier->Voorstel(2), ElementsAre(3));
@@ -74,12 +74,12 @@ TEST(Dossier, KeepsItsOwnListsOfProposals) {
   dossier->VerwijderUitVoorstel(2, 3, 0);
   EXPECT_THAT(dossier->Voorstel(2), IsEmpty());
   EXPECT_THAT(dossier->Voorstel(1), ElementsAre(6));
-  EXPECT_EQ(dossier->ZoekKolom(0, 6)->Voorstel(1), "J");
+  EXPECT_EQ(dossier->FindKolom(0, 6)->Voorstel(1), "J");
 }
 
 TEST(Dossier, KnowsThreeProposals) {
   const auto dossier = MakeDossier();
-  const auto kolom = dossier->ZoekKolom(0, 3);
+  const auto kolom = dossier->FindKolom(0, 3);
   for (const std::int16_t voorstel : {0, 4, -1}) {
     EXPECT_EQ(ErrorOf([&] { dossier->VoegToeAanVoorstel(voorstel, 3); }), 9);
     EXPECT_EQ(ErrorOf([&] { dossier->VerwijderUitVoorstel(voorstel, 3, 0); }), 9);
@@ -90,7 +90,7 @@ TEST(Dossier, KnowsThreeProposals) {
 
 TEST(Dossier, AddsAColumnWithValidCodesAndAnIdentifierOfItsOwn) {
   const auto dossier = MakeDossier();
-  const auto kolom = dossier->NieuweKolom(1);
+  const auto kolom = dossier->NewKolom(1);
   EXPECT_EQ(kolom->Id(), 8);
   EXPECT_EQ(kolom->CorrectieLast(), 1);
   EXPECT_EQ(kolom->CorrectieFiscaal(), 1);
@@ -98,13 +98,13 @@ TEST(Dossier, AddsAColumnWithValidCodesAndAnIdentifierOfItsOwn) {
   EXPECT_EQ(kolom->Termijn(), 1);
   EXPECT_EQ(kolom->Bedrag()->Invoersoort(), 1);
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7, 8));
-  EXPECT_EQ(ErrorOf([&] { dossier->NieuweKolom(3); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->NewKolom(3); }), 91);
 }
 
 TEST(Dossier, GivesNoIdentifierThatAProposalStillNames) {
   const auto dossier = MakeDossier();
   dossier->VoegToeAanVoorstel(1, 20);
-  EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 21);
+  EXPECT_EQ(dossier->NewKolom(0)->Id(), 21);
 }
 
 TEST(Dossier, FillsTheGapsWhereTheHighestIdentifierIsTaken) {
@@ -112,14 +112,14 @@ TEST(Dossier, FillsTheGapsWhereTheHighestIdentifierIsTaken) {
   gegevens.HuidigeLening.VrijeKolommen.resize(2);
   gegevens.HuidigeLening.VrijeKolommen[1].Id = 32767;
   const auto dossier = MakeDossier(gegevens);
-  EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 2);
-  EXPECT_EQ(dossier->NieuweKolom(0)->Id(), 3);
+  EXPECT_EQ(dossier->NewKolom(0)->Id(), 2);
+  EXPECT_EQ(dossier->NewKolom(0)->Id(), 3);
 }
 
 TEST(Dossier, RefusesAColumnWhereEveryIdentifierIsTaken) {
   DossierGegevens gegevens = LeegDossier();
   for (int id = 1; id <= 32767; ++id) gegevens.Voorstellen[0].insert(static_cast<std::int16_t>(id));
-  EXPECT_EQ(ErrorOf([&] { MakeDossier(gegevens)->NieuweKolom(0); }), 6);
+  EXPECT_EQ(ErrorOf([&] { MakeDossier(gegevens)->NewKolom(0); }), 6);
 }
 
 TEST(Dossier, DuplicatesAColumnAsAnItemOfItsOwn) {
@@ -139,13 +139,13 @@ TEST(Dossier, ACopysPeriodsAreItsOwn) {
   EXPECT_EQ(copy->Gegevens().Bedrag.Perioden.size(), 2u);
   copy->Bedrag()->Periode(1)->SetBedrag(1);
   copy->Bedrag()->VerwijderPeriode(2);
-  EXPECT_EQ(dossier->ZoekKolom(0, 1)->Bedrag()->Periode(1)->Bedrag(), 310);
-  EXPECT_NE(dossier->ZoekKolom(0, 1)->Bedrag()->Periode(2), nullptr);
+  EXPECT_EQ(dossier->FindKolom(0, 1)->Bedrag()->Periode(1)->Bedrag(), 310);
+  EXPECT_NE(dossier->FindKolom(0, 1)->Bedrag()->Periode(2), nullptr);
 }
 
 TEST(Dossier, RemovesAnItemFromTheProposalsWhenNoVersionOfItIsLeft) {
   const auto dossier = MakeDossier();
-  dossier->MaakAfwijking(6, 2);
+  dossier->MakeAfwijking(6, 2);
   dossier->Verwijder(0, 6);
   EXPECT_THAT(dossier->Voorstel(1), ElementsAre(6));
   dossier->Verwijder(2, 6);
@@ -155,18 +155,18 @@ TEST(Dossier, RemovesAnItemFromTheProposalsWhenNoVersionOfItIsLeft) {
 
 TEST(Dossier, MovesAColumnUnderItsOwnIdentifier) {
   const auto dossier = MakeDossier();
-  const auto kolom = dossier->ZoekKolom(0, 2);
+  const auto kolom = dossier->FindKolom(0, 2);
   EXPECT_EQ(dossier->Verplaats(0, 2, 1), 2);
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 3, 4, 5, 6));
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7, 2));
-  EXPECT_EQ(dossier->ZoekKolom(1, 2), kolom);
+  EXPECT_EQ(dossier->FindKolom(1, 2), kolom);
 }
 
 TEST(Dossier, MovesAColumnUnderANewIdentifierWhereItsOwnIsTaken) {
   const auto dossier = MakeDossier();
   EXPECT_EQ(dossier->Verplaats(1, 1, 0), 8);
   EXPECT_THAT(Ids(*dossier, 0), ElementsAre(1, 2, 3, 4, 5, 6, 8));
-  EXPECT_EQ(dossier->ZoekKolom(0, 8)->Bedrag()->Bedrag(), 310);
+  EXPECT_EQ(dossier->FindKolom(0, 8)->Bedrag()->Bedrag(), 310);
 }
 
 TEST(Dossier, AMoveToTheSameLoanChangesNothing) {
@@ -188,8 +188,8 @@ TEST(NieuweSituatie, FollowsTheCurrentOneWhereItHasNoVersionOfItsOwn) {
 
 TEST(NieuweSituatie, GetsAVersionThatIsEqualAtFirst) {
   const auto dossier = MakeDossier();
-  const auto afwijking = dossier->MaakAfwijking(5, 2);
-  KolomGegevens kolom = dossier->ZoekKolom(0, 5)->Gegevens();
+  const auto afwijking = dossier->MakeAfwijking(5, 2);
+  KolomGegevens kolom = dossier->FindKolom(0, 5)->Gegevens();
   KolomGegevens version = afwijking->Gegevens();
   EXPECT_NE(version.Sleutel, kolom.Sleutel);
   version.Sleutel = kolom.Sleutel;
@@ -200,12 +200,12 @@ TEST(NieuweSituatie, GetsAVersionThatIsEqualAtFirst) {
 
 TEST(NieuweSituatie, HasOneVersionOfAnItemInALoan) {
   const auto dossier = MakeDossier();
-  const auto existing = dossier->ZoekKolom(1, 1);
-  EXPECT_EQ(dossier->MaakAfwijking(1, 1), existing);
+  const auto existing = dossier->FindKolom(1, 1);
+  EXPECT_EQ(dossier->MakeAfwijking(1, 1), existing);
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7));
-  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(1, 0); }), 91);
-  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(1, 9); }), 91);
-  EXPECT_EQ(ErrorOf([&] { dossier->MaakAfwijking(99, 1); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MakeAfwijking(1, 0); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MakeAfwijking(1, 9); }), 91);
+  EXPECT_EQ(ErrorOf([&] { dossier->MakeAfwijking(99, 1); }), 91);
 }
 
 TEST(Lening, FindsTheFirstOfTwoColumnsWithOneIdentifier) {
@@ -232,7 +232,7 @@ TEST(Lening, CountsPositionsFromOne) {
 }
 
 TEST(Bedrag, IsOneNumberUnderTwoNames) {
-  const auto bedrag = MakeDossier()->ZoekKolom(0, 1)->Bedrag();
+  const auto bedrag = MakeDossier()->FindKolom(0, 1)->Bedrag();
   bedrag->SetBasisbedrag(12.5);
   EXPECT_EQ(bedrag->Bedrag(), 12.5);
   bedrag->SetBedrag(13.5);
@@ -241,14 +241,14 @@ TEST(Bedrag, IsOneNumberUnderTwoNames) {
 
 TEST(Bedrag, LivesAsLongAsItsColumnIsHeld) {
   auto dossier = MakeDossier();
-  const auto bedrag = dossier->ZoekKolom(0, 1)->Bedrag();
+  const auto bedrag = dossier->FindKolom(0, 1)->Bedrag();
   dossier->Verwijder(0, 1);
   dossier.reset();
   EXPECT_EQ(bedrag->Bedrag(), 485.5);
 }
 
 TEST(Bedrag, KeepsItsPeriodsInTheOrderOfAdding) {
-  const auto bedrag = MakeDossier()->ZoekKolom(0, 2)->Bedrag();
+  const auto bedrag = MakeDossier()->FindKolom(0, 2)->Bedrag();
   EXPECT_EQ(bedrag->Periode(1), nullptr);
   EXPECT_EQ(bedrag->NieuwePeriode(), 1);
   EXPECT_EQ(bedrag->NieuwePeriode(), 2);
@@ -263,7 +263,7 @@ TEST(Bedrag, KeepsItsPeriodsInTheOrderOfAdding) {
 }
 
 TEST(Bedrag, ANewPeriodIsEmpty) {
-  const auto bedrag = MakeDossier()->ZoekKolom(0, 2)->Bedrag();
+  const auto bedrag = MakeDossier()->FindKolom(0, 2)->Bedrag();
   const auto periode = bedrag->Periode(bedrag->NieuwePeriode());
   EXPECT_EQ(periode->Maand(), 0);
   EXPECT_EQ(periode->Bedrag(), 0);
@@ -295,7 +295,7 @@ TEST(Journal, RefusingAChangeLeavesTheMemoryAsItWas) {
   auto environment = std::make_shared<Environment>();
   environment->Journal = std::make_shared<Refuser>();
   const auto dossier = std::make_shared<Dossier>(VoorbeeldDossier(), environment);
-  const auto kolom = dossier->ZoekKolom(0, 1);
+  const auto kolom = dossier->FindKolom(0, 1);
   const auto bedrag = kolom->Bedrag();
   const auto periode = bedrag->Periode(1);
   const DossierGegevens before = dossier->Gegevens();
@@ -337,11 +337,11 @@ TEST(Journal, RefusingAChangeLeavesTheMemoryAsItWas) {
       [&] { dossier->VoegToeAanVoorstel(1, 1); },
       [&] { dossier->VerwijderUitVoorstel(1, 6, 0); },
       [&] { dossier->HuidigeLening()->VerwijderVrijeKolom(1); },
-      [&] { dossier->NieuweKolom(0); },
+      [&] { dossier->NewKolom(0); },
       [&] { dossier->Dupliceer(0, 1); },
       [&] { dossier->Verwijder(0, 1); },
       [&] { dossier->Verplaats(0, 2, 1); },
-      [&] { dossier->MaakAfwijking(2, 1); },
+      [&] { dossier->MakeAfwijking(2, 1); },
       [&] { dossier->NieuweLening("x"); },
       [&] {
         dossier->SetClient({{.Naam = {"a", "b", "c"}, .Geboortedatum = {}}}, 1);

@@ -60,7 +60,7 @@ class FieldsTest : public testing::Test {
   }
 
   Dossier dossier_{OneColumn(), std::make_shared<Environment>()};
-  std::shared_ptr<VrijeKolom> kolom_ = dossier_.ZoekKolom(0, 1);
+  std::shared_ptr<VrijeKolom> kolom_ = dossier_.FindKolom(0, 1);
   int tried_ = 0;
 };
 

@@ -82,7 +82,7 @@ TEST(AtRestTest, AnEditOfManyChangesIsNotCutInTwo) {
   const auto open = DossierFile::Open(path);
   const DossierGegevens before = open->Dossier()->Gegevens();
   open->Bewerkingen().InOneEdit([&] {
-    open->Dossier()->ZoekKolom(0, 1)->SetOmschrijving("half");
+    open->Dossier()->FindKolom(0, 1)->SetOmschrijving("half");
     idle.Wait(900);
     EXPECT_EQ(OfACopy(path), before);
   });
@@ -94,7 +94,7 @@ TEST(AtRestTest, WithoutAnEventLoopTheLogStaysWithinBounds) {
   const Folder folder;
   const QString path = folder.Make();
   const auto open = DossierFile::Open(path);
-  const auto column = open->Dossier()->ZoekKolom(0, 1);
+  const auto column = open->Dossier()->FindKolom(0, 1);
   qint64 largest = 0;
   for (int n = 0; n < 1200; ++n) {
     column->SetLooptijd(n);
@@ -118,7 +118,7 @@ TEST(AtRestTest, AFileOfTheFirstVersionIsTakenOver) {
   {
     const auto open = DossierFile::Open(path);
     EXPECT_EQ(OfACopy(path), open->Dossier()->Gegevens());
-    open->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+    open->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
   }
   EXPECT_EQ(folder.Contents(), QStringList("test.dossier"));
   EXPECT_EQ(ReadBack(path).HuidigeLening.VrijeKolommen.front().Looptijd, 17);

@@ -118,7 +118,7 @@ TEST_F(EditorOnFileTest, EachAcceptedEditIsOneTransaction) {
   EXPECT_EQ(kolom.Maatschappij, "BV");
   EXPECT_EQ(kolom.Productnaam, "Zaterdag");
   EXPECT_EQ(kolom.Contractvervaldatum, DateOf(31, 12, 2029));
-  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 3)->Gegevens(), kolom);
+  EXPECT_EQ(file_->Dossier()->FindKolom(0, 3)->Gegevens(), kolom);
   EXPECT_TRUE(desk_.reports.empty());
 }
 
@@ -158,7 +158,7 @@ TEST_F(EditorOnFileTest, TickingAProposalRegistersTheColumnInTheSameTransaction)
 }
 
 TEST_F(EditorOnFileTest, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) {
-  file_->Dossier()->MaakAfwijking(1, 2);
+  file_->Dossier()->MakeAfwijking(1, 2);
   file_->Dossier()->VoegToeAanVoorstel(3, 1);
   desk_.Do("TxtOm", Enter{std::string("Buitenschoolse opvang")});
   desk_.Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::Yes; };
@@ -201,7 +201,7 @@ TEST_F(EditorOnFileTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWith
     EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); }), 0);
     EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
     EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
-    EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+    EXPECT_EQ(file_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
   };
   EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
   const KolomGegevens kolom = KolomOnDisk(1);
@@ -218,7 +218,7 @@ TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransaction
   desk_.Toolkit().Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
     ++messages;
     // Nothing is undone: the list was emptied before the third row could not be read.
-    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, file_->Dossier()->ZoekKolom(0, 1)->Gegevens().Bedrag.Perioden);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, file_->Dossier()->FindKolom(0, 1)->Gegevens().Bedrag.Perioden);
     EXPECT_NE(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
     return host::MessageAnswer::Ok;
   };
@@ -234,7 +234,7 @@ TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransaction
   };
   EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
   EXPECT_EQ(messages, 1);
-  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+  EXPECT_EQ(file_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
 }
 
 TEST_F(EditorOnFileTest, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {

@@ -47,7 +47,7 @@ class FailedStoringTest : public testing::Test {
     file_.reset();
     EXPECT_EQ(ReadBack(path_), inMemory);
   }
-  [[nodiscard]] dossier::VrijeKolom& Kolom() { return *file_->Dossier()->ZoekKolom(0, 1); }
+  [[nodiscard]] dossier::VrijeKolom& Kolom() { return *file_->Dossier()->FindKolom(0, 1); }
   /// Size of the log: what lies behind it cannot be written.
   [[nodiscard]] qint64 LogSize() const { return QFileInfo(path_ + "-wal").size(); }
 
@@ -86,7 +86,7 @@ TEST_F(FailedStoringTest, AnEditThatTheDiskCannotHoldIsReportedOnceAndTheMemoryS
 
 TEST_F(FailedStoringTest, NothingOfAnEditOfSeveralChangesStays) {
   desk_.Bind(0, 5);
-  dossier::VrijeKolom& kolom = *file_->Dossier()->ZoekKolom(0, 5);
+  dossier::VrijeKolom& kolom = *file_->Dossier()->FindKolom(0, 5);
   const KolomGegevens before = kolom.Gegevens();
   ASSERT_TRUE(before.ScenarioOverlijden);
   {
@@ -100,14 +100,14 @@ TEST_F(FailedStoringTest, NothingOfAnEditOfSeveralChangesStays) {
 }
 
 TEST_F(FailedStoringTest, TheColumnAndItsPeriodsStayTheSameObjects) {
-  const auto kolom = file_->Dossier()->ZoekKolom(0, 1);
+  const auto kolom = file_->Dossier()->FindKolom(0, 1);
   const auto bedrag = kolom->Bedrag();
   const auto periode = bedrag->Periode(2);
   {
     const FullDisk full(LogSize());
     desk_.Do("TxtOm", Enter{std::string("past niet meer")});
   }
-  EXPECT_EQ(file_->Dossier()->ZoekKolom(0, 1), kolom);
+  EXPECT_EQ(file_->Dossier()->FindKolom(0, 1), kolom);
   EXPECT_EQ(kolom->Bedrag(), bedrag);
   EXPECT_EQ(bedrag->Periode(2), periode);
 }
@@ -166,9 +166,9 @@ TEST_F(FailedStoringTest, TheFirstRowOfTheScenarioFormThatCannotBeStoredIsToldBy
 /// A loan file on a connection of the test's own.
 struct OwnConnection {
   explicit OwnConnection(const QString& path) : database(new Database(path, Access::ReadWrite)) {
-    StoredDossier stored = LeesDossier(*database);
+    StoredDossier stored = ReadDossier(*database);
     journal = std::make_shared<FileJournal>(std::unique_ptr<Database>(database), stored.hoogste + 1,
-                                            [this](Database& again) { dossier->Herlaad(LeesDossier(again).gegevens); });
+                                            [this](Database& again) { dossier->Herlaad(ReadDossier(again).gegevens); });
     auto environment = std::make_shared<Environment>();
     environment->Journal = journal;
     dossier = std::make_shared<dossier::Dossier>(std::move(stored.gegevens), std::move(environment));
@@ -188,11 +188,11 @@ TEST(FailedWriteTest, AFullFileIsReportedOnceByTheHandlerThatWrites) {
   desk.Do("TxtOm", Enter{std::string(50000, 'x')});
   ExpectOneReport(desk.reports, "het dossier is zo groot als een dossier kan zijn");
   EXPECT_EQ(desk.reports[0].ErrorNumber, "1013");
-  EXPECT_EQ(own.dossier->ZoekKolom(0, 1)->Omschrijving(), "Kinderopvang");
+  EXPECT_EQ(own.dossier->FindKolom(0, 1)->Omschrijving(), "Kinderopvang");
   // What needs no room is stored.
   desk.Do("TxtOm", Enter{std::string("kort")});
   EXPECT_EQ(desk.reports.size(), 1u);
-  EXPECT_EQ(own.dossier->ZoekKolom(0, 1)->Omschrijving(), "kort");
+  EXPECT_EQ(own.dossier->FindKolom(0, 1)->Omschrijving(), "kort");
 }
 
 TEST(FailedWriteTest, AFileThatTurnsReadOnlyIsReportedOnceByEachHandler) {
@@ -201,23 +201,23 @@ TEST(FailedWriteTest, AFileThatTurnsReadOnlyIsReportedOnceByEachHandler) {
   own.database->Run(QStringLiteral("PRAGMA query_only = ON"));
   Desk desk(own.dossier, {own.journal, &own.journal->Bewerkingen()});
   desk.Bind(0, 3);
-  const KolomGegevens before = own.dossier->ZoekKolom(0, 3)->Gegevens();
+  const KolomGegevens before = own.dossier->FindKolom(0, 3)->Gegevens();
   // Three handlers nest here: the option's, the other option's, and the toggle's. The innermost writes last.
   desk.Do("optLast", Select{}, 1);
   ExpectOneReport(desk.reports, "het bestand is alleen-lezen");
-  EXPECT_EQ(own.dossier->ZoekKolom(0, 3)->Gegevens(), before);
+  EXPECT_EQ(own.dossier->FindKolom(0, 3)->Gegevens(), before);
   own.database->Run(QStringLiteral("PRAGMA query_only = OFF"));
   desk.Bind(0, 3);
   desk.Do("optLast", Select{}, 1);
   EXPECT_EQ(desk.reports.size(), 1u);
-  EXPECT_EQ(own.dossier->ZoekKolom(0, 3)->CorrectieLast(), 1);
+  EXPECT_EQ(own.dossier->FindKolom(0, 3)->CorrectieLast(), 1);
 }
 
 TEST(FailedWriteTest, WhatCannotBeReadAgainIsChangedNoMore) {
   const Folder folder;
   OwnConnection own(folder.Make());
   own.database->Run(QStringLiteral("PRAGMA foreign_keys = ON"));
-  const auto kolom = own.dossier->ZoekKolom(0, 1);
+  const auto kolom = own.dossier->FindKolom(0, 1);
   // The file loses a table while it is open, and then refuses a change.
   own.database->Run(QStringLiteral("DROP TABLE periode"));
   EXPECT_THROW(kolom->Bedrag()->NieuwePeriode(), host::Error);

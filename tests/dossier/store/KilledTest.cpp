@@ -15,7 +15,7 @@ class Expectation {
   [[nodiscard]] const KolomGegevens& After(int n) {
     while (static_cast<int>(states_.size()) <= n) {
       if (!states_.empty()) DoEdit(bound_, static_cast<int>(states_.size()));
-      states_.push_back(WithoutKeys(dossier_->ZoekKolom(0, 1)->Gegevens()));
+      states_.push_back(WithoutKeys(dossier_->FindKolom(0, 1)->Gegevens()));
     }
     return states_[static_cast<std::size_t>(n)];
   }
@@ -75,7 +75,7 @@ TEST(KilledTest, TwoHundredTimesAtAnyMomentTheFileHoldsEveryAcceptedEdit) {
 
     const auto file = DossierFile::Open(path);
     ASSERT_EQ(file->ControleerHeelheid(), QStringList()) << "kill " << turn;
-    const KolomGegevens kolom = Expectation::WithoutKeys(file->Dossier()->ZoekKolom(0, 1)->Gegevens());
+    const KolomGegevens kolom = Expectation::WithoutKeys(file->Dossier()->FindKolom(0, 1)->Gegevens());
     // The edit after the last accepted one may have been stored when the kill struck; as a whole or not at all.
     done = kolom == expectation.After(accepted) ? accepted : accepted + 1;
     ASSERT_EQ(kolom, expectation.After(done)) << "kill " << turn << " after edit " << accepted;

@@ -85,7 +85,7 @@ TEST(LeftOverTest, ABackupThatIsPutBackBesideALaterLogShowsNoRowsOfIt) {
   const QString backup = folder.Path("reserve.dossier");
   ASSERT_TRUE(QFile::copy(path, backup));
   // One session that ended, and one that was killed.
-  DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+  DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
   KillAtWork(path);
   ASSERT_TRUE(QFile::remove(path));
   ASSERT_TRUE(QFile::copy(backup, path));

@@ -29,7 +29,7 @@ TEST(LockTest, OutlivesAnyOtherOpeningAndClosingOfTheFileInTheSameProcess) {
     EXPECT_EQ(second.Line(), kInUse);
     EXPECT_EQ(second.Close(), 0);
   }
-  open->Dossier()->ZoekKolom(0, 1)->SetOmschrijving("werkt door");
+  open->Dossier()->FindKolom(0, 1)->SetOmschrijving("werkt door");
 }
 
 TEST(LockTest, KeepsAnotherProgramOutAfterTheFileWasOpenedAndClosed) {

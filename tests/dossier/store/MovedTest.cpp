@@ -95,10 +95,10 @@ TEST_F(MovedTest, AFolderThatIsRenamed) {
   QDir().mkdir(folder);
   const QString path = folder_.Make(VoorbeeldDossier(), "map/in.dossier");
   const auto open = DossierFile::Open(path);
-  open->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+  open->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
   ASSERT_EQ(rename(QFile::encodeName(folder), QFile::encodeName(folder_.Path("verplaatst"))), 0);
-  EXPECT_THROW(open->Dossier()->ZoekKolom(0, 1)->SetLooptijd(18), host::Error);
-  EXPECT_EQ(open->Dossier()->ZoekKolom(0, 1)->Looptijd(), 17);
+  EXPECT_THROW(open->Dossier()->FindKolom(0, 1)->SetLooptijd(18), host::Error);
+  EXPECT_EQ(open->Dossier()->FindKolom(0, 1)->Looptijd(), 17);
 }
 
 TEST_F(MovedTest, ALogThatIsDeletedOrReplaced) {

@@ -252,14 +252,14 @@ TEST(OpeningTest, AFileWithANameThatLooksLikeAnAddress) {
   const Folder folder;
   const QString path = folder.Make(VoorbeeldDossier(), "50% été?mode=ro#1 &'x'.dossier");
   const auto file = DossierFile::Open(path);
-  file->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
-  EXPECT_EQ(file->Dossier()->ZoekKolom(0, 1)->Looptijd(), 17);
+  file->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
+  EXPECT_EQ(file->Dossier()->FindKolom(0, 1)->Looptijd(), 17);
 }
 
 TEST(OpeningTest, AnEditLeavesTheFilesMarksInPlace) {
   const Folder folder;
   const QString path = folder.Make();
-  DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+  DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
   Database database(path, Access::ReadOnly);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA application_id")).toUInt(), kApplicationId);
   EXPECT_EQ(database.Value(QStringLiteral("PRAGMA user_version")).toInt(), kSchemaVersion);

@@ -131,7 +131,7 @@ TEST(PossibleTest, WhatMakesAFileLargerThanItMayBeIsRefusedAndTheRestOpensAgain)
   {
     const auto open = DossierFile::Open(path);
     try {
-      for (int n = 0; n < 1000; ++n) open->Dossier()->NieuweKolom(0)->SetOmschrijving(longest);
+      for (int n = 0; n < 1000; ++n) open->Dossier()->NewKolom(0)->SetOmschrijving(longest);
     } catch (const host::Error& error) {
       reason = error.Description();
     }
@@ -149,7 +149,7 @@ TEST(PossibleTest, AChangeThatWouldNotOpenAgainIsNotStored) {
   const DossierGegevens before = ReadBack(path);
   {
     const auto open = DossierFile::Open(path);
-    const auto column = open->Dossier()->ZoekKolom(0, 1);
+    const auto column = open->Dossier()->FindKolom(0, 1);
     const std::function<void()> changes[] = {
         [&] { column->Bedrag()->SetBedrag(HUGE_VAL); },
         [&] { column->SetTermijn(4); },

@@ -33,7 +33,7 @@ TEST(PrivateTest, ANewFileAndItsLogAreTheOwnersUnderAnyMask) {
     const QString path = folder.Make();
     EXPECT_EQ(Rights(path), 0600u);
     const auto open = DossierFile::Open(path);
-    open->Dossier()->ZoekKolom(0, 1)->SetLooptijd(17);
+    open->Dossier()->FindKolom(0, 1)->SetLooptijd(17);
     for (const QString& name : folder.Contents()) EXPECT_EQ(Rights(folder.Path(name.toUtf8().constData())), 0600u);
     EXPECT_EQ(folder.Contents().size(), 2);
   }

@@ -81,8 +81,8 @@ TEST(RoundTripTest, ATextComesBackToTheByte) {
   const std::string notUtf8("\xff\xfe");
   const std::string longText(100000, 'x');
   for (const std::string& text : {nul, notUtf8, longText, std::string()}) {
-    DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->SetOmschrijving(text);
-    EXPECT_EQ(DossierFile::Open(path)->Dossier()->ZoekKolom(0, 1)->Omschrijving(), text);
+    DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetOmschrijving(text);
+    EXPECT_EQ(DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->Omschrijving(), text);
   }
 }
 
@@ -92,7 +92,7 @@ TEST(RoundTripTest, WhatEachSetterWritesIsInTheFile) {
   const KolomGegevens full = FullKolom();
   {
     const auto file = DossierFile::Open(path);
-    const auto kolom = file->Dossier()->NieuweKolom(0);
+    const auto kolom = file->Dossier()->NewKolom(0);
     kolom->SetCorrectieLast(full.CorrectieLast);
     kolom->SetCorrectieFiscaal(full.CorrectieFiscaal);
     kolom->SetHeffingBij(full.HeffingBij);
@@ -155,18 +155,18 @@ TEST(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
     // Keys and places too: an order that only the memory knew would show.
     EXPECT_EQ(ReadBack(path), inMemory);
   };
-  after("add", [](Dossier& dossier) { dossier.NieuweKolom(1); });
+  after("add", [](Dossier& dossier) { dossier.NewKolom(1); });
   after("duplicate, with periods", [](Dossier& dossier) { dossier.Dupliceer(0, 1); });
-  after("deviate", [](Dossier& dossier) { dossier.MaakAfwijking(5, 2); });
+  after("deviate", [](Dossier& dossier) { dossier.MakeAfwijking(5, 2); });
   after("move", [](Dossier& dossier) { dossier.Verplaats(0, 2, 1); });
   after("move to where it deviates", [](Dossier& dossier) { dossier.Verplaats(0, 1, 1); });
   after("add after a move", [](Dossier& dossier) {
     dossier.Verplaats(1, 2, 0);
-    dossier.NieuweKolom(0);
+    dossier.NewKolom(0);
   });
   after("remove, from a proposal too", [](Dossier& dossier) { dossier.Verwijder(0, 6); });
   after("remove by position", [](Dossier& dossier) { dossier.Lening(1)->VerwijderVrijeKolom(1); });
-  after("remove a period", [](Dossier& dossier) { dossier.ZoekKolom(0, 5)->Bedrag()->VerwijderPeriode(1); });
+  after("remove a period", [](Dossier& dossier) { dossier.FindKolom(0, 5)->Bedrag()->VerwijderPeriode(1); });
   after("proposals", [](Dossier& dossier) {
     dossier.VoegToeAanVoorstel(2, 3);
     dossier.VoegToeAanVoorstel(2, 3);
@@ -176,7 +176,7 @@ TEST(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
   });
   after("a new loan", [](Dossier& dossier) {
     const std::int16_t number = dossier.NieuweLening("Nieuwe lening 3");
-    dossier.NieuweKolom(number);
+    dossier.NewKolom(number);
   });
   after("another client", [](Dossier& dossier) {
     dossier.SetClient({{.Naam = {"A.", "", "Alleen"}, .Geboortedatum = DateOf(1, 2, 1990)}}, 70);
@@ -187,9 +187,9 @@ TEST(RoundTripTest, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
   const Folder folder;
   const auto file = DossierFile::Open(folder.Make());
   Dossier& dossier = *file->Dossier();
-  const auto removed = dossier.NieuweKolom(0);
+  const auto removed = dossier.NewKolom(0);
   dossier.Verwijder(0, removed->Id());
-  const auto added = dossier.NieuweKolom(0);
+  const auto added = dossier.NewKolom(0);
   added->SetOmschrijving("nieuw");
   // Somebody still holds the column that is gone: its change must not reach the new one.
   try {
@@ -207,12 +207,12 @@ TEST(RoundTripTest, TheCaseOutlivesItsFileButChangesNoMore) {
   const QString path = folder.Make();
   auto file = DossierFile::Open(path);
   const auto dossier = file->Dossier();
-  const auto trace = file->MaakTrace("VrijeKolom");
+  const auto trace = file->MakeTrace("VrijeKolom");
   file.reset();
-  EXPECT_EQ(dossier->ZoekKolom(0, 1)->Omschrijving(), "Kinderopvang");
+  EXPECT_EQ(dossier->FindKolom(0, 1)->Omschrijving(), "Kinderopvang");
   trace->EnterProcedure("TxtOm_Validation");
   try {
-    dossier->ZoekKolom(0, 1)->SetOmschrijving("x");
+    dossier->FindKolom(0, 1)->SetOmschrijving("x");
     ADD_FAILURE() << "stored";
   } catch (const host::Error& error) {
     EXPECT_EQ(error.Number(), kStoreError);
@@ -220,7 +220,7 @@ TEST(RoundTripTest, TheCaseOutlivesItsFileButChangesNoMore) {
     EXPECT_EQ(error.Source(), "Dossier");
   }
   trace->ErrorInProcedure("TxtOm_Validation");
-  EXPECT_EQ(dossier->ZoekKolom(0, 1)->Omschrijving(), "Kinderopvang");
+  EXPECT_EQ(dossier->FindKolom(0, 1)->Omschrijving(), "Kinderopvang");
 }
 
 }  // namespace

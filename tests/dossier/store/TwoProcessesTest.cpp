@@ -27,7 +27,7 @@ TEST(TwoProcessesTest, AnotherProcessIsRefusedTheFileThatThisOneHasOpen) {
   SecondProcess second({"open", path});
   EXPECT_EQ(second.Line(), kInUse);
   EXPECT_EQ(second.Close(), 0);
-  file->Dossier()->ZoekKolom(0, 1)->SetOmschrijving("werkt door");
+  file->Dossier()->FindKolom(0, 1)->SetOmschrijving("werkt door");
   SecondProcess third({"open", path});
   EXPECT_EQ(third.Line(), kInUse);
   EXPECT_EQ(third.Close(), 0);

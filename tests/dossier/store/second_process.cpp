@@ -27,7 +27,7 @@ void Wait() {
 int Open(const QString& path) {
   try {
     const auto file = DossierFile::Open(path);
-    Say("open " + file->Dossier()->ZoekKolom(0, 1)->Omschrijving());
+    Say("open " + file->Dossier()->FindKolom(0, 1)->Omschrijving());
     Wait();
   } catch (const OpeningError& error) {
     Say(error.what());
