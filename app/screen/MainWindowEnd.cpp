@@ -4,8 +4,10 @@
 #include <QDialog>
 #include <QFileInfo>
 #include <QInputMethodEvent>
+#include <QPointer>
 #include <QTimer>
 #include <utility>
+#include <vector>
 
 #include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
@@ -79,20 +81,22 @@ void MainWindow::KeepFilledIn(const QWidget* window) {
 void MainWindow::HandOverTyped() {
   if (!screen_ || !screen_->Shown().Vrij_Id) return;
   qt::VrijeKolomWidget& editor = screen_->Kolom().Editor();
-  UnfinishedText typed = Here();
-  if (const qt::EntryBox* box = qt::EntryBox::PendingWithin(editor)) {
+  // Kept first: what the handing over asks may be cut off.
+  std::vector<std::pair<QPointer<qt::EntryBox>, QString>> kept;
+  for (qt::EntryBox* const box : qt::EntryBox::AllPendingWithin(editor)) {
+    UnfinishedText typed = Here();
     typed.box = NameOf(box);
     typed.text = box->text();
+    if (!typed.text.isEmpty()) kept.emplace_back(box, typed.Keep());
   }
-  // Kept first: what the handing over asks may be cut off.
-  const QString name = typed.text.isEmpty() ? QString() : typed.Keep();
   // Under a window in front the editor waits for it.
   const bool handedOver = QApplication::activeModalWidget() == nullptr && editor.CommitPending();
-  if (name.isEmpty()) return;
-  if (handedOver)
-    UnfinishedText::Forget(name);
-  else
-    kept_ << name;
+  for (const auto& [box, name] : kept) {
+    if (handedOver || (box && !box->Edit().IsPending()))
+      UnfinishedText::Forget(name);
+    else
+      kept_ << name;
+  }
 }
 
 void MainWindow::PrepareForLogOut() {

@@ -24,7 +24,7 @@ using host::Kind;
 enum class Align { Left, Center, Right };
 
 constexpr LONG kMargin = 4;         ///< beside the text of a box
-constexpr LONG kMark = 13;          ///< width and height of an option's or a check box's mark
+constexpr LONG kMarkSize = 13;      ///< width and height of an option's or a check box's mark
 constexpr LONG kBesideMark = 4;     ///< between a mark and its caption
 constexpr LONG kCaptionIndent = 8;  ///< of a frame
 constexpr LONG kArrowRoom = 17;     ///< of a drop-down list
@@ -262,10 +262,10 @@ class Sketched {
 
   /// The place of a mark at the left, with the caption drawn beside it.
   [[nodiscard]] RECT BesideCaption() {
-    const LONG top = place_.top + (HeightOf(place_) - kMark) / 2;
-    const RECT words{place_.left + kMark + kBesideMark, place_.top, place_.right, place_.bottom};
+    const LONG top = place_.top + (HeightOf(place_) - kMarkSize) / 2;
+    const RECT words{place_.left + kMarkSize + kBesideMark, place_.top, place_.right, place_.bottom};
     paper_.Text(words, Caption(), font_, Ink(), Align::Left);
-    return {place_.left, top, place_.left + kMark, top + kMark};
+    return {place_.left, top, place_.left + kMarkSize, top + kMarkSize};
   }
   void DrawOption() {
     RECT mark = BesideCaption();

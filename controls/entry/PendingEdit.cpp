@@ -192,8 +192,8 @@ void PendingEdit::PasteColumn(std::string_view text) {
   Column column = ReadColumn(text, *box_);
   if (!column.refusal.empty()) return face_.ShowReason(column.refusal);
   const auto life = Life();
-  for (Column::Entry& entry : column.entries) {
-    const Outcome outcome = toolkit_->Hand(*entry.box, Enter{std::move(entry.value)});
+  for (const Column::Entry& entry : column.entries) {
+    const Outcome outcome = toolkit_->Hand(*entry.box, Enter{entry.value});
     if (life.expired()) return;
     if (outcome == Outcome::Refused) break;
   }

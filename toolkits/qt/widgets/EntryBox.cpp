@@ -77,6 +77,15 @@ EntryBox* EntryBox::PendingWithin(const QWidget& area) {
   return box != nullptr && area.isAncestorOf(box) && box->edit_.IsPending() ? box : nullptr;
 }
 
+std::vector<EntryBox*> EntryBox::AllPendingWithin(const QWidget& area) {
+  std::vector<EntryBox*> found;
+  for (QLineEdit* const line : area.findChildren<QLineEdit*>()) {
+    auto* const box = dynamic_cast<EntryBox*>(line);
+    if (box != nullptr && box->edit_.IsPending()) found.push_back(box);
+  }
+  return found;
+}
+
 /// Whether a click there leads elsewhere: it moves the focus, or works something that takes no focus. A scroll bar
 /// leads nowhere.
 bool EntryBox::LeavesBox(const QWidget* target) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <vector>
 
 #include "controls/entry/PendingEdit.h"
 
@@ -30,6 +31,8 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
 
   /// The box being edited within a widget, or nothing.
   [[nodiscard]] static EntryBox* PendingWithin(const QWidget& area);
+  /// Every box within a widget with something typed in it, the one being edited and those that were left behind.
+  [[nodiscard]] static std::vector<EntryBox*> AllPendingWithin(const QWidget& area);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
