@@ -80,8 +80,11 @@ host::MessageAnswer RecordedSession::Answer(const std::string& title, const std:
 void RecordedSession::Bind(std::int16_t Len_Id, std::int16_t Vrij_Id) {
   const bool current = Len_Id == dossier::Dossier::kHuidig;
   recorder_->Do(replay::BeeindigenStep{current}, [&] { editor_->SetBeeindigenZichtbaar(current); });
-  recorder_->Do(replay::BindStep{Len_Id, Vrij_Id},
-                [&] { editor_->SetApplication(host_.Application(), Len_Id, Vrij_Id); });
+  recorder_->Do(replay::BindStep{Len_Id, Vrij_Id}, [&] { SetApplication(Len_Id, Vrij_Id); });
+}
+
+void RecordedSession::SetApplication(std::int16_t Len_Id, std::int16_t Vrij_Id) {
+  editor_->SetApplication(host_.Application(), Len_Id, Vrij_Id);
 }
 
 bool RecordedSession::Leave(std::deque<host::MessageAnswer> answers) {

@@ -55,6 +55,8 @@ class RecordedSession {
   virtual void LetWait(std::function<void()> act) = 0;
   /// Does something while the next form is open.
   virtual void OnForm(std::function<void(controls::Surface&)> work) = 0;
+  /// Binds the editor.
+  virtual void SetApplication(std::int16_t Len_Id, std::int16_t Vrij_Id);
 
   std::shared_ptr<dossier::Dossier> dossier_;
   replay::Transcript transcript_;

@@ -55,6 +55,10 @@ class OnWidget final : public RecordedSession {
  private:
   void LetWait(std::function<void()> act) override { QTimer::singleShot(0, &widget_, std::move(act)); }
   void OnForm(std::function<void(controls::Surface&)> work) override { work_ = std::move(work); }
+  // The widget holds the host for its control.
+  void SetApplication(std::int16_t Len_Id, std::int16_t Vrij_Id) override {
+    widget_.SetApplication(host_.Application(), Len_Id, Vrij_Id);
+  }
 
   std::function<void(controls::Surface&)> work_;
   qt::VrijeKolomWidget widget_;
