@@ -127,6 +127,7 @@ TEST(FileFaults, CopiedAtRest) {
 /// The disk is full from some call on, or one call fails; then it is well again, and the work goes on.
 void TryADiskThat(const char* how) {
   TryOften(how, [how](Try& one) -> std::string {
+    const Number untouched = NumberIn(one.Path());
     Worker worker(one.Path(), 1, {QLatin1String(how), QString::number(one.Pick(400))});
     worker.WaitForRefusal();
     const bool killed = worker.Refused() && one.Toss();
@@ -140,9 +141,10 @@ void TryADiskThat(const char* how) {
       EXPECT_EQ(worker.Accepted(), 0);
       return "not opened, with its reason";
     }
-    // A kill may take the word for what was accepted just now.
-    EXPECT_TRUE(stored == worker.Accepted() || (killed && stored == worker.Accepted() + 1))
-        << stored << ' ' << worker.Accepted();
+    // A kill may come before anything was accepted, and may take the word for what was accepted just now.
+    const Number last = worker.Accepted() == 0 ? untouched : worker.Accepted();
+    EXPECT_TRUE(stored == last || (killed && stored == worker.Accepted() + 1)) << stored << ' ' << last;
+    EXPECT_TRUE(killed || worker.Accepted() > 0);
     EXPECT_FALSE(QFile::exists(one.Path("k.dossier-wal")));
     if (!worker.Refused()) return "met by no edit, and in the file";
     return killed ? "refused, then killed, and in the file" : "refused, and in the file with what came after";
