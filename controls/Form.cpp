@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "controls/ToolkitBase.h"
-#include "controls/life/HeldHost.h"
+#include "controls/life/OwnVenster.h"
 #include "host/Error.h"
 
 namespace brivane::controls {

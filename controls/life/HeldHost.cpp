@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "controls/life/Held.h"
+#include "controls/life/OwnVenster.h"
 #include "host/model/PeriodeFields.h"
 #include "host/model/VrijeKolomFields.h"
 
@@ -131,9 +132,11 @@ class HeldDossier final : public Held<host::Dossier> {
   }
 };
 
-class HeldHoofdvenster final : public Held<host::Hoofdvenster> {
+class HeldHoofdvenster final : public Held<host::Hoofdvenster>, public VensterStandIn {
  public:
   using Held::Held;
+
+  host::Hoofdvenster* Own() const override { return Object().get(); }
 };
 
 class HeldCodetabellen final : public Held<host::Codetabellen> {
@@ -286,11 +289,6 @@ std::shared_ptr<host::VrijeKolomItem> HostsOwn(const std::shared_ptr<host::Vrije
 
 std::shared_ptr<host::BedragObject> HostsOwn(const std::shared_ptr<host::BedragObject>& bedrag) {
   return OwnBehind<HeldBedrag>(bedrag);
-}
-
-host::Hoofdvenster* HostsOwn(host::Hoofdvenster* venster) {
-  const auto* const held = dynamic_cast<HeldHoofdvenster*>(venster);
-  return held != nullptr ? held->Object().get() : venster;
 }
 
 }  // namespace brivane::controls

@@ -52,6 +52,5 @@ class HeldHost {
 /// The host's own object behind one that a control holds; any other object as it is.
 [[nodiscard]] std::shared_ptr<host::VrijeKolomItem> HostsOwn(const std::shared_ptr<host::VrijeKolomItem>& item);
 [[nodiscard]] std::shared_ptr<host::BedragObject> HostsOwn(const std::shared_ptr<host::BedragObject>& bedrag);
-[[nodiscard]] host::Hoofdvenster* HostsOwn(host::Hoofdvenster* venster);
 
 }  // namespace brivane::controls

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/life/HeldHost.h"
+#include "controls/life/OwnVenster.h"
 #include "host/Error.h"
 #include "tests/support/TestHost.h"
 
