@@ -68,6 +68,9 @@ void DateBox::OpenCalendar() {
   calendar->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
   calendar->setFirstDayOfWeek(Qt::Monday);
   calendar->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
+  // A date is typed in the box, by its rules. The calendar's own way of typing also keeps memory where it closes
+  // meanwhile.
+  calendar->setDateEditEnabled(false);
   calendar->setMinimumDate(QDate(frame::kFirstYear, 1, 1));
   const controls::TypedContent typed = Edit().Read(FromQt(text()));
   if (const auto* date = std::get_if<host::Date>(&typed.value)) {
