@@ -42,7 +42,7 @@ echo "== with pkg-config"
 export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name brivane-vrijekolom.pc)")
 read -ra flags <<<"$(pkg-config --define-prefix --cflags --libs brivane-vrijekolom)"
-"$cxx" -I"$root/examples" "$root/examples/memory/main.cpp" "${flags[@]}" -o "$work/by_pkg_config"
+(cd "$work/examples/memory" && "$cxx" -I.. main.cpp "${flags[@]}" -o "$work/by_pkg_config")
 "$work/by_pkg_config" --quit
 if [[ -e $PKG_CONFIG_PATH/brivane-vrijekolom-qt.pc ]]; then
   pkg-config --define-prefix --print-requires brivane-vrijekolom-qt | grep -q '^Qt6Widgets >= 6.4$'

@@ -4,8 +4,8 @@
 set -euo pipefail
 root=$1 work=$2 cmake=$3
 rm -rf "$work"
-mkdir -p "$work/host"
-cp "$root/examples/memory/main.cpp" "$work/host"
+mkdir -p "$work"
+cp -r "$root/examples/memory" "$work/host"
 cat >"$work/host/CMakeLists.txt" <<EOF
 cmake_minimum_required(VERSION 3.25)
 project(Host LANGUAGES CXX)
