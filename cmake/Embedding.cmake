@@ -12,15 +12,15 @@ if(BRIVANE_QT)
   set(qt brivane_embedding_qt)
 endif()
 
-# The libraries by their folder: those of toolkits/qt form the Qt part, the reference host and the tools stay here.
+# The libraries by their folder: those of brivane/toolkits/qt form the Qt part, the reference host and the tools stay here.
 get_property(libraries GLOBAL PROPERTY BRIVANE_LIBRARIES)
 foreach(library IN LISTS libraries)
   get_target_property(folder ${library} SOURCE_DIR)
   cmake_path(RELATIVE_PATH folder BASE_DIRECTORY ${PROJECT_SOURCE_DIR})
-  if(folder MATCHES "^toolkits/qt")
+  if(folder MATCHES "^brivane/toolkits/qt")
     list(APPEND qt ${library})
     target_link_libraries(brivane_embedding_qt INTERFACE ${library})
-  elseif(folder MATCHES "^(host|frame|toelichting|scenario|vrijekolom|controls|toolkits)")
+  elseif(folder MATCHES "^brivane/")
     list(APPEND core ${library})
     target_link_libraries(brivane_embedding INTERFACE ${library})
   endif()

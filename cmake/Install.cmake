@@ -33,17 +33,16 @@ endfunction()
 
 brivane_install_part(VrijeKolom ${core})
 brivane_pkg_config(brivane-vrijekolom "${PROJECT_DESCRIPTION}" "" ${core})
-install(DIRECTORY host frame toelichting scenario vrijekolom controls toolkits DESTINATION include/brivane
-        COMPONENT development
+install(DIRECTORY brivane DESTINATION include COMPONENT development
         FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE PATTERN "toolkits/win32" EXCLUDE)
 if(WIN32)
-  install(DIRECTORY toolkits/win32 DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
+  install(DIRECTORY brivane/toolkits/win32 DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
 endif()
 if(BRIVANE_QT)
   brivane_install_part(Qt ${qt})
   brivane_pkg_config(brivane-vrijekolom-qt "${PROJECT_DESCRIPTION}, as Qt widgets"
                      "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4" ${qt})
-  install(DIRECTORY toolkits/qt DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
+  install(DIRECTORY brivane/toolkits/qt DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
 endif()
 
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake

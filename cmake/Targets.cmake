@@ -1,7 +1,7 @@
 # brivane_library(NAME sources...): a static library that is included from the root of the tree.
 function(brivane_library name)
   add_library(${name} STATIC ${ARGN})
-  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include/brivane>)
+  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include>)
   target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_warnings>)
   target_compile_features(${name} PUBLIC cxx_std_20)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)

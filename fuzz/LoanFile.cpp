@@ -10,7 +10,7 @@
 #include <cstdlib>
 
 #include "dossier/store/DossierFile.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::fuzz {
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Design.h"
 #include "replay/document/ControlNames.h"
-#include "scenario/Ontwerp.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Design.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::fuzz {
 

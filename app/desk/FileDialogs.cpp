@@ -12,7 +12,7 @@
 #include <QTimer>
 
 #include "app/desk/Messages.h"
-#include "toolkits/qt/widgets/Mnemonics.h"
+#include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::app {
 namespace {

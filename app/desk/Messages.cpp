@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "dossier/store/StoreErrors.h"
-#include "toolkits/qt/widgets/QuestionBox.h"
+#include <brivane/toolkits/qt/widgets/QuestionBox.h>
 
 namespace brivane::app {
 namespace {

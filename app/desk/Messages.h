@@ -3,7 +3,7 @@
 #include <QString>
 #include <cstdint>
 
-#include "host/model/ErrorRecord.h"
+#include <brivane/host/model/ErrorRecord.h>
 
 class QWidget;
 

@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-#include "frame/Calendar.h"
+#include <brivane/frame/Calendar.h>
 
 namespace brivane::app {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Date.h"
+#include <brivane/host/Date.h>
 
 namespace brivane::app {
 

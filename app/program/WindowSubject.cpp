@@ -4,8 +4,8 @@
 #include <QTimer>
 #include <utility>
 
-#include "controls/life/HeldHost.h"
 #include "replay/play/OnSurface.h"
+#include <brivane/controls/life/HeldHost.h>
 
 namespace brivane::app {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/ToolkitBase.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/ToolkitBase.h>
 
 namespace brivane::app {
 namespace {

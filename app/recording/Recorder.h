@@ -6,9 +6,9 @@
 #include <variant>
 #include <vector>
 
-#include "controls/Action.h"
 #include "dossier/model/Dossier.h"
 #include "replay/document/Document.h"
+#include <brivane/controls/Action.h>
 
 namespace brivane::app {
 

@@ -4,8 +4,8 @@
 #include <QLocale>
 #include <utility>
 
-#include "controls/Surface.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 namespace brivane::app {
 

@@ -4,12 +4,12 @@
 #include <memory>
 #include <utility>
 
-#include "controls/Binding.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Tracer.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/controls/Binding.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::app {
 namespace {

@@ -12,9 +12,9 @@
 #include <QWheelEvent>
 
 #include "app/desk/Today.h"
-#include "frame/Dates.h"
-#include "toolkits/qt/widgets/DateBox.h"
-#include "toolkits/qt/widgets/Mnemonics.h"
+#include <brivane/frame/Dates.h>
+#include <brivane/toolkits/qt/widgets/DateBox.h>
+#include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::app {
 namespace {

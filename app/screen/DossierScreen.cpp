@@ -9,7 +9,7 @@
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
-#include "frame/ErrorReport.h"
+#include <brivane/frame/ErrorReport.h>
 
 namespace brivane::app {
 namespace {

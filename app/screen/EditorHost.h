@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "host/model/Application.h"
-#include "host/model/HostFactories.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/HostFactories.h>
 
 namespace brivane::app {
 

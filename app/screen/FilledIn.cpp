@@ -7,9 +7,9 @@
 #include <map>
 #include <vector>
 
-#include "toolkits/qt/Text.h"
-#include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/rows/CellPeer.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
 namespace {

@@ -9,9 +9,9 @@
 #include "app/recording/Recording.h"
 #include "app/screen/CarryOver.h"
 #include "app/screen/KopregelLabel.h"
-#include "frame/Handle.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/Teksten.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/Teksten.h>
 
 namespace brivane::app {
 

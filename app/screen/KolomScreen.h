@@ -7,7 +7,7 @@
 #include "app/screen/EditorHost.h"
 #include "app/screen/Place.h"
 #include "dossier/model/Dossier.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 namespace brivane::app {
 

@@ -14,7 +14,7 @@
 #include "app/desk/Settings.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/StartPage.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
 namespace {

@@ -15,9 +15,9 @@
 #include "app/screen/FilledIn.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/UnfinishedDialog.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/EntryBox.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
 namespace {

@@ -13,7 +13,7 @@
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
-#include "toolkits/qt/widgets/Mnemonics.h"
+#include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::app {
 namespace {

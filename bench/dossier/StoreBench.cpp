@@ -9,9 +9,9 @@
 #include "dossier/model/DossierControle.h"
 #include "dossier/model/SampleCase.h"
 #include "dossier/store/DossierFile.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace {
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "frame/Handle.h"
-#include "toelichting/Effecttabel.h"
-#include "toelichting/Ontwerp.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/toelichting/Effecttabel.h>
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace bench {
 

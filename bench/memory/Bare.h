@@ -5,17 +5,17 @@
 #include <string>
 #include <string_view>
 
-#include "host/controls/Button.h"
-#include "host/controls/CheckBox.h"
-#include "host/controls/Frame.h"
-#include "host/controls/JaNee.h"
-#include "host/controls/Label.h"
-#include "host/controls/ListView.h"
-#include "host/controls/OptionButton.h"
-#include "host/controls/Surface.h"
-#include "host/controls/TextBox.h"
-#include "host/model/Application.h"
-#include "host/model/DossierControle.h"
+#include <brivane/host/controls/Button.h>
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/host/controls/Frame.h>
+#include <brivane/host/controls/JaNee.h>
+#include <brivane/host/controls/Label.h>
+#include <brivane/host/controls/ListView.h>
+#include <brivane/host/controls/OptionButton.h>
+#include <brivane/host/controls/Surface.h>
+#include <brivane/host/controls/TextBox.h>
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/DossierControle.h>
 
 namespace bench {
 

@@ -7,10 +7,10 @@
 #include "bench/Compare.h"
 #include "bench/memory/Bare.h"
 #include "examples/host/MemoryHost.h"
-#include "frame/Calendar.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace {
 

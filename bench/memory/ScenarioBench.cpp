@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "bench/Compare.h"
-#include "controls/Surface.h"
 #include "examples/host/MemoryHost.h"
-#include "scenario/frmScenario.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace {
 

@@ -3,11 +3,11 @@
 
 #include "bench/Compare.h"
 #include "bench/qt/PlainEditor.h"
-#include "controls/TextBox.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Environment.h"
-#include "frame/Calendar.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/controls/TextBox.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <QRadioButton>
 #include <QTreeWidget>
 
-#include "toolkits/qt/widgets/HelpIcon.h"
-#include "toolkits/qt/widgets/JaNeeToggle.h"
+#include <brivane/toolkits/qt/widgets/HelpIcon.h>
+#include <brivane/toolkits/qt/widgets/JaNeeToggle.h>
 
 namespace bench {
 namespace {

@@ -4,11 +4,11 @@
 
 #include "bench/Compare.h"
 #include "bench/qt/PlainForm.h"
-#include "controls/TextBox.h"
-#include "scenario/Ontwerp.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/controls/TextBox.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace bench {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "component/automation/HostSession.h"
-#include "host/model/Application.h"
-#include "host/model/DossierControle.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/DossierControle.h>
 
 namespace brivane::component {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "component/automation/RecordAdapter.h"
-#include "host/model/Dossier.h"
-#include "host/model/Uitgangspunten.h"
+#include <brivane/host/model/Dossier.h>
+#include <brivane/host/model/Uitgangspunten.h>
 
 namespace brivane::component {
 

@@ -7,8 +7,8 @@
 #include "component/automation/Bstr.h"
 #include "component/automation/ComPtr.h"
 #include "component/automation/Text.h"
-#include "frame/ErrorReport.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/frame/ErrorReport.h>
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

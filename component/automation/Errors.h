@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 /// The one translation of failures at the boundary: results and error records of Automation to the component's errors,
 /// and back. Number, description and source are kept both ways.

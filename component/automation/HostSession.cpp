@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -10,7 +10,7 @@
 
 #include "component/automation/Adapter.h"
 #include "component/automation/Variant.h"
-#include "controls/life/Life.h"
+#include <brivane/controls/life/Life.h>
 
 namespace brivane::component {
 

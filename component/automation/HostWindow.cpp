@@ -2,7 +2,7 @@
 
 #include "component/automation/LateBound.h"
 #include "component/automation/Toolkit.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

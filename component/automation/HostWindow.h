@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "host/model/Hoofdvenster.h"
+#include <brivane/host/model/Hoofdvenster.h>
 
 namespace brivane::component {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "component/automation/ComPtr.h"
-#include "host/controls/ListBox.h"
+#include <brivane/host/controls/ListBox.h>
 
 namespace brivane::component {
 

@@ -9,7 +9,7 @@
 
 #include "component/automation/ComPtr.h"
 #include "component/automation/Variant.h"
-#include "controls/life/Life.h"
+#include <brivane/controls/life/Life.h>
 
 namespace brivane::component {
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "component/automation/HostSession.h"
-#include "host/model/PeriodeFields.h"
-#include "host/model/VrijeKolomFields.h"
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
 
 namespace brivane::component {
 

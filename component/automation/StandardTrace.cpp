@@ -5,7 +5,7 @@
 #include "component/automation/Dispatching.h"
 #include "component/automation/Text.h"
 #include "component/idl/Interfaces.h"
-#include "host/model/ErrorRecord.h"
+#include <brivane/host/model/ErrorRecord.h>
 
 namespace brivane::component {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "component/automation/Module.h"
-#include "toolkits/win32/Toolkit.h"
+#include <brivane/toolkits/win32/Toolkit.h>
 
 namespace brivane::component {
 

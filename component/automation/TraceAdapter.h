@@ -1,7 +1,7 @@
 #pragma once
 
 #include "component/automation/HostSession.h"
-#include "host/model/ProcedureTrace.h"
+#include <brivane/host/model/ProcedureTrace.h>
 
 namespace brivane::component {
 

@@ -6,8 +6,8 @@
 
 #include "component/automation/Errors.h"
 #include "component/automation/Text.h"
-#include "frame/Calendar.h"
-#include "host/Error.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "component/automation/ComPtr.h"
-#include "host/Date.h"
+#include <brivane/host/Date.h>
 
 namespace brivane::component {
 

@@ -5,7 +5,7 @@
 #include "component/control/Activation.h"
 #include "component/control/Delegating.h"
 #include "component/control/Properties.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "component/automation/ComPtr.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

@@ -5,7 +5,7 @@
 #include <vssym32.h>
 
 #include "component/control/Units.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

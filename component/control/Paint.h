@@ -2,7 +2,7 @@
 
 #include "component/idl/Windows.h"
 
-#include "host/Color.h"
+#include <brivane/host/Color.h>
 
 namespace brivane::component {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "component/control/Units.h"
-#include "toolkits/win32/window/Fonts.h"
+#include <brivane/toolkits/win32/window/Fonts.h>
 
 namespace brivane::component {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "component/automation/Variant.h"
-#include "host/Color.h"
+#include <brivane/host/Color.h>
 
 namespace brivane::component {
 

@@ -8,10 +8,10 @@
 
 #include "component/control/Paper.h"
 #include "component/control/Units.h"
-#include "controls/Choices.h"
-#include "controls/ListView.h"
-#include "toolkits/win32/window/ControlWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListView.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::component {
 

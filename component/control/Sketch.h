@@ -2,7 +2,7 @@
 
 #include "component/idl/Windows.h"
 
-#include "controls/Surface.h"
+#include <brivane/controls/Surface.h>
 
 namespace brivane::component {
 

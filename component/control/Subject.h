@@ -5,7 +5,7 @@
 #include <string>
 
 #include "component/control/Units.h"
-#include "host/Color.h"
+#include <brivane/host/Color.h>
 
 namespace brivane::component {
 

@@ -5,8 +5,8 @@
 
 #include "component/automation/Text.h"
 #include "component/control/Sketch.h"
-#include "controls/Surface.h"
-#include "frame/Design.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Design.h>
 
 namespace brivane::component {
 

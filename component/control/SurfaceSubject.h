@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "component/control/Subject.h"
-#include "toolkits/win32/Toolkit.h"
+#include <brivane/toolkits/win32/Toolkit.h>
 
 namespace brivane::component {
 

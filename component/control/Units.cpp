@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

@@ -2,7 +2,7 @@
 
 #include "component/idl/Windows.h"
 
-#include "host/Twips.h"
+#include <brivane/host/Twips.h>
 
 /// Containers measure in himetric (0.01 mm) and in pixels, the controls in twips (1/1440 inch).
 namespace brivane::component {

@@ -8,7 +8,7 @@
 #include "component/objects/Companion.h"
 #include "component/objects/HostClasses.h"
 #include "component/objects/Identity.h"
-#include "controls/Binding.h"
+#include <brivane/controls/Binding.h>
 
 namespace brivane::component {
 

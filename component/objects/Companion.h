@@ -5,7 +5,7 @@
 
 #include "component/automation/HostSession.h"
 #include "component/automation/Toolkit.h"
-#include "controls/Surface.h"
+#include <brivane/controls/Surface.h>
 
 namespace brivane {
 class frmScenario;

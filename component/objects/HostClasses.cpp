@@ -6,7 +6,7 @@
 #include "component/automation/StandardTrace.h"
 #include "component/automation/Text.h"
 #include "component/automation/TraceAdapter.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -5,7 +5,7 @@
 
 #include "component/automation/HostSession.h"
 #include "component/objects/Companion.h"
-#include "host/model/HostFactories.h"
+#include <brivane/host/model/HostFactories.h>
 
 namespace brivane::component {
 

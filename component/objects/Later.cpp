@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "component/automation/Module.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

@@ -2,7 +2,7 @@
 
 #include "component/automation/HostWindow.h"
 #include "component/automation/RecordAdapter.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

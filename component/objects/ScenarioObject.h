@@ -1,7 +1,7 @@
 #pragma once
 
 #include "component/objects/CoObject.h"
-#include "scenario/frmScenario.h"
+#include <brivane/scenario/frmScenario.h>
 
 namespace brivane::component {
 

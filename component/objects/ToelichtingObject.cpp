@@ -3,7 +3,7 @@
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/CaseAdapter.h"
 #include "component/automation/Text.h"
-#include "toelichting/Ontwerp.h"
+#include <brivane/toelichting/Ontwerp.h>
 
 namespace brivane::component {
 

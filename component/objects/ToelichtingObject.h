@@ -3,8 +3,8 @@
 #include "component/objects/CoObject.h"
 #include "component/objects/ConnectionPoint.h"
 #include "component/objects/ControlPart.h"
-#include "controls/Binding.h"
-#include "toelichting/Toelichting.h"
+#include <brivane/controls/Binding.h>
+#include <brivane/toelichting/Toelichting.h>
 
 namespace brivane::component {
 

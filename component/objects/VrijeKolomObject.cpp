@@ -5,8 +5,8 @@
 #include "component/automation/ApplicationAdapter.h"
 #include "component/automation/CaseAdapter.h"
 #include "component/automation/Text.h"
-#include "frame/Handle.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::component {
 

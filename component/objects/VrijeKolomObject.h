@@ -3,8 +3,8 @@
 #include "component/objects/CoObject.h"
 #include "component/objects/ConnectionPoint.h"
 #include "component/objects/ControlPart.h"
-#include "controls/Binding.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/controls/Binding.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::component {
 

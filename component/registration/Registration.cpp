@@ -1,7 +1,7 @@
 #include "component/registration/Registration.h"
 
 #include "component/registration/Keys.h"
-#include "toolkits/win32/window/Owned.h"
+#include <brivane/toolkits/win32/window/Owned.h>
 
 namespace brivane::component {
 

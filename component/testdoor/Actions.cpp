@@ -3,8 +3,8 @@
 #include <charconv>
 
 #include "component/testdoor/TestDoor.h"
-#include "controls/ListBox.h"
-#include "host/Error.h"
+#include <brivane/controls/ListBox.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "component/automation/Variant.h"
-#include "controls/Surface.h"
+#include <brivane/controls/Surface.h>
 
 namespace brivane::component {
 

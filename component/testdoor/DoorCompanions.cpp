@@ -4,7 +4,7 @@
 #include "component/objects/Identity.h"
 #include "component/testdoor/Preparation.h"
 #include "component/testdoor/TestDoor.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::component {
 

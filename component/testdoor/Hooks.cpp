@@ -5,7 +5,7 @@
 #include "component/automation/RecordAdapter.h"
 #include "component/testdoor/Preparation.h"
 #include "component/testdoor/TestDoor.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

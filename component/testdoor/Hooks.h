@@ -6,7 +6,7 @@
 
 #include "component/automation/HostSession.h"
 #include "component/automation/Toolkit.h"
-#include "scenario/frmScenario.h"
+#include <brivane/scenario/frmScenario.h>
 
 namespace brivane::component {
 

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "component/automation/Text.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "component/testdoor/TestDoor.h"
-#include "controls/Dump.h"
+#include <brivane/controls/Dump.h>
 
 namespace brivane::component {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "component/automation/Variant.h"
-#include "controls/Surface.h"
+#include <brivane/controls/Surface.h>
 
 /// The state of controls in the form that the door hands out; the words are those of its interface.
 namespace brivane::component {

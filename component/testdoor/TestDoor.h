@@ -6,8 +6,8 @@
 
 #include "component/testdoor/Hooks.h"
 #include "component/testdoor/Interfaces.h"
-#include "controls/Surface.h"
-#include "host/Error.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/Error.h"
-#include "host/model/Codes.h"
+#include <brivane/host/Error.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::dossier {
 namespace {

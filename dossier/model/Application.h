@@ -6,8 +6,8 @@
 
 #include "dossier/model/Dossier.h"
 #include "dossier/model/Tracer.h"
-#include "host/Event.h"
-#include "host/model/Application.h"
+#include <brivane/host/Event.h>
+#include <brivane/host/model/Application.h>
 
 namespace brivane::dossier {
 

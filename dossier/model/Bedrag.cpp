@@ -4,7 +4,7 @@
 #include <limits>
 #include <utility>
 
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::dossier {
 

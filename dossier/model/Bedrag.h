@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "dossier/model/Environment.h"
-#include "host/model/BedragObject.h"
-#include "host/model/PeriodeFields.h"
+#include <brivane/host/model/BedragObject.h>
+#include <brivane/host/model/PeriodeFields.h>
 
 namespace brivane::dossier {
 

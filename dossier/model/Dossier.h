@@ -9,8 +9,8 @@
 #include "dossier/model/Environment.h"
 #include "dossier/model/Lening.h"
 #include "dossier/model/Persoon.h"
-#include "host/model/Codes.h"
-#include "host/model/Dossier.h"
+#include <brivane/host/model/Codes.h>
+#include <brivane/host/model/Dossier.h>
 
 namespace brivane::dossier {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "dossier/model/Application.h"
-#include "frame/Calendar.h"
-#include "host/Error.h"
-#include "host/model/Codes.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::dossier {
 namespace {

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "dossier/model/Dossier.h"
-#include "host/Event.h"
-#include "host/model/DossierControle.h"
+#include <brivane/host/Event.h>
+#include <brivane/host/model/DossierControle.h>
 
 namespace brivane::dossier {
 

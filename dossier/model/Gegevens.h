@@ -7,11 +7,11 @@
 #include <utility>
 #include <vector>
 
-#include "host/Date.h"
-#include "host/Error.h"
-#include "host/model/Codes.h"
-#include "host/model/PeriodeFields.h"
-#include "host/model/VrijeKolomFields.h"
+#include <brivane/host/Date.h>
+#include <brivane/host/Error.h>
+#include <brivane/host/model/Codes.h>
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
 
 /// The contents of a loan file as plain values: what a file is read into and a case is made from.
 namespace brivane::dossier {

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "frame/Numbers.h"
-#include "host/model/Codes.h"
+#include <brivane/frame/Numbers.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::dossier {
 namespace {

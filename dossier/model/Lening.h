@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "dossier/model/VrijeKolom.h"
-#include "host/model/Lening.h"
+#include <brivane/host/model/Lening.h>
 
 namespace brivane::dossier {
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "dossier/model/Gegevens.h"
-#include "host/model/Persoon.h"
+#include <brivane/host/model/Persoon.h>
 
 namespace brivane::dossier {
 

@@ -1,7 +1,7 @@
 #include "dossier/model/SampleCase.h"
 
-#include "frame/Calendar.h"
-#include "host/model/Codes.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::dossier {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "host/model/ErrorRecord.h"
-#include "host/model/ProcedureTrace.h"
+#include <brivane/host/model/ErrorRecord.h>
+#include <brivane/host/model/ProcedureTrace.h>
 
 namespace brivane::dossier {
 

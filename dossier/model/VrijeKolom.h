@@ -4,7 +4,7 @@
 
 #include "dossier/model/Bedrag.h"
 #include "dossier/model/Environment.h"
-#include "host/model/VrijeKolomFields.h"
+#include <brivane/host/model/VrijeKolomFields.h>
 
 namespace brivane::dossier {
 

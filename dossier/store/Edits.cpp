@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "frame/ErrorReport.h"
+#include <brivane/frame/ErrorReport.h>
 
 namespace brivane::dossier {
 

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/Error.h"
-#include "host/Event.h"
+#include <brivane/host/Error.h>
+#include <brivane/host/Event.h>
 
 namespace brivane::dossier {
 

@@ -5,7 +5,7 @@
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
 #include "dossier/store/StateChain.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::dossier {
 namespace {

@@ -8,8 +8,8 @@
 #include <unordered_set>
 
 #include "dossier/store/Fields.h"
-#include "frame/Calendar.h"
-#include "host/model/Codes.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::dossier {
 namespace {

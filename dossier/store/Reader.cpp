@@ -11,7 +11,7 @@
 
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
-#include "frame/Calendar.h"
+#include <brivane/frame/Calendar.h>
 
 namespace brivane::dossier {
 namespace {

@@ -1,6 +1,6 @@
 #include "dossier/store/ScenarioTransaction.h"
 
-#include "scenario/frmScenario.h"
+#include <brivane/scenario/frmScenario.h>
 
 namespace brivane::dossier {
 

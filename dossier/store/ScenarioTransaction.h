@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "dossier/store/Edits.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::dossier {
 

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "host/model/Application.h"
-#include "host/model/HostFactories.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/HostFactories.h>
 
 /// The smallest complete host: every object of the host's model as a plain record in memory.
 ///

@@ -4,11 +4,11 @@
 #include <memory>
 #include <string>
 
-#include "frame/Calendar.h"
-#include "host/MemoryHost.h"
-#include "toolkits/memory/Embedded.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/MemoryHost.h>
+#include <brivane/toolkits/memory/Embedded.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 using namespace brivane;
 

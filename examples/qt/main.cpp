@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "frame/Calendar.h"
-#include "host/MemoryHost.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/MemoryHost.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 using namespace brivane;
 

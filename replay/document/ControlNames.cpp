@@ -1,8 +1,8 @@
 #include "replay/document/ControlNames.h"
 
-#include "scenario/Indeling.h"
-#include "scenario/Ontwerp.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/scenario/Indeling.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::replay {
 

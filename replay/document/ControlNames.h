@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/Design.h"
+#include <brivane/frame/Design.h>
 
 namespace brivane::replay {
 

@@ -8,14 +8,14 @@
 #include <variant>
 #include <vector>
 
-#include "controls/Action.h"
 #include "dossier/model/Gegevens.h"
-#include "host/Color.h"
-#include "host/Date.h"
-#include "host/Twips.h"
-#include "host/controls/Desktop.h"
 #include "replay/document/Json.h"
 #include "replay/instrument/Members.h"
+#include <brivane/controls/Action.h>
+#include <brivane/host/Color.h>
+#include <brivane/host/Date.h>
+#include <brivane/host/Twips.h>
+#include <brivane/host/controls/Desktop.h>
 
 /// A session of edits as data: the case that it starts from, the faults of the host, and the steps.
 namespace brivane::replay {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "frame/Calendar.h"
+#include <brivane/frame/Calendar.h>
 
 namespace brivane::replay {
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "host/Date.h"
 #include "replay/document/Json.h"
+#include <brivane/host/Date.h>
 
 namespace brivane::replay {
 

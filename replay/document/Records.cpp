@@ -5,9 +5,9 @@
 #include <array>
 #include <cstdio>
 
-#include "frame/Calendar.h"
-#include "host/model/Codes.h"
 #include "replay/document/Document.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/model/Codes.h>
 
 namespace brivane::replay {
 

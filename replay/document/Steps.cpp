@@ -5,9 +5,9 @@
 #include <string>
 #include <utility>
 
-#include "host/controls/CheckBox.h"
-#include "host/controls/JaNee.h"
 #include "replay/document/ControlNames.h"
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/host/controls/JaNee.h>
 
 namespace brivane::replay {
 

@@ -5,8 +5,8 @@
 #include <functional>
 #include <vector>
 
-#include "host/Error.h"
 #include "replay/instrument/Members.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::replay {
 

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <variant>
 
-#include "host/Date.h"
-#include "host/model/ErrorRecord.h"
 #include "replay/instrument/Members.h"
+#include <brivane/host/Date.h>
+#include <brivane/host/model/ErrorRecord.h>
 
 namespace brivane::replay {
 

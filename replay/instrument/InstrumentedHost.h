@@ -2,10 +2,10 @@
 
 #include <memory>
 
-#include "host/model/Application.h"
-#include "host/model/HostFactories.h"
 #include "replay/instrument/AccessLedger.h"
 #include "replay/instrument/HostListener.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/HostFactories.h>
 
 namespace brivane::replay {
 

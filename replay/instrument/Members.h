@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
-#include "host/model/PeriodeFields.h"
-#include "host/model/VrijeKolomFields.h"
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
 
 namespace brivane::replay {
 

@@ -1,7 +1,7 @@
 #include "replay/play/Dump.h"
 
-#include "host/Error.h"
 #include "replay/document/Document.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::replay {
 

@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "controls/Dump.h"
-#include "host/model/BedragObject.h"
-#include "host/model/VrijeKolomItem.h"
 #include "replay/document/Json.h"
+#include <brivane/controls/Dump.h>
+#include <brivane/host/model/BedragObject.h>
+#include <brivane/host/model/VrijeKolomItem.h>
 
 /// The state of controls and records as the dumps of a transcript show it.
 namespace brivane::replay {

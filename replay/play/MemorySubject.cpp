@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "frame/GroupedNumber.h"
 #include "replay/play/OnSurface.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/frame/GroupedNumber.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::replay {
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/life/HeldHost.h"
 #include "replay/play/Subject.h"
-#include "scenario/frmScenario.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/life/HeldHost.h>
+#include <brivane/scenario/frmScenario.h>
 
 /// Screens of controls that stand in this process, on whatever toolkit.
 namespace brivane::replay {

@@ -4,10 +4,10 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/Tracer.h"
-#include "frame/ErrorReport.h"
 #include "replay/document/ControlNames.h"
 #include "replay/play/Dump.h"
 #include "replay/play/MemorySubject.h"
+#include <brivane/frame/ErrorReport.h>
 
 namespace brivane::replay {
 

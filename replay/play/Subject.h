@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
-#include "controls/Action.h"
-#include "controls/Dump.h"
-#include "host/Color.h"
-#include "host/controls/Desktop.h"
-#include "host/model/BedragObject.h"
-#include "host/model/VrijeKolomItem.h"
 #include "replay/document/Document.h"
 #include "replay/instrument/InstrumentedHost.h"
+#include <brivane/controls/Action.h>
+#include <brivane/controls/Dump.h>
+#include <brivane/host/Color.h>
+#include <brivane/host/controls/Desktop.h>
+#include <brivane/host/model/BedragObject.h>
+#include <brivane/host/model/VrijeKolomItem.h>
 
 namespace brivane {
 class VrijeKolom;

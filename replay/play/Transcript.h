@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "host/controls/Desktop.h"
 #include "replay/document/Document.h"
 #include "replay/document/Json.h"
 #include "replay/instrument/HostListener.h"
+#include <brivane/host/controls/Desktop.h>
 
 namespace brivane::replay {
 

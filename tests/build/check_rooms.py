@@ -80,15 +80,21 @@ def sources_of(root):
                 yield os.path.relpath(os.path.join(folder, name), root)
 
 
+def allowed_path(rooms, room, path):
+    used = rooms.of(path)
+    return ".." not in path and bool(used) and rooms.may_use(room, used)
+
+
 def allowed_include(rooms, room, what):
     if match := re.match(r"\s*<([^>]*)>", what):
+        if match[1].startswith("brivane/"):
+            return allowed_path(rooms, room, match[1])
         return match[1] in STANDARD or rooms.may_include_outside(room, match[1])
     if match := re.match(r'\s*"([A-Za-z0-9_./]+)"', what):
         path = match[1]
         if "/" not in path:
             return rooms.may_include_outside(room, path)
-        used = rooms.of(path)
-        return ".." not in path and bool(used) and rooms.may_use(room, used)
+        return not path.startswith("brivane/") and allowed_path(rooms, room, path)
     return False
 
 
@@ -137,21 +143,24 @@ def check_links(root, links):
 
 
 def check_readme(root):
-    """The table names the top folder of each room in the order of the list, and each room inside it by its own name."""
+    """The table names each room in the order of the list: in a row of its own, or by its own name in the row of the
+    folder that it is in."""
     rooms = Rooms(os.path.join(root, "rooms.txt"))
     with open(os.path.join(root, "README.md"), encoding="utf-8") as readme:
         rows = dict(re.findall(r"^\| `([\w/]+)/` \| (.*) \|$", readme.read(), re.MULTILINE))
     offences = list(rooms.faults)
-    tops = list(dict.fromkeys(room.split("/")[0] for room in rooms.uses))
+    order = []
     for room in rooms.uses:
-        top, *inner = room.split("/")
-        if top not in rows:
-            offences.append(f"README.md names no folder {top}/")
-        elif inner and not re.search(rf"`{inner[0]}/?`", rows[top]):
-            offences.append(f"README.md does not name {inner[0]} in the row of {top}/")
+        outer, inner = os.path.split(room)
+        row = room if room in rows else outer
+        if row not in rows:
+            offences.append(f"README.md names no folder {row or room}/")
+        elif row != room and not re.search(rf"`{inner}/?`", rows[row]):
+            offences.append(f"README.md does not name {inner} in the row of {row}/")
+        order += [row] if row not in order else []
     offences += [f"README.md: there is no folder {row}/" for row in rows if not os.path.isdir(os.path.join(root, row))]
-    if (order := [row for row in rows if row in tops]) != tops and not offences:
-        offences.append(f"README.md has the folders in another order than rooms.txt: {' '.join(order)}")
+    if (told := [row for row in rows if row in order]) != order and not offences:
+        offences.append(f"README.md has the folders in another order than rooms.txt: {' '.join(told)}")
     return offences, f"{len(rows)} rows"
 
 

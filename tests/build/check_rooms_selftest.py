@@ -12,17 +12,17 @@ import check_rooms
 # FILE, LINE: an include that the list forbids where it stands.
 PLANTED_INCLUDES = [
     # Up the house.
-    ("host/model/B.h", '#include "frame/Calendar.h"'),
-    ("frame/B.cpp", '  #  include "vrijekolom/VrijeKolom.h"'),
-    ("frame/B.h", '#include "controls/Surface.h"'),
-    ("toelichting/B.cpp", '#include "scenario/frmScenario.h"'),
-    ("scenario/B.cpp", '#include "toelichting/Toelichting.h"'),
-    ("vrijekolom/B.cpp", '#include "toolkits/memory/Toolkit.h"'),
-    ("controls/B.cpp", '#include "vrijekolom/VrijeKolom.h"'),
-    ("controls/entry/B.cpp", '#include "toolkits/qt/Text.h"'),
-    ("toolkits/memory/B.cpp", '#include "toolkits/qt/Toolkit.h"'),
-    ("toolkits/qt/peers/B.cpp", '#include "dossier/model/Application.h"'),
-    ("toolkits/win32/window/B.cpp", '#include "vrijekolom/VrijeKolom.h"'),
+    ("brivane/host/model/B.h", '#include <brivane/frame/Calendar.h>'),
+    ("brivane/frame/B.cpp", '  #  include <brivane/vrijekolom/VrijeKolom.h>'),
+    ("brivane/frame/B.h", '#include <brivane/controls/Surface.h>'),
+    ("brivane/toelichting/B.cpp", '#include <brivane/scenario/frmScenario.h>'),
+    ("brivane/scenario/B.cpp", '#include <brivane/toelichting/Toelichting.h>'),
+    ("brivane/vrijekolom/B.cpp", '#include <brivane/toolkits/memory/Toolkit.h>'),
+    ("brivane/controls/B.cpp", '#include <brivane/vrijekolom/VrijeKolom.h>'),
+    ("brivane/controls/entry/B.cpp", '#include <brivane/toolkits/qt/Text.h>'),
+    ("brivane/toolkits/memory/B.cpp", '#include <brivane/toolkits/qt/Toolkit.h>'),
+    ("brivane/toolkits/qt/peers/B.cpp", '#include "dossier/model/Application.h"'),
+    ("brivane/toolkits/win32/window/B.cpp", '#include <brivane/vrijekolom/VrijeKolom.h>'),
     ("component/idl/B.h", '#include "component/automation/Variant.h"'),
     ("component/control/B.cpp", '#include "component/objects/Identity.h"'),
     ("component/objects/B.cpp", '#include "component/registration/Keys.h"'),
@@ -37,43 +37,45 @@ PLANTED_INCLUDES = [
     ("replay/tool/B.cpp", '#include "tests/support/TestHost.h"'),
     ("app/program/B.cpp", '#include "bench/Compare.h"'),
     # Out of the house.
-    ("host/B.h", "#include <nlohmann/json.hpp>"),
-    ("frame/B.h", "#include <QString>"),
-    ("frame/B.h", "#include <unistd.h>"),
-    ("toolkits/memory/B.h", "#include <windows.h>"),
-    ("toolkits/qt/B.h", "#include <sqlite3.h>"),
+    ("brivane/host/B.h", "#include <nlohmann/json.hpp>"),
+    ("brivane/frame/B.h", "#include <QString>"),
+    ("brivane/frame/B.h", "#include <unistd.h>"),
+    ("brivane/toolkits/memory/B.h", "#include <windows.h>"),
+    ("brivane/toolkits/qt/B.h", "#include <sqlite3.h>"),
     ("dossier/model/B.h", "#include <QString>"),
     ("dossier/store/B.h", "#include <nlohmann/json.hpp>"),
     ("replay/document/B.h", "#include <QJsonObject>"),
     ("app/screen/B.h", "#include <gtest/gtest.h>"),
     # Round the list.
-    ("vrijekolom/B.cpp", '#include "host/../controls/Surface.h"'),
-    ("frame/B.cpp", '#include "Calendar.h"'),
-    ("frame/B.cpp", "#include SOME_MACRO"),
-    ("frame/B.inc", '#import "replay/play/Session.h"'),
-    ("frame/B.cpp", '#include "nowhere/Calendar.h"'),
+    ("brivane/vrijekolom/B.cpp", '#include <brivane/host/../controls/Surface.h>'),
+    ("brivane/frame/B.cpp", '#include "Calendar.h"'),
+    ("brivane/frame/B.cpp", '#include "brivane/host/Error.h"'),
+    ("brivane/frame/B.cpp", '#include "host/Error.h"'),
+    ("brivane/frame/B.cpp", "#include SOME_MACRO"),
+    ("brivane/frame/B.inc", '#import "replay/play/Session.h"'),
+    ("brivane/frame/B.cpp", '#include "nowhere/Calendar.h"'),
 ]
 
 # What is made of a file of the tree: the file, the text that goes and what comes, the words that must be said.
 PLANTED_CHANGES = [
-    ("includes", "rooms.txt", "\nframe  ", "\nframework  ", "frame/Calendar.h: in a folder that is no room"),
+    ("includes", "rooms.txt", "\nbrivane/frame  ", "\nbrivane/framework  ", "brivane/frame/Calendar.h: in a folder that is no room"),
     ("includes", "rooms.txt", "\ntests  ", "\nattic | | \ntests  ", "attic: a room without a source"),
-    ("includes", "rooms.txt", "\ncontrols               | frame", "\ncontrols | toolkits/memory", "does not stand above it"),
+    ("includes", "rooms.txt", "\nbrivane/controls          | brivane/frame", "\nbrivane/controls | brivane/toolkits/memory", "does not stand above it"),
     ("includes", "rooms.txt", "| nlohmann", "| jsonlib", "replay/document may include jsonlib, which no line explains"),
-    ("readme", "README.md", "| `scenario/` |", "| scenario |", "README.md names no folder scenario/"),
-    ("readme", "README.md", "`win32`", "Windows", "README.md does not name win32 in the row of toolkits/"),
+    ("readme", "README.md", "| `replay/` |", "| replay |", "README.md names no folder replay/"),
+    ("readme", "README.md", "`win32`", "Windows", "README.md does not name win32 in the row of brivane/toolkits/"),
     ("readme", "README.md", "| `docs/` |", "| `papers/` |", "there is no folder papers/"),
-    ("readme", "README.md", "| `host/` | ", "| `frame/` | x |\n| `host/` | ", "in another order than rooms.txt"),
+    ("readme", "README.md", "| `brivane/host/` | ", "| `brivane/frame/` | x |\n| `brivane/host/` | ", "in another order than rooms.txt"),
 ]
 
 # Lines of targets: their name, folder, sources and libraries.
 PLANTED_LINKS = [
     ("brivane_model\tdossier/model\tLening.cpp\tbrivane_file", "brivane_model (dossier/model) links brivane_file"),
-    ("brivane_frame\tframe\tCalendar.cpp\t$<BUILD_INTERFACE:brivane_model>;Qt6::Core", "links brivane_model (dossier/model)"),
+    ("brivane_frame\tbrivane/frame\tCalendar.cpp\t$<BUILD_INTERFACE:brivane_model>;Qt6::Core", "links brivane_model (dossier/model)"),
 ]
 SOUND_LINKS = """brivane_model\tdossier/model\tLening.cpp\tbrivane_frame
 brivane_file\tdossier/store\tReader.cpp;/elsewhere/moc.cpp\t$<BUILD_INTERFACE:brivane_warnings>;brivane_model;Qt6::Sql
-brivane_frame\tframe\tCalendar.cpp\tbrivane_warnings
+brivane_frame\tbrivane/frame\tCalendar.cpp\tbrivane_warnings
 brivane_warnings\t.\t\t
 """
 

@@ -18,7 +18,7 @@ compile() {  # FILE COMPILER FLAG...
   local flags=(-std=c++20 -pedantic-errors -fsyntax-only -I. -DBRIVANE_VERSION='"0"' -Wall -Wextra -Wpedantic -Wshadow
     -Wnon-virtual-dtor "${strict[@]}" -Werror)
   case $file in
-    *.h) "$@" "${flags[@]}" -x c++ - <<<"#include \"$file\"" ;;
+    *.h) "$@" "${flags[@]}" -x c++ - <<<"#include <$file>" ;;
     *) "$@" "${flags[@]}" "$file" ;;
   esac || { echo "$file does not compile" && return 1; }
 }
@@ -28,7 +28,7 @@ mapfile -t sources < <(find "${rooms[@]}" -name '*.cpp' | sort -u)
 mapfile -t headers < <(find "${rooms[@]}" -name '*.h' | sort -u)
 missing=$(grep -L '^#pragma once$' "${headers[@]}" || true)
 [[ -z $missing ]] || { echo "may be included twice and does not say once: $missing" && exit 1; }
-mapfile -t first < <(grep -hm1 '^#include "' "${sources[@]}" | cut -d'"' -f2 | sort -u)
+mapfile -t first < <(grep -hm1 '^#include ["<].*/' "${sources[@]}" | cut -d'"' -f2 | sed 's,^#include <\(.*\)>$,\1,' | sort -u)
 mapfile -t alone < <(comm -23 <(printf '%s\n' "${headers[@]}") <(printf '%s\n' "${first[@]}"))
 
 printf '%s\0' "${sources[@]}" "${alone[@]}" |

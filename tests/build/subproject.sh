@@ -18,7 +18,7 @@ EOF
 "$cmake" -G Ninja -S "$work/host" -B "$work/build" -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_FLAGS=-O0 -DCMAKE_UNITY_BUILD=ON \
   -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/configure.log"
 if grep -- -Werror "$work/build/compile_commands.json"; then echo "warnings are errors in a host" && exit 1; fi
-if grep -E 'file": .*/build/brivane/(tests|bench|replay|app|dossier|fuzz|toolkits/qt)/' "$work/build/compile_commands.json"; then
+if grep -E 'file": .*/build/brivane/(tests|bench|replay|app|dossier|fuzz|brivane/toolkits/qt)/' "$work/build/compile_commands.json"; then
   echo "more than the libraries is built" && exit 1
 fi
 [[ ! -e $work/build/brivane/compile_commands.json && ! -e $work/build/bin ]]

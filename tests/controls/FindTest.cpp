@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace brivane::controls {
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "controls/Choices.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
-#include "host/Error.h"
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/host/Error.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace brivane::controls {
 

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
-#include "controls/Peer.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/Peer.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 /// What a drawing toolkit hears of the controls that it shows.
 namespace brivane::controls {

@@ -1,6 +1,6 @@
-#include "host/controls/CheckBox.h"
-#include "scenario/Ontwerp.h"
 #include "tests/controls/entry/EntryDesk.h"
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/scenario/Ontwerp.h>
 
 /// A person closes a form by Escape or its close box.
 namespace brivane::controls {

@@ -14,7 +14,7 @@
 
 #include "replay/play/Session.h"
 #include "tests/faults/Rerun.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::faults {
 namespace {

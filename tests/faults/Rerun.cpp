@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "replay/play/Session.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::faults {
 

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "dossier/model/Tracer.h"
-#include "frame/Calendar.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::faults {
 

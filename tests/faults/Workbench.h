@@ -7,11 +7,11 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Dump.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/Dossier.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/controls/Dump.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::faults {
 

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "dossier/store/DossierFile.h"
-#include "host/Error.h"
 #include "tests/faults/FaultyVfs.h"
+#include <brivane/host/Error.h>
 
 // The program that FileFaultsTest follows: works in a loan file until a change is refused, or its input ends.
 //

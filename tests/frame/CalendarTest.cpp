@@ -4,8 +4,8 @@
 #include <string>
 #include <tuple>
 
-#include "frame/Calendar.h"
-#include "host/Error.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::frame {
 

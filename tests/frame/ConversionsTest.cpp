@@ -4,8 +4,8 @@
 #include <limits>
 #include <optional>
 
-#include "frame/Conversions.h"
-#include "host/Error.h"
+#include <brivane/frame/Conversions.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::frame {
 

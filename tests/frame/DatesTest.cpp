@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "frame/Calendar.h"
-#include "frame/Dates.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
 
 namespace brivane::frame {
 namespace {

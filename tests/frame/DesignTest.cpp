@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "frame/Design.h"
-#include "frame/Handle.h"
+#include <brivane/frame/Design.h>
+#include <brivane/frame/Handle.h>
 
 /// What the check of a design table finds, while compiling.
 namespace brivane::frame {

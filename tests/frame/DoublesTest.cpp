@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/Doubles.h"
+#include <brivane/frame/Doubles.h>
 
 namespace brivane::frame {
 namespace {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "frame/Graphemes.h"
+#include <brivane/frame/Graphemes.h>
 
 namespace brivane::frame {
 

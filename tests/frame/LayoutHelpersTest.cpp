@@ -4,11 +4,11 @@
 #include <stdexcept>
 #include <vector>
 
-#include "frame/Graphemes.h"
-#include "frame/Handle.h"
-#include "frame/LayoutHelpers.h"
-#include "host/Error.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/frame/Graphemes.h>
+#include <brivane/frame/Handle.h>
+#include <brivane/frame/LayoutHelpers.h>
+#include <brivane/host/Error.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace brivane::frame {
 

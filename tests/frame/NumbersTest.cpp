@@ -3,7 +3,7 @@
 #include <limits>
 #include <string>
 
-#include "frame/Numbers.h"
+#include <brivane/frame/Numbers.h>
 
 namespace brivane::frame {
 namespace {

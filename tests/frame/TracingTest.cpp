@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "frame/Tracing.h"
-#include "toolkits/memory/Desktop.h"
+#include <brivane/frame/Tracing.h>
+#include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::frame {
 

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/Event.h"
+#include <brivane/host/Event.h>
 
 namespace brivane::host {
 namespace {

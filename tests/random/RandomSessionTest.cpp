@@ -6,13 +6,13 @@
 #include <random>
 #include <utility>
 
-#include "frame/Calendar.h"
-#include "host/controls/CheckBox.h"
-#include "host/controls/TextBox.h"
-#include "scenario/Ontwerp.h"
 #include "tests/random/Shows.h"
-#include "toelichting/Ontwerp.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/host/controls/TextBox.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::random_sessions {
 namespace {

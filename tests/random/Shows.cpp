@@ -4,12 +4,12 @@
 #include <chrono>
 #include <sstream>
 
-#include "host/controls/CheckBox.h"
-#include "host/controls/JaNee.h"
-#include "host/controls/ListBox.h"
-#include "host/controls/ListView.h"
-#include "host/controls/OptionButton.h"
-#include "host/controls/TextBox.h"
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/host/controls/JaNee.h>
+#include <brivane/host/controls/ListBox.h>
+#include <brivane/host/controls/ListView.h>
+#include <brivane/host/controls/OptionButton.h>
+#include <brivane/host/controls/TextBox.h>
 
 namespace brivane::random_sessions {
 

@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "frame/Calendar.h"
 #include "replay/document/ControlNames.h"
 #include "replay/document/Document.h"
 #include "replay/play/Session.h"
-#include "scenario/Ontwerp.h"
 #include "tests/replay/Program.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::replay::test {
 namespace {

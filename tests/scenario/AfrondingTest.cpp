@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "scenario/Afronding.h"
+#include <brivane/scenario/Afronding.h>
 
 namespace brivane::scenario {
 namespace {

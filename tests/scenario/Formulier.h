@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "host/controls/CheckBox.h"
-#include "host/controls/TextBox.h"
-#include "scenario/Ontwerp.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/host/controls/CheckBox.h>
+#include <brivane/host/controls/TextBox.h>
+#include <brivane/scenario/Ontwerp.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace brivane::tests {
 

@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "scenario/Groei.h"
 #include "tests/scenario/Rijentabel.h"
+#include <brivane/scenario/Groei.h>
 
 namespace brivane::scenario {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scenario/Indeling.h"
+#include <brivane/scenario/Indeling.h>
 
 namespace brivane::scenario {
 namespace {

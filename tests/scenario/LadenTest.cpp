@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scenario/Laden.h"
+#include <brivane/scenario/Laden.h>
 
 namespace brivane::scenario {
 

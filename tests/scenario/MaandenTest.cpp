@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "scenario/Invoersoort.h"
-#include "scenario/Maanden.h"
+#include <brivane/scenario/Invoersoort.h>
+#include <brivane/scenario/Maanden.h>
 
 namespace brivane::scenario {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scenario/Opnamecontrole.h"
+#include <brivane/scenario/Opnamecontrole.h>
 
 namespace brivane::scenario {
 namespace {

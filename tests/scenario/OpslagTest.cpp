@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "scenario/Opslag.h"
 #include "tests/scenario/Rijentabel.h"
+#include <brivane/scenario/Opslag.h>
 
 namespace brivane::scenario {
 

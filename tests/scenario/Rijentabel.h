@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::tests {
 

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "frame/Calendar.h"
-#include "host/Error.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::test {
 

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "frame/Calendar.h"
-#include "frame/Handle.h"
 #include "tests/support/TestHost.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Handle.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 namespace brivane::test {
 

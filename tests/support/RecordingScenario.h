@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "host/model/BedragObject.h"
+#include <brivane/host/model/BedragObject.h>
 
 namespace brivane::tests {
 

@@ -1,6 +1,6 @@
 #include "tests/support/TestHost.h"
 
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::test {
 

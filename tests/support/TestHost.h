@@ -5,9 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "host/model/Application.h"
-#include "host/model/HostFactories.h"
 #include "tests/support/TestRecord.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/HostFactories.h>
 
 namespace brivane::test {
 

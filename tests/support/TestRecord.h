@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
-#include "host/model/PeriodeFields.h"
-#include "host/model/VrijeKolomFields.h"
 #include "tests/support/CallLog.h"
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
 
 /// The record of a free column, its amount and its periods, with their data open to the test.
 namespace brivane::test {

@@ -1,8 +1,8 @@
 // The effect list: its fixed rows, and which of them is marked.
 
-#include "controls/ListView.h"
 #include "tests/toelichting/ToelichtingTest.h"
-#include "toelichting/Effecttabel.h"
+#include <brivane/controls/ListView.h>
+#include <brivane/toelichting/Effecttabel.h>
 
 namespace brivane::test {
 

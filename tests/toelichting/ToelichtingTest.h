@@ -1,8 +1,8 @@
 #pragma once
 
 #include "tests/support/ControlTest.h"
-#include "toelichting/Ontwerp.h"
-#include "toelichting/Toelichting.h"
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/toelichting/Toelichting.h>
 
 namespace brivane::test {
 

@@ -1,7 +1,7 @@
 // What becomes of a binding, and of a control that stands for nothing.
 
-#include "controls/Binding.h"
 #include "tests/vrijekolom/EditorTest.h"
+#include <brivane/controls/Binding.h>
 
 namespace brivane::test {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "scenario/frmScenario.h"
 #include "tests/support/ControlTest.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::test {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "vrijekolom/FiscaleOpties.h"
+#include <brivane/vrijekolom/FiscaleOpties.h>
 
 namespace brivane::vrijekolom {
 namespace {

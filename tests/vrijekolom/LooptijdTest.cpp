@@ -1,7 +1,7 @@
 // The start date, the end date, and the duration between them.
 
 #include "tests/vrijekolom/EditorTest.h"
-#include "vrijekolom/Looptijd.h"
+#include <brivane/vrijekolom/Looptijd.h>
 
 namespace brivane::test {
 

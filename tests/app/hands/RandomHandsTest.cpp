@@ -23,11 +23,11 @@
 #include "app/desk/UnfinishedText.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
-#include "frame/Dates.h"
 #include "tests/app/hands/RandomHands.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/ChoiceBox.h"
-#include "toolkits/qt/widgets/EntryBox.h"
+#include <brivane/frame/Dates.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/ChoiceBox.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 
 namespace brivane::app {
 namespace {

@@ -4,12 +4,12 @@
 
 #include <utility>
 
-#include "controls/Form.h"
-#include "controls/Surface.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/model/SampleCase.h"
-#include "frame/Calendar.h"
 #include "replay/play/Session.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
 
 namespace brivane::app {
 namespace {

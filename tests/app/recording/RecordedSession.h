@@ -11,9 +11,9 @@
 #include "dossier/model/Application.h"
 #include "replay/instrument/InstrumentedHost.h"
 #include "replay/play/Transcript.h"
-#include "scenario/frmScenario.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::app {
 

@@ -8,12 +8,12 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "controls/Form.h"
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
 #include "replay/play/Session.h"
 #include "tests/app/recording/RecordedSession.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::app {
 namespace {

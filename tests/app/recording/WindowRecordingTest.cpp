@@ -11,13 +11,13 @@
 #include <QTimer>
 
 #include "app/screen/MainWindow.h"
-#include "controls/Form.h"
-#include "controls/Surface.h"
 #include "dossier/model/SampleCase.h"
-#include "frame/Calendar.h"
 #include "replay/play/Session.h"
 #include "tests/app/recording/RecordedSession.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 namespace brivane::app {
 namespace {

@@ -1,8 +1,8 @@
 #include <QTreeWidget>
 
 #include "app/screen/CaseCheck.h"
-#include "frame/Calendar.h"
 #include "tests/app/screen/WindowTest.h"
+#include <brivane/frame/Calendar.h>
 
 // "Dossier controleren": every column, without a box and without a trace in the file.
 namespace brivane::app {

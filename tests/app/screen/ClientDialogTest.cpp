@@ -10,8 +10,8 @@
 #include <QWheelEvent>
 
 #include "app/screen/ClientDialog.h"
-#include "frame/Calendar.h"
-#include "toolkits/qt/widgets/DateBox.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/widgets/DateBox.h>
 
 namespace brivane::app {
 namespace {

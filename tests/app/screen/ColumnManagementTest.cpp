@@ -7,9 +7,9 @@
 #include <QStatusBar>
 
 #include "app/screen/KolommenModel.h"
-#include "frame/Handle.h"
 #include "tests/app/screen/WindowTest.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 // Columns, loans and persons: what the window does beside the editor.
 namespace brivane::app {

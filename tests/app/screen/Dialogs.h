@@ -10,7 +10,7 @@
 #include <deque>
 #include <functional>
 
-#include "toolkits/qt/widgets/QuestionBox.h"
+#include <brivane/toolkits/qt/widgets/QuestionBox.h>
 
 namespace brivane::app {
 

@@ -11,8 +11,8 @@
 #include "app/desk/UnfinishedText.h"
 #include "app/program/SessionEnd.h"
 #include "tests/app/screen/WindowTest.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/EntryBox.h"
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 
 // What the window does when the program has to end, and at the start after that.
 namespace brivane::app {

@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <csignal>
 
-#include "frame/Handle.h"
 #include "tests/app/screen/WindowTest.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 // A write that fails reaches the adviser once, and the screen then shows what is stored.
 namespace brivane::app {

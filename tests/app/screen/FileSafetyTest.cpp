@@ -20,7 +20,7 @@
 #include "app/program/CommandLine.h"
 #include "app/program/PrivateFiles.h"
 #include "tests/app/screen/WindowTest.h"
-#include "toolkits/qt/widgets/QuestionBox.h"
+#include <brivane/toolkits/qt/widgets/QuestionBox.h>
 
 // What the window and its dialogs do to files.
 namespace brivane::app {

@@ -3,8 +3,8 @@
 #include <QStackedWidget>
 
 #include "app/screen/StartPage.h"
-#include "frame/Calendar.h"
 #include "tests/app/screen/WindowTest.h"
+#include <brivane/frame/Calendar.h>
 
 // Opening and making loan files.
 namespace brivane::app {

@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "dossier/model/Dossier.h"
-#include "frame/Dates.h"
+#include <brivane/frame/Dates.h>
 
 namespace brivane::app {
 

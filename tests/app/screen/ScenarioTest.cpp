@@ -3,8 +3,8 @@
 #include <QLineEdit>
 #include <map>
 
-#include "frame/Calendar.h"
 #include "tests/app/screen/WindowTest.h"
+#include <brivane/frame/Calendar.h>
 
 // The year-by-year form by keyboard alone, in the real window.
 namespace brivane::app {

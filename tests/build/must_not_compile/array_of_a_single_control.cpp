@@ -1,6 +1,6 @@
 // error: the control is not an array
 
-#include "frame/Handle.h"
+#include <brivane/frame/Handle.h>
 
 using namespace brivane;
 using frame::Kind;

@@ -1,6 +1,6 @@
 // error: the control is of another kind
 
-#include "frame/Handle.h"
+#include <brivane/frame/Handle.h>
 
 using namespace brivane;
 using frame::Kind;

@@ -1,6 +1,6 @@
 // error: has no member named 'SetCaption'
 
-#include "frame/Handle.h"
+#include <brivane/frame/Handle.h>
 
 using namespace brivane;
 using frame::Kind;

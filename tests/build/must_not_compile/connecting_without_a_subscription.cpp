@@ -1,6 +1,6 @@
 // error: declared with attribute 'nodiscard'
 
-#include "host/Event.h"
+#include <brivane/host/Event.h>
 
 // As the project's own build has it.
 #pragma GCC diagnostic error "-Wunused-result"

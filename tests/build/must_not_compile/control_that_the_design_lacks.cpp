@@ -1,6 +1,6 @@
 // error: the design has no such control
 
-#include "frame/Handle.h"
+#include <brivane/frame/Handle.h>
 
 using namespace brivane;
 using frame::Kind;

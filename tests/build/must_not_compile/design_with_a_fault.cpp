@@ -1,6 +1,6 @@
 // error: static assertion failed
 
-#include "frame/Design.h"
+#include <brivane/frame/Design.h>
 
 using namespace brivane;
 using frame::Kind;

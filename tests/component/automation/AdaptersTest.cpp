@@ -9,10 +9,10 @@
 #include "component/automation/HostWindow.h"
 #include "component/automation/LateBound.h"
 #include "component/automation/TraceAdapter.h"
-#include "host/Error.h"
 #include "tests/component/automation/FakeObject.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/host/Error.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::component {
 namespace {

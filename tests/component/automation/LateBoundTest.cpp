@@ -3,8 +3,8 @@
 #include <array>
 
 #include "component/automation/LateBound.h"
-#include "host/Error.h"
 #include "tests/component/automation/FakeObject.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 namespace {

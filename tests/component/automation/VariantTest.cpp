@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "component/automation/Variant.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component {
 namespace {

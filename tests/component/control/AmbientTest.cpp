@@ -1,7 +1,7 @@
 #include <olectl.h>
 
-#include "host/Error.h"
 #include "tests/component/control/ControlTest.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::component::test {
 namespace {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "component/automation/Errors.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::relay {
 

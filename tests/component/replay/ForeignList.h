@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/controls/ListBox.h"
 #include "tests/component/replay/LateBound.h"
+#include <brivane/host/controls/ListBox.h>
 
 namespace brivane::latebound {
 

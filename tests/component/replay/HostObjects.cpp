@@ -2,9 +2,9 @@
 
 #include <type_traits>
 
-#include "host/model/PeriodeFields.h"
-#include "host/model/VrijeKolomFields.h"
 #include "tests/component/replay/ForeignList.h"
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
 
 namespace brivane::latebound {
 

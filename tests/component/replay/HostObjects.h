@@ -3,10 +3,10 @@
 #include <memory>
 #include <unordered_map>
 
-#include "host/model/Application.h"
-#include "host/model/DossierControle.h"
-#include "host/model/ProcedureTrace.h"
 #include "tests/component/replay/LateBound.h"
+#include <brivane/host/model/Application.h>
+#include <brivane/host/model/DossierControle.h>
+#include <brivane/host/model/ProcedureTrace.h>
 
 namespace brivane::latebound {
 

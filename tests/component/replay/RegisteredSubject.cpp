@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "frame/GroupedNumber.h"
 #include "replay/document/ControlNames.h"
 #include "tests/component/replay/Door.h"
 #include "tests/component/replay/HostObjects.h"
 #include "tests/component/replay/Sink.h"
-#include "toolkits/memory/Desktop.h"
+#include <brivane/frame/GroupedNumber.h>
+#include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::latebound {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "host/Date.h"
-#include "host/Error.h"
 #include "tests/component/replay/Com.h"
+#include <brivane/host/Date.h>
+#include <brivane/host/Error.h>
 
 /// Values and failures as they cross the boundary.
 namespace brivane::latebound {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "controls/entry/Content.h"
+#include <brivane/controls/entry/Content.h>
 
 /// Between the content of a box and what stands in it.
 namespace brivane::controls {

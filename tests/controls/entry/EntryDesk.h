@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "controls/DrawnToolkit.h"
-#include "controls/TextBox.h"
-#include "controls/entry/Content.h"
-#include "controls/entry/PendingEdit.h"
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/memory/Desktop.h"
+#include <brivane/controls/DrawnToolkit.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/Content.h>
+#include <brivane/controls/entry/PendingEdit.h>
+#include <brivane/toolkits/memory/Desktop.h>
 
 /// Boxes that are typed in without a screen.
 namespace brivane::controls {

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "controls/entry/KeysUnderWay.h"
+#include <brivane/controls/entry/KeysUnderWay.h>
 
 namespace brivane::controls {
 namespace {

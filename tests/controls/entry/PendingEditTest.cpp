@@ -1,6 +1,6 @@
-#include "frame/Calendar.h"
-#include "host/Error.h"
 #include "tests/controls/entry/EntryDesk.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 /// What is typed in one box, until it is handed over or put back.
 namespace brivane::controls {

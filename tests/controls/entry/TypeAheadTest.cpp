@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "controls/entry/TypeAhead.h"
+#include <brivane/controls/entry/TypeAhead.h>
 
 namespace brivane::controls {
 namespace {

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "controls/life/HeldHost.h"
-#include "controls/life/OwnVenster.h"
-#include "host/Error.h"
 #include "tests/support/TestHost.h"
+#include <brivane/controls/life/HeldHost.h>
+#include <brivane/controls/life/OwnVenster.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::test {
 namespace {

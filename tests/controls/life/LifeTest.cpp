@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/life/Life.h"
+#include <brivane/controls/life/Life.h>
 
 namespace brivane::controls {
 namespace {

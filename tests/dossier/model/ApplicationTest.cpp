@@ -3,9 +3,9 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/SampleCase.h"
-#include "host/Error.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/host/Error.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::dossier {
 namespace {

@@ -4,8 +4,8 @@
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/model/SampleCase.h"
-#include "frame/Calendar.h"
-#include "host/Error.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 namespace brivane::dossier {
 namespace {

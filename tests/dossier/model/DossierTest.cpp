@@ -3,7 +3,7 @@
 
 #include "dossier/model/Dossier.h"
 #include "dossier/model/SampleCase.h"
-#include "host/Error.h"
+#include <brivane/host/Error.h>
 
 namespace brivane::dossier {
 namespace {

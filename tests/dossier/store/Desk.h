@@ -10,10 +10,10 @@
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/ScenarioTransaction.h"
-#include "frame/Calendar.h"
-#include "toolkits/memory/Toolkit.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/memory/Toolkit.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::dossier {
 

@@ -3,8 +3,8 @@
 #include "dossier/store/Database.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Possible.h"
-#include "host/model/Codes.h"
 #include "tests/dossier/store/Files.h"
+#include <brivane/host/model/Codes.h>
 
 // What no edit writes is refused at opening, with its place; what the lists of the editor offer is possible.
 namespace brivane::dossier {

@@ -1,6 +1,6 @@
 #include "dossier/store/FileJournal.h"
-#include "frame/Calendar.h"
 #include "tests/dossier/store/Files.h"
+#include <brivane/frame/Calendar.h>
 
 // What is written comes back from the file as it was.
 namespace brivane::dossier {

@@ -9,15 +9,15 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Choices.h"
-#include "controls/Dump.h"
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/ListView.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/conformance/TestDesign.h"
-#include "toolkits/memory/Toolkit.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/Dump.h>
+#include <brivane/controls/Form.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/ListView.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/toolkits/memory/Toolkit.h>
 
 /// What every toolkit does alike, as tests that are written once.
 ///

@@ -1,5 +1,5 @@
-#include "frame/Calendar.h"
 #include "tests/toolkits/conformance/Screen.h"
+#include <brivane/frame/Calendar.h>
 
 /// Date boxes and the calendar that drops down.
 namespace brivane::test {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/conformance/Screen.h"
+#include <brivane/scenario/frmScenario.h>
 
 namespace brivane::test {
 

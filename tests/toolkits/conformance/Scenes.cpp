@@ -1,11 +1,11 @@
 #include "tests/toolkits/conformance/Scenes.h"
 
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
-#include "scenario/Teksten.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/scenario/Teksten.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::test {
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <string_view>
 
-#include "frame/Toolkit.h"
-#include "host/model/Hoofdvenster.h"
 #include "tests/support/TestHost.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/frame/Toolkit.h>
+#include <brivane/host/model/Hoofdvenster.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 /// The editor and the year-by-year form in the states that every toolkit is held to show alike.
 namespace brivane::test {

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <thread>
 
-#include "controls/entry/Content.h"
+#include <brivane/controls/entry/Content.h>
 
 namespace brivane::test {
 

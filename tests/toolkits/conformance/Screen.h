@@ -2,9 +2,9 @@
 
 #include <gmock/gmock.h>
 
-#include "controls/DrawnToolkit.h"
 #include "tests/toolkits/conformance/Conformance.h"
 #include "tests/toolkits/conformance/Keys.h"
+#include <brivane/controls/DrawnToolkit.h>
 
 /// What every toolkit with a screen does alike when a person works it with keys and mouse.
 ///

@@ -2,10 +2,10 @@
 #include <fstream>
 #include <sstream>
 
-#include "controls/Pixels.h"
-#include "controls/entry/Content.h"
 #include "tests/toolkits/conformance/Conformance.h"
 #include "tests/toolkits/conformance/Scenes.h"
+#include <brivane/controls/Pixels.h>
+#include <brivane/controls/entry/Content.h>
 
 /// What a toolkit really made of the editor and the form, held against one text for all toolkits: kind, name,
 /// caption, state, and the place in pixels at 96 dots per inch.

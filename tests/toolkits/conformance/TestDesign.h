@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/Handle.h"
+#include <brivane/frame/Handle.h>
 
 /// A surface with every kind of control, and a form with templates of run-time elements.
 namespace brivane::test {

@@ -1,5 +1,5 @@
-#include "frame/Calendar.h"
 #include "tests/toolkits/conformance/Conformance.h"
+#include <brivane/frame/Calendar.h>
 
 /// What a text box holds, reads and refuses.
 namespace brivane::test {

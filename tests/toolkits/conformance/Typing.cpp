@@ -1,6 +1,6 @@
-#include "frame/Calendar.h"
-#include "host/Error.h"
 #include "tests/toolkits/conformance/Screen.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/host/Error.h>
 
 /// Boxes worked by keys.
 namespace brivane::test {

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
-#include "controls/TextBox.h"
-#include "frame/Calendar.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/Moments.h"
-#include "toelichting/Ontwerp.h"
-#include "toelichting/Toelichting.h"
-#include "toolkits/memory/Embedded.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/controls/TextBox.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/toelichting/Toelichting.h>
+#include <brivane/toolkits/memory/Embedded.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 /// A host in memory that deletes a control from inside what the control set off: nothing of the host is touched
 /// afterwards, and nothing of the control is left.

@@ -2,9 +2,9 @@
 
 #include <limits>
 
-#include "frame/Calendar.h"
-#include "frame/GroupedNumber.h"
-#include "toolkits/memory/Desktop.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/GroupedNumber.h>
+#include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::memory {
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/TestHost.h"
-#include "toelichting/Ontwerp.h"
-#include "toelichting/Toelichting.h"
-#include "toolkits/memory/Embedded.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/toelichting/Toelichting.h>
+#include <brivane/toolkits/memory/Embedded.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 /// What a control in memory tells its host of a binding.
 namespace brivane::test {

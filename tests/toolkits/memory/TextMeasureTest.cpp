@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "toolkits/memory/TextMeasure.h"
+#include <brivane/toolkits/memory/TextMeasure.h>
 
 namespace brivane::memory {
 

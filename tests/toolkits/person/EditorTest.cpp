@@ -1,10 +1,10 @@
-#include "controls/Choices.h"
-#include "controls/TextBox.h"
-#include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/person/Hands.h"
-#include "vrijekolom/Ontwerp.h"
-#include "vrijekolom/VrijeKolom.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+#include <brivane/vrijekolom/VrijeKolom.h>
 
 /// The editor under the hands of a person, with columns of a host.
 namespace brivane::test {

@@ -1,6 +1,6 @@
-#include "controls/Choices.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/TextBox.h>
 
 /// Where the focus comes in.
 namespace brivane::test {

@@ -1,6 +1,6 @@
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/scenario/frmScenario.h>
 
 /// The question before the year-by-year form is closed without OK.
 namespace brivane::test {

@@ -11,14 +11,14 @@
 #include <string_view>
 #include <vector>
 
-#include "controls/Control.h"
-#include "controls/DrawnToolkit.h"
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "controls/Surface.h"
-#include "host/controls/Desktop.h"
 #include "tests/toolkits/conformance/Keys.h"
 #include "tests/toolkits/conformance/TestDesign.h"
+#include <brivane/controls/Control.h>
+#include <brivane/controls/DrawnToolkit.h>
+#include <brivane/controls/Form.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/host/controls/Desktop.h>
 
 /// What a person does with keyboard and mouse, for the tests that are written once for every toolkit with a screen.
 ///

@@ -1,7 +1,7 @@
-#include "controls/Choices.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
 
 /// Passing by an entry of a list is not choosing it.
 namespace brivane::test {

@@ -1,7 +1,7 @@
-#include "controls/Choices.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
 
 /// Alt and a letter of something that a person cannot go to does nothing, and so does a letter of nothing.
 namespace brivane::test {

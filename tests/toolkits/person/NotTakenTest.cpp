@@ -1,6 +1,6 @@
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
 
 /// What is typed in a box and the host fails to take: the procedure reports that to the host and goes on as if nothing
 /// had happened.

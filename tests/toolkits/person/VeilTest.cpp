@@ -1,8 +1,8 @@
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
-#include "controls/Plain.h"
-#include "controls/TextBox.h"
 #include "tests/toolkits/person/Hands.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
 
 /// A surface that stands for nothing: whatever a person does there, nothing comes of it.
 namespace brivane::test {

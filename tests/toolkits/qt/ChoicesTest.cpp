@@ -2,11 +2,11 @@
 #include <QComboBox>
 #include <QToolTip>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
 #include "tests/toolkits/qt/SurfaceTest.h"
-#include "toolkits/qt/widgets/HelpIcon.h"
-#include "toolkits/qt/widgets/JaNeeToggle.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/toolkits/qt/widgets/HelpIcon.h>
+#include <brivane/toolkits/qt/widgets/JaNeeToggle.h>
 
 /// Toggles, options, lists and help icons worked by keys and mouse.
 namespace brivane::test {

@@ -11,16 +11,16 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/Moments.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/ToelichtingWidget.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/DateBox.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/qt/ToelichtingWidget.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/DateBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 /// A host that deletes a control, or what it stands in, wherever it has its turn: what is open closes, nothing of the
 /// host is touched afterwards, and nothing of the control is left.

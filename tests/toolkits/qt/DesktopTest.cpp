@@ -7,8 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "frame/Calendar.h"
-#include "toolkits/qt/Desktop.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/Desktop.h>
 
 namespace brivane::qt {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "toolkits/qt/Edge.h"
+#include <brivane/toolkits/qt/Edge.h>
 
 namespace brivane::qt {
 namespace {

@@ -5,17 +5,17 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
-#include "controls/ListBox.h"
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toelichting/Ontwerp.h"
-#include "toolkits/qt/Dump.h"
-#include "toolkits/qt/ToelichtingWidget.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/EntryBox.h"
-#include "vrijekolom/Ontwerp.h"
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toelichting/Ontwerp.h>
+#include <brivane/toolkits/qt/Dump.h>
+#include <brivane/toolkits/qt/ToelichtingWidget.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 /// The embeddable controls in a window of their host, worked by keys.
 namespace brivane::test {

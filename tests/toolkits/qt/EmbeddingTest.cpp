@@ -6,13 +6,13 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
-#include "controls/Surface.h"
-#include "controls/TextBox.h"
-#include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/ToelichtingWidget.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/ToelichtingWidget.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 /// What the widgets tell their host, and what they show when they stand for nothing.
 namespace brivane::test {

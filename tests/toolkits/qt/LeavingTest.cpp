@@ -11,13 +11,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "controls/Surface.h"
-#include "frame/Calendar.h"
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/VrijeKolomWidget.h"
-#include "toolkits/qt/widgets/Bubble.h"
-#include "toolkits/qt/widgets/EntryBox.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include <brivane/toolkits/qt/widgets/Bubble.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 
 /// What is being typed when a host takes the editor away, in whatever way: it is handed over, or refused and kept.
 namespace brivane::test {

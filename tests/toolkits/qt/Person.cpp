@@ -5,15 +5,15 @@
 #include <QTest>
 #include <QWindow>
 
-#include "controls/Choices.h"
-#include "controls/Surface.h"
-#include "controls/TextBox.h"
-#include "controls/entry/Content.h"
-#include "toolkits/qt/Text.h"
-#include "toolkits/qt/peers/Peers.h"
-#include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/rows/RowCanvas.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/Content.h>
+#include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/peers/Peers.h>
+#include <brivane/toolkits/qt/rows/CellPeer.h>
+#include <brivane/toolkits/qt/rows/RowCanvas.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::test {
 

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QWidget>
 
-#include "controls/Control.h"
 #include "tests/toolkits/conformance/Keys.h"
+#include <brivane/controls/Control.h>
 
 /// What a person does with mouse and keyboard, by the events of the window system: a click lands on
 /// whatever is there, a key goes to whatever has the focus.

@@ -6,13 +6,13 @@
 
 #include "tests/toolkits/conformance/Screen.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/Dump.h"
-#include "toolkits/qt/Text.h"
-#include "toolkits/qt/Toolkit.h"
-#include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/widgets/Bubble.h"
-#include "toolkits/qt/widgets/DateBox.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/toolkits/qt/Dump.h>
+#include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Toolkit.h>
+#include <brivane/toolkits/qt/rows/CellPeer.h>
+#include <brivane/toolkits/qt/widgets/Bubble.h>
+#include <brivane/toolkits/qt/widgets/DateBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::test {
 namespace {

@@ -10,10 +10,10 @@
 
 #include "tests/toolkits/person/Hands.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/Text.h"
-#include "toolkits/qt/Toolkit.h"
-#include "toolkits/qt/widgets/ChoiceBox.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Toolkit.h>
+#include <brivane/toolkits/qt/widgets/ChoiceBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::test {
 namespace {

@@ -10,13 +10,13 @@
 #include <QTest>
 #include <QTimer>
 
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/Dump.h"
-#include "toolkits/qt/rows/CellPeer.h"
-#include "toolkits/qt/rows/RowCanvas.h"
-#include "toolkits/qt/widgets/FormWindow.h"
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/qt/Dump.h>
+#include <brivane/toolkits/qt/rows/CellPeer.h>
+#include <brivane/toolkits/qt/rows/RowCanvas.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 /// The year-by-year form as a person meets it: a dialog worked by keys.
 namespace brivane::test {

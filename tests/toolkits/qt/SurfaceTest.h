@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-#include "controls/TextBox.h"
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/qt/Person.h"
-#include "toolkits/qt/Toolkit.h"
-#include "toolkits/qt/widgets/Bubble.h"
-#include "toolkits/qt/widgets/EntryBox.h"
+#include <brivane/controls/TextBox.h>
+#include <brivane/toolkits/qt/Toolkit.h>
+#include <brivane/toolkits/qt/widgets/Bubble.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 
 namespace brivane::test {
 

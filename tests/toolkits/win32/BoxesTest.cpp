@@ -1,7 +1,7 @@
-#include "frame/Calendar.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/win32/controls/Calendar.h"
-#include "toolkits/win32/controls/DateWindow.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/win32/controls/Calendar.h>
+#include <brivane/toolkits/win32/controls/DateWindow.h>
 
 /// Boxes worked by keys.
 namespace brivane::test {

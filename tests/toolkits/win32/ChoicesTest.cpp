@@ -1,12 +1,12 @@
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <commctrl.h>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
-#include "controls/Plain.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/win32/controls/HintWindow.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/Plain.h>
+#include <brivane/toolkits/win32/controls/HintWindow.h>
 
 /// Toggles, options, lists and help icons worked by keys and mouse.
 namespace brivane::test {

@@ -1,12 +1,12 @@
 #include <functional>
 
-#include "controls/Form.h"
-#include "controls/ListBox.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/win32/controls/DateWindow.h"
-#include "toolkits/win32/controls/HintWindow.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/win32/controls/DateWindow.h>
+#include <brivane/toolkits/win32/controls/HintWindow.h>
 
 /// A host that goes while something is open: nothing fails, and nothing stays on the screen.
 namespace brivane::test {

@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "frame/Calendar.h"
-#include "toolkits/win32/Desktop.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/win32/Desktop.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::win32 {
 namespace {

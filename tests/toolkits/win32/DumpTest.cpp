@@ -3,13 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "controls/Form.h"
-#include "controls/Pixels.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Dump.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/window/ControlWindow.h"
+#include <brivane/controls/Form.h>
+#include <brivane/controls/Pixels.h>
+#include <brivane/toolkits/win32/Dump.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
 
 /// The dump tells what the windows are, and not what the controls asked for.
 namespace brivane::test {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "toolkits/win32/window/Edge.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/toolkits/win32/window/Edge.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::win32 {
 namespace {

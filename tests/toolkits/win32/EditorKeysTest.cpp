@@ -4,16 +4,16 @@
 #include <string>
 #include <vector>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
-#include "controls/TextBox.h"
-#include "frame/Calendar.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/controls/DateWindow.h"
-#include "toolkits/win32/window/Navigation.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/controls/DateWindow.h>
+#include <brivane/toolkits/win32/window/Navigation.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 /// The editor as an adviser works it, without a mouse.
 namespace brivane::test {

@@ -1,10 +1,10 @@
 #include <cmath>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/SurfaceTest.h"
-#include "toolkits/win32/Dump.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/toolkits/win32/Dump.h>
 
 /// A surface in a container that was not written for it.
 namespace brivane::test {

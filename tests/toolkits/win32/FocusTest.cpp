@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "controls/Form.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/window/Navigation.h"
+#include <brivane/controls/Form.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/window/Navigation.h>
 
 /// A person sees where the focus is.
 namespace brivane::test {

@@ -1,4 +1,4 @@
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <oleacc.h>
 

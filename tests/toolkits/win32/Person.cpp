@@ -4,14 +4,14 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "controls/Choices.h"
-#include "controls/ListBox.h"
-#include "controls/TextBox.h"
-#include "controls/entry/Content.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/form/FormWindow.h"
-#include "toolkits/win32/window/ControlWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/Content.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/form/FormWindow.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::test {
 

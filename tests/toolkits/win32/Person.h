@@ -1,12 +1,12 @@
 #pragma once
 
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <string>
 
-#include "controls/Control.h"
-#include "host/controls/Surface.h"
 #include "tests/toolkits/conformance/Keys.h"
+#include <brivane/controls/Control.h>
+#include <brivane/host/controls/Surface.h>
 
 /// What a person does with mouse and keyboard, through the input queue of Windows: a click lands on whatever is
 /// under the pointer, a key goes to whatever has the focus.

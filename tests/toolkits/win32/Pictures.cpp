@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "controls/Form.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/window/ControlWindow.h"
+#include <brivane/controls/Form.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
 
 namespace brivane::test {
 namespace {

@@ -2,15 +2,15 @@
 
 #include <chrono>
 
-#include "controls/Choices.h"
-#include "controls/TextBox.h"
-#include "scenario/frmScenario.h"
 #include "tests/support/RecordingScenario.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Dump.h"
-#include "toolkits/win32/controls/BoxWindow.h"
-#include "toolkits/win32/controls/HintWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/Choices.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/scenario/frmScenario.h>
+#include <brivane/toolkits/win32/Dump.h>
+#include <brivane/toolkits/win32/controls/BoxWindow.h>
+#include <brivane/toolkits/win32/controls/HintWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 /// The year-by-year form as a person meets it: a modal window worked by keys.
 namespace brivane::test {

@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "controls/TextBox.h"
-#include "controls/entry/Content.h"
 #include "tests/toolkits/conformance/TestDesign.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/controls/BoxWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/Content.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/controls/BoxWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::test {
 

@@ -1,16 +1,16 @@
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "controls/Form.h"
 #include "tests/toolkits/conformance/Scenes.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/window/ControlWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/controls/Form.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 /// Every text that is shown stands in its control whole, at the usual sizes of text.
 namespace brivane::test {

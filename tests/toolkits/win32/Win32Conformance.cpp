@@ -1,15 +1,15 @@
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <commctrl.h>
 
 #include "tests/toolkits/conformance/Screen.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Dump.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/controls/DateWindow.h"
-#include "toolkits/win32/controls/HintWindow.h"
-#include "toolkits/win32/form/FormWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/toolkits/win32/Dump.h>
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/controls/DateWindow.h>
+#include <brivane/toolkits/win32/controls/HintWindow.h>
+#include <brivane/toolkits/win32/form/FormWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::test {
 namespace {

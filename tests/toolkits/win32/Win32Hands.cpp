@@ -1,4 +1,4 @@
-#include "toolkits/win32/window/WindowsApi.h"
+#include <brivane/toolkits/win32/window/WindowsApi.h>
 
 #include <commctrl.h>
 
@@ -8,9 +8,9 @@
 
 #include "tests/toolkits/person/Hands.h"
 #include "tests/toolkits/win32/Person.h"
-#include "toolkits/win32/Toolkit.h"
-#include "toolkits/win32/window/ControlWindow.h"
-#include "toolkits/win32/window/Text.h"
+#include <brivane/toolkits/win32/Toolkit.h>
+#include <brivane/toolkits/win32/window/ControlWindow.h>
+#include <brivane/toolkits/win32/window/Text.h>
 
 namespace brivane::test {
 namespace {

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <brivane/controls/ToolkitBase.h>
+#include <brivane/controls/entry/PendingEdits.h>
+#include <brivane/host/Error.h>
+#include <brivane/host/controls/Desktop.h>
+
+namespace brivane::controls {
+
+/// A toolkit that shows its controls: what a person does there comes from an event loop, across which no
+/// exception may go.
+class DrawnToolkit : public ToolkitBase {
+ public:
+  using FailureListener = std::function<void(const host::Error& failure)>;
+
+  /// Where a failure goes that no procedure handled: it would otherwise cross the event loop. Without a
+  /// listener a message box tells it.
+  void SetFailureListener(FailureListener listener) { failureListener_ = std::move(listener); }
+  /// Runs something that a person sets off, and hands its failure to the listener. Nothing when the life has ended,
+  /// and nobody is told of a failure once it has.
+  void Guard(const std::function<void()>& body);
+  /// A person acts on a control by what shows it: guarded, and known to the form whose row it changes. A failed action
+  /// counts as done.
+  Outcome Hand(AnyControl& control, const Action& action);
+
+  /// What is being typed in the boxes of this toolkit.
+  [[nodiscard]] PendingEdits& Pending() { return pending_; }
+  /// Asks a person something, or tells it; the controls' own message boxes do not come here.
+  [[nodiscard]] virtual host::MessageAnswer Ask(const std::string& caption, const std::string& text,
+                                                host::MessageStyle style) = 0;
+
+ private:
+  FailureListener failureListener_;
+  PendingEdits pending_;
+};
+
+}  // namespace brivane::controls

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include <brivane/controls/ListBox.h>
+#include <brivane/controls/ListView.h>
+#include <brivane/controls/Surface.h>
+#include <brivane/host/Color.h>
+#include <brivane/host/Date.h>
+#include <brivane/host/Twips.h>
+#include <brivane/host/controls/Control.h>
+
+namespace brivane::controls {
+
+/// The value of a control: an option's selection, the number of a toggle or check box, or the content of a
+/// text box as it reads (an empty one by its format: "", 0 or no date). Nothing for the kinds without one.
+using DumpValue = std::variant<std::monostate, bool, int, std::string, double, host::Date>;
+
+/// The state of one control, in the words that every toolkit shares: another toolkit fills the same from
+/// what it really shows. A control has those of the optional fields that its kind has.
+struct ControlDump {
+  struct ListContent {
+    std::vector<ListBox::Entry> entries;
+    int index = host::kNoSelection;
+    friend bool operator==(const ListContent&, const ListContent&) = default;
+  };
+  struct ListViewContent {
+    std::vector<ListView::Column> columns;
+    std::vector<ListView::Item> items;
+    std::size_t selected = 0;  ///< from 1, or 0 for none
+    friend bool operator==(const ListViewContent&, const ListViewContent&) = default;
+  };
+
+  std::string name;  ///< "TxtBd", "optLast(2)", "Toelichting.jnAO"
+  host::Kind kind = host::Kind::Frame;
+  bool visible = true;
+  bool enabled = true;
+  host::Place place;
+  DumpValue value;
+  std::optional<std::string> caption;
+  std::optional<host::Color> backColor;
+  std::optional<bool> locked;
+  std::optional<ListContent> list;
+  std::optional<ListViewContent> listView;
+
+  friend bool operator==(const ControlDump&, const ControlDump&) = default;
+};
+
+[[nodiscard]] ControlDump Dump(const AnyControl& control);
+/// Every control on a surface in the order of creation, each embedded surface followed by what is on it.
+[[nodiscard]] std::vector<ControlDump> DumpAll(const Surface& surface);
+
+}  // namespace brivane::controls

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+
+#include <brivane/controls/Control.h>
+#include <brivane/host/controls/Button.h>
+#include <brivane/host/controls/Frame.h>
+#include <brivane/host/controls/Hint.h>
+#include <brivane/host/controls/Label.h>
+
+/// The controls without a value: frame, label, help icon and button.
+namespace brivane::controls {
+
+class Frame final : public CaptionedOf<host::Frame> {
+ public:
+  using CaptionedOf::CaptionedOf;
+};
+
+class Label final : public CaptionedOf<host::Label> {
+ public:
+  using CaptionedOf::CaptionedOf;
+};
+
+class Hint final : public ControlOf<host::Hint> {
+ public:
+  using ControlOf::ControlOf;
+  [[nodiscard]] std::string HelpText() const override { return std::string(Row().caption); }
+};
+
+class Button final : public CaptionedOf<host::Button> {
+ public:
+  using CaptionedOf::CaptionedOf;
+
+ protected:
+  Outcome Act(const Action& action) override {
+    if (!std::holds_alternative<Press>(action)) return Outcome::Ignored;
+    Click.Raise();
+    return Outcome::Done;
+  }
+};
+
+}  // namespace brivane::controls

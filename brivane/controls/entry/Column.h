@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <brivane/controls/TextBox.h>
+
+/// A column of values that is pasted into rows.
+namespace brivane::controls {
+
+struct Column {
+  struct Entry {
+    controls::TextBox* box;
+    controls::BoxValue value;
+  };
+  std::vector<Entry> entries = {};
+  std::string refusal = {};  ///< why nothing is entered, in Dutch
+  std::string surplus = {};  ///< told after entering: lines that found no row
+};
+
+/// What the lines of a text enter into the boxes from `first` down its control array, one line a box. Empty
+/// lines and boxes that cannot be edited are passed over; a line that is not of the box's format refuses all.
+[[nodiscard]] Column ReadColumn(std::string_view text, const controls::TextBox& first);
+
+/// Whether a text is more than one value.
+[[nodiscard]] bool IsColumn(std::string_view text);
+
+}  // namespace brivane::controls

@@ -1,0 +1,203 @@
+#include <utility>
+
+#include <brivane/controls/DrawnToolkit.h>
+#include <brivane/controls/FailureWatch.h>
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/Column.h>
+#include <brivane/controls/entry/PendingEdit.h>
+#include <brivane/frame/Trim.h>
+
+namespace brivane::controls {
+
+using frame::Format;
+
+namespace {
+
+constexpr char kNotStored[] = "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.";
+constexpr char kNotTaken[] = "Niet overgenomen";
+
+}  // namespace
+
+PendingEdit::~PendingEdit() { End(); }
+
+void PendingEdit::Tie(TextBox& box, DrawnToolkit& toolkit) {
+  End();
+  box_ = &box;
+  toolkit_ = &toolkit;
+  format_ = box.Format();
+  reader_ = nullptr;
+  ShowContent();
+}
+
+void PendingEdit::Tie(frame::Format format, Reader reader) {
+  End();
+  box_ = nullptr;
+  format_ = format;
+  reader_ = std::move(reader);
+}
+
+TypedContent PendingEdit::Read(std::string_view typed) const {
+  return reader_ ? reader_(typed) : ReadEntry(typed, format_);
+}
+
+void PendingEdit::ShowContent() {
+  if (box_ != nullptr && !committing_) ShowText(controls::ShowContent(box_->Content(), format_));
+}
+
+void PendingEdit::ShowText(const std::string& text) {
+  End();
+  face_.HideReason();
+  refusal_.clear();
+  shown_ = text;
+  if (face_.Text() == text) return;
+  face_.ShowText(text);
+  if (face_.HasFocus()) face_.SelectAll();
+}
+
+void PendingEdit::End() {
+  pending_ = false;
+  if (toolkit_ != nullptr) toolkit_->Pending().Remove(*this);
+}
+
+void PendingEdit::Typed() {
+  face_.HideReason();
+  refusal_.clear();
+  if (std::exchange(pending_, true) || box_ == nullptr) return;
+  standing_ = box_->Content();
+  box_->MarkEdited();
+  toolkit_->Pending().Add(*this);
+}
+
+void PendingEdit::TypeOver(const std::string& text) {
+  face_.ShowText(text);
+  Typed();
+}
+
+void PendingEdit::Insert(const std::string& text) {
+  face_.InsertText(text);
+  Typed();
+}
+
+bool PendingEdit::TypeDecimalSign() {
+  const bool decimals = format_ == Format::Amount || format_ == Format::Number;
+  if (!decimals || face_.ReadOnly()) return false;
+  Insert(",");
+  return true;
+}
+
+bool PendingEdit::Commit() {
+  if (committing_) return true;
+  if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
+  if (!pending_) {
+    // Who goes on without what was refused, as a pasted column is, has done with it.
+    face_.HideReason();
+    return true;
+  }
+  if (!CanBeTaken()) return true;
+  const std::string typed = face_.Text();
+  TypedContent content = Read(typed);
+  if (!content.refusal.empty()) return Refuse(content.refusal);
+  if (box_ == nullptr) {
+    ShowText(controls::ShowContent(content.value, format_));
+    return true;
+  }
+  // What reads as what stood there is what stood there, decimals that are not shown included.
+  if (typed == controls::ShowContent(standing_, format_)) content.value = standing_;
+  const auto life = Life();
+  const FailureWatch failures(toolkit_->Desktop());
+  committing_ = true;
+  const Outcome outcome = toolkit_->Hand(*box_, Enter{std::move(content.value)});
+  if (life.expired()) return true;
+  committing_ = false;
+  // Where what was going on was abandoned, nobody is told anything.
+  if (!toolkit_->Life()->Ended()) {
+    if (outcome == Outcome::Refused) return Refuse({});
+    if (failures.Seen()) {
+      box_->MarkEdited();
+      return Refuse(kNotStored);
+    }
+  }
+  ShowContent();
+  return true;
+}
+
+bool PendingEdit::CanBeTaken() const { return box_ == nullptr || box_->Reachable(); }
+
+bool PendingEdit::HandOver() {
+  const auto life = Life();
+  if (CanBeTaken()) {
+    if (Commit()) return true;
+    if (life.expired() || face_.IsAtHand()) return false;
+  }
+  return AskToDrop();
+}
+
+bool PendingEdit::AskToDrop() {
+  if (toolkit_ == nullptr) return false;
+  const std::string name(box_->AccessibleName());
+  std::string question = "In " + (name.empty() ? "een vak" : "het vak \"" + name + '"') + " staat nog \"" +
+                         face_.Text() + "\". Dat is niet overgenomen, en het vak is nu niet te bereiken.";
+  if (!refusal_.empty()) question += "\r\n\r\n" + refusal_;
+  question += "\r\n\r\nWilt u wat daar getypt is laten vervallen?";
+  const auto life = Life();
+  const bool drop = toolkit_->Ask(kNotTaken, question, host::MessageStyle::YesNoQuestion) == host::MessageAnswer::Yes;
+  if (drop && !life.expired()) Restore();
+  return drop;
+}
+
+void PendingEdit::Shown() {
+  if (pending_ && !refusal_.empty()) face_.ShowReason(refusal_);
+}
+
+bool PendingEdit::Refuse(const std::string& reason) {
+  refusal_ = reason;
+  if (!face_.IsAtHand()) return false;
+  const auto life = Life();
+  if (!face_.HasFocus()) face_.TakeFocus();
+  // The box that loses the focus may have something to hand over too.
+  if (life.expired()) return false;
+  face_.SelectAll();
+  face_.HideReason();
+  if (!reason.empty()) face_.ShowReason(reason);
+  return false;
+}
+
+bool PendingEdit::CommitAndSelect() {
+  const auto life = Life();
+  if (!Commit()) return false;
+  if (!life.expired()) face_.SelectAll();
+  return true;
+}
+
+bool PendingEdit::Restore() {
+  if (!pending_) return false;
+  ShowText(std::string(shown_));
+  face_.SelectAll();
+  // Refused content had reached the control: what stood there goes back into it.
+  if (box_ != nullptr && box_->Content() != standing_) box_->SetContent(standing_);
+  return true;
+}
+
+void PendingEdit::Paste(std::string_view clipboard) {
+  if (face_.ReadOnly()) return;
+  const bool row = box_ != nullptr && box_->IsRowElement();
+  if (row && IsColumn(clipboard)) return PasteColumn(clipboard);
+  const std::string line = OneLine(row ? frame::Trim(clipboard) : clipboard);
+  if (!line.empty()) Insert(line);
+}
+
+void PendingEdit::PasteColumn(std::string_view text) {
+  Restore();
+  Column column = ReadColumn(text, *box_);
+  if (!column.refusal.empty()) return face_.ShowReason(column.refusal);
+  const auto life = Life();
+  for (const Column::Entry& entry : column.entries) {
+    const Outcome outcome = toolkit_->Hand(*entry.box, Enter{entry.value});
+    if (life.expired()) return;
+    if (outcome == Outcome::Refused) break;
+  }
+  face_.SelectAll();
+  if (!column.surplus.empty()) face_.ShowReason(column.surplus);
+}
+
+}  // namespace brivane::controls

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+
+#include <brivane/host/Date.h>
+
+/// Calendar arithmetic on dates of the (proleptic) Gregorian calendar.
+namespace brivane::frame {
+
+/// The calendar's first and last day: 1 January 100 and 31 December 9999.
+inline constexpr host::Date kFirstDay{-657434};
+inline constexpr host::Date kLastDay{2958465};
+
+struct YearMonthDay {
+  int year;
+  int month;  ///< 1 to 12
+  int day;    ///< 1 to 31
+  friend constexpr bool operator==(const YearMonthDay&, const YearMonthDay&) = default;
+};
+
+/// The zero date reads as 30 December 1899.
+[[nodiscard]] YearMonthDay Split(host::Date date);
+/// Fails with error 6 outside the years 100 to 9999.
+[[nodiscard]] host::Date MakeDate(YearMonthDay date);
+[[nodiscard]] bool IsCalendarDate(YearMonthDay date);
+
+/// The date that many calendar months later (or earlier), the day clamped to the last of a shorter
+/// month. No date stays no date. Fails with error 6 outside the years 100 to 9999.
+[[nodiscard]] host::Date AddMonths(host::Date date, std::int64_t months);
+/// The date that many calendar years later, by the rules of AddMonths.
+[[nodiscard]] host::Date AddYears(host::Date date, std::int64_t years);
+
+/// Calendar-month boundaries between two dates, days ignored; negative when `to` comes first.
+[[nodiscard]] std::int32_t MonthsBetween(host::Date from, host::Date to);
+/// Calendar-year boundaries between two dates, months and days ignored.
+[[nodiscard]] std::int32_t YearsBetween(host::Date from, host::Date to);
+
+}  // namespace brivane::frame

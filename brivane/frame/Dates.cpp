@@ -1,0 +1,94 @@
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <vector>
+
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
+#include <brivane/frame/Trim.h>
+
+namespace brivane::frame {
+namespace {
+
+constexpr std::string_view kExpected = "Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031.";
+constexpr std::array<std::string_view, 12> kMonths = {"januari",   "februari", "maart",    "april",
+                                                      "mei",       "juni",     "juli",     "augustus",
+                                                      "september", "oktober",  "november", "december"};
+constexpr std::size_t kShortYear = 2;
+constexpr std::size_t kFullYear = 4;
+
+bool IsDigits(std::string_view text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+int ToInt(std::string_view digits) {
+  int value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  return value;
+}
+
+/// Day, month and year as typed; empty where the text has another shape.
+std::vector<std::string_view> Split(std::string_view text) {
+  if (IsDigits(text)) {
+    if (text.size() != 4 + kShortYear && text.size() != 4 + kFullYear) return {};
+    return {text.substr(0, 2), text.substr(2, 2), text.substr(4)};
+  }
+  std::vector<std::string_view> parts;
+  while (true) {
+    const std::size_t end = text.find_first_of("-./ ");
+    parts.push_back(text.substr(0, end));
+    if (end == std::string_view::npos) break;
+    text = Trim(text.substr(end + 1));
+  }
+  const auto fits = [](std::string_view part, std::size_t most) { return IsDigits(part) && part.size() <= most; };
+  if (parts.size() != 3 || !fits(parts[0], 2) || !fits(parts[1], 2) || !IsDigits(parts[2])) return {};
+  if (parts[2].size() != kShortYear && parts[2].size() != kFullYear) return {};
+  return parts;
+}
+
+/// A year of two digits is one of the hundred from `firstShort` on.
+int Year(std::string_view digits, int firstShort) {
+  const int year = ToInt(digits);
+  if (digits.size() == kFullYear) return year;
+  const int century = firstShort - firstShort % 100;
+  return century + year < firstShort ? century + 100 + year : century + year;
+}
+
+Reading<host::Date> Read(std::string_view text, int firstShort) {
+  using Answer = Reading<host::Date>;
+  text = Trim(text);
+  if (text.empty()) return {};
+  const std::vector<std::string_view> parts = Split(text);
+  if (parts.empty()) return Answer::Refuse(std::string(kExpected));
+  const frame::YearMonthDay date{Year(parts[2], firstShort), ToInt(parts[1]), ToInt(parts[0])};
+  if (date.year < kFirstYear) return Answer::Refuse("Vul een jaar vanaf " + std::to_string(kFirstYear) + " in.");
+  if (date.month < 1 || date.month > 12)
+    return Answer::Refuse("Maand " + std::to_string(date.month) + " bestaat niet. " + std::string(kExpected));
+  if (!frame::IsCalendarDate(date))
+    return Answer::Refuse(std::to_string(date.day) + " " +
+                          std::string(kMonths[static_cast<std::size_t>(date.month) - 1]) + " " +
+                          std::to_string(date.year) + " bestaat niet.");
+  return frame::MakeDate(date);
+}
+
+}  // namespace
+
+Reading<host::Date> ReadDate(std::string_view text) { return Read(text, kFirstShortYear); }
+
+Reading<host::Date> ReadPastDate(std::string_view text, host::Date today) {
+  const int year = frame::Split(today).year;
+  const Reading<host::Date> reading = Read(text, year - 99);
+  const bool ahead = !reading.IsRefused() && !reading.IsEmpty() && *reading >= today;
+  return ahead ? Read(text, year - 100) : reading;
+}
+
+std::string ShowDate(host::Date date) {
+  if (date.IsNone()) return {};
+  const frame::YearMonthDay parts = frame::Split(date);
+  char text[32];
+  std::snprintf(text, sizeof text, "%02d-%02d-%04d", parts.day, parts.month, parts.year);
+  return text;
+}
+
+}  // namespace brivane::frame

@@ -1,0 +1,182 @@
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include <brivane/frame/Doubles.h>
+#include <brivane/frame/Numbers.h>
+#include <brivane/frame/Trim.h>
+
+namespace brivane::frame {
+namespace {
+
+constexpr std::size_t kGroup = 3;
+constexpr std::size_t kMostWholeDigits = 12;
+constexpr std::string_view kEuro = "€";
+constexpr std::string_view kMinus = "−";  // the typographic minus that spreadsheets paste
+
+/// How one kind of number is written.
+struct Style {
+  std::size_t decimals;
+  std::string_view expected;  ///< the sentence that says what to type
+  std::string_view tooManyDecimals;
+};
+
+constexpr Style kAmount{2, "Vul een bedrag in, bijvoorbeeld 1.234,56.",
+                        "Een bedrag heeft ten hoogste twee cijfers achter de komma."};
+constexpr Style kNumber{4, "Vul een getal in, bijvoorbeeld 12,5.",
+                        "Een getal heeft ten hoogste vier cijfers achter de komma."};
+constexpr Style kWhole{0, "Vul een geheel getal in, zonder cijfers achter de komma.",
+                       "Vul een geheel getal in, zonder cijfers achter de komma."};
+
+constexpr std::string_view kTooLarge = "Dit getal is te groot.";
+
+bool IsDigits(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::string WithoutPoints(std::string_view text) {
+  std::string digits(text);
+  std::erase(digits, '.');
+  return digits;
+}
+
+std::string WithoutLeadingZeros(std::string digits) {
+  digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
+  return digits;
+}
+
+std::string Grouped(std::string digits) {
+  for (std::size_t i = digits.size(); i > kGroup; i -= kGroup) digits.insert(i - kGroup, 1, '.');
+  return digits;
+}
+
+/// Every point stands before exactly three digits and at most three stand before the first.
+bool IsGrouped(std::string_view whole) {
+  std::size_t point = whole.find('.');
+  if (point == std::string_view::npos) return true;
+  if (point == 0 || point > kGroup || whole.front() == '0') return false;
+  for (whole.remove_prefix(point); !whole.empty(); whole.remove_prefix(kGroup + 1))
+    if (whole.size() < kGroup + 1 || whole[0] != '.' || !IsDigits(whole.substr(1, kGroup))) return false;
+  return true;
+}
+
+/// A refusal that names what the text could mean: the last point as a comma, or no point at all.
+std::string BothReadings(std::string_view whole, const Style& style) {
+  const std::string together = Grouped(WithoutLeadingZeros(WithoutPoints(whole)));
+  const std::size_t point = whole.rfind('.');
+  std::string decimals(whole.substr(point + 1));
+  while (decimals.size() > style.decimals && decimals.back() == '0') decimals.pop_back();
+  if (decimals.empty() || decimals.size() > style.decimals || point == 0)
+    return "De punt staat niet tussen duizendtallen. Bedoelt u " + together + "?";
+  if (style.decimals == 2) decimals.resize(2, '0');
+  const std::string before = Grouped(WithoutLeadingZeros(WithoutPoints(whole.substr(0, point))));
+  return "Bedoelt u " + before + "," + decimals + " of " + together + "? Typ een komma voor de decimalen.";
+}
+
+struct Parts {
+  bool negative = false;
+  std::string_view whole;
+  std::string_view decimals;
+  bool comma = false;
+};
+
+bool Take(std::string_view& text, std::string_view sign) {
+  if (!text.starts_with(sign)) return false;
+  text.remove_prefix(sign.size());
+  text = Trim(text);
+  return true;
+}
+
+Parts Take(std::string_view text, const Style& style) {
+  Parts parts;
+  parts.negative = Take(text, "-") || Take(text, kMinus);
+  if (style.decimals == 2 && Take(text, kEuro) && !parts.negative)
+    parts.negative = Take(text, "-") || Take(text, kMinus);
+  const std::size_t comma = text.find(',');
+  parts.whole = text.substr(0, comma);
+  parts.comma = comma != std::string_view::npos;
+  if (parts.comma) parts.decimals = text.substr(comma + 1);
+  if (style.decimals == 2 && (parts.decimals == "-" || parts.decimals == "--")) {
+    parts.decimals = {};
+    parts.comma = false;
+  }
+  return parts;
+}
+
+Reading<double> Read(std::string_view text, const Style& style) {
+  const auto refuse = [](std::string_view reason) { return Reading<double>::Refuse(std::string(reason)); };
+  text = Trim(text);
+  if (text.empty()) return {};
+  const Parts parts = Take(text, style);
+  const std::string digits = WithoutPoints(parts.whole);
+  if (!IsDigits(digits) || (digits.empty() && !parts.comma)) return refuse(style.expected);
+  if (parts.whole.find('.') != std::string_view::npos && digits.empty()) return refuse(style.expected);
+  if (parts.comma && (parts.decimals.empty() || !IsDigits(parts.decimals))) return refuse(style.expected);
+  if (!IsGrouped(parts.whole))
+    return refuse(parts.comma ? std::string(style.expected) : BothReadings(parts.whole, style));
+  if (parts.decimals.size() > style.decimals) return refuse(style.tooManyDecimals);
+  if (digits.size() > kMostWholeDigits) return refuse(kTooLarge);
+
+  std::string plain = digits.empty() ? "0" : digits;
+  plain += '.';
+  plain += parts.decimals.empty() ? "0" : parts.decimals;
+  const double value = NearestDouble(plain);
+  return parts.negative && value != 0 ? -value : value;
+}
+
+/// Decimal digits of a number rounded to so many decimals, halves away from zero as they read in the
+/// shortest text of the number; empty where the number is not finite.
+std::string Rounded(double number, std::size_t decimals) {
+  char buffer[400];
+  const auto shortest = std::to_chars(buffer, buffer + sizeof buffer, std::abs(number), std::chars_format::fixed);
+  std::string text(buffer, shortest.ptr);
+  std::size_t point = text.find('.');
+  if (point == std::string::npos) {
+    point = text.size();
+    text += '.';
+  }
+  const bool up = text.size() > point + 1 + decimals && text[point + 1 + decimals] >= '5';
+  text.resize(point + 1 + decimals, '0');
+  text.erase(point, 1);
+  if (!up) return text;
+  std::size_t i = text.size();
+  while (i > 0 && text[i - 1] == '9') text[--i] = '0';
+  if (i == 0) return "1" + text;
+  ++text[i - 1];
+  return text;
+}
+
+enum class TrailingZeros { Keep, Drop };
+
+std::string Show(double number, std::size_t decimals, TrailingZeros zeros) {
+  if (!std::isfinite(number)) return {};
+  const std::string digits = Rounded(number, decimals);
+  std::string fraction = digits.substr(digits.size() - decimals);
+  if (zeros == TrailingZeros::Drop)
+    while (!fraction.empty() && fraction.back() == '0') fraction.pop_back();
+  std::string text = Grouped(digits.substr(0, digits.size() - decimals));
+  if (!fraction.empty()) text += "," + fraction;
+  const bool zero = digits.find_first_not_of('0') == std::string::npos;
+  return std::signbit(number) && !zero ? "-" + text : text;
+}
+
+}  // namespace
+
+Reading<double> ReadAmount(std::string_view text) { return Read(text, kAmount); }
+Reading<double> ReadNumber(std::string_view text) { return Read(text, kNumber); }
+
+Reading<std::int32_t> ReadWhole(std::string_view text) {
+  const Reading<double> reading = Read(text, kWhole);
+  if (reading.IsRefused()) return Reading<std::int32_t>::Refuse(reading.Reason());
+  if (reading.IsEmpty()) return {};
+  if (std::abs(*reading) > std::numeric_limits<std::int32_t>::max())
+    return Reading<std::int32_t>::Refuse(std::string(kTooLarge));
+  return static_cast<std::int32_t>(*reading);
+}
+
+std::string ShowAmount(double amount) { return Show(amount, kAmount.decimals, TrailingZeros::Keep); }
+std::string ShowNumber(double number) { return Show(number, kNumber.decimals, TrailingZeros::Drop); }
+std::string ShowWhole(std::int32_t number) { return std::to_string(number); }
+
+}  // namespace brivane::frame

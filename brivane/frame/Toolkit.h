@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+#include <brivane/frame/Design.h>
+#include <brivane/host/controls/Desktop.h>
+#include <brivane/host/controls/Form.h>
+#include <brivane/host/controls/Surface.h>
+
+namespace brivane::frame {
+
+/// Makes surfaces and forms from design tables, and stands for the machine around them.
+///
+/// As designed: boxes empty, toggles at "Nee", check boxes unticked, no option and no list entry
+/// selected, everything enabled, and visible but for the templates of run-time elements.
+class Toolkit {
+ public:
+  virtual ~Toolkit() = default;
+
+  [[nodiscard]] virtual host::Desktop& Desktop() = 0;
+  [[nodiscard]] virtual std::unique_ptr<host::Surface> MakeSurface(const Design& design) = 0;
+  [[nodiscard]] virtual std::unique_ptr<host::Form> MakeForm(const Design& design) = 0;
+};
+
+}  // namespace brivane::frame

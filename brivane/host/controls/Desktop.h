@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <brivane/host/Date.h>
+#include <brivane/host/Event.h>
+
+namespace brivane::host {
+
+/// Buttons and icon of a message box: the sum of the button code (0 OK, 4 Yes/No) and the icon code
+/// (32 question, 48 exclamation).
+enum class MessageStyle : std::int32_t { YesNoQuestion = 36, OkExclamation = 48 };
+
+/// What a message box answers.
+enum class MessageAnswer : std::int32_t { Ok = 1, Yes = 6, No = 7 };
+
+/// What a control needs of the machine and the running application around it.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// Title of the running application.
+  [[nodiscard]] virtual std::string ApplicationTitle() const = 0;
+  /// Shows a modal message box and answers the button that closed it.
+  virtual MessageAnswer MessageBox(const std::string& title, const std::string& text, MessageStyle style) = 0;
+  /// Twips to a pixel: 15 on a screen of 96 dots per inch.
+  [[nodiscard]] virtual float TwipsPerPixelX() const = 0;
+  [[nodiscard]] virtual float TwipsPerPixelY() const = 0;
+  /// Resets the mouse pointer to the default arrow, as far as the controls changed it.
+  virtual void ResetMousePointer() = 0;
+  /// Today's date, without time.
+  [[nodiscard]] virtual Date Today() const = 0;
+  /// Lets pending user-interface events run.
+  virtual void DoPendingEvents() = 0;
+  /// A number formatted as "#,##0" in the user's locale: grouped, no decimals, halves away from zero.
+  [[nodiscard]] virtual std::string FormatWhole(double number) const = 0;
+
+  /// Raised by the controls: a procedure failed, and its report to the host is about to be made. The procedure's caller
+  /// does not hear of it; whoever shows the control does.
+  Event<> ProcedureFailed;
+};
+
+}  // namespace brivane::host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string_view>
+
+#include <brivane/host/Twips.h>
+
+namespace brivane::host {
+
+/// Something that measures text in its font.
+class DrawingSurface {
+ public:
+  virtual ~DrawingSurface() = default;
+  [[nodiscard]] virtual bool FontBold() const = 0;
+  virtual void SetFontBold(bool bold) = 0;
+  /// Width of a UTF-8 text in the surface's font.
+  [[nodiscard]] virtual Twips TextWidth(std::string_view text) const = 0;
+};
+
+}  // namespace brivane::host

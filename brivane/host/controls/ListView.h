@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include <brivane/host/controls/Control.h>
+
+namespace brivane::host {
+
+/// The report list: column headers and keyed rows.
+class ListView : public Control {
+ public:
+  virtual void ClearColumns() = 0;
+  /// Adds a left-aligned column header.
+  virtual void AddColumn(const std::string& heading, Twips width) = 0;
+  virtual void ClearItems() = 0;
+  /// Inserts a row at an index from 1.
+  virtual void AddItem(std::size_t index, const std::string& key, const std::string& text) = 0;
+  /// Adds the next sub-item to the row at an index from 1.
+  virtual void AddSubItem(std::size_t index, const std::string& text) = 0;
+
+  [[nodiscard]] virtual std::size_t ItemCount() const = 0;
+  [[nodiscard]] virtual std::size_t SubItemCount(std::size_t index) const = 0;
+  [[nodiscard]] virtual std::string Key(std::size_t index) const = 0;
+
+  /// Index of the selected row from 1, or 0 for none.
+  [[nodiscard]] virtual std::size_t Selected() const = 0;
+  virtual void Select(std::size_t index) = 0;
+  [[nodiscard]] virtual bool Bold(std::size_t index) const = 0;
+  virtual void SetBold(std::size_t index, bool bold) = 0;
+  /// Sub-items count from 1.
+  virtual void SetSubItemBold(std::size_t index, std::size_t subItem, bool bold) = 0;
+};
+
+}  // namespace brivane::host

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDate>
+#include <QPointer>
+
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
+
+class QFrame;
+
+namespace brivane::qt {
+
+/// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its icon. A day picked
+/// there is handed over at once; Escape closes the calendar and changes nothing. Without a control it takes dates all
+/// the same, and who wants one reads its text.
+class DateBox : public EntryBox {
+ public:
+  explicit DateBox(QWidget* parent = nullptr);
+
+  void OpenCalendar();
+  /// The open calendar, or nothing.
+  [[nodiscard]] QWidget* Calendar() const;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Pick(QDate date);
+  void DrawIcon();
+
+  QAction* icon_;
+  QPointer<QFrame> popup_;
+};
+
+}  // namespace brivane::qt

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include <brivane/toolkits/win32/window/Window.h>
+
+namespace brivane::win32 {
+
+/// A small text beside a box that says why its content was refused. It takes no focus and no clicks, and
+/// lies on the surface around the box, so that it moves and goes with it.
+class Bubble final : public Window {
+ public:
+  /// Under the box, or above it where there is no room. `area` is the window that it lies on.
+  Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const std::wstring& reason);
+
+ protected:
+  HBRUSH OnColor(UINT message, HDC context) override;
+};
+
+}  // namespace brivane::win32

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "host/controls/Control.h"
-
-namespace brivane::host {
-
-class Label : public Captioned {};
-
-}  // namespace brivane::host
