@@ -1,4 +1,4 @@
-# The package that find_package() and pkg-config find: headers under include/brivane, the libraries, and what tells where
+# The package that find_package() and pkg-config find: headers in include/brivane, the libraries, and what tells where
 # they are. Parts that were not built are left out, and the package says so to who asks for them.
 #
 # Components: runtime (programs and shared libraries), development (all else that is linked), documents, tools.
