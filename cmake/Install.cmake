@@ -1,18 +1,19 @@
 # The package that find_package() and pkg-config find: headers in include/brivane, the libraries, and what tells where
 # they are. Parts that were not built are left out, and the package says so to who asks for them.
 #
-# Components: runtime (programs and shared libraries), development (all else that is linked), documents, tools.
+# Components: runtime and runtime_qt (the shared libraries), development (all else that is compiled and linked with),
+# documents, tools (the replay tool), host (the reference host).
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/BrivaneVrijeKolom)
 
-# brivane_install_part(PART TARGET DESCRIPTION REQUIRES): a library, its public headers, and what
+# brivane_install_part(PART TARGET RUNTIME_COMPONENT DESCRIPTION REQUIRES): a library, its public headers, and what
 # find_package() and pkg-config know it by.
-function(brivane_install_part part target description requires)
+function(brivane_install_part part target runtime description requires)
   install(TARGETS ${target} EXPORT ${part}
           FILE_SET HEADERS COMPONENT development
-          LIBRARY COMPONENT runtime OPTIONAL NAMELINK_COMPONENT development
+          LIBRARY COMPONENT ${runtime} OPTIONAL NAMELINK_COMPONENT development
           ARCHIVE COMPONENT development OPTIONAL)
   install(EXPORT ${part} NAMESPACE Brivane:: FILE ${part}Targets.cmake DESTINATION ${package_dir} COMPONENT development)
   get_target_property(name ${target} OUTPUT_NAME)
@@ -20,9 +21,9 @@ function(brivane_install_part part target description requires)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endfunction()
 
-brivane_install_part(VrijeKolom brivane_embedding "${PROJECT_DESCRIPTION}" "")
+brivane_install_part(VrijeKolom brivane_embedding runtime "${PROJECT_DESCRIPTION}" "")
 if(BRIVANE_QT)
-  brivane_install_part(Qt brivane_embedding_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
+  brivane_install_part(Qt brivane_embedding_qt runtime_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
                        "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")
 endif()
 
@@ -34,3 +35,19 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/BrivaneVrijeKolomConfig.cmake
         DESTINATION ${package_dir} COMPONENT development)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documents)
+
+# The manual pages of what is started by name.
+find_program(GZIP_PROGRAM gzip)
+function(brivane_install_manual program component)
+  if(GZIP_PROGRAM)
+    configure_file(${PROJECT_SOURCE_DIR}/packaging/linux/${program}.1 ${PROJECT_BINARY_DIR}/${program}.1 COPYONLY)
+    execute_process(COMMAND ${GZIP_PROGRAM} -9nf ${PROJECT_BINARY_DIR}/${program}.1 COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${PROJECT_BINARY_DIR}/${program}.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+  endif()
+endfunction()
+if(BRIVANE_PROGRAMS)
+  brivane_install_manual(vrijekolom-replay tools)
+  if(BRIVANE_QT)
+    brivane_install_manual(dossier host)
+  endif()
+endif()
