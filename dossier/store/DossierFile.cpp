@@ -17,7 +17,6 @@
 #include "dossier/store/Possible.h"
 #include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
-#include "dossier/store/StateChain.h"
 
 namespace brivane::dossier {
 namespace {
@@ -37,7 +36,12 @@ OpeningProblem ProblemOf(const DatabaseError& error) {
 }
 
 OpeningProblem ProblemOf(const ContentsError& error) {
-  return error.Which() == ContentsError::What::Value ? OpeningProblem::Impossible : OpeningProblem::Damaged;
+  switch (error.Which()) {
+    case ContentsError::What::Value: return OpeningProblem::Impossible;
+    case ContentsError::What::Size: return OpeningProblem::TooLarge;
+    case ContentsError::What::Structure: break;
+  }
+  return OpeningProblem::Damaged;
 }
 
 OpeningProblem ProblemOf(const LockError& error) {
@@ -67,10 +71,7 @@ Opened OpenToWork(const QString& pad) {
   Database& database = *opened.database;
   // Without it SQLite wants to share the index of the log, which needs locks.
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
-  ControleerInhoud(database, pad);
-  static_cast<void>(ReadStates(database));
-  opened.contents = ReadDossier(database);
-  CheckPossible(opened.contents.gegevens, pad);
+  opened.contents = ReadChecked(database, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -125,9 +126,9 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     Opened opened = read_only_ ? OpenToRead(pad_) : OpenToWork(pad_);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
     journal_ = std::make_shared<FileJournal>(
-        std::move(opened.database), opened.contents.hoogste + 1,
-        [doel](Database& opnieuw) {
-          if (const auto dossier = doel->lock()) dossier->Herlaad(ReadDossier(opnieuw).gegevens);
+        std::move(opened.database), opened.contents,
+        [doel](DossierGegevens gegevens) {
+          if (const auto dossier = doel->lock()) dossier->Herlaad(std::move(gegevens));
         },
         std::move(opened.held));
     journal_->WorkOff();
@@ -216,6 +217,18 @@ std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &j
 
 std::shared_ptr<StoreTrace> DossierFile::MakeTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
   return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
+}
+
+void DossierFile::SetAuthor(const std::string& name) { journal_->SetAuthor(name); }
+
+std::vector<Entry> DossierFile::Next(StepKind kind) const {
+  return read_only_ ? std::vector<Entry>() : journal_->Next(kind);
+}
+
+std::optional<Done> DossierFile::Take(StepKind kind) { return journal_->Take(kind); }
+
+std::unique_ptr<HistoryView> DossierFile::Geschiedenis() const {
+  return std::make_unique<HistoryView>(*journal_->Bestand());
 }
 
 void DossierFile::WorkOff() noexcept { journal_->WorkOff(); }

@@ -13,6 +13,7 @@ inline constexpr quint32 kApplicationId = 0x4272446F;
 inline constexpr int kSchemaVersion = 3;
 /// The first version that knows the persons' rates of tax, and that keeps a history.
 inline constexpr int kVersionWithRates = 3;
+inline constexpr int kVersionWithHistory = 3;
 
 /// Brings an open file from one version (0: a file without tables) up to kSchemaVersion in one transaction.
 void Migrate(Database& database, int version);
