@@ -127,9 +127,13 @@ void Dossier::Verwijder(std::int16_t Len_Id, std::int16_t Vrij_Id) {
   if (plaats == kolommen.end()) throw host::Error(host::ErrorNumber::ObjectMissing);
   omgeving_->Journal->InOneEdit([&] {
     lening.VerwijderVrijeKolom(static_cast<std::int16_t>(plaats - kolommen.begin() + 1));
-    if (huidige_->Zoek(Vrij_Id) || HeeftAfwijking(Vrij_Id)) return;
-    for (const std::int16_t voorstel : {1, 2, 3}) VerwijderUitVoorstel(voorstel, Vrij_Id, 0);
+    LaatVoorstellenLos(Vrij_Id);
   });
+}
+
+void Dossier::LaatVoorstellenLos(std::int16_t Vrij_Id) {
+  if (huidige_->Zoek(Vrij_Id) || HeeftAfwijking(Vrij_Id)) return;
+  for (const std::int16_t voorstel : {1, 2, 3}) VerwijderUitVoorstel(voorstel, Vrij_Id, 0);
 }
 
 std::int16_t Dossier::Verplaats(std::int16_t Len_Id, std::int16_t Vrij_Id, std::int16_t naarLen_Id) {
@@ -166,6 +170,21 @@ std::int16_t Dossier::NieuweLening(std::string naam) {
   omgeving_->Journal->InOneEdit([&] { omgeving_->Journal->AddLoan(gegevens); });
   leningen_.push_back(std::make_shared<dossier::Lening>(omgeving_, std::move(gegevens)));
   return AantalLeningen();
+}
+
+void Dossier::HernoemLening(std::int16_t Len_Id, const std::string& naam) {
+  dossier::Lening& lening = host::Need(FindLening(Len_Id));
+  omgeving_->Journal->InOneEdit([&] { lening.Hernoem(naam); });
+}
+
+void Dossier::VerwijderLening(std::int16_t Len_Id) {
+  const auto lening = Len_Id == kHuidig ? nullptr : FindLening(Len_Id);
+  const Sleutel sleutel = host::Need(lening).Sleutel();
+  omgeving_->Journal->InOneEdit([&] {
+    omgeving_->Journal->RemoveLoan(sleutel);
+    leningen_.erase(leningen_.begin() + (Len_Id - 1));
+    for (const auto& kolom : lening->Kolommen()) LaatVoorstellenLos(kolom->Id());
+  });
 }
 
 void Dossier::SetClient(std::vector<PersoonGegevens> personen, std::int16_t leeftijd) {

@@ -71,6 +71,11 @@ class Dossier : public host::Dossier {
 
   /// Appends a loan without columns to the new situation and answers its number.
   std::int16_t NieuweLening(std::string naam);
+  /// Gives a loan another name. An unknown loan fails with error 91.
+  void HernoemLening(std::int16_t Len_Id, const std::string& naam);
+  /// Removes a loan of the new situation with all its columns; the loans after it move up. Items that are gone from the
+  /// whole case leave the proposals too. An unknown loan, and that of the current situation, fail with error 91.
+  void VerwijderLening(std::int16_t Len_Id);
   /// Replaces the persons and the age limit. One or two persons; else it fails with error 9.
   void SetClient(std::vector<PersoonGegevens> personen, std::int16_t leeftijd);
 
@@ -81,6 +86,8 @@ class Dossier : public host::Dossier {
  private:
   [[nodiscard]] std::int16_t VrijId() const;
   template <class Function> void VoorElkeKolom(Function&& functie) const;
+  /// Takes an item out of the proposals when no loan has it any more.
+  void LaatVoorstellenLos(std::int16_t Vrij_Id);
   void AdoptPersonen(std::vector<PersoonGegevens> personen);
   void WriteVoorstel(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap);
 

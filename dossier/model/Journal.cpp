@@ -15,6 +15,8 @@ void Journal::AddColumn(Sleutel, KolomGegevens& kolom) {
 void Journal::RemoveColumn(Sleutel) {}
 void Journal::MoveColumn(Sleutel, Sleutel, std::int16_t) {}
 void Journal::AddLoan(LeningGegevens& lening) { lening.Sleutel = ++laatste_; }
+void Journal::RenameLoan(Sleutel, const std::string&) {}
+void Journal::RemoveLoan(Sleutel) {}
 void Journal::SetPersons(const std::vector<PersoonGegevens>&) {}
 void Journal::SetAgeLimit(std::int16_t) {}
 void Journal::SetProposal(std::int16_t, std::int16_t, Membership) {}

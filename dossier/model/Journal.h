@@ -59,6 +59,9 @@ class Journal {
 
   /// Appends a loan without columns to the new situation, and fills in the key given to it.
   virtual void AddLoan(LeningGegevens& lening);
+  virtual void RenameLoan(Sleutel lening, const std::string& naam);
+  /// Removes a loan of the new situation with its columns; those after it move up.
+  virtual void RemoveLoan(Sleutel lening);
   /// Replaces the applicant and, if there is one, the partner.
   virtual void SetPersons(const std::vector<PersoonGegevens>& personen);
   virtual void SetAgeLimit(std::int16_t leeftijd);

@@ -46,6 +46,11 @@ void Lening::Verplaats(std::int16_t Vrij_Id, dossier::Lening& naar, std::int16_t
   naar.kolommen_.push_back(kolom);
 }
 
+void Lening::Hernoem(const std::string& naam) {
+  omgeving_->Journal->RenameLoan(sleutel_, naam);
+  naam_ = naam;
+}
+
 LeningGegevens Lening::Gegevens() const {
   LeningGegevens gegevens{.Sleutel = sleutel_, .Naam = naam_, .VrijeKolommen = {}};
   for (const auto& kolom : kolommen_) gegevens.VrijeKolommen.push_back(kolom->Gegevens());

@@ -32,6 +32,9 @@ class Lening : public host::Lening {
   /// Moves a column of this loan to the end of another one, under a given identifier.
   void Verplaats(std::int16_t Vrij_Id, dossier::Lening& naar, std::int16_t nieuwId);
 
+  /// Gives the loan another name.
+  void Hernoem(const std::string& naam);
+
   [[nodiscard]] LeningGegevens Gegevens() const;
   /// Takes over what is stored, telling nobody. A column that is known keeps its object.
   void Herlaad(LeningGegevens gegevens);

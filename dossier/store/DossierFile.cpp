@@ -8,6 +8,7 @@
 #include <chrono>
 #include <utility>
 
+#include "dossier/store/EarlierVersion.h"
 #include "dossier/store/FileCheck.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/HeldFile.h"
@@ -16,7 +17,6 @@
 #include "dossier/store/Possible.h"
 #include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
-#include "dossier/store/StateChain.h"
 
 namespace brivane::dossier {
 namespace {
@@ -36,7 +36,12 @@ OpeningProblem ProblemOf(const DatabaseError& error) {
 }
 
 OpeningProblem ProblemOf(const ContentsError& error) {
-  return error.Which() == ContentsError::What::Value ? OpeningProblem::Impossible : OpeningProblem::Damaged;
+  switch (error.Which()) {
+    case ContentsError::What::Value: return OpeningProblem::Impossible;
+    case ContentsError::What::Size: return OpeningProblem::TooLarge;
+    case ContentsError::What::Structure: break;
+  }
+  return OpeningProblem::Damaged;
 }
 
 OpeningProblem ProblemOf(const LockError& error) {
@@ -53,21 +58,20 @@ struct Opened {
   std::unique_ptr<HeldFile> held;
   std::unique_ptr<Database> database;
   StoredDossier contents;
+  /// The copy of the file before it was brought up to date, or nothing.
+  QString earlier;
 };
 
 /// Nothing is written before the whole of the file was found right.
 Opened OpenToWork(const QString& pad) {
-  Opened opened{.held = std::make_unique<HeldFile>(pad), .database = nullptr, .contents = {}};
+  Opened opened{.held = std::make_unique<HeldFile>(pad), .database = nullptr, .contents = {}, .earlier = {}};
   CheckHeader(pad);
   CheckLeftOver(pad);
   opened.database = std::make_unique<Database>(pad, Access::Held);
   Database& database = *opened.database;
   // Without it SQLite wants to share the index of the log, which needs locks.
   database.Run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
-  ControleerInhoud(database, pad);
-  static_cast<void>(ReadStates(database));
-  opened.contents = ReadDossier(database);
-  CheckPossible(opened.contents.gegevens, pad);
+  opened.contents = ReadChecked(database, pad);
   database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
   database.Run(QStringLiteral("PRAGMA synchronous = FULL"));
   database.Run(QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -83,7 +87,11 @@ Opened OpenToWork(const QString& pad) {
   if (const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
     // What a killed program left goes first: the log of this step proves itself by changing nothing else.
     database.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    opened.earlier = KeepEarlierVersion(pad);
     Migrate(database, versie);
+  } else if (IsEarlierVersion(EarlierVersionOf(pad))) {
+    // Nothing was changed since it was brought up to date.
+    opened.earlier = EarlierVersionOf(pad);
   }
   return opened;
 }
@@ -95,7 +103,8 @@ Opened OpenToRead(const QString& pad) {
   const DossierGegevens contents = ReadUntouched(pad);
   Opened opened{.held = nullptr,
                 .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
-                .contents = {}};
+                .contents = {},
+                .earlier = {}};
   Migrate(*opened.database, 0);
   Writer(*opened.database, 1).WriteDossier(contents);
   opened.contents = ReadDossier(*opened.database);
@@ -117,9 +126,9 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     Opened opened = read_only_ ? OpenToRead(pad_) : OpenToWork(pad_);
     auto doel = std::make_shared<std::weak_ptr<dossier::Dossier>>();
     journal_ = std::make_shared<FileJournal>(
-        std::move(opened.database), opened.contents.hoogste + 1,
-        [doel](Database& opnieuw) {
-          if (const auto dossier = doel->lock()) dossier->Herlaad(ReadDossier(opnieuw).gegevens);
+        std::move(opened.database), opened.contents,
+        [doel](DossierGegevens gegevens) {
+          if (const auto dossier = doel->lock()) dossier->Herlaad(std::move(gegevens));
         },
         std::move(opened.held));
     journal_->WorkOff();
@@ -128,6 +137,7 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     omgeving->Kopteksten = std::make_shared<BerekendeKopteksten>();
     dossier_ = std::make_shared<dossier::Dossier>(std::move(opened.contents.gegevens), std::move(omgeving));
     *doel = dossier_;
+    ForgetAtFirstEdit(opened.earlier);
     ComeToRest();
   } catch (const ContentsError& error) {
     throw OpeningError(ProblemOf(error), pad_, QString::fromStdString(error.Place()));
@@ -136,6 +146,13 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
   } catch (const LockError& error) {
     throw OpeningError(ProblemOf(error), pad_);
   }
+}
+
+void DossierFile::ForgetAtFirstEdit(const QString& copy) {
+  if (copy.isEmpty()) return;
+  first_edit_ = Bewerkingen().Stored.Connect([copy, gone = false]() mutable {
+    if (!std::exchange(gone, true)) QFile::remove(copy);
+  });
 }
 
 void DossierFile::ComeToRest() {
@@ -165,6 +182,7 @@ bool DossierFile::StandsAt(const QString& pad) { return LooksLikeALoanFile(pad);
 
 DossierFile::~DossierFile() {
   in_log_ = {};
+  first_edit_ = {};
   journal_->Sluit();
 }
 
@@ -199,6 +217,18 @@ std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &j
 
 std::shared_ptr<StoreTrace> DossierFile::MakeTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
   return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
+}
+
+void DossierFile::SetAuthor(const std::string& name) { journal_->SetAuthor(name); }
+
+std::vector<Entry> DossierFile::Next(StepKind kind) const {
+  return read_only_ ? std::vector<Entry>() : journal_->Next(kind);
+}
+
+std::optional<Done> DossierFile::Take(StepKind kind) { return journal_->Take(kind); }
+
+std::unique_ptr<HistoryView> DossierFile::Geschiedenis() const {
+  return std::make_unique<HistoryView>(*journal_->Bestand());
 }
 
 void DossierFile::WorkOff() noexcept { journal_->WorkOff(); }

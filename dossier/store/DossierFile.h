@@ -8,6 +8,7 @@
 
 #include "dossier/model/Dossier.h"
 #include "dossier/store/Edits.h"
+#include "dossier/store/HistoryView.h"
 #include "dossier/store/OpeningError.h"
 #include "dossier/store/StoreTrace.h"
 
@@ -57,6 +58,16 @@ class DossierFile {
   /// The file stands where it was opened: it was not moved, replaced or deleted. Where it was, every change fails, and
   /// what is stored can be kept by making another file with Dossier()->Gegevens().
   [[nodiscard]] bool InPlace() const;
+  /// Who works in the file, as its history names them.
+  void SetAuthor(const std::string& name);
+  /// What would be undone (Undo) or redone (Redo) next: the entries of that step, the reason of all the rest first.
+  /// None where there is nothing, or where it is only read. Throws host::Error.
+  [[nodiscard]] std::vector<Entry> Next(StepKind kind) const;
+  /// Undoes or redoes that step, in the file and in memory: objects of what came back are new. Nothing where there is
+  /// no step. Throws host::Error, and then nothing has changed.
+  std::optional<Done> Take(StepKind kind);
+  /// The history to be looked through; it goes before this object.
+  [[nodiscard]] std::unique_ptr<HistoryView> Geschiedenis() const;
   /// Works the log off now, where no edit is under way and the disk lets it: the file alone holds everything.
   void WorkOff() noexcept;
   /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
@@ -64,6 +75,8 @@ class DossierFile {
 
  private:
   explicit DossierFile(const QString& pad);
+  /// Takes the copy of an earlier version away once a change is stored.
+  void ForgetAtFirstEdit(const QString& copy);
   /// Has the log worked off soon after each edit.
   void ComeToRest();
 
@@ -73,6 +86,7 @@ class DossierFile {
   std::shared_ptr<dossier::Dossier> dossier_;
   std::unique_ptr<QTimer> rest_;
   host::Subscription in_log_;
+  host::Subscription first_edit_;
 };
 
 }  // namespace brivane::dossier

@@ -13,6 +13,7 @@
 #include "dossier/store/OpeningError.h"
 #include "dossier/store/Possible.h"
 #include "dossier/store/Schema.h"
+#include "dossier/store/StateChain.h"
 
 namespace brivane::dossier {
 namespace {
@@ -72,9 +73,10 @@ bool IsVolledig(const QByteArray& header, qint64 lengte) {
   return pagina > 0 && lengte >= pagina * qFromBigEndian<quint32>(header.constData() + kPageCount);
 }
 
-/// What SQLite's check finds is damage, unless the disk or the memory kept it from looking.
-void CheckWhole(Database& database, const QString& pad) {
-  const QString found = database.Value(QStringLiteral("PRAGMA integrity_check(1)")).toString();
+/// What SQLite's check finds is damage, unless the disk or the memory kept it from looking. `what`: a number of
+/// findings for the whole file, or the name of a table.
+void CheckWith(Database& database, const QString& what, const QString& pad) {
+  const QString found = database.Value(QStringLiteral("PRAGMA integrity_check(%1)").arg(what)).toString();
   if (found == QStringLiteral("ok")) return;
   static const QRegularExpression code(QStringLiteral("error code[ =](\\d+)"));
   if (const QRegularExpressionMatch match = code.match(found); match.hasMatch()) {
@@ -82,6 +84,20 @@ void CheckWhole(Database& database, const QString& pad) {
     if (!error.IsDamage()) throw error;
   }
   throw OpeningError(OpeningProblem::Damaged, pad);
+}
+
+/// A history of so many entries is checked with the file; opening does not wait for a longer one.
+constexpr qlonglong kShortHistory = 2000;
+
+void CheckWhole(Database& database, int version, const QString& pad) {
+  const bool longHistory =
+      version >= kVersionWithHistory &&
+      database.Value(QStringLiteral("SELECT max(nummer) FROM wijziging")).toLongLong() > kShortHistory;
+  if (!longHistory) return CheckWith(database, QStringLiteral("1"), pad);
+  for (const char* table : {"sqlite_schema", "dossier", "persoon", "maatschappij_type", "lening", "vrijekolom",
+                            "periode", "voorstel", "stand"}) {
+    CheckWith(database, QLatin1String(table), pad);
+  }
 }
 
 }  // namespace
@@ -102,10 +118,15 @@ void CheckName(const QString& pad) {
   if (file.st_nlink > 1) throw OpeningError(OpeningProblem::SecondName, pad);
 }
 
-bool LooksLikeALoanFile(const QString& pad) {
+std::optional<int> LoanFileVersion(const QString& pad) {
   QFile file(pad);
-  return QFileInfo(pad).isFile() && file.open(QIODevice::ReadOnly) && BeginsAsALoanFile(file.read(kHeaderSize));
+  if (!QFileInfo(pad).isFile() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray header = file.read(kHeaderSize);
+  if (!BeginsAsALoanFile(header)) return std::nullopt;
+  return qFromBigEndian<qint32>(header.constData() + kUserVersion);
 }
+
+bool LooksLikeALoanFile(const QString& pad) { return LoanFileVersion(pad).has_value(); }
 
 bool IsWritable(const QString& pad) { return Schrijfbaar(pad) && Schrijfbaar(QFileInfo(pad).absolutePath()); }
 
@@ -123,12 +144,24 @@ void CheckPossible(const DossierGegevens& contents, const QString& pad) {
   }
 }
 
-void ControleerInhoud(Database& database, const QString& pad) {
+StoredDossier ReadChecked(Database& database, const QString& pad) {
   const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt();
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
   // The layout comes first: SQLite holds the rows against the constraints that the file itself gives.
   if (versie < 1 || !HasSchema(database, versie)) throw OpeningError(OpeningProblem::Damaged, pad);
-  CheckWhole(database, pad);
+  StoredDossier read;
+  try {
+    // Before the check, which has no bound of its own: reading ends where a case is too large.
+    read = ReadDossier(database);
+  } catch (const ContentsError& error) {
+    // Where the file is damaged, that is why.
+    if (error.Which() != ContentsError::What::Size) CheckWhole(database, versie, pad);
+    throw;
+  }
+  CheckWhole(database, versie, pad);
+  static_cast<void>(ReadStates(database));
+  CheckPossible(read.gegevens, pad);
+  return read;
 }
 
 }  // namespace brivane::dossier

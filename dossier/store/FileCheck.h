@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "dossier/model/Gegevens.h"
 #include "dossier/store/Database.h"
+#include "dossier/store/Reader.h"
 
 namespace brivane::dossier {
 
@@ -12,6 +14,9 @@ void CheckName(const QString& pad);
 
 /// Whether a file begins as a loan file does, whole or not.
 [[nodiscard]] bool LooksLikeALoanFile(const QString& pad);
+
+/// The version of its layout that such a file names; nothing where it is no loan file.
+[[nodiscard]] std::optional<int> LoanFileVersion(const QString& pad);
 
 /// Neither the file nor its folder is marked or given to be read only.
 [[nodiscard]] bool IsWritable(const QString& pad);
@@ -23,9 +28,10 @@ void CheckHeader(const QString& pad);
 /// Throws OpeningError with the place of a value that no edit writes.
 void CheckPossible(const DossierGegevens& contents, const QString& pad);
 
-/// Checks the layout and the whole of an open file, reading only. Throws OpeningError for a file that is newer or
-/// damaged, and DatabaseError where it cannot be read. A connection that cannot write passes over the constraints of
-/// the rows; ReadDossier keeps to those itself.
-void ControleerInhoud(Database& database, const QString& pad);
+/// Reads what an open file holds, and checks its layout, the whole of the case and, where that is short, of its
+/// history; a long history is looked at when it is used. Reads only. Throws OpeningError for a file that is newer,
+/// damaged or larger than a case may be, and DatabaseError where it cannot be read. A connection that cannot write
+/// passes over the constraints of the rows; ReadDossier keeps to those itself.
+[[nodiscard]] StoredDossier ReadChecked(Database& database, const QString& pad);
 
 }  // namespace brivane::dossier

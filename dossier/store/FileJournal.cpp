@@ -1,7 +1,9 @@
 #include "dossier/store/FileJournal.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "dossier/store/CaseWeight.h"
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
 #include "dossier/store/StateChain.h"
@@ -71,9 +73,15 @@ QString Update(const char* tabel, std::string_view veld, const Waarde& waarde) {
 
 }  // namespace
 
-FileJournal::FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload,
-                         std::unique_ptr<HeldFile> held)
-    : held_(std::move(held)), database_(std::move(database)), writer_(*database_, eerste), reload_(std::move(reload)) {}
+FileJournal::FileJournal(std::unique_ptr<Database> database, const StoredDossier& stored,
+                         std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held)
+    : held_(std::move(held)),
+      database_(std::move(database)),
+      log_(*database_),
+      // A key of what was removed is not given out again: the history still speaks of it.
+      writer_(*database_, std::max(stored.hoogste, log_.HighestKey()) + 1),
+      adopt_(std::move(adopt)),
+      weight_(stored.weight) {}
 
 FileJournal::~FileJournal() { Sluit(); }
 
@@ -81,6 +89,7 @@ void FileJournal::Sluit() {
   if (!database_) return;
   WorkOff();
   writer_.Sluit();
+  log_.Close();
   kolomvelden_.clear();
   periodevelden_.clear();
   verwijder_periode_.reset();
@@ -130,11 +139,15 @@ template <class Change> void FileJournal::Write(Change&& change) {
     try {
       change(Open());
     } catch (const DatabaseError& error) {
-      if (error.Code() == SqliteCode::Full && IsAsLargeAsItMayBe(Open()))
-        throw AlsFout(error, "het dossier is zo groot als een dossier kan zijn");
-      throw AlsFout(error);
+      throw StoringFailed(error);
     }
   });
+}
+
+host::Error FileJournal::StoringFailed(const DatabaseError& error) {
+  const bool full =
+      error.Code() == SqliteCode::Full && (weight_ + log_.Growth() > kMostWeight || IsAsLargeAsItMayBe(Open()));
+  return full ? AlsFout(error, "het dossier is zo groot als een dossier kan zijn") : AlsFout(error);
 }
 
 void FileJournal::Begin() {
@@ -154,11 +167,16 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
+    log_.Store(writer_.Hoogste());
+    if (weight_ + log_.Growth() > kMostWeight)
+      throw DatabaseError(SqliteCode::Full, "The case is as large as it may be");
     AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);
     Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
   } catch (const DatabaseError& error) {
-    throw AlsFout(error);
+    throw StoringFailed(error);
   }
+  weight_ += log_.Growth();
+  log_.Committed();
   // Where nobody works it off at rest it does not grow for ever.
   if (++edits_in_log_ >= kMostEditsInLog) WorkOff();
   if (!AtRest()) InLog.Raise();
@@ -170,11 +188,12 @@ void FileJournal::Rollback() noexcept {
   } catch (const DatabaseError&) {
     // SQLite has ended the transaction itself, as it does on a full disk.
   }
+  log_.RolledBack();
 }
 
 void FileJournal::Reload() noexcept {
   try {
-    if (database_) reload_(*database_);
+    if (database_) adopt_(ReadDossier(*database_).gegevens);
   } catch (...) {
     // The memory may show what is not stored: nothing may be built on it any more.
     unreadable_ = true;
@@ -184,6 +203,7 @@ void FileJournal::Reload() noexcept {
 void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) {
   Write([&](Database&) {
     MustBePossible(IsPossible(veld, waarde));
+    log_.Touch(Tabel::Kolom, kolom, PlaceOf(Tabel::Kolom, ColumnName(veld.naam)));
     QSqlQuery& query = Prepared(kolomvelden_[veld.naam], Update("vrijekolom", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(kolom));
@@ -194,13 +214,17 @@ void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) 
 Sleutel FileJournal::AddPeriod(Sleutel kolom) {
   // In an edit that has failed the entry is not stored; it gets a key of its own all the same.
   Sleutel sleutel = 0;
-  Write([&](Database&) { sleutel = writer_.AddPeriode(kolom); });
+  Write([&](Database&) {
+    sleutel = writer_.AddPeriode(kolom);
+    log_.Added(Tabel::Periode, sleutel);
+  });
   return sleutel != 0 ? sleutel : writer_.Volgende();
 }
 
 void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waarde) {
   Write([&](Database&) {
     MustBePossible(IsPossible(veld, waarde));
+    log_.Touch(Tabel::Periode, periode, PlaceOf(Tabel::Periode, ColumnName(veld.naam)));
     QSqlQuery& query = Prepared(periodevelden_[veld.naam], Update("periode", veld.naam, waarde));
     query.bindValue(0, AlsVariant(waarde));
     query.bindValue(1, static_cast<qlonglong>(periode));
@@ -210,6 +234,7 @@ void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waar
 
 void FileJournal::RemovePeriod(Sleutel periode) {
   Write([&](Database&) {
+    log_.Touch(Tabel::Periode, periode);
     QSqlQuery& query = Prepared(verwijder_periode_, QStringLiteral("DELETE FROM periode WHERE sleutel = ?"));
     query.bindValue(0, static_cast<qlonglong>(periode));
     RunForOne(query);
@@ -220,11 +245,14 @@ void FileJournal::AddColumn(Sleutel lening, KolomGegevens& kolom) {
   Write([&](Database&) {
     MustBePossible(!FirstImpossible(kolom));
     writer_.AddKolom(lening, kolom);
+    log_.Added(Tabel::Kolom, kolom.Sleutel);
+    for (const PeriodeGegevens& periode : kolom.Bedrag.Perioden) log_.Added(Tabel::Periode, periode.Sleutel);
   });
 }
 
 void FileJournal::RemoveColumn(Sleutel kolom) {
   Write([&](Database& database) {
+    log_.TouchColumn(kolom);
     QSqlQuery query = database.Prepare(QStringLiteral("DELETE FROM vrijekolom WHERE sleutel = ?"));
     query.bindValue(0, static_cast<qlonglong>(kolom));
     RunForOne(query);
@@ -234,6 +262,7 @@ void FileJournal::RemoveColumn(Sleutel kolom) {
 void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
   Write([&](Database& database) {
     MustBePossible(IsPossibleId(Id));
+    log_.Touch(Tabel::Kolom, kolom, PlaceOf(Tabel::Kolom, "lening"));
     QSqlQuery query =
         database.Prepare(QStringLiteral("UPDATE vrijekolom SET lening = ?, id = ?, volgorde = ? WHERE sleutel = ?"));
     query.bindValue(0, static_cast<qlonglong>(lening));
@@ -249,12 +278,55 @@ void FileJournal::AddLoan(LeningGegevens& lening) {
     const int nummer = database.Value(QStringLiteral("SELECT max(nummer) + 1 FROM lening")).toInt();
     MustBePossible(IsPossibleText(lening.Naam) && static_cast<std::size_t>(nummer) <= kMostLoans);
     writer_.AddLening(nummer, lening);
+    log_.Added(Tabel::Lening, lening.Sleutel);
+  });
+}
+
+void FileJournal::RenameLoan(Sleutel lening, const std::string& naam) {
+  Write([&](Database& database) {
+    MustBePossible(IsPossibleText(naam));
+    log_.Touch(Tabel::Lening, lening, PlaceOf(Tabel::Lening, "naam"));
+    QSqlQuery query = database.Prepare(QStringLiteral("UPDATE lening SET naam = CAST(? AS TEXT) WHERE sleutel = ?"));
+    query.bindValue(0, AlsBytes(naam));
+    query.bindValue(1, static_cast<qlonglong>(lening));
+    RunForOne(query);
+  });
+}
+
+void FileJournal::RemoveLoan(Sleutel lening) {
+  Write([&](Database& database) {
+    log_.Touch(Tabel::Lening, lening);
+    const QString of = QString::number(lening);
+    const auto keys = [&](const QString& sql) {
+      QSqlQuery query = database.Prepare(sql.arg(of));
+      Database::Run(query);
+      std::vector<Sleutel> found;
+      while (query.next()) found.push_back(query.value(0).toLongLong());
+      return found;
+    };
+    for (const Sleutel kolom :
+         keys(QStringLiteral("SELECT sleutel FROM vrijekolom WHERE lening = %1 ORDER BY sleutel"))) {
+      log_.TouchColumn(kolom);
+    }
+    // In the order of their numbers: each takes the place that the one before it has left.
+    const std::vector<Sleutel> later = keys(QStringLiteral(
+        "SELECT sleutel FROM lening WHERE nummer > (SELECT nummer FROM lening WHERE sleutel = %1) ORDER BY "
+        "nummer"));
+    for (const Sleutel other : later) log_.Touch(Tabel::Lening, other);
+    database.Run(QStringLiteral("DELETE FROM vrijekolom WHERE lening = %1").arg(of));
+    QSqlQuery query = database.Prepare(QStringLiteral("DELETE FROM lening WHERE sleutel = ? AND nummer > 0"));
+    query.bindValue(0, static_cast<qlonglong>(lening));
+    RunForOne(query);
+    for (const Sleutel other : later) {
+      database.Run(QStringLiteral("UPDATE lening SET nummer = nummer - 1 WHERE sleutel = %1").arg(other));
+    }
   });
 }
 
 void FileJournal::SetPersons(const std::vector<PersoonGegevens>& personen) {
   Write([&](Database& database) {
     for (const PersoonGegevens& persoon : personen) MustBePossible(!FirstImpossible(persoon));
+    for (const Sleutel nummer : {1, 2}) log_.Touch(Tabel::Persoon, nummer);
     database.Run(QStringLiteral("DELETE FROM persoon"));
     writer_.WritePersonen(personen);
   });
@@ -263,6 +335,7 @@ void FileJournal::SetPersons(const std::vector<PersoonGegevens>& personen) {
 void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
   Write([&](Database& database) {
     MustBePossible(IsPossibleAgeLimit(leeftijd));
+    log_.Touch(Tabel::Dossier, 1, PlaceOf(Tabel::Dossier, "leeftijd"));
     database.Run(QStringLiteral("UPDATE dossier SET leeftijd = %1").arg(leeftijd));
   });
 }
@@ -270,6 +343,7 @@ void FileJournal::SetAgeLimit(std::int16_t leeftijd) {
 void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) {
   Write([&](Database& database) {
     MustBePossible(lidmaatschap == Membership::No || IsPossibleId(Vrij_Id));
+    log_.Touch(Tabel::Voorstel, ProposalKey(voorstel, Vrij_Id));
     QSqlQuery query = database.Prepare(lidmaatschap == Membership::Yes
                                            ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
                                            : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
@@ -277,6 +351,33 @@ void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membe
     query.bindValue(1, static_cast<qlonglong>(Vrij_Id));
     RunForOne(query);
   });
+}
+
+std::vector<Entry> FileJournal::Next(StepKind kind) {
+  try {
+    static_cast<void>(Open());
+    const std::int64_t step = log_.Step(kind);
+    return step == 0 ? std::vector<Entry>() : log_.EntriesOf(step);
+  } catch (const DatabaseError& error) {
+    throw AlsFout(error);
+  }
+}
+
+std::optional<Done> FileJournal::Take(StepKind kind) {
+  std::optional<Done> done;
+  DossierGegevens contents;
+  edits_.InOneEdit([&] {
+    Write([&](Database& database) {
+      if (log_.Next(kind) == 0) return;
+      done = log_.Apply(kind);
+      // The history is looked at here and not when the file is opened: what it brings back is held to the same rules.
+      StoredDossier read = ReadDossier(database);
+      MustBePossible(!FirstImpossible(read.gegevens));
+      contents = std::move(read.gegevens);
+    });
+  });
+  if (done) adopt_(std::move(contents));
+  return done;
 }
 
 }  // namespace brivane::dossier

@@ -8,9 +8,11 @@
 #include <string_view>
 
 #include "dossier/model/Journal.h"
+#include "dossier/store/ChangeLog.h"
 #include "dossier/store/Database.h"
 #include "dossier/store/Edits.h"
 #include "dossier/store/HeldFile.h"
+#include "dossier/store/Reader.h"
 #include "dossier/store/StoreErrors.h"
 #include "dossier/store/Writer.h"
 
@@ -20,10 +22,10 @@ namespace brivane::dossier {
 /// from kStoreError on and a Dutch description; so does every change once the file was closed.
 class FileJournal : public Journal, private Edits::Transactions {
  public:
-  /// `reload` loads the memory anew from the file; it may fail, and then nothing more is written. New keys are given
-  /// out from `eerste` on. `held` is the file that the connection works in, or nothing where that is not watched.
-  FileJournal(std::unique_ptr<Database> database, Sleutel eerste, std::function<void(Database&)> reload,
-              std::unique_ptr<HeldFile> held = nullptr);
+  /// `adopt` loads the memory anew with what the file holds; it may fail, and then nothing more is written. `stored` is
+  /// what the file holds now. `held` is the file that the connection works in, or nothing where that is not watched.
+  FileJournal(std::unique_ptr<Database> database, const StoredDossier& stored,
+              std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held = nullptr);
   ~FileJournal() override;
 
   void SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) override;
@@ -34,10 +36,21 @@ class FileJournal : public Journal, private Edits::Transactions {
   void RemoveColumn(Sleutel kolom) override;
   void MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) override;
   void AddLoan(LeningGegevens& lening) override;
+  void RenameLoan(Sleutel lening, const std::string& naam) override;
+  void RemoveLoan(Sleutel lening) override;
   void SetPersons(const std::vector<PersoonGegevens>& personen) override;
   void SetAgeLimit(std::int16_t leeftijd) override;
   void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) override;
   void InOneEdit(const std::function<void()>& body) override { edits_.InOneEdit(body); }
+
+  /// What would be undone or redone next: the entries of that step; none where there is nothing. Throws as a change
+  /// does.
+  [[nodiscard]] std::vector<Entry> Next(StepKind kind);
+  /// Undoes or redoes the next step: an edit of its own. The memory follows. Throws as a change does; nothing is done
+  /// where there is no step.
+  std::optional<Done> Take(StepKind kind);
+  /// Who works in the file; UTF-8.
+  void SetAuthor(std::string name) { log_.SetAuthor(std::move(name)); }
 
   [[nodiscard]] Edits& Bewerkingen() { return edits_; }
   /// The open file, or nothing once it was closed.
@@ -66,11 +79,16 @@ class FileJournal : public Journal, private Edits::Transactions {
   /// Runs a statement that is to change exactly one row.
   static void RunForOne(QSqlQuery& query);
   template <class Change> void Write(Change&& change);
+  /// What is told of a failure to store.
+  [[nodiscard]] host::Error StoringFailed(const DatabaseError& error);
 
   std::unique_ptr<HeldFile> held_;
   std::unique_ptr<Database> database_;
+  ChangeLog log_;
   Writer writer_;
-  std::function<void(Database&)> reload_;
+  std::function<void(DossierGegevens)> adopt_;
+  /// What the case weighs: CaseWeight.h.
+  std::int64_t weight_;
   bool unreadable_ = false;
   /// Edits since the log was last worked off; what a killed program left counts as one.
   int edits_in_log_ = 1;

@@ -52,20 +52,12 @@ bool IsProved(const QString& copy, Database& together) {
   }
 }
 
-/// Checks and reads all of it.
-DossierGegevens ReadChecked(Database& database, const QString& path) {
-  ControleerInhoud(database, path);
-  DossierGegevens contents = ReadDossier(database).gegevens;
-  CheckPossible(contents, path);
-  return contents;
-}
-
 /// The file with its log, in a copy.
 DossierGegevens ReadCopy(const QString& path) {
   const Copy copy(path);
   Database together(copy.Path(), Access::ReadWrite);
   if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, path);
-  return ReadChecked(together, path);
+  return ReadChecked(together, path).gegevens;
 }
 
 bool HasLog(const QString& path) {
@@ -83,7 +75,7 @@ void CheckLeftOver(const QString& path) {
 DossierGegevens ReadUntouched(const QString& path) {
   if (HasLog(path)) return ReadCopy(path);
   Database database(path, Access::Immutable);
-  return ReadChecked(database, path);
+  return ReadChecked(database, path).gegevens;
 }
 
 bool LeftOverStands(const QString& path) {

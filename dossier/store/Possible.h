@@ -21,8 +21,9 @@ inline constexpr std::size_t kMostLoans = 1'000;
 inline constexpr double kMostAmount = 1e15;
 /// Month of a period: the year form has up to 80 rows of years.
 inline constexpr std::int64_t kMostMonths = 960;
-/// Bytes of a file: tens of thousands of columns, or hundreds of thousands of periods, and opened within a second.
-inline constexpr std::int64_t kMostFile = std::int64_t{4} << 20;
+/// Bytes of a file with its history, which is some millions of entries. The case itself is held to kMostWeight
+/// (CaseWeight.h): tens of thousands of columns, or hundreds of thousands of periods, and opened within a second.
+inline constexpr std::int64_t kMostFile = std::int64_t{256} << 20;
 
 [[nodiscard]] bool IsPossible(KolomVeld field, const Waarde& value);
 [[nodiscard]] bool IsPossible(PeriodeVeld field, const Waarde& value);

@@ -9,8 +9,10 @@
 #include <numeric>
 #include <unordered_map>
 
+#include "dossier/store/CaseWeight.h"
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
+#include "dossier/store/Schema.h"
 #include <brivane/frame/Calendar.h>
 
 namespace brivane::dossier {
@@ -33,6 +35,22 @@ template <class Read> void At(const char* place, Read&& read) {
   At([&] { return std::string(place); }, std::forward<Read>(read));
 }
 
+/// Adds up what is read, and stops where that is more than a case may hold.
+class Scale {
+ public:
+  explicit Scale(StoredDossier& read) : weight_(read.weight) {}
+  void Add(Tabel tabel, std::size_t texts) {
+    weight_ += BareWeight(tabel) + static_cast<std::int64_t>(texts);
+    if (weight_ > kMostWeight) throw ContentsError(ContentsError::What::Size, {});
+  }
+
+ private:
+  std::int64_t& weight_;
+};
+
+std::size_t Bytes(const auto&) { return 0; }
+std::size_t Bytes(const std::string& text) { return text.size(); }
+
 /// Keys and places start at 1, and new ones are given out after the highest.
 constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max() / 2;
 
@@ -52,6 +70,13 @@ class Rij {
     const double waarde = query_.value(plaats_++).toDouble();
     if (std::isfinite(waarde) && std::fabs(waarde) > std::numeric_limits<float>::max()) throw OutOfRange();
     getal = static_cast<float>(waarde);
+  }
+  void Lees(std::optional<double>& getal) {
+    if (query_.isNull(plaats_)) {
+      ++plaats_;
+      return;
+    }
+    Lees(getal.emplace());
   }
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
@@ -102,34 +127,28 @@ struct Opbouw {
 };
 
 /// The loans in order of their number, 0 first and none left out.
-std::vector<Opbouw> LeesLeningen(Database& database) {
+std::vector<Opbouw> LeesLeningen(Database& database, Scale& scale) {
   std::vector<Opbouw> leningen;
-  VoorElkeRij(database,
-              QStringLiteral("SELECT nummer, sleutel, CAST(naam AS BLOB), "
-                             "(SELECT count(*) FROM vrijekolom WHERE lening = lening.sleutel) "
-                             "FROM lening ORDER BY nummer"),
+  VoorElkeRij(database, QStringLiteral("SELECT nummer, sleutel, CAST(naam AS BLOB) FROM lening ORDER BY nummer"),
               [&](Rij& rij) {
                 const std::size_t nummer = leningen.size();
                 if (!rij.HeeftNummer(nummer)) Damaged(LoanInWords(nummer) + " ontbreekt");
                 // Looking up the loan of each column would take ever longer.
                 if (nummer > kMostLoans) throw ContentsError(ContentsError::What::Value, TooManyLoans());
                 Opbouw& opbouw = leningen.emplace_back();
-                std::int32_t kolommen = 0;
                 At([&] { return LoanInWords(nummer) + ", sleutel"; },
                    [&] {
                      rij.LeesSleutel(opbouw.lening.Sleutel);
                      rij.Lees(opbouw.lening.Naam);
-                     rij.Lees(kolommen);
                    });
-                opbouw.lening.VrijeKolommen.reserve(static_cast<std::size_t>(kolommen));
-                opbouw.volgorde.reserve(static_cast<std::size_t>(kolommen));
+                scale.Add(Tabel::Lening, opbouw.lening.Naam.size());
               });
   if (leningen.empty()) Damaged(LoanInWords(0) + " ontbreekt");
   return leningen;
 }
 
 /// Gives the loans their columns, in the order of the columns' keys.
-void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
+void LeesKolommen(Database& database, std::vector<Opbouw>& leningen, Scale& scale) {
   QStringList namen = {QStringLiteral("lening"), QStringLiteral("volgorde"), QStringLiteral("sleutel")};
   const KolomGegevens voorbeeld;
   BezoekKolom(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
@@ -155,10 +174,13 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen) {
           rij.LeesSleutel(opbouw->volgorde.emplace_back());
           veld = "sleutel";
           rij.LeesSleutel(kolom.Sleutel);
+          std::size_t texts = 0;
           BezoekKolom(kolom, [&](std::string_view naam, auto& waarde) {
             veld = naam;
             rij.Lees(waarde);
+            texts += Bytes(waarde);
           });
+          scale.Add(Tabel::Kolom, texts);
         });
   });
 }
@@ -174,7 +196,7 @@ std::string PlaceOf(const std::vector<Opbouw>& leningen, Sleutel sleutel) {
 }
 
 /// Gives the columns their periods, and answers the highest key.
-Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
+Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen, Scale& scale) {
   Sleutel hoogste = 0;
   QStringList namen = {QStringLiteral("kolom"), QStringLiteral("sleutel")};
   const PeriodeGegevens voorbeeld;
@@ -209,6 +231,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen) {
             rij.Lees(waarde);
           });
         });
+    scale.Add(Tabel::Periode, 0);
     hoogste = periode.Sleutel;
   });
   return hoogste;
@@ -227,10 +250,15 @@ void Orden(Opbouw& opbouw) {
   opbouw.lening.VrijeKolommen = std::move(geordend);
 }
 
-void LeesInhoud(Database& database, StoredDossier& gelezen) {
-  std::vector<Opbouw> leningen = LeesLeningen(database);
-  LeesKolommen(database, leningen);
-  gelezen.hoogste = LeesPerioden(database, leningen);
+/// Files of the versions before the rates open too, and are read before they are brought up to date.
+bool HeeftTarieven(Database& database) {
+  return database.Value(QStringLiteral("PRAGMA user_version")).toInt() >= kVersionWithRates;
+}
+
+void LeesInhoud(Database& database, StoredDossier& gelezen, Scale& scale) {
+  std::vector<Opbouw> leningen = LeesLeningen(database, scale);
+  LeesKolommen(database, leningen, scale);
+  gelezen.hoogste = LeesPerioden(database, leningen, scale);
   for (Opbouw& opbouw : leningen) {
     gelezen.hoogste = std::max(gelezen.hoogste, opbouw.lening.Sleutel);
     for (const std::int64_t plaats : opbouw.volgorde) gelezen.hoogste = std::max(gelezen.hoogste, plaats);
@@ -249,6 +277,7 @@ void LeesInhoud(Database& database, StoredDossier& gelezen) {
 StoredDossier ReadDossier(Database& database) {
   StoredDossier gelezen;
   DossierGegevens& dossier = gelezen.gegevens;
+  Scale scale(gelezen);
   std::size_t dossiers = 0;
   VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {
     if (!rij.HeeftNummer(++dossiers)) Damaged("uitgangspunten");
@@ -257,13 +286,18 @@ StoredDossier ReadDossier(Database& database) {
   if (dossiers != 1) Damaged("de uitgangspunten ontbreken");
   VoorElkeRij(database,
               QStringLiteral("SELECT nummer, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), "
-                             "geboortedatum FROM persoon ORDER BY nummer"),
+                             "geboortedatum, %1 FROM persoon ORDER BY nummer")
+                  .arg(QLatin1String(HeeftTarieven(database) ? "belastingtarief" : "NULL")),
               [&](Rij& rij) {
                 const std::size_t plaats = dossier.Personen.size();
                 if (!rij.HeeftNummer(plaats + 1)) Damaged(PersonInWords(plaats) + " ontbreekt");
                 PersoonGegevens& persoon = dossier.Personen.emplace_back();
                 for (std::string& naam : persoon.Naam) rij.Lees(naam);
                 At([&] { return PersonInWords(plaats) + ", geboortedatum"; }, [&] { rij.Lees(persoon.Geboortedatum); });
+                rij.Lees(persoon.Belastingtarief);
+                scale.Add(Tabel::Persoon,
+                          std::accumulate(persoon.Naam.begin(), persoon.Naam.end(), std::size_t{0},
+                                          [](std::size_t sum, const std::string& part) { return sum + part.size(); }));
               });
   if (dossier.Personen.empty()) Damaged(PersonInWords(0) + " ontbreekt");
   if (dossier.Personen.size() > 2) Damaged("meer dan twee personen");
@@ -273,8 +307,9 @@ StoredDossier ReadDossier(Database& database) {
                 Code& code = dossier.MaatschappijType.emplace_back();
                 rij.Lees(code.code);
                 rij.Lees(code.tekst);
+                scale.Add(Tabel::Dossier, code.code.size() + code.tekst.size());
               });
-  LeesInhoud(database, gelezen);
+  LeesInhoud(database, gelezen, scale);
   VoorElkeRij(database, QStringLiteral("SELECT voorstel, vrij_id FROM voorstel"), [&](Rij& rij) {
     std::int16_t voorstel = 0;
     std::int16_t Vrij_Id = 0;
@@ -282,6 +317,7 @@ StoredDossier ReadDossier(Database& database) {
     if (voorstel < 1 || voorstel > 3) Damaged("voorstel " + std::to_string(voorstel));
     At([&] { return "voorstel " + std::to_string(voorstel); }, [&] { rij.Lees(Vrij_Id); });
     dossier.Voorstellen[static_cast<std::size_t>(voorstel - 1)].insert(Vrij_Id);
+    scale.Add(Tabel::Voorstel, 0);
   });
   return gelezen;
 }

@@ -12,14 +12,17 @@ namespace brivane::dossier {
 struct StoredDossier {
   DossierGegevens gegevens;
   Sleutel hoogste = 0;
+  /// What the case weighs: CaseWeight.h.
+  std::int64_t weight = 0;
 };
 
 /// A file holds what no program of this version wrote, in a place that is known.
 class ContentsError : public DatabaseError {
  public:
   enum class What {
-    Value,     ///< a value that cannot be
-    Structure  ///< a part that is missing, or that belongs to nothing
+    Value,      ///< a value that cannot be
+    Structure,  ///< a part that is missing, or that belongs to nothing
+    Size        ///< more than a case may hold
   };
   /// `place` in Dutch, as Possible.h words it.
   ContentsError(What what, std::string place)
@@ -33,7 +36,8 @@ class ContentsError : public DatabaseError {
 };
 
 /// Reads a loan file. Throws DatabaseError where the file cannot be read, and ContentsError where it holds what no
-/// program of this version wrote: a number out of its range, a part that is missing.
+/// program of this version wrote: a number out of its range, a part that is missing, more than kMostWeight. It stops
+/// reading there, however large the file.
 [[nodiscard]] StoredDossier ReadDossier(Database& database);
 
 }  // namespace brivane::dossier

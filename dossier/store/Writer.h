@@ -28,6 +28,8 @@ class Writer {
   Sleutel AddPeriode(Sleutel kolom);
   /// A key, or a place at the end of any order, that was not given out before.
   [[nodiscard]] Sleutel Volgende() { return volgende_++; }
+  /// The highest key that was given out.
+  [[nodiscard]] Sleutel Hoogste() const { return volgende_ - 1; }
   /// Frees the prepared statements, so that the connection can be closed.
   void Sluit();
 

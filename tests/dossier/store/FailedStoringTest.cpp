@@ -167,8 +167,8 @@ TEST_F(FailedStoringTest, TheFirstRowOfTheScenarioFormThatCannotBeStoredIsToldBy
 struct OwnConnection {
   explicit OwnConnection(const QString& path) : database(new Database(path, Access::ReadWrite)) {
     StoredDossier stored = ReadDossier(*database);
-    journal = std::make_shared<FileJournal>(std::unique_ptr<Database>(database), stored.hoogste + 1,
-                                            [this](Database& again) { dossier->Herlaad(ReadDossier(again).gegevens); });
+    journal = std::make_shared<FileJournal>(std::unique_ptr<Database>(database), stored,
+                                            [this](DossierGegevens again) { dossier->Herlaad(std::move(again)); });
     auto environment = std::make_shared<Environment>();
     environment->Journal = journal;
     dossier = std::make_shared<dossier::Dossier>(std::move(stored.gegevens), std::move(environment));

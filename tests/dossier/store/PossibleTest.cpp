@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "dossier/store/CaseWeight.h"
 #include "dossier/store/Database.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Possible.h"
@@ -122,7 +123,7 @@ TEST(PossibleTest, AFileLargerThanAnyCaseIsRefusedAtOnce) {
   EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::TooLarge);
 }
 
-TEST(PossibleTest, WhatMakesAFileLargerThanItMayBeIsRefusedAndTheRestOpensAgain) {
+TEST(PossibleTest, WhatMakesACaseLargerThanItMayBeIsRefusedAndTheRestOpensAgain) {
   const Folder folder;
   const QString path = folder.Make();
   const std::string longest(kMostText, 'x');
@@ -138,9 +139,19 @@ TEST(PossibleTest, WhatMakesAFileLargerThanItMayBeIsRefusedAndTheRestOpensAgain)
     stored = open->Dossier()->Gegevens();
   }
   EXPECT_EQ(reason, "De wijziging is niet opgeslagen: het dossier is zo groot als een dossier kan zijn.");
-  EXPECT_GT(QFileInfo(path).size(), kMostFile / 2);
-  EXPECT_LE(QFileInfo(path).size(), kMostFile);
+  // Each text stands in the case and in its history.
+  EXPECT_GT(QFileInfo(path).size(), kMostWeight);
+  EXPECT_LE(QFileInfo(path).size(), 3 * kMostWeight);
   EXPECT_TRUE(ReadBack(path) == stored);
+}
+
+TEST(PossibleTest, ACaseThatIsLargerThanItMayBeIsRefusedWhateverTheFileHolds) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Database(path, Access::ReadWrite)
+      .Run(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 600000) "
+                          "INSERT INTO periode (kolom) SELECT (SELECT min(sleutel) FROM vrijekolom) FROM n"));
+  EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::TooLarge);
 }
 
 TEST(PossibleTest, AChangeThatWouldNotOpenAgainIsNotStored) {
