@@ -75,6 +75,8 @@ struct Row {
   std::string_view label = {};    ///< the text that names a box, toggle or list to a screen reader
   char mnemonic = '\0';  ///< letter of the caption that, with Alt, goes to the control (or to the box it labels)
   Format format = Format::None;
+  /// End dates: the box with the date that a typed term ("3j") counts from, on this surface or on one around it.
+  std::string_view countsFrom = {};
   bool bordered = true;    ///< frames: draws its border and caption
   bool locked = false;     ///< text boxes: written by code alone
   bool multiline = false;  ///< labels: wraps over lines

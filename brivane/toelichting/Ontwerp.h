@@ -67,7 +67,7 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "LblEinddatum", .kind = Kind::Label, .place = {0, 1605, 2010, 225}, .parent = "fraContent",
      .caption = "Einddatum / eindleeftijd"},
     {.name = "txtEinddatum", .kind = Kind::TextBox, .place = {2040, 1560, 1500, 315}, .parent = "fraContent",
-     .tab = 8, .label = "Einddatum", .format = Format::Date},
+     .tab = 8, .label = "Einddatum", .format = Format::Date, .countsFrom = "TxtDtAanvang"},
     {.name = "lblSlash", .kind = Kind::Label, .place = {3585, 1605, 105, 225}, .parent = "fraContent", .caption = "/"},
     {.name = "TxtEindjaar", .kind = Kind::TextBox, .place = {3720, 1560, 600, 315}, .parent = "fraContent", .tab = 9,
      .label = "Eindleeftijd, jaar", .format = Format::WholeNumber},

@@ -74,7 +74,7 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "lblDtEind", .kind = Kind::Label, .place = {0, 45, 1770, 225}, .parent = "fraLooptijd",
      .caption = "Einddatum / looptijd", .mnemonic = 'E'},
     {.name = "TxtDtEind", .kind = Kind::TextBox, .place = {kVakLinks, 0, 1500, kVakHoog}, .parent = "fraLooptijd",
-     .tab = 8, .label = "Einddatum", .format = Format::Date},
+     .tab = 8, .label = "Einddatum", .format = Format::Date, .countsFrom = "TxtDtAanvang"},
     {.name = "lblLooptijdStreep", .kind = Kind::Label, .place = {3345, 45, 105, 225}, .parent = "fraLooptijd",
      .caption = "/"},
     {.name = "TxtAnJaar", .kind = Kind::TextBox, .place = {3480, 0, 600, kVakHoog}, .parent = "fraLooptijd",
@@ -90,7 +90,8 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "lblVervaldatum", .kind = Kind::Label, .place = {0, 45, 1770, 225}, .parent = "fraVervaldatum",
      .caption = "Contractvervaldatum", .mnemonic = 'v'},
     {.name = "txtVervaldatum", .kind = Kind::TextBox, .place = {kVakLinks, 0, 1500, kVakHoog},
-     .parent = "fraVervaldatum", .tab = 11, .label = "Contractvervaldatum", .format = Format::Date},
+     .parent = "fraVervaldatum", .tab = 11, .label = "Contractvervaldatum", .format = Format::Date,
+     .countsFrom = "TxtDtAanvang"},
 
     {.name = "fraGegevens", .kind = Kind::Frame, .place = {0, kGegevensTop, kLinksBreed, kGegevensHoog},
      .caption = "Gegevens"},

@@ -156,8 +156,8 @@ TEST_F(PeerTest, TakeTheFocusThatCodeMoves) {
 
 TEST_F(PeerTest, OfAFormShowAndUnloadIt) {
   const auto form = toolkit.MakeForm(test::kForm);
-  EXPECT_EQ(toolkit.log.at(26), "made form frmProef");
-  EXPECT_EQ(toolkit.log.at(27), "made fraRooster in frmProef");
+  EXPECT_EQ(toolkit.log.at(27), "made form frmProef");
+  EXPECT_EQ(toolkit.log.at(28), "made fraRooster in frmProef");
   (void)Heard();
   const host::Subscription activated = form->Activate.Connect([&] { toolkit.log.emplace_back("Activate"); });
   const host::Subscription unloaded = form->Unloaded.Connect([&] { toolkit.log.emplace_back("Unloaded"); });

@@ -9,6 +9,7 @@
 
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Dates.h>
+#include <brivane/toolkits/qt/Desktop.h>
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/widgets/DateBox.h>
 
@@ -31,10 +32,20 @@ QIcon CalendarIcon(const QColor& color, qreal ratio) {
   return pixmap;
 }
 
+/// The step that Page Up and Page Down make, as in the calendar.
+std::optional<controls::DateStep> StepOf(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers with = key.modifiers() & ~Qt::KeypadModifier;
+  const bool back = key.key() == Qt::Key_PageUp;
+  if (!back && key.key() != Qt::Key_PageDown) return std::nullopt;
+  if (with == Qt::NoModifier) return back ? controls::DateStep::MonthBack : controls::DateStep::Month;
+  if (with == Qt::ControlModifier) return back ? controls::DateStep::YearBack : controls::DateStep::Year;
+  return std::nullopt;
+}
+
 }  // namespace
 
 DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
-  Edit().Tie(frame::Format::Date);
+  Edit().Tie(frame::Format::Date, nullptr, [] { return Desktop().Today(); });
   setInputMethodHints(Qt::ImhDate);
   icon_->setText("Kalender");
   icon_->setToolTip("Kalender (F4)");
@@ -98,6 +109,14 @@ void DateBox::Pick(QDate date) {
   Edit().CommitAndSelect();
 }
 
+/// A step is the box's before it is a shortcut of the window's.
+bool DateBox::event(QEvent* event) {
+  const bool asked = event->type() == QEvent::ShortcutOverride && !isReadOnly();
+  if (!asked || !StepOf(static_cast<const QKeyEvent&>(*event))) return EntryBox::event(event);
+  event->accept();
+  return true;
+}
+
 void DateBox::keyPressEvent(QKeyEvent* event) {
   const bool altDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
   if (event->key() == Qt::Key_F4 || altDown) {
@@ -105,6 +124,10 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  const std::optional<controls::DateStep> step = StepOf(*event);
+  const QString typed = event->text();
+  const bool sign = typed == "+" || typed == "-";
+  if ((step && Edit().Step(*step)) || (sign && Edit().StepBySign(typed.front().toLatin1()))) return event->accept();
   EntryBox::keyPressEvent(event);
 }
 

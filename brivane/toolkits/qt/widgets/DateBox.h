@@ -10,8 +10,9 @@ class QFrame;
 namespace brivane::qt {
 
 /// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its icon. A day picked
-/// there is handed over at once; Escape closes the calendar and changes nothing. Without a control it takes dates all
-/// the same, and who wants one reads its text.
+/// there is handed over at once; Escape closes the calendar and changes nothing. "+" and "-" move the date by a day,
+/// Page Up and Page Down by a month, with Control by a year. Without a control it takes dates all the same, and who
+/// wants one reads its text.
 class DateBox : public EntryBox {
  public:
   explicit DateBox(QWidget* parent = nullptr);
@@ -21,6 +22,7 @@ class DateBox : public EntryBox {
   [[nodiscard]] QWidget* Calendar() const;
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
