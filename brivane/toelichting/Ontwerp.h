@@ -32,7 +32,8 @@ inline constexpr std::string_view kHintLangleven =
 /// A label with a mnemonic goes to the box in the row below it.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
-    {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen"},
+    {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen",
+     .mnemonic = 'n'},
     {.name = "lstToelichting", .kind = Kind::ListView, .place = kLijstPlaats, .parent = "fraScenarios", .tab = 1,
      .label = "Effect op maandlast en IB"},
     {.name = "fraContent", .kind = Kind::Frame, .place = {kInhoudLinks, kInhoudTop, 5760, kInhoudHoogte},

@@ -82,9 +82,9 @@ TEST_F(PeerTest, AreMadeInTheOrderOfTheTableEachAfterWhatItStandsIn) {
   EXPECT_EQ(log[0], "made Proef");
   EXPECT_EQ(log[1], "made fraBoxen in Proef");
   EXPECT_EQ(log[2], "made lblNaam in fraBoxen");
-  EXPECT_EQ(log[23], "made Binnenste in Proef");
-  EXPECT_EQ(log[24], "made Binnenste.fraBinnen in Binnenste");
-  EXPECT_EQ(log[25], "made Binnenste.jnBinnen in Binnenste.fraBinnen");
+  EXPECT_EQ(log[24], "made Binnenste in Proef");
+  EXPECT_EQ(log[25], "made Binnenste.fraBinnen in Binnenste");
+  EXPECT_EQ(log[26], "made Binnenste.jnBinnen in Binnenste.fraBinnen");
 }
 
 TEST_F(PeerTest, GoInTheReverseOrder) {

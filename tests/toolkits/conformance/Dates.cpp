@@ -135,6 +135,35 @@ TEST_P(Dates, TheCalendarDropsDownByKeyAndAPickIsHandedOver) {
   EXPECT_EQ(log.back(), "txtDatum = 03-04-2031");
 }
 
+TEST_P(TypedDates, ThatArePickedGoByTheKeysOfTheCalendar) {
+  Box("txtDatum").SetDate(frame::MakeDate({2031, 3, 31}));
+  Click("txtDatum");
+  Press(Key::F4);
+  Press(Key::PageUp);
+  Press(Key::PageUp, With::Control);
+  Press(Key::Down);
+  Press(Key::Enter);
+  EXPECT_THAT(log, ElementsAre("txtDatum = 07-03-2030"));
+  Press(Key::F4);
+  Press(Key::Home);
+  Press(Key::Left);
+  Press(Key::Enter);
+  EXPECT_EQ(log.back(), "txtDatum = 21-11-2026");
+  Press(Key::F4);
+  Press(Key::PageDown);
+  Press(Key::PageDown, With::Control);
+  Press(Key::Enter);
+  EXPECT_EQ(log.back(), "txtDatum = 21-12-2027");
+  EXPECT_EQ(Focused(), "txtDatum");
+}
+
+TEST_P(TypedDates, ThatArePickedBeginAtTodayWhereNoneIsThere) {
+  Click("txtDatum");
+  Press(Key::F4);
+  Press(Key::Enter);
+  EXPECT_THAT(log, ElementsAre("txtDatum = 22-11-2026"));
+}
+
 TEST_P(Dates, EscapeClosesTheCalendarAndChangesNothing) {
   Box("txtDatum").SetDate(frame::MakeDate({2031, 4, 1}));
   Click("txtDatum");

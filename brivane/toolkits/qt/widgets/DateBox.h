@@ -5,9 +5,9 @@
 
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 
-class QFrame;
-
 namespace brivane::qt {
+
+class CalendarPopup;
 
 /// A box for a date with a calendar that drops down on F4, Alt+Down or a click on its icon. A day picked
 /// there is handed over at once; Escape closes the calendar and changes nothing. "+" and "-" move the date by a day,
@@ -25,13 +25,15 @@ class DateBox : public EntryBox {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   void Pick(QDate date);
   void DrawIcon();
 
   QAction* icon_;
-  QPointer<QFrame> popup_;
+  QPointer<CalendarPopup> popup_;
+  bool wentTo_ = false;  ///< by key or mouse, and not by code
 };
 
 }  // namespace brivane::qt

@@ -117,8 +117,9 @@ void DateWindow::OpenCalendar() {
   SetFocus(Handle());
   const controls::TypedContent typed = Edit().Read(Narrow(TextOf(Handle())));
   const auto* const date = std::get_if<host::Date>(&typed.value);
-  const host::Date shown = date != nullptr ? *date : Edit().Today();
-  calendar_ = std::make_unique<Calendar>(Toolkit(), Handle(), shown, Font(), [this](host::Date day) { Pick(day); });
+  const host::Date today = Edit().Today();
+  const Calendar::Days days{.shown = date != nullptr ? *date : today, .today = today};
+  calendar_ = std::make_unique<Calendar>(Toolkit(), Handle(), days, Font(), [this](host::Date day) { Pick(day); });
   clicks_ = std::make_unique<ClickWatch>();
 }
 
