@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QTimer>
 #include <QToolTip>
 #include <QTreeWidget>
@@ -91,6 +92,17 @@ class QtUnderTest final : public ScreenUnderTest {
   [[nodiscard]] std::string Reason(controls::AnyControl& box) override {
     return qt::FromQt(qt::Bubble::ReasonOf(EntryOf(box)));
   }
+  [[nodiscard]] std::string Note(controls::AnyControl& box) override {
+    return qt::FromQt(qt::Bubble::NoteOf(EntryOf(box)));
+  }
+  [[nodiscard]] std::string TitleOf(controls::Form& form) override { return qt::FromQt(DialogOf(form).windowTitle()); }
+  [[nodiscard]] std::string TipOf(controls::AnyControl& box) override {
+    const auto& cell = dynamic_cast<const qt::CellPeer&>(*box.GetPeer());
+    if (cell.Canvas()->IsEdited(cell)) return qt::FromQt(cell.Canvas()->Editor()->toolTip());
+    QHelpEvent help(QEvent::ToolTip, cell.Place().center(), cell.Canvas()->mapToGlobal(cell.Place().center()));
+    QApplication::sendEvent(WidgetFor(box), &help);
+    return Help();
+  }
   [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
     const QWidget* const calendar = dynamic_cast<qt::DateBox&>(EntryOf(box)).Calendar();
     return calendar != nullptr && calendar->isVisible();
@@ -109,6 +121,9 @@ class QtUnderTest final : public ScreenUnderTest {
   void Answer(std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle)>
                   answer) override {
     toolkit_.Desktop().answer = std::move(answer);
+  }
+  void SetToday(host::Date today) override {
+    toolkit_.Desktop().clock = [today] { return today; };
   }
 
  private:

@@ -4,6 +4,7 @@
 
 #include <brivane/controls/Caption.h>
 #include <brivane/controls/Choices.h>
+#include <brivane/controls/Entrance.h>
 #include <brivane/controls/Plain.h>
 #include <brivane/toolkits/win32/controls/BoxWindow.h>
 #include <brivane/toolkits/win32/controls/ComboWindow.h>
@@ -97,6 +98,14 @@ bool MoveInGroup(ControlWindow& from, Direction direction) {
   return true;
 }
 
+/// What is being typed elsewhere goes first, and may disable what a frame leads to.
+void EnterFrame(const AnyControl& frame) {
+  ControlWindow& window = WindowFor(frame);
+  const auto life = window.Life();
+  if (!window.Toolkit().LeaveBox(window) || life.expired()) return;
+  if (const AnyControl* const entrance = controls::EntranceOf(frame)) WindowFor(*entrance).FocusByKey();
+}
+
 /// The letter after the marking "&" of a caption, as a small letter; 0 where none is marked.
 wchar_t MnemonicOf(const AnyControl& control) {
   const auto* const captioned = dynamic_cast<const host::Captioned*>(&control.Host());
@@ -108,6 +117,13 @@ wchar_t MnemonicOf(const AnyControl& control) {
     ++i;
   }
   return 0;
+}
+
+/// The elements of a control array of rows that a person can go to.
+std::vector<ControlWindow*> ColumnOf(const ControlWindow& element) {
+  std::vector<ControlWindow*> column = Stops(RootOf(element.Control()));
+  std::erase_if(column, [&](const ControlWindow* stop) { return &stop->Control().Row() != &element.Control().Row(); });
+  return column;
 }
 
 }  // namespace
@@ -151,13 +167,25 @@ bool Step(ControlWindow& from, Direction direction) {
 
 bool StepInColumn(ControlWindow& from, Direction direction) {
   if (!CommitBox(from)) return false;
-  std::vector<ControlWindow*> column = Stops(RootOf(from.Control()));
-  std::erase_if(column, [&](const ControlWindow* stop) { return &stop->Control().Row() != &from.Control().Row(); });
+  const std::vector<ControlWindow*> column = ColumnOf(from);
   const auto here = std::find(column.begin(), column.end(), &from);
   if (here == column.end()) return false;
   if (direction == Direction::Back ? here == column.begin() : std::next(here) == column.end()) return false;
   (direction == Direction::Back ? *std::prev(here) : *std::next(here))->FocusByKey();
   return true;
+}
+
+void StepPage(ControlWindow& from, Direction direction) {
+  if (!CommitBox(from)) return;
+  std::vector<ControlWindow*> column = ColumnOf(from);
+  if (direction == Direction::Back) std::reverse(column.begin(), column.end());
+  const auto here = std::find(column.begin(), column.end(), &from);
+  if (here == column.end()) return;
+  const host::Twips left = from.Control().Host().Place().left;
+  const auto page = std::count_if(column.begin(), column.end(), [&](const ControlWindow* stop) {
+    return stop->Control().Host().Place().left == left;
+  });
+  (*std::next(here, std::min(page, std::distance(here, std::prev(column.end())))))->FocusByKey();
 }
 
 void EnterAndGoDown(ControlWindow& from) {
@@ -179,6 +207,8 @@ bool MoveByKey(ControlWindow& from, WPARAM key) {
     case VK_DOWN:
       if (from.IsRowElement()) return StepInColumn(from, Direction::Forward), true;
       return option && MoveInGroup(from, Direction::Forward);
+    case VK_PRIOR: return from.IsRowElement() && (StepPage(from, Direction::Back), true);
+    case VK_NEXT: return from.IsRowElement() && (StepPage(from, Direction::Forward), true);
     case VK_LEFT: return option && MoveInGroup(from, Direction::Back);
     case VK_RIGHT: return option && MoveInGroup(from, Direction::Forward);
     case VK_RETURN:
@@ -201,7 +231,11 @@ bool PressMnemonic(const controls::Surface& root, wchar_t letter) {
       if (PressMnemonic(static_cast<const controls::Surface&>(control), letter)) return true;
       continue;
     }
-    if (MnemonicOf(control) != wanted || !control.Reachable() || control.ControlKind() == Kind::Frame) continue;
+    if (MnemonicOf(control) != wanted || !control.Reachable()) continue;
+    if (control.ControlKind() == Kind::Frame) {
+      if (control.Row().mnemonic == '\0' || controls::EntranceOf(control) == nullptr) continue;
+      return EnterFrame(control), true;
+    }
     AnyControl* target = &control;
     if (control.ControlKind() == Kind::Label) {
       if (control.Row().mnemonic == '\0' || i + 1 == made.size() || !IsStop(*made[i + 1])) continue;
