@@ -8,7 +8,7 @@ namespace brivane::app {
 namespace {
 
 constexpr char kWindowPlace[] = "venster/plaats";
-constexpr char kSplit[] = "venster/verdeling";
+constexpr char kListWidth[] = "venster/lijst";
 constexpr char kLastFile[] = "laatsteBestand";
 
 QVariant Read(const char* key) { return QSettings().value(QLatin1String(key)); }
@@ -18,8 +18,8 @@ void Write(const char* key, const QVariant& value) { QSettings().setValue(QLatin
 
 QByteArray Settings::WindowPlace() { return Read(kWindowPlace).toByteArray(); }
 void Settings::SetWindowPlace(const QByteArray& place) { Write(kWindowPlace, place); }
-QByteArray Settings::Split() { return Read(kSplit).toByteArray(); }
-void Settings::SetSplit(const QByteArray& split) { Write(kSplit, split); }
+int Settings::ListWidth() { return Read(kListWidth).toInt(); }
+void Settings::SetListWidth(int pixels) { Write(kListWidth, pixels); }
 QString Settings::LastFile() { return Read(kLastFile).toString(); }
 void Settings::SetLastFile(const QString& file) { Write(kLastFile, file); }
 

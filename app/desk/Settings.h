@@ -12,9 +12,9 @@ class Settings {
  public:
   [[nodiscard]] static QByteArray WindowPlace();
   static void SetWindowPlace(const QByteArray& place);
-  /// Place of the splitter between tree and editor.
-  [[nodiscard]] static QByteArray Split();
-  static void SetSplit(const QByteArray& split);
+  /// How wide the list beside the editor is to be, in pixels; 0 where nobody has set it.
+  [[nodiscard]] static int ListWidth();
+  static void SetListWidth(int pixels);
   /// Full path, empty when there is none.
   [[nodiscard]] static QString LastFile();
   static void SetLastFile(const QString& file);

@@ -7,6 +7,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "app/screen/KolommenModel.h"
+
 namespace brivane::app {
 namespace {
 
@@ -21,8 +23,20 @@ QToolButton* MenuButton(const QString& text, QMenu* menu) {
   button->setText(text);
   button->setMenu(menu);
   button->setPopupMode(QToolButton::InstantPopup);
-  QObject::connect(menu->menuAction(), &QAction::changed, button,
-                   [button, menu] { button->setEnabled(menu->menuAction()->isEnabled()); });
+  QObject::connect(menu->menuAction(), &QAction::changed, button, [button, menu] {
+    button->setEnabled(menu->menuAction()->isEnabled());
+    button->setToolTip(menu->menuAction()->toolTip());
+  });
+  return button;
+}
+
+/// Does the first of a menu; its arrow opens the menu.
+QToolButton* AddButton(QAction* first, QMenu* menu) {
+  auto* button = new QToolButton;
+  button->setDefaultAction(first);
+  button->setMenu(menu);
+  button->setPopupMode(QToolButton::MenuButtonPopup);
+  button->setToolButtonStyle(Qt::ToolButtonTextOnly);
   return button;
 }
 
@@ -35,8 +49,14 @@ Actions::Actions(QMainWindow& window)
       saveCopy(MakeAction(window, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
-      add(MakeAction(window, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
+      recent(new QMenu(QStringLiteral("&Recent"), &window)),
+      add(MakeAction(window, "&Bedragen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
+      addGrowth(MakeAction(window, "Bedragen met &groei", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G))),
+      addPercentages(MakeAction(window, "&Percentages", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P))),
+      addMenu(new QMenu(QStringLiteral("&Toevoegen"), &window)),
       duplicate(MakeAction(window, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
+      duplicateTo(new QMenu(QStringLiteral("D&upliceren naar"), &window)),
+      duplicateByKey(MakeAction(window, "Dupliceren naar", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D))),
       remove(MakeAction(window, "Ve&rwijderen…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
       move(new QMenu(QStringLiteral("&Verplaatsen naar"), &window)),
       afwijking(new QMenu(QStringLiteral("&Afwijking maken in"), &window)),
@@ -44,12 +64,15 @@ Actions::Actions(QMainWindow& window)
       previous(MakeAction(window, "V&orige kolom", QKeySequence(Qt::CTRL | Qt::Key_PageUp))),
       next(MakeAction(window, "Vol&gende kolom", QKeySequence(Qt::CTRL | Qt::Key_PageDown))),
       treeOrKolom(MakeAction(window, "Naar &lijst of kolom", QKeySequence(Qt::Key_F6))),
+      find(MakeAction(window, "&Zoeken in de lijst", QKeySequence(Qt::CTRL | Qt::Key_F))),
+      sort(new QMenu(QStringLiteral("&Sorteren op"), &window)),
       client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       addLening(MakeAction(window, "&Lening toevoegen…")),
       check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
       overview(MakeAction(window, "&Overzicht", QKeySequence(Qt::Key_F9))),
       verloop(MakeAction(window, "&Verloop", QKeySequence(Qt::SHIFT | Qt::Key_F9))),
       record(MakeAction(window, "Op&nemen…")),
+      help(MakeAction(window, "&Toetsen en uitleg", QKeySequence(Qt::Key_F1))),
       eventLog(MakeAction(window, "&Logboek…")),
       about(MakeAction(window, "&Over Dossier…")) {
   // In a date box that somebody went to, Control with these keys moves the date by a year.
@@ -61,28 +84,41 @@ Actions::Actions(QMainWindow& window)
   });
   // The toolbar has no menu title before it.
   add->setIconText(QStringLiteral("Kolom toevoegen"));
+  add->setToolTip(QStringLiteral("Vrije kolom met een bedrag per jaar toevoegen"));
+  addGrowth->setToolTip(QStringLiteral("Vrije kolom met een bedrag en een groeipercentage per jaar toevoegen"));
+  addPercentages->setToolTip(QStringLiteral("Vrije kolom met een percentage per jaar toevoegen"));
+  addMenu->addActions({add, addGrowth, addPercentages});
+  const char* const cells[] = {"&Naam", "&Stand", "&Bedrag", "&Termijn", "&Aanvangsdatum"};
+  for (int cell = 0; cell < KolommenModel::kCells; ++cell)
+    sort->addAction(QString::fromUtf8(cells[cell]))->setData(cell);
+  sort->addAction(QStringLiteral("&Volgorde van toevoegen"))->setData(KolommenModel::kEigenVolgorde);
   create->setIconText(QStringLiteral("Nieuw"));
   check->setIconText(QStringLiteral("Controleren"));
 
   QMenu* fileMenu = window.menuBar()->addMenu(QStringLiteral("Bes&tand"));
-  fileMenu->addActions({create, open, sample});
+  fileMenu->addActions({create, open});
+  fileMenu->addMenu(recent);
+  fileMenu->addAction(sample);
   fileMenu->addSeparator();
   fileMenu->addActions({saveCopy, close, quit});
 
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
-  kolomMenu->addActions({add, duplicate});
+  kolomMenu->addMenu(addMenu);
+  kolomMenu->addAction(duplicate);
+  kolomMenu->addMenu(duplicateTo);
   kolomMenu->addMenu(move);
   kolomMenu->addMenu(afwijking);
   kolomMenu->addAction(remove);
   kolomMenu->addSeparator();
-  kolomMenu->addActions({previous, next, treeOrKolom});
+  kolomMenu->addActions({previous, next, treeOrKolom, find});
+  kolomMenu->addMenu(sort);
 
   QMenu* dossierMenu = window.menuBar()->addMenu(QStringLiteral("Dossie&r"));
   dossierMenu->addActions({client, addLening, check});
   dossierMenu->addActions({overview, verloop});
 
   QMenu* helpMenu = window.menuBar()->addMenu(QStringLiteral("&Help"));
-  helpMenu->addActions({record, eventLog, about});
+  helpMenu->addActions({help, record, eventLog, about});
 
   QToolBar* toolbar = window.addToolBar(QStringLiteral("Werkbalk"));
   toolbar->setObjectName(QStringLiteral("werkbalk"));
@@ -91,22 +127,30 @@ Actions::Actions(QMainWindow& window)
   toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
   toolbar->addActions({create, open});
   toolbar->addSeparator();
-  toolbar->addActions({add, duplicate});
+  toolbar->addWidget(AddButton(add, addMenu));
+  toolbar->addAction(duplicate);
   toolbar->addWidget(MenuButton(QStringLiteral("Verplaatsen"), move));
   toolbar->addAction(remove);
   toolbar->addSeparator();
   toolbar->addActions({client, check});
 
-  // Not in a menu: opens one.
-  window.addAction(moveByKey);
+  // Not in a menu: each opens one.
+  window.addActions({moveByKey, duplicateByKey});
+  for (QMenu* menu : {fileMenu, kolomMenu, dossierMenu, helpMenu, addMenu, duplicateTo, move, afwijking, sort})
+    menu->setToolTipsVisible(true);
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, overview, verloop, record};
+  return {saveCopy, close, previous, next, treeOrKolom, find, sort->menuAction(), client, check, overview, verloop, record};
+}
+
+QList<QAction*> Actions::ForEditing() const {
+  return {add, addGrowth, addPercentages, addMenu->menuAction(), addLening};
 }
 
 QList<QAction*> Actions::ForKolom() const {
-  return {duplicate, remove, move->menuAction(), moveByKey, afwijking->menuAction()};
+  return {duplicate, duplicateTo->menuAction(), duplicateByKey, remove, move->menuAction(),
+          moveByKey, afwijking->menuAction()};
 }
 
 }  // namespace brivane::app

@@ -22,8 +22,15 @@ struct Actions {
   QAction* close;
   QAction* quit;
 
-  QAction* add;
+  QMenu* recent;  ///< filled by the window
+
+  QAction* add;  ///< a column of amounts; the other two are in the same menu
+  QAction* addGrowth;
+  QAction* addPercentages;
+  QMenu* addMenu;
   QAction* duplicate;
+  QMenu* duplicateTo;  ///< one entry for each other loan, filled by the window
+  QAction* duplicateByKey;
   QAction* remove;
   QMenu* move;       ///< one entry for each other loan, filled by the window
   QMenu* afwijking;  ///< one entry for each loan of the new situation, filled by the window
@@ -31,6 +38,8 @@ struct Actions {
   QAction* previous;
   QAction* next;
   QAction* treeOrKolom;
+  QAction* find;
+  QMenu* sort;  ///< one entry for each cell of the list, whose number is its data
 
   QAction* client;
   QAction* addLening;
@@ -39,11 +48,13 @@ struct Actions {
   QAction* verloop;
 
   QAction* record;  ///< checked while a recording runs
+  QAction* help;
   QAction* eventLog;
   QAction* about;
 
-  /// What needs an open file, and what needs a column on the screen.
+  /// What needs an open file; one that may be written; and one with a column on the screen.
   [[nodiscard]] QList<QAction*> ForDossier() const;
+  [[nodiscard]] QList<QAction*> ForEditing() const;
   [[nodiscard]] QList<QAction*> ForKolom() const;
 };
 

@@ -9,6 +9,7 @@
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
+#include "app/screen/ListRoom.h"
 #include <brivane/frame/ErrorReport.h>
 
 namespace brivane::app {
@@ -29,15 +30,6 @@ host::ErrorRecord RecordOf(const host::Error& error) {
           .ErrorSource = error.Source()};
 }
 
-/// Every column of a case in the order of the tree.
-std::vector<Place> AllKolommen(const dossier::Dossier& dossier) {
-  std::vector<Place> places;
-  for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id) {
-    for (const auto& kolom : dossier.FindLening(Len_Id)->Kolommen()) places.push_back({Len_Id, kolom->Id()});
-  }
-  return places;
-}
-
 }  // namespace
 
 DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
@@ -48,24 +40,28 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
       traceLog_(std::make_shared<TraceLog>(eventLog)),
       file_(std::move(file)),
       application_(std::make_shared<dossier::Application>(file_->Dossier(), std::move(hoofdvenster))),
-      tree_(new KolommenTree(file_->Dossier())),
+      list_(new ListPanel(file_->Dossier())),
+      tree_(&list_->Tree()),
       kolom_(new KolomScreen(file_->Dossier(), MakeEditorHost(instrument), recording)) {
-  addWidget(tree_);
+  addWidget(list_);
   addWidget(kolom_);
   setStretchFactor(0, 0);
   setStretchFactor(1, 1);
-  setChildrenCollapsible(false);
-  const int treeWidth = kTreeCharacters * tree_->fontMetrics().averageCharWidth();
-  resize(treeWidth + kolom_->sizeHint().width(), height());
-  setSizes({treeWidth, width() - treeWidth});
+  setCollapsible(1, false);
+  wantedWidth_ = kTreeCharacters * tree_->fontMetrics().averageCharWidth();
+  connect(this, &QSplitter::splitterMoved, this, [this] { wantedWidth_ = sizes().front(); });
+  connect(qApp, &QApplication::focusChanged, this, &DossierScreen::GiveWay);
+  kolom_->SetRemovable(!file_->IsReadOnly());
 
   scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), file_->Bewerkingen());
   Connect(recording);
-  const std::vector<Place> kolommen = AllKolommen(Dossier());
+  const std::vector<Place> kolommen = tree_->Kolommen();
   Show(kolommen.empty() ? Place{} : kolommen.front());
 }
 
 DossierScreen::~DossierScreen() {
+  // The focus goes from widget to widget while they are taken down.
+  disconnect(qApp, nullptr, this, nullptr);
   subscriptions_.Reset();
   scenario_.reset();
   // The editor holds records of the file, which goes before its widgets otherwise.
@@ -95,6 +91,14 @@ void DossierScreen::Connect(Recording& recording) {
   tree_->clickEnded = [this](const Place& place) {
     // Only once the column was left.
     if (place == Shown()) tree_->setFocus(Qt::MouseFocusReason);
+  };
+  list_->shown = [this] { return Shown(); };
+  list_->opened = [this](const Place& place) {
+    if (GoTo(place)) kolom_->FocusFirst();
+  };
+  kolom_->removeAsked = [this] {
+    if (leaving_ || !Shown().Vrij_Id || !Remove(tree_->Neighbour(Shown()))) return;
+    tree_->setFocus(Qt::OtherFocusReason);
   };
   tree_->dragged = [this](const Place& kolom, std::int16_t toLen_Id) { MoveKolom(kolom, toLen_Id); };
 
@@ -162,7 +166,7 @@ bool DossierScreen::GoTo(const Place& place) {
 }
 
 bool DossierScreen::GoOn(int step) {
-  const std::vector<Place> kolommen = AllKolommen(Dossier());
+  const std::vector<Place> kolommen = tree_->Kolommen();
   const auto here = std::find(kolommen.begin(), kolommen.end(), Shown());
   // From a loan itself the way goes to its first column, or back to the last one before it.
   std::ptrdiff_t to = here - kolommen.begin() + step;
@@ -175,6 +179,27 @@ bool DossierScreen::GoOn(int step) {
   return GoTo(kolommen[static_cast<std::size_t>(to)]);
 }
 
+void DossierScreen::SetWantedListWidth(int pixels) {
+  wantedWidth_ = pixels;
+  GiveWay();
+}
+
+void DossierScreen::resizeEvent(QResizeEvent* event) {
+  QSplitter::resizeEvent(event);
+  GiveWay();
+}
+
+void DossierScreen::GiveWay() {
+  const QWidget* focus = QApplication::focusWidget();
+  const int room = width() - handleWidth();
+  const int list = ListWidth({.width = room,
+                              .wanted = wantedWidth_,
+                              .least = tree_->LeastWidth(),
+                              .editor = kolom_->EditingWidth(),
+                              .listHasFocus = focus != nullptr && list_->isAncestorOf(focus)});
+  if (list != sizes().front()) setSizes({list, room - list});
+}
+
 void DossierScreen::SwitchFocus() {
   if (kolom_->HasFocus() || !Shown().Vrij_Id) {
     tree_->setFocus(Qt::ShortcutFocusReason);
@@ -183,22 +208,22 @@ void DossierScreen::SwitchFocus() {
   }
 }
 
-bool DossierScreen::AddKolom() {
+bool DossierScreen::AddKolom(dossier::Invoer invoer) {
   if (!MayLeave()) return false;
   const std::int16_t Len_Id = Shown().Len_Id;
   std::shared_ptr<dossier::VrijeKolom> kolom;
-  if (!Try([&] { kolom = Dossier().NewKolom(Len_Id); })) return false;
+  if (!Try([&] { kolom = Dossier().NewKolom(Len_Id, invoer); })) return false;
   Show({Len_Id, kolom->Id()});
   kolom_->FocusOmschrijving();
   return true;
 }
 
-bool DossierScreen::DuplicateKolom() {
+bool DossierScreen::DuplicateKolom(std::int16_t toLen_Id) {
   const Place place = Shown();
   if (!place.Vrij_Id || !MayLeave() || !Exists(place)) return false;
   std::shared_ptr<dossier::VrijeKolom> kolom;
-  if (!Try([&] { kolom = Dossier().Dupliceer(place.Len_Id, *place.Vrij_Id); })) return false;
-  Show({place.Len_Id, kolom->Id()});
+  if (!Try([&] { kolom = Dossier().Dupliceer(place.Len_Id, *place.Vrij_Id, toLen_Id); })) return false;
+  Show({toLen_Id, kolom->Id()});
   kolom_->FocusOmschrijving();
   return true;
 }

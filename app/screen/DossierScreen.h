@@ -8,7 +8,7 @@
 
 #include "app/desk/TraceLog.h"
 #include "app/screen/KolomScreen.h"
-#include "app/screen/KolommenTree.h"
+#include "app/screen/ListPanel.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
 #include "dossier/store/DossierFile.h"
@@ -48,10 +48,16 @@ class DossierScreen final : public QSplitter {
   bool GoOn(int step);
   /// Puts the focus in the tree, or in the column when it is in the tree.
   void SwitchFocus();
+  /// Puts the focus in the box that filters the list.
+  void EnterFilter() { list_->EnterFilter(); }
+  /// How wide a person wants the list; it may be narrower where the editor needs the room.
+  [[nodiscard]] int WantedListWidth() const { return wantedWidth_; }
+  void SetWantedListWidth(int pixels);
 
   /// A new column in the loan that is shown, its description ready to be typed.
-  bool AddKolom();
-  bool DuplicateKolom();
+  bool AddKolom(dossier::Invoer invoer = dossier::Invoer::Bedragen);
+  /// A copy of the column on the screen in a loan, its own or another.
+  bool DuplicateKolom(std::int16_t toLen_Id);
   bool MoveKolom(const Place& kolom, std::int16_t toLen_Id);
   /// A version of the column on the screen for a loan of the new situation.
   bool MakeAfwijking(std::int16_t Len_Id);
@@ -73,6 +79,9 @@ class DossierScreen final : public QSplitter {
   /// The host's check after a column was left: how many things there are to look at.
   void findingsCounted(std::size_t count);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   EditorHost MakeEditorHost(const Instrument& instrument);
   host::HostFactories Factories();
@@ -85,6 +94,8 @@ class DossierScreen final : public QSplitter {
   bool Remove(const Place& next);
   /// Runs a change of the case; a failure is told. Answers whether it was done.
   bool Try(const std::function<void()>& change);
+  /// Divides the width between the list and the editor.
+  void GiveWay();
   void TellFailure(const host::ErrorRecord& error);
   void PlanRebind();
   void Rebind();
@@ -94,11 +105,13 @@ class DossierScreen final : public QSplitter {
   host::Subscriptions subscriptions_;
   std::unique_ptr<dossier::DossierFile> file_;
   std::shared_ptr<dossier::Application> application_;
+  ListPanel* list_;
   KolommenTree* tree_;
   KolomScreen* kolom_;
   std::unique_ptr<dossier::ScenarioTransaction> scenario_;
   bool leaving_ = false;  ///< a column is being left: what the tree selects meanwhile is not followed
-  bool rebind_ = false;   ///< memory was loaded anew; the editor is to be bound anew
+  int wantedWidth_;
+  bool rebind_ = false;  ///< memory was loaded anew; the editor is to be bound anew
 };
 
 }  // namespace brivane::app

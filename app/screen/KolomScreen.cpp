@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -37,10 +38,11 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
     const bool carryingOver = title == vrijekolom::kOvernemenTitel && place_.Vrij_Id;
     return carryingOver ? RemovedByCarryOver(*dossier_, *place_.Vrij_Id) : std::string();
   };
-  editor_->Toolkit().Desktop().offer = [this](const std::string&,
+  editor_->Toolkit().Desktop().offer = [this](const std::string& title,
                                               const std::string&) -> std::optional<qt::Desktop::Offer> {
-    if (!leaving_ || !IsIncomplete()) return std::nullopt;
-    return qt::Desktop::Offer{.button = "Kolom &verwijderen", .taken = [this] { remove_ = true; }};
+    const bool refusal = title == vrijekolom::kOntbrekendeInvoer || title == vrijekolom::kOnjuisteInvoer;
+    if (!refusal || !removable_ || !place_.Vrij_Id) return std::nullopt;
+    return qt::Desktop::Offer{.button = "Kolom &verwijderen", .taken = [this] { AskRemoval(); }};
   };
   editor_->SetPersonen([this] {
     qt::VrijeKolomWidget::Geborenen personen;
@@ -53,11 +55,11 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   stack->setContentsMargins(0, 0, 0, 0);
   stack->addWidget(editor_, 0, Qt::AlignLeft | Qt::AlignTop);
   stack->addStretch();
-  auto* scroller = new QScrollArea;
-  scroller->setFrameShape(QFrame::NoFrame);
-  scroller->setWidgetResizable(true);
-  scroller->setFocusPolicy(Qt::NoFocus);
-  scroller->setWidget(area);
+  scroller_ = new QScrollArea;
+  scroller_->setFrameShape(QFrame::NoFrame);
+  scroller_->setWidgetResizable(true);
+  scroller_->setFocusPolicy(Qt::NoFocus);
+  scroller_->setWidget(area);
 
   header_ = new KopregelLabel;
   header_->setObjectName(QStringLiteral("kopregel"));
@@ -66,7 +68,7 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   auto* layout = new QVBoxLayout(kolom_);
   layout->addWidget(header_);
   layout->addWidget(effect_);
-  layout->addWidget(scroller, 1);
+  layout->addWidget(scroller_, 1);
   connect(editor_, &qt::VrijeKolomWidget::refreshTopDisplay, header_, &KopregelLabel::Show);
 
   addWidget(empty_);
@@ -119,9 +121,22 @@ Leaving KolomScreen::Leave() {
   return cancel ? Leaving::Stays : Leaving::May;
 }
 
-bool KolomScreen::IsIncomplete() const {
-  const auto kolom = place_.Vrij_Id ? dossier_->FindKolom(place_.Len_Id, *place_.Vrij_Id) : nullptr;
-  return kolom && kolom->DatumAanvang().IsNone();
+void KolomScreen::AskRemoval() {
+  remove_ = true;
+  if (leaving_) return;
+  // The box that refuses is still in the middle of it.
+  QMetaObject::invokeMethod(
+      this,
+      [this, place = place_] {
+        if (place == place_ && removeAsked) removeAsked();
+      },
+      Qt::QueuedConnection);
+}
+
+int KolomScreen::EditingWidth() const {
+  const QMargins margins = kolom_->layout()->contentsMargins();
+  return margins.left() + editor_->sizeHint().width() + style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+         margins.right();
 }
 
 void KolomScreen::FocusRefused() {

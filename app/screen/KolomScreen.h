@@ -2,12 +2,15 @@
 
 #include <QStackedWidget>
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 #include "app/screen/EditorHost.h"
 #include "app/screen/Place.h"
 #include "dossier/model/Dossier.h"
 #include <brivane/toolkits/qt/VrijeKolomWidget.h>
+
+class QScrollArea;
 
 namespace brivane::app {
 
@@ -21,6 +24,8 @@ enum class Leaving : std::uint8_t { May, Stays, Remove };
 
 /// One free column on the screen: its header text, and what it does in euros, above the editor, which is as high as it
 /// says. Where the window is smaller it scrolls.
+///
+/// A message that refuses something of a column offers to remove the column.
 class KolomScreen final : public QStackedWidget {
  public:
   /// `recording` outlives the screen.
@@ -34,7 +39,7 @@ class KolomScreen final : public QStackedWidget {
   [[nodiscard]] const Place& Shown() const { return place_; }
 
   /// Hands over the box that is being edited, then asks the editor. Where the column stays, the focus is in the box
-  /// that has to be mended. The refusal of a column that was never complete offers to remove it.
+  /// that has to be mended.
   [[nodiscard]] Leaving Leave();
   /// The header text and what the column does, as the record has it now.
   void RefreshHeader();
@@ -45,11 +50,19 @@ class KolomScreen final : public QStackedWidget {
   /// Whether the focus is somewhere in the editor.
   [[nodiscard]] bool HasFocus() const;
 
+  /// What is needed to see the whole editor, with its margins and a bar to scroll.
+  [[nodiscard]] int EditingWidth() const;
+
   [[nodiscard]] qt::VrijeKolomWidget& Editor() { return *editor_; }
 
+  /// Whether the host lets columns be removed.
+  void SetRemovable(bool removable) { removable_ = removable; }
+  /// A refusal outside of Leave was answered by removing the column; told once that refusal has ended.
+  std::function<void()> removeAsked;
+
  private:
-  /// A new column has no start date, and is not left before it has one.
-  [[nodiscard]] bool IsIncomplete() const;
+  /// What is done when the offer is taken.
+  void AskRemoval();
   void FocusRefused();
 
   std::shared_ptr<dossier::Dossier> dossier_;
@@ -61,6 +74,8 @@ class KolomScreen final : public QStackedWidget {
   KopregelLabel* header_;
   EffectLabel* effect_;
   qt::VrijeKolomWidget* editor_;
+  QScrollArea* scroller_;
+  bool removable_ = true;
   bool leaving_ = false;
   bool remove_ = false;  ///< a refusal was answered by removing the column
 };

@@ -11,8 +11,10 @@
 #include <QStatusBar>
 
 #include "app/desk/Messages.h"
+#include "app/desk/RecentFiles.h"
 #include "app/desk/Settings.h"
 #include "app/screen/FindingsList.h"
+#include "app/screen/Greying.h"
 #include "app/screen/StartPage.h"
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
 
@@ -20,12 +22,14 @@ namespace brivane::app {
 namespace {
 
 constexpr int kMessageTime = 4000;  ///< milliseconds
+constexpr QSize kFrame{8, 40};      ///< what a desktop puts around a window
 
 }  // namespace
 
 MainWindow::MainWindow(EventLog& eventLog)
     : eventLog_(eventLog),
       actions_(*this),
+      help_(*this),
       owner_(std::make_shared<qt::Hoofdvenster>(this)),
       stack_(new QStackedWidget),
       start_(new StartPage({actions_.create, actions_.open, actions_.sample})),
@@ -44,7 +48,7 @@ MainWindow::MainWindow(EventLog& eventLog)
   fileName_->setTextFormat(Qt::PlainText);
   statusBar()->addPermanentWidget(fileName_);
   Connect();
-  resize(kFirstSize.boundedTo(screen()->availableSize()));
+  resize(kFirstSize.boundedTo(screen()->availableSize() - kFrame));
   restoreGeometry(Settings::WindowPlace());
   UpdateActions();
   start_->setFocus();
@@ -68,10 +72,11 @@ bool MainWindow::Open(const QString& file) {
 
 void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   Settings::SetLastFile(file->Pad());
+  RecentFiles::Add(file->Pad());
   screen_ = new DossierScreen(std::move(file), owner_, eventLog_, recording_, instrument);
   stack_->addWidget(screen_);
   stack_->setCurrentWidget(screen_);
-  screen_->restoreState(Settings::Split());
+  if (const int width = Settings::ListWidth(); width > 0) screen_->SetWantedListWidth(width);
   connect(screen_, &DossierScreen::placeChanged, this, &MainWindow::UpdateActions);
   connect(screen_, &DossierScreen::stored, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
@@ -104,7 +109,7 @@ bool MainWindow::CloseDossier() {
 }
 
 void MainWindow::LetGoOfFile() {
-  Settings::SetSplit(screen_->saveState());
+  Settings::SetListWidth(screen_->WantedListWidth());
   StopRecording();
   recording_.LetGo();
   delete screen_;
@@ -133,14 +138,19 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::UpdateActions() {
-  const bool open = screen_ != nullptr;
-  for (QAction* action : actions_.ForDossier()) action->setEnabled(open);
-  const bool kolom = open && screen_->Shown().Vrij_Id;
-  for (QAction* action : actions_.ForKolom()) action->setEnabled(kolom);
-  if (open) FillLeningMenus();
+  const QString noFile = screen_ ? QString() : QStringLiteral("Open eerst een dossier.");
+  const QString readOnly =
+      screen_ && screen_->File().IsReadOnly() ? QStringLiteral("Dit dossier is alleen te lezen.") : noFile;
+  const bool kolom = screen_ && screen_->Shown().Vrij_Id;
+  const QString noKolom = kolom || !readOnly.isEmpty() ? readOnly : QStringLiteral("Kies eerst een vrije kolom.");
+  for (QAction* action : actions_.ForDossier()) SetGrey(*action, noFile);
+  for (QAction* action : actions_.ForEditing()) SetGrey(*action, readOnly);
+  for (QAction* action : actions_.ForKolom()) SetGrey(*action, noKolom);
+  if (screen_) FillLeningMenus(noKolom);
 }
 
-void MainWindow::FillLeningMenus() {
+void MainWindow::FillLeningMenus(const QString& noKolom) {
+  actions_.duplicateTo->clear();
   actions_.move->clear();
   actions_.afwijking->clear();
   const Place here = screen_->Shown();
@@ -149,13 +159,23 @@ void MainWindow::FillLeningMenus() {
     // A number as mnemonic: the names may begin alike.
     const QString text = QStringLiteral("&%1 %2").arg(Len_Id).arg(LeningText(dossier, Len_Id).replace(u'&', "&&"));
     if (Len_Id != here.Len_Id) {
+      actions_.duplicateTo->addAction(text, this, [this, Len_Id] { screen_->DuplicateKolom(Len_Id); });
       actions_.move->addAction(text, this, [this, here, Len_Id] { screen_->MoveKolom(here, Len_Id); });
     }
     if (Len_Id != dossier::Dossier::kHuidig) {
       actions_.afwijking->addAction(text, this, [this, Len_Id] { screen_->MakeAfwijking(Len_Id); });
     }
   }
-  actions_.afwijking->menuAction()->setEnabled(here.Vrij_Id && here.Len_Id == dossier::Dossier::kHuidig);
+  if (!noKolom.isEmpty()) return;
+  if (dossier.AantalLeningen() == 0) {
+    const QString none = QStringLiteral("Er is nog geen lening in de nieuwe situatie (Dossier > Lening toevoegen).");
+    for (QAction* action : {actions_.duplicateTo->menuAction(), actions_.duplicateByKey, actions_.move->menuAction(),
+                            actions_.moveByKey, actions_.afwijking->menuAction()})
+      SetGrey(*action, none);
+  } else if (here.Len_Id != dossier::Dossier::kHuidig) {
+    SetGrey(*actions_.afwijking->menuAction(),
+            QStringLiteral("Een afwijking wordt gemaakt van een kolom van de huidige lening."));
+  }
 }
 
 }  // namespace brivane::app

@@ -8,6 +8,7 @@
 #include "app/recording/Recording.h"
 #include "app/screen/Actions.h"
 #include "app/screen/DossierScreen.h"
+#include "app/screen/HelpDesk.h"
 #include "app/screen/OverviewWindows.h"
 
 class QLabel;
@@ -26,8 +27,9 @@ class MainWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  /// Size at the very first start, where the screen is large enough: the editor fits without scrolling.
-  static constexpr QSize kFirstSize{1220, 760};
+  /// Size at the very first start: with its frame it stands on a screen of 1280 by 720 with a panel, and the editor
+  /// fits without scrolling.
+  static constexpr QSize kFirstSize{1240, 640};
 
   /// `eventLog` outlives the window.
   explicit MainWindow(EventLog& eventLog);
@@ -77,6 +79,8 @@ class MainWindow final : public QMainWindow {
   void Connect();
   void AskNew();
   void AskOpen();
+  void OpenRecent(const QString& file);
+  void ClearRecent();
   void OpenSample();
   void AskClient();
   void AskLening();
@@ -100,10 +104,12 @@ class MainWindow final : public QMainWindow {
   [[nodiscard]] bool GoOnWith(const UnfinishedText& unfinished);
   void ShowAttention(std::size_t count);
   void UpdateActions();
-  void FillLeningMenus();
+  /// `noKolom`: why nothing can be done with a column now; empty where it can.
+  void FillLeningMenus(const QString& noKolom);
 
   EventLog& eventLog_;
   app::Actions actions_;
+  HelpDesk help_;
   std::shared_ptr<host::Hoofdvenster> owner_;
   QStackedWidget* stack_;
   StartPage* start_;

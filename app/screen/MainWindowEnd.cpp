@@ -117,7 +117,7 @@ void MainWindow::PrepareForLogOut() {
 
 void MainWindow::RememberPlace() {
   Settings::SetWindowPlace(saveGeometry());
-  if (screen_) Settings::SetSplit(screen_->saveState());
+  if (screen_) Settings::SetListWidth(screen_->WantedListWidth());
 }
 
 void MainWindow::EndInOrder() {

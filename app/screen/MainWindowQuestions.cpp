@@ -1,5 +1,6 @@
 // What the window asks before it does something.
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -7,11 +8,15 @@
 #include <QMessageBox>
 
 #include "app/desk/FileDialogs.h"
+#include "app/desk/Messages.h"
+#include "app/desk/RecentFiles.h"
 #include "app/desk/Settings.h"
 #include "app/screen/ClientDialog.h"
 #include "app/screen/EventLogWindow.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
+#include "app/screen/RecentMenu.h"
+#include "app/screen/StartPage.h"
 #include "dossier/model/SampleCase.h"
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
@@ -32,8 +37,18 @@ void MainWindow::Connect() {
   on(actions_.saveCopy, [this] { SaveCopy(); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
-  on(actions_.add, [this] { screen_->AddKolom(); });
-  on(actions_.duplicate, [this] { screen_->DuplicateKolom(); });
+  on(actions_.add, [this] { screen_->AddKolom(dossier::Invoer::Bedragen); });
+  on(actions_.addGrowth, [this] { screen_->AddKolom(dossier::Invoer::BedragenMetGroei); });
+  on(actions_.addPercentages, [this] { screen_->AddKolom(dossier::Invoer::Percentages); });
+  on(actions_.duplicate, [this] { screen_->DuplicateKolom(screen_->Shown().Len_Id); });
+  on(actions_.duplicateByKey, [this] { actions_.duplicateTo->popup(screen_->mapToGlobal(QPoint())); });
+  on(actions_.find, [this] { screen_->EnterFilter(); });
+  connect(actions_.sort, &QMenu::triggered, this,
+          [this](const QAction* cell) { screen_->Tree().SortBy(cell->data().toInt()); });
+  on(actions_.help, [this] { help_.Show(); });
+  FillWithRecentFiles(*actions_.recent,
+                      {.open = [this](const QString& file) { OpenRecent(file); }, .clear = [this] { ClearRecent(); }});
+  start_->opened = [this](const QString& file) { OpenRecent(file); };
   on(actions_.remove, [this] { screen_->RemoveKolom(); });
   on(actions_.moveByKey, [this] { actions_.move->popup(screen_->mapToGlobal(QPoint())); });
   on(actions_.previous, [this] { screen_->GoOn(-1); });
@@ -81,6 +96,27 @@ void MainWindow::OpenSample() {
   if (screen_ && !screen_->MayLeave()) return;
   const QString file = AskNewFile(QStringLiteral("Voorbeeld opslaan als"), QStringLiteral("Voorbeeld"));
   if (!file.isEmpty()) Make(file, dossier::VoorbeeldDossier());
+}
+
+void MainWindow::OpenRecent(const QString& file) {
+  if (IsThere(file)) {
+    Open(file);
+    return;
+  }
+  const QString question =
+      QStringLiteral(
+          "Het dossier \"%1\" staat niet (meer) in de map \"%2\".\n\nWilt u het uit de "
+          "lijst van recente dossiers halen?")
+          .arg(QFileInfo(file).fileName(), QDir::toNativeSeparators(QFileInfo(file).absolutePath()));
+  if (Ask(this, QStringLiteral("Recent dossier"), question, QStringLiteral("&Uit de lijst halen")) == Answer::No)
+    return;
+  RecentFiles::Remove(file);
+  start_->Refresh();
+}
+
+void MainWindow::ClearRecent() {
+  RecentFiles::Clear();
+  start_->Refresh();
 }
 
 QString MainWindow::AskNewFile(const QString& title, const QString& name) {

@@ -102,21 +102,27 @@ std::int16_t Dossier::VrijId() const {
   throw host::Error(host::ErrorNumber::Overflow);
 }
 
-std::shared_ptr<dossier::VrijeKolom> Dossier::NewKolom(std::int16_t Len_Id) {
+std::shared_ptr<dossier::VrijeKolom> Dossier::NewKolom(std::int16_t Len_Id, Invoer invoer) {
   dossier::Lening& lening = host::Need(FindLening(Len_Id));
   KolomGegevens gegevens;
   gegevens.Id = VrijId();
+  // What an adviser has not looked at yet must not lower or raise a tax.
+  gegevens.CorrectieLast = host::codes::kLast;
+  gegevens.CorrectieFiscaal = host::codes::kFiscaalNeutraal;
+  gegevens.Bedrag.Invoersoort = static_cast<std::int16_t>(invoer);
   std::shared_ptr<dossier::VrijeKolom> kolom;
   omgeving_->Journal->InOneEdit([&] { kolom = lening.VoegToe(std::move(gegevens)); });
   return kolom;
 }
 
-std::shared_ptr<dossier::VrijeKolom> Dossier::Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id) {
-  dossier::Lening& lening = host::Need(FindLening(Len_Id));
-  KolomGegevens gegevens = Kopie(host::Need(lening.Zoek(Vrij_Id)), VrijId());
+std::shared_ptr<dossier::VrijeKolom> Dossier::Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id,
+                                                        std::int16_t naarLen_Id) {
+  const dossier::Lening& van = host::Need(FindLening(Len_Id));
+  dossier::Lening& naar = host::Need(FindLening(naarLen_Id));
+  KolomGegevens gegevens = Kopie(host::Need(van.Zoek(Vrij_Id)), VrijId());
   gegevens.Voorstel = {};
   std::shared_ptr<dossier::VrijeKolom> kolom;
-  omgeving_->Journal->InOneEdit([&] { kolom = lening.VoegToe(std::move(gegevens)); });
+  omgeving_->Journal->InOneEdit([&] { kolom = naar.VoegToe(std::move(gegevens)); });
   return kolom;
 }
 

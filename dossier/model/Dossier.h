@@ -14,6 +14,10 @@
 
 namespace brivane::dossier {
 
+/// What is filled in for the years of a column, as its amount object has it. It stays what it was when the column was
+/// made.
+enum class Invoer : std::int16_t { Bedragen = 1, Percentages = 2, BedragenMetGroei = 3 };
+
 /// A case: persons, the loan of the current situation, the loans of the new one, and the proposals.
 ///
 /// An identifier names one budget item in the whole case: a column of the new situation with the identifier of
@@ -50,10 +54,14 @@ class Dossier : public host::Dossier {
   /// The columns of the current situation that the new one takes over as they are.
   [[nodiscard]] std::vector<std::shared_ptr<dossier::VrijeKolom>> VolgtHuidigeSituatie() const;
 
-  /// Adds a column with valid codes and an identifier of its own. An unknown loan or column fails with error 91.
-  std::shared_ptr<dossier::VrijeKolom> NewKolom(std::int16_t Len_Id);
-  /// Adds a copy as an item of its own: another identifier, in no proposal.
-  std::shared_ptr<dossier::VrijeKolom> Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id);
+  /// Adds a recurring cost of the applicant that the tax passes by, with an identifier of its own. An unknown loan or
+  /// column fails with error 91.
+  std::shared_ptr<dossier::VrijeKolom> NewKolom(std::int16_t Len_Id, Invoer invoer = Invoer::Bedragen);
+  /// Adds a copy as an item of its own: another identifier, in no proposal. It comes in the same loan, or in another.
+  std::shared_ptr<dossier::VrijeKolom> Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id) {
+    return Dupliceer(Len_Id, Vrij_Id, Len_Id);
+  }
+  std::shared_ptr<dossier::VrijeKolom> Dupliceer(std::int16_t Len_Id, std::int16_t Vrij_Id, std::int16_t naarLen_Id);
   /// Removes a column. An item that is gone from the whole case leaves the proposals too.
   void Verwijder(std::int16_t Len_Id, std::int16_t Vrij_Id);
   /// Moves a column to the end of another loan and answers its identifier there: its own, or a new one where

@@ -25,6 +25,8 @@ class VrijeKolom : public host::VrijeKolomByField<VrijeKolom>, public std::enabl
   [[nodiscard]] std::string Kopregel() const override;
 
   [[nodiscard]] dossier::Sleutel Sleutel() const { return gegevens_.Sleutel; }
+  /// What the column holds but its periods.
+  [[nodiscard]] const KolomGegevens& Velden() const { return gegevens_; }
   /// Everything the column holds, its periods included.
   [[nodiscard]] KolomGegevens Gegevens() const;
   /// Takes over what is stored, telling nobody; the amount object and known periods stay the same objects.

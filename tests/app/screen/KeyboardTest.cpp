@@ -93,7 +93,7 @@ TEST_F(KeyboardTest, ANewColumnCanBeDescribedAtOnce) {
   EXPECT_EQ(kolom.Omschrijving, "Fotoclub");
   EXPECT_EQ(kolom.Bedrag.Bedrag, 27.5);
   EXPECT_EQ(kolom.CorrectieLast, 1);
-  EXPECT_EQ(kolom.CorrectieFiscaal, 1);
+  EXPECT_EQ(kolom.CorrectieFiscaal, 3);
   EXPECT_EQ(kolom.HeffingBij, 1);
 }
 

@@ -93,12 +93,29 @@ TEST(Dossier, AddsAColumnWithValidCodesAndAnIdentifierOfItsOwn) {
   const auto kolom = dossier->NewKolom(1);
   EXPECT_EQ(kolom->Id(), 8);
   EXPECT_EQ(kolom->CorrectieLast(), 1);
-  EXPECT_EQ(kolom->CorrectieFiscaal(), 1);
+  EXPECT_EQ(kolom->CorrectieFiscaal(), 3);
   EXPECT_EQ(kolom->HeffingBij(), 1);
   EXPECT_EQ(kolom->Termijn(), 1);
   EXPECT_EQ(kolom->Bedrag()->Invoersoort(), 1);
   EXPECT_THAT(Ids(*dossier, 1), ElementsAre(1, 7, 8));
   EXPECT_EQ(ErrorOf([&] { dossier->NewKolom(3); }), 91);
+}
+
+TEST(Dossier, AddsAColumnOfTheKindOfInputThatIsAsked) {
+  const auto dossier = MakeDossier();
+  EXPECT_EQ(dossier->NewKolom(0, Invoer::Bedragen)->Bedrag()->Invoersoort(), 1);
+  EXPECT_EQ(dossier->NewKolom(0, Invoer::Percentages)->Bedrag()->Invoersoort(), 2);
+  EXPECT_EQ(dossier->NewKolom(0, Invoer::BedragenMetGroei)->Bedrag()->Invoersoort(), 3);
+}
+
+TEST(Dossier, DuplicatesAColumnIntoAnotherLoan) {
+  const auto dossier = MakeDossier();
+  const auto copy = dossier->Dupliceer(0, 6, 2);
+  EXPECT_EQ(copy->Id(), 8);
+  EXPECT_EQ(copy->Omschrijving(), "Tennislidmaatschap");
+  EXPECT_THAT(Ids(*dossier, 2), ElementsAre(8));
+  EXPECT_EQ(Ids(*dossier, 0).size(), 6U);
+  EXPECT_EQ(ErrorOf([&] { dossier->Dupliceer(0, 6, 3); }), 91);
 }
 
 TEST(Dossier, GivesNoIdentifierThatAProposalStillNames) {
