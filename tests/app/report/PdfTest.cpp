@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QPageSize>
+#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include "app/report/Painter.h"
 #include "app/report/Pdf.h"
 #include "tests/app/report/SampleSource.h"
 
@@ -44,10 +47,10 @@ TEST_F(PdfTest, TheSampleCaseCanBeReadAsText) {
   const QStringList pages = Pages();
   ASSERT_EQ(pages.size(), 2);
   const QString text = pages.join(u'\n');
-  for (const char* part : {"Overzicht van de vrije kolommen", "M.C. van den Heuvel, geboren 12-03-1978", "Jan de Vries",
-                           "22-11-2026", "jaar 3 t/m 4: 01-09-2026 t/m 31-08-2028", "€ -112,50",
-                           "Krant, Dagblad De Maasbode, De", "Pagina 1 van 2",
-                           "Pagina 2 van 2", "Wordt beëindigd in voorstel 1"})
+  for (const char* part :
+       {"Overzicht van de vrije kolommen", "M.C. van den Heuvel, geboren 12-03-1978", "Jan de Vries", "22-11-2026",
+        "jaar 3 t/m 4: 01-09-2026 t/m 31-08-2028", "€ -112,50", "Krant, Dagblad De Maasbode, De", "Pagina 1 van 2",
+        "Pagina 2 van 2", "Wordt beëindigd in voorstel 1"})
     EXPECT_TRUE(text.contains(QString::fromUtf8(part))) << part;
 }
 
@@ -61,6 +64,29 @@ TEST_F(PdfTest, AReaderFindsTitleSizeAndLanguage) {
   const QString meta = Run("pdfinfo", {"-meta", path_});
   EXPECT_TRUE(meta.contains("<rdf:li>nl-NL</rdf:li>")) << qPrintable(meta);
   EXPECT_TRUE(meta.contains("<rdf:li>Jan de Vries</rdf:li>"));
+}
+
+TEST_F(PdfTest, ThePagesThatWereChosenArePrinted) {
+  struct {
+    int from, to;
+    QPrinter::PageOrder order;
+    QStringList pages;
+  } const cases[] = {{0, 0, QPrinter::FirstPageFirst, {"Pagina 1 van 2", "Pagina 2 van 2"}},
+                     {2, 2, QPrinter::FirstPageFirst, {"Pagina 2 van 2"}},
+                     {1, 9, QPrinter::LastPageFirst, {"Pagina 2 van 2", "Pagina 1 van 2"}}};
+  for (const auto& one : cases) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path_);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFullPage(true);
+    printer.setFromTo(one.from, one.to);
+    printer.setPageOrder(one.order);
+    ASSERT_TRUE(PrintPages(Paginate(ReportOf(SampleSource()), PrintedRuler(), SheetOf(printer)), printer));
+    const QStringList pages = Pages();
+    ASSERT_EQ(pages.size(), one.pages.size());
+    for (qsizetype i = 0; i < pages.size(); ++i) EXPECT_TRUE(pages[i].contains(one.pages[i])) << i;
+  }
 }
 
 TEST_F(PdfTest, ThreeHundredColumnsStandOnceEachBelowTheirHeadings) {
