@@ -47,12 +47,16 @@ Actions::Actions(QMainWindow& window)
       open(MakeAction(window, "&Openen…", QKeySequence::Open)),
       sample(MakeAction(window, "&Voorbeeld")),
       saveCopy(MakeAction(window, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
+      print(MakeAction(window, "Af&drukken…", QKeySequence::Print)),
+      pdf(MakeAction(window, "Opslaan als &PDF…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P))),
+      exportKolommen(MakeAction(window, "&Kolommen…")),
+      exportPerioden(MakeAction(window, "&Perioden…")),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
       recent(new QMenu(QStringLiteral("&Recent"), &window)),
       add(MakeAction(window, "&Bedragen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
       addGrowth(MakeAction(window, "Bedragen met &groei", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G))),
-      addPercentages(MakeAction(window, "&Percentages", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P))),
+      addPercentages(MakeAction(window, "&Percentages", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E))),
       addMenu(new QMenu(QStringLiteral("&Toevoegen"), &window)),
       duplicate(MakeAction(window, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
       duplicateTo(new QMenu(QStringLiteral("D&upliceren naar"), &window)),
@@ -100,7 +104,10 @@ Actions::Actions(QMainWindow& window)
   fileMenu->addMenu(recent);
   fileMenu->addAction(sample);
   fileMenu->addSeparator();
-  fileMenu->addActions({saveCopy, close, quit});
+  fileMenu->addAction(saveCopy);
+  fileMenu->addActions({print, pdf});
+  fileMenu->addMenu(QStringLiteral("E&xporteren naar CSV"))->addActions({exportKolommen, exportPerioden});
+  fileMenu->addActions({close, quit});
 
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolomMenu->addMenu(addMenu);
@@ -141,7 +148,8 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy, close, previous, next, treeOrKolom, find, sort->menuAction(), client, check, overview, verloop, record};
+  return {saveCopy,           print,  pdf,   exportKolommen, exportPerioden, close, previous, next, treeOrKolom, find,
+          sort->menuAction(), client, check, overview,       verloop,        record};
 }
 
 QList<QAction*> Actions::ForEditing() const {

@@ -11,7 +11,7 @@ constexpr std::array kEverywhere = std::to_array<HelpKey>({
     {"Ctrl+Shift+S", "een kopie onder een andere naam, waarin u verdergaat"},
     {"Ctrl+Shift+N", "nieuwe kolom met een bedrag per jaar"},
     {"Ctrl+Shift+G", "nieuwe kolom met een bedrag en een groeipercentage"},
-    {"Ctrl+Shift+P", "nieuwe kolom met een percentage per jaar"},
+    {"Ctrl+Shift+E", "nieuwe kolom met een percentage per jaar"},
     {"Ctrl+D", "kolom dupliceren"},
     {"Ctrl+Shift+D, cijfer", "kolom dupliceren naar een lening"},
     {"Ctrl+Shift+M, cijfer", "kolom verplaatsen naar een andere lening"},

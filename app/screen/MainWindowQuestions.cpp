@@ -15,6 +15,7 @@
 #include "app/screen/EventLogWindow.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
+#include "app/screen/Paper.h"
 #include "app/screen/RecentMenu.h"
 #include "app/screen/StartPage.h"
 #include "dossier/model/SampleCase.h"
@@ -35,6 +36,10 @@ void MainWindow::Connect() {
   on(actions_.open, [this] { AskOpen(); });
   on(actions_.sample, [this] { OpenSample(); });
   on(actions_.saveCopy, [this] { SaveCopy(); });
+  on(actions_.print, [this] { PrintReport(*this, *screen_); });
+  on(actions_.pdf, [this] { SaveReportAsPdf(*this, *screen_); });
+  on(actions_.exportKolommen, [this] { ExportKolommen(*this, *screen_); });
+  on(actions_.exportPerioden, [this] { ExportPerioden(*this, *screen_); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
   on(actions_.add, [this] { screen_->AddKolom(dossier::Invoer::Bedragen); });
