@@ -53,12 +53,12 @@ QVariant AsVariant(const Stored& value) {
   return {};
 }
 
-std::string Text(const QVariant& value) { return value.toByteArray().toStdString(); }
+std::string TextOf(const QVariant& value) { return value.toByteArray().toStdString(); }
 
 Stored Take(const QSqlQuery& query, int place, Opslag kind) {
   const QVariant value = query.value(place);
   switch (kind) {
-    case Opslag::Text: return Text(value);
+    case Opslag::Text: return TextOf(value);
     case Opslag::Real: return query.isNull(place) ? Stored() : Stored(value.toDouble());
     case Opslag::Integer: break;
   }
@@ -430,9 +430,9 @@ Entry TakeEntry(const QSqlQuery& query) {
   entry.tabel = static_cast<Tabel>(tabel);
   entry.key = number(3);
   entry.lening = number(4);
-  entry.lening_naam = Text(query.value(5));
+  entry.lening_naam = TextOf(query.value(5));
   entry.kolom = number(6);
-  entry.kolom_naam = Text(query.value(7));
+  entry.kolom_naam = TextOf(query.value(7));
   const std::int64_t field = number(8);
   if (field < 0 || field >= static_cast<std::int64_t>(TableOf(entry.tabel).columns.size())) Broken();
   entry.field = static_cast<int>(field);
