@@ -1,3 +1,5 @@
+#include <brivane/toolkits/win32/window/WindowsApi.h>
+
 #include <commctrl.h>
 
 #include <brivane/toolkits/win32/Toolkit.h>
