@@ -25,5 +25,7 @@ inline constexpr int kFirstYear = 1900;
 
 /// "01-04-2031"; no date is the empty text.
 [[nodiscard]] std::string ShowDate(host::Date date);
+/// "dinsdag 1 april 2031"; no date is the empty text.
+[[nodiscard]] std::string ShowDateInWords(host::Date date);
 
 }  // namespace brivane::frame

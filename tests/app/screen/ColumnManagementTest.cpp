@@ -148,7 +148,7 @@ TEST_F(NewColumnTest, ThatEndsBeforeItBeginsIsRemovedFromThatRefusalToo) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(window).buttons().size(), 2);
     QTest::keyClick(window.windowHandle(), Qt::Key_Return);
   });
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
   dialogs_.ExpectMessage("De einddatum dient na de aanvangsdatum te liggen.", [](QWidget& window) {
     QTest::keyClick(window.windowHandle(), Qt::Key_V, Qt::AltModifier);
