@@ -25,6 +25,8 @@ inline constexpr int kFirstYear = 1900;
 
 /// "01-04-2031"; no date is the empty text.
 [[nodiscard]] std::string ShowDate(host::Date date);
+/// "1 april 2031"; no date is the empty text.
+[[nodiscard]] std::string ShowLongDate(host::Date date);
 /// "dinsdag 1 april 2031"; no date is the empty text.
 [[nodiscard]] std::string ShowDateInWords(host::Date date);
 

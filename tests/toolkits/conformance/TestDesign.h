@@ -64,10 +64,10 @@ inline constexpr frame::Row kSurfaceRows[] = {
      .label = "Leeg"},
     {.name = "cmdDoen", .kind = Kind::Button, .place = {120, 2760, 1800, 375}, .parent = "fraKeuze",
      .caption = "&Doen", .tab = 17, .mnemonic = 'D'},
-    {.name = "lvwLijst", .kind = Kind::ListView, .place = {0, 4320, 6000, 1800}, .tab = 18, .label = "Lijst"},
-    {.name = "txtTot", .kind = Kind::TextBox, .place = {4320, 1740, 1500, 300}, .parent = "fraBoxen", .tab = 20,
+    {.name = "lvwLijst", .kind = Kind::ListView, .place = {0, 4320, 6000, 1800}, .tab = 19, .label = "Lijst"},
+    {.name = "txtTot", .kind = Kind::TextBox, .place = {4320, 1740, 1500, 300}, .parent = "fraBoxen", .tab = 18,
      .label = "Tot", .format = Format::Date, .countsFrom = "txtDatum"},
-    {.name = "Binnenste", .kind = Kind::Surface, .place = {6120, 4320, 3000, 900}, .tab = 19, .embedded = &kInner},
+    {.name = "Binnenste", .kind = Kind::Surface, .place = {6120, 4320, 3000, 900}, .tab = 20, .embedded = &kInner},
 };
 
 inline constexpr frame::Design kSurface{.name = "Proef", .rows = kSurfaceRows, .width = 12000, .height = 6300};
