@@ -16,7 +16,7 @@ constexpr std::array kEverywhere = std::to_array<HelpKey>({
     {"Ctrl+Shift+D, cijfer", "kolom dupliceren naar een lening"},
     {"Ctrl+Shift+M, cijfer", "kolom verplaatsen naar een andere lening"},
     {"Ctrl+Shift+Delete", "kolom verwijderen"},
-    {"Ctrl+Page Up, Ctrl+Page Down", "vorige en volgende kolom van de lijst"},
+    {"Alt+Page Up, Alt+Page Down", "vorige en volgende kolom van de lijst"},
     {"Ctrl+F", "zoeken in de lijst"},
     {"F6", "van de lijst naar de kolom en terug"},
     {"F7", "het hele dossier controleren"},
@@ -26,7 +26,7 @@ constexpr std::array kEverywhere = std::to_array<HelpKey>({
 
 constexpr std::array kStart = std::to_array<HelpKey>({
     {"Tab, Enter", "naar een knop, en doen wat erop staat"},
-    {"Alt+R", "naar de lijst van recente dossiers"},
+    {"Alt+G", "naar de lijst van recente dossiers"},
     {"Enter in de lijst", "het dossier openen"},
     {"Delete in de lijst", "het dossier uit de lijst halen; het bestand blijft"},
 });
@@ -60,8 +60,10 @@ constexpr std::array kColumn = std::to_array<HelpKey>({
 constexpr std::array kYearForm = std::to_array<HelpKey>({
     {"Tab, Shift+Tab", "volgend en vorig vak"},
     {"Pijl omhoog en omlaag", "vorig en volgend jaar"},
-    {"Enter", "OK: de jaren opslaan"},
-    {"Escape", "sluiten zonder op te slaan, na een vraag"},
+    {"Enter", "overnemen wat u typte, en naar het volgende jaar"},
+    {"Alt+V", "vervolgjaren automatisch invullen, of niet"},
+    {"Alt+O", "OK: de jaren opslaan"},
+    {"Escape", "sluiten zonder op te slaan; als er iets is gewijzigd na een vraag"},
     {"Ctrl+V", "een kolom uit een rekenblad plakken"},
 });
 

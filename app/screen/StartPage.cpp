@@ -59,7 +59,7 @@ StartPage::StartPage(const QList<QAction*>& actions, QWidget* parent) : QWidget(
 
 QWidget* StartPage::MakeRecent() {
   auto* area = new QWidget;
-  auto* heading = new QLabel(QStringLiteral("&Recent geopend"));
+  auto* heading = new QLabel(QStringLiteral("Recent &geopend"));
   files_ = new QListWidget;
   files_->setObjectName(QStringLiteral("recent"));
   files_->setAccessibleName(QStringLiteral("Recent geopende dossiers"));

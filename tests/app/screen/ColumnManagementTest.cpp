@@ -154,7 +154,7 @@ TEST_F(NewColumnTest, ThatEndsBeforeItBeginsIsRemovedFromThatRefusalToo) {
     QTest::keyClick(window.windowHandle(), Qt::Key_V, Qt::AltModifier);
     QTest::qWait(200);  // a button that a letter presses stays down for a moment
   });
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{0, 6}));
   EXPECT_EQ(Kolommen(0).size(), 6);
 }

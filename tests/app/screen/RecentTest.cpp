@@ -49,7 +49,7 @@ TEST_F(RecentTest, AreInTheMenuAndOnTheStartPage) {
   EXPECT_EQ(List().item(1)->text(), "test\n" + QDir::toNativeSeparators(folder_.path()));
 
   // By keyboard alone: the second of the list.
-  PressKey(Qt::Key_R, Qt::AltModifier);
+  PressKey(Qt::Key_G, Qt::AltModifier);
   EXPECT_EQ(Focus(), "Recent geopende dossiers");
   PressKey(Qt::Key_Down);
   PressKey(Qt::Key_Return);
@@ -77,7 +77,7 @@ TEST_F(RecentTest, DeleteTakesOneOutAndTheListCanBeEmptied) {
   RecentFiles::Add(other_);
   RecentFiles::Add(file_);
   NewWindow();
-  PressKey(Qt::Key_R, Qt::AltModifier);
+  PressKey(Qt::Key_G, Qt::AltModifier);
   PressKey(Qt::Key_Delete);
   EXPECT_EQ(RecentFiles::All(), (QStringList{other_}));
   EXPECT_TRUE(QFile::exists(file_));
