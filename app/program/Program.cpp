@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include "app/program/DutchTranslator.h"
+#include "app/program/LegiblePalette.h"
 
 namespace brivane::app {
 
@@ -12,6 +13,7 @@ void SetUpProgram(QApplication& program) {
   QApplication::setApplicationName(QStringLiteral("dossier"));
   QApplication::setApplicationDisplayName(QStringLiteral("Dossier"));
   QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
+  QApplication::setPalette(LegiblePalette(QApplication::palette()));
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QApplication::installTranslator(new DutchTranslator(&program));
 }

@@ -7,6 +7,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "app/screen/ToolbarKeys.h"
+
 namespace brivane::app {
 namespace {
 
@@ -90,6 +92,8 @@ Actions::Actions(QMainWindow& window)
   toolbar->addAction(remove);
   toolbar->addSeparator();
   toolbar->addActions({client, check});
+
+  ReachByKeys(*toolbar);
 
   // Not in a menu: opens one.
   window.addAction(moveByKey);

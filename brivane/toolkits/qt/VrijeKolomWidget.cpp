@@ -15,7 +15,7 @@ void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
   control_ = std::make_shared<VrijeKolom>(Surface(), Toolkit(), factories);
   Keep(control_);
   subscriptions_ += control_->RefreshTopDisplay.Connect([this, life = Life()](const std::string& text) {
-    emit refreshTopDisplay(ToQt(text));
+    Q_EMIT refreshTopDisplay(ToQt(text));
     life->Check();
     TellTopDisplay(ToQt(text));
     life->Check();
@@ -70,7 +70,7 @@ QString VrijeKolomWidget::ReadTopDisplay() {
 
 void VrijeKolomWidget::TellTopDisplay(const QString& text) {
   topDisplay_ = text;
-  emit topDisplayChanged(text);
+  Q_EMIT topDisplayChanged(text);
 }
 
 void VrijeKolomWidget::StateChanged() {

@@ -4,6 +4,7 @@
 #include <brivane/toolkits/qt/peers/PlainPeers.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
+#include <brivane/toolkits/qt/widgets/PlainFrame.h>
 
 namespace brivane::qt {
 
@@ -13,7 +14,9 @@ namespace {
 
 QWidget* MakeFrame(const frame::Row& row, QWidget* container) {
   if (row.bordered) return new QGroupBox(container);
-  return new QWidget(container);
+  auto* const area = new PlainFrame(container);
+  area->setAccessibleName(ToQt(std::string(row.caption)));
+  return area;
 }
 
 }  // namespace

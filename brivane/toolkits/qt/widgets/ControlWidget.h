@@ -75,7 +75,7 @@ class ControlWidget : public QWidget {
   [[nodiscard]] host::Surface& Surface() { return *surface_; }
   [[nodiscard]] qt::Toolkit& Toolkit() { return toolkit_; }
 
- signals:
+ Q_SIGNALS:
   /// The control was laid out: its height may have changed.
   void heightChanged();
 
