@@ -52,6 +52,9 @@ Actions::Actions(QMainWindow& window)
       record(MakeAction(window, "Op&nemen…")),
       eventLog(MakeAction(window, "&Logboek…")),
       about(MakeAction(window, "&Over Dossier…")) {
+  // In a date box that somebody went to, Control with these keys moves the date by a year.
+  previous->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageUp), QKeySequence(Qt::ALT | Qt::Key_PageUp)});
+  next->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageDown), QKeySequence(Qt::ALT | Qt::Key_PageDown)});
   record->setCheckable(true);
   QObject::connect(record, &QAction::toggled, record, [record = record](bool running) {
     record->setText(running ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));

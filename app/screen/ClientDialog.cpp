@@ -106,7 +106,7 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
   }
   fields.geboortedatum = new qt::DateBox;
   qt::TypesNothingWithAlt(*fields.geboortedatum);
-  fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth);
+  fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth, &Today);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
   return group;

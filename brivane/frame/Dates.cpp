@@ -15,6 +15,9 @@ constexpr std::string_view kExpected = "Vul een datum in als dd-mm-jjjj, bijvoor
 constexpr std::array<std::string_view, 12> kMonths = {"januari",   "februari", "maart",    "april",
                                                       "mei",       "juni",     "juli",     "augustus",
                                                       "september", "oktober",  "november", "december"};
+/// From the day of the week that the zero date was.
+constexpr std::array<std::string_view, 7> kDays = {"zaterdag", "zondag",    "maandag", "dinsdag",
+                                                   "woensdag", "donderdag", "vrijdag"};
 constexpr std::size_t kShortYear = 2;
 constexpr std::size_t kFullYear = 4;
 
@@ -89,6 +92,15 @@ std::string ShowDate(host::Date date) {
   char text[32];
   std::snprintf(text, sizeof text, "%02d-%02d-%04d", parts.day, parts.month, parts.year);
   return text;
+}
+
+std::string ShowDateInWords(host::Date date) {
+  if (date.IsNone()) return {};
+  const frame::YearMonthDay parts = frame::Split(date);
+  const auto week = static_cast<int>(kDays.size());
+  const auto day = static_cast<std::size_t>((date.Days() % week + week) % week);
+  return std::string(kDays[day]) + ' ' + std::to_string(parts.day) + ' ' +
+         std::string(kMonths[static_cast<std::size_t>(parts.month) - 1]) + ' ' + std::to_string(parts.year);
 }
 
 }  // namespace brivane::frame

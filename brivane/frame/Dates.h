@@ -26,5 +26,7 @@ inline constexpr int kFirstYear = 1900;
 
 /// "01-04-2031"; no date is the empty text.
 [[nodiscard]] BRIVANE_API std::string ShowDate(host::Date date);
+/// "dinsdag 1 april 2031"; no date is the empty text.
+[[nodiscard]] BRIVANE_API std::string ShowDateInWords(host::Date date);
 
 }  // namespace brivane::frame

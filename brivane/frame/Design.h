@@ -74,8 +74,11 @@ struct Row {
   int index = kNoIndex;           ///< place in a control array; kTemplateIndex is the template of run-time elements
   int tab = 0;                    ///< place in the tab order from 1; 0 for what takes no focus
   std::string_view label = {};    ///< the text that names a box, toggle, list or help icon to a screen reader
-  char mnemonic = '\0';  ///< letter of the caption that, with Alt, goes to the control (or to the box it labels)
+  /// Letter of the caption that, with Alt, goes to the control, to the box that it labels, or into the frame.
+  char mnemonic = '\0';
   Format format = Format::None;
+  /// End dates: the box with the date that a typed term ("3j") counts from, on this surface or on one around it.
+  std::string_view countsFrom = {};
   bool bordered = true;    ///< frames: draws its border and caption
   bool locked = false;     ///< text boxes: written by code alone
   bool multiline = false;  ///< labels: wraps over lines

@@ -14,6 +14,7 @@ constexpr std::size_t kGroup = 3;
 constexpr std::size_t kMostWholeDigits = 12;
 constexpr std::string_view kEuro = "€";
 constexpr std::string_view kMinus = "−";  // the typographic minus that spreadsheets paste
+constexpr std::string_view kDash = "–";
 
 /// How one kind of number is written.
 struct Style {
@@ -88,11 +89,26 @@ bool Take(std::string_view& text, std::string_view sign) {
   return true;
 }
 
+bool TakeMinus(std::string_view& text) { return Take(text, "-") || Take(text, kMinus); }
+
+/// A euro sign stands before an amount or after it.
+bool TakeEuro(std::string_view& text) {
+  if (Take(text, kEuro)) return true;
+  if (!text.ends_with(kEuro)) return false;
+  text.remove_suffix(kEuro.size());
+  text = Trim(text);
+  return true;
+}
+
+/// "€ -": how ledgers and spreadsheets write that there is nothing.
+bool IsNothing(std::string_view text) {
+  return TakeEuro(text) && (text == "-" || text == "--" || text == kMinus || text == kDash);
+}
+
 Parts Take(std::string_view text, const Style& style) {
   Parts parts;
-  parts.negative = Take(text, "-") || Take(text, kMinus);
-  if (style.decimals == 2 && Take(text, kEuro) && !parts.negative)
-    parts.negative = Take(text, "-") || Take(text, kMinus);
+  parts.negative = TakeMinus(text);
+  if (style.decimals == 2 && TakeEuro(text) && !parts.negative) parts.negative = TakeMinus(text);
   const std::size_t comma = text.find(',');
   parts.whole = text.substr(0, comma);
   parts.comma = comma != std::string_view::npos;
@@ -108,6 +124,7 @@ Reading<double> Read(std::string_view text, const Style& style) {
   const auto refuse = [](std::string_view reason) { return Reading<double>::Refuse(std::string(reason)); };
   text = Trim(text);
   if (text.empty()) return {};
+  if (style.decimals == 2 && IsNothing(text)) return 0.0;
   const Parts parts = Take(text, style);
   const std::string digits = WithoutPoints(parts.whole);
   if (!IsDigits(digits) || (digits.empty() && !parts.comma)) return refuse(style.expected);

@@ -12,7 +12,7 @@
 /// before three digits the text could be meant in two ways; it is refused and both are named.
 namespace brivane::frame {
 
-/// Euros with at most two decimals: "1.234,56", "1234,5", "€ 12,-".
+/// Euros with at most two decimals: "1.234,56", "1234,5", "€ 12,-", "12,50 €"; "€ -" is none.
 [[nodiscard]] Reading<double> ReadAmount(std::string_view text);
 /// A number with at most four decimals.
 [[nodiscard]] Reading<double> ReadNumber(std::string_view text);

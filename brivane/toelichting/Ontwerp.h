@@ -32,7 +32,8 @@ inline constexpr std::string_view kHintLangleven =
 /// A label with a mnemonic goes to the box in the row below it.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
-    {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen"},
+    {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen",
+     .mnemonic = 'n'},
     {.name = "lstToelichting", .kind = Kind::ListView, .place = kLijstPlaats, .parent = "fraScenarios", .tab = 1,
      .label = "Effect op maandlast en IB"},
     {.name = "fraContent", .kind = Kind::Frame, .place = {kInhoudLinks, kInhoudTop, 5760, kInhoudHoogte},
@@ -67,7 +68,7 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "LblEinddatum", .kind = Kind::Label, .place = {0, 1605, 2010, 225}, .parent = "fraContent",
      .caption = "Einddatum / eindleeftijd"},
     {.name = "txtEinddatum", .kind = Kind::TextBox, .place = {2040, 1560, 1500, 315}, .parent = "fraContent",
-     .tab = 8, .label = "Einddatum overgang", .format = Format::Date},
+     .tab = 8, .label = "Einddatum overgang", .format = Format::Date, .countsFrom = "TxtDtAanvang"},
     {.name = "lblSlash", .kind = Kind::Label, .place = {3585, 1605, 105, 225}, .parent = "fraContent", .caption = "/"},
     {.name = "TxtEindjaar", .kind = Kind::TextBox, .place = {3720, 1560, 600, 315}, .parent = "fraContent", .tab = 9,
      .label = "Eindleeftijd, jaar", .format = Format::WholeNumber},

@@ -40,10 +40,12 @@ inline constexpr int kHeffingTop = kGegevensTop + kGegevensHoog + kKaderAfstand;
 inline constexpr int kProductHoog = 2790;
 inline constexpr int kToelichtingTop = kProductHoog + kKaderAfstand;
 
-/// A label with a mnemonic goes to the box in the row below it.
+/// A label with a mnemonic goes to the box in the row below it, a frame to what it holds. The host has the letters h,
+/// k, r and t for its menus.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
-    {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last"},
+    {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last",
+     .mnemonic = 'l'},
     // The indexes run against the order on the screen.
     {.name = "optLast", .kind = Kind::OptionButton, .place = {4185, kOptieTop, 1980, kOptieHoog}, .parent = "fraLast",
      .caption = "Last", .index = kLast, .tab = 3},
@@ -53,7 +55,7 @@ inline constexpr frame::Row kRijen[] = {
      .caption = "Neutraal", .index = kLastNeutraal, .tab = 1},
 
     {.name = "fraFiscaal", .kind = Kind::Frame, .place = {0, kFiscaalTop, kLinksBreed, kLastHoog},
-     .caption = "Correctie fiscaal"},
+     .caption = "Correctie fiscaal", .mnemonic = 'f'},
     {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {135, kOptieTop, 1980, kOptieHoog}, .parent = "fraFiscaal",
      .caption = "Aftrekpost", .index = kAftrekpost, .tab = 4},
     {.name = "optFiscaal", .kind = Kind::OptionButton, .place = {2160, kOptieTop, 1980, kOptieHoog}, .parent = "fraFiscaal",
@@ -74,7 +76,7 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "lblDtEind", .kind = Kind::Label, .place = {0, 45, 1770, 225}, .parent = "fraLooptijd",
      .caption = "Einddatum / looptijd", .mnemonic = 'E'},
     {.name = "TxtDtEind", .kind = Kind::TextBox, .place = {kVakLinks, 0, 1500, kVakHoog}, .parent = "fraLooptijd",
-     .tab = 8, .label = "Einddatum", .format = Format::Date},
+     .tab = 8, .label = "Einddatum", .format = Format::Date, .countsFrom = "TxtDtAanvang"},
     {.name = "lblLooptijdStreep", .kind = Kind::Label, .place = {3345, 45, 105, 225}, .parent = "fraLooptijd",
      .caption = "/"},
     {.name = "TxtAnJaar", .kind = Kind::TextBox, .place = {3480, 0, 600, kVakHoog}, .parent = "fraLooptijd",
@@ -90,7 +92,8 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "lblVervaldatum", .kind = Kind::Label, .place = {0, 45, 1770, 225}, .parent = "fraVervaldatum",
      .caption = "Contractvervaldatum", .mnemonic = 'v'},
     {.name = "txtVervaldatum", .kind = Kind::TextBox, .place = {kVakLinks, 0, 1500, kVakHoog},
-     .parent = "fraVervaldatum", .tab = 11, .label = "Contractvervaldatum", .format = Format::Date},
+     .parent = "fraVervaldatum", .tab = 11, .label = "Contractvervaldatum", .format = Format::Date,
+     .countsFrom = "TxtDtAanvang"},
 
     {.name = "fraGegevens", .kind = Kind::Frame, .place = {0, kGegevensTop, kLinksBreed, kGegevensHoog},
      .caption = "Gegevens"},
@@ -127,7 +130,7 @@ inline constexpr frame::Row kRijen[] = {
      .caption = "Voorstel 3", .index = 3, .tab = 20, .mnemonic = '3'},
 
     {.name = "fraHeffing", .kind = Kind::Frame, .place = {0, kHeffingTop, kLinksBreed, kLastHoog},
-     .caption = "Heffing bij"},
+     .caption = "Heffing bij", .mnemonic = 'j'},
     {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {135, kOptieTop, 3000, kOptieHoog},
      .parent = "fraHeffing", .caption = "Aanvrager", .index = kAanvrager, .tab = 21},
     {.name = "optAanvrager", .kind = Kind::OptionButton, .place = {3165, kOptieTop, 3000, kOptieHoog},
@@ -160,7 +163,7 @@ inline constexpr frame::Row kRijen[] = {
     {.name = "fraProductnaam", .kind = Kind::Frame, .place = {135, 2040, 5760, kRijHoog}, .parent = "fraProduct",
      .caption = "Productnaam", .bordered = false},
     {.name = "lblProductnaam", .kind = Kind::Label, .place = {0, 45, 1770, 225}, .parent = "fraProductnaam",
-     .caption = "Productnaam", .mnemonic = 'n'},
+     .caption = "Productnaam", .mnemonic = 'c'},
     {.name = "txtProductnaam", .kind = Kind::TextBox, .place = {kVakLinks, 0, 3960, kVakHoog},
      .parent = "fraProductnaam", .tab = 28, .label = "Productnaam", .format = Format::Text},
     {.name = "fraUwBemiddeling", .kind = Kind::Frame, .place = {135, 2400, 5760, kRijHoog}, .parent = "fraProduct",

@@ -82,9 +82,9 @@ TEST_F(PeerTest, AreMadeInTheOrderOfTheTableEachAfterWhatItStandsIn) {
   EXPECT_EQ(log[0], "made Proef");
   EXPECT_EQ(log[1], "made fraBoxen in Proef");
   EXPECT_EQ(log[2], "made lblNaam in fraBoxen");
-  EXPECT_EQ(log[23], "made Binnenste in Proef");
-  EXPECT_EQ(log[24], "made Binnenste.fraBinnen in Binnenste");
-  EXPECT_EQ(log[25], "made Binnenste.jnBinnen in Binnenste.fraBinnen");
+  EXPECT_EQ(log[24], "made Binnenste in Proef");
+  EXPECT_EQ(log[25], "made Binnenste.fraBinnen in Binnenste");
+  EXPECT_EQ(log[26], "made Binnenste.jnBinnen in Binnenste.fraBinnen");
 }
 
 TEST_F(PeerTest, GoInTheReverseOrder) {
@@ -156,8 +156,8 @@ TEST_F(PeerTest, TakeTheFocusThatCodeMoves) {
 
 TEST_F(PeerTest, OfAFormShowAndUnloadIt) {
   const auto form = toolkit.MakeForm(test::kForm);
-  EXPECT_EQ(toolkit.log.at(26), "made form frmProef");
-  EXPECT_EQ(toolkit.log.at(27), "made fraRooster in frmProef");
+  EXPECT_EQ(toolkit.log.at(27), "made form frmProef");
+  EXPECT_EQ(toolkit.log.at(28), "made fraRooster in frmProef");
   (void)Heard();
   const host::Subscription activated = form->Activate.Connect([&] { toolkit.log.emplace_back("Activate"); });
   const host::Subscription unloaded = form->Unloaded.Connect([&] { toolkit.log.emplace_back("Unloaded"); });

@@ -80,5 +80,13 @@ TEST(ShownDate, HasTwoDigitsForDayAndMonth) {
   EXPECT_EQ(ShowDate(host::kNoDate), "");
 }
 
+TEST(ShownDate, InWordsNamesTheDayOfTheWeek) {
+  EXPECT_EQ(ShowDateInWords(frame::MakeDate({2026, 11, 22})), "zondag 22 november 2026");
+  EXPECT_EQ(ShowDateInWords(frame::MakeDate({2031, 4, 1})), "dinsdag 1 april 2031");
+  EXPECT_EQ(ShowDateInWords(frame::MakeDate({2000, 1, 1})), "zaterdag 1 januari 2000");
+  EXPECT_EQ(ShowDateInWords(frame::MakeDate({1899, 12, 29})), "vrijdag 29 december 1899");
+  EXPECT_EQ(ShowDateInWords(host::kNoDate), "");
+}
+
 }  // namespace
 }  // namespace brivane::frame

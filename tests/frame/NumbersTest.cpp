@@ -37,6 +37,13 @@ TEST(Amount, AcceptsWhatHasOneMeaning) {
       {"-3,10", -3.1},
       {"€ -3,10", -3.1},
       {"-€ 3,10", -3.1},
+      {"12,50 €", 12.5},
+      {"1.234,-€", 1234},
+      {"-3,10 €", -3.1},
+      {"€ -", 0},
+      {"€ –", 0},
+      {"€ --", 0},
+      {"- €", 0},
       {"\u22123", -3},
       {"\u00A01.000,00\u00A0", 1000},
       {"007", 7},
@@ -70,8 +77,8 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
 
 TEST(Amount, RefusesMalformedTextAndSaysWhatIsExpected) {
   const std::string expected = "Vul een bedrag in, bijvoorbeeld 1.234,56.";
-  for (const char* typed :
-       {"abc", "12a", "1,2,3", "12,", ",", ".", "-", "€", "1 500", "1,234.56", "--5", "1.23,45", "5-", "1e3"})
+  for (const char* typed : {"abc", "12a", "1,2,3", "12,", ",", ".", "-", "€", "1 500", "1,234.56", "--5", "1.23,45",
+                            "5-", "1e3", "€ 12 €", "€ - €", "-€ -"})
     EXPECT_EQ(ReadAmount(typed).Reason(), expected) << typed;
   EXPECT_EQ(ReadAmount("12,345").Reason(), "Een bedrag heeft ten hoogste twee cijfers achter de komma.");
   EXPECT_EQ(ReadAmount("1000000000000").Reason(), "Dit getal is te groot.");

@@ -2,9 +2,11 @@
 
 #include <brivane/controls/DrawnToolkit.h>
 #include <brivane/controls/FailureWatch.h>
+#include <brivane/controls/Surface.h>
 #include <brivane/controls/TextBox.h>
 #include <brivane/controls/entry/Column.h>
 #include <brivane/controls/entry/PendingEdit.h>
+#include <brivane/frame/Dates.h>
 #include <brivane/frame/Trim.h>
 
 namespace brivane::controls {
@@ -15,6 +17,14 @@ namespace {
 
 constexpr char kNotStored[] = "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.";
 constexpr char kNotTaken[] = "Niet overgenomen";
+
+/// The box that an end date counts from, on its surface or on one around it.
+const TextBox* StartOf(const TextBox& box) {
+  if (box.Row().countsFrom.empty()) return nullptr;
+  for (Surface* surface = box.Owner(); surface != nullptr; surface = surface->Owner())
+    if (const auto* const start = dynamic_cast<TextBox*>(surface->Find(box.Row().countsFrom))) return start;
+  return nullptr;
+}
 
 }  // namespace
 
@@ -29,15 +39,52 @@ void PendingEdit::Tie(TextBox& box, DrawnToolkit& toolkit) {
   ShowContent();
 }
 
-void PendingEdit::Tie(frame::Format format, Reader reader) {
+void PendingEdit::Tie(frame::Format format, Reader reader, Clock clock) {
   End();
   box_ = nullptr;
   format_ = format;
   reader_ = std::move(reader);
+  clock_ = std::move(clock);
 }
 
 TypedContent PendingEdit::Read(std::string_view typed) const {
-  return reader_ ? reader_(typed) : ReadEntry(typed, format_);
+  return reader_ ? reader_(typed) : ReadTyped(typed, format_, Origin());
+}
+
+host::Date PendingEdit::Today() const {
+  host::Date today;
+  if (box_ == nullptr)
+    today = clock_ ? clock_() : host::kNoDate;
+  else
+    toolkit_->Guard([&] { today = toolkit_->Desktop().Today(); });
+  return today;
+}
+
+DateOrigin PendingEdit::Origin() const {
+  if (format_ != Format::Date) return {};
+  DateOrigin origin{.today = Today()};
+  const TextBox* const start = box_ != nullptr ? StartOf(*box_) : nullptr;
+  if (start == nullptr) return origin;
+  const auto* const date = std::get_if<host::Date>(&start->Content());
+  origin.start = {std::string(start->AccessibleName()), date != nullptr ? *date : host::kNoDate};
+  return origin;
+}
+
+void PendingEdit::ShowNote() {
+  const std::string typed = face_.Text();
+  const std::string note = NoteOf(typed, Read(typed), format_);
+  if (note.empty()) return HideReason();
+  if (note != std::exchange(note_, note)) face_.ShowNote(note);
+}
+
+void PendingEdit::ShowReason(const std::string& reason) {
+  note_.clear();
+  face_.ShowReason(reason);
+}
+
+void PendingEdit::HideReason() {
+  note_.clear();
+  face_.HideReason();
 }
 
 void PendingEdit::ShowContent() {
@@ -46,7 +93,7 @@ void PendingEdit::ShowContent() {
 
 void PendingEdit::ShowText(const std::string& text) {
   End();
-  face_.HideReason();
+  HideReason();
   refusal_.clear();
   shown_ = text;
   if (face_.Text() == text) return;
@@ -60,12 +107,13 @@ void PendingEdit::End() {
 }
 
 void PendingEdit::Typed() {
-  face_.HideReason();
   refusal_.clear();
-  if (std::exchange(pending_, true) || box_ == nullptr) return;
-  standing_ = box_->Content();
-  box_->MarkEdited();
-  toolkit_->Pending().Add(*this);
+  if (!std::exchange(pending_, true) && box_ != nullptr) {
+    standing_ = box_->Content();
+    box_->MarkEdited();
+    toolkit_->Pending().Add(*this);
+  }
+  ShowNote();
 }
 
 void PendingEdit::TypeOver(const std::string& text) {
@@ -85,12 +133,29 @@ bool PendingEdit::TypeDecimalSign() {
   return true;
 }
 
+bool PendingEdit::Step(DateStep step) {
+  if (format_ != Format::Date || face_.ReadOnly()) return false;
+  const TypedContent standing = Read(face_.Text());
+  if (!standing.refusal.empty()) return false;
+  const auto* const date = std::get_if<host::Date>(&standing.value);
+  const host::Date from = date != nullptr ? *date : Today();
+  if (from.IsNone()) return false;
+  TypeOver(frame::ShowDate(StepFrom(from, step)));
+  face_.SelectAll();
+  return true;
+}
+
+bool PendingEdit::StepBySign(char sign) {
+  if (sign == '+') return Step(DateStep::Day);
+  return sign == '-' && !GoesOnWithHyphen(face_.Text()) && Step(DateStep::DayBack);
+}
+
 bool PendingEdit::Commit() {
   if (committing_) return true;
   if (toolkit_ != nullptr && toolkit_->Life()->Ended()) return true;  // nobody takes it any more
   if (!pending_) {
     // Who goes on without what was refused, as a pasted column is, has done with it.
-    face_.HideReason();
+    HideReason();
     return true;
   }
   if (!CanBeTaken()) return true;
@@ -146,7 +211,12 @@ bool PendingEdit::AskToDrop() {
 }
 
 void PendingEdit::Shown() {
-  if (pending_ && !refusal_.empty()) face_.ShowReason(refusal_);
+  if (!pending_) return;
+  note_.clear();
+  if (refusal_.empty())
+    ShowNote();
+  else
+    ShowReason(refusal_);
 }
 
 bool PendingEdit::Refuse(const std::string& reason) {
@@ -157,8 +227,8 @@ bool PendingEdit::Refuse(const std::string& reason) {
   // The box that loses the focus may have something to hand over too.
   if (life.expired()) return false;
   face_.SelectAll();
-  face_.HideReason();
-  if (!reason.empty()) face_.ShowReason(reason);
+  HideReason();
+  if (!reason.empty()) ShowReason(reason);
   return false;
 }
 
@@ -189,7 +259,7 @@ void PendingEdit::Paste(std::string_view clipboard) {
 void PendingEdit::PasteColumn(std::string_view text) {
   Restore();
   Column column = ReadColumn(text, *box_);
-  if (!column.refusal.empty()) return face_.ShowReason(column.refusal);
+  if (!column.refusal.empty()) return ShowReason(column.refusal);
   const auto life = Life();
   for (const Column::Entry& entry : column.entries) {
     const Outcome outcome = toolkit_->Hand(*entry.box, Enter{entry.value});
@@ -197,7 +267,7 @@ void PendingEdit::PasteColumn(std::string_view text) {
     if (outcome == Outcome::Refused) break;
   }
   face_.SelectAll();
-  if (!column.surplus.empty()) face_.ShowReason(column.surplus);
+  if (!column.surplus.empty()) ShowReason(column.surplus);
 }
 
 }  // namespace brivane::controls

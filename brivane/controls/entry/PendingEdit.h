@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include <brivane/controls/Action.h>
-#include <brivane/controls/entry/Content.h>
+#include <brivane/controls/entry/Typing.h>
 #include <brivane/frame/Design.h>
 #include <brivane/host/Export.h>
 
@@ -34,6 +34,9 @@ class BRIVANE_API EntryFace {
   [[nodiscard]] virtual bool IsAtHand() const = 0;
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
+  /// Says there, less loudly, what the box makes of what is being typed.
+  virtual void ShowNote(const std::string& note) = 0;
+  /// Takes away what is said beside the box.
   virtual void HideReason() = 0;
 };
 
@@ -41,7 +44,8 @@ class BRIVANE_API EntryFace {
 /// pressed. Typing that is not of the box's format is refused here and never reaches the control.
 ///
 /// Refused content stays as typed with the focus in the box, and the reason beside it where there is one. Escape puts
-/// back what stood there. What the host failed to take is refused too: it was not stored.
+/// back what stood there. What the host failed to take is refused too: it was not stored. Where what is typed stands
+/// for something that is written otherwise, a note beside the box says what.
 ///
 /// It belongs to the face, and may be gone with it when something that was handed over comes back: a caller that goes
 /// on after Commit or Paste keeps Life().
@@ -60,8 +64,10 @@ class BRIVANE_API PendingEdit {
   void Tie(TextBox& box, DrawnToolkit& toolkit);
   /// Reads what is typed in a box of no control, where its format leaves a choice.
   using Reader = std::function<TypedContent(std::string_view typed)>;
+  /// Answers what day it is for a box of no control.
+  using Clock = std::function<host::Date()>;
   /// What is typed from now on is of no control: it has a format, and who wants it reads the face.
-  void Tie(frame::Format format, Reader reader = nullptr);
+  void Tie(frame::Format format, Reader reader = nullptr, Clock clock = nullptr);
   /// What a text would be handed over as.
   [[nodiscard]] TypedContent Read(std::string_view typed) const;
   /// The box that is typed in; nothing where it is no control's.
@@ -87,6 +93,13 @@ class BRIVANE_API PendingEdit {
   /// The point or comma of the numeric keypad: types the decimal sign where there are decimals. False where the key
   /// types what stands on it.
   bool TypeDecimalSign();
+  /// Moves the date in the box by a step, as if typed; an empty box counts from today. False where there is no date to
+  /// move, or none that may be changed.
+  bool Step(DateStep step);
+  /// The keys "+" and "-": a day on or back in a date. False where the key types what stands on it.
+  bool StepBySign(char sign);
+  /// What day it is; no date where a box of no control was given no clock.
+  [[nodiscard]] host::Date Today() const;
   /// Types a text from the clipboard. In a row of a form several lines are a column: they fill the boxes from this one
   /// down, each as if typed, or, where a line is not of the format, nothing.
   void Paste(std::string_view clipboard);
@@ -105,6 +118,10 @@ class BRIVANE_API PendingEdit {
 
  private:
   [[nodiscard]] bool CanBeTaken() const;
+  [[nodiscard]] DateOrigin Origin() const;
+  void ShowNote();
+  void ShowReason(const std::string& reason);
+  void HideReason();
   bool Refuse(const std::string& reason);
   bool AskToDrop();
   void Insert(const std::string& text);
@@ -116,9 +133,11 @@ class BRIVANE_API PendingEdit {
   TextBox* box_ = nullptr;
   frame::Format format_ = frame::Format::Text;
   Reader reader_;
+  Clock clock_;
   std::string shown_;    ///< what stood there before the typing
   BoxValue standing_;    ///< the same as content, of a control
   std::string refusal_;  ///< why what is pending was refused
+  std::string note_;     ///< shown beside the box
   bool pending_ = false;
   bool committing_ = false;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');

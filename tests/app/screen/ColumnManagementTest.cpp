@@ -148,7 +148,7 @@ TEST_F(NewColumnTest, ThatIsCompleteIsNotOfferedForRemoval) {
     EXPECT_EQ(dynamic_cast<QMessageBox&>(window).buttons().size(), 1);
     QTest::keyClick(window.windowHandle(), Qt::Key_Return);
   });
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
 }
 

@@ -50,11 +50,11 @@ TEST_F(KeyboardTest, WhatIsAcceptedIsInTheFileAndWhatIsRefusedIsNot) {
   PressKey(Qt::Key_E, Qt::AltModifier);
   Type("1-4-2030");
   dialogs_.ExpectMessage("De einddatum dient na de aanvangsdatum te liggen.", Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{1, 7}));
   EXPECT_EQ(Focus(), "Einddatum");
   PressKey(Qt::Key_Escape);
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{1, 1}));
 
   PressKey(Qt::Key_Q, Qt::ControlModifier);
@@ -86,7 +86,7 @@ TEST_F(KeyboardTest, ANewColumnCanBeDescribedAtOnce) {
   EXPECT_EQ(Screen().Shown(), (Place{0, 8}));
   EXPECT_EQ(Focus(), "Aanvangsdatum");
   Type("010127");
-  PressKey(Qt::Key_PageUp, Qt::ControlModifier);
+  PressKey(Qt::Key_PageUp, Qt::AltModifier);
   EXPECT_EQ(Screen().Shown(), (Place{0, 6}));
 
   const dossier::KolomGegevens kolom = Kolom(0, 8);

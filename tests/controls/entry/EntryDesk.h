@@ -23,6 +23,7 @@ class TestFace final : public EntryFace {
  public:
   std::string text;
   std::string reason;
+  std::string note;
   bool focused = false;
   bool selected = false;
   bool readOnly = false;
@@ -37,8 +38,15 @@ class TestFace final : public EntryFace {
   void TakeFocus() override { Change(focused, true); }
   [[nodiscard]] bool ReadOnly() const override { return readOnly; }
   [[nodiscard]] bool IsAtHand() const override { return atHand; }
-  void ShowReason(const std::string& why) override { Change(reason, why); }
-  void HideReason() override { Change(reason, std::string()); }
+  void ShowReason(const std::string& why) override {
+    Change(note, std::string());
+    Change(reason, why);
+  }
+  void ShowNote(const std::string& what) override {
+    Change(reason, std::string());
+    Change(note, what);
+  }
+  void HideReason() override { ShowReason({}); }
 
  private:
   template <class T> void Change(T& member, T value) {
@@ -61,7 +69,7 @@ class TestBoxPeer final : public Peer {
 
 class TestToolkit final : public DrawnToolkit {
  public:
-  [[nodiscard]] host::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] memory::Desktop& Desktop() override { return desktop_; }
   [[nodiscard]] host::Twips MeasureText(const frame::Design&, std::string_view, bool) const override { return {}; }
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle) override {

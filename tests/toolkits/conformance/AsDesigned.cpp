@@ -19,8 +19,8 @@ TEST_P(Conformance, EveryRowIsMadeWithItsNameKindAndPlace) {
   }
   EXPECT_EQ(shown[12].name, "optSoort(1)");
   EXPECT_EQ(shown[14].name, "optSoort(3)");
-  EXPECT_EQ(shown[23].name, "Binnenste.fraBinnen");
-  EXPECT_EQ(shown[24].name, "Binnenste.jnBinnen");
+  EXPECT_EQ(shown[24].name, "Binnenste.fraBinnen");
+  EXPECT_EQ(shown[25].name, "Binnenste.jnBinnen");
 }
 
 TEST_P(Conformance, EverythingStartsEnabledAndVisible) {

@@ -16,6 +16,8 @@ enum class Key {
   Down,
   Home,
   End,
+  PageUp,
+  PageDown,
   F4,
   KeypadPoint,
   KeypadComma,

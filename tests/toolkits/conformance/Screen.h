@@ -44,6 +44,8 @@ class ScreenUnderTest : public ToolkitUnderTest {
   [[nodiscard]] virtual std::string Typed(controls::AnyControl& box) = 0;
   /// The reason beside a box; empty where there is none.
   [[nodiscard]] virtual std::string Reason(controls::AnyControl& box) = 0;
+  /// The note beside a box; empty where there is none.
+  [[nodiscard]] virtual std::string Note(controls::AnyControl& box) = 0;
   [[nodiscard]] virtual bool CalendarIsOpen(controls::AnyControl& box) = 0;
   /// The help that is shown; empty where there is none.
   [[nodiscard]] virtual std::string Help() = 0;
@@ -58,6 +60,8 @@ class ScreenUnderTest : public ToolkitUnderTest {
   /// Answers every message box.
   virtual void Answer(
       std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle)>) = 0;
+  /// From now on it is that day.
+  virtual void SetToday(host::Date today) = 0;
   /// Lets the program run until something is so, but not for ever.
   [[nodiscard]] bool Await(const std::function<bool()>& so);
 };
@@ -93,6 +97,7 @@ class OnScreen : public testing::TestWithParam<ScreenSubject> {
   [[nodiscard]] std::string Focused() { return subject->Focused(); }
   [[nodiscard]] std::string Typed(std::string_view name) { return subject->Typed(Control(name)); }
   [[nodiscard]] std::string Reason(std::string_view name) { return subject->Reason(Control(name)); }
+  [[nodiscard]] std::string Note(std::string_view name) { return subject->Note(Control(name)); }
 
   std::unique_ptr<ScreenUnderTest> subject;
   std::unique_ptr<host::Surface> surface;

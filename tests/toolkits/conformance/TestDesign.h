@@ -44,7 +44,8 @@ inline constexpr frame::Row kSurfaceRows[] = {
      .label = "Diep"},
     {.name = "hntDiep", .kind = Kind::Hint, .place = {1500, 300, 300, 300}, .parent = "fraDiep",
      .caption = "Zo diep als het kan.", .tab = 8},
-    {.name = "fraKeuze", .kind = Kind::Frame, .place = {6120, 0, 5880, 4200}, .caption = "Keuze"},
+    {.name = "fraKeuze", .kind = Kind::Frame, .place = {6120, 0, 5880, 4200}, .caption = "Keuze",
+     .mnemonic = 'K'},
     {.name = "optSoort", .kind = Kind::OptionButton, .place = {120, 300, 1500, 300}, .parent = "fraKeuze",
      .caption = "Een", .index = 1, .tab = 9},
     {.name = "optSoort", .kind = Kind::OptionButton, .place = {120, 660, 1500, 300}, .parent = "fraKeuze",
@@ -63,8 +64,10 @@ inline constexpr frame::Row kSurfaceRows[] = {
      .label = "Leeg"},
     {.name = "cmdDoen", .kind = Kind::Button, .place = {120, 2760, 1800, 375}, .parent = "fraKeuze",
      .caption = "&Doen", .tab = 17, .mnemonic = 'D'},
-    {.name = "lvwLijst", .kind = Kind::ListView, .place = {0, 4320, 6000, 1800}, .tab = 18, .label = "Lijst"},
-    {.name = "Binnenste", .kind = Kind::Surface, .place = {6120, 4320, 3000, 900}, .tab = 19, .embedded = &kInner},
+    {.name = "lvwLijst", .kind = Kind::ListView, .place = {0, 4320, 6000, 1800}, .tab = 19, .label = "Lijst"},
+    {.name = "txtTot", .kind = Kind::TextBox, .place = {4320, 1740, 1500, 300}, .parent = "fraBoxen", .tab = 18,
+     .label = "Tot", .format = Format::Date, .countsFrom = "txtDatum"},
+    {.name = "Binnenste", .kind = Kind::Surface, .place = {6120, 4320, 3000, 900}, .tab = 20, .embedded = &kInner},
 };
 
 inline constexpr frame::Design kSurface{.name = "Proef", .rows = kSurfaceRows, .width = 12000, .height = 6300};

@@ -72,6 +72,36 @@ TEST_P(Boxes, TakeThePointOfTheKeypadAsItIsWhereThereAreNoDecimals) {
   EXPECT_EQ(Box("txtNaam").Text(), "1.5");
 }
 
+TEST_P(Boxes, ReckonSumsOutAndSayTheOutcomeMeanwhile) {
+  Click("txtBedrag");
+  TypeOver("1200/12");
+  EXPECT_EQ(Note("txtBedrag"), "= 100,00");
+  Press(Key::Tab);
+  EXPECT_EQ(Note("txtBedrag"), "");
+  EXPECT_EQ(Typed("txtBedrag"), "100,00");
+  TypeOver("100/8");
+  EXPECT_EQ(Note("txtPercentage"), "= 12,5");
+  Press(Key::Tab);
+  TypeOver("60+7");
+  EXPECT_EQ(Note("txtJaren"), "");
+  Press(Key::Tab);
+  EXPECT_EQ(Reason("txtJaren"), "Vul een geheel getal in, zonder cijfers achter de komma.");
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 100,00", "txtPercentage = 12,5"));
+}
+
+TEST_P(Boxes, RefuseASumThatHasNoOutcome) {
+  Box("txtBedrag").SetNumber(7);
+  Click("txtBedrag");
+  TypeOver("10/0");
+  EXPECT_EQ(Note("txtBedrag"), "");
+  Press(Key::Tab);
+  EXPECT_EQ(Focused(), "txtBedrag");
+  EXPECT_EQ(Reason("txtBedrag"), "Delen door nul kan niet.");
+  Press(Key::Escape);
+  EXPECT_EQ(Typed("txtBedrag"), "7,00");
+  EXPECT_THAT(log, IsEmpty());
+}
+
 TEST_P(Boxes, ReadAPointOfTheMainKeysAsThousands) {
   Click("txtBedrag");
   TypeOver("1.500");

@@ -70,6 +70,25 @@ TEST_F(EditorByHand, EntersItsOptionsAtTheFirstOnTheScreenWhereNoneIsChosen) {
   ExpectEntrances("optLast(3)", "optFiscaal(1)");
 }
 
+TEST_F(EditorByHand, ItsGroupsAreReachedByTheirLettersAtWhatIsChosen) {
+  Bind(1);
+  const std::pair<char, const char*> kGroups[] = {
+      {'l', "optLast(1)"}, {'f', "optFiscaal(3)"}, {'j', "optAanvrager(1)"}, {'n', "Toelichting.lstToelichting"}};
+  for (const auto& [letter, entrance] : kGroups) {
+    hands_->PressAlt('o');
+    hands_->PressAlt(letter);
+    EXPECT_EQ(hands_->Focused(), entrance) << letter;
+  }
+  // Going there chooses nothing.
+  EXPECT_EQ(host_.Kolom(1).velden.CorrectieLast, host::codes::kLast);
+  EXPECT_EQ(host_.Kolom(1).velden.CorrectieFiscaal, host::codes::kFiscaalNeutraal);
+  Bind(3);
+  hands_->PressAlt('l');
+  EXPECT_EQ(hands_->Focused(), "optLast(3)");
+  hands_->PressAlt('f');
+  EXPECT_EQ(hands_->Focused(), "optFiscaal(1)");
+}
+
 TEST_F(EditorByHand, AnEmptiedAmountIsShownAsTheZeroThatItIs) {
   host_.Kolom(1).bedrag->bedrag = 12.5;
   Bind(1);
@@ -99,7 +118,7 @@ TEST_F(EditorByHand, LettersOfWhatIsHiddenDoNothing) {
   host_.Kolom(1).velden.Omschrijving = "Kinderopvang";
   Bind(1);
   // A company and a product's name are shown for a product alone, and the proposals where the host says so.
-  for (const char letter : {'m', 'p', 'n', 'u', '1', '2', '3'}) {
+  for (const char letter : {'m', 'p', 'c', 'u', '1', '2', '3'}) {
     hands_->PressAlt('o');
     EXPECT_EQ(hands_->FocusedText(), "[Kinderopvang]") << letter;
     hands_->PressAlt(letter);

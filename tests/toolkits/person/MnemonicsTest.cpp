@@ -47,6 +47,49 @@ TEST_F(Mnemonics, OfWhatIsDisabledOrHiddenDoNothing) {
   ExpectNothing('d');
 }
 
+TEST_F(Mnemonics, OfAGroupLeadToWhatIsChosenInIt) {
+  Get<controls::OptionButton>("optSoort", 2).SetValue(true);
+  hands->GiveFocus(box_);
+  hands->PressAlt('k');
+  EXPECT_EQ(hands->Focused(), "optSoort(2)");
+  Get<controls::OptionButton>("optSoort", 2).SetEnabled(false);
+  hands->GiveFocus(box_);
+  hands->PressAlt('k');
+  EXPECT_EQ(hands->Focused(), "optSoort(1)");
+  for (int i = 1; i <= 3; ++i) Get<controls::OptionButton>("optSoort", i).SetVisible(false);
+  hands->GiveFocus(box_);
+  hands->PressAlt('k');
+  EXPECT_EQ(hands->Focused(), "optAnder(1)");
+  EXPECT_FALSE(Get<controls::OptionButton>("optAnder", 1).Value());
+}
+
+TEST_F(Mnemonics, OfAGroupHandOverWhatIsTypedBefore) {
+  auto& amount = Get<controls::TextBox>("txtBedrag");
+  subscriptions += amount.Validation.Connect([this](bool&) {
+    log.emplace_back("txtBedrag");
+    Get<controls::OptionButton>("optSoort", 1).SetEnabled(false);
+  });
+  hands->GiveFocus(amount);
+  hands->Type("12.50");
+  hands->PressAlt('k');
+  EXPECT_EQ(hands->Focused(), "txtBedrag");
+  EXPECT_THAT(log, IsEmpty());
+  hands->Press(Key::Escape);
+  hands->Type("12,50");
+  hands->PressAlt('k');
+  EXPECT_EQ(log, std::vector<std::string>{"txtBedrag"});
+  EXPECT_EQ(hands->Focused(), "optSoort(2)");
+}
+
+TEST_F(Mnemonics, OfAGroupThatIsDisabledOrHiddenDoNothing) {
+  host::Control& group = Control("fraKeuze").Host();
+  group.SetEnabled(false);
+  ExpectNothing('k');
+  group.SetEnabled(true);
+  group.SetVisible(false);
+  ExpectNothing('k');
+}
+
 TEST_F(Mnemonics, OfNothingTypeNothing) {
   ExpectNothing('x');
   ExpectNothing('q');

@@ -33,6 +33,8 @@ Stroke PlainStroke(Key key) {
     case Key::Down: return {Qt::Key_Down};
     case Key::Home: return {Qt::Key_Home};
     case Key::End: return {Qt::Key_End};
+    case Key::PageUp: return {Qt::Key_PageUp};
+    case Key::PageDown: return {Qt::Key_PageDown};
     case Key::F4: return {Qt::Key_F4};
     case Key::KeypadPoint: return {Qt::Key_Period, Qt::KeypadModifier};
     case Key::KeypadComma: return {Qt::Key_Comma, Qt::KeypadModifier};

@@ -91,6 +91,9 @@ class QtUnderTest final : public ScreenUnderTest {
   [[nodiscard]] std::string Reason(controls::AnyControl& box) override {
     return qt::FromQt(qt::Bubble::ReasonOf(EntryOf(box)));
   }
+  [[nodiscard]] std::string Note(controls::AnyControl& box) override {
+    return qt::FromQt(qt::Bubble::NoteOf(EntryOf(box)));
+  }
   [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
     const QWidget* const calendar = dynamic_cast<qt::DateBox&>(EntryOf(box)).Calendar();
     return calendar != nullptr && calendar->isVisible();
@@ -109,6 +112,9 @@ class QtUnderTest final : public ScreenUnderTest {
   void Answer(std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle)>
                   answer) override {
     toolkit_.Desktop().answer = std::move(answer);
+  }
+  void SetToday(host::Date today) override {
+    toolkit_.Desktop().clock = [today] { return today; };
   }
 
  private:

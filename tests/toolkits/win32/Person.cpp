@@ -137,6 +137,8 @@ WORD CodeOf(Key key) {
     case Key::Down: return VK_DOWN;
     case Key::Home: return VK_HOME;
     case Key::End: return VK_END;
+    case Key::PageUp: return VK_PRIOR;
+    case Key::PageDown: return VK_NEXT;
     case Key::F4: return VK_F4;
     case Key::KeypadPoint: return VK_DECIMAL;
     case Key::KeypadComma: return VK_SEPARATOR;

@@ -76,6 +76,9 @@ class Win32UnderTest final : public ScreenUnderTest {
   [[nodiscard]] std::string Reason(controls::AnyControl& box) override {
     return win32::Narrow(dynamic_cast<win32::BoxWindow&>(test::Shown(box)).Reason());
   }
+  [[nodiscard]] std::string Note(controls::AnyControl& box) override {
+    return win32::Narrow(dynamic_cast<win32::BoxWindow&>(test::Shown(box)).Note());
+  }
   [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
     return IsWindowVisible(dynamic_cast<win32::DateWindow&>(test::Shown(box)).CalendarShown()) != FALSE;
   }
@@ -99,6 +102,9 @@ class Win32UnderTest final : public ScreenUnderTest {
   void Answer(std::function<host::MessageAnswer(const std::string& title, const std::string& text, host::MessageStyle)>
                   answer) override {
     toolkit_.Desktop().answer = std::move(answer);
+  }
+  void SetToday(host::Date today) override {
+    toolkit_.Desktop().clock = [today] { return today; };
   }
 
  private:

@@ -1,7 +1,9 @@
 #include <QGroupBox>
 
+#include <brivane/controls/Entrance.h>
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/peers/PlainPeers.h>
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 #include <brivane/toolkits/qt/widgets/PlainFrame.h>
@@ -13,7 +15,7 @@ using controls::Aspect;
 namespace {
 
 QWidget* MakeFrame(const frame::Row& row, QWidget* container) {
-  if (row.bordered) return new QGroupBox(container);
+  if (row.bordered) return new LeadingGroup(container);
   auto* const area = new PlainFrame(container);
   area->setAccessibleName(ToQt(std::string(row.caption)));
   return area;
@@ -23,7 +25,16 @@ QWidget* MakeFrame(const frame::Row& row, QWidget* container) {
 
 FramePeer::FramePeer(controls::Frame& frame, qt::Toolkit& toolkit, QWidget* container)
     : WidgetPeer(frame, toolkit, MakeFrame(frame.Row(), container)), frame_(frame) {
+  if (auto* const group = dynamic_cast<LeadingGroup*>(Widget())) group->enter = [this] { Enter(); };
   Refresh(Aspect::Caption);
+}
+
+/// What is being typed elsewhere goes first, and may disable what this leads to.
+void FramePeer::Enter() {
+  const QPointer<QWidget> alive(Widget());
+  EntryBox* const typed = EntryBox::PendingWithin(*Widget()->window());
+  if (typed != nullptr && (!typed->CommitPending() || !alive)) return;
+  if (const controls::AnyControl* const entrance = controls::EntranceOf(frame_)) entrance->GetPeer()->TakeFocus();
 }
 
 void FramePeer::Refresh(Aspect aspect) {

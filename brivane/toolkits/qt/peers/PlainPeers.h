@@ -12,6 +12,8 @@ class FramePeer final : public WidgetPeer {
   void Refresh(controls::Aspect aspect) override;
 
  private:
+  void Enter();
+
   controls::Frame& frame_;
 };
 

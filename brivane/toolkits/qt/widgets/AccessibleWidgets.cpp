@@ -76,12 +76,26 @@ class AccessibleFrame final : public QAccessibleWidget {
   [[nodiscard]] PlainFrame& Frame() const { return static_cast<PlainFrame&>(*widget()); }
 };
 
+/// Said when it comes up, where it is a refusal.
+class AccessibleBubble final : public QAccessibleWidget {
+ public:
+  explicit AccessibleBubble(Bubble* bubble) : QAccessibleWidget(bubble) {}
+
+  QAccessible::Role role() const override {
+    return Shown().IsAlert() ? QAccessible::AlertMessage : QAccessible::StaticText;
+  }
+  QString text(QAccessible::Text which) const override {
+    return which == QAccessible::Name ? Shown().text() : QString();
+  }
+
+ private:
+  [[nodiscard]] Bubble& Shown() const { return static_cast<Bubble&>(*widget()); }
+};
+
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
   if (auto* const list = dynamic_cast<ChoiceBox*>(object)) return new AccessibleChoice(list);
   if (auto* const frame = dynamic_cast<PlainFrame*>(object)) return new AccessibleFrame(frame);
-  // Told when it comes up.
-  if (auto* const bubble = dynamic_cast<Bubble*>(object))
-    return new QAccessibleWidget(bubble, QAccessible::AlertMessage, bubble->text());
+  if (auto* const bubble = dynamic_cast<Bubble*>(object)) return new AccessibleBubble(bubble);
   return nullptr;
 }
 

@@ -26,18 +26,25 @@ Bubble::Bubble(QWidget& box) : QLabel(box.window()), box_(&box) {
   QObject::connect(&box, &QObject::destroyed, this, &QObject::deleteLater);
 }
 
-void Bubble::Show(QWidget& box, const QString& reason) {
+Bubble& Bubble::Put(QWidget& box, const QString& text, Says says) {
   Bubble* bubble = Find(box);
   if (bubble == nullptr) bubble = new Bubble(box);
+  bubble->says_ = says;
   bubble->setFont(box.font());
-  bubble->setText(reason);
+  bubble->setText(text);
   bubble->PutBeside();
   bubble->raise();
   bubble->show();
-  box.setAccessibleDescription(reason);
-  QAccessibleEvent alert(bubble, QAccessible::Alert);
+  box.setAccessibleDescription(text);
+  return *bubble;
+}
+
+void Bubble::Show(QWidget& box, const QString& reason) {
+  QAccessibleEvent alert(&Put(box, reason, Says::Reason), QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }
+
+void Bubble::ShowNote(QWidget& box, const QString& note) { Put(box, note, Says::Note); }
 
 void Bubble::Hide(QWidget& box) {
   Bubble* const bubble = Find(box);
@@ -49,9 +56,12 @@ void Bubble::Hide(QWidget& box) {
   box.setAccessibleDescription({});
 }
 
-QString Bubble::ReasonOf(const QWidget& box) {
+QString Bubble::ReasonOf(const QWidget& box) { return TextOf(box, Says::Reason); }
+QString Bubble::NoteOf(const QWidget& box) { return TextOf(box, Says::Note); }
+
+QString Bubble::TextOf(const QWidget& box, Says says) {
   const Bubble* const bubble = Find(box);
-  return bubble != nullptr ? bubble->text() : QString();
+  return bubble != nullptr && bubble->says_ == says ? bubble->text() : QString();
 }
 
 Bubble* Bubble::Find(const QWidget& box) {

@@ -1,15 +1,12 @@
 #include <QAction>
-#include <QCalendarWidget>
-#include <QFrame>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
-#include <QScreen>
-#include <QVBoxLayout>
 
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Dates.h>
+#include <brivane/toolkits/qt/Desktop.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/widgets/CalendarPopup.h>
 #include <brivane/toolkits/qt/widgets/DateBox.h>
 
 namespace brivane::qt {
@@ -31,10 +28,25 @@ QIcon CalendarIcon(const QColor& color, qreal ratio) {
   return pixmap;
 }
 
+QDate DayOf(host::Date date) {
+  const frame::YearMonthDay day = frame::Split(date);
+  return {day.year, day.month, day.day};
+}
+
+/// The step that Page Up and Page Down make, as in the calendar.
+std::optional<controls::DateStep> StepOf(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers with = key.modifiers() & ~Qt::KeypadModifier;
+  const bool back = key.key() == Qt::Key_PageUp;
+  if (!back && key.key() != Qt::Key_PageDown) return std::nullopt;
+  if (with == Qt::NoModifier) return back ? controls::DateStep::MonthBack : controls::DateStep::Month;
+  if (with == Qt::ControlModifier) return back ? controls::DateStep::YearBack : controls::DateStep::Year;
+  return std::nullopt;
+}
+
 }  // namespace
 
 DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
-  Edit().Tie(frame::Format::Date);
+  Edit().Tie(frame::Format::Date, nullptr, [] { return Desktop().Today(); });
   setInputMethodHints(Qt::ImhDate);
   icon_->setText("Kalender");
   icon_->setToolTip("Kalender (F4)");
@@ -57,36 +69,13 @@ void DateBox::OpenCalendar() {
   setFocus(Qt::OtherFocusReason);
   if (!hasFocus() && window()->isActiveWindow()) return;  // another box kept the focus
 
-  popup_ = new QFrame(this, Qt::Popup);
-  popup_->setAttribute(Qt::WA_DeleteOnClose);
-  popup_->setFrameStyle(QFrame::StyledPanel);
-  auto* const layout = new QVBoxLayout(popup_);
-  layout->setContentsMargins(1, 1, 1, 1);
-  auto* const calendar = new QCalendarWidget(popup_);
-  layout->addWidget(calendar);
-  calendar->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
-  calendar->setFirstDayOfWeek(Qt::Monday);
-  calendar->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
-  // A date is typed in the box, by its rules. The calendar's own way of typing also keeps memory where it closes
-  // meanwhile.
-  calendar->setDateEditEnabled(false);
-  calendar->setMinimumDate(QDate(frame::kFirstYear, 1, 1));
   const controls::TypedContent typed = Edit().Read(FromQt(text()));
-  if (const auto* date = std::get_if<host::Date>(&typed.value)) {
-    const frame::YearMonthDay day = frame::Split(*date);
-    calendar->setSelectedDate(QDate(day.year, day.month, day.day));
-  }
-  QObject::connect(calendar, &QCalendarWidget::clicked, this, [this](QDate date) { Pick(date); });
-  QObject::connect(calendar, &QCalendarWidget::activated, this, [this](QDate date) { Pick(date); });
-
-  popup_->adjustSize();
-  const QRect screen = this->screen()->availableGeometry();
-  QPoint place = mapToGlobal(QPoint(0, height()));
-  if (place.y() + popup_->height() > screen.bottom()) place.setY(place.y() - height() - popup_->height());
-  place.setX(qMax(screen.left(), qMin(place.x(), screen.right() - popup_->width())));
-  popup_->move(place);
-  popup_->show();
-  calendar->setFocus(Qt::PopupFocusReason);
+  const host::Date today = Edit().Today();
+  const auto* const date = std::get_if<host::Date>(&typed.value);
+  const std::optional<QDate> known = today.IsNone() ? std::nullopt : std::optional(DayOf(today));
+  popup_ = new CalendarPopup(*this, date != nullptr ? DayOf(*date) : known.value_or(QDate::currentDate()), known,
+                             [this](QDate day) { Pick(day); });
+  popup_->DropDown();
 }
 
 void DateBox::Pick(QDate date) {
@@ -98,6 +87,27 @@ void DateBox::Pick(QDate date) {
   Edit().CommitAndSelect();
 }
 
+/// A step is the box's before it is a shortcut of the window's: of somebody who went to the box or types in it. Where
+/// code put the focus there he means the window.
+bool DateBox::event(QEvent* event) {
+  const bool asked = event->type() == QEvent::ShortcutOverride && !isReadOnly() && (wentTo_ || Edit().IsPending());
+  if (!asked || !StepOf(static_cast<const QKeyEvent&>(*event))) return EntryBox::event(event);
+  event->accept();
+  return true;
+}
+
+void DateBox::focusInEvent(QFocusEvent* event) {
+  switch (event->reason()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::MouseFocusReason:
+    case Qt::ShortcutFocusReason: wentTo_ = true; break;
+    case Qt::OtherFocusReason: wentTo_ = false; break;
+    default: break;  // what had borrowed the focus gives it back
+  }
+  EntryBox::focusInEvent(event);
+}
+
 void DateBox::keyPressEvent(QKeyEvent* event) {
   const bool altDown = event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
   if (event->key() == Qt::Key_F4 || altDown) {
@@ -105,6 +115,10 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
+  const std::optional<controls::DateStep> step = StepOf(*event);
+  const QString typed = event->text();
+  const bool sign = typed == "+" || typed == "-";
+  if ((step && Edit().Step(*step)) || (sign && Edit().StepBySign(typed.front().toLatin1()))) return event->accept();
   EntryBox::keyPressEvent(event);
 }
 

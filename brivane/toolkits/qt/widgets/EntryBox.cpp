@@ -63,11 +63,16 @@ void EntryBox::InsertText(const std::string& text) { insert(ToQt(text)); }
 
 void EntryBox::ShowReason(const std::string& reason) {
   Bubble::Show(*this, ToQt(reason));
-  reasonShown_ = true;
+  bubbleShown_ = true;
+}
+
+void EntryBox::ShowNote(const std::string& note) {
+  Bubble::ShowNote(*this, ToQt(note));
+  bubbleShown_ = true;
 }
 
 void EntryBox::HideReason() {
-  if (!std::exchange(reasonShown_, false)) return;
+  if (!std::exchange(bubbleShown_, false)) return;
   Bubble::Hide(*this);
 }
 

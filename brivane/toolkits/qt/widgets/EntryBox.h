@@ -54,13 +54,14 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
   [[nodiscard]] bool ReadOnly() const override { return isReadOnly(); }
   [[nodiscard]] bool IsAtHand() const override { return isVisible() && isEnabled(); }
   void ShowReason(const std::string& reason) override;
+  void ShowNote(const std::string& note) override;
   void HideReason() override;
 
   [[nodiscard]] bool LeavesBox(const QWidget* target) const;
   void HandOverSoon();
 
   controls::PendingEdit edit_{*this};
-  bool reasonShown_ = false;
+  bool bubbleShown_ = false;
   bool clickRefused_ = false;  ///< the click that is under way was refused when it took the focus
 };
 

@@ -26,6 +26,12 @@ bool LeadingLabel::event(QEvent* event) {
   return (event->type() == QEvent::Shortcut && !leads) || QLabel::event(event);
 }
 
+bool LeadingGroup::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut) return QGroupBox::event(event);
+  if (enter) enter();
+  return true;
+}
+
 bool IsTypedWithAlt(const QKeyEvent& key) {
   const bool alt = (key.modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier;
   return alt && !key.text().isEmpty() && key.text().front().isPrint();

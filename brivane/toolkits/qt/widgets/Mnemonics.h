@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QGroupBox>
 #include <QLabel>
+#include <functional>
 
 class QKeyEvent;
 class QLineEdit;
@@ -12,6 +14,17 @@ namespace brivane::qt {
 class LeadingLabel final : public QLabel {
  public:
   using QLabel::QLabel;
+
+ protected:
+  bool event(QEvent* event) override;
+};
+
+/// A group whose letter leads into it: where to is for its owner to say.
+class LeadingGroup final : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+
+  std::function<void()> enter;
 
  protected:
   bool event(QEvent* event) override;

@@ -135,10 +135,17 @@ void BoxWindow::InsertText(const std::string& text) {
 }
 
 void BoxWindow::ShowReason(const std::string& reason) {
-  bubble_ = std::make_unique<Bubble>(Toolkit(), AreaOf(RootOf(box_)), Handle(), Font(), Wide(reason));
+  bubble_ = std::make_unique<Bubble>(Toolkit(), AreaOf(RootOf(box_)), Handle(), Font(), Wide(reason), Saying::Reason);
+  isNote_ = false;
 }
 
-std::wstring BoxWindow::Reason() const { return bubble_ ? TextOf(bubble_->Handle()) : std::wstring(); }
+void BoxWindow::ShowNote(const std::string& note) {
+  bubble_ = std::make_unique<Bubble>(Toolkit(), AreaOf(RootOf(box_)), Handle(), Font(), Wide(note), Saying::Note);
+  isNote_ = true;
+}
+
+std::wstring BoxWindow::Reason() const { return bubble_ && !isNote_ ? TextOf(bubble_->Handle()) : std::wstring(); }
+std::wstring BoxWindow::Note() const { return bubble_ && isNote_ ? TextOf(bubble_->Handle()) : std::wstring(); }
 
 /// Another window, a menu or a list that drops down borrows the focus: the box has not been left.
 void BoxWindow::OnLeft(HWND gaining) {

@@ -27,6 +27,8 @@ class BoxWindow : public ControlWindow, private controls::EntryFace {
   [[nodiscard]] static BoxWindow* PendingWith(HWND window);
   /// The reason that is shown beside the box; empty where there is none.
   [[nodiscard]] std::wstring Reason() const;
+  /// The same of a note of what is typed.
+  [[nodiscard]] std::wstring Note() const;
   [[nodiscard]] const Bubble* ReasonShown() const { return bubble_.get(); }
   [[nodiscard]] controls::TextBox& Box() const { return box_; }
 
@@ -49,6 +51,7 @@ class BoxWindow : public ControlWindow, private controls::EntryFace {
   [[nodiscard]] bool HasFocus() const override { return GetFocus() == Handle(); }
   [[nodiscard]] bool IsAtHand() const override;
   void ShowReason(const std::string& reason) override;
+  void ShowNote(const std::string& note) override;
   void HideReason() override { bubble_.reset(); }
 
   [[nodiscard]] RECT RoomAbove() const;
@@ -58,6 +61,7 @@ class BoxWindow : public ControlWindow, private controls::EntryFace {
 
   controls::TextBox& box_;
   std::unique_ptr<Bubble> bubble_;
+  bool isNote_ = false;  ///< what the bubble says
   controls::PendingEdit edit_{*this};
   // Before the edit control in its parent, but gone after it.
   std::unique_ptr<NameLabel> name_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <brivane/controls/entry/TypedDate.h>
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Dates.h>
 #include <brivane/toolkits/win32/Toolkit.h>
@@ -27,8 +28,7 @@ host::Date FromSystem(const SYSTEMTIME& system) { return frame::MakeDate({system
 
 }  // namespace
 
-Calendar::Calendar(win32::Toolkit& toolkit, HWND box, host::Date date, HFONT font,
-                   std::function<void(host::Date)> picked)
+Calendar::Calendar(win32::Toolkit& toolkit, HWND box, Days days, HFONT font, std::function<void(host::Date)> picked)
     : Window(toolkit,
              {.className = kAreaClass,
               .style = WS_POPUP | WS_BORDER,
@@ -36,13 +36,16 @@ Calendar::Calendar(win32::Toolkit& toolkit, HWND box, host::Date date, HFONT fon
              GetAncestor(box, GA_ROOT)),
       month_(toolkit.MakeWindow({.className = MONTHCAL_CLASSW, .style = WS_CHILD | WS_VISIBLE | MCS_WEEKNUMBERS},
                                 Handle())),
+      today_(days.today),
       picked_(std::move(picked)) {
   SendMessageW(month_, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   SendMessageW(month_, MCM_SETFIRSTDAYOFWEEK, 0, kMonday);
   SYSTEMTIME range[2] = {ToSystem(frame::MakeDate({frame::kFirstYear, 1, 1})),
                          ToSystem(frame::MakeDate({9999, 12, 31}))};
   SendMessageW(month_, MCM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(range));
-  Select(date);
+  SYSTEMTIME today = ToSystem(today_);
+  SendMessageW(month_, MCM_SETTODAY, 0, reinterpret_cast<LPARAM>(&today));
+  Select(days.shown);
 
   RECT month{};
   SendMessageW(month_, MCM_GETMINREQRECT, 0, reinterpret_cast<LPARAM>(&month));
@@ -73,14 +76,18 @@ void Calendar::Select(host::Date date) const {
 }
 
 bool Calendar::Move(WPARAM key) const {
+  using controls::DateStep;
+  using controls::StepFrom;
   const host::Date from = Selected();
+  const bool years = GetKeyState(VK_CONTROL) < 0;
   switch (key) {
-    case VK_LEFT: Select(host::Date(from.Days() - 1)); return true;
-    case VK_RIGHT: Select(host::Date(from.Days() + 1)); return true;
+    case VK_LEFT: Select(StepFrom(from, DateStep::DayBack)); return true;
+    case VK_RIGHT: Select(StepFrom(from, DateStep::Day)); return true;
     case VK_UP: Select(host::Date(from.Days() - 7)); return true;
     case VK_DOWN: Select(host::Date(from.Days() + 7)); return true;
-    case VK_PRIOR: Select(frame::AddMonths(from, -1)); return true;
-    case VK_NEXT: Select(frame::AddMonths(from, 1)); return true;
+    case VK_PRIOR: Select(StepFrom(from, years ? DateStep::YearBack : DateStep::MonthBack)); return true;
+    case VK_NEXT: Select(StepFrom(from, years ? DateStep::Year : DateStep::Month)); return true;
+    case VK_HOME: Select(today_); return true;
     default: return false;
   }
 }

@@ -11,12 +11,19 @@ namespace brivane::win32 {
 /// is over, so that the receiver may destroy it.
 class Calendar final : public Window {
  public:
-  /// Below a box, or above it where there is no room; shows the month of a date.
-  Calendar(win32::Toolkit& toolkit, HWND box, host::Date date, HFONT font, std::function<void(host::Date)> picked);
+  /// The days that a calendar begins with.
+  struct Days {
+    host::Date shown;
+    host::Date today;  ///< marked, and named below the month
+  };
+
+  /// Below a box, or above it where there is no room.
+  Calendar(win32::Toolkit& toolkit, HWND box, Days days, HFONT font, std::function<void(host::Date)> picked);
 
   [[nodiscard]] host::Date Selected() const;
   void Select(host::Date date) const;
-  /// Moves the selected day by a key; false for a key that moves nothing.
+  /// Moves the selected day by a key: arrows, Page Up and Page Down (with Control by a year), Home for today. False for
+  /// a key that moves nothing.
   bool Move(WPARAM key) const;
   [[nodiscard]] HWND Month() const { return month_; }
 
@@ -25,6 +32,7 @@ class Calendar final : public Window {
 
  private:
   HWND month_;
+  host::Date today_;
   std::function<void(host::Date)> picked_;
 };
 

@@ -29,6 +29,14 @@ bool IsPress(WPARAM message) {
   }
 }
 
+/// The step that Page Up and Page Down make, as in the calendar.
+std::optional<controls::DateStep> StepOf(WPARAM key) {
+  if ((key != VK_PRIOR && key != VK_NEXT) || IsPressed(VK_MENU) || IsPressed(VK_SHIFT)) return std::nullopt;
+  const bool back = key == VK_PRIOR;
+  if (IsPressed(VK_CONTROL)) return back ? controls::DateStep::YearBack : controls::DateStep::Year;
+  return back ? controls::DateStep::MonthBack : controls::DateStep::Month;
+}
+
 }  // namespace
 
 /// Sees the clicks of the thread while it exists; most of what a person clicks on takes no focus.
@@ -107,9 +115,11 @@ HWND DateWindow::CalendarShown() const { return calendar_ ? calendar_->Handle() 
 void DateWindow::OpenCalendar() {
   if (calendar_ || ReadOnly() || !Control().Reachable()) return;
   SetFocus(Handle());
-  const auto typed = frame::ReadDate(Narrow(TextOf(Handle())));
-  const host::Date date = typed.IsRefused() || typed.IsEmpty() ? Toolkit().Desktop().Today() : *typed;
-  calendar_ = std::make_unique<Calendar>(Toolkit(), Handle(), date, Font(), [this](host::Date day) { Pick(day); });
+  const controls::TypedContent typed = Edit().Read(Narrow(TextOf(Handle())));
+  const auto* const date = std::get_if<host::Date>(&typed.value);
+  const host::Date today = Edit().Today();
+  const Calendar::Days days{.shown = date != nullptr ? *date : today, .today = today};
+  calendar_ = std::make_unique<Calendar>(Toolkit(), Handle(), days, Font(), [this](host::Date day) { Pick(day); });
   clicks_ = std::make_unique<ClickWatch>();
 }
 
@@ -142,6 +152,7 @@ bool DateWindow::OnKey(WPARAM key) {
     OpenCalendar();
     return true;
   }
+  if (const auto step = StepOf(key); step && Edit().Step(*step)) return true;
   return BoxWindow::OnKey(key);
 }
 
@@ -152,6 +163,9 @@ LRESULT DateWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       break;
     case WM_LBUTTONDOWN:
     case kClickedElsewhere: CloseCalendar(); break;
+    case WM_CHAR:
+      if ((wParam == L'+' || wParam == L'-') && Edit().StepBySign(static_cast<char>(wParam))) return 0;
+      break;
     case WM_NCCALCSIZE: {
       const LRESULT result = BoxWindow::OnMessage(message, wParam, lParam);
       RECT& inside = *reinterpret_cast<RECT*>(lParam);  // also the first of the structure

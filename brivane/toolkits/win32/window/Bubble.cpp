@@ -24,19 +24,19 @@ RECT SeenOf(HWND area) {
 
 }  // namespace
 
-Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const std::wstring& reason)
+Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const std::wstring& text, Saying saying)
     : Window(toolkit,
              {.className = L"STATIC",
               .style = WS_CHILD | WS_BORDER | WS_CLIPSIBLINGS | SS_NOPREFIX | SS_LEFT,
-              .text = reason},
+              .text = text},
              area) {
   SendMessageW(Handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
   const RECT room = SeenOf(area);
   const int gap = toolkit.Edge().Designed(kGap);
   const int around = 2 * GetSystemMetrics(SM_CXBORDER) + toolkit.Edge().Designed(kMargin);
-  RECT text{0, 0, std::max<LONG>(toolkit.Edge().Designed(80), WidthOf(room) - 2 * gap - around), 0};
+  RECT lines{0, 0, std::max<LONG>(toolkit.Edge().Designed(80), WidthOf(room) - 2 * gap - around), 0};
   const Measuring measuring(font);
-  const int height = measuring.WrappedHeight(reason, text);
+  const int height = measuring.WrappedHeight(text, lines);
   // One line stands in the middle, so that it keeps from the border.
   if (height < 2 * measuring.LineHeight())
     SetWindowLongPtrW(Handle(), GWL_STYLE, GetWindowLongPtrW(Handle(), GWL_STYLE) | SS_CENTER);
@@ -44,14 +44,14 @@ Bubble::Bubble(win32::Toolkit& toolkit, HWND area, HWND box, HFONT font, const s
   RECT place{};
   GetWindowRect(box, &place);
   MapWindowPoints(nullptr, area, reinterpret_cast<POINT*>(&place), 2);
-  const LONG width = text.right + around;
+  const LONG width = lines.right + around;
   const LONG outerHeight = height + 2 * GetSystemMetrics(SM_CYBORDER);
   LONG top = place.bottom + gap;
   if (top + outerHeight > room.bottom) top = place.top - gap - outerHeight;
   const LONG left = std::max<LONG>(room.left + gap, std::min<LONG>(place.left, room.right - width - gap));
   SetWindowPos(Handle(), HWND_TOP, left, std::max<LONG>(room.top, top), width, outerHeight,
                SWP_NOACTIVATE | SWP_SHOWWINDOW);
-  NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
+  if (saying == Saying::Reason) NotifyWinEvent(EVENT_SYSTEM_ALERT, Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 HBRUSH Bubble::OnColor(UINT, HDC context) {

@@ -4,6 +4,7 @@
 
 #include <brivane/controls/Caption.h>
 #include <brivane/controls/Choices.h>
+#include <brivane/controls/Entrance.h>
 #include <brivane/controls/Plain.h>
 #include <brivane/toolkits/win32/controls/BoxWindow.h>
 #include <brivane/toolkits/win32/controls/ComboWindow.h>
@@ -95,6 +96,14 @@ bool MoveInGroup(ControlWindow& from, Direction direction) {
   window.FocusByKey();
   window.Toolkit().Act(*next, controls::Select{}, window);
   return true;
+}
+
+/// What is being typed elsewhere goes first, and may disable what a frame leads to.
+void EnterFrame(const AnyControl& frame) {
+  ControlWindow& window = WindowFor(frame);
+  const auto life = window.Life();
+  if (!window.Toolkit().LeaveBox(window) || life.expired()) return;
+  if (const AnyControl* const entrance = controls::EntranceOf(frame)) WindowFor(*entrance).FocusByKey();
 }
 
 /// The letter after the marking "&" of a caption, as a small letter; 0 where none is marked.
@@ -201,7 +210,11 @@ bool PressMnemonic(const controls::Surface& root, wchar_t letter) {
       if (PressMnemonic(static_cast<const controls::Surface&>(control), letter)) return true;
       continue;
     }
-    if (MnemonicOf(control) != wanted || !control.Reachable() || control.ControlKind() == Kind::Frame) continue;
+    if (MnemonicOf(control) != wanted || !control.Reachable()) continue;
+    if (control.ControlKind() == Kind::Frame) {
+      if (control.Row().mnemonic == '\0' || controls::EntranceOf(control) == nullptr) continue;
+      return EnterFrame(control), true;
+    }
     AnyControl* target = &control;
     if (control.ControlKind() == Kind::Label) {
       if (control.Row().mnemonic == '\0' || i + 1 == made.size() || !IsStop(*made[i + 1])) continue;
