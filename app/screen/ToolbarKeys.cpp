@@ -10,8 +10,14 @@ namespace {
 class ToolbarKeys final : public QObject {
  public:
   explicit ToolbarKeys(QToolBar& toolbar) : QObject(&toolbar), toolbar_(toolbar) {
-    for (const QAction* action : toolbar.actions())
-      if (QToolButton* button = ButtonOf(*action)) button->installEventFilter(this);
+    for (QAction* action : toolbar.actions())
+      if (auto* const button = qobject_cast<QToolButton*>(toolbar.widgetForAction(action))) buttons_.append(button);
+    // Where the toolbar has too little room, a last button opens a menu of the others.
+    if (auto* const rest = toolbar.findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
+      rest->setAccessibleName(QStringLiteral("Meer"));
+      buttons_.append(rest);
+    }
+    for (QToolButton* button : buttons_) button->installEventFilter(this);
     ChooseEntrance();
   }
 
@@ -29,16 +35,11 @@ class ToolbarKeys final : public QObject {
   }
 
  private:
-  [[nodiscard]] QToolButton* ButtonOf(const QAction& action) const {
-    return qobject_cast<QToolButton*>(toolbar_.widgetForAction(const_cast<QAction*>(&action)));
-  }
   /// The buttons that a person can go to.
   [[nodiscard]] QList<QToolButton*> Buttons() const {
     QList<QToolButton*> found;
-    for (const QAction* action : toolbar_.actions()) {
-      QToolButton* const button = ButtonOf(*action);
-      if (button != nullptr && button->isEnabled() && button->isVisibleTo(&toolbar_)) found.append(button);
-    }
+    for (QToolButton* button : buttons_)
+      if (button->isEnabled() && button->isVisibleTo(&toolbar_)) found.append(button);
     return found;
   }
   void ChooseEntrance() {
@@ -47,9 +48,7 @@ class ToolbarKeys final : public QObject {
   }
   void MakeEntrance(QToolButton* entrance) {
     entrance_ = entrance;
-    for (const QAction* action : toolbar_.actions())
-      if (QToolButton* button = ButtonOf(*action))
-        button->setFocusPolicy(button == entrance ? Qt::TabFocus : Qt::NoFocus);
+    for (QToolButton* button : buttons_) button->setFocusPolicy(button == entrance ? Qt::TabFocus : Qt::NoFocus);
   }
   bool Lead(QToolButton& from, const QKeyEvent& key) const {
     if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
@@ -69,6 +68,7 @@ class ToolbarKeys final : public QObject {
   }
 
   QToolBar& toolbar_;
+  QList<QToolButton*> buttons_;
   QToolButton* entrance_ = nullptr;
 };
 

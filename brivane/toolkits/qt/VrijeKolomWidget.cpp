@@ -7,7 +7,9 @@
 
 namespace brivane::qt {
 
-VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {}
+VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {
+  setAccessibleName(QStringLiteral("Vrije kolom"));
+}
 
 VrijeKolomWidget::~VrijeKolomWidget() = default;
 

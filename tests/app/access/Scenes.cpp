@@ -13,6 +13,7 @@
 namespace brivane::app {
 namespace {
 
+constexpr char kWhole[] = "";
 constexpr int kPatience = 20000;  ///< milliseconds
 
 // The columns of the case, all of the current situation.
@@ -109,7 +110,8 @@ void Stage::Type(const char* text) {
 
 const std::vector<Scene>& AllScenes() {
   static const std::vector<Scene> scenes = {
-      {"start", [](Stage&) {}},
+      {"start", [](Stage&) {}, kWhole},
+      {"window", [](Stage& stage) { stage.GoTo(kAmount); }, kWhole},
       {"amount", [](Stage& stage) { stage.GoTo(kAmount); }},
       {"one-off", [](Stage& stage) { stage.GoTo(kOneOff); }},
       {"contract", [](Stage& stage) { stage.GoTo(kContract); }},
@@ -132,13 +134,13 @@ const std::vector<Scene>& AllScenes() {
          stage.GoTo(kAmount);
          Stage::Press(Qt::Key_S, Qt::AltModifier);
        },
-       true},
+       kWhole, true},
       {"year-form-growth",
        [](Stage& stage) {
          stage.GoTo(kGrowth);
          Stage::Press(Qt::Key_S, Qt::AltModifier);
        },
-       true},
+       kWhole, true},
   };
   return scenes;
 }

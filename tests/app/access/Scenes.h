@@ -37,6 +37,8 @@ class Stage {
 struct Scene {
   const char* name;
   void (*play)(Stage& stage);
+  /// The name of the element that is looked at, where it is not the whole window in front.
+  const char* part = "Vrije kolom";
   bool modal = false;  ///< ends in a modal window, which stays open
 };
 

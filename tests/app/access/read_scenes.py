@@ -77,6 +77,25 @@ def attempt(read, otherwise):
         return otherwise
 
 
+def part_of(lines, name):
+    """The lines of the element with this name, and of alerts wherever they are; all where no name is given."""
+    if not name:
+        return lines
+    depth = lambda line: len(line) - len(line.lstrip())
+    found, inside = [], None
+    for line in lines:
+        if inside is not None and depth(line) <= inside:
+            inside = None
+        if inside is None and f' "{name}"' in line:
+            inside = depth(line)
+            outer = inside
+        if inside is not None:
+            found.append(line[outer:])
+        elif line.lstrip().startswith("alert "):
+            found.append(line.lstrip())
+    return found
+
+
 class Reader:
     """Everything that stands on the accessibility bus, and what was announced on it."""
 
@@ -148,7 +167,7 @@ class Reader:
             if child is not None:
                 yield from self.lines(child, depth + 1)
 
-    def tree(self, process):
+    def tree(self, process, part):
         found = self.application(process)
         if found is None:
             return ""
@@ -156,10 +175,11 @@ class Reader:
         windows = [found.get_child_at_index(number) for number in range(found.get_child_count())]
         # Of what lies behind a dialog nothing can be reached.
         dialogs = [window for window in windows if attempt(window.get_role_name, "") in ("dialog", "alert")]
-        return "".join(line + "\n" for window in dialogs or windows for line in self.lines(window))
+        lines = [line for window in dialogs or windows for line in self.lines(window)]
+        return "".join(line + "\n" for line in part_of(lines, part))
 
 
-def read_scene(reader, program, name, wanted):
+def read_scene(reader, program, name, part, wanted):
     """The text of a scene: as soon as it is the one that is wanted, else as it stays."""
     folder = tempfile.mkdtemp(prefix="scene-", dir=os.environ[INSIDE])
     reader.turn()
@@ -179,7 +199,7 @@ def read_scene(reader, program, name, wanted):
         before, since = None, time.monotonic()
         while time.monotonic() < end:
             reader.turn()
-            text = reader.tree(shown.pid)
+            text = reader.tree(shown.pid, part)
             reader.turn()
             text += "".join(f"heard: {line}\n" for line in reader.heard)
             text = text.replace(folder, "FOLDER")
@@ -205,16 +225,17 @@ def main():
     arguments = sys.argv[2:]
     write = arguments[:1] == ["--write"]
     names = arguments[1:] if write else arguments
-    all_names = subprocess.run([program, "--list"], check=True, capture_output=True, text=True).stdout.split()
+    listed = subprocess.run([program, "--list"], check=True, capture_output=True, text=True).stdout
+    scenes = dict(line.split("\t") for line in listed.splitlines())
     try:
         reader = Reader()
     except (ImportError, ValueError) as error:
         fail(f"{error}. {NEEDS}")
     bad = 0
-    for name in names or all_names:
+    for name in names or scenes:
         path = os.path.join(TREES, name + ".txt")
         wanted = open(path, encoding="utf-8").read() if os.path.exists(path) and not write else None
-        text = read_scene(reader, program, name, wanted)
+        text = read_scene(reader, program, name, scenes[name], wanted)
         if write:
             with open(path, "w", encoding="utf-8") as file:
                 file.write(text)
@@ -224,10 +245,10 @@ def main():
             sys.stdout.writelines(difflib.unified_diff(
                 (wanted or "").splitlines(True), text.splitlines(True), "trees/" + name + ".txt", "found"))
     if not names and not write:
-        stray = {file[:-4] for file in os.listdir(TREES)} - set(all_names)
+        stray = {file[:-4] for file in os.listdir(TREES)} - set(scenes)
         if stray:
             fail("no scenes any more: " + ", ".join(sorted(stray)))
-    print(f"{len(names or all_names) - bad} of {len(names or all_names)} scenes as they should be")
+    print(f"{len(names or scenes) - bad} of {len(names or scenes)} scenes as they should be")
     return 1 if bad else 0
 
 

@@ -50,6 +50,9 @@ class Findings {
 };
 
 void LookAt(const QLabel& label, Findings& findings) {
+  // One that is shortened with three points, and whole in its tool tip.
+  if (label.toolTip() == label.text())
+    return findings.FitsInHeight(label, label.text(), label.fontMetrics().height(), label.height());
   const QRect room = label.contentsRect();
   const QString text =
       label.textFormat() == Qt::PlainText && label.buddy() == nullptr ? label.text() : Plain(label.text());

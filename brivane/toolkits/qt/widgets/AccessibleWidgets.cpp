@@ -6,6 +6,7 @@
 #include <brivane/toolkits/qt/widgets/AccessibleWidgets.h>
 #include <brivane/toolkits/qt/widgets/Bubble.h>
 #include <brivane/toolkits/qt/widgets/ChoiceBox.h>
+#include <brivane/toolkits/qt/widgets/ControlWidget.h>
 #include <brivane/toolkits/qt/widgets/PlainFrame.h>
 
 namespace brivane::qt {
@@ -95,6 +96,9 @@ class AccessibleBubble final : public QAccessibleWidget {
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
   if (auto* const list = dynamic_cast<ChoiceBox*>(object)) return new AccessibleChoice(list);
   if (auto* const frame = dynamic_cast<PlainFrame*>(object)) return new AccessibleFrame(frame);
+  // An embedded control is a group in its host's window.
+  if (auto* const control = dynamic_cast<ControlWidget*>(object))
+    return new QAccessibleWidget(control, QAccessible::Grouping);
   if (auto* const bubble = dynamic_cast<Bubble*>(object)) return new AccessibleBubble(bubble);
   return nullptr;
 }
