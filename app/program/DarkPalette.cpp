@@ -6,7 +6,7 @@ QPalette DarkPalette() {
   const QColor area(0x3a, 0x3c, 0x40);
   const QColor box(0x26, 0x27, 0x2a);
   const QColor text(0xe6, 0xe6, 0xe6);
-  const QColor faint(0x92, 0x95, 0x9b);
+  const QColor faint(0xa4, 0xa7, 0xad);
   QPalette palette(text, area, area.lighter(140), area.darker(160), area.lighter(115), text, Qt::white, box, area);
   palette.setColor(QPalette::AlternateBase, area);
   palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));

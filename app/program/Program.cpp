@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include "app/program/DutchTranslator.h"
+#include "app/program/LegiblePalette.h"
 #include "app/program/WindowIcon.h"
 
 namespace brivane::app {
@@ -14,6 +15,7 @@ void SetUpProgram(QApplication& program) {
   QApplication::setApplicationDisplayName(QStringLiteral("Dossier"));
   QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
   QApplication::setWindowIcon(WindowIcon());
+  QApplication::setPalette(LegiblePalette(QApplication::palette()));
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QApplication::installTranslator(new DutchTranslator(&program));
 }

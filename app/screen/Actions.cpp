@@ -8,6 +8,7 @@
 #include <QToolButton>
 
 #include "app/screen/KolommenModel.h"
+#include "app/screen/ToolbarKeys.h"
 
 namespace brivane::app {
 namespace {
@@ -140,6 +141,8 @@ Actions::Actions(QMainWindow& window)
   toolbar->addAction(remove);
   toolbar->addSeparator();
   toolbar->addActions({client, check});
+
+  ReachByKeys(*toolbar);
 
   // Not in a menu: each opens one.
   window.addActions({moveByKey, duplicateByKey});

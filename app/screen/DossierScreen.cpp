@@ -45,6 +45,7 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
       kolom_(new KolomScreen(file_->Dossier(), MakeEditorHost(instrument), recording)) {
   addWidget(list_);
   addWidget(kolom_);
+  kolom_->raise();  // a screen reader goes through the list first
   setStretchFactor(0, 0);
   setStretchFactor(1, 1);
   setCollapsible(1, false);

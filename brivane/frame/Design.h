@@ -73,7 +73,7 @@ struct Row {
   std::string_view caption = {};  ///< also the help text of a Hint
   int index = kNoIndex;           ///< place in a control array; kTemplateIndex is the template of run-time elements
   int tab = 0;                    ///< place in the tab order from 1; 0 for what takes no focus
-  std::string_view label = {};    ///< the text that names a box, toggle or list to a screen reader
+  std::string_view label = {};    ///< the text that names a box, toggle, list or help icon to a screen reader
   /// Letter of the caption that, with Alt, goes to the control, to the box that it labels, or into the frame.
   char mnemonic = '\0';
   Format format = Format::None;

@@ -35,7 +35,7 @@ inline constexpr int kKopBreed = 1440;
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraScenario", .kind = Kind::Frame, .place = {120, 120, 6000, 1500}},
     {.name = "hntRentescenario", .kind = Kind::Hint, .place = {kKolomLinks, 255, 255, 255}, .parent = "fraScenario",
-     .caption = kHintRentescenario, .tab = 1},
+     .caption = kHintRentescenario, .tab = 1, .label = "Hulp bij rentescenario"},
     {.name = "chkAanvullen", .kind = Kind::CheckBox, .place = {kVakLinks, 255, 3240, 255}, .parent = "fraScenario",
      .caption = kAanvullen, .tab = 2, .mnemonic = 'V'},
     {.name = "lblMaand", .kind = Kind::Label, .place = {kKolomLinks, kKopBoven, 420, kKopHoog}, .parent = "fraScenario",

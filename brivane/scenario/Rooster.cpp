@@ -94,7 +94,8 @@ Rooster::Rij Rooster::BouwRij(int rij, const Opzet& opzet, const Rijplaats& plaa
   if (opzet.MetEenmalig()) {
     vakken.eenmalig =
         &MaakVak(form_, chkEenmalig, rij, plaats.eenmalig, plaats.vakTop, vrij, Naam(kRolJaarbasis, opzet, rij));
-    if (plaats.eersteInKolom) Maak(form_, Hint, rij, plaats.hint, plaats.vakTop);
+    if (plaats.eersteInKolom)
+      Maak(form_, Hint, rij, plaats.hint, plaats.vakTop).SetAccessibleName(Naam(kRolHulpJaarbasis, opzet, rij));
   }
   if (opzet.MetPercentage()) {
     vakken.percentage =

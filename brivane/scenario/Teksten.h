@@ -23,6 +23,7 @@ inline constexpr std::string_view kKopBeide = "Bedrag/Percentage";
 // What a screen reader calls a box: its role, the unit of its row, the row number.
 inline constexpr std::string_view kRolBedrag = "Bedrag";
 inline constexpr std::string_view kRolJaarbasis = "Op jaarbasis";
+inline constexpr std::string_view kRolHulpJaarbasis = "Hulp bij op jaarbasis";
 inline constexpr std::string_view kRolPercentage = "Percentage";
 inline constexpr std::string_view kRolKorting = "Korting";
 inline constexpr std::string_view kJaar = "jaar";

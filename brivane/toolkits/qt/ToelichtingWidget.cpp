@@ -13,7 +13,7 @@ void ToelichtingWidget::MakeControl(const host::HostFactories& factories) {
   control_ = std::make_shared<Toelichting>(Surface(), Toolkit().Desktop(), factories);
   Keep(control_);
   subscriptions_ += control_->Changed.Connect([this, life = Life()] {
-    emit changed();
+    Q_EMIT changed();
     life->Check();
   });
 }

@@ -29,7 +29,7 @@ class BRIVANE_API ToelichtingWidget : public ControlWidget {
   /// widget is deleted from inside a call on the control itself, that call ends in controls::Abandoned.
   [[nodiscard]] Toelichting* Control() { return control_.get(); }
 
- signals:
+ Q_SIGNALS:
   /// An edit was written into the record.
   void changed();
 

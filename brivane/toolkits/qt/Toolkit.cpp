@@ -5,6 +5,7 @@
 #include <brivane/toolkits/qt/Toolkit.h>
 #include <brivane/toolkits/qt/peers/Peers.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
+#include <brivane/toolkits/qt/widgets/AccessibleWidgets.h>
 #include <brivane/toolkits/qt/widgets/ChoiceBox.h>
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
@@ -26,6 +27,7 @@ class Remains final : public QObject {
 }  // namespace
 
 Toolkit::Toolkit() {
+  InstallAccessibleWidgets();
   Life()->bury = [](std::shared_ptr<void> remains) { (new Remains(std::move(remains)))->deleteLater(); };
 }
 

@@ -8,6 +8,7 @@
 namespace brivane::qt {
 
 VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {
+  setAccessibleName(QStringLiteral("Vrije kolom"));
   Toolkit().SetSubjectTeller([this] {
     const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(Surface());
     const auto row = [aanvang = onderwerp.aanvang, personen = personen_ ? personen_() : Geborenen()](int rij) {
@@ -23,7 +24,7 @@ void VrijeKolomWidget::MakeControl(const host::HostFactories& factories) {
   control_ = std::make_shared<VrijeKolom>(Surface(), Toolkit(), factories);
   Keep(control_);
   subscriptions_ += control_->RefreshTopDisplay.Connect([this, life = Life()](const std::string& text) {
-    emit refreshTopDisplay(ToQt(text));
+    Q_EMIT refreshTopDisplay(ToQt(text));
     life->Check();
     TellTopDisplay(ToQt(text));
     life->Check();
@@ -78,7 +79,7 @@ QString VrijeKolomWidget::ReadTopDisplay() {
 
 void VrijeKolomWidget::TellTopDisplay(const QString& text) {
   topDisplay_ = text;
-  emit topDisplayChanged(text);
+  Q_EMIT topDisplayChanged(text);
 }
 
 void VrijeKolomWidget::StateChanged() {

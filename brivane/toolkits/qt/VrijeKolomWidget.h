@@ -54,7 +54,7 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   /// widget is deleted from inside a call on the control itself, that call ends in controls::Abandoned.
   [[nodiscard]] VrijeKolom* Control() { return control_.get(); }
 
- signals:
+ Q_SIGNALS:
   /// The control's own event: an edit may have changed the header text.
   void refreshTopDisplay(const QString& text);
   /// What a header above the widget is to show now: after every binding, after an edit, and nothing when the widget

@@ -477,7 +477,7 @@ constexpr Place<Editor> kPlaces[] = {
        At(on, kField<&Values::DatumAanvang>, Op::Set);
        auto& box = static_cast<qt::DateBox&>(*WidgetFor(on.Find("TxtDtAanvang")));
        box.OpenCalendar();
-       emit box.Calendar()->findChild<QCalendarWidget*>()->clicked(QDate(2026, 3, 1));
+       Q_EMIT box.Calendar()->findChild<QCalendarWidget*>()->clicked(QDate(2026, 3, 1));
      }},
     {"HalfTyped",
      [](Editor& on) {

@@ -2,6 +2,7 @@
 #include <QStyledItemDelegate>
 #include <QTreeWidget>
 
+#include <brivane/controls/Surface.h>
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/peers/ListViewPeer.h>
 
@@ -10,6 +11,9 @@ namespace brivane::qt {
 using controls::Aspect;
 
 namespace {
+
+/// Above and below a heading together. A style sheet of the host's gives it no other height: the table fills its place.
+constexpr int kHeadingMargin = 5;
 
 /// Rows as high as their text needs, so that the whole table fits the place that the design gives it.
 class TightRows final : public QStyledItemDelegate {
@@ -36,9 +40,11 @@ ListViewPeer::ListViewPeer(controls::ListView& list, qt::Toolkit& toolkit, QWidg
   tree.setSelectionBehavior(QAbstractItemView::SelectRows);
   tree.setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree.setTabKeyNavigation(false);
+  // Its columns have their place in the design.
+  tree.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   tree.header()->setSectionsMovable(false);
   tree.header()->setStretchLastSection(false);
-  tree.header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  tree.header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
   tree.header()->setSectionsClickable(false);
   ShowColumns();
   ShowRows();
@@ -66,6 +72,9 @@ void ListViewPeer::ShowColumns() {
   for (const auto& column : list_.Columns()) headings.append(ToQt(column.heading));
   Tree().setColumnCount(static_cast<int>(headings.size()));
   Tree().setHeaderLabels(headings);
+  const frame::Design& design = list_.Owner()->Table();
+  const QFont font = Toolkit().Edge().Font(design, design.fontSize);
+  Tree().header()->setFixedHeight(QFontMetrics(font).height() + kHeadingMargin);
   for (qsizetype i = 0; i < headings.size(); ++i)
     Tree().header()->resizeSection(
         static_cast<int>(i), Toolkit().Edge().Pixels(list_.Columns()[static_cast<std::size_t>(i)].width, {}).width());

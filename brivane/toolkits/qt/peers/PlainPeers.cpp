@@ -6,6 +6,7 @@
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
+#include <brivane/toolkits/qt/widgets/PlainFrame.h>
 
 namespace brivane::qt {
 
@@ -15,7 +16,9 @@ namespace {
 
 QWidget* MakeFrame(const frame::Row& row, QWidget* container) {
   if (row.bordered) return new LeadingGroup(container);
-  return new QWidget(container);
+  auto* const area = new PlainFrame(container);
+  area->setAccessibleName(ToQt(std::string(row.caption)));
+  return area;
 }
 
 }  // namespace

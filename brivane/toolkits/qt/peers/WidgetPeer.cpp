@@ -1,5 +1,7 @@
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/peers/Peers.h>
+#include <brivane/toolkits/qt/widgets/DesignFont.h>
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 
 namespace brivane::qt {
 
@@ -10,9 +12,26 @@ QWidget* ContainerWidget(const controls::AnyControl& control) {
   return container != nullptr ? dynamic_cast<const AreaHolder&>(*container->GetPeer()).Area() : nullptr;
 }
 
+namespace {
+
+/// Whether a style draws an edge of its own around it.
+bool HasAnEdge(const controls::AnyControl& control) {
+  switch (control.ControlKind()) {
+    case host::Kind::Label:
+    case host::Kind::Hint:
+    case host::Kind::JaNee:
+    case host::Kind::Surface: return false;
+    case host::Kind::Frame: return control.Row().bordered;
+    default: return true;
+  }
+}
+
+}  // namespace
+
 WidgetPeer::WidgetPeer(controls::AnyControl& control, qt::Toolkit& toolkit, QWidget* widget)
     : control_(control), toolkit_(toolkit), widget_(widget) {
   widget->setObjectName(ToQt(control.ElementName()));
+  if (HasAnEdge(control)) OutlineInHighContrast(*widget);
   if (!control.AccessibleName().empty()) widget->setAccessibleName(ToQt(control.AccessibleName()));
 }
 
@@ -49,7 +68,7 @@ void WidgetPeer::ShowFont() {
   const float points = control_.Host().Read(host::Measure::FontSize).value_or(0);
   // What stands on a surface takes over its font.
   if (owner == nullptr || points == owner->Table().fontSize || points <= 0) return;
-  widget_->setFont(toolkit_.Edge().Font(owner->Table(), points));
+  SetDesignFont(*widget_, toolkit_.Edge().Font(owner->Table(), points));
 }
 
 void WidgetPeer::ShowBackColor() {

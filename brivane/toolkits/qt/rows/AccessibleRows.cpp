@@ -2,10 +2,13 @@
 #include <unordered_map>
 
 #include <brivane/controls/Plain.h>
+#include <brivane/controls/TextBox.h>
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/rows/AccessibleRows.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
+#include <brivane/toolkits/qt/widgets/AccessibleText.h>
+#include <brivane/toolkits/qt/widgets/HelpIcon.h>
 
 namespace brivane::qt {
 
@@ -20,7 +23,10 @@ std::unordered_map<const CellPeer*, QAccessible::Id>& HandedOut() {
 }
 
 /// One painted cell.
-class AccessibleCell final : public QAccessibleInterface, public QAccessibleActionInterface {
+class AccessibleCell final : public QAccessibleInterface,
+                             public QAccessibleActionInterface,
+                             public QAccessibleValueInterface,
+                             public AccessibleText {
  public:
   AccessibleCell(RowCanvas& canvas, CellPeer& cell) : canvas_(canvas), cell_(cell) {}
 
@@ -71,8 +77,24 @@ class AccessibleCell final : public QAccessibleInterface, public QAccessibleActi
   }
 
   void* interface_cast(QAccessible::InterfaceType type) override {
-    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    const bool box = cell_.Control().ControlKind() == Kind::TextBox;
+    switch (type) {
+      case QAccessible::ActionInterface: return static_cast<QAccessibleActionInterface*>(this);
+      case QAccessible::TextInterface: return box ? static_cast<QAccessibleTextInterface*>(this) : nullptr;
+      case QAccessible::ValueInterface: return box ? static_cast<QAccessibleValueInterface*>(this) : nullptr;
+      default: return nullptr;
+    }
   }
+  [[nodiscard]] QString Content() const override { return cell_.Text(); }
+  [[nodiscard]] QVariant currentValue() const override {
+    const auto* const number = std::get_if<double>(&static_cast<const controls::TextBox&>(cell_.Control()).Content());
+    return number != nullptr ? *number : 0.0;
+  }
+  /// A number is typed in the line edit that stands in the box once it has the focus: there it is checked and refused.
+  void setCurrentValue(const QVariant&) override {}
+  [[nodiscard]] QVariant minimumValue() const override { return {}; }
+  [[nodiscard]] QVariant maximumValue() const override { return {}; }
+  [[nodiscard]] QVariant minimumStepSize() const override { return {}; }
   [[nodiscard]] QStringList actionNames() const override {
     if (!cell_.IsStop()) return {};
     switch (cell_.Control().ControlKind()) {
@@ -91,8 +113,8 @@ class AccessibleCell final : public QAccessibleInterface, public QAccessibleActi
 
  private:
   [[nodiscard]] QString Name(Kind kind) const {
-    if (kind == Kind::Hint) return "Help";
-    return ToQt(cell_.Control().AccessibleName());
+    const QString name = ToQt(cell_.Control().AccessibleName());
+    return kind == Kind::Hint && name.isEmpty() ? QString::fromLatin1(kHelpName) : name;
   }
 
   RowCanvas& canvas_;

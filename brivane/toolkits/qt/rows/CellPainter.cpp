@@ -4,6 +4,7 @@
 #include <brivane/toolkits/qt/rows/CellPainter.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 
 namespace brivane::qt {
 
@@ -29,7 +30,11 @@ CellPainter::CellPainter(QPainter& painter, const QWidget& canvas)
     : painter_(painter),
       canvas_(canvas),
       colors_(canvas.palette()),
-      border_(Between(colors_.color(QPalette::Window), colors_.color(QPalette::WindowText))) {}
+      contrast_(IsHighContrast(colors_)),
+      border_(contrast_ ? colors_.color(QPalette::WindowText)
+                        : Between(colors_.color(QPalette::Window), colors_.color(QPalette::WindowText))) {
+  painter_.setLayoutDirection(Qt::LeftToRight);
+}
 
 void CellPainter::Paint(const CellPeer& cell, bool focused) {
   switch (cell.Control().ControlKind()) {
@@ -70,6 +75,10 @@ void CellPainter::PaintCheck(const CellPeer& cell, bool focused) {
   option.rect = QRect(cell.Place().left(), cell.Place().center().y() - size / 2, size, size);
   canvas_.style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &option, &painter_, &canvas_);
   pen_ = {};
+  if (contrast_) {
+    SetPen(border_);
+    painter_.drawRect(option.rect.adjusted(0, 0, -1, -1));
+  }
   if (!focused) return;
   SetPen(colors_.color(QPalette::Highlight));
   painter_.drawRect(option.rect.adjusted(-2, -2, 1, 1));

@@ -25,6 +25,7 @@ class CellPainter {
   QPainter& painter_;
   const QWidget& canvas_;
   const QPalette& colors_;
+  bool contrast_;
   QColor border_;
   QColor pen_;
 };

@@ -20,6 +20,7 @@
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::qt {
@@ -65,6 +66,7 @@ RowCanvas::RowCanvas(QWidget& container, Toolkit& toolkit)
   setObjectName(kCanvasName);
   setFocusPolicy(Qt::TabFocus);
   editor_->hide();
+  OutlineInHighContrast(*editor_);
   TypesNothingWithAlt(*editor_);
   container.installEventFilter(this);
   setGeometry(container.rect());

@@ -22,6 +22,7 @@ Bubble::Bubble(QWidget& box) : QLabel(box.window()), box_(&box) {
   setBackgroundRole(QPalette::ToolTipBase);
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setFocusPolicy(Qt::NoFocus);
+  setLayoutDirection(Qt::LeftToRight);
   QObject::connect(&box, &QObject::destroyed, this, &QObject::deleteLater);
 }
 

@@ -19,6 +19,8 @@ class Bubble : public QLabel {
   [[nodiscard]] static QString ReasonOf(const QWidget& box);
   /// The same of a note.
   [[nodiscard]] static QString NoteOf(const QWidget& box);
+  /// Whether it says why something was refused, which a screen reader is to say at once.
+  [[nodiscard]] bool IsAlert() const { return says_ == Says::Reason; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -31,6 +31,8 @@ class ChoiceBox final : public QComboBox {
 
   /// Another entry is shown than stands, and was not handed over yet.
   [[nodiscard]] bool IsUnderWay() const { return currentIndex() != standing_; }
+  /// Its list of entries is open.
+  [[nodiscard]] bool IsOpen() const { return open_; }
   void HandOver();
   void PutBack() { ShowIndex(standing_); }
 

@@ -17,6 +17,7 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
       veil_(new QLabel(ToQt(controls::kVeil), this)) {
   body_->surface = toolkit_.MakeSurface(design);
   body_->binding.emplace(*surface_);
+  setLayoutDirection(Qt::LeftToRight);
   veil_->setAlignment(Qt::AlignCenter);
   veil_->setWordWrap(true);
   veil_->hide();
@@ -157,14 +158,14 @@ QSize ControlWidget::minimumSizeHint() const { return sizeHint(); }
 
 void ControlWidget::TellHeight() {
   if (sizing_) return TellHeightLater();
-  emit heightChanged();
+  Q_EMIT heightChanged();
 }
 
 void ControlWidget::TellHeightLater() {
   if (std::exchange(heightToTell_, true)) return;
   const auto tell = [this] {
     heightToTell_ = false;
-    emit heightChanged();
+    Q_EMIT heightChanged();
   };
   QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }

@@ -76,7 +76,7 @@ class BRIVANE_API ControlWidget : public QWidget {
   [[nodiscard]] host::Surface& Surface() { return *surface_; }
   [[nodiscard]] qt::Toolkit& Toolkit() { return toolkit_; }
 
- signals:
+ Q_SIGNALS:
   /// The control was laid out: its height may have changed.
   void heightChanged();
 

@@ -8,6 +8,7 @@
 #include <brivane/controls/RowChanges.h>
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
+#include <brivane/toolkits/qt/widgets/DesignFont.h>
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
 #include <brivane/toolkits/qt/widgets/SurfaceWidget.h>
 
@@ -24,10 +25,11 @@ FormWindow::FormWindow(controls::Form& form, Toolkit& toolkit)
   auto* const layout = new QVBoxLayout(dialog_.get());
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(scroll_);
+  dialog_->setLayoutDirection(Qt::LeftToRight);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setWidget(area_);
-  area_->setFont(toolkit.Edge().Font(form.Table(), form.Table().fontSize));
+  SetDesignFont(*area_, toolkit.Edge().Font(form.Table(), form.Table().fontSize));
   Refresh(Aspect::Caption);
   Refresh(Aspect::Place);
 }

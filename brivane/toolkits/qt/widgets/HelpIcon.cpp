@@ -35,7 +35,7 @@ void PaintHelpIcon(QPainter& painter, const QRect& rect, const QPalette& palette
 HelpIcon::HelpIcon(const QString& help, QWidget* parent) : QAbstractButton(parent), help_(help) {
   setFocusPolicy(Qt::StrongFocus);
   setToolTip(WrappedToolTip(help));
-  setAccessibleName("Help");
+  setAccessibleName(QString::fromLatin1(kHelpName));
   setAccessibleDescription(help);
   QObject::connect(this, &QAbstractButton::clicked, this, [this] { ShowHelp(); });
 }

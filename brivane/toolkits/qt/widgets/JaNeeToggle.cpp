@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 #include <brivane/toolkits/qt/widgets/JaNeeToggle.h>
 
 namespace brivane::qt {
@@ -84,7 +85,9 @@ void JaNeeToggle::paintEvent(QPaintEvent*) {
   const QPalette& colors = palette();
   const bool focused = hasFocus();
   const int border = focused ? 2 : 1;
-  painter.fillRect(rect(), colors.color(focused ? QPalette::Highlight : QPalette::Mid));
+  painter.fillRect(rect(), colors.color(focused                  ? QPalette::Highlight
+                                        : IsHighContrast(colors) ? QPalette::WindowText
+                                                                 : QPalette::Mid));
   for (const Answer answer : {Answer::Ja, Answer::Nee}) {
     const bool chosen = answer == answer_;
     // A disabled toggle still tells its answer: its grey text turned inside out.

@@ -22,6 +22,7 @@ bool IsBareText(const QKeyEvent& event) {
 QuestionBox::QuestionBox(std::chrono::milliseconds pause, QWidget* parent)
     : QMessageBox(parent), pause_(pause), underWay_(pause, Now()) {
   setTextFormat(Qt::PlainText);
+  setLayoutDirection(Qt::LeftToRight);
   qApp->installEventFilter(this);
 }
 

@@ -2,6 +2,7 @@
 
 #include <brivane/toolkits/qt/peers/PlainPeers.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
+#include <brivane/toolkits/qt/widgets/DesignFont.h>
 #include <brivane/toolkits/qt/widgets/SurfaceWidget.h>
 
 namespace brivane::qt {
@@ -19,6 +20,16 @@ void LeadLabels(const controls::Surface& surface) {
     if (made[i]->ControlKind() != host::Kind::Label || made[i]->Row().mnemonic == '\0') continue;
     if (QWidget* const box = WidgetOf(*made[i + 1])) static_cast<LabelPeer&>(*made[i]->GetPeer()).LeadTo(*box);
   }
+}
+
+/// A screen reader goes through widgets in the order in which they lie on each other, at first that of their making;
+/// options stand in another on the screen, and their tab order is as they are seen.
+void OrderOptions(const controls::Surface& surface) {
+  std::vector<const controls::AnyControl*> options;
+  for (const auto& control : surface.Made())
+    if (control->ControlKind() == host::Kind::OptionButton) options.push_back(control.get());
+  std::sort(options.begin(), options.end(), [](const auto* a, const auto* b) { return a->Row().tab < b->Row().tab; });
+  for (const controls::AnyControl* option : options) WidgetOf(*option)->raise();
 }
 
 }  // namespace
@@ -44,6 +55,7 @@ QWidget* ChainTabOrder(const controls::Surface& surface, QWidget* previous) {
     previous = &canvas->LineEdit();
   }
   LeadLabels(surface);
+  OrderOptions(surface);
   return previous;
 }
 
@@ -60,7 +72,8 @@ std::vector<RowCanvas*> Canvases(const controls::Surface& surface) {
 
 SurfaceWidget::SurfaceWidget(controls::Surface& surface, Toolkit& toolkit, QWidget* parent)
     : QWidget(parent), surface_(surface), toolkit_(toolkit) {
-  setFont(toolkit.Edge().Font(surface.Table(), surface.Table().fontSize));
+  setLayoutDirection(Qt::LeftToRight);
+  SetDesignFont(*this, toolkit.Edge().Font(surface.Table(), surface.Table().fontSize));
 }
 
 void SurfaceWidget::showEvent(QShowEvent* event) {
@@ -72,7 +85,7 @@ void SurfaceWidget::showEvent(QShowEvent* event) {
 
 void SurfaceWidget::Rescale() {
   const std::function<void(const controls::Surface&)> rescale = [&](const controls::Surface& area) {
-    WidgetOf(area)->setFont(toolkit_.Edge().Font(area.Table(), area.Table().fontSize));
+    SetDesignFont(*WidgetOf(area), toolkit_.Edge().Font(area.Table(), area.Table().fontSize));
     for (const auto& control : area.Made()) {
       static_cast<WidgetPeer&>(*control->GetPeer()).Rescale();
       if (control->ControlKind() == host::Kind::Surface) rescale(static_cast<const controls::Surface&>(*control));

@@ -11,7 +11,8 @@ namespace brivane::qt {
 
 class RowCanvas;
 
-/// The area of a surface: gives what stands on it its font and its tab order.
+/// The area of a surface: gives what stands on it its font and its tab order. Its texts are Dutch and its places those
+/// of the design, so it runs from left to right in a host that does not.
 class SurfaceWidget : public QWidget {
  public:
   SurfaceWidget(controls::Surface& surface, Toolkit& toolkit, QWidget* parent);

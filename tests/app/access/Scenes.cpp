@@ -1,0 +1,179 @@
+#include "tests/app/access/Scenes.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTest>
+#include <QTimer>
+
+#include "dossier/model/Gegevens.h"
+#include <brivane/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+
+namespace brivane::app {
+namespace {
+
+constexpr char kWhole[] = "";
+constexpr int kPatience = 20000;  ///< milliseconds
+
+// The columns of the case, all of the current situation.
+constexpr std::int16_t kAmount = 1;
+constexpr std::int16_t kOneOff = 2;
+constexpr std::int16_t kContract = 3;
+constexpr std::int16_t kTransition = 4;
+constexpr std::int16_t kGrowth = 5;
+
+host::Date Day(int year, int month, int day) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
+
+dossier::KolomGegevens Kolom(std::int16_t Vrij_Id, const char* omschrijving, double bedrag) {
+  dossier::KolomGegevens kolom;
+  kolom.Id = Vrij_Id;
+  kolom.Omschrijving = omschrijving;
+  kolom.Bedrag.Naam = omschrijving;
+  kolom.Bedrag.Bedrag = bedrag;
+  kolom.DatumAanvang = Day(2026, 1, 1);
+  kolom.Looptijd = 48;
+  return kolom;
+}
+
+dossier::DossierGegevens Case() {
+  dossier::DossierGegevens gegevens;
+  gegevens.Personen = {{{"A.", "de", "Boer"}, Day(1980, 5, 17)}, {{"C.", "", "Visser"}, Day(1982, 11, 3)}};
+  gegevens.Leeftijd = 50;  // until then the years of the form run
+  gegevens.MaatschappijType = {{"DM", "Dagblad De Maasbode"}, {"ZZ", "Anders"}};
+  dossier::KolomGegevens eenmalig = Kolom(kOneOff, "Gift", 1500);
+  eenmalig.Termijn = 99;
+  eenmalig.Looptijd = 0;
+  dossier::KolomGegevens contract = Kolom(kContract, "Krant", 32.5);
+  contract.IsProduct = true;
+  contract.Productsoort = 44;
+  contract.Maatschappij = "DM";
+  contract.MaatschappijNaam = "Dagblad De Maasbode";
+  contract.UwBemiddeling = true;
+  contract.Contractvervaldatum = Day(2027, 12, 31);
+  dossier::KolomGegevens overgang = Kolom(kTransition, "Lijfrente", 350);
+  overgang.CorrectieLast = 2;
+  overgang.CorrectieFiscaal = 2;
+  overgang.ScenarioOverlijden = true;
+  overgang.PercentageOvergang = 70;
+  overgang.EinddatumOvergang = Day(2047, 5, 17);
+  overgang.EindleeftijdOvergang = 67;
+  dossier::KolomGegevens groei = Kolom(kGrowth, "Onderhoud", 900);
+  groei.Termijn = 12;
+  groei.Bedrag.Invoersoort = 3;
+  groei.Bedrag.Perioden = {{{.Maand = 1, .Percentage = 2}}};
+  gegevens.HuidigeLening.VrijeKolommen = {Kolom(kAmount, "Kinderopvang", 485.5), eenmalig, contract, overgang, groei};
+  gegevens.Leningen.resize(1);
+  return gegevens;
+}
+
+/// There is no window manager that gives a window the focus.
+bool Activate(QWidget& window) {
+  window.activateWindow();
+  return QTest::qWaitForWindowActive(&window, kPatience);
+}
+
+}  // namespace
+
+Stage::Stage(const QDir& folder)
+    : file_(folder.filePath(QStringLiteral("boer.dossier"))), eventLog_(folder.filePath(QStringLiteral("log"))) {
+  dossier::DossierFile::Maak(file_, Case());
+  window_ = std::make_unique<MainWindow>(eventLog_);
+}
+
+MainWindow& Stage::Window() { return *window_; }
+
+DossierScreen& Stage::Screen() {
+  if (window_->Screen() == nullptr) {
+    if (!window_->Open(file_)) qFatal("the case cannot be opened");
+    window_->Screen()->Kolom().Editor().Toolkit().Desktop().clock = [] { return Day(2026, 11, 21); };
+  }
+  return *window_->Screen();
+}
+
+void Stage::GoTo(std::int16_t Vrij_Id) {
+  Screen().GoTo({dossier::Dossier::kHuidig, Vrij_Id});
+  Screen().Kolom().FocusFirst();
+}
+
+void Stage::Focus(const char* control) {
+  controls::Surface::Of(Screen().Kolom().Editor().Surface()).Find(control)->GetPeer()->TakeFocus();
+}
+
+void Stage::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+}
+
+void Stage::Type(const char* text) {
+  for (; *text != '\0'; ++text) QTest::keyClick(QGuiApplication::focusWindow(), *text);
+}
+
+const std::vector<Scene>& AllScenes() {
+  static const std::vector<Scene> scenes = {
+      {"start", [](Stage&) {}, kWhole},
+      {"window", [](Stage& stage) { stage.GoTo(kAmount); }, kWhole},
+      {"amount", [](Stage& stage) { stage.GoTo(kAmount); }},
+      {"one-off", [](Stage& stage) { stage.GoTo(kOneOff); }},
+      {"contract", [](Stage& stage) { stage.GoTo(kContract); }},
+      {"transition", [](Stage& stage) { stage.GoTo(kTransition); }},
+      {"no-partner",
+       [](Stage& stage) {
+         dossier::Dossier& dossier = stage.Screen().Dossier();
+         (void)stage.Screen().SetClient({dossier.Personen().front()}, dossier.Leeftijd());
+         stage.GoTo(kTransition);
+       }},
+      {"refused",
+       [](Stage& stage) {
+         stage.GoTo(kAmount);
+         stage.Focus("TxtBd");
+         Stage::Type("12.50");
+         Stage::Press(Qt::Key_Tab);
+       }},
+      {"year-form",
+       [](Stage& stage) {
+         stage.GoTo(kAmount);
+         Stage::Press(Qt::Key_S, Qt::AltModifier);
+       },
+       kWhole, true},
+      {"year-form-growth",
+       [](Stage& stage) {
+         stage.GoTo(kGrowth);
+         Stage::Press(Qt::Key_S, Qt::AltModifier);
+       },
+       kWhole, true},
+  };
+  return scenes;
+}
+
+void Play(const Scene& scene, Stage& stage, const std::function<void(QWidget* front)>& stands) {
+  stage.Window().show();
+  if (!Activate(stage.Window())) return stands(nullptr);
+  bool played = false;
+  // What opens a modal window comes back when that closes; this looks on from the event loop of whatever stands in
+  // front.
+  QTimer look;
+  const QElapsedTimer since = [] {
+    QElapsedTimer clock;
+    clock.start();
+    return clock;
+  }();
+  QEventLoop all;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    QWidget* const modal = QApplication::activeModalWidget();
+    const bool late = since.elapsed() > kPatience;
+    if (!late && !(scene.modal ? modal != nullptr && modal->isVisible() : played)) return;
+    look.stop();
+    if (late) return stands(nullptr);
+    QWidget* const front = scene.modal ? modal : &stage.Window();
+    stands(Activate(*front) ? front : nullptr);
+    all.quit();
+  });
+  look.start(20);
+  QTimer::singleShot(0, &stage.Window(), [&] {
+    scene.play(stage);
+    played = true;
+  });
+  all.exec();
+}
+
+}  // namespace brivane::app

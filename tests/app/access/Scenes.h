@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDir>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "app/screen/MainWindow.h"
+
+/// The windows of the program as a person meets them, each brought about on one fixed case. A further window is one
+/// more entry in AllScenes().
+namespace brivane::app {
+
+/// The program's window, and a fixed case on a fixed day.
+class Stage {
+ public:
+  /// Its files go into the folder.
+  explicit Stage(const QDir& folder);
+
+  [[nodiscard]] MainWindow& Window();
+  /// The case, opened.
+  [[nodiscard]] DossierScreen& Screen();
+  /// Shows a column of the current situation, the focus in its first box.
+  void GoTo(std::int16_t Vrij_Id);
+  /// Puts the focus in a control of the editor.
+  void Focus(const char* control);
+  /// Presses a key, or types a text, in the window that has the focus.
+  static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  static void Type(const char* text);
+
+ private:
+  QString file_;
+  EventLog eventLog_;
+  std::unique_ptr<MainWindow> window_;
+};
+
+struct Scene {
+  const char* name;
+  void (*play)(Stage& stage);
+  /// The name of the element that is looked at, where it is not the whole window in front.
+  const char* part = "Vrije kolom";
+  bool modal = false;  ///< ends in a modal window, which stays open
+};
+
+[[nodiscard]] const std::vector<Scene>& AllScenes();
+/// Plays a scene, and tells once it stands which window is in front: nothing where it did not come about. Comes back
+/// when that window, if it is modal, has been closed.
+void Play(const Scene& scene, Stage& stage, const std::function<void(QWidget* front)>& stands);
+
+}  // namespace brivane::app
