@@ -1,4 +1,4 @@
-# The package that find_package() and pkg-config find: headers under include/brivane, the libraries, and what tells where
+# The package that find_package() and pkg-config find: headers in include/brivane, the libraries, and what tells where
 # they are. Parts that were not built are left out, and the package says so to who asks for them.
 #
 # Components: runtime (programs and shared libraries), development (all else that is linked), documents, tools.
@@ -7,42 +7,23 @@ include(CMakePackageConfigHelpers)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/BrivaneVrijeKolom)
 
-# brivane_install_part(PART targets...): the libraries of a part, and what find_package() knows them by.
-function(brivane_install_part part)
-  install(TARGETS ${ARGN} EXPORT ${part}
+# brivane_install_part(PART TARGET DESCRIPTION REQUIRES): a library, its public headers, and what
+# find_package() and pkg-config know it by.
+function(brivane_install_part part target description requires)
+  install(TARGETS ${target} EXPORT ${part}
+          FILE_SET HEADERS COMPONENT development
           LIBRARY COMPONENT runtime OPTIONAL NAMELINK_COMPONENT development
-          ARCHIVE COMPONENT development OPTIONAL
-          RUNTIME COMPONENT runtime OPTIONAL)
+          ARCHIVE COMPONENT development OPTIONAL)
   install(EXPORT ${part} NAMESPACE Brivane:: FILE ${part}Targets.cmake DESTINATION ${package_dir} COMPONENT development)
-endfunction()
-
-# brivane_pkg_config(NAME DESCRIPTION REQUIRES targets...): the same for pkg-config. The last library first, since each
-# uses those before it.
-function(brivane_pkg_config name description requires)
-  set(libraries "")
-  foreach(library IN LISTS ARGN)
-    get_target_property(type ${library} TYPE)
-    if(NOT type STREQUAL "INTERFACE_LIBRARY")
-      list(PREPEND libraries -l${library})
-    endif()
-  endforeach()
-  list(JOIN libraries " " libraries)
+  get_target_property(name ${target} OUTPUT_NAME)
   configure_file(${PROJECT_SOURCE_DIR}/cmake/package.pc.in ${name}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
 endfunction()
 
-brivane_install_part(VrijeKolom ${core})
-brivane_pkg_config(brivane-vrijekolom "${PROJECT_DESCRIPTION}" "" ${core})
-install(DIRECTORY brivane DESTINATION include COMPONENT development
-        FILES_MATCHING PATTERN "*.h" PATTERN "toolkits/qt" EXCLUDE PATTERN "toolkits/win32" EXCLUDE)
-if(WIN32)
-  install(DIRECTORY brivane/toolkits/win32 DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
-endif()
+brivane_install_part(VrijeKolom brivane_embedding "${PROJECT_DESCRIPTION}" "")
 if(BRIVANE_QT)
-  brivane_install_part(Qt ${qt})
-  brivane_pkg_config(brivane-vrijekolom-qt "${PROJECT_DESCRIPTION}, as Qt widgets"
-                     "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4" ${qt})
-  install(DIRECTORY brivane/toolkits/qt DESTINATION include/brivane/toolkits COMPONENT development FILES_MATCHING PATTERN "*.h")
+  brivane_install_part(Qt brivane_embedding_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
+                       "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")
 endif()
 
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake

@@ -1,17 +1,23 @@
 # brivane_library(NAME sources...): a static library that is included from the root of the tree.
 function(brivane_library name)
   add_library(${name} STATIC ${ARGN})
-  target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}> $<INSTALL_INTERFACE:include>)
-  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_warnings>)
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE brivane_warnings)
   target_compile_features(${name} PUBLIC cxx_std_20)
-  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-  set_property(GLOBAL APPEND PROPERTY BRIVANE_LIBRARIES ${name})
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+endfunction()
+
+# brivane_public_headers(NAME headers...): what who embeds the library may include of it. All other headers stay here.
+function(brivane_public_headers name)
+  list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  set_property(TARGET ${name} APPEND PROPERTY BRIVANE_PUBLIC_HEADERS ${ARGN})
 endfunction()
 
 # brivane_logic_library(NAME sources...): the same under the strict warnings of the logic folders.
 function(brivane_logic_library name)
   brivane_library(${name} ${ARGN})
-  target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:brivane_strict_warnings>)
+  target_link_libraries(${name} PRIVATE brivane_strict_warnings)
 endfunction()
 
 # What only tests: it is compiled more often than it runs for long.

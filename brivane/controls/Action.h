@@ -6,6 +6,7 @@
 #include <variant>
 
 #include <brivane/host/Date.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/Twips.h>
 
 /// What a person can do to a control, as data: the one door that real event sources, scripts, tests
@@ -62,7 +63,7 @@ class Surface;
 
 /// Follows every action that passes the door, those that are ignored too. Actions nest, where one
 /// opens a form or lets pending events run.
-class ActionListener {
+class BRIVANE_API ActionListener {
  public:
   virtual ~ActionListener() = default;
   virtual void Before(AnyControl& control, const Action& action) = 0;

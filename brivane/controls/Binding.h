@@ -6,6 +6,7 @@
 
 #include <brivane/controls/FailureWatch.h>
 #include <brivane/controls/Surface.h>
+#include <brivane/host/Export.h>
 
 namespace brivane::controls {
 
@@ -33,7 +34,7 @@ enum class BindingResult : std::uint8_t {
 ///     controls::Binding binding(*surface);  // after the surface, gone before it
 ///     if (binding.Bind([&] { editor.SetApplication(application, 0, 1); }) != BindingResult::Bound) ...
 ///     binding.Unbind([&] { editor.Unbind(); });
-class Binding {
+class BRIVANE_API Binding {
  public:
   explicit Binding(host::Surface& surface);
 

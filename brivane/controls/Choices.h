@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/CheckBox.h>
 #include <brivane/host/controls/JaNee.h>
 #include <brivane/host/controls/OptionButton.h>
@@ -10,7 +11,7 @@
 /// The controls that choose between a few values: toggle, check box and option.
 namespace brivane::controls {
 
-class JaNee final : public ControlOf<host::JaNee> {
+class BRIVANE_API JaNee final : public ControlOf<host::JaNee> {
  public:
   using ControlOf::ControlOf;
 
@@ -36,7 +37,7 @@ class JaNee final : public ControlOf<host::JaNee> {
   int value_ = host::kNee;
 };
 
-class CheckBox final : public CaptionedOf<host::CheckBox> {
+class BRIVANE_API CheckBox final : public CaptionedOf<host::CheckBox> {
  public:
   using CaptionedOf::CaptionedOf;
 
@@ -62,7 +63,7 @@ class CheckBox final : public CaptionedOf<host::CheckBox> {
   int value_ = host::kUnticked;
 };
 
-class OptionButton final : public CaptionedOf<host::OptionButton> {
+class BRIVANE_API OptionButton final : public CaptionedOf<host::OptionButton> {
  public:
   using CaptionedOf::CaptionedOf;
 

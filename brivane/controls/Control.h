@@ -9,6 +9,7 @@
 #include <brivane/controls/Action.h>
 #include <brivane/controls/Peer.h>
 #include <brivane/frame/Design.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Control.h>
 
 namespace brivane::controls {
@@ -23,7 +24,7 @@ class Surface;
 ///     auto surface = toolkit.MakeSurface(kOntwerp);
 ///     AnyControl* box = Surface::Of(*surface).Find("TxtBd");
 ///     if (box->Perform(Enter{1200.5}) == Outcome::Refused) ...
-class AnyControl {
+class BRIVANE_API AnyControl {
  public:
   AnyControl(const AnyControl&) = delete;
   AnyControl& operator=(const AnyControl&) = delete;

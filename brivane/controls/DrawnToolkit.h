@@ -7,13 +7,14 @@
 #include <brivane/controls/ToolkitBase.h>
 #include <brivane/controls/entry/PendingEdits.h>
 #include <brivane/host/Error.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
 
 namespace brivane::controls {
 
 /// A toolkit that shows its controls: what a person does there comes from an event loop, across which no
 /// exception may go.
-class DrawnToolkit : public ToolkitBase {
+class BRIVANE_API DrawnToolkit : public ToolkitBase {
  public:
   using FailureListener = std::function<void(const host::Error& failure)>;
 

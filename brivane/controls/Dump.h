@@ -11,6 +11,7 @@
 #include <brivane/controls/Surface.h>
 #include <brivane/host/Color.h>
 #include <brivane/host/Date.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/Twips.h>
 #include <brivane/host/controls/Control.h>
 
@@ -50,8 +51,8 @@ struct ControlDump {
   friend bool operator==(const ControlDump&, const ControlDump&) = default;
 };
 
-[[nodiscard]] ControlDump Dump(const AnyControl& control);
+[[nodiscard]] BRIVANE_API ControlDump Dump(const AnyControl& control);
 /// Every control on a surface in the order of creation, each embedded surface followed by what is on it.
-[[nodiscard]] std::vector<ControlDump> DumpAll(const Surface& surface);
+[[nodiscard]] BRIVANE_API std::vector<ControlDump> DumpAll(const Surface& surface);
 
 }  // namespace brivane::controls

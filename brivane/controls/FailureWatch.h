@@ -1,5 +1,6 @@
 #pragma once
 
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
 
 namespace brivane::controls {
@@ -10,7 +11,7 @@ namespace brivane::controls {
 ///     const FailureWatch failures(toolkit.Desktop());
 ///     box.Perform(Enter{value});
 ///     if (failures.Seen()) ...  // the host did not take it
-class FailureWatch {
+class BRIVANE_API FailureWatch {
  public:
   explicit FailureWatch(host::Desktop& desktop)
       : listening_(desktop.ProcedureFailed.Connect([this] { seen_ = true; })) {}

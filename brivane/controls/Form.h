@@ -6,12 +6,13 @@
 
 #include <brivane/controls/RowChanges.h>
 #include <brivane/controls/Surface.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Form.h>
 
 namespace brivane::controls {
 
 /// A form: a surface in a window of its own. Its size is that of the window.
-class Form final : public SurfaceOf<host::Form> {
+class BRIVANE_API Form final : public SurfaceOf<host::Form> {
  public:
   Form(std::unique_ptr<frame::Row> row, ToolkitBase& toolkit);
 

@@ -4,11 +4,12 @@
 #include <vector>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/ListBox.h>
 
 namespace brivane::controls {
 
-class ListBox final : public ControlOf<host::ListBox> {
+class BRIVANE_API ListBox final : public ControlOf<host::ListBox> {
  public:
   struct Entry {
     std::string text;

@@ -4,12 +4,13 @@
 #include <vector>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/ListView.h>
 
 namespace brivane::controls {
 
 /// The report list. An index or sub-item that it does not have fails with error 9.
-class ListView final : public ControlOf<host::ListView> {
+class BRIVANE_API ListView final : public ControlOf<host::ListView> {
  public:
   struct Column {
     std::string heading;

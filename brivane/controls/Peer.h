@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include <brivane/host/Export.h>
 #include <brivane/host/model/Hoofdvenster.h>
 
 namespace brivane::controls {
@@ -30,7 +31,7 @@ enum class Aspect : std::uint8_t {
 ///
 /// The control makes its peer when it is made itself, and tells it of every change after the change,
 /// before the event. What a peer shows at first is the control's state when the peer is made.
-class Peer {
+class BRIVANE_API Peer {
  public:
   Peer() = default;
   Peer(const Peer&) = delete;
@@ -42,7 +43,7 @@ class Peer {
 };
 
 /// What draws a form.
-class FormPeer : public Peer {
+class BRIVANE_API FormPeer : public Peer {
  public:
   /// Shows the window modally over its owner; returns when Unload was called or the window was closed.
   virtual void ShowModal(host::Hoofdvenster* eigenaar) = 0;

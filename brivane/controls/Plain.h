@@ -3,6 +3,7 @@
 #include <string>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Button.h>
 #include <brivane/host/controls/Frame.h>
 #include <brivane/host/controls/Hint.h>
@@ -11,23 +12,23 @@
 /// The controls without a value: frame, label, help icon and button.
 namespace brivane::controls {
 
-class Frame final : public CaptionedOf<host::Frame> {
+class BRIVANE_API Frame final : public CaptionedOf<host::Frame> {
  public:
   using CaptionedOf::CaptionedOf;
 };
 
-class Label final : public CaptionedOf<host::Label> {
+class BRIVANE_API Label final : public CaptionedOf<host::Label> {
  public:
   using CaptionedOf::CaptionedOf;
 };
 
-class Hint final : public ControlOf<host::Hint> {
+class BRIVANE_API Hint final : public ControlOf<host::Hint> {
  public:
   using ControlOf::ControlOf;
   [[nodiscard]] std::string HelpText() const override { return std::string(Row().caption); }
 };
 
-class Button final : public CaptionedOf<host::Button> {
+class BRIVANE_API Button final : public CaptionedOf<host::Button> {
  public:
   using CaptionedOf::CaptionedOf;
 

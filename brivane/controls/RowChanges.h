@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <memory>
 
+#include <brivane/host/Export.h>
+
 namespace brivane::controls {
 
 class AnyControl;
@@ -11,7 +13,7 @@ class Form;
 
 /// What a person has changed in the rows of a form. They are stored by its button alone, so Escape and the close box
 /// ask first. The value of the first row is the exception: it is stored as soon as it is entered, and stays.
-class RowChanges {
+class BRIVANE_API RowChanges {
  public:
   /// Of the form that a control is a row of; nothing for any other control. It outlives the form, which may be gone
   /// when an action on the row comes back.

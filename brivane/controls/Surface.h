@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Surface.h>
 
 namespace brivane::controls {
@@ -17,7 +18,7 @@ class ToolkitBase;
 inline constexpr std::string_view kVeil = "Er is geen vrije kolom geopend.";
 
 /// The controls of one design table, on a surface of its own, embedded in another one, or on a form.
-class Surface : public AnyControl {
+class BRIVANE_API Surface : public AnyControl {
  public:
   ~Surface() override;
 
@@ -92,7 +93,7 @@ template <class Interface> class SurfaceOf : public ControlOf<Interface, Surface
 };
 
 /// The surface of a control, of its own or embedded.
-class ControlSurface final : public SurfaceOf<host::Surface> {
+class BRIVANE_API ControlSurface final : public SurfaceOf<host::Surface> {
  public:
   using SurfaceOf::SurfaceOf;
 };

@@ -3,12 +3,13 @@
 #include <string>
 
 #include <brivane/controls/Control.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/TextBox.h>
 
 namespace brivane::controls {
 
 /// The host's text box. It can hold anything, of its kind or not; reading tells.
-class TextBox final : public ControlOf<host::TextBox> {
+class BRIVANE_API TextBox final : public ControlOf<host::TextBox> {
  public:
   TextBox(const frame::Row& row, int index, Surface* owner, AnyControl* container, float fontSize)
       : ControlOf(row, index, owner, container, fontSize), locked_(row.locked) {}

@@ -9,6 +9,7 @@
 #include <brivane/controls/Surface.h>
 #include <brivane/controls/life/Life.h>
 #include <brivane/frame/Toolkit.h>
+#include <brivane/host/Export.h>
 
 namespace brivane::controls {
 
@@ -22,7 +23,7 @@ struct WindowFrame {
 /// is for its subclass to say.
 ///
 /// Must outlive the surfaces and forms that it made.
-class ToolkitBase : public frame::Toolkit {
+class BRIVANE_API ToolkitBase : public frame::Toolkit {
  public:
   ~ToolkitBase() override;
 

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include <brivane/host/Date.h>
+#include <brivane/host/Export.h>
 
 /// Calendar arithmetic on dates of the (proleptic) Gregorian calendar.
 namespace brivane::frame {
@@ -19,20 +20,20 @@ struct YearMonthDay {
 };
 
 /// The zero date reads as 30 December 1899.
-[[nodiscard]] YearMonthDay Split(host::Date date);
+[[nodiscard]] BRIVANE_API YearMonthDay Split(host::Date date);
 /// Fails with error 6 outside the years 100 to 9999.
-[[nodiscard]] host::Date MakeDate(YearMonthDay date);
-[[nodiscard]] bool IsCalendarDate(YearMonthDay date);
+[[nodiscard]] BRIVANE_API host::Date MakeDate(YearMonthDay date);
+[[nodiscard]] BRIVANE_API bool IsCalendarDate(YearMonthDay date);
 
 /// The date that many calendar months later (or earlier), the day clamped to the last of a shorter
 /// month. No date stays no date. Fails with error 6 outside the years 100 to 9999.
-[[nodiscard]] host::Date AddMonths(host::Date date, std::int64_t months);
+[[nodiscard]] BRIVANE_API host::Date AddMonths(host::Date date, std::int64_t months);
 /// The date that many calendar years later, by the rules of AddMonths.
-[[nodiscard]] host::Date AddYears(host::Date date, std::int64_t years);
+[[nodiscard]] BRIVANE_API host::Date AddYears(host::Date date, std::int64_t years);
 
 /// Calendar-month boundaries between two dates, days ignored; negative when `to` comes first.
-[[nodiscard]] std::int32_t MonthsBetween(host::Date from, host::Date to);
+[[nodiscard]] BRIVANE_API std::int32_t MonthsBetween(host::Date from, host::Date to);
 /// Calendar-year boundaries between two dates, months and days ignored.
-[[nodiscard]] std::int32_t YearsBetween(host::Date from, host::Date to);
+[[nodiscard]] BRIVANE_API std::int32_t YearsBetween(host::Date from, host::Date to);
 
 }  // namespace brivane::frame

@@ -5,6 +5,7 @@
 
 #include <brivane/frame/Reading.h>
 #include <brivane/host/Date.h>
+#include <brivane/host/Export.h>
 
 /// Dates as a Dutch reader writes them.
 namespace brivane::frame {
@@ -18,16 +19,16 @@ inline constexpr int kFirstYear = 1900;
 
 /// Day, month and year with hyphens, points, slashes or blanks between them, or as six or eight digits:
 /// "1-4-2031", "1.4.31", "01/04/2031", "010431", "01042031".
-[[nodiscard]] Reading<host::Date> ReadDate(std::string_view text);
+[[nodiscard]] BRIVANE_API Reading<host::Date> ReadDate(std::string_view text);
 /// The same of something that lies in the past, such as a birth: of the years that one of two digits may stand for it
 /// is the last that makes a date before this day. A year of four digits is taken as it is.
-[[nodiscard]] Reading<host::Date> ReadPastDate(std::string_view text, host::Date today);
+[[nodiscard]] BRIVANE_API Reading<host::Date> ReadPastDate(std::string_view text, host::Date today);
 
 /// "01-04-2031"; no date is the empty text.
-[[nodiscard]] std::string ShowDate(host::Date date);
+[[nodiscard]] BRIVANE_API std::string ShowDate(host::Date date);
 /// "1 april 2031"; no date is the empty text.
-[[nodiscard]] std::string ShowLongDate(host::Date date);
+[[nodiscard]] BRIVANE_API std::string ShowLongDate(host::Date date);
 /// "dinsdag 1 april 2031"; no date is the empty text.
-[[nodiscard]] std::string ShowDateInWords(host::Date date);
+[[nodiscard]] BRIVANE_API std::string ShowDateInWords(host::Date date);
 
 }  // namespace brivane::frame

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Control.h>
 #include <brivane/host/controls/ListBox.h>
 
@@ -50,7 +51,7 @@ struct Design;
 
 /// The design of an embedded control, or none. It remembers whether one was given, because under the
 /// sanitizers an address cannot be compared with null while compiling.
-class EmbeddedDesign {
+class BRIVANE_API EmbeddedDesign {
  public:
   constexpr EmbeddedDesign() = default;
   constexpr EmbeddedDesign(const Design* design) : design_(design), given_(true) {}

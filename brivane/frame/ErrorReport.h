@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include <brivane/host/Error.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
 #include <brivane/host/model/Application.h>
 
@@ -30,6 +31,6 @@ struct ErrorReporter {
 
 /// The exception being handled as an Error: one that is not an Error becomes number 440 with its text.
 /// To be called from a catch clause.
-[[nodiscard]] host::Error CurrentError();
+[[nodiscard]] BRIVANE_API host::Error CurrentError();
 
 }  // namespace brivane::frame

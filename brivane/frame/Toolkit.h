@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <brivane/frame/Design.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
 #include <brivane/host/controls/Form.h>
 #include <brivane/host/controls/Surface.h>
@@ -13,7 +14,7 @@ namespace brivane::frame {
 ///
 /// As designed: boxes empty, toggles at "Nee", check boxes unticked, no option and no list entry
 /// selected, everything enabled, and visible but for the templates of run-time elements.
-class Toolkit {
+class BRIVANE_API Toolkit {
  public:
   virtual ~Toolkit() = default;
 

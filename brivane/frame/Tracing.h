@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <brivane/frame/ErrorReport.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/HostFactories.h>
 
 namespace brivane::frame {
@@ -21,7 +22,7 @@ namespace brivane::frame {
 ///
 /// The tracer is made by the first procedure that needs it and lives as long as the control. Entering
 /// is not guarded (a tracer that refuses fails the caller); leaving is.
-class Tracing {
+class BRIVANE_API Tracing {
  public:
   /// `identity` and `factories` are kept; `reporter` is asked at each report.
   Tracing(ControlIdentity identity, const host::HostFactories& factories, ErrorReporter reporter)

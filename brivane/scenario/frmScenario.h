@@ -6,6 +6,7 @@
 
 #include <brivane/frame/Handle.h>
 #include <brivane/frame/Toolkit.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/BedragObject.h>
 #include <brivane/host/model/Hoofdvenster.h>
 #include <brivane/scenario/Invoersoort.h>
@@ -25,7 +26,7 @@ namespace brivane {
 ///
 /// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base
 /// value is written as soon as row 1 is edited.
-class frmScenario {
+class BRIVANE_API frmScenario {
  public:
   explicit frmScenario(frame::Toolkit& toolkit);
   frmScenario(const frmScenario&) = delete;

@@ -6,6 +6,7 @@
 #include <brivane/frame/Handle.h>
 #include <brivane/frame/Toolkit.h>
 #include <brivane/frame/Tracing.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/Application.h>
 
 namespace brivane {
@@ -19,7 +20,7 @@ namespace brivane {
 ///     Toelichting toelichting(surface, toolkit.Desktop(), factories);
 ///     const auto changed = toelichting.Changed.Connect([&] { ... });
 ///     toelichting.SetApplication(application, lening, 1);
-class Toelichting {
+class BRIVANE_API Toelichting {
  public:
   /// Builds the effect list and scales the surface to the screen.
   Toelichting(host::Surface& surface, host::Desktop& desktop, const host::HostFactories& factories);

@@ -7,6 +7,7 @@
 #include <brivane/frame/Handle.h>
 #include <brivane/frame/Toolkit.h>
 #include <brivane/frame/Tracing.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/Application.h>
 #include <brivane/toelichting/Toelichting.h>
 
@@ -27,7 +28,7 @@ class frmScenario;
 ///     editor.SetApplication(application, 0, 1);
 ///     bool cancel = false;
 ///     editor.Validation(cancel);  // cancel: stay on the page
-class VrijeKolom {
+class BRIVANE_API VrijeKolom {
  public:
   VrijeKolom(host::Surface& surface, frame::Toolkit& toolkit, const host::HostFactories& factories);
   VrijeKolom(const VrijeKolom&) = delete;

@@ -2,14 +2,14 @@
 
 #include <dispex.h>
 
-#include "component/automation/Module.h"
+#include "component/automation/Counted.h"
 
 namespace brivane::component {
 
 namespace {
 
 /// A script may hold it after the call.
-class Caller final : public IServiceProvider, public ICanHandleException, private module::LiveObject {
+class Caller final : public Counted<IServiceProvider, ICanHandleException> {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
@@ -20,12 +20,6 @@ class Caller final : public IServiceProvider, public ICanHandleException, privat
     AddRef();
     return S_OK;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --count_;
-    if (left == 0) delete this;
-    return left;
-  }
 
   STDMETHODIMP QueryService(REFGUID service, REFIID iid, void** out) override {
     if (!out) return E_POINTER;
@@ -34,11 +28,6 @@ class Caller final : public IServiceProvider, public ICanHandleException, privat
   }
 
   STDMETHODIMP CanHandleException(EXCEPINFO*, VARIANT*) override { return S_OK; }
-
- private:
-  ~Caller() = default;
-
-  ULONG count_ = 1;
 };
 
 }  // namespace

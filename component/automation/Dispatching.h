@@ -1,5 +1,6 @@
 #pragma once
 
+#include "component/automation/Counted.h"
 #include "component/automation/Errors.h"
 #include "component/automation/Module.h"
 
@@ -55,28 +56,15 @@ template <class Interface> class Dispatching : public Interface, public ISupport
 };
 
 /// A counted object with one dual interface that no class factory makes.
-template <class Interface> class DualObject : public Dispatching<Interface>, private module::LiveObject {
+template <class Interface> class DualObject : public Counted<Dispatching<Interface>> {
  public:
   STDMETHODIMP QueryInterface(REFIID iid, void** out) override {
     if (!out) return E_POINTER;
     *out = this->Own(iid);
     if (!*out) return E_NOINTERFACE;
-    AddRef();
+    this->AddRef();
     return S_OK;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --count_;
-    if (left == 0) delete this;
-    return left;
-  }
-
- protected:
-  DualObject() = default;
-  virtual ~DualObject() = default;
-
- private:
-  ULONG count_ = 1;
 };
 
 }  // namespace brivane::component

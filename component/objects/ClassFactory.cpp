@@ -1,5 +1,6 @@
 #include "component/objects/ClassFactory.h"
 
+#include "component/automation/Counted.h"
 #include "component/automation/Errors.h"
 #include "component/objects/Companion.h"
 #include "component/objects/Identity.h"
@@ -8,7 +9,7 @@ namespace brivane::component {
 
 namespace {
 
-class ClassFactory final : public IClassFactory, private module::LiveObject {
+class ClassFactory final : public Counted<IClassFactory> {
  public:
   explicit ClassFactory(const LibraryClass& entry) : class_(entry) {}
 
@@ -18,12 +19,6 @@ class ClassFactory final : public IClassFactory, private module::LiveObject {
     *out = static_cast<IClassFactory*>(this);
     AddRef();
     return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --count_;
-    if (left == 0) delete this;
-    return left;
   }
 
   STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
@@ -47,10 +42,7 @@ class ClassFactory final : public IClassFactory, private module::LiveObject {
   }
 
  private:
-  ~ClassFactory() = default;
-
   const LibraryClass& class_;
-  ULONG count_ = 1;
 };
 
 }  // namespace

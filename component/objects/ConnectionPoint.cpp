@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "component/automation/Counted.h"
 #include "component/automation/Errors.h"
-#include "component/automation/Module.h"
 
 namespace brivane::component {
 
@@ -12,8 +12,7 @@ namespace {
 /// Goes through a list as it was when the walk began.
 ///
 /// `Hand` puts an element in the caller's place for it, counted.
-template <class Interface, class Item, class Element, auto Hand>
-class Walk final : public Interface, private module::LiveObject {
+template <class Interface, class Item, class Element, auto Hand> class Walk final : public Counted<Interface> {
  public:
   explicit Walk(std::vector<Item> items, std::size_t next = 0) : items_(std::move(items)), next_(next) {}
 
@@ -22,14 +21,8 @@ class Walk final : public Interface, private module::LiveObject {
     *out = nullptr;
     if (iid != IID_IUnknown && iid != __uuidof(Interface)) return E_NOINTERFACE;
     *out = static_cast<Interface*>(this);
-    AddRef();
+    this->AddRef();
     return S_OK;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --count_;
-    if (left == 0) delete this;
-    return left;
   }
 
   STDMETHODIMP Next(ULONG wanted, Element* elements, ULONG* fetched) override {
@@ -54,11 +47,8 @@ class Walk final : public Interface, private module::LiveObject {
   }
 
  private:
-  ~Walk() = default;
-
   std::vector<Item> items_;
   std::size_t next_;
-  ULONG count_ = 1;
 };
 
 void HandConnection(const std::pair<ComPtr<IUnknown>, DWORD>& item, CONNECTDATA& element) {

@@ -1,5 +1,6 @@
 #include "component/testdoor/DoorCompanions.h"
 
+#include "component/automation/Counted.h"
 #include "component/automation/RecordAdapter.h"
 #include "component/objects/Identity.h"
 #include "component/testdoor/Preparation.h"
@@ -53,7 +54,7 @@ class DoorCompanion final : public Companion, public ITestDoorHolder {
 };
 
 /// What a class object answers with where it is asked for its door; another identity of the same object.
-class ClassDoorHolder final : public ITestDoorHolder, private module::LiveObject {
+class ClassDoorHolder final : public Counted<ITestDoorHolder> {
  public:
   explicit ClassDoorHolder(IUnknown& classObject) : classObject_(&classObject) {}
 
@@ -64,22 +65,13 @@ class ClassDoorHolder final : public ITestDoorHolder, private module::LiveObject
     AddRef();
     return S_OK;
   }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --count_;
-    if (left == 0) delete this;
-    return left;
-  }
   STDMETHODIMP TestDoor(ITestDoor** door) override {
     if (!door) return E_POINTER;
     return Answering<ITestDoorHolder>([&] { *door = NewClassDoor(); });
   }
 
  private:
-  ~ClassDoorHolder() = default;
-
   ComPtr<IUnknown> classObject_;
-  ULONG count_ = 1;
 };
 
 class WithDoors final : public Companions {

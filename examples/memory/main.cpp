@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "host/MemoryHost.h"
 #include <brivane/frame/Calendar.h>
-#include <brivane/host/MemoryHost.h>
 #include <brivane/toolkits/memory/Embedded.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 #include <brivane/vrijekolom/VrijeKolom.h>

@@ -7,8 +7,8 @@
 #include <QVBoxLayout>
 #include <memory>
 
+#include "host/MemoryHost.h"
 #include <brivane/frame/Calendar.h>
-#include <brivane/host/MemoryHost.h>
 #include <brivane/toolkits/qt/VrijeKolomWidget.h>
 
 using namespace brivane;

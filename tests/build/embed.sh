@@ -15,6 +15,15 @@ configure() {  # BUILD [OPTION...]
     -DCMAKE_CXX_FLAGS="-Wall -Wextra -Wpedantic" "$@"
 }
 
+echo "== each public header alone, and only those"
+if [[ -e $work/prefix/include/brivane/frame/GroupedNumber.h ]]; then echo "a private header is installed" && exit 1; fi
+mapfile -t headers < <(cd "$work/prefix/include" && find . -name '*.h' | sort)
+mapfile -t qt_flags < <(pkg-config --cflags Qt6Widgets 2>/dev/null | xargs -n1 | sed 's/^-I/-isystem/')
+for header in "${headers[@]}"; do echo "#include <${header#./}>"; done |
+  xargs -d'\n' -P "$(nproc)" -I{} bash -c 'echo "$0" | "$@" -x c++ -' {} "$cxx" -std=c++20 -fsyntax-only -fno-rtti -fPIC \
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -DQT_NO_KEYWORDS "${qt_flags[@]}" -I"$work/prefix/include"
+echo "${#headers[@]} headers"
+
 echo "== with find_package"
 configure build -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/configure.log"
 if grep -E -- '-Werror|-ffp-contract|-Wshadow|-Wconversion' "$work/build/compile_commands.json"; then

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <brivane/controls/TextBox.h>
+#include <brivane/host/Export.h>
 
 /// A column of values that is pasted into rows.
 namespace brivane::controls {
@@ -21,9 +22,9 @@ struct Column {
 
 /// What the lines of a text enter into the boxes from `first` down its control array, one line a box. Empty
 /// lines and boxes that cannot be edited are passed over; a line that is not of the box's format refuses all.
-[[nodiscard]] Column ReadColumn(std::string_view text, const controls::TextBox& first);
+[[nodiscard]] BRIVANE_API Column ReadColumn(std::string_view text, const controls::TextBox& first);
 
 /// Whether a text is more than one value.
-[[nodiscard]] bool IsColumn(std::string_view text);
+[[nodiscard]] BRIVANE_API bool IsColumn(std::string_view text);
 
 }  // namespace brivane::controls

@@ -2,13 +2,15 @@
 
 #include <chrono>
 
+#include <brivane/host/Export.h>
+
 namespace brivane::controls {
 
 /// Tells the keys that answer a message box from those that were under way when it came up.
 ///
 /// Who is typing does not see the box at once: what comes before the first pause was meant for something else, and
 /// so is a key that is still held down.
-class KeysUnderWay {
+class BRIVANE_API KeysUnderWay {
  public:
   /// A pause in the typing of somebody who has seen the box.
   static constexpr std::chrono::milliseconds kPause{500};

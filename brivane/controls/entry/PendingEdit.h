@@ -8,6 +8,7 @@
 #include <brivane/controls/Action.h>
 #include <brivane/controls/entry/Typing.h>
 #include <brivane/frame/Design.h>
+#include <brivane/host/Export.h>
 
 namespace brivane::controls {
 
@@ -15,7 +16,7 @@ class DrawnToolkit;
 class TextBox;
 
 /// A box on the screen, as what is typed in it needs it.
-class EntryFace {
+class BRIVANE_API EntryFace {
  public:
   virtual ~EntryFace() = default;
 
@@ -52,7 +53,7 @@ class EntryFace {
 ///     edit.Tie(box, toolkit);               // shows what the box holds
 ///     edit.Typed();                         // at every keystroke
 ///     if (!edit.Commit()) return;           // before the focus goes: refused, it stays
-class PendingEdit {
+class BRIVANE_API PendingEdit {
  public:
   explicit PendingEdit(EntryFace& face) : face_(face) {}
   PendingEdit(const PendingEdit&) = delete;

@@ -4,6 +4,8 @@
 #include <memory>
 #include <vector>
 
+#include <brivane/host/Export.h>
+
 namespace brivane::controls {
 
 class PendingEdit;
@@ -13,7 +15,7 @@ class Surface;
 /// is one: a box that is left hands over. What was refused, hidden or disabled meanwhile stays pending.
 ///
 /// Anything may end while something is handed over, the toolkit too.
-class PendingEdits {
+class BRIVANE_API PendingEdits {
  public:
   void Add(PendingEdit& edit) { edits_.push_back(&edit); }
   void Remove(PendingEdit& edit) { std::erase(edits_, &edit); }

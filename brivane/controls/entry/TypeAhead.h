@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include <brivane/host/Export.h>
+
 namespace brivane::controls {
 
 /// Goes to an entry of a list by typing how it begins.
@@ -14,7 +16,7 @@ namespace brivane::controls {
 ///
 ///     TypeAhead typed;
 ///     shown = typed.Type(entries, shown, "p", now);
-class TypeAhead {
+class BRIVANE_API TypeAhead {
  public:
   static constexpr std::chrono::milliseconds kTogether{1000};
 

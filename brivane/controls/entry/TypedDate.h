@@ -6,6 +6,7 @@
 
 #include <brivane/frame/Reading.h>
 #include <brivane/host/Date.h>
+#include <brivane/host/Export.h>
 
 /// The short ways to a date: typed as a day that others are counted from, or stepped to.
 namespace brivane::controls {
@@ -24,14 +25,14 @@ struct DateOrigin {
 
 /// A date as frame::ReadDate reads it, or in short: "t", "v" and "vandaag" are today, "1-4" is this year's, and in an
 /// end date "3j", "18m" and "1j6m" are so much after its start.
-[[nodiscard]] frame::Reading<host::Date> ReadTypedDate(std::string_view typed, const DateOrigin& origin);
+[[nodiscard]] BRIVANE_API frame::Reading<host::Date> ReadTypedDate(std::string_view typed, const DateOrigin& origin);
 
 /// Whether a hyphen goes on with what is being typed, and is no step: "1" and "1-4" have no year yet.
-[[nodiscard]] bool GoesOnWithHyphen(std::string_view typed);
+[[nodiscard]] BRIVANE_API bool GoesOnWithHyphen(std::string_view typed);
 
 enum class DateStep { DayBack, Day, MonthBack, Month, YearBack, Year };
 
 /// The day one step from another one; the last of a shorter month. Past what may be typed it stays where it is.
-[[nodiscard]] host::Date StepFrom(host::Date date, DateStep step);
+[[nodiscard]] BRIVANE_API host::Date StepFrom(host::Date date, DateStep step);
 
 }  // namespace brivane::controls

@@ -10,10 +10,11 @@
 namespace brivane::controls {
 
 /// What is typed, as it is handed over: sums in amounts and percentages, and the short ways to a date.
-[[nodiscard]] TypedContent ReadTyped(std::string_view typed, frame::Format format, const DateOrigin& origin);
+[[nodiscard]] BRIVANE_API TypedContent ReadTyped(std::string_view typed, frame::Format format,
+                                                 const DateOrigin& origin);
 
 /// What a box says beside it of what it makes of a text: "= 15,00", "dinsdag 1 april 2031". Empty where there is
 /// nothing to say that the text does not.
-[[nodiscard]] std::string NoteOf(std::string_view typed, const TypedContent& content, frame::Format format);
+[[nodiscard]] BRIVANE_API std::string NoteOf(std::string_view typed, const TypedContent& content, frame::Format format);
 
 }  // namespace brivane::controls

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <brivane/controls/life/Life.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/Application.h>
 #include <brivane/host/model/HostFactories.h>
 #include <brivane/host/model/Lening.h>
@@ -22,7 +23,7 @@ namespace brivane::controls {
 ///
 /// One object of the host has one that stands for it as long as the control holds it, so that objects can be compared
 /// by identity. What the host hands out on being asked stands behind one of these too; the host is given its own back.
-class HeldHost {
+class BRIVANE_API HeldHost {
  public:
   explicit HeldHost(std::shared_ptr<Life> life);
   HeldHost(const HeldHost&) = delete;
@@ -50,7 +51,9 @@ class HeldHost {
 };
 
 /// The host's own object behind one that a control holds; any other object as it is.
-[[nodiscard]] std::shared_ptr<host::VrijeKolomItem> HostsOwn(const std::shared_ptr<host::VrijeKolomItem>& item);
-[[nodiscard]] std::shared_ptr<host::BedragObject> HostsOwn(const std::shared_ptr<host::BedragObject>& bedrag);
+[[nodiscard]] BRIVANE_API std::shared_ptr<host::VrijeKolomItem> HostsOwn(
+    const std::shared_ptr<host::VrijeKolomItem>& item);
+[[nodiscard]] BRIVANE_API std::shared_ptr<host::BedragObject> HostsOwn(
+    const std::shared_ptr<host::BedragObject>& bedrag);
 
 }  // namespace brivane::controls

@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include <brivane/host/Export.h>
+
 /// A host may delete an embedded control at any moment, also from inside what the control itself has set off.
 namespace brivane::controls {
 
@@ -27,7 +29,7 @@ struct Abandoned final {};
 /// the host said so is abandoned, and what begins after that runs.
 ///
 /// It belongs to one thread.
-class Life {
+class BRIVANE_API Life {
  public:
   Life() = default;
   Life(const Life&) = delete;

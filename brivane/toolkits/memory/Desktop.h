@@ -5,13 +5,14 @@
 #include <string>
 
 #include <brivane/controls/life/Life.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/Twips.h>
 #include <brivane/host/controls/Desktop.h>
 
 namespace brivane::memory {
 
 /// A machine that answers as it is set: 96 dots per inch, a Dutch locale, the title "Dossier".
-class Desktop final : public host::Desktop {
+class BRIVANE_API Desktop final : public host::Desktop {
  public:
   Desktop() = default;
   /// Whoever asks it something after that life has ended is abandoned.

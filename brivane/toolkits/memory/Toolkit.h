@@ -3,6 +3,7 @@
 #include <functional>
 
 #include <brivane/controls/ToolkitBase.h>
+#include <brivane/host/Export.h>
 #include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::memory {
@@ -13,7 +14,7 @@ namespace brivane::memory {
 ///     toolkit.Desktop().today = frame::MakeDate({2026, 11, 21});
 ///     toolkit.Desktop().answer = [](const auto&...) { return host::MessageAnswer::Yes; };
 ///     toolkit.modal = [](controls::Form& form) { form.Find("cmdOK")->Perform(controls::Press{}); };
-class Toolkit final : public controls::ToolkitBase {
+class BRIVANE_API Toolkit final : public controls::ToolkitBase {
  public:
   [[nodiscard]] memory::Desktop& Desktop() override { return desktop_; }
 

@@ -8,6 +8,7 @@
 
 #include <brivane/controls/entry/KeysUnderWay.h>
 #include <brivane/controls/life/Life.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
 
 namespace brivane::qt {
@@ -16,7 +17,7 @@ namespace brivane::qt {
 ///
 /// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
 /// counts only after a pause in the typing.
-class Desktop final : public host::Desktop {
+class BRIVANE_API Desktop final : public host::Desktop {
  public:
   Desktop() = default;
   /// Whoever asks it something after that life has ended is abandoned; what is open then closes.

@@ -8,6 +8,7 @@
 
 #include <brivane/frame/Design.h>
 #include <brivane/host/Color.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/Twips.h>
 
 /// Where twips, colours and captions become what Qt draws, and back.
@@ -18,7 +19,7 @@ using host::kTwipsPerPixel;
 
 /// Turns twips into pixels and back. A scale other than 1 follows a font of the host that is larger or
 /// smaller than the font of the design.
-class Edge {
+class BRIVANE_API Edge {
  public:
   /// The scale that a font of the host asks for: 1 where it is as large as the design's font of 9 points.
   [[nodiscard]] static Edge OfFont(const QFont& font);
@@ -39,14 +40,14 @@ class Edge {
 };
 
 /// The colour, or nothing for a colour of the system, which is left to the palette.
-[[nodiscard]] std::optional<QColor> ToQt(host::Color color);
-[[nodiscard]] host::Color FromQt(const QColor& color);
+[[nodiscard]] BRIVANE_API std::optional<QColor> ToQt(host::Color color);
+[[nodiscard]] BRIVANE_API host::Color FromQt(const QColor& color);
 /// Text that can be read on a background.
-[[nodiscard]] QColor TextOn(const QColor& background);
+[[nodiscard]] BRIVANE_API QColor TextOn(const QColor& background);
 
 /// The caption of a control as Qt shows it: with its mnemonic, and with "&" shown where code put it there.
-[[nodiscard]] QString ShownCaption(const frame::Row& row, const std::string& caption);
+[[nodiscard]] BRIVANE_API QString ShownCaption(const frame::Row& row, const std::string& caption);
 /// The same for a label that leads to no control.
-[[nodiscard]] QString PlainCaption(const std::string& caption);
+[[nodiscard]] BRIVANE_API QString PlainCaption(const std::string& caption);
 
 }  // namespace brivane::qt

@@ -2,13 +2,14 @@
 
 #include <memory>
 
+#include <brivane/host/Export.h>
 #include <brivane/toelichting/Toelichting.h>
 #include <brivane/toolkits/qt/widgets/ControlWidget.h>
 
 namespace brivane::qt {
 
 /// The explanation control as a widget of its own; the editor has one inside it.
-class ToelichtingWidget : public ControlWidget {
+class BRIVANE_API ToelichtingWidget : public ControlWidget {
   Q_OBJECT
 
  public:

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <brivane/controls/DrawnToolkit.h>
+#include <brivane/host/Export.h>
 #include <brivane/toolkits/qt/Desktop.h>
 #include <brivane/toolkits/qt/Edge.h>
 
@@ -13,7 +14,7 @@ namespace brivane::qt {
 /// here that shows it and hands over what a person does.
 ///
 /// Must outlive the surfaces and forms that it made.
-class Toolkit : public controls::DrawnToolkit {
+class BRIVANE_API Toolkit : public controls::DrawnToolkit {
  public:
   Toolkit();
 

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include <brivane/host/Export.h>
 #include <brivane/toolkits/qt/widgets/ControlWidget.h>
 #include <brivane/vrijekolom/Onderwerp.h>
 #include <brivane/vrijekolom/VrijeKolom.h>
@@ -20,7 +21,7 @@ namespace brivane::qt {
 ///     if (editor->SetApplication(application, 0, 1) != controls::BindingResult::Bound) ...
 ///     bool cancel = false;
 ///     editor->Validation(cancel);  // cancel: stay on the column
-class VrijeKolomWidget : public ControlWidget {
+class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
   Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
 

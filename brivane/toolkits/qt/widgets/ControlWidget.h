@@ -8,6 +8,7 @@
 
 #include <brivane/controls/Binding.h>
 #include <brivane/controls/life/HeldHost.h>
+#include <brivane/host/Export.h>
 #include <brivane/host/model/HostFactories.h>
 #include <brivane/toolkits/qt/Toolkit.h>
 
@@ -28,7 +29,7 @@ namespace brivane::qt {
 /// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
 /// its form open, or calls the host. What is open closes, what was going on is abandoned without a word, and nothing of
 /// the host is touched any more when the deletion comes back.
-class ControlWidget : public QWidget {
+class BRIVANE_API ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
 
