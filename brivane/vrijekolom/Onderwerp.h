@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include <brivane/host/Date.h>
-#include <brivane/host/Export.h>
-#include <brivane/host/controls/Surface.h>
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
 
 /// What the year-by-year form is about, for who has it before him: which column, which year is which row.
 namespace brivane::vrijekolom {
@@ -24,13 +25,47 @@ struct Onderwerp {
   host::Date aanvang;
 };
 
-[[nodiscard]] BRIVANE_API Onderwerp LeesOnderwerp(host::Surface& surface);
+namespace detail {
+
+inline constexpr std::int64_t kMaandenPerRij = 12;
+
+/// "; aanvrager wordt 52, partner wordt 50".
+inline std::string Leeftijden(int jaar, const std::vector<Geborene>& personen) {
+  std::string tekst;
+  for (const Geborene& persoon : personen) {
+    const int leeftijd = jaar - frame::Split(persoon.geboren).year;
+    if (persoon.geboren.IsNone() || leeftijd < 0) continue;
+    tekst += (tekst.empty() ? "; " : ", ") + persoon.wie + " wordt " + std::to_string(leeftijd);
+  }
+  return tekst;
+}
+
+}  // namespace detail
+
+[[nodiscard]] inline Onderwerp LeesOnderwerp(host::Surface& surface) {
+  const frame::Controls controls(surface);
+  const host::ListBox& termijn = controls[cboTermijn];
+  const bool gekozen = termijn.ListIndex() != host::kNoSelection;
+  return {controls[TxtOm].Text(), gekozen ? termijn.Text() : std::string(), controls[TxtDtAanvang].DateValue()};
+}
 
 /// "Kinderopvang, per maand"; the term alone where there is no description.
-[[nodiscard]] BRIVANE_API std::string Titel(const Onderwerp& onderwerp);
+[[nodiscard]] inline std::string Titel(const Onderwerp& onderwerp) {
+  if (onderwerp.omschrijving.empty() || onderwerp.termijn.empty()) return onderwerp.omschrijving + onderwerp.termijn;
+  return onderwerp.omschrijving + ", " + onderwerp.termijn;
+}
 
 /// Which year a row stands for, from 1, and the ages that the persons reach in it: "2033: 1 april 2033 tot en met 31
-/// maart 2034; aanvrager 52, partner 50 jaar". Empty where the column has no start date.
-[[nodiscard]] BRIVANE_API std::string Rijuitleg(int rij, host::Date aanvang, const std::vector<Geborene>& personen);
+/// maart 2034; aanvrager wordt 52, partner wordt 50". Empty where the column has no start date, and past the calendar.
+[[nodiscard]] inline std::string Rijuitleg(int rij, host::Date aanvang, const std::vector<Geborene>& personen) {
+  if (aanvang.IsNone() || rij < 1 || frame::Split(aanvang).year + rij > frame::Split(frame::kLastDay).year) return {};
+  const host::Date begin = frame::AddMonths(aanvang, (rij - 1) * detail::kMaandenPerRij);
+  const host::Date volgende = frame::AddMonths(aanvang, rij * detail::kMaandenPerRij);
+  const frame::YearMonthDay dag = frame::Split(begin);
+  std::string tekst = std::to_string(dag.year);
+  if (dag.month != 1 || dag.day != 1)
+    tekst += ": " + frame::ShowLongDate(begin) + " tot en met " + frame::ShowLongDate(host::Date(volgende.Days() - 1));
+  return tekst + detail::Leeftijden(dag.year, personen);
+}
 
 }  // namespace brivane::vrijekolom

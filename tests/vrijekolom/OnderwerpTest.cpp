@@ -28,6 +28,8 @@ TEST(Onderwerp, TellsTheYearOfARow) {
   EXPECT_EQ(Rijuitleg(4, MakeDate({2028, 2, 29}), {}), "2031: 28 februari 2031 tot en met 28 februari 2032");
   EXPECT_EQ(Rijuitleg(1, host::kNoDate, {}), "");
   EXPECT_EQ(Rijuitleg(0, april, {}), "");
+  EXPECT_EQ(Rijuitleg(1, MakeDate({9999, 4, 1}), {}), "");
+  EXPECT_EQ(Rijuitleg(1, MakeDate({9998, 4, 1}), {}), "9998: 1 april 9998 tot en met 31 maart 9999");
 }
 
 TEST(Onderwerp, TellsTheAgesOfTheBirthdaysInItsYear) {

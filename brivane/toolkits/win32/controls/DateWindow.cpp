@@ -142,6 +142,8 @@ bool DateWindow::OnKey(WPARAM key) {
       case VK_RETURN: Pick(calendar_->Selected()); return true;
       case VK_ESCAPE:
       case VK_F4: CloseCalendar(); return true;
+      case VK_CONTROL:
+      case VK_SHIFT: return false;  // what is pressed with it says what is meant
       default:
         if (calendar_->Move(key)) return true;
         CloseCalendar();
