@@ -35,9 +35,12 @@ Actions::Actions(QMainWindow& window)
       saveCopy(MakeAction(window, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
+      undo(MakeAction(window, "&Ongedaan maken", QKeySequence(Qt::CTRL | Qt::Key_Z))),
+      redo(MakeAction(window, "Opn&ieuw")),
+      author(MakeAction(window, "&Naam van de adviseur…")),
       add(MakeAction(window, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
       duplicate(MakeAction(window, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
-      remove(MakeAction(window, "Ve&rwijderen…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
+      remove(MakeAction(window, "Ve&rwijderen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
       move(new QMenu(QStringLiteral("&Verplaatsen naar"), &window)),
       afwijking(new QMenu(QStringLiteral("&Afwijking maken in"), &window)),
       moveByKey(MakeAction(window, "Verplaatsen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
@@ -46,10 +49,14 @@ Actions::Actions(QMainWindow& window)
       treeOrKolom(MakeAction(window, "Naar &lijst of kolom", QKeySequence(Qt::Key_F6))),
       client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       addLening(MakeAction(window, "&Lening toevoegen…")),
+      renameLening(MakeAction(window, "Lening &hernoemen…")),
+      removeLening(MakeAction(window, "Lening &verwijderen")),
+      history(MakeAction(window, "&Wijzigingen…", QKeySequence(Qt::Key_F8))),
       check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
       record(MakeAction(window, "Op&nemen…")),
       eventLog(MakeAction(window, "&Logboek…")),
       about(MakeAction(window, "&Over Dossier…")) {
+  redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
   record->setCheckable(true);
   QObject::connect(record, &QAction::toggled, record, [record = record](bool running) {
     record->setText(running ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));
@@ -64,6 +71,11 @@ Actions::Actions(QMainWindow& window)
   fileMenu->addSeparator();
   fileMenu->addActions({saveCopy, close, quit});
 
+  QMenu* editMenu = window.menuBar()->addMenu(QStringLiteral("Be&werken"));
+  editMenu->addActions({undo, redo});
+  editMenu->addSeparator();
+  editMenu->addAction(author);
+
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolomMenu->addActions({add, duplicate});
   kolomMenu->addMenu(move);
@@ -73,7 +85,7 @@ Actions::Actions(QMainWindow& window)
   kolomMenu->addActions({previous, next, treeOrKolom});
 
   QMenu* dossierMenu = window.menuBar()->addMenu(QStringLiteral("Dossie&r"));
-  dossierMenu->addActions({client, addLening, check});
+  dossierMenu->addActions({client, addLening, renameLening, removeLening, check, history});
 
   QMenu* helpMenu = window.menuBar()->addMenu(QStringLiteral("&Help"));
   helpMenu->addActions({record, eventLog, about});
@@ -96,7 +108,7 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, record};
+  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, renameLening, check, history, record};
 }
 
 QList<QAction*> Actions::ForKolom() const {

@@ -22,6 +22,10 @@ struct Actions {
   QAction* close;
   QAction* quit;
 
+  QAction* undo;
+  QAction* redo;
+  QAction* author;
+
   QAction* add;
   QAction* duplicate;
   QAction* remove;
@@ -34,6 +38,9 @@ struct Actions {
 
   QAction* client;
   QAction* addLening;
+  QAction* renameLening;
+  QAction* removeLening;
+  QAction* history;
   QAction* check;
 
   QAction* record;  ///< checked while a recording runs

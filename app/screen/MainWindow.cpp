@@ -1,5 +1,6 @@
 #include "app/screen/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
@@ -44,6 +45,7 @@ MainWindow::MainWindow(EventLog& eventLog)
   fileName_->setTextFormat(Qt::PlainText);
   statusBar()->addPermanentWidget(fileName_);
   Connect();
+  qApp->installEventFilter(this);
   resize(kFirstSize.boundedTo(screen()->availableSize()));
   restoreGeometry(Settings::WindowPlace());
   UpdateActions();
@@ -75,6 +77,7 @@ void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   connect(screen_, &DossierScreen::placeChanged, this, &MainWindow::UpdateActions);
   connect(screen_, &DossierScreen::stored, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
+  connect(screen_, &DossierScreen::stored, this, &MainWindow::NameSteps);
   connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
   screen_->Tree().SetActions(actions_);
   const QString kind = screen_->File().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
@@ -137,6 +140,7 @@ void MainWindow::UpdateActions() {
   const bool kolom = open && screen_->Shown().Vrij_Id;
   for (QAction* action : actions_.ForKolom()) action->setEnabled(kolom);
   if (open) FillLeningMenus();
+  NameSteps();
 }
 
 void MainWindow::FillLeningMenus() {

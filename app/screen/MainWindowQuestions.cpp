@@ -32,6 +32,12 @@ void MainWindow::Connect() {
   on(actions_.saveCopy, [this] { SaveCopy(); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
+  on(actions_.undo, [this] { Take(dossier::StepKind::Undo); });
+  on(actions_.redo, [this] { Take(dossier::StepKind::Redo); });
+  on(actions_.author, [this] { AskAuthor(); });
+  on(actions_.history, [this] { ShowHistory(); });
+  on(actions_.renameLening, [this] { AskLeningName(); });
+  on(actions_.removeLening, [this] { screen_->RemoveLening(); });
   on(actions_.add, [this] { screen_->AddKolom(); });
   on(actions_.duplicate, [this] { screen_->DuplicateKolom(); });
   on(actions_.remove, [this] { screen_->RemoveKolom(); });
