@@ -54,6 +54,9 @@ Actions::Actions(QMainWindow& window)
       exportPerioden(MakeAction(window, "&Perioden…")),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
+      undo(MakeAction(window, "&Ongedaan maken", QKeySequence(Qt::CTRL | Qt::Key_Z))),
+      redo(MakeAction(window, "Opn&ieuw")),
+      author(MakeAction(window, "&Naam van de adviseur…")),
       recent(new QMenu(QStringLiteral("&Recent"), &window)),
       add(MakeAction(window, "&Bedragen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
       addGrowth(MakeAction(window, "Bedragen met &groei", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G))),
@@ -62,7 +65,7 @@ Actions::Actions(QMainWindow& window)
       duplicate(MakeAction(window, "&Dupliceren", QKeySequence(Qt::CTRL | Qt::Key_D))),
       duplicateTo(new QMenu(QStringLiteral("D&upliceren naar"), &window)),
       duplicateByKey(MakeAction(window, "Dupliceren naar", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D))),
-      remove(MakeAction(window, "Ve&rwijderen…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
+      remove(MakeAction(window, "Ve&rwijderen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Delete))),
       move(new QMenu(QStringLiteral("&Verplaatsen naar"), &window)),
       afwijking(new QMenu(QStringLiteral("&Afwijking maken in"), &window)),
       moveByKey(MakeAction(window, "Verplaatsen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_M))),
@@ -73,6 +76,9 @@ Actions::Actions(QMainWindow& window)
       sort(new QMenu(QStringLiteral("&Sorteren op"), &window)),
       client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       addLening(MakeAction(window, "&Lening toevoegen…")),
+      renameLening(MakeAction(window, "Lening &hernoemen…")),
+      removeLening(MakeAction(window, "Lening &verwijderen")),
+      history(MakeAction(window, "&Wijzigingen…", QKeySequence(Qt::Key_F8))),
       check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
       overview(MakeAction(window, "Over&zicht", QKeySequence(Qt::Key_F9))),
       verloop(MakeAction(window, "&Verloop", QKeySequence(Qt::SHIFT | Qt::Key_F9))),
@@ -83,6 +89,7 @@ Actions::Actions(QMainWindow& window)
   // In a date box that somebody went to, Control with these keys moves the date by a year.
   previous->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageUp), QKeySequence(Qt::ALT | Qt::Key_PageUp)});
   next->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_PageDown), QKeySequence(Qt::ALT | Qt::Key_PageDown)});
+  redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
   record->setCheckable(true);
   QObject::connect(record, &QAction::toggled, record, [record = record](bool running) {
     record->setText(running ? QStringLiteral("Opname stoppe&n") : QStringLiteral("Op&nemen…"));
@@ -110,6 +117,11 @@ Actions::Actions(QMainWindow& window)
   fileMenu->addMenu(QStringLiteral("E&xporteren naar CSV"))->addActions({exportKolommen, exportPerioden});
   fileMenu->addActions({close, quit});
 
+  QMenu* editMenu = window.menuBar()->addMenu(QStringLiteral("Be&werken"));
+  editMenu->addActions({undo, redo});
+  editMenu->addSeparator();
+  editMenu->addAction(author);
+
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolomMenu->addMenu(addMenu);
   kolomMenu->addAction(duplicate);
@@ -122,7 +134,7 @@ Actions::Actions(QMainWindow& window)
   kolomMenu->addMenu(sort);
 
   QMenu* dossierMenu = window.menuBar()->addMenu(QStringLiteral("Dossie&r"));
-  dossierMenu->addActions({client, addLening, check});
+  dossierMenu->addActions({client, addLening, renameLening, removeLening, check, history});
   dossierMenu->addActions({overview, verloop});
 
   QMenu* helpMenu = window.menuBar()->addMenu(QStringLiteral("&Help"));
@@ -151,12 +163,12 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy,           print,  pdf,   exportKolommen, exportPerioden, close, previous, next, treeOrKolom, find,
-          sort->menuAction(), client, check, overview,       verloop,        record};
+  return {saveCopy,           print,  pdf,   exportKolommen, exportPerioden, close,   previous, next, treeOrKolom, find,
+          sort->menuAction(), client, check, history,        overview,       verloop, record};
 }
 
 QList<QAction*> Actions::ForEditing() const {
-  return {add, addGrowth, addPercentages, addMenu->menuAction(), addLening};
+  return {add, addGrowth, addPercentages, addMenu->menuAction(), addLening, renameLening};
 }
 
 QList<QAction*> Actions::ForKolom() const {

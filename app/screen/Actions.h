@@ -26,6 +26,10 @@ struct Actions {
   QAction* close;
   QAction* quit;
 
+  QAction* undo;
+  QAction* redo;
+  QAction* author;
+
   QMenu* recent;  ///< filled by the window
 
   QAction* add;  ///< a column of amounts; the other two are in the same menu
@@ -47,6 +51,9 @@ struct Actions {
 
   QAction* client;
   QAction* addLening;
+  QAction* renameLening;
+  QAction* removeLening;
+  QAction* history;
   QAction* check;
   QAction* overview;
   QAction* verloop;

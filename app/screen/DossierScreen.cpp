@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "app/desk/Messages.h"
+#include "app/desk/Settings.h"
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CaseCheck.h"
@@ -37,6 +38,7 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
                              const Instrument& instrument, QWidget* parent)
     : QSplitter(parent),
       eventLog_(eventLog),
+      recording_(recording),
       traceLog_(std::make_shared<TraceLog>(eventLog)),
       file_(std::move(file)),
       application_(std::make_shared<dossier::Application>(file_->Dossier(), std::move(hoofdvenster))),
@@ -54,6 +56,7 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
   connect(qApp, &QApplication::focusChanged, this, &DossierScreen::GiveWay);
   kolom_->SetRemovable(!file_->IsReadOnly());
 
+  file_->SetAuthor(Settings::Author().toStdString());
   scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), file_->Bewerkingen());
   Connect(recording);
   const std::vector<Place> kolommen = tree_->Kolommen();
@@ -248,14 +251,7 @@ bool DossierScreen::MakeAfwijking(std::int16_t Len_Id) {
 bool DossierScreen::RemoveKolom() {
   const Place place = Shown();
   if (!place.Vrij_Id) return false;
-  const auto kolom = Dossier().FindKolom(place.Len_Id, *place.Vrij_Id);
-  if (!kolom) return false;
-  const QString question =
-      QStringLiteral("Wilt u deze vrije kolom verwijderen?\n\n%1\n\nDit kan niet ongedaan worden gemaakt.")
-          .arg(QString::fromStdString(kolom->Kopregel()));
-  if (Ask(window(), QStringLiteral("Kolom verwijderen"), question, QStringLiteral("&Verwijderen")) == Answer::No) {
-    return false;
-  }
+  if (!Exists(place)) return false;
   if (!Remove(tree_->Neighbour(place))) return false;
   tree_->setFocus(Qt::OtherFocusReason);
   return true;

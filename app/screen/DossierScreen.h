@@ -61,10 +61,21 @@ class DossierScreen final : public QSplitter {
   bool MoveKolom(const Place& kolom, std::int16_t toLen_Id);
   /// A version of the column on the screen for a loan of the new situation.
   bool MakeAfwijking(std::int16_t Len_Id);
-  /// Asks first. What is being typed in the column goes with it.
+  /// What is being typed in the column goes with it. It can be undone, so nothing is asked.
   bool RemoveKolom();
+  /// Renames or removes the loan that is shown, or that the column shown belongs to; not that of the current situation.
+  bool RenameLening(const QString& name);
+  bool RemoveLening();
+
+  /// What Undo (or Redo) would take back (or do again), in words; empty where there is nothing.
+  [[nodiscard]] QString NextStep(dossier::StepKind kind);
+  /// Undoes or redoes one step, and shows the column concerned with the focus where the change was. A text that is
+  /// being typed is handed over before; another column is left as ever. Not done where that is refused.
+  bool Take(dossier::StepKind kind);
   bool AddLening(const QString& name);
   bool SetClient(const std::vector<dossier::PersoonGegevens>& personen, std::int16_t leeftijd);
+  /// Who works in the file from now on.
+  void SetAuthor(const QString& name) { file_->SetAuthor(name.toStdString()); }
   /// Has the file alone hold everything now, and not within a second.
   void WorkOff() { file_->WorkOff(); }
   /// The complete check of every column, after the box that is being edited was handed over; nothing where
@@ -98,9 +109,14 @@ class DossierScreen final : public QSplitter {
   void GiveWay();
   void TellFailure(const host::ErrorRecord& error);
   void PlanRebind();
+  /// Where a step of the history shows: the column or loan that it is about, if that is there now.
+  [[nodiscard]] std::optional<Place> PlaceOf(const dossier::Entry& entry);
+  [[nodiscard]] std::vector<dossier::Entry> Next(dossier::StepKind kind);
+  void ShowStep(const dossier::Done& done);
   void Rebind();
 
   EventLog& eventLog_;
+  Recording& recording_;
   std::shared_ptr<TraceLog> traceLog_;
   host::Subscriptions subscriptions_;
   std::unique_ptr<dossier::DossierFile> file_;

@@ -7,6 +7,7 @@
 #include <map>
 #include <vector>
 
+#include "app/history/HistoryWindow.h"
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
@@ -112,8 +113,9 @@ QString FilledIn(const QDialog& dialog) {
     const bool changed = window->Form().Rows()->Any() || qt::EntryBox::PendingWithin(dialog) != nullptr;
     return changed ? Rows(window->Form()).Text() : QString();
   }
-  // Where a file is chosen a name is typed, and nothing of a case.
-  return qobject_cast<const QFileDialog*>(&dialog) ? QString() : Answers(dialog);
+  // Where a file is chosen a name is typed, and in a filter what is looked for: nothing of a case.
+  const bool ofACase = !qobject_cast<const QFileDialog*>(&dialog) && !dynamic_cast<const HistoryWindow*>(&dialog);
+  return ofACase ? Answers(dialog) : QString();
 }
 
 }  // namespace brivane::app

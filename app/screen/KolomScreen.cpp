@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "app/desk/Today.h"
@@ -154,6 +155,23 @@ void KolomScreen::FocusOmschrijving() { frame::Controls(editor_->Surface())[vrij
 
 void KolomScreen::FocusFirst() {
   if (place_.Vrij_Id && editor_->IsBound()) frame::Controls(editor_->Surface())[vrijekolom::TxtDtAanvang].SetFocus();
+}
+
+void KolomScreen::FocusControl(const QString& name) {
+  if (!place_.Vrij_Id || !editor_->IsBound()) return;
+  QWidget* box = name.isEmpty() ? nullptr : editor_->findChild<QWidget*>(name);
+  // The name may be that of what stands around the box itself.
+  if (box && box->focusPolicy() == Qt::NoFocus && !box->focusProxy()) {
+    const QList<QWidget*> parts = box->findChildren<QWidget*>();
+    const auto part = std::find_if(parts.begin(), parts.end(), [](const QWidget* one) {
+      return one->focusPolicy() != Qt::NoFocus && one->isVisible() && one->isEnabled();
+    });
+    box = part == parts.end() ? nullptr : *part;
+  }
+  if (box && box->isVisible() && box->isEnabled())
+    box->setFocus(Qt::OtherFocusReason);
+  else
+    FocusFirst();
 }
 
 bool KolomScreen::HasFocus() const {

@@ -47,6 +47,8 @@ class KolomScreen final : public QStackedWidget {
   /// Puts the focus in the description, or in the first field.
   void FocusOmschrijving();
   void FocusFirst();
+  /// Puts the focus in the control of that name, "TxtBd" or "optLast(2)"; where it cannot take it, in the first field.
+  void FocusControl(const QString& name);
   /// Whether the focus is somewhere in the editor.
   [[nodiscard]] bool HasFocus() const;
 

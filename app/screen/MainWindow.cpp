@@ -1,5 +1,6 @@
 #include "app/screen/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
@@ -48,6 +49,7 @@ MainWindow::MainWindow(EventLog& eventLog)
   fileName_->setTextFormat(Qt::PlainText);
   statusBar()->addPermanentWidget(fileName_);
   Connect();
+  qApp->installEventFilter(this);
   resize(kFirstSize.boundedTo(screen()->availableSize() - kFrame));
   restoreGeometry(Settings::WindowPlace());
   UpdateActions();
@@ -80,6 +82,7 @@ void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   connect(screen_, &DossierScreen::placeChanged, this, &MainWindow::UpdateActions);
   connect(screen_, &DossierScreen::stored, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
+  connect(screen_, &DossierScreen::stored, this, &MainWindow::NameSteps);
   connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
   overviews_.Follow(*screen_);
   screen_->Tree().SetActions(actions_);
@@ -147,6 +150,7 @@ void MainWindow::UpdateActions() {
   for (QAction* action : actions_.ForEditing()) SetGrey(*action, readOnly);
   for (QAction* action : actions_.ForKolom()) SetGrey(*action, noKolom);
   if (screen_) FillLeningMenus(noKolom);
+  NameSteps();
 }
 
 void MainWindow::FillLeningMenus(const QString& noKolom) {

@@ -74,6 +74,8 @@ class MainWindow final : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  /// A box that is being typed in keeps its own keys for undo and redo; the others leave them to the menu.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Connect();
@@ -87,6 +89,11 @@ class MainWindow final : public QMainWindow {
   void Check();
   void ShowAbout();
   void AskRecording();
+  void Take(dossier::StepKind kind);
+  void ShowHistory();
+  void AskAuthor();
+  void AskLeningName();
+  void NameSteps();
   void RecordingBroken();
   [[nodiscard]] QString AskNewFile(const QString& title, const QString& name);
   /// The file stands where it was, or the person gives it up.

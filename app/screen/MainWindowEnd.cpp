@@ -191,7 +191,7 @@ void MainWindow::SaveCopy() {
     const QString file = AskNewFile(QStringLiteral("Kopie opslaan als"), name);
     if (file.isEmpty()) return;
     try {
-      dossier::DossierFile::Maak(file, screen_->Dossier().Gegevens());
+      screen_->File().Kopieer(file);
       std::unique_ptr<dossier::DossierFile> copy = dossier::DossierFile::Open(file);
       const Place place = screen_->Shown();
       LetGoOfFile();

@@ -42,6 +42,12 @@ void MainWindow::Connect() {
   on(actions_.exportPerioden, [this] { ExportPerioden(*this, *screen_); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
+  on(actions_.undo, [this] { Take(dossier::StepKind::Undo); });
+  on(actions_.redo, [this] { Take(dossier::StepKind::Redo); });
+  on(actions_.author, [this] { AskAuthor(); });
+  on(actions_.history, [this] { ShowHistory(); });
+  on(actions_.renameLening, [this] { AskLeningName(); });
+  on(actions_.removeLening, [this] { screen_->RemoveLening(); });
   on(actions_.add, [this] { screen_->AddKolom(dossier::Invoer::Bedragen); });
   on(actions_.addGrowth, [this] { screen_->AddKolom(dossier::Invoer::BedragenMetGroei); });
   on(actions_.addPercentages, [this] { screen_->AddKolom(dossier::Invoer::Percentages); });

@@ -1,6 +1,8 @@
 // One accepted edit in a loan file, and opening one, as multiples of the same on SQLite's C interface.
 
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <cstdio>
 #include <memory>
 
 #include "bench/Compare.h"
@@ -28,6 +30,34 @@ dossier::DossierGegevens Groot(int kolommen) {
     huidig.push_back(kolom);
   }
   return gegevens;
+}
+
+/// A history of so many edits of one amount, as the program would have written it.
+void AddHistory(const QString& pad, int entries) {
+  const bench::Connection database = bench::Open(pad.toLocal8Bit().constData());
+  const auto run = [&](const std::string& sql) {
+    if (sqlite3_exec(database.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
+  };
+  const std::string numbers =
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + std::to_string(entries) + ") ";
+  run("INSERT INTO naam VALUES (1, 'adviseur'), (2, 'Huidige lening'), (3, 'Kinderopvang')");
+  run(numbers + "INSERT INTO stap SELECT i, 1790000000000 + 60000 * i, 1, 0, i, i, 0, i, 100000 FROM n");
+  run(numbers +
+      "INSERT INTO wijziging SELECT i, i, 4, sleutel, lening, 2, sleutel, 3, 33, 100.25 + i, 101.25 + i FROM n, "
+      "(SELECT * FROM vrijekolom ORDER BY sleutel LIMIT 1)");
+  run("PRAGMA wal_checkpoint(TRUNCATE)");
+}
+
+/// What a thousand edits of one field add to a file, in bytes.
+long long GrowthOfAThousandEdits(const QString& pad) {
+  const auto size = [&] { return QFileInfo(pad).size(); };
+  const auto before = size();
+  {
+    const auto bestand = dossier::DossierFile::Open(pad);
+    const auto bedrag = bestand->Dossier()->FindKolom(0, 1)->Bedrag();
+    for (int n = 1; n <= 1000; ++n) bedrag->SetBedrag(n + 0.25);
+  }
+  return size() - before;
 }
 
 /// The editor on a loan file of its own, and a bare statement on another.
@@ -85,5 +115,23 @@ int main(int argc, char** argv) {
       "opening 10,000 columns", {.measured = "opening", .yardstick = "reading the rows", .aim = 3},
       [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(groot)); },
       [&] { benchmark::DoNotOptimize(bench::ReadRows(pad.constData())); });
+  const QString zonder = maak("zonder.dossier", dossier::VoorbeeldDossier());
+  const QString met = maak("met.dossier", dossier::VoorbeeldDossier());
+  AddHistory(met, 100000);
+  bench::CompareInTurn(
+      "opening the sample with 100,000 entries of history",
+      {.measured = "with history", .yardstick = "without", .aim = 1.1},
+      [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(met)); },
+      [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(zonder)); });
+  const QString grootMet = maak("groot-met.dossier", Groot(10000));
+  AddHistory(grootMet, 100000);
+  bench::CompareInTurn(
+      "opening 10,000 columns with 100,000 entries of history",
+      {.measured = "with history", .yardstick = "without", .aim = 1.1},
+      [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(grootMet)); },
+      [&] { benchmark::DoNotOptimize(dossier::DossierFile::Open(groot)); });
+  std::printf("1,000 edits of an amount add %lld bytes to a file; 100,000 entries make one of %lld bytes\n",
+              GrowthOfAThousandEdits(maak("groei.dossier", dossier::VoorbeeldDossier())),
+              static_cast<long long>(QFileInfo(met).size()));
   return bench::Run(argc, argv);
 }

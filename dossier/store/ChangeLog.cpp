@@ -408,11 +408,15 @@ std::vector<Entry> ChangeLog::EntriesOf(std::int64_t step) {
   query.bindValue(1, static_cast<qlonglong>(to));
   Database::Run(query);
   std::vector<Entry> entries;
-  while (query.next()) entries.push_back(TakeEntry(query));
-  const bool failed = query.lastError().isValid();
-  const DatabaseError error(query.lastError());
+  try {
+    while (query.next()) entries.push_back(TakeEntry(query));
+    if (query.lastError().isValid()) throw DatabaseError(query.lastError());
+  } catch (...) {
+    // A statement that still reads keeps the log from being worked off.
+    query.finish();
+    throw;
+  }
   query.finish();
-  if (failed) throw error;
   for (const Entry& entry : entries) {
     if (entry.step != step) Broken();
   }

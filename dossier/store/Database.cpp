@@ -17,7 +17,11 @@ QString Address(const QString& pad, const char* parameters) {
   return QString::fromLatin1(QUrl::fromLocalFile(pad).toEncoded(QUrl::FullyEncoded)) + u'?' + QLatin1String(parameters);
 }
 
+constexpr char kInMemory[] = ":memory:";
+
 }  // namespace
+
+QString Database::Untouched(const QString& pad) { return Address(pad, "immutable=1"); }
 
 DatabaseError::DatabaseError(const QSqlError& error)
     : std::runtime_error(error.databaseText().toStdString()),
@@ -37,7 +41,8 @@ Database::Database(const QString& pad, Access access)
   if (access == Access::Immutable || access == Access::ReadOnly) opties += QStringLiteral(";QSQLITE_OPEN_READONLY");
   if (access == Access::Immutable) naam = Address(pad, "immutable=1");
   if (access == Access::Held) naam = Address(pad, "vfs=unix-none&mode=rw");
-  if (naam != pad) opties += QStringLiteral(";QSQLITE_OPEN_URI");
+  // What is in memory may look at a file by its address.
+  if (naam != pad || pad == QLatin1String(kInMemory)) opties += QStringLiteral(";QSQLITE_OPEN_URI");
   database_.setConnectOptions(opties);
   database_.setDatabaseName(naam);
   if (database_.open()) return;

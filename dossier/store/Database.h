@@ -52,6 +52,9 @@ class Database {
   Database& operator=(const Database&) = delete;
   ~Database();
 
+  /// The address by which a connection in memory looks at a file without leaving a trace.
+  [[nodiscard]] static QString Untouched(const QString& pad);
+
   /// Runs a statement without results or parameters.
   void Run(const QString& sql);
   /// The first value of the first row.

@@ -17,6 +17,7 @@
 #include "dossier/store/Possible.h"
 #include "dossier/store/Reader.h"
 #include "dossier/store/Schema.h"
+#include "dossier/store/StateChain.h"
 
 namespace brivane::dossier {
 namespace {
@@ -96,16 +97,35 @@ Opened OpenToWork(const QString& pad) {
   return opened;
 }
 
+/// Takes a file's history over to a connection in memory. One that is damaged is left out: the case is whole.
+void TakeHistory(Database& memory, const QString& file) {
+  memory.Run(QStringLiteral("ATTACH '%1' AS bron").arg(Database::Untouched(file).replace(u'\'', QStringLiteral("''"))));
+  if (memory.Value(QStringLiteral("PRAGMA bron.user_version")).toInt() >= kVersionWithHistory) {
+    memory.Run(QStringLiteral("BEGIN"));
+    try {
+      for (const char* table : {"naam", "stap", "wijziging"}) {
+        memory.Run(QStringLiteral("INSERT INTO main.%1 SELECT * FROM bron.%1").arg(QLatin1String(table)));
+      }
+      memory.Run(QStringLiteral("COMMIT"));
+    } catch (const DatabaseError& error) {
+      memory.Run(QStringLiteral("ROLLBACK"));
+      if (!error.IsDamage()) throw;
+    }
+  }
+  memory.Run(QStringLiteral("DETACH bron"));
+}
+
 /// The whole of a file, in memory: the file itself is let go of.
 Opened OpenToRead(const QString& pad) {
   const FileLock lock(pad, LockKind::Shared);
   CheckHeader(pad);
-  const DossierGegevens contents = ReadUntouched(pad);
   Opened opened{.held = nullptr,
                 .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
                 .contents = {},
                 .earlier = {}};
   Migrate(*opened.database, 0);
+  const DossierGegevens contents =
+      ReadUntouched(pad, [&](const QString& whole) { TakeHistory(*opened.database, whole); });
   Writer(*opened.database, 1).WriteDossier(contents);
   opened.contents = ReadDossier(*opened.database);
   opened.database->Run(QStringLiteral("PRAGMA query_only = ON"));
@@ -115,6 +135,37 @@ Opened OpenToRead(const QString& pad) {
 /// A half file, with what SQLite leaves beside one where the disk failed.
 void Verwijder(const QString& voorlopig) {
   for (const char* deel : {"", "-journal", "-wal"}) QFile::remove(voorlopig + QLatin1String(deel));
+}
+
+/// Makes a file under a name that nothing has, complete or not at all.
+void MakeNew(const QString& pad, const std::function<void(const QString& voorlopig)>& fill) {
+  if (QFileInfo::exists(pad)) throw OpeningError(OpeningProblem::AlreadyThere, pad);
+  if (LeftOverStands(pad)) throw OpeningError(OpeningProblem::LogThere, pad);
+  // Written beside its place and then given its name, so that no half file ever has it.
+  const QString voorlopig = pad + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128);
+  if (!MakePrivateFile(voorlopig)) throw OpeningError(OpeningProblem::CannotCreate, pad);
+  try {
+    fill(voorlopig);
+  } catch (const DatabaseError& error) {
+    Verwijder(voorlopig);
+    throw OpeningError(error.Code() == SqliteCode::Full ? OpeningProblem::DiskFull : OpeningProblem::CannotCreate, pad);
+  }
+  switch (RenameToNew(voorlopig, pad)) {
+    case Renamed::Done: return;
+    case Renamed::NameIsTaken: Verwijder(voorlopig); throw OpeningError(OpeningProblem::AlreadyThere, pad);
+    case Renamed::Failed: Verwijder(voorlopig); throw OpeningError(OpeningProblem::CannotCreate, pad);
+  }
+}
+
+/// A copy of an open file with its history, as a file of its own.
+void CopyInto(Database& database, const QString& voorlopig) {
+  database.Run(QStringLiteral("VACUUM INTO '%1'").arg(QString(voorlopig).replace(u'\'', QStringLiteral("''"))));
+  Database copy(voorlopig, Access::ReadWrite);
+  // A log that leads on from the file that was copied is not the copy's.
+  copy.Run(QStringLiteral("BEGIN IMMEDIATE"));
+  AddState(copy, LogState::WorkedOff);
+  copy.Run(QStringLiteral("COMMIT"));
+  copy.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
 }
 
 }  // namespace
@@ -189,26 +240,19 @@ DossierFile::~DossierFile() {
 bool DossierFile::InPlace() const { return journal_->InPlace(); }
 
 void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
-  if (QFileInfo::exists(pad)) throw OpeningError(OpeningProblem::AlreadyThere, pad);
-  if (LeftOverStands(pad)) throw OpeningError(OpeningProblem::LogThere, pad);
   CheckPossible(gegevens, pad);
-  // Written beside its place and then given its name, so that no half file ever has it.
-  const QString voorlopig = pad + QStringLiteral(".") + QUuid::createUuid().toString(QUuid::Id128);
-  if (!MakePrivateFile(voorlopig)) throw OpeningError(OpeningProblem::CannotCreate, pad);
-  try {
+  MakeNew(pad, [&](const QString& voorlopig) {
     Database database(voorlopig, Access::ReadWrite);
     Migrate(database, 0);
     Writer(database, 1).WriteDossier(gegevens);
     database.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
-  } catch (const DatabaseError& error) {
-    Verwijder(voorlopig);
-    throw OpeningError(error.Code() == SqliteCode::Full ? OpeningProblem::DiskFull : OpeningProblem::CannotCreate, pad);
-  }
-  switch (RenameToNew(voorlopig, pad)) {
-    case Renamed::Done: return;
-    case Renamed::NameIsTaken: Verwijder(voorlopig); throw OpeningError(OpeningProblem::AlreadyThere, pad);
-    case Renamed::Failed: Verwijder(voorlopig); throw OpeningError(OpeningProblem::CannotCreate, pad);
-  }
+  });
+}
+
+void DossierFile::Kopieer(const QString& pad) const {
+  // What was opened to be read stands in memory, for the case alone.
+  if (read_only_) return Maak(pad, dossier_->Gegevens());
+  MakeNew(pad, [&](const QString& voorlopig) { CopyInto(*journal_->Bestand(), voorlopig); });
 }
 
 Edits& DossierFile::Bewerkingen() { return journal_->Bewerkingen(); }

@@ -41,6 +41,10 @@ class DossierFile {
   /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
   static void Maak(const QString& pad, const DossierGegevens& gegevens);
 
+  /// Makes another file of this one, with its history, complete or not at all; also where this one was moved or
+  /// deleted. Throws OpeningError; never replaces a file.
+  void Kopieer(const QString& pad) const;
+
   DossierFile(const DossierFile&) = delete;
   DossierFile& operator=(const DossierFile&) = delete;
   ~DossierFile();

@@ -53,11 +53,16 @@ bool IsProved(const QString& copy, Database& together) {
 }
 
 /// The file with its log, in a copy.
-DossierGegevens ReadCopy(const QString& path) {
+DossierGegevens ReadCopy(const QString& path, const std::function<void(const QString&)>& look = nullptr) {
   const Copy copy(path);
   Database together(copy.Path(), Access::ReadWrite);
   if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, path);
-  return ReadChecked(together, path).gegevens;
+  DossierGegevens contents = ReadChecked(together, path).gegevens;
+  if (look) {
+    together.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    look(copy.Path());
+  }
+  return contents;
 }
 
 bool HasLog(const QString& path) {
@@ -72,10 +77,12 @@ void CheckLeftOver(const QString& path) {
   if (HasLog(path)) static_cast<void>(ReadCopy(path));
 }
 
-DossierGegevens ReadUntouched(const QString& path) {
-  if (HasLog(path)) return ReadCopy(path);
+DossierGegevens ReadUntouched(const QString& path, const std::function<void(const QString& whole)>& look) {
+  if (HasLog(path)) return ReadCopy(path, look);
   Database database(path, Access::Immutable);
-  return ReadChecked(database, path).gegevens;
+  DossierGegevens contents = ReadChecked(database, path).gegevens;
+  look(path);
+  return contents;
 }
 
 bool LeftOverStands(const QString& path) {

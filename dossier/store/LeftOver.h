@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 #include "dossier/model/Gegevens.h"
 
@@ -12,8 +13,9 @@ namespace brivane::dossier {
 void CheckLeftOver(const QString& path);
 
 /// What a file holds with the log that was left beside it, proved and whole, read without changing any of it. Throws
-/// OpeningError and DatabaseError. The caller holds the file.
-[[nodiscard]] DossierGegevens ReadUntouched(const QString& path);
+/// OpeningError and DatabaseError. The caller holds the file. `look` is handed the name of a file that alone holds all
+/// of it, as long as it is there.
+[[nodiscard]] DossierGegevens ReadUntouched(const QString& path, const std::function<void(const QString& whole)>& look);
 
 /// Whether a log or journal stands under the name that a new file would have.
 [[nodiscard]] bool LeftOverStands(const QString& path);

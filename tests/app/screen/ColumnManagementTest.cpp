@@ -52,16 +52,9 @@ TEST_F(ColumnManagementTest, DuplicatesAColumnAsAnItemOfItsOwn) {
   EXPECT_EQ(ReadAfterClosing()["0/8/productnaam"].toString(), "Seniorlid");
 }
 
-TEST_F(ColumnManagementTest, RemovesAColumnOnlyAfterAYes) {
+TEST_F(ColumnManagementTest, RemovesAColumnFromTheListByOneKey) {
   ASSERT_TRUE(Screen().GoTo({0, 3}));
   PressKey(Qt::Key_F6);
-  dialogs_.ExpectMessage("Muzieklessen aan huis", Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Delete);
-  EXPECT_EQ(Kolommen(0).size(), 6);
-  EXPECT_EQ(Screen().Shown(), (Place{0, 3}));
-
-  dialogs_.ExpectMessage("Wilt u deze vrije kolom verwijderen?",
-                         [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_V, Qt::AltModifier); });
   PressKey(Qt::Key_Delete);
   EXPECT_EQ(Kolommen(0).size(), 5);
   EXPECT_EQ(Screen().Shown(), (Place{0, 4}));
@@ -208,19 +201,6 @@ TEST_F(ColumnManagementTest, ALetterWithAltIsTypedIntoNoNameOfALoan) {
     QTest::keyClick(&box, Qt::Key_Escape);
   });
   window_->Actions().addLening->trigger();
-}
-
-TEST_F(ColumnManagementTest, ALetterAloneRemovesNoColumn) {
-  ASSERT_TRUE(Screen().GoTo({0, 3}));
-  PressKey(Qt::Key_F6);
-  dialogs_.ExpectMessage("Wilt u deze vrije kolom verwijderen?", [](QWidget& window) {
-    QTest::keyClick(window.windowHandle(), Qt::Key_V);
-    QTest::qWait(200);  // a button that a letter presses stays down for a moment
-    EXPECT_TRUE(window.isVisible());
-    if (window.isVisible()) QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
-  });
-  PressKey(Qt::Key_Delete);
-  EXPECT_EQ(Kolommen(0).size(), 6);
 }
 
 TEST_F(ColumnManagementTest, MovesAColumnByKeyboard) {

@@ -301,5 +301,42 @@ TEST(UndoTest, ALoanComesBackInItsPlaceWithAllThatItHeld) {
   EXPECT_THROW(dossier.VerwijderLening(9), host::Error);
 }
 
+TEST(UndoTest, ACopyGoesOnWithTheHistoryAndTheWayBack) {
+  const Folder folder;
+  const QString path = folder.Make();
+  const QString copy = folder.Path("kopie d'or.dossier");
+  DossierGegevens contents;
+  {
+    const auto file = DossierFile::Open(path);
+    file->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+    contents = file->Dossier()->Gegevens();
+    // Also of a file that is no longer where it was.
+    ASSERT_TRUE(QFile::remove(path));
+    file->Kopieer(copy);
+  }
+  EXPECT_EQ(QFile::permissions(copy) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+  const auto file = DossierFile::Open(copy);
+  EXPECT_EQ(file->Dossier()->Gegevens(), contents);
+  EXPECT_EQ(file->Geschiedenis()->Find({}).size(), 1U);
+  ASSERT_TRUE(file->Take(StepKind::Undo));
+  EXPECT_EQ(file->Dossier()->FindKolom(0, 1)->Looptijd(), 96);
+  EXPECT_THROW(file->Kopieer(copy), OpeningError);
+}
+
+TEST(UndoTest, AFileThatIsOnlyReadShowsItsHistoryAndUndoesNothing) {
+  const Folder folder;
+  const QString path = folder.Make();
+  DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+  QFile::setPermissions(path, QFile::ReadOwner);
+  const auto file = DossierFile::Open(path);
+  ASSERT_TRUE(file->IsReadOnly());
+  const auto history = file->Geschiedenis();
+  const std::vector<HistoryLine> lines = history->Lines(history->Find({}));
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0].entry.kolom_naam, "Kinderopvang");
+  EXPECT_TRUE(file->Next(StepKind::Undo).empty());
+  EXPECT_THROW(file->Take(StepKind::Undo), host::Error);
+}
+
 }  // namespace
 }  // namespace brivane::dossier
