@@ -9,6 +9,7 @@ namespace {
 
 constexpr char kWindowPlace[] = "venster/plaats";
 constexpr char kSplit[] = "venster/verdeling";
+constexpr char kAuthor[] = "adviseur";
 constexpr char kLastFile[] = "laatsteBestand";
 
 QVariant Read(const char* key) { return QSettings().value(QLatin1String(key)); }
@@ -22,6 +23,15 @@ QByteArray Settings::Split() { return Read(kSplit).toByteArray(); }
 void Settings::SetSplit(const QByteArray& split) { Write(kSplit, split); }
 QString Settings::LastFile() { return Read(kLastFile).toString(); }
 void Settings::SetLastFile(const QString& file) { Write(kLastFile, file); }
+
+QString Settings::Author() {
+  QString name = Read(kAuthor).toString();
+  for (const char* account : {"USER", "LOGNAME", "USERNAME"}) {
+    if (name.isEmpty()) name = qEnvironmentVariable(account);
+  }
+  return name;
+}
+void Settings::SetAuthor(const QString& name) { Write(kAuthor, name); }
 
 QString Settings::Folder() {
   const QString last = LastFile();

@@ -18,6 +18,10 @@ class Settings {
   /// Full path, empty when there is none.
   [[nodiscard]] static QString LastFile();
   static void SetLastFile(const QString& file);
+  /// Who works here, as a history names them: what was set, else the account's name.
+  [[nodiscard]] static QString Author();
+  /// An empty name is the account's.
+  static void SetAuthor(const QString& name);
   /// Folder in which the file dialogs start.
   [[nodiscard]] static QString Folder();
 };

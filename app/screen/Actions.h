@@ -39,6 +39,8 @@ struct Actions {
   QAction* client;
   QAction* addLening;
   QAction* check;
+  QAction* overview;
+  QAction* verloop;
 
   QAction* record;  ///< checked while a recording runs
   QAction* eventLog;

@@ -72,6 +72,13 @@ void TelOp(Totaal& totaal, const Post& post) {
 
 }  // namespace
 
+Tarieven TarievenVan(std::span<const dossier::PersoonGegevens> personen) {
+  Tarieven tarieven;
+  for (std::size_t i = 0; i < std::min(tarieven.size(), personen.size()); ++i)
+    tarieven[i] = personen[i].Belastingtarief;
+  return tarieven;
+}
+
 bool Post::Eenmalig() const { return termijn == codes::kEenmalig; }
 
 Post PostVan(const dossier::KolomGegevens& kolom, std::int16_t Len_Id,

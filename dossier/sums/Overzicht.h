@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,9 @@ struct Uitgangspunt {
   Levensscenario scenario = Levensscenario::ZoalsNu;
   Tarieven tarieven;
 };
+
+/// The rates that were entered for the persons of a case.
+[[nodiscard]] Tarieven TarievenVan(std::span<const dossier::PersoonGegevens> personen);
 
 /// Whether a column counts, and if not why. The first that holds, in this order.
 enum class Stand : std::uint8_t {
