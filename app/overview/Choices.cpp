@@ -58,6 +58,8 @@ Choices::Choices(QWidget* parent)
   peildatum_->setObjectName(QStringLiteral("peildatum"));
   peildatum_->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
   peildatum_->setCalendarPopup(true);
+  // What is half typed is no day to reckon on.
+  peildatum_->setKeyboardTracking(false);
   peildatum_->setDateRange(QDate(1900, 1, 1), QDate(2199, 12, 31));
   peildatum_->setDate(ToQDate(Today()));
   Add(QStringLiteral("&Situatie:"), situatie_);

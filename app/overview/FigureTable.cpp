@@ -52,15 +52,19 @@ FigureTable::FigureTable(QAbstractItemModel& model, const QString& name, const c
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setResizeContentsPrecision(100);
-  horizontalHeader()->setStretchLastSection(true);
   connect(this, &QTableView::activated, this, [this](const QModelIndex& index) {
     if (chosen) chosen(index.row());
   });
 }
 
 void FigureTable::FitColumns() {
+  // The last column takes what is left over, but not away from the numbers in it.
+  const int last = model()->columnCount() - 1;
+  const bool number = model()->headerData(last, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+  horizontalHeader()->setStretchLastSection(false);
   resizeColumnsToContents();
-  const int widest = fontMetrics().averageCharWidth() * 34;
+  horizontalHeader()->setStretchLastSection(!number);
+  const int widest = fontMetrics().averageCharWidth() * 44;
   if (columnWidth(0) > widest) setColumnWidth(0, widest);
 }
 

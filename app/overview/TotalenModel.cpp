@@ -28,7 +28,7 @@ constexpr std::array<Figure, 6> kFigures{{
      [](const sums::Totalen& t) { return t.eenmalig.effect.belasting; }},
 }};
 
-const Figure& FigureAt(int column) { return kFigures[static_cast<std::size_t>((column - 1) / 2)]; }
+const Figure& FigureAt(int column) { return kFigures.at(static_cast<std::size_t>((column - 1) / 2)); }
 bool IsDifference(int column) { return column > 0 && column % 2 == 0; }
 
 QString FullHeading(int column) {

@@ -22,7 +22,7 @@ std::vector<QStringList> AgesIn(const dossier::DossierGegevens& dossier, const s
   return ages;
 }
 
-/// The values of the years; none where each of them is nothing.
+/// One figure of each of the years.
 template <class Year> std::vector<std::optional<double>> Values(const std::vector<Year>& years, double Year::*value) {
   std::vector<std::optional<double>> values;
   for (const Year& year : years) values.emplace_back(year.*value);

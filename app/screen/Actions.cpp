@@ -51,7 +51,7 @@ Actions::Actions(QMainWindow& window)
       client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       addLening(MakeAction(window, "&Lening toevoegen…")),
       check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
-      overview(MakeAction(window, "&Overzicht", QKeySequence(Qt::Key_F9))),
+      overview(MakeAction(window, "Over&zicht", QKeySequence(Qt::Key_F9))),
       verloop(MakeAction(window, "&Verloop", QKeySequence(Qt::SHIFT | Qt::Key_F9))),
       record(MakeAction(window, "Op&nemen…")),
       eventLog(MakeAction(window, "&Logboek…")),
