@@ -45,12 +45,12 @@ class PdfTest : public testing::Test {
 TEST_F(PdfTest, TheSampleCaseCanBeReadAsText) {
   Make(SampleSource());
   const QStringList pages = Pages();
-  ASSERT_EQ(pages.size(), 3);
+  ASSERT_EQ(pages.size(), 4);
   const QString text = pages.join(u'\n');
   for (const char* part :
        {"Overzicht van de vrije kolommen", "M.C. van den Heuvel, geboren 12-03-1978", "Jan de Vries", "22-11-2026",
-        "jaar 3 t/m 4: 01-09-2026 t/m 31-08-2028", "-112,50", "Krant, Dagblad De Maasbode, De", "Pagina 1 van 3",
-        "Pagina 3 van 3", "Lasten per jaar (€)", "Wordt beëindigd in voorstel 1"})
+        "jaar 3 t/m 4: 01-09-2026 t/m 31-08-2028", "-112,50", "Krant, Dagblad De Maasbode, De", "Pagina 1 van 4",
+        "Pagina 4 van 4", "Lasten per jaar (€)", "Wordt beëindigd in voorstel 1"})
     EXPECT_TRUE(text.contains(QString::fromUtf8(part))) << part;
 }
 
