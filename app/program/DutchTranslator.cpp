@@ -154,7 +154,8 @@ constexpr Translation kTranslations[] = {
      "Het bestand %1 kan niet worden geschreven.\nKies een andere naam."},
     {"%1 already exists.\nDo you want to overwrite it?", "%1 bestaat al.\nWilt u het overschrijven?"},
     {"Invalid Pages Definition", "Onjuiste pagina's"},
-    {"%1 does not follow the correct syntax. Please use ',' to separate ranges and pages, '-' to define ranges and make "
+    {"%1 does not follow the correct syntax. Please use ',' to separate ranges and pages, '-' to define ranges and "
+     "make "
      "sure ranges do not intersect with each other.",
      "%1 is niet te lezen als pagina's. Zet een komma tussen pagina's en een streepje in een reeks: 1,3-5."},
     {"%1 already exists.\nDo you want to replace it?", "%1 bestaat al.\nWilt u het vervangen?"},
