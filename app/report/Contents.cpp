@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/overview/Words.h"
 #include "app/report/KolomWords.h"
+#include "app/report/Pictures.h"
 #include "app/report/Totals.h"
 #include "app/report/Years.h"
 #include "dossier/model/Kopteksten.h"
@@ -50,6 +52,8 @@ Facts ClientFacts(const Source& source) {
   return facts;
 }
 
+std::string AsSentence(const QString& text) { return (text.left(1).toUpper() + text.mid(1)).toStdString(); }
+
 std::string Product(const KolomGegevens& kolom) {
   if (!kolom.IsProduct) return {};
   return Joined(
@@ -94,10 +98,10 @@ Cell Looptijd(const KolomGegevens& kolom, const sums::Post& post) {
   return {"van " + start, {end.empty() ? "zonder einde" : "tot " + end}};
 }
 
-/// What a column does in euros, or why it does nothing.
+/// What a column does in euros, if it counts.
 Cell Effect(const sums::Post& post, double effect, const char* period) {
-  if (post.stand != sums::Stand::Telt) return {"–", {StandText(post.stand)}};
-  return {EuroText(effect), {post.Eenmalig() ? "eenmalig" : period}};
+  if (post.stand != sums::Stand::Telt) return {"–", {}};
+  return {SignedEuros(effect).toStdString(), {post.Eenmalig() ? "eenmalig" : period}};
 }
 
 class SituationTable {
@@ -107,7 +111,7 @@ class SituationTable {
   void Add(const sums::Overzicht::Regel& regel) {
     const KolomGegevens& kolom = KolomOf(source_.gegevens, *regel.post);
     TableRow& row = table_.rows.emplace_back();
-    row.cells = {{NameOf(kolom), Notes(regel.herkomst, kolom)},
+    row.cells = {{NameOf(kolom), Notes(regel, kolom)},
                  {CorrectieLastText(kolom), {CorrectieFiscaalText(kolom)}},
                  {dossier::Basisbedrag(kolom), {TermijnText(kolom)}},
                  Looptijd(kolom, *regel.post),
@@ -121,13 +125,14 @@ class SituationTable {
   [[nodiscard]] Table Take() { return std::move(table_); }
 
  private:
-  [[nodiscard]] std::vector<std::string> Notes(sums::Herkomst herkomst, const KolomGegevens& kolom) const {
-    std::vector<std::string> notes{HerkomstText(herkomst)};
-    if (herkomst != sums::Herkomst::Volgt) {
+  [[nodiscard]] std::vector<std::string> Notes(const sums::Overzicht::Regel& regel, const KolomGegevens& kolom) const {
+    std::vector<std::string> notes{OriginText(regel.herkomst)};
+    if (regel.herkomst != sums::Herkomst::Volgt) {
       for (std::string& note : std::vector<std::string>{Product(kolom), Inkomen(kolom), LeftOut(kolom),
                                                         Overlijden(kolom), Proposals(source_.gegevens, kolom.Id)})
         notes.push_back(std::move(note));
     }
+    notes.push_back(AsSentence(StandText(*regel.post)));
     std::erase(notes, std::string());
     return notes;
   }
@@ -172,6 +177,7 @@ Report ReportOf(const Source& source) {
   AddTotals(report, source, overzicht);
   for (std::int16_t situatie = 0; situatie <= overzicht.NieuweLeningen(); ++situatie) {
     report.blocks.emplace_back(Heading{SituationName(source, situatie)});
+    AddPictures(report, source, situatie);
     const auto regels = overzicht.Regels(situatie);
     if (regels.empty()) {
       report.blocks.emplace_back(Paragraph{"Er zijn geen vrije kolommen."});

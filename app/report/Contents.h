@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "app/report/Report.h"
 #include "dossier/model/Gegevens.h"
@@ -12,7 +11,6 @@ namespace brivane::app::report {
 /// What a report is made of.
 struct Source {
   dossier::DossierGegevens gegevens;
-  std::vector<std::string> leningen;  ///< what the screen calls the loans, the current one first
   std::string adviser;
   host::Date today;
   sums::Uitgangspunt uitgangspunt;  ///< what is added up

@@ -63,37 +63,12 @@ std::string ValueText(const dossier::KolomGegevens& kolom, double value) {
   return EuroText(value);
 }
 
-std::string StandText(sums::Stand stand) {
-  switch (stand) {
-    case sums::Stand::Telt: return {};
-    case sums::Stand::GeenAanvang: return "geen aanvangsdatum";
-    case sums::Stand::GeenTermijn: return "geen termijn";
-    case sums::Stand::NogNiet: return "nog niet";
-    case sums::Stand::Afgelopen: return "afgelopen";
-    case sums::Stand::Percentage: return "percentage";
-    case sums::Stand::NietInScenario: return "niet in scenario";
-  }
-  return {};
-}
-
-std::string HerkomstText(sums::Herkomst herkomst) {
+std::string OriginText(sums::Herkomst herkomst) {
   switch (herkomst) {
     case sums::Herkomst::Huidig: return {};
     case sums::Herkomst::Volgt: return "Volgt de huidige situatie";
     case sums::Herkomst::Afwijking: return "Afwijking van de huidige situatie";
     case sums::Herkomst::AlleenNieuw: return "Alleen in de nieuwe situatie";
-  }
-  return {};
-}
-
-std::string ScenarioText(sums::Levensscenario scenario) {
-  switch (scenario) {
-    case sums::Levensscenario::ZoalsNu: return "zoals nu";
-    case sums::Levensscenario::Arbeidsongeschikt: return "arbeidsongeschiktheid";
-    case sums::Levensscenario::Werkloos: return "werkloosheid";
-    case sums::Levensscenario::Langleven: return "langleven";
-    case sums::Levensscenario::OverlijdenAanvrager: return "overlijden van de aanvrager";
-    case sums::Levensscenario::OverlijdenPartner: return "overlijden van de partner";
   }
   return {};
 }

@@ -25,10 +25,7 @@ namespace brivane::app::report {
 /// What a year has: "€ 310,00", or "2,5 %" of a column of percentages.
 [[nodiscard]] std::string ValueText(const dossier::KolomGegevens& kolom, double value);
 
-/// Why a column does not count on the day; empty for one that does.
-[[nodiscard]] std::string StandText(sums::Stand stand);
-/// How it comes to be in its situation; empty for one of the current situation.
-[[nodiscard]] std::string HerkomstText(sums::Herkomst herkomst);
-[[nodiscard]] std::string ScenarioText(sums::Levensscenario scenario);
+/// How a column comes to be in its situation; empty for one of the current situation.
+[[nodiscard]] std::string OriginText(sums::Herkomst herkomst);
 
 }  // namespace brivane::app::report

@@ -14,6 +14,7 @@ constexpr double kBelowParagraph = 6;
 constexpr double kFactNames = 90;    ///< room for the names of facts
 constexpr double kRowPadding = 2.5;  ///< above and below the lines of a row
 constexpr double kDetailPadding = 1;
+constexpr double kPictureHeight = 150;
 constexpr double kHeadRoom = 20;         ///< from the running title to what follows
 constexpr double kFootGap = 12;          ///< between what stands left and right in the foot
 constexpr double kFootRoom = 22;         ///< from what stands above to the foot
@@ -134,6 +135,12 @@ class Composer {
       PutRow(rows[i], layout);
     }
     y_ += kBelowParagraph;
+  }
+
+  void Add(const Picture& picture) {
+    Reserve(kPictureHeight);
+    Here().pictures.push_back({sheet_.margin, y_, width_, kPictureHeight, picture});
+    y_ += kPictureHeight + kBelowParagraph;
   }
 
   void PutRow(const BrokenRow& row, const TableLayout& layout) {

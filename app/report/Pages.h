@@ -42,10 +42,19 @@ struct Stroke {
   double width = 0;
 };
 
+struct PicturePlace {
+  double left = 0;
+  double top = 0;
+  double width = 0;
+  double height = 0;
+  Picture picture;
+};
+
 struct Page {
   std::vector<Line> lines;
   std::vector<Band> bands;
   std::vector<Stroke> strokes;
+  std::vector<PicturePlace> pictures;
 };
 
 /// The pages of a report, one at least, each with its foot: who made it and when, and "Pagina 1 van 3"; from the second

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/overview/YearPicture.h"
+
 namespace brivane::app::report {
 namespace {
 
@@ -45,6 +47,7 @@ class PagePainter {
     for (const Stroke& stroke : page.strokes)
       painter_.fillRect(Rect(stroke.left, stroke.top, stroke.width, kStrokeWidth), QColor::fromRgba(kStrokeColor));
     for (const Line& line : page.lines) Paint(line);
+    for (const PicturePlace& place : page.pictures) Paint(place);
   }
 
  private:
@@ -63,6 +66,22 @@ class PagePainter {
     const double height = ruler_.LineHeight(line.letters) * line.scale * kParts;
     const double baseline = line.top * kParts + (height - metrics.height()) / 2 + metrics.ascent();
     painter_.drawText(QPointF(x, baseline), text);
+  }
+
+  /// In pixels of a screen, as the picture is used to.
+  void Paint(const PicturePlace& place) {
+    constexpr double kPixel = 0.75;  ///< points
+    painter_.save();
+    painter_.translate(place.left * kParts, place.top * kParts);
+    painter_.scale(kPixel * kParts, kPixel * kParts);
+    QFont font = ruler_.Font(Letters::Note);
+    font.setPixelSize(qRound(PointsOf(Letters::Note) / kPixel));
+    painter_.setFont(font);
+    // What stands left of the axis may need more room than its numbers.
+    constexpr double kLeft = 20;
+    PaintYears(painter_, QRectF(kLeft, 0, place.width / kPixel - kLeft, place.height / kPixel), *place.picture.years,
+               YearColors::OnWhite());
+    painter_.restore();
   }
 
   QPainter& painter_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <variant>
@@ -9,6 +10,12 @@
 ///
 ///     const Report report = ReportOf(source);                 // Contents.h
 ///     const std::vector<Page> pages = Paginate(report, ruler); // Pages.h
+namespace brivane::app {
+
+struct YearData;
+
+}  // namespace brivane::app
+
 namespace brivane::app::report {
 
 enum class Align { Left, Right };
@@ -65,7 +72,13 @@ struct Table {
   friend bool operator==(const Table&, const Table&) = default;
 };
 
-using Block = std::variant<Heading, Paragraph, Facts, Table>;
+/// A picture of years, as the screen shows it.
+struct Picture {
+  std::shared_ptr<const YearData> years;
+  friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+using Block = std::variant<Heading, Paragraph, Facts, Table, Picture>;
 
 struct Report {
   std::string title;

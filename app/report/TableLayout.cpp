@@ -25,11 +25,11 @@ Letters LettersOf(RowKind kind) {
 
 /// What a column asks so that none of its texts is broken; words are, from a width on.
 double Asked(const Table& table, std::size_t column, const Ruler& ruler) {
-  const TableColumn& spec = table.columns[column];
-  double widest = WidestWord(spec.heading, Letters::Strong, ruler);
+  const TableColumn& of = table.columns[column];
+  double widest = WidestWord(of.heading, Letters::Strong, ruler);
   const auto ask = [&](const std::string& text, Letters letters) {
     const double width = ruler.Width(text, letters);
-    widest = std::max(widest, spec.align == Align::Right ? width : std::min(width, kWidestText));
+    widest = std::max(widest, of.align == Align::Right ? width : std::min(width, kWidestText));
   };
   for (const TableRow& row : table.rows) {
     const Cell& cell = row.cells[column];

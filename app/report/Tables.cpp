@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "app/desk/Csv.h"
+#include "app/overview/Words.h"
 #include "app/report/KolomWords.h"
 #include "app/report/Years.h"
 #include <brivane/frame/Dates.h>
@@ -13,7 +14,7 @@ namespace {
 
 using dossier::KolomGegevens;
 
-void Headings(Csv& csv, std::initializer_list<const char*> headings) {
+void WriteHeadings(Csv& csv, std::initializer_list<const char*> headings) {
   for (const char* heading : headings) csv.Text(heading);
   csv.EndRow();
 }
@@ -48,7 +49,7 @@ const char* InvoerText(const KolomGegevens& kolom) {
 }
 
 template <class Visit> void ForEachKolom(const Source& source, Visit&& visit) {
-  std::size_t number = 0;
+  std::int16_t number = 0;
   const auto lening = [&](const dossier::LeningGegevens& one) {
     for (const KolomGegevens& kolom : one.VrijeKolommen) visit(number, kolom);
     ++number;
@@ -57,11 +58,12 @@ template <class Visit> void ForEachKolom(const Source& source, Visit&& visit) {
   for (const auto& one : source.gegevens.Leningen) lening(one);
 }
 
-void Place(Csv& csv, const Source& source, std::size_t lening, const KolomGegevens& kolom) {
-  csv.Text(lening == 0 ? "Huidige situatie" : "Nieuwe situatie").Text(source.leningen.at(lening)).Number(kolom.Id);
+void Place(Csv& csv, const Source& source, std::int16_t lening, const KolomGegevens& kolom) {
+  csv.Text(lening == 0 ? "Huidige situatie" : "Nieuwe situatie");
+  csv.Text(SituatieText(source.gegevens, lening).toStdString()).Number(kolom.Id);
 }
 
-void KolomRow(Csv& csv, const Source& source, std::size_t lening, const KolomGegevens& kolom) {
+void KolomRow(Csv& csv, const Source& source, std::int16_t lening, const KolomGegevens& kolom) {
   const auto& gegevens = source.gegevens;
   const sums::Looptijd runs = sums::LooptijdVan(kolom);
   const bool contract = host::codes::IsContractsoort(kolom.Productsoort);
@@ -96,47 +98,47 @@ void KolomRow(Csv& csv, const Source& source, std::size_t lening, const KolomGeg
 
 std::string KolommenCsv(const Source& source) {
   Csv csv;
-  Headings(csv, {"Situatie",
-                 "Lening",
-                 "Nummer",
-                 "Omschrijving",
-                 "Bedrag",
-                 "Eenheid",
-                 "Invoer",
-                 "Termijn",
-                 "Aanvangsdatum",
-                 "Einddatum",
-                 "Looptijd in maanden",
-                 "Contractvervaldatum",
-                 "Correctie last",
-                 "Correctie fiscaal",
-                 "Inkomen uit arbeid",
-                 "Onderdeel dagloon",
-                 "Heffing bij",
-                 "Product",
-                 "Soort product",
-                 "Maatschappij",
-                 "Productnaam",
-                 "Uw bemiddeling",
-                 "Beëindigen in voorstel 1",
-                 "Beëindigen in voorstel 2",
-                 "Beëindigen in voorstel 3",
-                 "Arbeidsongeschiktheid",
-                 "Werkloosheid",
-                 "Langleven",
-                 "Overlijden",
-                 "Overgang naar partner (%)",
-                 "Einddatum overgang",
-                 "Eindleeftijd overgang"});
-  ForEachKolom(source, [&](std::size_t lening, const KolomGegevens& kolom) { KolomRow(csv, source, lening, kolom); });
+  WriteHeadings(csv, {"Situatie",
+                      "Lening",
+                      "Nummer",
+                      "Omschrijving",
+                      "Bedrag",
+                      "Eenheid",
+                      "Invoer",
+                      "Termijn",
+                      "Aanvangsdatum",
+                      "Einddatum",
+                      "Looptijd in maanden",
+                      "Contractvervaldatum",
+                      "Correctie last",
+                      "Correctie fiscaal",
+                      "Inkomen uit arbeid",
+                      "Onderdeel dagloon",
+                      "Heffing bij",
+                      "Product",
+                      "Soort product",
+                      "Maatschappij",
+                      "Productnaam",
+                      "Uw bemiddeling",
+                      "Beëindigen in voorstel 1",
+                      "Beëindigen in voorstel 2",
+                      "Beëindigen in voorstel 3",
+                      "Arbeidsongeschiktheid",
+                      "Werkloosheid",
+                      "Langleven",
+                      "Overlijden",
+                      "Overgang naar partner (%)",
+                      "Einddatum overgang",
+                      "Eindleeftijd overgang"});
+  ForEachKolom(source, [&](std::int16_t lening, const KolomGegevens& kolom) { KolomRow(csv, source, lening, kolom); });
   return csv.Bytes();
 }
 
 std::string PeriodenCsv(const Source& source) {
   Csv csv;
-  Headings(csv, {"Situatie", "Lening", "Nummer", "Omschrijving", "Jaar", "Van", "Tot en met", "Bedrag", "Eenheid",
-                 "Termijn", "Op jaarbasis"});
-  ForEachKolom(source, [&](std::size_t lening, const KolomGegevens& kolom) {
+  WriteHeadings(csv, {"Situatie", "Lening", "Nummer", "Omschrijving", "Jaar", "Van", "Tot en met", "Bedrag", "Eenheid",
+                      "Termijn", "Op jaarbasis"});
+  ForEachKolom(source, [&](std::int16_t lening, const KolomGegevens& kolom) {
     for (const Year& year : YearsOf(kolom, RowsUntilAgeLimit(source.gegevens, kolom, source.today))) {
       Place(csv, source, lening, kolom);
       csv.Text(kolom.Omschrijving).Number(year.number);

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/report/KolomWords.h"
+#include "app/overview/Words.h"
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Dates.h>
 #include <brivane/host/model/Codes.h>
@@ -14,16 +14,12 @@ namespace {
 using sums::Overzicht;
 using sums::Totaal;
 
-std::string TaxText(const sums::Effect& effect) {
-  return effect.belasting ? EuroText(*effect.belasting) : "tarief onbekend";
-}
-
 /// Whose income it is, where there are two.
 std::vector<std::string> ByPerson(const Source& source, const Totaal& totaal) {
   std::vector<std::string> lines;
   if (source.gegevens.Personen.size() < 2) return lines;
-  if (totaal.inkomen[0] != 0) lines.push_back("aanvrager " + EuroText(totaal.inkomen[0]));
-  if (totaal.inkomen[1] != 0) lines.push_back("partner " + EuroText(totaal.inkomen[1]));
+  if (totaal.inkomen[0] != 0) lines.push_back("aanvrager " + SignedEuros(totaal.inkomen[0]).toStdString());
+  if (totaal.inkomen[1] != 0) lines.push_back("partner " + SignedEuros(totaal.inkomen[1]).toStdString());
   return lines;
 }
 
@@ -61,9 +57,9 @@ class TotalsTable {
   void Add(RowKind kind, std::string name, const Totaal& totaal) {
     TableRow row{kind,
                  {{std::move(name), {}},
-                  {EuroText(totaal.effect.last), {}},
-                  {EuroText(totaal.effect.inkomen), ByPerson(source_, totaal)}}};
-    if (tax_) row.cells.push_back({TaxText(totaal.effect), {}});
+                  {SignedEuros(totaal.effect.last).toStdString(), {}},
+                  {SignedEuros(totaal.effect.inkomen).toStdString(), ByPerson(source_, totaal)}}};
+    if (tax_) row.cells.push_back({SignedEuros(totaal.effect.belasting).toStdString(), {}});
     table_.rows.push_back(std::move(row));
   }
 
@@ -84,17 +80,16 @@ bool HasOneOffs(const Overzicht& overzicht) {
 }  // namespace
 
 std::string SituationName(const Source& source, std::int16_t situatie) {
-  const std::string& name = source.leningen.at(static_cast<std::size_t>(situatie));
-  return (situatie == host::codes::kHuidigeSituatie ? "Huidige situatie: " : "Nieuwe situatie: ") + name;
+  const char* which = situatie == host::codes::kHuidigeSituatie ? "Huidige situatie: " : "Nieuwe situatie: ";
+  return which + SituatieText(source.gegevens, situatie).toStdString();
 }
 
 void AddTotals(Report& report, const Source& source, const Overzicht& overzicht) {
   const host::Date day = source.uitgangspunt.peildatum;
   report.blocks.emplace_back(Heading{"Totalen"});
-  report.blocks.emplace_back(Paragraph{"Op " + frame::ShowDate(day) +
-                                       ", levensscenario: " + ScenarioText(source.uitgangspunt.scenario) +
-                                       ". Een bedrag zonder minteken is een verhoging, een bedrag met minteken een "
-                                       "verlaging."});
+  report.blocks.emplace_back(Paragraph{"Op " + frame::ShowDate(day) + ", levensscenario \"" +
+                                       ScenarioText(source.uitgangspunt.scenario).toStdString() +
+                                       "\". Bedragen in euro's: een plus is een verhoging, een min een verlaging."});
   report.blocks.emplace_back(
       TotalsTable(source, {"Maandlast", "Belastbaar inkomen per jaar", "Inkomstenbelasting per jaar"})
           .Fill(overzicht, &sums::Totalen::doorlopend));

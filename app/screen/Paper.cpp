@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include "app/desk/FileDialogs.h"
 #include "app/desk/Messages.h"
@@ -22,25 +23,17 @@
 namespace brivane::app {
 namespace {
 
-constexpr int kMessageTime = 8000;  ///< milliseconds
-
-/// The name of the account.
-QString AdviserName() { return qEnvironmentVariable("USER"); }
+constexpr int kSavedTime = 8000;  ///< milliseconds
 
 /// The case as it is stored once what is being typed was handed over; nothing where that was refused.
 std::optional<report::Source> SourceOf(DossierScreen& screen) {
   if (!screen.Kolom().Editor().CommitPending()) return std::nullopt;
-  const dossier::Dossier& dossier = screen.Dossier();
-  report::Source source{.gegevens = dossier.Gegevens(),
-                        .leningen = {},
-                        .adviser = AdviserName().toStdString(),
-                        .today = Today(),
-                        .uitgangspunt = {.peildatum = Today(), .tarieven = {}}};
-  for (std::int16_t Len_Id = 0; Len_Id <= dossier.AantalLeningen(); ++Len_Id)
-    source.leningen.push_back(LeningText(dossier, Len_Id).toStdString());
-  for (std::size_t i = 0; i < source.gegevens.Personen.size(); ++i)
-    source.uitgangspunt.tarieven.at(i) = source.gegevens.Personen[i].Belastingtarief;
-  return source;
+  dossier::DossierGegevens gegevens = screen.Dossier().Gegevens();
+  const sums::Uitgangspunt today{.peildatum = Today(), .tarieven = sums::TarievenVan(gegevens.Personen)};
+  return report::Source{.gegevens = std::move(gegevens),
+                        .adviser = Settings::Author().toStdString(),
+                        .today = today.peildatum,
+                        .uitgangspunt = today};
 }
 
 /// While it lives the pointer says that the program is busy.
@@ -74,8 +67,7 @@ void Save(QMainWindow& window, DossierScreen& screen, const Export& what) {
       return WriteNew(file, what.make(*source));
     }();
     if (failure.isEmpty()) {
-      window.statusBar()->showMessage(QStringLiteral("Opgeslagen: %1").arg(QDir::toNativeSeparators(file)),
-                                      kMessageTime);
+      window.statusBar()->showMessage(QStringLiteral("Opgeslagen: %1").arg(QDir::toNativeSeparators(file)), kSavedTime);
       return;
     }
     ShowMessage(&window, what.title, failure);

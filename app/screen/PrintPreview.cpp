@@ -19,7 +19,7 @@
 namespace brivane::app {
 namespace {
 
-constexpr QSize kFirstSize{760, 680};
+constexpr QSize kPreviewSize{760, 680};
 
 std::vector<report::Page> PagesFor(const report::Report& report, const QPrinter& printer) {
   return report::Paginate(report, report::PrintedRuler(), report::SheetOf(printer));
@@ -79,7 +79,7 @@ PrintPreview::PrintPreview(report::Report report, QWidget* parent)
   key(QKeySequence::ZoomIn, [this] { pages_->zoomIn(); });
   key(QKeySequence::ZoomOut, [this] { pages_->zoomOut(); });
   key(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { pages_->fitInView(); });
-  resize(kFirstSize.boundedTo(parent ? parent->size() : kFirstSize));
+  resize(kPreviewSize.boundedTo(parent ? parent->size() : kPreviewSize));
   print->setFocus();
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "app/overview/YearPicture.h"
 #include "app/report/Contents.h"
 #include "tests/app/report/SampleSource.h"
 
@@ -61,17 +62,17 @@ TEST(ContentsTest, TheTotalsAreThoseOfTheDay) {
   // add 4.200 a year to the partner's income. In the first new loan childcare is 165: 145 less.
   const Table recurring = TableOf(report, 0);
   ASSERT_EQ(recurring.rows.size(), 5U);
-  EXPECT_EQ(TextsOf(recurring.rows[0]), (Texts{"Huidige situatie: Huidige lening", "€ 32,50", "€ 4.200,00"}));
-  EXPECT_EQ(NotesOf(recurring.rows[0], 2), (Texts{"partner € 4.200,00"}));
-  EXPECT_EQ(TextsOf(recurring.rows[1]), (Texts{"Nieuwe situatie: Nieuwe lening 1", "€ -112,50", "€ 4.200,00"}));
+  EXPECT_EQ(TextsOf(recurring.rows[0]), (Texts{"Huidige situatie: Huidige lening", "+32,50", "+4.200,00"}));
+  EXPECT_EQ(NotesOf(recurring.rows[0], 2), (Texts{"partner +4.200,00"}));
+  EXPECT_EQ(TextsOf(recurring.rows[1]), (Texts{"Nieuwe situatie: Nieuwe lening 1", "-112,50", "+4.200,00"}));
   EXPECT_EQ(recurring.rows[2].kind, RowKind::Detail);
-  EXPECT_EQ(recurring.rows[2].cells[1].text, "€ -145,00");
-  EXPECT_EQ(recurring.rows[2].cells[2].text, "€ 0,00");
-  EXPECT_EQ(recurring.rows[3].cells[1].text, "€ 32,50");
-  EXPECT_EQ(recurring.rows[4].cells[1].text, "€ 0,00");
+  EXPECT_EQ(recurring.rows[2].cells[1].text, "-145,00");
+  EXPECT_EQ(recurring.rows[2].cells[2].text, "0,00");
+  EXPECT_EQ(recurring.rows[3].cells[1].text, "+32,50");
+  EXPECT_EQ(recurring.rows[4].cells[1].text, "0,00");
   // The gift of December 2026 stands apart: a burden and a deduction of 1.500.
   const Table once = TableOf(report, 1);
-  EXPECT_EQ(TextsOf(once.rows[0]), (Texts{"Huidige situatie: Huidige lening", "€ 1.500,00", "€ -1.500,00"}));
+  EXPECT_EQ(TextsOf(once.rows[0]), (Texts{"Huidige situatie: Huidige lening", "+1.500,00", "-1.500,00"}));
 }
 
 TEST(ContentsTest, WithARateOfTaxTheTaxIsTold) {
@@ -79,11 +80,11 @@ TEST(ContentsTest, WithARateOfTaxTheTaxIsTold) {
   source.uitgangspunt.tarieven = {37.0, 50.0};
   const Report report = ReportOf(source);
   // Half of 4.200, and 37 % of -1.500.
-  EXPECT_EQ(TableOf(report, 0).rows[0].cells[3].text, "€ 2.100,00");
-  EXPECT_EQ(TableOf(report, 1).rows[0].cells[3].text, "€ -555,00");
+  EXPECT_EQ(TableOf(report, 0).rows[0].cells[3].text, "+2.100,00");
+  EXPECT_EQ(TableOf(report, 1).rows[0].cells[3].text, "-555,00");
   // The rate of the one whose income it is is not known.
   source.uitgangspunt.tarieven[1].reset();
-  EXPECT_EQ(TableOf(ReportOf(source), 0).rows[0].cells[3].text, "tarief onbekend");
+  EXPECT_EQ(TableOf(ReportOf(source), 0).rows[0].cells[3].text, "onbekend");
 }
 
 TEST(ContentsTest, AColumnIsToldAsTheEditorShowsIt) {
@@ -95,23 +96,23 @@ TEST(ContentsTest, AColumnIsToldAsTheEditorShowsIt) {
     Texts term_and_end;
   } const cases[] = {
       {"Kinderopvang",
-       {"Kinderopvang", "Last", "€ 485,50", "van 01-09-2024", "M.C. van den Heuvel", "€ 310,00", "€ 0,00"},
+       {"Kinderopvang", "Last", "€ 485,50", "van 01-09-2024", "M.C. van den Heuvel", "+310,00", "0,00"},
        {},
        {"per maand", "tot 01-09-2032"}},
       {"Weekendabonnement",
-       {"Weekendabonnement", "Last", "€ 32,50", "van 01-01-2026", "M.C. van den Heuvel", "€ 32,50", "€ 0,00"},
+       {"Weekendabonnement", "Last", "€ 32,50", "van 01-01-2026", "M.C. van den Heuvel", "+32,50", "0,00"},
        {"Krant, Dagblad De Maasbode, De Maasbode op zaterdag, uw bemiddeling"},
        {"per maand", "tot 31-12-2027"}},
       {"Muzieklessen aan huis",
-       {"Muzieklessen aan huis", "Bijdrage", "€ 350,00", "van 01-04-2025", "S. de Wit", "€ -350,00", "€ 4.200,00"},
+       {"Muzieklessen aan huis", "Bijdrage", "€ 350,00", "van 01-04-2025", "S. de Wit", "-350,00", "+4.200,00"},
        {"Inkomen uit arbeid", "Telt niet mee bij arbeidsongeschiktheid"},
        {"per maand", "tot 01-04-2035"}},
       {"Lijfrente-uitkering",
        {"Lijfrente-uitkering", "Bijdrage", "€ 6.250,00", "van 31-01-2028", "M.C. van den Heuvel", "–", "–"},
-       {"Bij overlijden 70 % naar partner, tot 12-03-2048 / 70 jaar"},
+       {"Bij overlijden 70 % naar partner, tot 12-03-2048 / 70 jaar", "Telt nog niet"},
        {"per jaar", "tot 31-01-2048"}},
       {"Tennislidmaatschap",
-       {"Tennislidmaatschap", "Last", "€ 240,00", "van 01-07-2023", "S. de Wit", "€ 40,00", "€ 0,00"},
+       {"Tennislidmaatschap", "Last", "€ 240,00", "van 01-07-2023", "S. de Wit", "+40,00", "0,00"},
        {"Vereniging, TC De Baseline, Seniorlid", "Wordt beëindigd in voorstel 1"},
        {"per half jaar", "tot 30-06-2028"}},
   };
@@ -124,8 +125,7 @@ TEST(ContentsTest, AColumnIsToldAsTheEditorShowsIt) {
   }
   const TableRow& gift = RowOf(current, "Gift nieuwbouw kinderhoek");
   EXPECT_EQ(gift.cells[3], (Cell{"15-12-2026", {}}));
-  EXPECT_EQ(gift.cells[5], (Cell{"€ 1.500,00", {"eenmalig"}}));
-  EXPECT_EQ(NotesOf(RowOf(current, "Lijfrente-uitkering"), 5), (Texts{"nog niet"}));
+  EXPECT_EQ(gift.cells[5], (Cell{"+1.500,00", {"eenmalig"}}));
 }
 
 TEST(ContentsTest, TheYearsOfAColumnStandBelowIt) {
@@ -150,26 +150,37 @@ TEST(ContentsTest, ASituationTellsWhatDiffersAndWhatFollows) {
   const Table first = TableOf(ReportOf(SampleSource()), 3);
   EXPECT_EQ(NotesOf(RowOf(first, "Kinderopvang"), 0), (Texts{"Afwijking van de huidige situatie"}));
   EXPECT_EQ(NotesOf(RowOf(first, "Weekendabonnement"), 0), (Texts{"Volgt de huidige situatie"}));
-  EXPECT_EQ(NotesOf(RowOf(first, "Onderhoud zonnepanelen"), 0), (Texts{"Alleen in de nieuwe situatie"}));
+  EXPECT_EQ(NotesOf(RowOf(first, "Onderhoud zonnepanelen"), 0),
+            (Texts{"Alleen in de nieuwe situatie", "Telt nog niet"}));
   // Of what follows the years are told in the current situation.
   const Table second = TableOf(ReportOf(SampleSource()), 4);
   EXPECT_EQ(second.rows.size(), 6U);
 }
 
+TEST(ContentsTest, ASituationThatDiffersHasItsPictures) {
+  std::vector<std::size_t> series;
+  for (const Block& block : ReportOf(SampleSource()).blocks)
+    if (const auto* picture = std::get_if<Picture>(&block)) series.push_back(picture->years->series.size());
+  // Burden and income of the current situation, each with its one-off amounts; the same of the first new loan beside
+  // them. The second has no columns of its own.
+  EXPECT_EQ(series, (std::vector<std::size_t>{2, 2, 4, 4}));
+}
+
 TEST(ContentsTest, AnEmptyCaseSaysSo) {
   Source source = SampleSource();
   source.gegevens = dossier::LeegDossier();
-  source.leningen = {"Huidige lening", "Nieuwe lening 1"};
   source.adviser.clear();
   const Report report = ReportOf(source);
   EXPECT_EQ(report.client, "Aanvrager");
+  EXPECT_TRUE(std::none_of(report.blocks.begin(), report.blocks.end(),
+                           [](const Block& block) { return std::holds_alternative<Picture>(block); }));
   EXPECT_EQ(std::count(report.blocks.begin(), report.blocks.end(), Block(Paragraph{"Er zijn geen vrije kolommen."})),
             2);
   for (const auto& [name, value] : std::get<Facts>(report.blocks.at(0)).lines) {
     EXPECT_NE(name, "Partner");
     EXPECT_NE(name, "Adviseur");
   }
-  EXPECT_EQ(TextsOf(TableOf(report, 0).rows[0]), (Texts{"Huidige situatie: Huidige lening", "€ 0,00", "€ 0,00"}));
+  EXPECT_EQ(TextsOf(TableOf(report, 0).rows[0]), (Texts{"Huidige situatie: Huidige lening", "0,00", "0,00"}));
 }
 
 }  // namespace

@@ -126,6 +126,19 @@ TEST(PagesTest, AHeadingDoesNotStandAloneAtTheBottom) {
   EXPECT_EQ(CountOf(pages[1], "Tekst"), 1);
 }
 
+TEST(PagesTest, APictureIsNotCutInTwo) {
+  Report report = TableReport(3);
+  report.blocks.emplace_back(Picture{nullptr});
+  const auto pages = Paginate(report, FixedRuler(), kSmall);
+  // Four rows and the room below them: 35 + 60 + 6 of 248 points.
+  ASSERT_EQ(pages.size(), 2U);
+  EXPECT_TRUE(pages[0].pictures.empty());
+  ASSERT_EQ(pages[1].pictures.size(), 1U);
+  EXPECT_EQ(pages[1].pictures[0].top, 50);
+  EXPECT_EQ(pages[1].pictures[0].height, 150);
+  EXPECT_EQ(pages[1].pictures[0].width, 260);
+}
+
 TEST(PagesTest, AnAmountIsNeverWiderThanItsPlace) {
   const std::string most = "-999.999.999.999,99";
   Table table{.columns = {{.heading = "Naam", .width = Width::Rest},

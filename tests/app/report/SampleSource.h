@@ -13,7 +13,6 @@ inline host::Date Day(int day, int month, int year) {
 /// The sample case on 22 November 2026.
 inline Source SampleSource() {
   return {.gegevens = dossier::VoorbeeldDossier(),
-          .leningen = {"Huidige lening", "Nieuwe lening 1", "Nieuwe lening 2"},
           .adviser = "Jan de Vries",
           .today = Day(22, 11, 2026),
           .uitgangspunt = {.peildatum = Day(22, 11, 2026), .tarieven = {}}};
@@ -22,7 +21,6 @@ inline Source SampleSource() {
 /// A case of one person and one loan with so many columns, "Post 1" on, of 10,01 euros and more each month.
 inline Source LargeSource(int columns) {
   Source source{.gegevens = dossier::LeegDossier(),
-                .leningen = {"Huidige lening"},
                 .adviser = "Jan de Vries",
                 .today = Day(22, 11, 2026),
                 .uitgangspunt = {.peildatum = Day(22, 11, 2026), .tarieven = {}}};

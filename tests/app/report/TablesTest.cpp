@@ -94,7 +94,7 @@ TEST(TablesTest, NoCellCanStartAFormulaAndANumberStaysOne) {
     kolom.Omschrijving = kolom.Productnaam = kolom.MaatschappijNaam = kolom.ProductsoortOmschrijving = text;
     kolom.IsProduct = true;
     kolom.Bedrag.Bedrag = -1234.5;
-    source.leningen[0] = text;
+    source.gegevens.HuidigeLening.Naam = text;
     source.gegevens.Personen[0].Naam = {text, "", ""};
     const auto rows = Read(KolommenCsv(source));
     ASSERT_EQ(rows.size(), 2U);
