@@ -17,7 +17,7 @@ namespace brivane::app {
 namespace {
 
 constexpr int kLeastCharacters = 26;      ///< least width, in characters
-constexpr int kLeastNameCharacters = 16;  ///< of what a column is called
+constexpr int kLeastNameCharacters = 24;  ///< of what a column is called
 constexpr int kFocusFrame = 2;            ///< pixels
 
 /// Leaves room in a row for the frame of the focus.
@@ -49,6 +49,8 @@ KolommenTree::KolommenTree(std::shared_ptr<dossier::Dossier> dossier, QWidget* p
   setModel(model_);
   setItemDelegate(new RowDelegate(this));
   setUniformRowHeights(true);
+  // There are two levels, and names to read.
+  setIndentation(fontMetrics().averageCharWidth() * 2);
   setAllColumnsShowFocus(true);
   setEditTriggers(NoEditTriggers);
   setDragDropMode(DragDrop);
