@@ -16,7 +16,7 @@
 namespace brivane::app {
 namespace {
 
-constexpr int kTreeCharacters = 58;  ///< width of the tree at first, in characters
+constexpr int kTreeCharacters = 72;  ///< width of the list at first, in characters
 constexpr char kObjectName[] = "Dossier";
 constexpr char kObjectDescription[] = "Dossier";
 

@@ -57,10 +57,10 @@ std::optional<FieldHelp> FieldOf(const QWidget* focus) {
 QString KeyRows(std::span<const HelpKey> keys) {
   QString rows;
   for (const HelpKey& key : keys) {
-    rows += QStringLiteral("<tr><td style='padding-right:16px'><b>%1</b></td><td>%2</td></tr>")
+    rows += QStringLiteral("<tr><td width='38%'><b>%1</b></td><td>%2</td></tr>")
                 .arg(QString::fromUtf8(key.key).toHtmlEscaped(), QString::fromUtf8(key.does).toHtmlEscaped());
   }
-  return QStringLiteral("<table cellspacing='4'>%1</table>").arg(rows);
+  return QStringLiteral("<table width='100%' cellspacing='4'>%1</table>").arg(rows);
 }
 
 QString Heading(const QString& text) { return QStringLiteral("<h3>%1</h3>").arg(text.toHtmlEscaped()); }

@@ -6,7 +6,7 @@
 namespace brivane::app {
 namespace {
 
-constexpr std::array kEverywhere = std::to_array<HelpKey>({
+constexpr std::array kKeysEverywhere = std::to_array<HelpKey>({
     {"Ctrl+N, Ctrl+O, Ctrl+W", "nieuw dossier, openen, sluiten"},
     {"Ctrl+Shift+S", "een kopie onder een andere naam, waarin u verdergaat"},
     {"Ctrl+Shift+N", "nieuwe kolom met een bedrag per jaar"},
@@ -24,14 +24,14 @@ constexpr std::array kEverywhere = std::to_array<HelpKey>({
     {"F1", "deze uitleg; Escape sluit haar"},
 });
 
-constexpr std::array kStart = std::to_array<HelpKey>({
+constexpr std::array kStartKeys = std::to_array<HelpKey>({
     {"Tab, Enter", "naar een knop, en doen wat erop staat"},
     {"Alt+G", "naar de lijst van recente dossiers"},
     {"Enter in de lijst", "het dossier openen"},
     {"Delete in de lijst", "het dossier uit de lijst halen; het bestand blijft"},
 });
 
-constexpr std::array kList = std::to_array<HelpKey>({
+constexpr std::array kListKeys = std::to_array<HelpKey>({
     {"Pijl omhoog en omlaag", "naar een andere kolom, die meteen wordt getoond"},
     {"Pijl links en rechts", "een lening dicht- en openklappen"},
     {"Een letter", "naar de kolom die zo begint"},
@@ -41,44 +41,49 @@ constexpr std::array kList = std::to_array<HelpKey>({
     {"Menutoets", "wat er met de kolom kan"},
 });
 
-constexpr std::array kFilter = std::to_array<HelpKey>({
+constexpr std::array kFilterKeys = std::to_array<HelpKey>({
     {"Typen", "toont wat elk getypt woord bevat: tekst, soort, maatschappij, bedrag of datum"},
     {"Pijl omlaag", "naar de lijst"},
     {"Enter", "naar de eerste die is gevonden, om te bewerken"},
     {"Escape", "de hele lijst, en terug naar waar u was"},
 });
 
-constexpr std::array kColumn = std::to_array<HelpKey>({
+constexpr std::array kColumnKeys = std::to_array<HelpKey>({
     {"Tab, Shift+Tab", "volgend en vorig vak; wat u typte is dan opgeslagen"},
     {"Escape", "terug naar wat er in het vak stond"},
-    {"Alt met de onderstreepte letter", "naar dat vak"},
+    {"Alt met een onderstreepte letter", "naar dat vak of die groep"},
     {"Pijlen", "een andere keuze in een groep of lijst"},
-    {"j en n", "ja en nee"},
-    {"Alt+pijl omlaag", "de kalender of de lijst openen"},
+    {"j, n", "ja en nee"},
+    {"v of t, + en -", "in een datum: vandaag, een dag later of eerder"},
+    {"Page Up, Page Down", "in een datum: een maand eerder of later; met Ctrl een jaar"},
+    {"3j, 18m", "in een einddatum: zo lang na de aanvangsdatum"},
+    {"F4", "in een datum: de kalender"},
+    {"10+5, 1200/12", "in een bedrag: de uitkomst"},
 });
 
-constexpr std::array kYearForm = std::to_array<HelpKey>({
+constexpr std::array kYearFormKeys = std::to_array<HelpKey>({
     {"Tab, Shift+Tab", "volgend en vorig vak"},
     {"Pijl omhoog en omlaag", "vorig en volgend jaar"},
+    {"Page Up, Page Down", "zoveel jaren als er onder elkaar staan"},
     {"Enter", "overnemen wat u typte, en naar het volgende jaar"},
+    {"Ctrl+V", "een kolom uit een rekenblad plakken"},
     {"Alt+V", "vervolgjaren automatisch invullen, of niet"},
     {"Alt+O", "OK: de jaren opslaan"},
     {"Escape", "sluiten zonder op te slaan; als er iets is gewijzigd na een vraag"},
-    {"Ctrl+V", "een kolom uit een rekenblad plakken"},
 });
 
-constexpr std::array kFindings = std::to_array<HelpKey>({
+constexpr std::array kFindingsKeys = std::to_array<HelpKey>({
     {"Enter", "naar de kolom"},
     {"Escape", "de lijst weg"},
 });
 
-constexpr std::array kDialog = std::to_array<HelpKey>({
+constexpr std::array kDialogKeys = std::to_array<HelpKey>({
     {"Tab, Shift+Tab", "volgend en vorig vak"},
     {"Enter", "OK"},
     {"Escape", "sluiten zonder iets te doen"},
 });
 
-constexpr std::array kFields = std::to_array<FieldHelp>({
+constexpr std::array kFieldHelp = std::to_array<FieldHelp>({
     {"optLast", "Correctie last",
      "Wat de post met de maandlast doet: een last verhoogt haar, een bijdrage verlaagt haar, neutraal laat haar zoals "
      "zij "
@@ -89,7 +94,8 @@ constexpr std::array kFields = std::to_array<FieldHelp>({
      "alleen aftrekbaar zijn, een bijdrage alleen een bijtelling; zonder effect op de last is een fiscaal effect "
      "nodig."},
     {"TxtDtAanvang", "Aanvangsdatum",
-     "De dag waarop de post begint. Zonder aanvangsdatum wordt een kolom niet verlaten. Typ 1-4-2031, 010431 of kies "
+     "De dag waarop de post begint. Zonder aanvangsdatum wordt een kolom niet verlaten. Typ 1-4-2031, 1-4, v (vandaag) "
+     "of kies "
      "uit de "
      "kalender."},
     {"TxtDtEind", "Einddatum",
@@ -154,6 +160,29 @@ constexpr std::array kFields = std::to_array<FieldHelp>({
      "de nieuwe situatie heeft een eigen versie; + nieuw: de kolom is er in de huidige situatie niet."},
 });
 
+struct GreyHelp {
+  const char* field;
+  const char* why;
+};
+
+constexpr std::array kGrey = std::to_array<GreyHelp>({
+    {"optFiscaal(1)", "Een bijdrage kan geen aftrekpost zijn."},
+    {"optFiscaal(2)", "Een last kan geen bijtelling zijn."},
+    {"optFiscaal(3)", "Zonder effect op de last is een fiscaal effect nodig."},
+    {"TxtDtEind", "Een einddatum vraagt een aanvangsdatum, en een bedrag dat niet eenmalig is."},
+    {"TxtAnJaar", "Een eenmalig bedrag heeft geen looptijd."},
+    {"TxtAnMaand", "Een eenmalig bedrag heeft geen looptijd."},
+    {"jnInkUitArbeid", "Alleen een bijdrage met bijtelling kan inkomen uit arbeid zijn."},
+    {"jnInDagloon", "Alleen inkomen uit arbeid kan onderdeel van het dagloon zijn."},
+    {"cmdScenario", "Een eenmalig bedrag heeft geen bedragen per jaar."},
+    {"optAanvrager(2)", "Dit dossier heeft geen partner (Dossier > Cliëntgegevens)."},
+    {"txtMaatschappij", "Kies eerst de maatschappij Anders."},
+    {"txtProductsoort", "Kies eerst het soort product Anders."},
+    {"TxtPcOvergang", "Kies eerst Ja bij Overlijden."},
+    {"txtEinddatum", "Kies eerst Ja bij Overlijden."},
+    {"TxtEindjaar", "Kies eerst Ja bij Overlijden."},
+});
+
 }  // namespace
 
 QString PlaceTitle(HelpPlace place) {
@@ -171,27 +200,33 @@ QString PlaceTitle(HelpPlace place) {
 
 std::span<const HelpKey> KeysOf(HelpPlace place) {
   switch (place) {
-    case HelpPlace::Start: return kStart;
-    case HelpPlace::List: return kList;
-    case HelpPlace::Filter: return kFilter;
-    case HelpPlace::Column: return kColumn;
-    case HelpPlace::YearForm: return kYearForm;
-    case HelpPlace::Findings: return kFindings;
+    case HelpPlace::Start: return kStartKeys;
+    case HelpPlace::List: return kListKeys;
+    case HelpPlace::Filter: return kFilterKeys;
+    case HelpPlace::Column: return kColumnKeys;
+    case HelpPlace::YearForm: return kYearFormKeys;
+    case HelpPlace::Findings: return kFindingsKeys;
     case HelpPlace::Dialog: break;
   }
-  return kDialog;
+  return kDialogKeys;
 }
 
-std::span<const HelpKey> KeysEverywhere() { return kEverywhere; }
+std::span<const HelpKey> KeysEverywhere() { return kKeysEverywhere; }
 
-std::span<const FieldHelp> AllFieldHelp() { return kFields; }
+std::span<const FieldHelp> AllFieldHelp() { return kFieldHelp; }
 
 std::optional<FieldHelp> HelpOfField(const QString& name) {
   const QString field = name.section(u'(', 0, 0);
-  const auto help = std::find_if(kFields.begin(), kFields.end(),
+  const auto help = std::find_if(kFieldHelp.begin(), kFieldHelp.end(),
                                  [&](const FieldHelp& one) { return field == QLatin1String(one.field); });
-  if (help == kFields.end()) return std::nullopt;
+  if (help == kFieldHelp.end()) return std::nullopt;
   return *help;
+}
+
+QString WhyGrey(const QString& name) {
+  const auto grey =
+      std::find_if(kGrey.begin(), kGrey.end(), [&](const GreyHelp& one) { return name == QLatin1String(one.field); });
+  return grey == kGrey.end() ? QString() : QString::fromUtf8(grey->why);
 }
 
 }  // namespace brivane::app

@@ -34,4 +34,7 @@ struct FieldHelp {
 /// The help of a field by its name, of an array's element too: "optLast(2)".
 [[nodiscard]] std::optional<FieldHelp> HelpOfField(const QString& name);
 
+/// Why a field of the editor can be grey, by its name with an array's number; empty for one that never is.
+[[nodiscard]] QString WhyGrey(const QString& name);
+
 }  // namespace brivane::app

@@ -12,6 +12,7 @@
 #include "app/recording/Recording.h"
 #include "app/screen/CarryOver.h"
 #include "app/screen/EffectLabel.h"
+#include "app/screen/GreyTips.h"
 #include "app/screen/KopregelLabel.h"
 #include "dossier/sums/Zin.h"
 #include <brivane/frame/Handle.h>
@@ -35,6 +36,7 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   editor_->setObjectName(QStringLiteral("editor"));
   recording_.Begin(dossier_, *editor_);
   editor_->SetHostFactories(host.factories);
+  new GreyTips(*editor_);
   editor_->Toolkit().Desktop().details = [this](const std::string& title, const std::string&) {
     const bool carryingOver = title == vrijekolom::kOvernemenTitel && place_.Vrij_Id;
     return carryingOver ? RemovedByCarryOver(*dossier_, *place_.Vrij_Id) : std::string();

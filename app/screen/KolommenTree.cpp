@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
@@ -16,8 +17,17 @@ namespace brivane::app {
 namespace {
 
 constexpr int kLeastCharacters = 26;      ///< least width, in characters
-constexpr int kLeastNameCharacters = 12;  ///< of what a column is called
+constexpr int kLeastNameCharacters = 24;  ///< of what a column is called
 constexpr int kFocusFrame = 2;            ///< pixels
+
+/// Leaves room in a row for the frame of the focus.
+class RowDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * kFocusFrame + 2);
+  }
+};
 
 /// What a cell needs around a text.
 int WithMargins(const QWidget& view, int width) {
@@ -37,7 +47,10 @@ KolommenTree::KolommenTree(std::shared_ptr<dossier::Dossier> dossier, QWidget* p
   setObjectName(QStringLiteral("kolommen"));
   setAccessibleName(QStringLiteral("Leningen en vrije kolommen"));
   setModel(model_);
+  setItemDelegate(new RowDelegate(this));
   setUniformRowHeights(true);
+  // There are two levels, and names to read.
+  setIndentation(fontMetrics().averageCharWidth() * 2);
   setAllColumnsShowFocus(true);
   setEditTriggers(NoEditTriggers);
   setDragDropMode(DragDrop);

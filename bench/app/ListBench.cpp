@@ -45,7 +45,10 @@ int main(int argc, char** argv) {
   const QTemporaryDir folder;
   const QString file = folder.filePath(QStringLiteral("groot.dossier"));
   dossier::DossierFile::Maak(file, Case());
-  const QByteArray path = file.toLocal8Bit();
+  // A file that is open belongs to its window.
+  const QString other = folder.filePath(QStringLiteral("kaal.dossier"));
+  dossier::DossierFile::Maak(other, Case());
+  const QByteArray path = other.toLocal8Bit();
   const auto opened = dossier::DossierFile::Open(file);
 
   app::KolommenTree tree(opened->Dossier());

@@ -61,6 +61,29 @@ TEST_F(ColumnManagementTest, RemovesAColumnFromTheListByOneKey) {
   EXPECT_FALSE(ReadAfterClosing().contains("0/3/bedrag"));
 }
 
+TEST_F(ColumnManagementTest, ANewColumnIsOfTheKindOfInputThatIsChosen) {
+  PressKey(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Focus(), "Omschrijving");
+  Type("Opslag");
+  PressKey(Qt::Key_Tab);
+  Type("2,5");
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("010127");
+  PressKey(Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+  PressKey(Qt::Key_A, Qt::AltModifier);
+  Type("010127");
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(Kolommen(0)[6], "Opslag · 2,50 % per maand, volgt");
+  const QJsonObject fields = ReadAfterClosing();
+  EXPECT_EQ(fields["0/8/invoersoort"].toInt(), 2);
+  EXPECT_EQ(fields["0/9/invoersoort"].toInt(), 3);
+  // A burden that the tax passes by.
+  for (const char* place : {"0/8/", "0/9/"}) {
+    EXPECT_EQ(fields[QLatin1String(place) + "correctie_last"].toInt(), 1);
+    EXPECT_EQ(fields[QLatin1String(place) + "correctie_fiscaal"].toInt(), 3);
+  }
+}
+
 /// Answers the refusal of a column that has no start date yet.
 class NewColumnTest : public ColumnManagementTest {
  protected:

@@ -89,6 +89,27 @@ TEST_F(HelpTest, IsThereInTheYearFormToo) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return seen && !QApplication::activeModalWidget(); }, 5000));
 }
 
+TEST_F(HelpTest, AGreyFieldTellsWhyAndOneThatIsNotTellsNothing) {
+  Open();
+  const auto tip = [this](const char* field) {
+    const auto* widget = Screen().Kolom().Editor().findChild<QWidget*>(QString::fromLatin1(field));
+    return widget ? widget->toolTip() : QStringLiteral("?");
+  };
+  // Childcare is a burden with a start date, without a transition to the partner.
+  ASSERT_TRUE(Screen().GoTo({0, 1}));
+  EXPECT_EQ(tip("optFiscaal(2)"), "Een last kan geen bijtelling zijn.");
+  EXPECT_EQ(tip("optFiscaal(1)"), "");
+  EXPECT_EQ(tip("TxtPcOvergang"), "Kies eerst Ja bij Overlijden.");
+  EXPECT_EQ(tip("TxtDtEind"), "");
+  // A gift that is paid once.
+  ASSERT_TRUE(Screen().GoTo({0, 4}));
+  EXPECT_EQ(tip("TxtDtEind"), "Een einddatum vraagt een aanvangsdatum, en een bedrag dat niet eenmalig is.");
+  EXPECT_EQ(tip("cmdScenario"), "Een eenmalig bedrag heeft geen bedragen per jaar.");
+  ASSERT_TRUE(Screen().GoTo({0, 5}));
+  EXPECT_EQ(tip("TxtPcOvergang"), "");
+  EXPECT_EQ(tip("optFiscaal(1)"), "Een bijdrage kan geen aftrekpost zijn.");
+}
+
 TEST_F(HelpTest, WhatIsGreyTellsWhy) {
   const Actions& actions = window_->Actions();
   const auto all = actions.ForDossier() + actions.ForEditing() + actions.ForKolom();

@@ -194,6 +194,17 @@ TEST_F(ListTest, GivesWayBeforeTheEditorAndComesBackForTheFocus) {
   EXPECT_EQ(Screen().sizes().front(), Screen().WantedListWidth());
 }
 
+TEST_F(ListTest, TheWindowComesBackAsItWasAndHasAPicture) {
+  EXPECT_FALSE(window_->windowIcon().isNull());
+  EXPECT_TRUE(window_->windowIcon().availableSizes().contains(QSize(16, 16)));
+  window_->resize(1300, 700);
+  Screen().SetWantedListWidth(321);
+  window_->close();
+  NewWindow();
+  Open();
+  EXPECT_EQ(Screen().WantedListWidth(), 321);
+}
+
 TEST_F(ListTest, TheFirstWindowStandsOnASmallScreen) {
   EXPECT_LE(MainWindow::kFirstSize.width(), 1280 - 8);
   EXPECT_LE(MainWindow::kFirstSize.height(), 720 - 40);

@@ -88,7 +88,7 @@ TEST_F(RecentTest, DeleteTakesOneOutAndTheListCanBeEmptied) {
 }
 
 TEST_F(RecentTest, NothingIsReadInThem) {
-  // A pipe would keep who reads it waiting for ever; a folder cannot be read at all.
+  // A folder cannot be read as a file.
   ASSERT_TRUE(QDir().mkpath(other_));
   RecentFiles::Add(other_);
   NewWindow();
