@@ -95,9 +95,9 @@ HistoryWindow::HistoryWindow(std::unique_ptr<dossier::HistoryView> view, const Q
   table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
   const int letter = table_->fontMetrics().averageCharWidth();
   for (const auto& [column, letters] :
-       {std::pair(HistoryModel::When, 21), std::pair(HistoryModel::Who, 18), std::pair(HistoryModel::Lening, 18),
-        std::pair(HistoryModel::Kolom, 24), std::pair(HistoryModel::What, 26), std::pair(HistoryModel::Kind, 18),
-        std::pair(HistoryModel::Before, 26), std::pair(HistoryModel::After, 26)}) {
+       {std::pair(HistoryModel::When, 26), std::pair(HistoryModel::Who, 18), std::pair(HistoryModel::Lening, 18),
+        std::pair(HistoryModel::Kolom, 24), std::pair(HistoryModel::What, 30), std::pair(HistoryModel::Kind, 22),
+        std::pair(HistoryModel::Before, 30), std::pair(HistoryModel::After, 26)}) {
     table_->setColumnWidth(column, letters * letter);
   }
   table_->horizontalHeader()->setStretchLastSection(true);

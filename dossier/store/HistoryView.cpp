@@ -33,11 +33,27 @@ template <class Function> void ForEachRow(QSqlQuery& query, Function&& function)
 
 std::string TextAt(const QSqlQuery& query, int place) { return query.value(place).toByteArray().toStdString(); }
 
+/// What a loan is or was called last, by its key.
+std::string NameOfLoan(const Database& database, const Stored& key) {
+  const auto* number = std::get_if<std::int64_t>(&key);
+  QSqlQuery query = database.Prepare(
+      QStringLiteral("SELECT CAST(coalesce((SELECT tekst FROM naam WHERE nummer = (SELECT lening_naam FROM wijziging "
+                     "WHERE lening = %1 ORDER BY nummer DESC LIMIT 1)), (SELECT naam FROM lening WHERE sleutel = %1), "
+                     "'') AS BLOB)")
+          .arg(number ? *number : 0));
+  std::string name;
+  ForEachRow(query, [&](const QSqlQuery& row) { name = TextAt(row, 0); });
+  return name;
+}
+
 }  // namespace
 
 std::vector<std::int64_t> HistoryView::Find(const HistoryFilter& filter) {
   return Try([&] {
-    QStringList conditions;
+    // A place in an order means nothing to a reader.
+    QStringList conditions = {QStringLiteral("NOT (tabel = %1 AND veld = %2)")
+                                  .arg(static_cast<int>(Tabel::Kolom))
+                                  .arg(PlaceOf(Tabel::Kolom, "volgorde"))};
     if (filter.kolom) conditions << QStringLiteral("wijziging.kolom = :kolom");
     // The steps stand in the order of their numbers; their times need not, where a clock was set back.
     QStringList steps;
@@ -50,9 +66,8 @@ std::vector<std::int64_t> HistoryView::Find(const HistoryFilter& filter) {
       conditions
           << QStringLiteral("stap IN (SELECT nummer FROM stap WHERE %1)").arg(steps.join(QStringLiteral(" AND ")));
     }
-    QString sql = QStringLiteral("SELECT nummer FROM wijziging");
-    if (!conditions.isEmpty()) sql += QStringLiteral(" WHERE ") + conditions.join(QStringLiteral(" AND "));
-    QSqlQuery query = database_.Prepare(sql + QStringLiteral(" ORDER BY nummer DESC"));
+    QSqlQuery query = database_.Prepare(QStringLiteral("SELECT nummer FROM wijziging WHERE %1 ORDER BY nummer DESC")
+                                            .arg(conditions.join(QStringLiteral(" AND "))));
     if (filter.kolom) query.bindValue(QStringLiteral(":kolom"), static_cast<qlonglong>(*filter.kolom));
     if (filter.who) query.bindValue(QStringLiteral(":wie"), AlsBytes(*filter.who));
     if (filter.from) query.bindValue(QStringLiteral(":van"), static_cast<qlonglong>(*filter.from));
@@ -64,6 +79,7 @@ std::vector<std::int64_t> HistoryView::Find(const HistoryFilter& filter) {
 }
 
 std::vector<HistoryLine> HistoryView::Lines(const std::vector<std::int64_t>& numbers) {
+  static const int leningVanKolom = PlaceOf(Tabel::Kolom, "lening");
   return Try([&] {
     QStringList wanted;
     for (const std::int64_t number : numbers) wanted << QString::number(number);
@@ -75,6 +91,10 @@ std::vector<HistoryLine> HistoryView::Lines(const std::vector<std::int64_t>& num
     ForEachRow(query, [&](const QSqlQuery& row) {
       HistoryLine line;
       line.entry = TakeEntry(row);
+      if (line.entry.tabel == Tabel::Kolom && line.entry.field == leningVanKolom) {
+        line.entry.before = NameOfLoan(database_, line.entry.before);
+        line.entry.after = NameOfLoan(database_, line.entry.after);
+      }
       const auto kind = row.value(15).toLongLong();
       if (kind < 0 || kind > 2) throw DatabaseError(SqliteCode::Corrupt, "A step of no kind");
       line.step = {.number = line.entry.step,

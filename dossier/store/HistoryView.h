@@ -34,9 +34,10 @@ class HistoryView {
   /// The database outlives this object.
   explicit HistoryView(Database& database) : database_(database) {}
 
-  /// The numbers of the entries, the newest first.
+  /// The numbers of the entries, the newest first; without those that tell only where a column stands in its order.
   [[nodiscard]] std::vector<std::int64_t> Find(const HistoryFilter& filter);
-  /// These entries, in the order in which they are asked for.
+  /// These entries, in the order in which they are asked for. A loan that a column went to or came from is told by
+  /// name.
   [[nodiscard]] std::vector<HistoryLine> Lines(const std::vector<std::int64_t>& numbers);
   /// Everybody who made a step.
   [[nodiscard]] std::vector<std::string> People();

@@ -143,5 +143,18 @@ TEST_F(ClientDialogTest, ARateOfTaxMayBeLeftOutAndLiesBetweenZeroAndAHundred) {
   EXPECT_EQ(dialog_.Contents().personen.front().Belastingtarief, 37.48);
 }
 
+TEST_F(ClientDialogTest, TwoBoxesThatAreRefusedDoNotFightForTheFocus) {
+  QLineEdit& birth = Field(QStringLiteral("Aanvrager, Geboortedatum"));
+  QLineEdit& rate = Field(QStringLiteral("Aanvrager, Marginaal belastingtarief"));
+  birth.setFocus();
+  QTest::keyClicks(&birth, QStringLiteral("x"));
+  // Another window had the focus meanwhile: the box was left behind as it was.
+  rate.setFocus(Qt::ActiveWindowFocusReason);
+  QTest::keyClicks(&rate, QStringLiteral("101"));
+  birth.setFocus(Qt::OtherFocusReason);
+  EXPECT_TRUE(rate.hasFocus());
+  EXPECT_EQ(birth.text(), "x");
+}
+
 }  // namespace
 }  // namespace brivane::app

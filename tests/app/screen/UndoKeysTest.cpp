@@ -239,7 +239,7 @@ TEST_F(UndoKeysTest, TheHistoryTellsWhoChangedWhatInTheWordsOfTheScreen) {
         "Zoë de Vries;Huidige lening;Muzieklessen aan huis;bedrag;gewijzigd;€ 350,00;€ 500,00\r\n"));
     // The focus is in the table: rows are copied by keys.
     EXPECT_EQ(QApplication::focusWidget(), table);
-    PressKey(Qt::Key_End, Qt::ControlModifier);
+    for (int n = 0; n < 2; ++n) PressKey(Qt::Key_Down);
     PressKey(Qt::Key_C, Qt::ControlModifier);
     const QString copied = QGuiApplication::clipboard()->text();
     EXPECT_TRUE(copied.endsWith("bedrag\tgewijzigd\t€ 350,00\t€ 500,00")) << copied.toStdString();

@@ -338,5 +338,16 @@ TEST(UndoTest, AFileThatIsOnlyReadShowsItsHistoryAndUndoesNothing) {
   EXPECT_THROW(file->Take(StepKind::Undo), host::Error);
 }
 
+TEST(UndoTest, AMoveIsToldByTheNamesOfTheLoans) {
+  const Folder folder;
+  const auto file = DossierFile::Open(folder.Make());
+  file->Dossier()->Verplaats(0, 4, 2);
+  const auto history = file->Geschiedenis();
+  const std::vector<HistoryLine> lines = history->Lines(history->Find({}));
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0].entry.before, Stored(std::string("Huidige lening")));
+  EXPECT_EQ(lines[0].entry.after, Stored(std::string("Nieuwe lening 2")));
+}
+
 }  // namespace
 }  // namespace brivane::dossier

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTabBar>
 
@@ -159,6 +160,10 @@ void EntryBox::focusOutEvent(QFocusEvent* event) {
     return;
   qApp->removeEventFilter(this);
   if (!isEnabled() || !isVisible()) return;
+  // A box that was refused takes the focus back; one that is refused as well would take it again, for ever.
+  static bool handingOver = false;
+  if (handingOver && reason == Qt::OtherFocusReason) return;
+  const QScopedValueRollback handing(handingOver, true);
   const auto life = edit_.Life();
   const bool kept = edit_.IsPending() && !edit_.Commit();
   if (!life.expired()) clickRefused_ = kept && reason == Qt::MouseFocusReason;
