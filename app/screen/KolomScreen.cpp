@@ -39,6 +39,12 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
     if (!leaving_ || !IsIncomplete()) return std::nullopt;
     return qt::Desktop::Offer{.button = "Kolom &verwijderen", .taken = [this] { remove_ = true; }};
   };
+  editor_->SetPersonen([this] {
+    qt::VrijeKolomWidget::Geborenen personen;
+    for (const dossier::PersoonGegevens& persoon : dossier_->Personen())
+      personen.push_back({personen.empty() ? "aanvrager" : "partner", persoon.Geboortedatum});
+    return personen;
+  });
   auto* area = new QWidget;
   auto* stack = new QVBoxLayout(area);
   stack->setContentsMargins(0, 0, 0, 0);

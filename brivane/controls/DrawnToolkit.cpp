@@ -18,6 +18,14 @@ void DrawnToolkit::Guard(const std::function<void()>& body) {
   }
 }
 
+FormSubject DrawnToolkit::Subject() {
+  try {
+    return subjectTeller_ ? subjectTeller_() : FormSubject();
+  } catch (const host::Error&) {
+    return {};  // a box that holds nothing of its kind tells nothing
+  }
+}
+
 Outcome DrawnToolkit::Hand(AnyControl& control, const Action& action) {
   const std::shared_ptr<RowChanges> rows = RowChanges::Around(control);
   // The control may be gone when the action comes back.

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include <brivane/controls/FormSubject.h>
 #include <brivane/controls/ToolkitBase.h>
 #include <brivane/controls/entry/PendingEdits.h>
 #include <brivane/host/Error.h>
@@ -27,6 +28,12 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
   /// counts as done.
   Outcome Hand(AnyControl& control, const Action& action);
 
+  /// Who tells what a form is about that comes on the screen.
+  using SubjectTeller = std::function<FormSubject()>;
+  void SetSubjectTeller(SubjectTeller teller) { subjectTeller_ = std::move(teller); }
+  /// What the form that comes on the screen is about; nothing where nobody tells.
+  [[nodiscard]] FormSubject Subject();
+
   /// What is being typed in the boxes of this toolkit.
   [[nodiscard]] PendingEdits& Pending() { return pending_; }
   /// Asks a person something, or tells it; the controls' own message boxes do not come here.
@@ -35,6 +42,7 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
 
  private:
   FailureListener failureListener_;
+  SubjectTeller subjectTeller_;
   PendingEdits pending_;
 };
 

@@ -94,13 +94,18 @@ std::string ShowDate(host::Date date) {
   return text;
 }
 
-std::string ShowDateInWords(host::Date date) {
+std::string ShowLongDate(host::Date date) {
   if (date.IsNone()) return {};
   const frame::YearMonthDay parts = frame::Split(date);
+  return std::to_string(parts.day) + ' ' + std::string(kMonths[static_cast<std::size_t>(parts.month) - 1]) + ' ' +
+         std::to_string(parts.year);
+}
+
+std::string ShowDateInWords(host::Date date) {
+  if (date.IsNone()) return {};
   const auto week = static_cast<int>(kDays.size());
   const auto day = static_cast<std::size_t>((date.Days() % week + week) % week);
-  return std::string(kDays[day]) + ' ' + std::to_string(parts.day) + ' ' +
-         std::string(kMonths[static_cast<std::size_t>(parts.month) - 1]) + ' ' + std::to_string(parts.year);
+  return std::string(kDays[day]) + ' ' + ShowLongDate(date);
 }
 
 }  // namespace brivane::frame

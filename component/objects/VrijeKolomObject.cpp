@@ -6,6 +6,7 @@
 #include "component/automation/CaseAdapter.h"
 #include "component/automation/Text.h"
 #include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Onderwerp.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::component {
@@ -95,6 +96,11 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
              [this](host::Color color) { editor_->SetBackColor(color); }, [this] { LetGo(); }},
             TheToolkit(), *surface_),
       points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
+  TheToolkit().SetSubjectTeller([this] {
+    const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(*surface_);
+    const auto row = [aanvang = onderwerp.aanvang](int rij) { return vrijekolom::Rijuitleg(rij, aanvang, {}); };
+    return controls::FormSubject{.title = vrijekolom::Titel(onderwerp), .row = row};
+  });
   subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {
     if (!part_.Control().EventsFrozen()) events_.Raise(kRefreshTopDisplay, std::array{Variant(text)});
     CheckGoingOn();

@@ -34,8 +34,8 @@ class BRIVANE_API EntryFace {
   [[nodiscard]] virtual bool IsAtHand() const = 0;
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
-  /// Says there, less loudly, what the box makes of what is being typed.
-  virtual void ShowNote(const std::string& note) = 0;
+  /// Says there, less loudly, what the box makes of what is being typed; a toolkit may leave it unsaid.
+  virtual void ShowNote(const std::string& /*note*/) {}
   /// Takes away what is said beside the box.
   virtual void HideReason() = 0;
 };

@@ -9,6 +9,13 @@ namespace brivane::qt {
 
 VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {
   setAccessibleName(QStringLiteral("Vrije kolom"));
+  Toolkit().SetSubjectTeller([this] {
+    const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(Surface());
+    const auto row = [aanvang = onderwerp.aanvang, personen = personen_ ? personen_() : Geborenen()](int rij) {
+      return vrijekolom::Rijuitleg(rij, aanvang, personen);
+    };
+    return controls::FormSubject{.title = vrijekolom::Titel(onderwerp), .row = row};
+  });
 }
 
 VrijeKolomWidget::~VrijeKolomWidget() = default;

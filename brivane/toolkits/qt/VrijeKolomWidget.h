@@ -1,11 +1,14 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include <brivane/host/Export.h>
 #include <brivane/toolkits/qt/widgets/ControlWidget.h>
+#include <brivane/vrijekolom/Onderwerp.h>
 #include <brivane/vrijekolom/VrijeKolom.h>
 
 namespace brivane::qt {
@@ -39,6 +42,11 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 
+  /// Whose ages the rows of the year-by-year form tell, when one is opened; nobody's until it is set.
+  using Geborenen = std::vector<vrijekolom::Geborene>;
+  using Personen = std::function<Geborenen()>;
+  void SetPersonen(Personen personen) { personen_ = std::move(personen); }
+
   /// The header text of the column as it was told last; empty while the widget stands for no column.
   [[nodiscard]] QString topDisplay();
 
@@ -66,6 +74,7 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   std::shared_ptr<VrijeKolom> control_;
   host::Subscriptions subscriptions_;
   bool beeindigenZichtbaar_ = false;
+  Personen personen_;
   std::optional<QString> topDisplay_;  ///< nothing until it is asked for
 };
 

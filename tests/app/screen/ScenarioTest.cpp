@@ -56,6 +56,20 @@ class ScenarioTest : public WindowTest {
   }
 };
 
+TEST_F(ScenarioTest, TellsTheColumnTheYearsAndTheAges) {
+  InForm([](QWidget& form) {
+    EXPECT_EQ(form.windowTitle(), "Scenario - Onderhoud, per jaar");
+    TabTo("Percentage jaar 3");
+    const int aanvrager = 2028 - (QDate::currentDate().year() - 38);
+    // The partner of the sample was born on 29 February 1980.
+    EXPECT_EQ(QApplication::focusWidget()->toolTip(),
+              QStringLiteral("2028; aanvrager wordt %1, partner wordt 48").arg(aanvrager));
+    PressKey(Qt::Key_PageDown);
+    EXPECT_EQ(Focus(), "Percentage jaar 13");
+    PressKey(Qt::Key_Escape);
+  });
+}
+
 TEST_F(ScenarioTest, ThirtyYearsWithAGrowthACorrectionAndAPastedColumnAreInTheFileAfterOk) {
   InForm([](QWidget&) {
     TabTo("Bedrag jaar 1");

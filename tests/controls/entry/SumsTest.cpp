@@ -8,7 +8,7 @@ namespace {
 
 using frame::Format;
 
-struct Outcome {
+struct Reckoned {
   const char* typed;
   double is;
 };
@@ -21,7 +21,7 @@ TEST(TypedSums, AreTextsWithASignAfterADigit) {
 }
 
 TEST(TypedSums, OfAmountsAreReckonedOut) {
-  const Outcome kTable[] = {
+  const Reckoned kTable[] = {
       {"10+5", 15},
       {"1200/12", 100},
       {" 10 + 5 ", 15},
@@ -59,7 +59,7 @@ TEST(TypedSums, OfAmountsAreReckonedOut) {
       {"10-10", 0},
       {"999999999999-1", 999999999998},
   };
-  for (const Outcome& row : kTable) {
+  for (const Reckoned& row : kTable) {
     const frame::Reading<double> sum = ReadSum(row.typed, Format::Amount);
     ASSERT_FALSE(sum.IsRefused() || sum.IsEmpty()) << row.typed << ": " << sum.Reason();
     EXPECT_EQ(*sum, row.is) << row.typed;

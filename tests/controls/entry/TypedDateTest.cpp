@@ -11,19 +11,19 @@ using frame::MakeDate;
 
 const host::Date kToday = MakeDate({2026, 11, 22});
 
-struct Read {
+struct Written {
   const char* typed;
   frame::YearMonthDay is;
 };
 
 TEST(TypedDates, AreReadInFullAndInShort) {
   const DateOrigin origin{.today = kToday};
-  const Read kTable[] = {{"1-4-2031", {2031, 4, 1}},  {"010431", {2031, 4, 1}},    {"t", {2026, 11, 22}},
-                         {"v", {2026, 11, 22}},       {"T", {2026, 11, 22}},       {" V ", {2026, 11, 22}},
-                         {"vandaag", {2026, 11, 22}}, {"Vandaag", {2026, 11, 22}}, {"1-4", {2026, 4, 1}},
-                         {"31/12", {2026, 12, 31}},   {"1.4", {2026, 4, 1}},       {"1 4", {2026, 4, 1}},
-                         {"01-04", {2026, 4, 1}},     {"22- 11", {2026, 11, 22}}};
-  for (const Read& row : kTable) {
+  const Written kTable[] = {{"1-4-2031", {2031, 4, 1}},  {"010431", {2031, 4, 1}},    {"t", {2026, 11, 22}},
+                            {"v", {2026, 11, 22}},       {"T", {2026, 11, 22}},       {" V ", {2026, 11, 22}},
+                            {"vandaag", {2026, 11, 22}}, {"Vandaag", {2026, 11, 22}}, {"1-4", {2026, 4, 1}},
+                            {"31/12", {2026, 12, 31}},   {"1.4", {2026, 4, 1}},       {"1 4", {2026, 4, 1}},
+                            {"01-04", {2026, 4, 1}},     {"22- 11", {2026, 11, 22}}};
+  for (const Written& row : kTable) {
     const frame::Reading<host::Date> date = ReadTypedDate(row.typed, origin);
     ASSERT_FALSE(date.IsRefused() || date.IsEmpty()) << row.typed << ": " << date.Reason();
     EXPECT_EQ(frame::Split(*date), row.is) << row.typed;
@@ -33,12 +33,12 @@ TEST(TypedDates, AreReadInFullAndInShort) {
 
 TEST(TypedDates, OfAnEndMayBeATermFromItsStart) {
   const DateOrigin origin{.today = kToday, .start = DateOrigin::Start{"Aanvangsdatum", MakeDate({2024, 2, 29})}};
-  const Read kTable[] = {{"3j", {2027, 2, 28}},    {"4j", {2028, 2, 29}},    {"18m", {2025, 8, 29}},
-                         {"1j6m", {2025, 8, 29}},  {"1J 6M", {2025, 8, 29}}, {"1 jaar 6 maanden", {2025, 8, 29}},
-                         {"10 jr", {2034, 2, 28}}, {"6mnd", {2024, 8, 29}},  {"0m", {2024, 2, 29}},
-                         {"12m", {2025, 2, 28}},   {"t", {2026, 11, 22}},    {"1-4", {2026, 4, 1}},
-                         {"7975j", {9999, 2, 28}}};
-  for (const Read& row : kTable) {
+  const Written kTable[] = {{"3j", {2027, 2, 28}},    {"4j", {2028, 2, 29}},    {"18m", {2025, 8, 29}},
+                            {"1j6m", {2025, 8, 29}},  {"1J 6M", {2025, 8, 29}}, {"1 jaar 6 maanden", {2025, 8, 29}},
+                            {"10 jr", {2034, 2, 28}}, {"6mnd", {2024, 8, 29}},  {"0m", {2024, 2, 29}},
+                            {"12m", {2025, 2, 28}},   {"t", {2026, 11, 22}},    {"1-4", {2026, 4, 1}},
+                            {"7975j", {9999, 2, 28}}};
+  for (const Written& row : kTable) {
     const frame::Reading<host::Date> date = ReadTypedDate(row.typed, origin);
     ASSERT_FALSE(date.IsRefused() || date.IsEmpty()) << row.typed << ": " << date.Reason();
     EXPECT_EQ(frame::Split(*date), row.is) << row.typed;

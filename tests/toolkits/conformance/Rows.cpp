@@ -74,6 +74,55 @@ TEST_P(Rows, AreFollowedByTabAndTheirColumnByTheArrows) {
       true);
 }
 
+TEST_P(Rows, GoAPageByTheirKeysAndHandOverBefore) {
+  disabled = {1};
+  // 45 rows stand in four columns: twelve below each other, and nine in the last.
+  Open(45, [&] {
+    EXPECT_EQ(Focused(), "txtBedrag(2)");
+    TypeOver("200");
+    Press(Key::PageDown);
+    EXPECT_EQ(Amount(2), 200);
+    // The first row cannot be gone to, so that one less stands below each other.
+    EXPECT_EQ(Focused(), "txtBedrag(13)");
+    Press(Key::PageDown);
+    EXPECT_EQ(Focused(), "txtBedrag(25)");
+    Press(Key::PageUp);
+    EXPECT_EQ(Focused(), "txtBedrag(13)");
+    Press(Key::PageDown);
+    Press(Key::PageDown);
+    Press(Key::PageDown);
+    EXPECT_EQ(Focused(), "txtBedrag(45)");
+    Press(Key::PageDown);
+    EXPECT_EQ(Focused(), "txtBedrag(45)");
+    TypeOver("12.50");
+    Press(Key::PageUp);
+    EXPECT_EQ(Focused(), "txtBedrag(45)");
+    EXPECT_EQ(Reason(), "Bedoelt u 12,50 of 1.250? Typ een komma voor de decimalen.");
+    Press(Key::Escape);
+    for (int i = 0; i < 6; ++i) Press(Key::PageUp);
+    EXPECT_EQ(Focused(), "txtBedrag(2)");
+  });
+}
+
+TEST_P(Rows, AndTheirWindowTellWhatTheyAreAbout) {
+  subject->Toolkit().SetSubjectTeller([] {
+    return controls::FormSubject{.title = "Kinderopvang, per maand",
+                                 .row = [](int row) { return "rij " + std::to_string(row); }};
+  });
+  Open(3, [&] {
+    EXPECT_EQ(subject->TitleOf(Window()), "Scenario - Kinderopvang, per maand");
+    EXPECT_EQ(Window().Caption(), "Scenario");
+    EXPECT_EQ(subject->TipOf(Cell("txtBedrag", 1)), "rij 1");
+    EXPECT_EQ(subject->TipOf(Cell("txtBedrag", 3)), "rij 3");
+    EXPECT_EQ(subject->TipOf(Cell("chkEenmalig", 2)), "rij 2");
+  });
+  subject->Toolkit().SetSubjectTeller(nullptr);
+  Open(3, [&] {
+    EXPECT_EQ(subject->TitleOf(Window()), "Scenario");
+    EXPECT_EQ(subject->TipOf(Cell("txtBedrag", 2)), "");
+  });
+}
+
 TEST_P(Rows, HaveTheirTicksAndHelpIconsAsStops) {
   Open(2, [&] {
     Press(Key::Tab);

@@ -46,6 +46,10 @@ class ScreenUnderTest : public ToolkitUnderTest {
   [[nodiscard]] virtual std::string Reason(controls::AnyControl& box) = 0;
   /// The note beside a box; empty where there is none.
   [[nodiscard]] virtual std::string Note(controls::AnyControl& box) = 0;
+  /// What the window of a form says at its top.
+  [[nodiscard]] virtual std::string TitleOf(controls::Form& form) = 0;
+  /// What the tool tip of a row says over one of its boxes; empty where there is none.
+  [[nodiscard]] virtual std::string TipOf(controls::AnyControl& box) = 0;
   [[nodiscard]] virtual bool CalendarIsOpen(controls::AnyControl& box) = 0;
   /// The help that is shown; empty where there is none.
   [[nodiscard]] virtual std::string Help() = 0;

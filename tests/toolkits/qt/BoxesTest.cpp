@@ -14,5 +14,16 @@ TEST_F(SurfaceTest, AReasonIsTheDescriptionOfItsBoxUntilSomethingIsTyped) {
   EXPECT_EQ(Entry("txtBedrag").accessibleDescription(), "");
 }
 
+TEST_F(SurfaceTest, ANoteIsTheDescriptionOfItsBoxUntilItIsHandedOver) {
+  Focus("txtBedrag");
+  TypeOver("1200/12");
+  EXPECT_EQ(qt::Bubble::NoteOf(Entry("txtBedrag")), "= 100,00");
+  EXPECT_EQ(qt::Bubble::ReasonOf(Entry("txtBedrag")), "");
+  EXPECT_EQ(Entry("txtBedrag").accessibleDescription(), "= 100,00");
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(qt::Bubble::NoteOf(Entry("txtBedrag")), "");
+  EXPECT_EQ(Entry("txtBedrag").accessibleDescription(), "");
+}
+
 }  // namespace
 }  // namespace brivane::test

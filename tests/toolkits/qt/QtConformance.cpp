@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QTimer>
 #include <QToolTip>
 #include <QTreeWidget>
@@ -93,6 +94,14 @@ class QtUnderTest final : public ScreenUnderTest {
   }
   [[nodiscard]] std::string Note(controls::AnyControl& box) override {
     return qt::FromQt(qt::Bubble::NoteOf(EntryOf(box)));
+  }
+  [[nodiscard]] std::string TitleOf(controls::Form& form) override { return qt::FromQt(DialogOf(form).windowTitle()); }
+  [[nodiscard]] std::string TipOf(controls::AnyControl& box) override {
+    const auto& cell = dynamic_cast<const qt::CellPeer&>(*box.GetPeer());
+    if (cell.Canvas()->IsEdited(cell)) return qt::FromQt(cell.Canvas()->Editor()->toolTip());
+    QHelpEvent help(QEvent::ToolTip, cell.Place().center(), cell.Canvas()->mapToGlobal(cell.Place().center()));
+    QApplication::sendEvent(WidgetFor(box), &help);
+    return Help();
   }
   [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
     const QWidget* const calendar = dynamic_cast<qt::DateBox&>(EntryOf(box)).Calendar();

@@ -79,6 +79,13 @@ class Win32UnderTest final : public ScreenUnderTest {
   [[nodiscard]] std::string Note(controls::AnyControl& box) override {
     return win32::Narrow(dynamic_cast<win32::BoxWindow&>(test::Shown(box)).Note());
   }
+  [[nodiscard]] std::string TitleOf(controls::Form& form) override {
+    return win32::Narrow(win32::TextOf(GetAncestor(win32::AreaOf(form), GA_ROOT)));
+  }
+  [[nodiscard]] std::string TipOf(controls::AnyControl& box) override {
+    const auto& form = dynamic_cast<const win32::FormWindow&>(*box.Owner()->GetPeer());
+    return form.Tips() != nullptr ? win32::Narrow(form.Tips()->TextOf(HandleOf(box))) : std::string();
+  }
   [[nodiscard]] bool CalendarIsOpen(controls::AnyControl& box) override {
     return IsWindowVisible(dynamic_cast<win32::DateWindow&>(test::Shown(box)).CalendarShown()) != FALSE;
   }

@@ -47,6 +47,7 @@ class AccessibleCell final : public QAccessibleInterface,
     if (which == QAccessible::Value && kind == Kind::TextBox) return cell_.Text();
     if (which == QAccessible::Description && kind == Kind::Hint)
       return ToQt(static_cast<const controls::Hint&>(cell_.Control()).HelpText());
+    if (which == QAccessible::Description) return canvas_.RowText(cell_);
     return {};
   }
   void setText(QAccessible::Text, const QString&) override {}

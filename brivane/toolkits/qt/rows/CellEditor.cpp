@@ -25,6 +25,8 @@ void CellEditor::keyPressEvent(QKeyEvent* event) {
   switch (plain ? event->key() : 0) {
     case Qt::Key_Up: canvas_.StepInColumn(Direction::Back); return;
     case Qt::Key_Down: canvas_.StepInColumn(Direction::Forward); return;
+    case Qt::Key_PageUp: return canvas_.StepPage(Direction::Back);
+    case Qt::Key_PageDown: return canvas_.StepPage(Direction::Forward);
     case Qt::Key_Return:
     case Qt::Key_Enter: canvas_.EnterAndGoDown(); return;
     default: EntryBox::keyPressEvent(event);

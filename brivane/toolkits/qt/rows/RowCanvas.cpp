@@ -7,6 +7,7 @@
 #include <QScrollArea>
 #include <QToolTip>
 #include <algorithm>
+#include <cstdlib>
 
 #include <brivane/controls/Choices.h>
 #include <brivane/controls/Plain.h>
@@ -142,6 +143,7 @@ void RowCanvas::Edit(CellPeer& cell) {
   if (moved) editor_->Tie(static_cast<controls::TextBox&>(cell.Control()), toolkit_);
   editor_->setEnabled(true);
   editor_->setAccessibleName(ToQt(cell.Control().AccessibleName()));
+  editor_->setToolTip(RowText(cell));
   editor_->setGeometry(cell.Place());
   editor_->show();
   const bool had = editor_->hasFocus();
@@ -186,12 +188,29 @@ bool RowCanvas::Step(Direction direction) {
   return next != nullptr && GoTo(*next);
 }
 
-bool RowCanvas::StepInColumn(Direction direction) {
-  if (current_ == nullptr || !HandOver()) return false;
+/// The cells of the current one's control array that a person can go to.
+std::vector<CellPeer*> RowCanvas::Column() const {
   std::vector<CellPeer*> column = Stops();
   std::erase_if(column, [this](CellPeer* cell) { return &cell->Control().Row() != &current_->Control().Row(); });
-  CellPeer* const next = Neighbour(column, current_, direction);
+  return column;
+}
+
+bool RowCanvas::StepInColumn(Direction direction) {
+  if (current_ == nullptr || !HandOver()) return false;
+  CellPeer* const next = Neighbour(Column(), current_, direction);
   return next != nullptr && GoTo(*next);
+}
+
+void RowCanvas::StepPage(Direction direction) {
+  if (current_ == nullptr || !HandOver()) return;
+  std::vector<CellPeer*> column = Column();
+  if (direction == Direction::Back) std::reverse(column.begin(), column.end());
+  const auto here = std::find(column.begin(), column.end(), current_);
+  if (here == column.end()) return;
+  const int left = current_->Place().left();
+  const auto page = std::count_if(column.begin(), column.end(),
+                                  [left](const CellPeer* cell) { return cell->Place().left() == left; });
+  GoTo(**std::next(here, std::min(page, std::distance(here, std::prev(column.end())))));
 }
 
 void RowCanvas::EnterAndGoDown() {
@@ -231,11 +250,25 @@ void RowCanvas::ShowHelp(const CellPeer& cell) {
   QToolTip::showText(mapToGlobal(cell.Place().bottomLeft()), WrappedToolTip(help), this, cell.Place());
 }
 
+QString RowCanvas::RowText(const CellPeer& cell) const {
+  if (!teller_) return {};
+  // What heads a column of rows has a number of its own.
+  const bool ofRow = std::any_of(cells_.begin(), cells_.end(), [&](const CellPeer* box) {
+    const bool beside = std::abs(box->Place().center().y() - cell.Place().center().y()) < cell.Place().height();
+    return beside && box->Control().ControlKind() == Kind::TextBox && box->Control().Index() == cell.Control().Index();
+  });
+  return ofRow ? ToQt(teller_(cell.Control().Index())) : QString();
+}
+
 bool RowCanvas::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const CellPeer* const cell = CellAt(static_cast<QHelpEvent*>(event)->pos());
+  const auto& help = static_cast<QHelpEvent&>(*event);
+  const CellPeer* const cell = CellAt(help.pos());
+  const QString text = cell != nullptr ? RowText(*cell) : QString();
   if (cell != nullptr && cell->Control().ControlKind() == Kind::Hint)
     ShowHelp(*cell);
+  else if (!text.isEmpty())
+    QToolTip::showText(help.globalPos(), WrappedToolTip(text), this, cell->Place());
   else
     QToolTip::hideText();
   return true;
@@ -276,6 +309,8 @@ void RowCanvas::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space: return Activate(*current_);
     case Qt::Key_Up: StepInColumn(Direction::Back); return;
     case Qt::Key_Down: StepInColumn(Direction::Forward); return;
+    case Qt::Key_PageUp: return StepPage(Direction::Back);
+    case Qt::Key_PageDown: return StepPage(Direction::Forward);
     case Qt::Key_Return:
     case Qt::Key_Enter: return EnterAndGoDown();
     default: QWidget::keyPressEvent(event);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <brivane/controls/Peer.h>
@@ -16,8 +18,8 @@ class CellEditor;
 /// Paints the cells of a form's rows, and lets a person work them: one real line edit stands in whichever
 /// box has the focus, and ticks and help icons are worked by the canvas itself.
 ///
-/// Tab follows the rows; Up and Down move within a control array; Enter hands over and goes one down;
-/// a pasted column of numbers fills the boxes from the focused one down.
+/// Tab follows the rows; Up and Down move within a control array, Page Up and Page Down by a whole column of rows;
+/// Enter hands over and goes one down; a pasted column of numbers fills the boxes from the focused one down.
 class RowCanvas : public QWidget {
  public:
   /// The canvas of a container; made for its first cell.
@@ -41,8 +43,14 @@ class RowCanvas : public QWidget {
   bool StepInColumn(Direction direction);
   /// Hands over, and goes to the box below; past the last one, to what follows the rows.
   void EnterAndGoDown();
+  /// Moves by as many rows as stand below each other, or to the first or last row where there are fewer.
+  void StepPage(Direction direction);
   /// Goes to the first cell.
   bool GoToFirst();
+
+  /// Who tells what a row stands for, by its number; a tool tip and a screen reader say it.
+  void TellRows(std::function<std::string(int row)> teller) { teller_ = std::move(teller); }
+  [[nodiscard]] QString RowText(const CellPeer& cell) const;
 
   [[nodiscard]] const std::vector<CellPeer*>& Cells() const { return cells_; }
   [[nodiscard]] CellPeer* Current() const { return current_; }
@@ -73,6 +81,7 @@ class RowCanvas : public QWidget {
   RowCanvas(QWidget& container, Toolkit& toolkit);
 
   [[nodiscard]] std::vector<CellPeer*> Stops() const;
+  [[nodiscard]] std::vector<CellPeer*> Column() const;
   [[nodiscard]] bool LeaveRows(Direction direction);
   bool HandOver();
   void Edit(CellPeer& cell);
@@ -83,6 +92,7 @@ class RowCanvas : public QWidget {
   void Repaint(const QRect& area);
 
   Toolkit& toolkit_;
+  std::function<std::string(int row)> teller_;
   std::vector<CellPeer*> cells_;
   CellEditor* editor_;
   CellPeer* current_ = nullptr;

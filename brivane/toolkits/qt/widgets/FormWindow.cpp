@@ -40,7 +40,7 @@ QSize FormWindow::Inside() const { return toolkit_.Edge().Pixels(form_.ScaleWidt
 
 void FormWindow::Refresh(Aspect aspect) {
   switch (aspect) {
-    case Aspect::Caption: dialog_->setWindowTitle(ToQt(form_.Caption())); break;
+    case Aspect::Caption: dialog_->setWindowTitle(ToQt(controls::WindowTitle(form_.Caption(), subject_))); break;
     case Aspect::Enabled: area_->setEnabled(form_.Enabled()); break;
     case Aspect::Place:
       area_->resize(Inside());
@@ -83,6 +83,13 @@ void FormWindow::Fit() {
   dialog_->move(qMax(place.left(), screen.left()), qMax(place.top(), screen.top()));
 }
 
+/// What the form is about stands fixed while it is open.
+void FormWindow::TellSubject() {
+  subject_ = toolkit_.Subject();
+  Refresh(Aspect::Caption);
+  for (RowCanvas* const canvas : Canvases(form_)) canvas->TellRows(subject_.row);
+}
+
 void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
   const auto* const owner = dynamic_cast<const qt::Hoofdvenster*>(eigenaar);
   QWidget* const window = owner != nullptr ? owner->Venster() : QApplication::activeWindow();
@@ -96,6 +103,7 @@ void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
     });
   }
   ChainTabOrder(form_, nullptr);
+  TellSubject();
   for (const auto& control : form_.Made())
     if (control->ControlKind() == host::Kind::Button) {
       auto& button = static_cast<QPushButton&>(*dynamic_cast<WidgetPeer&>(*control->GetPeer()).Widget());

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <brivane/controls/Form.h>
+#include <brivane/controls/FormSubject.h>
 #include <brivane/host/model/Hoofdvenster.h>
 #include <brivane/toolkits/qt/peers/Peers.h>
 
@@ -49,6 +50,7 @@ class FormWindow final : public controls::FormPeer, public AreaHolder {
  private:
   [[nodiscard]] QSize Inside() const;
   void Fit();
+  void TellSubject();
   void ShowBackColor();
   /// A person closes the window.
   void Close();
@@ -56,6 +58,7 @@ class FormWindow final : public controls::FormPeer, public AreaHolder {
 
   controls::Form& form_;
   Toolkit& toolkit_;
+  controls::FormSubject subject_;
   std::unique_ptr<QDialog> dialog_;
   QScrollArea* scroll_;
   QPointer<QWidget> area_;

@@ -84,7 +84,9 @@ SIZE FormWindow::Inside() const { return Toolkit().Edge().Pixels(form_.ScaleWidt
 void FormWindow::Refresh(Aspect aspect) {
   if (Handle() == nullptr) return;
   switch (aspect) {
-    case Aspect::Caption: SetWindowTextW(Handle(), Wide(form_.Caption()).c_str()); break;
+    case Aspect::Caption:
+      SetWindowTextW(Handle(), Wide(controls::WindowTitle(form_.Caption(), subject_)).c_str());
+      break;
     case Aspect::Enabled: EnableWindow(Area(), form_.Enabled() ? TRUE : FALSE); break;
     case Aspect::Place: {
       const SIZE inside = Inside();
@@ -206,6 +208,25 @@ void FormWindow::GiveFocus() {
     stops.front()->FocusByKey();
 }
 
+std::string FormWindow::RowText(const controls::AnyControl& control) {
+  const host::Kind kind = control.ControlKind();
+  const bool ofRow = control.IsRowElement() && (kind == host::Kind::TextBox || kind == host::Kind::CheckBox);
+  if (!ofRow) return {};
+  const auto* const form = dynamic_cast<const FormWindow*>(control.Owner()->GetPeer());
+  return form != nullptr ? form->subject_.OfRow(control.Index()) : std::string();
+}
+
+/// What the form is about stands fixed while it is open.
+void FormWindow::TellSubject() {
+  subject_ = Toolkit().Subject();
+  Refresh(Aspect::Caption);
+  std::vector<RowTips::Row> rows;
+  for (const auto& control : form_.Made())
+    if (const std::string text = RowText(*control); control->Index() > 0 && !text.empty())
+      rows.push_back({WindowFor(*control).Handle(), Wide(text)});
+  tips_ = rows.empty() ? nullptr : std::make_unique<RowTips>(Toolkit(), Handle(), rows);
+}
+
 void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
   const auto* const given = dynamic_cast<const win32::Hoofdvenster*>(eigenaar);
   const HWND owner = given != nullptr ? GetAncestor(given->Venster(), GA_ROOT) : GetActiveWindow();
@@ -218,6 +239,7 @@ void FormWindow::ShowModal(host::Hoofdvenster* eigenaar) {
     if (form_.IsUnloaded() || Handle() == nullptr) return;
     const OthersDisabled others(Handle(), owner);
     open_ = true;
+    TellSubject();
     Fit();
     ShowWindow(Handle(), SW_SHOW);
     SetForegroundWindow(Handle());

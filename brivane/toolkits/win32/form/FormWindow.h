@@ -1,8 +1,11 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <brivane/controls/Form.h>
+#include <brivane/controls/FormSubject.h>
+#include <brivane/toolkits/win32/form/RowTips.h>
 #include <brivane/toolkits/win32/window/ControlWindow.h>
 
 namespace brivane::win32 {
@@ -19,6 +22,9 @@ class FormWindow final : public controls::FormPeer, public Window, public AreaHo
   void Unload() override;
   [[nodiscard]] HWND Area() const override;
   [[nodiscard]] bool IsOpen() const { return open_; }
+  /// What the row of a control stands for, as a tool tip and a screen reader say it; empty on another surface.
+  [[nodiscard]] static std::string RowText(const controls::AnyControl& control);
+  [[nodiscard]] const RowTips* Tips() const { return tips_.get(); }
 
   /// Presses the first button of the form, which Enter stands for.
   void PressDefault();
@@ -40,10 +46,13 @@ class FormWindow final : public controls::FormPeer, public Window, public AreaHo
   void ScrollTo(POINT place);
   void OnScroll(int bar, int code);
   void GiveFocus();
+  void TellSubject();
   void RunLoop();
 
   controls::Form& form_;
   std::unique_ptr<AreaWindow> area_;
+  controls::FormSubject subject_;
+  std::unique_ptr<RowTips> tips_;
   HWND focused_ = nullptr;  ///< where the focus was when the window was left
   POINT scrolled_{};
   bool open_ = false;

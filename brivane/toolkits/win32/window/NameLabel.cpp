@@ -1,3 +1,4 @@
+#include <brivane/toolkits/win32/form/FormWindow.h>
 #include <brivane/toolkits/win32/window/NameLabel.h>
 #include <brivane/toolkits/win32/window/Text.h>
 
@@ -9,7 +10,9 @@ NameLabel::NameLabel(const controls::AnyControl& control, win32::Toolkit& toolki
       control_(control) {}
 
 LRESULT NameLabel::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-  const auto answer = AnswerText(std::string(control_.AccessibleName()), message, wParam, lParam);
+  std::string name(control_.AccessibleName());
+  if (const std::string row = FormWindow::RowText(control_); !row.empty()) name += ", " + row;
+  const auto answer = AnswerText(name, message, wParam, lParam);
   return answer ? *answer : Window::OnMessage(message, wParam, lParam);
 }
 

@@ -119,6 +119,13 @@ wchar_t MnemonicOf(const AnyControl& control) {
   return 0;
 }
 
+/// The elements of a control array of rows that a person can go to.
+std::vector<ControlWindow*> ColumnOf(const ControlWindow& element) {
+  std::vector<ControlWindow*> column = Stops(RootOf(element.Control()));
+  std::erase_if(column, [&](const ControlWindow* stop) { return &stop->Control().Row() != &element.Control().Row(); });
+  return column;
+}
+
 }  // namespace
 
 std::vector<ControlWindow*> Stops(const controls::Surface& root) {
@@ -160,13 +167,25 @@ bool Step(ControlWindow& from, Direction direction) {
 
 bool StepInColumn(ControlWindow& from, Direction direction) {
   if (!CommitBox(from)) return false;
-  std::vector<ControlWindow*> column = Stops(RootOf(from.Control()));
-  std::erase_if(column, [&](const ControlWindow* stop) { return &stop->Control().Row() != &from.Control().Row(); });
+  const std::vector<ControlWindow*> column = ColumnOf(from);
   const auto here = std::find(column.begin(), column.end(), &from);
   if (here == column.end()) return false;
   if (direction == Direction::Back ? here == column.begin() : std::next(here) == column.end()) return false;
   (direction == Direction::Back ? *std::prev(here) : *std::next(here))->FocusByKey();
   return true;
+}
+
+void StepPage(ControlWindow& from, Direction direction) {
+  if (!CommitBox(from)) return;
+  std::vector<ControlWindow*> column = ColumnOf(from);
+  if (direction == Direction::Back) std::reverse(column.begin(), column.end());
+  const auto here = std::find(column.begin(), column.end(), &from);
+  if (here == column.end()) return;
+  const host::Twips left = from.Control().Host().Place().left;
+  const auto page = std::count_if(column.begin(), column.end(), [&](const ControlWindow* stop) {
+    return stop->Control().Host().Place().left == left;
+  });
+  (*std::next(here, std::min(page, std::distance(here, std::prev(column.end())))))->FocusByKey();
 }
 
 void EnterAndGoDown(ControlWindow& from) {
@@ -188,6 +207,8 @@ bool MoveByKey(ControlWindow& from, WPARAM key) {
     case VK_DOWN:
       if (from.IsRowElement()) return StepInColumn(from, Direction::Forward), true;
       return option && MoveInGroup(from, Direction::Forward);
+    case VK_PRIOR: return from.IsRowElement() && (StepPage(from, Direction::Back), true);
+    case VK_NEXT: return from.IsRowElement() && (StepPage(from, Direction::Forward), true);
     case VK_LEFT: return option && MoveInGroup(from, Direction::Back);
     case VK_RIGHT: return option && MoveInGroup(from, Direction::Forward);
     case VK_RETURN:

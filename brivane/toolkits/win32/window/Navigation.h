@@ -26,6 +26,8 @@ bool PressMnemonic(const controls::Surface& root, wchar_t letter);
 
 /// Goes to the next element of a control array of rows; false at its end or on a refusal.
 bool StepInColumn(ControlWindow& from, Direction direction);
+/// Goes on by as many elements as stand below each other, or to the first or last one where there are fewer.
+void StepPage(ControlWindow& from, Direction direction);
 /// Hands over and goes to the element below, or past the last one to what follows the rows.
 void EnterAndGoDown(ControlWindow& from);
 
