@@ -49,6 +49,8 @@ Actions::Actions(QMainWindow& window)
       client(MakeAction(window, "&Cliëntgegevens…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C))),
       addLening(MakeAction(window, "&Lening toevoegen…")),
       check(MakeAction(window, "Dossier c&ontroleren", QKeySequence(Qt::Key_F7))),
+      overview(MakeAction(window, "&Overzicht", QKeySequence(Qt::Key_F9))),
+      verloop(MakeAction(window, "&Verloop", QKeySequence(Qt::SHIFT | Qt::Key_F9))),
       record(MakeAction(window, "Op&nemen…")),
       eventLog(MakeAction(window, "&Logboek…")),
       about(MakeAction(window, "&Over Dossier…")) {
@@ -79,6 +81,7 @@ Actions::Actions(QMainWindow& window)
 
   QMenu* dossierMenu = window.menuBar()->addMenu(QStringLiteral("Dossie&r"));
   dossierMenu->addActions({client, addLening, check});
+  dossierMenu->addActions({overview, verloop});
 
   QMenu* helpMenu = window.menuBar()->addMenu(QStringLiteral("&Help"));
   helpMenu->addActions({record, eventLog, about});
@@ -103,7 +106,7 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, record};
+  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, overview, verloop, record};
 }
 
 QList<QAction*> Actions::ForKolom() const {

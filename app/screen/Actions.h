@@ -35,6 +35,8 @@ struct Actions {
   QAction* client;
   QAction* addLening;
   QAction* check;
+  QAction* overview;
+  QAction* verloop;
 
   QAction* record;  ///< checked while a recording runs
   QAction* eventLog;

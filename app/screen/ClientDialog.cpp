@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,7 @@
 
 #include "app/desk/Today.h"
 #include <brivane/frame/Dates.h>
+#include <brivane/frame/Numbers.h>
 #include <brivane/toolkits/qt/widgets/DateBox.h>
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
@@ -50,6 +52,21 @@ controls::TypedContent ReadBirth(std::string_view typed) {
   if (date.IsRefused()) return {.refusal = date.Reason()};
   return date.IsEmpty() ? controls::TypedContent() : controls::TypedContent{.value = *date};
 }
+
+/// A rate as it is typed.
+controls::TypedContent ReadRate(std::string_view typed) {
+  const frame::Reading<double> rate = frame::ReadNumber(typed);
+  if (rate.IsRefused()) return {.refusal = rate.Reason()};
+  if (rate.IsEmpty()) return {};
+  if (*rate < 0 || *rate > 100) return {.refusal = "Vul een percentage van 0 tot en met 100 in, of niets."};
+  return {.value = *rate};
+}
+
+constexpr char kRateHelp[] =
+    "Het percentage inkomstenbelasting over de laatst verdiende euro, zoals u dat voor deze persoon aanhoudt. Het "
+    "programma rekent geen belasting uit: het percentage dient alleen om in het overzicht te tonen wat een aftrekpost "
+    "of "
+    "bijtelling in euro's doet. Leeg: alleen het belastbare bedrag wordt getoond.";
 
 }  // namespace
 
@@ -109,6 +126,21 @@ QWidget* ClientDialog::MakeFields(PersoonFields& fields, const QString& name) {
   fields.geboortedatum->Edit().Tie(frame::Format::Date, &ReadBirth, &Today);
   fields.geboortedatum->setAccessibleName(name + QStringLiteral(", Geboortedatum"));
   layout->addRow(QStringLiteral("Geboortedatum"), fields.geboortedatum);
+  fields.belastingtarief = new qt::EntryBox;
+  qt::TypesNothingWithAlt(*fields.belastingtarief);
+  fields.belastingtarief->Edit().Tie(frame::Format::Number, &ReadRate);
+  const QString heading = QStringLiteral("Marginaal belastingtarief");
+  fields.belastingtarief->setAccessibleName(name + QStringLiteral(", ") + heading);
+  fields.belastingtarief->setToolTip(QString::fromUtf8(kRateHelp));
+  fields.belastingtarief->setAccessibleDescription(QString::fromUtf8(kRateHelp));
+  fields.belastingtarief->setPlaceholderText(QStringLiteral("niet ingevuld"));
+  auto* percent = new QHBoxLayout;
+  percent->addWidget(fields.belastingtarief);
+  percent->addWidget(new QLabel(QStringLiteral("%")));
+  auto* label = new QLabel(heading);
+  label->setBuddy(fields.belastingtarief);
+  label->setToolTip(QString::fromUtf8(kRateHelp));
+  layout->addRow(label, percent);
   return group;
 }
 
@@ -117,6 +149,8 @@ void ClientDialog::Fill(const PersoonFields& fields, const dossier::PersoonGegev
     fields.name[part]->setText(QString::fromStdString(persoon.Naam[part]));
   }
   fields.geboortedatum->ShowText(QString::fromStdString(frame::ShowDate(persoon.Geboortedatum)));
+  fields.belastingtarief->ShowText(
+      persoon.Belastingtarief ? QString::fromStdString(frame::ShowNumber(*persoon.Belastingtarief)) : QString());
 }
 
 dossier::PersoonGegevens ClientDialog::Read(const PersoonFields& fields) const {
@@ -126,6 +160,8 @@ dossier::PersoonGegevens ClientDialog::Read(const PersoonFields& fields) const {
   }
   const controls::TypedContent datum = ReadBirth(fields.geboortedatum->text().toStdString());
   if (const auto* geboortedatum = std::get_if<host::Date>(&datum.value)) persoon.Geboortedatum = *geboortedatum;
+  const controls::TypedContent tarief = ReadRate(fields.belastingtarief->text().toStdString());
+  if (const auto* belastingtarief = std::get_if<double>(&tarief.value)) persoon.Belastingtarief = *belastingtarief;
   return persoon;
 }
 

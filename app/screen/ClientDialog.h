@@ -14,7 +14,8 @@ class QSpinBox;
 
 namespace brivane::qt {
 class DateBox;
-}
+class EntryBox;
+}  // namespace brivane::qt
 
 namespace brivane::app {
 
@@ -40,6 +41,7 @@ class ClientDialog final : public QDialog {
   struct PersoonFields {
     std::array<QLineEdit*, 3> name{};
     qt::DateBox* geboortedatum = nullptr;
+    qt::EntryBox* belastingtarief = nullptr;
   };
 
   QWidget* MakeFields(PersoonFields& fields, const QString& name);

@@ -6,9 +6,12 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "app/desk/Today.h"
 #include "app/recording/Recording.h"
 #include "app/screen/CarryOver.h"
+#include "app/screen/EffectLabel.h"
 #include "app/screen/KopregelLabel.h"
+#include "dossier/sums/Zin.h"
 #include <brivane/frame/Handle.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 #include <brivane/vrijekolom/Teksten.h>
@@ -58,9 +61,11 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
 
   header_ = new KopregelLabel;
   header_->setObjectName(QStringLiteral("kopregel"));
+  effect_ = new EffectLabel;
   kolom_ = new QWidget;
   auto* layout = new QVBoxLayout(kolom_);
   layout->addWidget(header_);
+  layout->addWidget(effect_);
   layout->addWidget(scroller, 1);
   connect(editor_, &qt::VrijeKolomWidget::refreshTopDisplay, header_, &KopregelLabel::Show);
 
@@ -88,9 +93,16 @@ void KolomScreen::Show(const Place& place) {
 void KolomScreen::RefreshHeader() {
   if (!place_.Vrij_Id) return;
   // What could not be bound was told by the host's report; its name stands above nothing.
-  if (!editor_->IsBound()) return header_->Show(QString());
+  if (!editor_->IsBound()) {
+    effect_->Show(QString());
+    return header_->Show(QString());
+  }
   if (const auto kolom = dossier_->FindKolom(place_.Len_Id, *place_.Vrij_Id)) {
     header_->Show(QString::fromStdString(kolom->Kopregel()));
+    const std::vector<dossier::PersoonGegevens> personen = dossier_->Personen();
+    effect_->Show(QString::fromStdString(sums::Zin(kolom->Gegevens(),
+                                                   personen.size() > 1 ? sums::Partner::Met : sums::Partner::Zonder,
+                                                   sums::TarievenVan(personen), Today())));
   }
 }
 

@@ -11,6 +11,7 @@
 
 namespace brivane::app {
 
+class EffectLabel;
 class KopregelLabel;
 class Recording;
 
@@ -18,8 +19,8 @@ class Recording;
 /// removed.
 enum class Leaving : std::uint8_t { May, Stays, Remove };
 
-/// One free column on the screen: its header text above the editor, which is as high as it says. Where the
-/// window is smaller it scrolls.
+/// One free column on the screen: its header text, and what it does in euros, above the editor, which is as high as it
+/// says. Where the window is smaller it scrolls.
 class KolomScreen final : public QStackedWidget {
  public:
   /// `recording` outlives the screen.
@@ -35,7 +36,7 @@ class KolomScreen final : public QStackedWidget {
   /// Hands over the box that is being edited, then asks the editor. Where the column stays, the focus is in the box
   /// that has to be mended. The refusal of a column that was never complete offers to remove it.
   [[nodiscard]] Leaving Leave();
-  /// The header text as the record has it now.
+  /// The header text and what the column does, as the record has it now.
   void RefreshHeader();
 
   /// Puts the focus in the description, or in the first field.
@@ -58,6 +59,7 @@ class KolomScreen final : public QStackedWidget {
   QWidget* empty_;
   QWidget* kolom_;
   KopregelLabel* header_;
+  EffectLabel* effect_;
   qt::VrijeKolomWidget* editor_;
   bool leaving_ = false;
   bool remove_ = false;  ///< a refusal was answered by removing the column

@@ -76,6 +76,7 @@ void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   connect(screen_, &DossierScreen::stored, this,
           [this] { statusBar()->showMessage(QStringLiteral("Opgeslagen"), kMessageTime); });
   connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
+  overviews_.Follow(*screen_);
   screen_->Tree().SetActions(actions_);
   const QString kind = screen_->File().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
   fileName_->setText(QDir::toNativeSeparators(screen_->File().Pad()) + kind);

@@ -8,6 +8,7 @@
 #include "app/recording/Recording.h"
 #include "app/screen/Actions.h"
 #include "app/screen/DossierScreen.h"
+#include "app/screen/OverviewWindows.h"
 
 class QLabel;
 class QStackedWidget;
@@ -44,6 +45,7 @@ class MainWindow final : public QMainWindow {
   /// The open file's screen, or nothing.
   [[nodiscard]] DossierScreen* Screen() const { return screen_; }
   [[nodiscard]] const app::Actions& Actions() const { return actions_; }
+  [[nodiscard]] const OverviewWindows& Overviews() const { return overviews_; }
 
   /// Writes all that is stored to a new file, and goes on in that one. Where the open file was moved or deleted this is
   /// how nothing of it is lost.
@@ -109,6 +111,7 @@ class MainWindow final : public QMainWindow {
   QLabel* attention_;
   QLabel* fileName_;
   Recording recording_;
+  OverviewWindows overviews_{*this};
   QPointer<DossierScreen> screen_;
   bool ending_ = false;
   bool finishing_ = false;

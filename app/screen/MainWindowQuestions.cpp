@@ -42,6 +42,8 @@ void MainWindow::Connect() {
   on(actions_.client, [this] { AskClient(); });
   on(actions_.addLening, [this] { AskLening(); });
   on(actions_.check, [this] { Check(); });
+  on(actions_.overview, [this] { overviews_.ShowOverview(); });
+  on(actions_.verloop, [this] { overviews_.ShowVerloop(); });
   on(actions_.record, [this] { actions_.record->isChecked() ? AskRecording() : StopRecording(); });
   on(actions_.eventLog, [this] { EventLogWindow(eventLog_, this).exec(); });
   on(actions_.about, [this] { ShowAbout(); });

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
@@ -54,6 +55,8 @@ struct LeningGegevens {
 struct PersoonGegevens {
   std::array<std::string, 3> Naam;
   host::Date Geboortedatum;
+  /// Marginal rate of the income tax in percent, 0 to 100; none where it was not entered. The host's alone.
+  std::optional<double> Belastingtarief{};
 
   friend bool operator==(const PersoonGegevens&, const PersoonGegevens&) = default;
 };

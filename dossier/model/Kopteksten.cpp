@@ -8,7 +8,10 @@
 namespace brivane::dossier {
 namespace {
 
-/// What the column is, in at most two parts: the kind of product, and the description or the product's name.
+constexpr std::int16_t kPercentages = 2;  ///< kind of input
+
+}  // namespace
+
 std::string Onderwerp(const KolomGegevens& kolom) {
   const std::string soort = kolom.IsProduct ? kolom.ProductsoortOmschrijving : std::string();
   const std::string& naam = kolom.Omschrijving.empty() && kolom.IsProduct ? kolom.Productnaam : kolom.Omschrijving;
@@ -17,7 +20,12 @@ std::string Onderwerp(const KolomGegevens& kolom) {
   return naam.empty() ? soort : soort + " · " + naam;
 }
 
-}  // namespace
+std::string Basisbedrag(const KolomGegevens& kolom) {
+  const std::string getal = frame::ShowAmount(kolom.Bedrag.Bedrag);
+  // An amount that is no number has no text; there is something to read all the same.
+  const std::string leesbaar = getal.empty() ? "?" : getal;
+  return kolom.Bedrag.Invoersoort == kPercentages ? leesbaar + " %" : "€ " + leesbaar;
+}
 
 std::string Kopteksten::Weergave(const KolomGegevens& kolom) const { return kolom.Weergave; }
 std::string Kopteksten::Kopregel(const KolomGegevens& kolom) const { return kolom.Kopregel; }
@@ -25,9 +33,7 @@ std::string Kopteksten::Kopregel(const KolomGegevens& kolom) const { return kolo
 std::string BerekendeKopteksten::Weergave(const KolomGegevens& kolom) const { return Kopregel(kolom); }
 
 std::string BerekendeKopteksten::Kopregel(const KolomGegevens& kolom) const {
-  // An amount that is no number has no text; there is something to read all the same.
-  const std::string bedrag = frame::ShowAmount(kolom.Bedrag.Bedrag);
-  std::string tekst = Onderwerp(kolom) + " · € " + (bedrag.empty() ? "?" : bedrag);
+  std::string tekst = Onderwerp(kolom) + " · " + Basisbedrag(kolom);
   const std::string_view termijn = host::codes::WordsFor(kolom.Termijn, host::codes::kTermijnen);
   if (!termijn.empty()) tekst.append(" ").append(termijn);
   return tekst;

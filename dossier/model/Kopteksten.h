@@ -6,6 +6,11 @@
 
 namespace brivane::dossier {
 
+/// What a column is, in at most two parts: the kind of product, and the description or the product's name.
+[[nodiscard]] std::string Onderwerp(const KolomGegevens& kolom);
+/// The base amount with its sign: "€ 32,50", or "2,50 %" where percentages are filled in; "€ ?" for what is no number.
+[[nodiscard]] std::string Basisbedrag(const KolomGegevens& kolom);
+
 /// Words the header texts of a free column. This one answers the two texts that the column holds.
 class Kopteksten {
  public:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "dossier/model/Gegevens.h"
@@ -13,6 +14,8 @@ class Persoon : public host::Persoon {
   explicit Persoon(PersoonGegevens gegevens) : gegevens_(std::move(gegevens)) {}
   [[nodiscard]] std::array<std::string, 3> Naam() const override { return gegevens_.Naam; }
   [[nodiscard]] host::Date Geboortedatum() const override { return gegevens_.Geboortedatum; }
+  /// Marginal rate of the income tax in percent; none where it was not entered.
+  [[nodiscard]] std::optional<double> Belastingtarief() const { return gegevens_.Belastingtarief; }
   [[nodiscard]] const PersoonGegevens& Gegevens() const { return gegevens_; }
 
  private:

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <utility>
 
+#include "dossier/store/EarlierVersion.h"
 #include "dossier/store/FileCheck.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/HeldFile.h"
@@ -53,11 +54,13 @@ struct Opened {
   std::unique_ptr<HeldFile> held;
   std::unique_ptr<Database> database;
   StoredDossier contents;
+  /// The copy of the file before it was brought up to date, or nothing.
+  QString earlier;
 };
 
 /// Nothing is written before the whole of the file was found right.
 Opened OpenToWork(const QString& pad) {
-  Opened opened{.held = std::make_unique<HeldFile>(pad), .database = nullptr, .contents = {}};
+  Opened opened{.held = std::make_unique<HeldFile>(pad), .database = nullptr, .contents = {}, .earlier = {}};
   CheckHeader(pad);
   CheckLeftOver(pad);
   opened.database = std::make_unique<Database>(pad, Access::Held);
@@ -83,7 +86,11 @@ Opened OpenToWork(const QString& pad) {
   if (const int versie = database.Value(QStringLiteral("PRAGMA user_version")).toInt(); versie < kSchemaVersion) {
     // What a killed program left goes first: the log of this step proves itself by changing nothing else.
     database.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    opened.earlier = KeepEarlierVersion(pad);
     Migrate(database, versie);
+  } else if (IsEarlierVersion(EarlierVersionOf(pad))) {
+    // Nothing was changed since it was brought up to date.
+    opened.earlier = EarlierVersionOf(pad);
   }
   return opened;
 }
@@ -95,7 +102,8 @@ Opened OpenToRead(const QString& pad) {
   const DossierGegevens contents = ReadUntouched(pad);
   Opened opened{.held = nullptr,
                 .database = std::make_unique<Database>(QStringLiteral(":memory:"), Access::ReadWrite),
-                .contents = {}};
+                .contents = {},
+                .earlier = {}};
   Migrate(*opened.database, 0);
   Writer(*opened.database, 1).WriteDossier(contents);
   opened.contents = ReadDossier(*opened.database);
@@ -128,6 +136,7 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
     omgeving->Kopteksten = std::make_shared<BerekendeKopteksten>();
     dossier_ = std::make_shared<dossier::Dossier>(std::move(opened.contents.gegevens), std::move(omgeving));
     *doel = dossier_;
+    ForgetAtFirstEdit(opened.earlier);
     ComeToRest();
   } catch (const ContentsError& error) {
     throw OpeningError(ProblemOf(error), pad_, QString::fromStdString(error.Place()));
@@ -136,6 +145,13 @@ DossierFile::DossierFile(const QString& pad) : pad_(pad), read_only_(false) {
   } catch (const LockError& error) {
     throw OpeningError(ProblemOf(error), pad_);
   }
+}
+
+void DossierFile::ForgetAtFirstEdit(const QString& copy) {
+  if (copy.isEmpty()) return;
+  first_edit_ = Bewerkingen().Stored.Connect([copy, gone = false]() mutable {
+    if (!std::exchange(gone, true)) QFile::remove(copy);
+  });
 }
 
 void DossierFile::ComeToRest() {
@@ -165,6 +181,7 @@ bool DossierFile::StandsAt(const QString& pad) { return LooksLikeALoanFile(pad);
 
 DossierFile::~DossierFile() {
   in_log_ = {};
+  first_edit_ = {};
   journal_->Sluit();
 }
 

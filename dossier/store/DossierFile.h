@@ -64,6 +64,8 @@ class DossierFile {
 
  private:
   explicit DossierFile(const QString& pad);
+  /// Takes the copy of an earlier version away once a change is stored.
+  void ForgetAtFirstEdit(const QString& copy);
   /// Has the log worked off soon after each edit.
   void ComeToRest();
 
@@ -73,6 +75,7 @@ class DossierFile {
   std::shared_ptr<dossier::Dossier> dossier_;
   std::unique_ptr<QTimer> rest_;
   host::Subscription in_log_;
+  host::Subscription first_edit_;
 };
 
 }  // namespace brivane::dossier

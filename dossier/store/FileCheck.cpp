@@ -102,10 +102,15 @@ void CheckName(const QString& pad) {
   if (file.st_nlink > 1) throw OpeningError(OpeningProblem::SecondName, pad);
 }
 
-bool LooksLikeALoanFile(const QString& pad) {
+std::optional<int> LoanFileVersion(const QString& pad) {
   QFile file(pad);
-  return QFileInfo(pad).isFile() && file.open(QIODevice::ReadOnly) && BeginsAsALoanFile(file.read(kHeaderSize));
+  if (!QFileInfo(pad).isFile() || !file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray header = file.read(kHeaderSize);
+  if (!BeginsAsALoanFile(header)) return std::nullopt;
+  return qFromBigEndian<qint32>(header.constData() + kUserVersion);
 }
+
+bool LooksLikeALoanFile(const QString& pad) { return LoanFileVersion(pad).has_value(); }
 
 bool IsWritable(const QString& pad) { return Schrijfbaar(pad) && Schrijfbaar(QFileInfo(pad).absolutePath()); }
 

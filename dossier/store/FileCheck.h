@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "dossier/model/Gegevens.h"
 #include "dossier/store/Database.h"
@@ -12,6 +13,9 @@ void CheckName(const QString& pad);
 
 /// Whether a file begins as a loan file does, whole or not.
 [[nodiscard]] bool LooksLikeALoanFile(const QString& pad);
+
+/// The version of its layout that such a file names; nothing where it is no loan file.
+[[nodiscard]] std::optional<int> LoanFileVersion(const QString& pad);
 
 /// Neither the file nor its folder is marked or given to be read only.
 [[nodiscard]] bool IsWritable(const QString& pad);

@@ -61,6 +61,11 @@ QString Tekst(OpeningProblem problem, const QString& naam, const QString& map, c
           .arg(naam, map);
     case OpeningProblem::NoMemory:
       return QStringLiteral("Er is te weinig geheugen om het dossier \"%1\" te openen.").arg(naam);
+    case OpeningProblem::NoEarlierVersion:
+      return QStringLiteral(
+                 "Het dossier \"%1\" is van een eerdere versie van dit programma en is niet bijgewerkt: in de map "
+                 "\"%2\" kan er geen kopie van worden bewaard. Maak ruimte en probeer het opnieuw.")
+          .arg(naam, map);
     case OpeningProblem::CannotCopy:
       return QStringLiteral(
                  "Het dossier \"%1\" is niet geopend: een eerder programma is onderbroken, en van wat het achterliet "

@@ -225,6 +225,7 @@ std::optional<std::string> FirstImpossible(const KolomGegevens& kolom) {
 std::optional<std::string> FirstImpossible(const PersoonGegevens& persoon) {
   if (!std::all_of(persoon.Naam.begin(), persoon.Naam.end(), IsPossibleText)) return "naam";
   if (!IsDay(std::int64_t{persoon.Geboortedatum.Days()})) return "geboortedatum";
+  if (persoon.Belastingtarief && !IsShare(*persoon.Belastingtarief)) return "belastingtarief";
   return std::nullopt;
 }
 

@@ -11,6 +11,7 @@
 
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
+#include "dossier/store/Schema.h"
 #include <brivane/frame/Calendar.h>
 
 namespace brivane::dossier {
@@ -52,6 +53,13 @@ class Rij {
     const double waarde = query_.value(plaats_++).toDouble();
     if (std::isfinite(waarde) && std::fabs(waarde) > std::numeric_limits<float>::max()) throw OutOfRange();
     getal = static_cast<float>(waarde);
+  }
+  void Lees(std::optional<double>& getal) {
+    if (query_.isNull(plaats_)) {
+      ++plaats_;
+      return;
+    }
+    Lees(getal.emplace());
   }
   void Lees(host::Date& datum) {
     std::int32_t dagen = 0;
@@ -227,6 +235,11 @@ void Orden(Opbouw& opbouw) {
   opbouw.lening.VrijeKolommen = std::move(geordend);
 }
 
+/// Files of the versions before the rates open too, and are read before they are brought up to date.
+bool HeeftTarieven(Database& database) {
+  return database.Value(QStringLiteral("PRAGMA user_version")).toInt() >= kVersionWithRates;
+}
+
 void LeesInhoud(Database& database, StoredDossier& gelezen) {
   std::vector<Opbouw> leningen = LeesLeningen(database);
   LeesKolommen(database, leningen);
@@ -257,13 +270,15 @@ StoredDossier ReadDossier(Database& database) {
   if (dossiers != 1) Damaged("de uitgangspunten ontbreken");
   VoorElkeRij(database,
               QStringLiteral("SELECT nummer, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), "
-                             "geboortedatum FROM persoon ORDER BY nummer"),
+                             "geboortedatum, %1 FROM persoon ORDER BY nummer")
+                  .arg(QLatin1String(HeeftTarieven(database) ? "belastingtarief" : "NULL")),
               [&](Rij& rij) {
                 const std::size_t plaats = dossier.Personen.size();
                 if (!rij.HeeftNummer(plaats + 1)) Damaged(PersonInWords(plaats) + " ontbreekt");
                 PersoonGegevens& persoon = dossier.Personen.emplace_back();
                 for (std::string& naam : persoon.Naam) rij.Lees(naam);
                 At([&] { return PersonInWords(plaats) + ", geboortedatum"; }, [&] { rij.Lees(persoon.Geboortedatum); });
+                rij.Lees(persoon.Belastingtarief);
               });
   if (dossier.Personen.empty()) Damaged(PersonInWords(0) + " ontbreekt");
   if (dossier.Personen.size() > 2) Damaged("meer dan twee personen");

@@ -46,13 +46,34 @@ constexpr const char* kVersie2[] = {
     "INSERT INTO stand (kenmerk) VALUES (random())",
 };
 
+// The history: History.h. Nothing of it is ever changed or removed. `eerste` is the number of a step's first entry,
+// `van` the step that is undone or redone, `terug` and `opnieuw` what is undone and redone next, 0 for none. An entry
+// holds the value of one field before and after, or of a whole row where `veld` is 0: NULL where there was none.
+constexpr const char* kVersie3[] = {
+    "ALTER TABLE persoon ADD COLUMN belastingtarief REAL",
+    "CREATE TABLE naam (nummer INTEGER PRIMARY KEY, tekst TEXT NOT NULL UNIQUE) STRICT",
+    "CREATE TABLE stap (nummer INTEGER PRIMARY KEY, tijd INTEGER NOT NULL, medewerker INTEGER NOT NULL, "
+    "soort INTEGER NOT NULL, van INTEGER NOT NULL, terug INTEGER NOT NULL, opnieuw INTEGER NOT NULL, "
+    "eerste INTEGER NOT NULL, hoogste INTEGER NOT NULL) STRICT",
+    "CREATE TABLE wijziging (nummer INTEGER PRIMARY KEY, stap INTEGER NOT NULL, tabel INTEGER NOT NULL, "
+    "sleutel INTEGER NOT NULL, lening INTEGER NOT NULL, lening_naam INTEGER NOT NULL, kolom INTEGER NOT NULL, "
+    "kolom_naam INTEGER NOT NULL, veld INTEGER NOT NULL, oud ANY, nieuw ANY) STRICT",
+    "CREATE TRIGGER naam_blijft BEFORE UPDATE ON naam BEGIN SELECT raise(ABORT, 'history'); END",
+    "CREATE TRIGGER naam_gaat_niet BEFORE DELETE ON naam BEGIN SELECT raise(ABORT, 'history'); END",
+    "CREATE TRIGGER stap_blijft BEFORE UPDATE ON stap BEGIN SELECT raise(ABORT, 'history'); END",
+    "CREATE TRIGGER stap_gaat_niet BEFORE DELETE ON stap BEGIN SELECT raise(ABORT, 'history'); END",
+    "CREATE TRIGGER wijziging_blijft BEFORE UPDATE ON wijziging BEGIN SELECT raise(ABORT, 'history'); END",
+    "CREATE TRIGGER wijziging_gaat_niet BEFORE DELETE ON wijziging BEGIN SELECT raise(ABORT, 'history'); END",
+};
+
 struct Stap {
   const char* const* statements;
   std::size_t aantal;
 };
 
 /// Step n leads from version n to version n + 1.
-constexpr Stap kStappen[kSchemaVersion] = {{kVersie1, std::size(kVersie1)}, {kVersie2, std::size(kVersie2)}};
+constexpr Stap kStappen[kSchemaVersion] = {
+    {kVersie1, std::size(kVersie1)}, {kVersie2, std::size(kVersie2)}, {kVersie3, std::size(kVersie3)}};
 
 void Neem(Database& database, int van, int tot) {
   for (; van < tot; ++van) {

@@ -10,7 +10,9 @@ namespace brivane::dossier {
 /// Marks an SQLite file as a loan file: "BrDo".
 inline constexpr quint32 kApplicationId = 0x4272446F;
 /// The layout that this program reads and writes; files of older versions are brought up to it when opened.
-inline constexpr int kSchemaVersion = 2;
+inline constexpr int kSchemaVersion = 3;
+/// The first version that knows the persons' rates of tax, and that keeps a history.
+inline constexpr int kVersionWithRates = 3;
 
 /// Brings an open file from one version (0: a file without tables) up to kSchemaVersion in one transaction.
 void Migrate(Database& database, int version);

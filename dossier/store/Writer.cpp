@@ -11,6 +11,7 @@ namespace {
 QVariant AlsVariant(std::integral auto getal) { return QVariant(static_cast<qlonglong>(getal)); }
 QVariant AlsVariant(double getal) { return QVariant(getal); }
 QVariant AlsVariant(host::Date datum) { return QVariant(static_cast<qlonglong>(datum.Days())); }
+QVariant AlsVariant(std::optional<double> getal) { return getal ? QVariant(*getal) : QVariant(); }
 QVariant AlsVariant(const std::string& tekst) { return QVariant(AlsBytes(tekst)); }
 
 /// Builds an INSERT that names its columns.
@@ -75,8 +76,9 @@ void Writer::AddLening(int nummer, LeningGegevens& lening) {
 void Writer::WritePersonen(const std::vector<PersoonGegevens>& personen) {
   int nummer = 0;
   for (const PersoonGegevens& persoon : personen) {
-    Schrijf(database_, "persoon", {"nummer", "naam_1", "naam_2", "naam_3", "geboortedatum"}, ++nummer, persoon.Naam[0],
-            persoon.Naam[1], persoon.Naam[2], persoon.Geboortedatum);
+    Schrijf(database_, "persoon", {"nummer", "naam_1", "naam_2", "naam_3", "geboortedatum", "belastingtarief"},
+            ++nummer, persoon.Naam[0], persoon.Naam[1], persoon.Naam[2], persoon.Geboortedatum,
+            persoon.Belastingtarief);
   }
 }
 

@@ -127,5 +127,21 @@ TEST_F(ClientDialogTest, WhatIsRefusedIsSelected) {
   EXPECT_EQ(date.selectedText(), date.text());
 }
 
+TEST_F(ClientDialogTest, ARateOfTaxMayBeLeftOutAndLiesBetweenZeroAndAHundred) {
+  Field(QStringLiteral("Aanvrager, Achternaam")).setText(QStringLiteral("Jansen"));
+  Field(QStringLiteral("Aanvrager, Geboortedatum")).setText(QStringLiteral("01-02-1980"));
+  EXPECT_EQ(dialog_.Contents().personen.front().Belastingtarief, std::nullopt);
+  QLineEdit& rate = Field(QStringLiteral("Aanvrager, Marginaal belastingtarief"));
+  rate.setFocus();
+  QTest::keyClicks(&rate, QStringLiteral("101"));
+  dialog_.accept();
+  EXPECT_NE(dialog_.result(), QDialog::Accepted);
+  rate.selectAll();
+  QTest::keyClicks(&rate, QStringLiteral("37,48"));
+  dialog_.accept();
+  EXPECT_EQ(dialog_.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog_.Contents().personen.front().Belastingtarief, 37.48);
+}
+
 }  // namespace
 }  // namespace brivane::app

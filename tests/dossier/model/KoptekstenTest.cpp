@@ -36,6 +36,16 @@ TEST(BerekendeKopteksten, ShowAQuestionMarkForAnAmountThatIsNoNumber) {
   EXPECT_EQ(Kopregel(1e308 * 10, 12), "Vrije kolom · € ? per jaar");
 }
 
+TEST(BerekendeKopteksten, ShowAPercentageAsOne) {
+  KolomGegevens kolom;
+  kolom.Omschrijving = "Opslag";
+  kolom.Bedrag = {.Naam = "", .Invoersoort = 2, .Bedrag = 2.5, .Perioden = {}};
+  EXPECT_EQ(BerekendeKopteksten().Kopregel(kolom), "Opslag · 2,50 % per maand");
+  // With growth the amount itself is in euros.
+  kolom.Bedrag.Invoersoort = 3;
+  EXPECT_EQ(BerekendeKopteksten().Kopregel(kolom), "Opslag · € 2,50 per maand");
+}
+
 TEST(BerekendeKopteksten, NameTheFiveTermsAndNoOther) {
   EXPECT_EQ(Kopregel(1, 1), "Vrije kolom · € 1,00 per maand");
   EXPECT_EQ(Kopregel(1, 3), "Vrije kolom · € 1,00 per kwartaal");

@@ -188,7 +188,7 @@ const char kNewer[] =
 TEST(OpeningTest, AFileOfANewerVersion) {
   const Folder folder;
   const QString path = folder.Make();
-  Change(path, "PRAGMA user_version = 3");
+  Change(path, "PRAGMA user_version = 4");
   ExpectRefused(folder, path, OpeningProblem::Newer, kNewer);
 }
 
@@ -198,7 +198,7 @@ TEST(OpeningTest, AFileThatANewerVersionBroughtUpToDateJustBeforeItWasKilled) {
   const Folder copied;
   {
     Database database(path, Access::ReadWrite);
-    database.Run(QStringLiteral("PRAGMA user_version = 3"));
+    database.Run(QStringLiteral("PRAGMA user_version = 4"));
     // The log holds the version, the file does not yet.
     ASSERT_TRUE(QFile::copy(path, copied.Path()));
     ASSERT_TRUE(QFile::copy(path + "-wal", copied.Path("test.dossier-wal")));
