@@ -35,6 +35,10 @@ Actions::Actions(QMainWindow& window)
       open(MakeAction(window, "&Openen…", QKeySequence::Open)),
       sample(MakeAction(window, "&Voorbeeld")),
       saveCopy(MakeAction(window, "&Kopie opslaan als…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S))),
+      print(MakeAction(window, "Af&drukken…", QKeySequence::Print)),
+      pdf(MakeAction(window, "Opslaan als &PDF…", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P))),
+      exportKolommen(MakeAction(window, "&Kolommen…")),
+      exportPerioden(MakeAction(window, "&Perioden…")),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
       add(MakeAction(window, "&Toevoegen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
@@ -69,7 +73,10 @@ Actions::Actions(QMainWindow& window)
   QMenu* fileMenu = window.menuBar()->addMenu(QStringLiteral("Bes&tand"));
   fileMenu->addActions({create, open, sample});
   fileMenu->addSeparator();
-  fileMenu->addActions({saveCopy, close, quit});
+  fileMenu->addAction(saveCopy);
+  fileMenu->addActions({print, pdf});
+  fileMenu->addMenu(QStringLiteral("E&xporteren naar CSV"))->addActions({exportKolommen, exportPerioden});
+  fileMenu->addActions({close, quit});
 
   QMenu* kolomMenu = window.menuBar()->addMenu(QStringLiteral("&Kolom"));
   kolomMenu->addActions({add, duplicate});
@@ -106,7 +113,8 @@ Actions::Actions(QMainWindow& window)
 }
 
 QList<QAction*> Actions::ForDossier() const {
-  return {saveCopy, close, add, previous, next, treeOrKolom, client, addLening, check, overview, verloop, record};
+  return {saveCopy, print,       pdf,    exportKolommen, exportPerioden, close,    add,     previous,
+          next,     treeOrKolom, client, addLening,      check,          overview, verloop, record};
 }
 
 QList<QAction*> Actions::ForKolom() const {

@@ -19,6 +19,10 @@ struct Actions {
   QAction* open;
   QAction* sample;
   QAction* saveCopy;
+  QAction* print;
+  QAction* pdf;
+  QAction* exportKolommen;
+  QAction* exportPerioden;
   QAction* close;
   QAction* quit;
 

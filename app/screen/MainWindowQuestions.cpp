@@ -12,6 +12,7 @@
 #include "app/screen/EventLogWindow.h"
 #include "app/screen/FindingsList.h"
 #include "app/screen/MainWindow.h"
+#include "app/screen/Paper.h"
 #include "dossier/model/SampleCase.h"
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
@@ -30,6 +31,10 @@ void MainWindow::Connect() {
   on(actions_.open, [this] { AskOpen(); });
   on(actions_.sample, [this] { OpenSample(); });
   on(actions_.saveCopy, [this] { SaveCopy(); });
+  on(actions_.print, [this] { PrintReport(*this, *screen_); });
+  on(actions_.pdf, [this] { SaveReportAsPdf(*this, *screen_); });
+  on(actions_.exportKolommen, [this] { ExportKolommen(*this, *screen_); });
+  on(actions_.exportPerioden, [this] { ExportPerioden(*this, *screen_); });
   on(actions_.close, [this] { CloseDossier(); });
   on(actions_.quit, [this] { close(); });
   on(actions_.add, [this] { screen_->AddKolom(); });

@@ -40,6 +40,8 @@ bool MakePrivateFile(const QString& path) {
   return own;
 }
 
+bool Synchronise(int descriptor) { return fsync(descriptor) == 0; }
+
 Renamed RenameToNew(const QString& from, const QString& to) {
   if (Rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
     return errno == EEXIST ? Renamed::NameIsTaken : Renamed::Failed;
