@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "app/desk/Today.h"
 #include "dossier/model/Gegevens.h"
 #include <brivane/controls/Surface.h>
 #include <brivane/frame/Calendar.h>
@@ -24,6 +25,8 @@ constexpr std::int16_t kTransition = 4;
 constexpr std::int16_t kGrowth = 5;
 
 host::Date Day(int year, int month, int day) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
+
+const host::Date kDay = Day(2026, 11, 21);
 
 dossier::KolomGegevens Kolom(std::int16_t Vrij_Id, const char* omschrijving, double bedrag) {
   dossier::KolomGegevens kolom;
@@ -73,10 +76,24 @@ bool Activate(QWidget& window) {
   return QTest::qWaitForWindowActive(&window, kPatience);
 }
 
+/// A window that was opened beside the program's own, or that one.
+QWidget* InFront(QWidget& window) {
+  for (QWidget* const other : QApplication::topLevelWidgets())
+    if (other->isVisible() && other->windowType() == Qt::Window && other->parentWidget() == &window) return other;
+  return &window;
+}
+
+/// Opens a window on the case by its key.
+void OpenBeside(Stage& stage, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  stage.GoTo(kAmount);
+  Stage::Press(key, modifiers);
+}
+
 }  // namespace
 
 Stage::Stage(const QDir& folder)
     : file_(folder.filePath(QStringLiteral("boer.dossier"))), eventLog_(folder.filePath(QStringLiteral("log"))) {
+  PinToday(kDay);
   dossier::DossierFile::Maak(file_, Case());
   window_ = std::make_unique<MainWindow>(eventLog_);
 }
@@ -86,7 +103,7 @@ MainWindow& Stage::Window() { return *window_; }
 DossierScreen& Stage::Screen() {
   if (window_->Screen() == nullptr) {
     if (!window_->Open(file_)) qFatal("the case cannot be opened");
-    window_->Screen()->Kolom().Editor().Toolkit().Desktop().clock = [] { return Day(2026, 11, 21); };
+    window_->Screen()->Kolom().Editor().Toolkit().Desktop().clock = [] { return kDay; };
   }
   return *window_->Screen();
 }
@@ -141,6 +158,9 @@ const std::vector<Scene>& AllScenes() {
          Stage::Press(Qt::Key_S, Qt::AltModifier);
        },
        kWhole, true},
+      {"overview", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9); }, "Overzicht"},
+      {"course", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9, Qt::ShiftModifier); }, "Verloop"},
+      {"print-preview", [](Stage& stage) { OpenBeside(stage, Qt::Key_P, Qt::ControlModifier); }, kWhole, true},
   };
   return scenes;
 }
@@ -164,7 +184,7 @@ void Play(const Scene& scene, Stage& stage, const std::function<void(QWidget* fr
     if (!late && !(scene.modal ? modal != nullptr && modal->isVisible() : played)) return;
     look.stop();
     if (late) return stands(nullptr);
-    QWidget* const front = scene.modal ? modal : &stage.Window();
+    QWidget* const front = scene.modal ? modal : InFront(stage.Window());
     stands(Activate(*front) ? front : nullptr);
     all.quit();
   });
