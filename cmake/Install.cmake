@@ -21,6 +21,8 @@ function(brivane_install_part part target description requires)
 endfunction()
 
 brivane_install_part(VrijeKolom brivane_embedding "${PROJECT_DESCRIPTION}" "")
+brivane_install_part(HostKit brivane_embedding_hostkit "${PROJECT_DESCRIPTION}, checks for a host of one's own"
+                     "brivane-vrijekolom = ${PROJECT_VERSION}")
 if(BRIVANE_QT)
   brivane_install_part(Qt brivane_embedding_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
                        "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")
