@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <set>
 
 #include <brivane/hostkit/Report.h>
@@ -27,7 +26,7 @@ std::string Text(const Finding& finding) {
   Line(text, "contract   ", finding.contract);
   Line(text, "hint       ", finding.hint);
   if (finding.alike > 0)
-    Line(text, "as well    ", "for " + Count(static_cast<std::size_t>(finding.alike), "other value", "other values"));
+    Line(text, "as well    ", Count(static_cast<std::size_t>(finding.alike), "more time", "more times"));
   return text;
 }
 

@@ -17,7 +17,7 @@ struct Finding {
   std::string wanted;    ///< what it was to answer
   std::string contract;  ///< what the contract says
   std::string hint;      ///< where to look; may be empty
-  int alike = 0;         ///< for how many further values the same was found
+  int alike = 0;         ///< how often more the same was found: with other values, or looked up anew
 };
 
 /// What became of the checks of a host.

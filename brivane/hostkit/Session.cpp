@@ -14,6 +14,9 @@ constexpr const char* kKnownEnd =
     "at the end of this session the record holds what was typed, by the rules of the editor";
 constexpr const char* kAdjusted = "a record may adjust what it is given: the editor goes on with what it reads back";
 
+/// No session asks a host so often; a walk that finds no end does.
+constexpr std::uint64_t kEndless = 20000;
+
 }  // namespace
 
 Session::Session(Bench& bench, std::string what)
@@ -31,6 +34,9 @@ Session::Session(Bench& bench, std::string what)
           return answer_;
         };
       }) {
+  host_.Ledger().FailAtPosition(
+      kEndless,
+      host::Error(0, "the editor asks on and on: a removal leaves in place what it was to remove", "the kit"));
   host_.Ledger().OnAccess = [this](Member member, Op) {
     if (member == Member::ProcedureTrace_ErrorInProcedure) failed_ = asked_;
     if (NameOf(member).substr(0, 15) != "ProcedureTrace.") asked_ = member;

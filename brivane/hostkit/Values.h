@@ -128,8 +128,7 @@ template <class T> constexpr Told ToldOf() {
     return {"a percentage is kept in single precision, exactly",
             "store it as a number, with all its digits: no rounding, no text of a few decimals"};
   else if constexpr (std::is_same_v<T, double>)
-    return {"an amount is kept in double precision, exactly",
-            "store it as a double: single precision holds 7 digits, and a column of cents none below"};
+    return {"an amount is kept in double precision, exactly", "store it as a double: single precision holds 7 digits"};
   else if constexpr (std::is_same_v<T, host::Date>)
     return {"a date is kept as a count of days from 30 December 1899, without time or zone; 0 is no date",
             "do not go by way of a local time, nor of days from 1 January 1900"};

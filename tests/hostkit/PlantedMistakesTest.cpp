@@ -40,7 +40,7 @@ const Named kNamed[] = {
     {Mistake::RemovalCountsFromZero, "Lening.VerwijderVrijeKolom", "removed position 2 of loan 1, which held [2, 1, 3]",
      "[2, 1]"},
     {Mistake::ColumnsInReverse, "Lening.VrijeKolomOp", "walked the current loan", "[3, 2, 1]"},
-    {Mistake::ALoanObjectForEachQuestion, "Dossier.HuidigeLening", "asked twice", "false"},
+    {Mistake::ALoanObjectForEachQuestion, "Dossier.HuidigeLening", "asked twice", "another object"},
     {Mistake::LookupOfNothingThrows, "Lening.VrijeKolommen", "asked for column 32000", "an exception: \"map::at\""},
     {Mistake::ErrorNumberLost, "VrijeKolomItem.Omschrijving", "the host failed with error 1004", "\"440\""},
     {Mistake::SelectionToldTwice, "Application.VulCombo", "listening to the list's Click", "3"},

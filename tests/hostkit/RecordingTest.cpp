@@ -20,6 +20,7 @@ class RecordingTest : public testing::Test {
   RecordingTest() {
     application_->maatschappijen = {{"AB", "Alfa Bank"}};
     application_->dossier->huidig->kolommen[0]->omschrijving = "Vereniging";
+    static_cast<void>(recording_.Lines());  // making the editor fills the list of effects
   }
   Lines First(std::size_t count) {
     Lines lines = recording_.Lines();
