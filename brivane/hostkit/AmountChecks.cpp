@@ -8,7 +8,7 @@ namespace brivane::hostkit {
 
 namespace {
 
-constexpr std::int16_t kTooMany = 200;
+constexpr std::int16_t kMostPeriods = 200;
 /// The year-by-year form has at most so many rows.
 constexpr std::int16_t kRows = 80;
 
@@ -91,7 +91,7 @@ template <class Field> void CheckPeriodeField(Bench& bench, const Field& field) 
 /// The months of the entries by position.
 std::vector<std::int16_t> Maanden(host::BedragObject& bedrag) {
   std::vector<std::int16_t> maanden;
-  for (std::int16_t position = 1; position <= kTooMany; ++position) {
+  for (std::int16_t position = 1; position <= kMostPeriods; ++position) {
     const auto periode = bedrag.Periode(position);
     if (!periode) break;
     maanden.push_back(periode->Maand());

@@ -7,7 +7,7 @@ namespace brivane::hostkit {
 namespace {
 
 /// A loan cannot be so long: a walk that finds no end is stopped.
-constexpr std::int16_t kTooMany = 100;
+constexpr std::int16_t kMostColumns = 100;
 
 template <std::size_t count> std::vector<std::int16_t> AsList(const std::array<std::int16_t, count>& numbers) {
   return {numbers.begin(), numbers.end()};
@@ -16,7 +16,7 @@ template <std::size_t count> std::vector<std::int16_t> AsList(const std::array<s
 /// The identifiers of a loan's columns by running position.
 std::vector<std::int16_t> Columns(host::Lening& lening) {
   std::vector<std::int16_t> ids;
-  for (std::int16_t position = 1; position <= kTooMany; ++position) {
+  for (std::int16_t position = 1; position <= kMostColumns; ++position) {
     const auto kolom = lening.VrijeKolomOp(position);
     if (!kolom) break;
     ids.push_back(kolom->Id());
