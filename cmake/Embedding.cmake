@@ -1,9 +1,10 @@
 # What an embedding project links: the logic and the toolkit in memory as Brivane::VrijeKolom, the Qt toolkit as
-# Brivane::Qt. Each is one library, made of what its rooms were compiled to; BUILD_SHARED_LIBS makes them shared ones, of
+# Brivane::Qt, the kit that checks a host as Brivane::HostKit. Each is one library, made of what its rooms were compiled to; BUILD_SHARED_LIBS makes them shared ones, of
 # which only the public names are seen. The programs and tests of the tree use the rooms themselves.
 set(core_rooms brivane_host brivane_frame brivane_toelichting brivane_scenario brivane_vrijekolom brivane_controls
     brivane_memory)
 set(qt_rooms brivane_qt)
+set(hostkit_rooms brivane_instrument brivane_hostkit)
 
 # brivane_embedding(NAME EXPORT_NAME FILE_NAME rooms...)
 function(brivane_embedding name export_name file_name)
@@ -30,6 +31,8 @@ if(WIN32 AND BUILD_SHARED_LIBS)
   message(FATAL_ERROR "On Windows the C++ libraries are static; the shared one is the component library.")
 endif()
 brivane_embedding(brivane_embedding VrijeKolom brivane-vrijekolom ${core_rooms})
+brivane_embedding(brivane_embedding_hostkit HostKit brivane-vrijekolom-hostkit ${hostkit_rooms})
+target_link_libraries(brivane_embedding_hostkit PUBLIC brivane_embedding)
 if(BRIVANE_QT)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
   brivane_embedding(brivane_embedding_qt Qt brivane-vrijekolom-qt ${qt_rooms})

@@ -10,15 +10,18 @@
 
 #include "dossier/model/Gegevens.h"
 #include "replay/document/Json.h"
-#include "replay/instrument/Members.h"
 #include <brivane/controls/Action.h>
 #include <brivane/host/Color.h>
 #include <brivane/host/Date.h>
 #include <brivane/host/Twips.h>
 #include <brivane/host/controls/Desktop.h>
+#include <brivane/hostkit/instrument/Members.h>
 
 /// A session of edits as data: the case that it starts from, the faults of the host, and the steps.
 namespace brivane::replay {
+
+// The members of a host, and the host that watches, are the kit's.
+using namespace hostkit;
 
 /// The lines that a transcript can hold besides steps and dumps.
 enum class Log : std::uint8_t { Trace, Writes, Calls, Events, Messages, Results, Reads };

@@ -8,9 +8,9 @@
 
 #include "dossier/model/Dossier.h"
 #include "replay/document/Document.h"
-#include "replay/instrument/InstrumentedHost.h"
 #include "replay/play/Subject.h"
 #include "replay/play/Transcript.h"
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 
 namespace brivane::replay {
 

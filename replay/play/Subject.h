@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "replay/document/Document.h"
-#include "replay/instrument/InstrumentedHost.h"
 #include <brivane/controls/Action.h>
 #include <brivane/controls/Dump.h>
 #include <brivane/host/Color.h>
 #include <brivane/host/controls/Desktop.h>
 #include <brivane/host/model/BedragObject.h>
 #include <brivane/host/model/VrijeKolomItem.h>
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 
 namespace brivane {
 class VrijeKolom;

@@ -7,8 +7,8 @@
 
 #include "replay/document/Document.h"
 #include "replay/document/Json.h"
-#include "replay/instrument/HostListener.h"
 #include <brivane/host/controls/Desktop.h>
+#include <brivane/hostkit/instrument/HostListener.h>
 
 namespace brivane::replay {
 

@@ -28,7 +28,7 @@ PLANTED_INCLUDES = [
     ("component/objects/B.cpp", '#include "component/registration/Keys.h"'),
     ("dossier/model/B.cpp", '#include "dossier/store/Database.h"'),
     ("dossier/store/B.cpp", '#include "replay/document/Document.h"'),
-    ("replay/instrument/B.cpp", '#include "replay/document/Document.h"'),
+    ("brivane/hostkit/B.cpp", '#include "replay/document/Document.h"'),
     ("replay/play/B.cpp", '#include "app/recording/Recorder.h"'),
     ("app/recording/B.cpp", '#include "app/screen/MainWindow.h"'),
     ("app/screen/B.cpp", '#include "fuzz/Targets.h"'),

@@ -7,7 +7,7 @@ namespace brivane::faults {
 
 namespace {
 
-using replay::Member;
+using hostkit::Member;
 
 /// The text between the quotes that follow `key`.
 std::string TextAfter(std::string_view line, std::string_view key) {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "replay/instrument/Members.h"
+#include <brivane/hostkit/instrument/Members.h>
 
 namespace brivane::faults {
 
@@ -24,7 +24,7 @@ class Follower {
   explicit Follower(std::string title) : title_(std::move(title)) {}
 
   /// The host fails now, in the access of that member.
-  void Strike(replay::Member member);
+  void Strike(hostkit::Member member);
   void Take(std::string_view line);
   /// The session is over.
   void Finish();
@@ -62,7 +62,7 @@ class Follower {
   [[nodiscard]] std::size_t Base() const { return levels_.empty() ? 0 : levels_.back().base; }
   /// The procedure that handles a failure now, as its place from 1; 0 for none.
   [[nodiscard]] std::size_t Handler() const;
-  [[nodiscard]] bool InForm(replay::Member member) const;
+  [[nodiscard]] bool InForm(hostkit::Member member) const;
   void Expect(std::string line) { expected_.push_back(std::move(line)); }
   void Problem(std::string text);
 

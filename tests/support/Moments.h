@@ -5,8 +5,8 @@
 #include <optional>
 #include <utility>
 
-#include "replay/instrument/InstrumentedHost.h"
 #include "tests/support/TestHost.h"
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 
 namespace brivane::test {
 
@@ -17,7 +17,7 @@ namespace brivane::test {
 class MomentsHost {
  public:
   MomentsHost() {
-    watched_.Ledger().OnAccess = [this](replay::Member member, replay::Op op) {
+    watched_.Ledger().OnAccess = [this](hostkit::Member member, hostkit::Op op) {
       if (gone) {
         ++touched;
         return;
@@ -34,8 +34,8 @@ class MomentsHost {
   MomentsHost& operator=(const MomentsHost&) = delete;
 
   struct Access {
-    replay::Member member;
-    replay::Op op;
+    hostkit::Member member;
+    hostkit::Op op;
   };
 
   void Moment() {
@@ -50,7 +50,7 @@ class MomentsHost {
 
   [[nodiscard]] const std::shared_ptr<host::Application>& Application() const { return watched_.Application(); }
   [[nodiscard]] const host::HostFactories& Factories() const { return watched_.Factories(); }
-  [[nodiscard]] replay::AccessLedger& Ledger() { return watched_.Ledger(); }
+  [[nodiscard]] hostkit::AccessLedger& Ledger() { return watched_.Ledger(); }
 
   TestHost host;
   std::function<void()> strike;
@@ -62,8 +62,8 @@ class MomentsHost {
   int touched = 0;      ///< how often the host had its turn after that
 
  private:
-  replay::HostListener nobody_;
-  replay::InstrumentedHost watched_{host.application, host.Factories(), nobody_};
+  hostkit::HostListener nobody_;
+  hostkit::InstrumentedHost watched_{host.application, host.Factories(), nobody_};
 };
 
 }  // namespace brivane::test

@@ -9,8 +9,8 @@
 
 #include "app/recording/Recorder.h"
 #include "dossier/model/Application.h"
-#include "replay/instrument/InstrumentedHost.h"
 #include "replay/play/Transcript.h"
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 #include <brivane/scenario/frmScenario.h>
 #include <brivane/toolkits/memory/Toolkit.h>
 #include <brivane/vrijekolom/VrijeKolom.h>

@@ -120,9 +120,9 @@ class DeletedEditor : public Deleting<VrijeKolom> {
     // A failure is reported, here and in the form.
     if (control_) {
       model_->Ledger().FailAt(
-          replay::MemberOf(host::kFieldOf<host::kVrijeKolomFields, &host::VrijeKolomValues::Omschrijving>),
-          replay::Op::Set, 2, host::Error(1004, "Mislukt", "Testhost"));
-      model_->Ledger().FailAt(replay::Member::Scenario_NieuwePeriode, replay::Op::Get, 1,
+          hostkit::MemberOf(host::kFieldOf<host::kVrijeKolomFields, &host::VrijeKolomValues::Omschrijving>),
+          hostkit::Op::Set, 2, host::Error(1004, "Mislukt", "Testhost"));
+      model_->Ledger().FailAt(hostkit::Member::Scenario_NieuwePeriode, hostkit::Op::Get, 1,
                               host::Error(1004, "Mislukt", "Testhost"));
     }
     Do("TxtOm", controls::Enter{std::string("Blad")});
@@ -178,8 +178,8 @@ TEST_P(DeletedEditor, WhileTheQuestionIsOpenItsAnswerIsNotTaken) {
 
 TEST_P(DeletedEditor, AFailureOfTheHostAfterItIsReportedToNobody) {
   Bind();
-  model_->at = {replay::Member::Bedrag_Basisbedrag, replay::Op::Set};
-  model_->Ledger().FailAt(replay::Member::Bedrag_Basisbedrag, replay::Op::Set, 1,
+  model_->at = {hostkit::Member::Bedrag_Basisbedrag, hostkit::Op::Set};
+  model_->Ledger().FailAt(hostkit::Member::Bedrag_Basisbedrag, hostkit::Op::Set, 1,
                           host::Error(1004, "Mislukt", "Testhost"));
   EXPECT_EQ(Do("TxtBd", controls::Enter{12.5}), Outcome::Ignored);
   EXPECT_FALSE(control_);

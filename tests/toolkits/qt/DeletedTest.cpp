@@ -27,13 +27,13 @@
 namespace brivane::test {
 namespace {
 
-using replay::Member;
-using replay::Op;
+using hostkit::Member;
+using hostkit::Op;
 
 enum class Who { Window, Parent, Control };
 enum class How { Delete, DeleteLater, Timer, Close };
 
-template <auto value> constexpr Member kField = replay::MemberOf(host::kFieldOf<host::kVrijeKolomFields, value>);
+template <auto value> constexpr Member kField = hostkit::MemberOf(host::kFieldOf<host::kVrijeKolomFields, value>);
 using Values = host::VrijeKolomValues;
 
 /// A control in a part of a window, and the host that deletes it, one of them or all.
@@ -327,7 +327,7 @@ constexpr Place<Editor> kPlaces[] = {
      }},
     {"ToolkitReports",
      [](Editor& on) {
-       replay::AccessLedger& ledger = on.Host().Ledger();
+       hostkit::AccessLedger& ledger = on.Host().Ledger();
        constexpr Member kEnter = Member::ProcedureTrace_EnterProcedure;
        ledger.FailAt(kEnter, Op::Call, ledger.Count(kEnter, Op::Call) + 1, host::Error(1004, "Mislukt", "Testhost"));
        TypeOm(on);

@@ -1,8 +1,8 @@
-#include "replay/instrument/AccessLedger.h"
-
 #include <utility>
 
-namespace brivane::replay {
+#include <brivane/hostkit/instrument/AccessLedger.h>
+
+namespace brivane::hostkit {
 
 void AccessLedger::FailAt(Member member, Op op, std::uint32_t nth, host::Error error) {
   faults_.push_back({member, op, nth, std::move(error)});
@@ -48,4 +48,4 @@ void AccessLedger::Strike(const host::Error& error) {
   throw error;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -1,10 +1,10 @@
-#include "replay/instrument/Members.h"
-
 #include <array>
 #include <string>
 #include <vector>
 
-namespace brivane::replay {
+#include <brivane/hostkit/instrument/Members.h>
+
+namespace brivane::hostkit {
 
 namespace {
 
@@ -95,4 +95,4 @@ std::optional<Member> FindMember(std::string_view name) {
   return std::nullopt;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -6,9 +6,9 @@
 #include <unordered_map>
 #include <utility>
 
-#include "replay/instrument/InstrumentedHost.h"
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// What all stand-ins of one host share: the ledger, the listener, and which stand-in an object has.
 struct InstrumentedHost::Shared {
@@ -81,7 +81,10 @@ template <class Interface, class Base = Interface> class StandIn : public Base {
   template <class Read, class... Arguments>
   [[nodiscard]] auto Object(Member member, Read read, Arguments... arguments) {
     shared_->ledger.PassObject(member);
-    return ((*inner_).*read)(arguments...);
+    auto object = ((*inner_).*read)(arguments...);
+    const std::array<std::int16_t, sizeof...(Arguments)> told{arguments...};
+    shared_->listener.OnObject(member, told, object != nullptr);
+    return object;
   }
 
   const SharedPtr shared_;
@@ -100,4 +103,4 @@ template <class Made, class Interface>
   return standIn;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

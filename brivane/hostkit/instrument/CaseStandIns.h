@@ -1,8 +1,8 @@
 #pragma once
 
-#include "replay/instrument/RecordStandIn.h"
+#include <brivane/hostkit/instrument/RecordStandIn.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 class LeningStandIn : public StandIn<host::Lening> {
  public:
@@ -67,4 +67,4 @@ class DossierStandIn : public StandIn<host::Dossier> {
   }
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "replay/instrument/AmountStandIn.h"
+#include <brivane/hostkit/instrument/AmountStandIn.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// A free column.
 class RecordStandIn : public StandIn<host::VrijeKolomItem, host::VrijeKolomByField<RecordStandIn>> {
@@ -32,4 +32,4 @@ class RecordStandIn : public StandIn<host::VrijeKolomItem, host::VrijeKolomByFie
   }
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -8,9 +8,9 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/Tracer.h"
-#include "replay/instrument/InstrumentedHost.h"
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
 
-namespace brivane::replay::test {
+namespace brivane::hostkit::test {
 namespace {
 
 struct Listener final : HostListener {
@@ -116,4 +116,4 @@ TEST(Members, NamesAreUniqueAndFound) {
 }
 
 }  // namespace
-}  // namespace brivane::replay::test
+}  // namespace brivane::hostkit::test

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "replay/instrument/StandIn.h"
+#include <brivane/hostkit/instrument/StandIn.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// A period entry, named by the position at which it was asked for.
 class PeriodeStandIn : public StandIn<host::Periode, host::PeriodeByField<PeriodeStandIn>> {
@@ -49,4 +49,4 @@ class AmountStandIn : public StandIn<host::BedragObject> {
   }
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -5,17 +5,18 @@
 #include <functional>
 #include <vector>
 
-#include "replay/instrument/Members.h"
 #include <brivane/host/Error.h>
+#include <brivane/host/Export.h>
+#include <brivane/hostkit/instrument/Members.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// Counts every access of a host member and makes chosen ones fail.
 ///
 ///     AccessLedger ledger;
 ///     ledger.FailAt(Member::VrijeKolomItem_Termijn, Op::Get, 2, host::Error(13, "...", "..."));
 ///     ledger.FailAtPosition(417, error);  // the 417th access of all, whatever it is
-class AccessLedger {
+class BRIVANE_API AccessLedger {
  public:
   /// The nth access (from 1) of a member in that way fails with the error.
   void FailAt(Member member, Op op, std::uint32_t nth, host::Error error);
@@ -60,4 +61,4 @@ class AccessLedger {
   std::vector<PositionFault> positions_;
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

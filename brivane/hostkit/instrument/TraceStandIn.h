@@ -1,8 +1,8 @@
 #pragma once
 
-#include "replay/instrument/StandIn.h"
+#include <brivane/hostkit/instrument/StandIn.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// A control's tracer; keeps the error record for the report.
 class TraceStandIn : public StandIn<host::ProcedureTrace> {
@@ -67,4 +67,4 @@ class TraceStandIn : public StandIn<host::ProcedureTrace> {
   host::ErrorRecord record_;
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -5,10 +5,11 @@
 #include <optional>
 #include <string_view>
 
+#include <brivane/host/Export.h>
 #include <brivane/host/model/PeriodeFields.h>
 #include <brivane/host/model/VrijeKolomFields.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// What a host member is. An Object hands out another object of the host.
 enum class MemberKind : std::uint8_t { Value, Operation, Object };
@@ -77,9 +78,9 @@ inline constexpr std::size_t kMemberCount = kNamedMembers + kVrijeKolomMembers +
 enum class Op : std::uint8_t { Get, Set, Call };
 
 /// `VrijeKolomItem.Termijn`.
-[[nodiscard]] std::string_view NameOf(Member member);
-[[nodiscard]] MemberKind KindOf(Member member);
+[[nodiscard]] BRIVANE_API std::string_view NameOf(Member member);
+[[nodiscard]] BRIVANE_API MemberKind KindOf(Member member);
 /// The member of that name, spelled exactly; nothing where there is none.
-[[nodiscard]] std::optional<Member> FindMember(std::string_view name);
+[[nodiscard]] BRIVANE_API std::optional<Member> FindMember(std::string_view name);
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

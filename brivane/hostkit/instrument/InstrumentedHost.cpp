@@ -1,13 +1,12 @@
-#include "replay/instrument/InstrumentedHost.h"
-
 #include <optional>
 #include <string_view>
 #include <utility>
 
-#include "replay/instrument/CaseStandIns.h"
-#include "replay/instrument/TraceStandIn.h"
+#include <brivane/hostkit/instrument/CaseStandIns.h>
+#include <brivane/hostkit/instrument/InstrumentedHost.h>
+#include <brivane/hostkit/instrument/TraceStandIn.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 namespace {
 
@@ -93,4 +92,4 @@ std::shared_ptr<host::BedragObject> InnerOf(const std::shared_ptr<host::BedragOb
   return known ? known->Inner() : nullptr;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

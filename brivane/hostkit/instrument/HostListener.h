@@ -8,11 +8,11 @@
 #include <string_view>
 #include <variant>
 
-#include "replay/instrument/Members.h"
 #include <brivane/host/Date.h>
 #include <brivane/host/model/ErrorRecord.h>
+#include <brivane/hostkit/instrument/Members.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// The value of a host member. Whole numbers and amounts are both numbers.
 using MemberValue = std::variant<bool, double, std::string, host::Date, std::array<std::string, 3>>;
@@ -32,10 +32,12 @@ class HostListener {
   virtual void OnGet(Member, const MemberValue&, MemberIndex) {}
   /// The value is the one that the record holds afterwards.
   virtual void OnSet(Member, const MemberValue&, MemberIndex) {}
+  /// Another object of the host was asked for.
+  virtual void OnObject(Member, std::span<const std::int16_t> /*arguments*/, bool /*answered*/) {}
   virtual void OnCall(Member, std::span<const std::int16_t>) {}
   /// `procedure` is empty on leaving; `control` is the control that traces.
   virtual void OnTrace(TraceMark, std::string_view /*procedure*/, std::string_view /*control*/) {}
   virtual void OnReport(const host::ErrorRecord&) {}
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit

@@ -2,12 +2,13 @@
 
 #include <memory>
 
-#include "replay/instrument/AccessLedger.h"
-#include "replay/instrument/HostListener.h"
+#include <brivane/host/Export.h>
 #include <brivane/host/model/Application.h>
 #include <brivane/host/model/HostFactories.h>
+#include <brivane/hostkit/instrument/AccessLedger.h>
+#include <brivane/hostkit/instrument/HostListener.h>
 
-namespace brivane::replay {
+namespace brivane::hostkit {
 
 /// A host that stands before another one: it counts and may fail each access, hands it on, and tells a
 /// listener what was done. Works over any implementation of the host interfaces.
@@ -18,7 +19,7 @@ namespace brivane::replay {
 ///
 /// An object of the inner host has one stand-in as long as somebody holds it, so that objects can be
 /// compared by identity. The listener must outlive everything that the host handed out.
-class InstrumentedHost {
+class BRIVANE_API InstrumentedHost {
  public:
   InstrumentedHost(std::shared_ptr<host::Application> application, host::HostFactories factories,
                    HostListener& listener);
@@ -40,7 +41,9 @@ class InstrumentedHost {
 
 /// What a stand-in stands for: the record of the inner host, and nothing for an object that is no stand-in.
 /// For dumps, which must neither count nor print.
-[[nodiscard]] std::shared_ptr<host::VrijeKolomItem> InnerOf(const std::shared_ptr<host::VrijeKolomItem>& standIn);
-[[nodiscard]] std::shared_ptr<host::BedragObject> InnerOf(const std::shared_ptr<host::BedragObject>& standIn);
+[[nodiscard]] BRIVANE_API std::shared_ptr<host::VrijeKolomItem> InnerOf(
+    const std::shared_ptr<host::VrijeKolomItem>& standIn);
+[[nodiscard]] BRIVANE_API std::shared_ptr<host::BedragObject> InnerOf(
+    const std::shared_ptr<host::BedragObject>& standIn);
 
-}  // namespace brivane::replay
+}  // namespace brivane::hostkit
