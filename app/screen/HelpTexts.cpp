@@ -9,6 +9,8 @@ namespace {
 constexpr std::array kKeysEverywhere = std::to_array<HelpKey>({
     {"Ctrl+N, Ctrl+O, Ctrl+W", "nieuw dossier, openen, sluiten"},
     {"Ctrl+Shift+S", "een kopie onder een andere naam, waarin u verdergaat"},
+    {"Ctrl+P, Ctrl+Shift+P", "afdrukken, opslaan als PDF"},
+    {"Ctrl+Z; Ctrl+Y of Ctrl+Shift+Z", "ongedaan maken; opnieuw"},
     {"Ctrl+Shift+N", "nieuwe kolom met een bedrag per jaar"},
     {"Ctrl+Shift+G", "nieuwe kolom met een bedrag en een groeipercentage"},
     {"Ctrl+Shift+E", "nieuwe kolom met een percentage per jaar"},
@@ -20,6 +22,8 @@ constexpr std::array kKeysEverywhere = std::to_array<HelpKey>({
     {"Ctrl+F", "zoeken in de lijst"},
     {"F6", "van de lijst naar de kolom en terug"},
     {"F7", "het hele dossier controleren"},
+    {"F8", "wat er is gewijzigd, wanneer en door wie"},
+    {"F9, Shift+F9", "wat de kolommen bij elkaar doen: in tabellen, in een beeld van de jaren"},
     {"Ctrl+Shift+C", "cliëntgegevens"},
     {"F1", "deze uitleg; Escape sluit haar"},
 });
