@@ -187,6 +187,9 @@ constexpr std::array kGrey = std::to_array<GreyHelp>({
     {"TxtEindjaar", "Kies eerst Ja bij Overlijden."},
 });
 
+/// The name of a field without that of the surface which it stands on inside the editor: "Toelichting.".
+QString OnItsSurface(const QString& name) { return name.section(u'.', -1); }
+
 }  // namespace
 
 QString PlaceTitle(HelpPlace place) {
@@ -220,7 +223,7 @@ std::span<const HelpKey> KeysEverywhere() { return kKeysEverywhere; }
 std::span<const FieldHelp> AllFieldHelp() { return kFieldHelp; }
 
 std::optional<FieldHelp> HelpOfField(const QString& name) {
-  const QString field = name.section(u'(', 0, 0);
+  const QString field = OnItsSurface(name).section(u'(', 0, 0);
   const auto help = std::find_if(kFieldHelp.begin(), kFieldHelp.end(),
                                  [&](const FieldHelp& one) { return field == QLatin1String(one.field); });
   if (help == kFieldHelp.end()) return std::nullopt;
@@ -228,8 +231,9 @@ std::optional<FieldHelp> HelpOfField(const QString& name) {
 }
 
 QString WhyGrey(const QString& name) {
-  const auto grey =
-      std::find_if(kGrey.begin(), kGrey.end(), [&](const GreyHelp& one) { return name == QLatin1String(one.field); });
+  const auto grey = std::find_if(kGrey.begin(), kGrey.end(), [field = OnItsSurface(name)](const GreyHelp& one) {
+    return field == QLatin1String(one.field);
+  });
   return grey == kGrey.end() ? QString() : QString::fromUtf8(grey->why);
 }
 

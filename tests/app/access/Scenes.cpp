@@ -158,8 +158,9 @@ const std::vector<Scene>& AllScenes() {
          Stage::Press(Qt::Key_S, Qt::AltModifier);
        },
        kWhole, true},
-      {"overview", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9); }, "Overzicht"},
-      {"course", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9, Qt::ShiftModifier); }, "Verloop"},
+      {"overview", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9); }, "filler \"Overzicht\""},
+      {"course", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9, Qt::ShiftModifier); }, "filler \"Verloop\""},
+      {"history", [](Stage& stage) { OpenBeside(stage, Qt::Key_F8); }, kWhole, true},
       {"print-preview", [](Stage& stage) { OpenBeside(stage, Qt::Key_P, Qt::ControlModifier); }, kWhole, true},
   };
   return scenes;

@@ -37,8 +37,8 @@ class Stage {
 struct Scene {
   const char* name;
   void (*play)(Stage& stage);
-  /// The name of the element that is looked at, where it is not the whole window in front.
-  const char* part = "Vrije kolom";
+  /// How the element that is looked at starts, role and name, where it is not the whole window in front.
+  const char* part = "panel \"Vrije kolom\"";
   bool modal = false;  ///< ends in a modal window, which stays open
 };
 

@@ -77,16 +77,16 @@ def attempt(read, otherwise):
         return otherwise
 
 
-def part_of(lines, name):
-    """The lines of the element with this name, and of alerts wherever they are; all where no name is given."""
-    if not name:
+def part_of(lines, start):
+    """The lines of the element that starts like this, and of alerts wherever they are; all where nothing is given."""
+    if not start:
         return lines
     depth = lambda line: len(line) - len(line.lstrip())
     found, inside = [], None
     for line in lines:
         if inside is not None and depth(line) <= inside:
             inside = None
-        if inside is None and f' "{name}"' in line:
+        if inside is None and line.lstrip().startswith(start):
             inside = depth(line)
             outer = inside
         if inside is not None:

@@ -62,7 +62,7 @@ TEST_F(ColumnManagementTest, RemovesAColumnFromTheListByOneKey) {
 }
 
 TEST_F(ColumnManagementTest, ANewColumnIsOfTheKindOfInputThatIsChosen) {
-  PressKey(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+  PressKey(Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(Focus(), "Omschrijving");
   Type("Opslag");
   PressKey(Qt::Key_Tab);

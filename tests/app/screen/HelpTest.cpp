@@ -99,14 +99,13 @@ TEST_F(HelpTest, AGreyFieldTellsWhyAndOneThatIsNotTellsNothing) {
   ASSERT_TRUE(Screen().GoTo({0, 1}));
   EXPECT_EQ(tip("optFiscaal(2)"), "Een last kan geen bijtelling zijn.");
   EXPECT_EQ(tip("optFiscaal(1)"), "");
-  EXPECT_EQ(tip("TxtPcOvergang"), "Kies eerst Ja bij Overlijden.");
+  EXPECT_EQ(tip("Toelichting.TxtPcOvergang"), "Kies eerst Ja bij Overlijden.");
   EXPECT_EQ(tip("TxtDtEind"), "");
   // A gift that is paid once.
   ASSERT_TRUE(Screen().GoTo({0, 4}));
-  EXPECT_EQ(tip("TxtDtEind"), "Een einddatum vraagt een aanvangsdatum, en een bedrag dat niet eenmalig is.");
   EXPECT_EQ(tip("cmdScenario"), "Een eenmalig bedrag heeft geen bedragen per jaar.");
   ASSERT_TRUE(Screen().GoTo({0, 5}));
-  EXPECT_EQ(tip("TxtPcOvergang"), "");
+  EXPECT_EQ(tip("Toelichting.TxtPcOvergang"), "");
   EXPECT_EQ(tip("optFiscaal(1)"), "Een bijdrage kan geen aftrekpost zijn.");
 }
 

@@ -32,7 +32,7 @@ class Findings {
   void Fits(const QWidget& widget, const QString& text, int room) { Fits(widget, text, widget.fontMetrics(), room); }
   void Fits(const QWidget& widget, const QString& text, const QFontMetrics& metrics, int room) {
     const int width = metrics.horizontalAdvance(text);
-    if (width > room) Add(widget, text, "width", width, room);
+    if (!text.isEmpty() && width > room) Add(widget, text, "width", width, room);
   }
   void FitsInHeight(const QWidget& widget, const QString& text, int height, int room) {
     if (height > room) Add(widget, text, "height", height, room);
