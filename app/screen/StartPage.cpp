@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -49,12 +50,23 @@ StartPage::StartPage(const QList<QAction*>& actions, QWidget* parent) : QWidget(
   block->addSpacing(heading->fontMetrics().height() / 2);
   block->addWidget(recent_);
 
-  auto* middle = new QGridLayout(this);
+  auto* page = new QWidget;
+  auto* middle = new QGridLayout(page);
   middle->addLayout(block, 1, 1);
   middle->setRowStretch(0, 1);
   middle->setRowStretch(2, 2);
   middle->setColumnStretch(0, 1);
   middle->setColumnStretch(2, 1);
+
+  // Where everything is large and the window is not.
+  auto* scroller = new QScrollArea;
+  scroller->setFrameShape(QFrame::NoFrame);
+  scroller->setFocusPolicy(Qt::NoFocus);
+  scroller->setWidgetResizable(true);
+  scroller->setWidget(page);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->addWidget(scroller);
 }
 
 QWidget* StartPage::MakeRecent() {
