@@ -50,10 +50,10 @@ tr -s '\n ' ' ' <"$work/required.log" | grep -q 'its Qt component needs Qt 6.4 o
 echo "== with pkg-config"
 export PKG_CONFIG_PATH
 PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name brivane-vrijekolom.pc)")
-read -ra flags <<<"$(pkg-config --define-prefix --cflags --libs brivane-vrijekolom)"
+read -ra flags <<<"$(pkg-config --cflags --libs brivane-vrijekolom)"
 (cd "$work/examples/memory" && "$cxx" -I.. main.cpp "${flags[@]}" -o "$work/by_pkg_config")
-"$work/by_pkg_config" --quit
+LD_LIBRARY_PATH=$(dirname "$PKG_CONFIG_PATH") "$work/by_pkg_config" --quit
 if [[ -e $PKG_CONFIG_PATH/brivane-vrijekolom-qt.pc ]]; then
-  pkg-config --define-prefix --print-requires brivane-vrijekolom-qt | grep -q '^Qt6Widgets >= 6.4$'
+  pkg-config --print-requires brivane-vrijekolom-qt | grep -q '^Qt6Widgets >= 6.4$'
 fi
 rm -rf "$work"
