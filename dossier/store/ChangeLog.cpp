@@ -65,6 +65,15 @@ Stored Take(const QSqlQuery& query, int place, Opslag kind) {
   return std::int64_t{value.toLongLong()};
 }
 
+Stored Take(const Rows& rows, int place, Opslag kind) {
+  switch (kind) {
+    case Opslag::Text: return std::string(rows.Bytes(place));
+    case Opslag::Real: return rows.IsNull(place) ? Stored() : Stored(rows.Broken(place));
+    case Opslag::Integer: break;
+  }
+  return rows.Whole(place);
+}
+
 /// The value of an entry, whose column takes all kinds.
 Stored TakeAny(const QSqlQuery& query, int place, bool none, Tabel tabel, int field) {
   if (none) return {};
@@ -158,7 +167,10 @@ void ChangeLog::RolledBack() {
   Committed();
 }
 
-void ChangeLog::Close() { statements_.clear(); }
+void ChangeLog::Close() {
+  statements_.clear();
+  rows_.clear();
+}
 
 std::int64_t ChangeLog::Next(StepKind kind) {
   Load();
@@ -207,20 +219,19 @@ std::optional<Row> ChangeLog::ReadRow(Tabel tabel, Sleutel key) {
     }
     return texts;
   }();
-  QSqlQuery& query = Prepared(sql.at(tabel));
-  BindKey(query, 0, tabel, key);
-  Database::Run(query);
+  Rows& rows = rows_.try_emplace(tabel, database_, sql.at(tabel)).first->second;
+  if (tabel == Tabel::Voorstel)
+    rows.Start({ProposalOf(key), ItemOf(key)});
+  else
+    rows.Start({key});
   std::optional<Row> row;
-  if (query.next()) {
+  if (rows.Next()) {
     row.emplace();
     row->reserve(table.columns.size());
-    for (std::size_t place = 0; place < table.columns.size(); ++place) {
-      row->push_back(Take(query, static_cast<int>(place), table.columns[place].kind));
-    }
-  } else if (query.lastError().isValid()) {
-    throw DatabaseError(query.lastError());
+    int place = 0;
+    for (const TableColumn& column : table.columns) row->push_back(Take(rows, place++, column.kind));
   }
-  query.finish();
+  rows.Stop();
   return row;
 }
 

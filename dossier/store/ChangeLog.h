@@ -9,6 +9,7 @@
 
 #include "dossier/store/Database.h"
 #include "dossier/store/History.h"
+#include "dossier/store/Rows.h"
 
 namespace brivane::dossier {
 
@@ -90,6 +91,7 @@ class ChangeLog {
 
   Database& database_;
   std::map<QString, QSqlQuery> statements_;
+  std::map<Tabel, Rows> rows_;  ///< one row of each table, by its key
   std::vector<Touched> touched_;
   std::map<std::pair<Tabel, Sleutel>, std::size_t> places_;
   /// What the edit wrote first: the reason of all the rest.

@@ -1,5 +1,6 @@
 #include "dossier/store/Database.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QUrl>
 #include <atomic>
@@ -53,6 +54,7 @@ Database::Database(const QString& pad, Access access)
 }
 
 Database::~Database() {
+  often_.clear();
   database_.close();
   database_ = {};
   QSqlDatabase::removeDatabase(naam_);
@@ -61,6 +63,13 @@ Database::~Database() {
 void Database::Run(const QString& sql) {
   QSqlQuery query(database_);
   if (!query.exec(sql)) throw DatabaseError(query.lastError());
+}
+
+void Database::RunAgain(const QString& sql) {
+  const auto known = often_.find(sql);
+  QSqlQuery& query = known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
+  Run(query);
+  query.finish();
 }
 
 QVariant Database::Value(const QString& sql) {
@@ -79,6 +88,14 @@ QSqlQuery Database::Prepare(const QString& sql) const {
 
 void Database::Run(QSqlQuery& query) {
   if (!query.exec()) throw DatabaseError(query.lastError());
+}
+
+sqlite3* Database::Handle() const {
+  // Qt's driver stands on the same library.
+  const QVariant handle = database_.driver()->handle();
+  if (!handle.isValid() || qstrcmp(handle.typeName(), "sqlite3*") != 0)
+    throw DatabaseError(SqliteCode::CannotOpen, "The connection has no handle");
+  return *static_cast<sqlite3* const*>(handle.constData());
 }
 
 QByteArray AlsBytes(std::string_view tekst) {

@@ -5,8 +5,11 @@
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>
+#include <map>
 #include <stdexcept>
 #include <string>
+
+struct sqlite3;
 
 namespace brivane::dossier {
 
@@ -57,15 +60,20 @@ class Database {
 
   /// Runs a statement without results or parameters.
   void Run(const QString& sql);
+  /// The same of a statement that is run often: it is prepared once.
+  void RunAgain(const QString& sql);
   /// The first value of the first row.
   [[nodiscard]] QVariant Value(const QString& sql);
   /// A prepared statement whose rows are read once, in order.
   [[nodiscard]] QSqlQuery Prepare(const QString& sql) const;
   static void Run(QSqlQuery& query);
+  /// SQLite's own handle of the connection, for what is read as Rows.
+  [[nodiscard]] sqlite3* Handle() const;
 
  private:
   QString naam_;
   QSqlDatabase database_;
+  std::map<QString, QSqlQuery> often_;
 };
 
 /// Texts travel as their UTF-8 bytes, so that what is read is what was written to the byte: a parameter for a

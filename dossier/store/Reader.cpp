@@ -1,6 +1,5 @@
 #include "dossier/store/Reader.h"
 
-#include <QSqlError>
 #include <QStringList>
 #include <algorithm>
 #include <cmath>
@@ -12,6 +11,7 @@
 #include "dossier/store/CaseWeight.h"
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
+#include "dossier/store/Rows.h"
 #include "dossier/store/Schema.h"
 #include <brivane/frame/Calendar.h>
 
@@ -57,22 +57,22 @@ constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max(
 /// Reads the values of a row from left to right.
 class Rij {
  public:
-  explicit Rij(const QSqlQuery& query) : query_(query) {}
+  explicit Rij(const Rows& rows) : rows_(rows) {}
 
   void Lees(std::integral auto& getal) {
     using Getal = std::remove_reference_t<decltype(getal)>;
-    const qlonglong waarde = query_.value(plaats_++).toLongLong();
+    const std::int64_t waarde = rows_.Whole(plaats_++);
     if (waarde < std::numeric_limits<Getal>::min() || waarde > std::numeric_limits<Getal>::max()) throw OutOfRange();
     getal = static_cast<Getal>(waarde);
   }
-  void Lees(double& getal) { getal = query_.value(plaats_++).toDouble(); }
+  void Lees(double& getal) { getal = rows_.Broken(plaats_++); }
   void Lees(float& getal) {
-    const double waarde = query_.value(plaats_++).toDouble();
+    const double waarde = rows_.Broken(plaats_++);
     if (std::isfinite(waarde) && std::fabs(waarde) > std::numeric_limits<float>::max()) throw OutOfRange();
     getal = static_cast<float>(waarde);
   }
   void Lees(std::optional<double>& getal) {
-    if (query_.isNull(plaats_)) {
+    if (rows_.IsNull(plaats_)) {
       ++plaats_;
       return;
     }
@@ -91,15 +91,12 @@ class Rij {
   }
   /// Whether a row's number counts on from the rows before it.
   [[nodiscard]] bool HeeftNummer(std::size_t verwacht) {
-    return query_.value(plaats_++).toLongLong() == static_cast<qlonglong>(verwacht);
+    return rows_.Whole(plaats_++) == static_cast<std::int64_t>(verwacht);
   }
-  void Lees(std::string& tekst) {
-    const QByteArray bytes = query_.value(plaats_++).toByteArray();
-    tekst.assign(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-  }
+  void Lees(std::string& tekst) { tekst = rows_.Bytes(plaats_++); }
 
  private:
-  const QSqlQuery& query_;
+  const Rows& rows_;
   int plaats_ = 0;
 };
 
@@ -110,13 +107,11 @@ template <class Value> QString Uitdrukking(std::string_view naam, const Value&) 
 
 /// Runs a query and hands each row to a function.
 template <class Function> void VoorElkeRij(Database& database, const QString& sql, Function&& functie) {
-  QSqlQuery query = database.Prepare(sql);
-  Database::Run(query);
-  while (query.next()) {
-    Rij rij(query);
+  Rows rows(database, sql);
+  while (rows.Next()) {
+    Rij rij(rows);
     functie(rij);
   }
-  if (query.lastError().isValid()) throw DatabaseError(query.lastError());
 }
 
 /// A loan while its parts are being put together.

@@ -18,9 +18,9 @@ std::vector<qint64> ReadStates(Database& database) {
 
 void AddState(Database& database, LogState log) {
   if (log == LogState::WorkedOff) {
-    database.Run(QStringLiteral("DELETE FROM stand WHERE nummer < (SELECT max(nummer) FROM stand)"));
+    database.RunAgain(QStringLiteral("DELETE FROM stand WHERE nummer < (SELECT max(nummer) FROM stand)"));
   }
-  database.Run(QStringLiteral("INSERT INTO stand (kenmerk) VALUES (random())"));
+  database.RunAgain(QStringLiteral("INSERT INTO stand (kenmerk) VALUES (random())"));
 }
 
 }  // namespace brivane::dossier
