@@ -117,5 +117,23 @@ TEST_F(ScenarioTest, EscapeLeavesThePeriodsAsTheyWere) {
   EXPECT_EQ(Perioden(fields), (std::map<int, double>{{1, 1}}));
 }
 
+TEST_F(ScenarioTest, WhatOkStoredWithAPastedColumnIsOneStepBackAndForth) {
+  const auto perioden = [this] { return Kolom(0, 1).Bedrag.Perioden; };
+  const auto before = perioden();
+  InForm([](QWidget&) {
+    TabTo("Percentage jaar 5");
+    QApplication::clipboard()->setText("3\n2\n");
+    PressKey(Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(FocusWindow(), Qt::Key_O, Qt::AltModifier);
+  });
+  const auto stored = perioden();
+  EXPECT_NE(stored, before);
+  PressKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(perioden(), before);
+  PressKey(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(perioden(), stored);
+  EXPECT_EQ(Perioden(ReadAfterClosing()).count(49), 1U);  // the month in which the fifth year begins
+}
+
 }  // namespace
 }  // namespace brivane::app
