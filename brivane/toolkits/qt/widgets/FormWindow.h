@@ -5,22 +5,12 @@
 
 #include <brivane/controls/Form.h>
 #include <brivane/controls/FormSubject.h>
-#include <brivane/host/model/Hoofdvenster.h>
+#include <brivane/toolkits/qt/Hoofdvenster.h>
 #include <brivane/toolkits/qt/peers/Peers.h>
 
 class QScrollArea;
 
 namespace brivane::qt {
-
-/// The host's main window as a widget: the owner of modal forms.
-class Hoofdvenster : public host::Hoofdvenster {
- public:
-  explicit Hoofdvenster(QWidget* venster) : venster_(venster) {}
-  [[nodiscard]] QWidget* Venster() const { return venster_; }
-
- private:
-  QPointer<QWidget> venster_;
-};
 
 /// Shows a form as a modal dialog. A form larger than the screen scrolls. Escape and the close box ask
 /// first where rows were changed, because they would be lost.
