@@ -55,6 +55,7 @@ Choices::Choices(QWidget* parent)
   situatie_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   scenario_->setObjectName(QStringLiteral("scenario"));
   scenario_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  peildatum_->setAccessibleName(QStringLiteral("Peildatum"));  // the label has a colon
   peildatum_->setObjectName(QStringLiteral("peildatum"));
   peildatum_->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
   peildatum_->setCalendarPopup(true);
