@@ -100,11 +100,6 @@ class Rij {
   int plaats_ = 0;
 };
 
-template <class Value> QString Uitdrukking(std::string_view naam, const Value&) {
-  const QString kolom = QString::fromStdString(ColumnName(naam));
-  return std::same_as<Value, std::string> ? QStringLiteral("CAST(%1 AS BLOB)").arg(kolom) : kolom;
-}
-
 /// Runs a query and hands each row to a function.
 template <class Function> void VoorElkeRij(Database& database, const QString& sql, Function&& functie) {
   Rows rows(database, sql);
@@ -142,11 +137,25 @@ std::vector<Opbouw> LeesLeningen(Database& database, Scale& scale) {
   return leningen;
 }
 
+/// Makes room for the columns of each loan, for no more than a case may hold.
+void MaakPlaats(Database& database, std::vector<Opbouw>& leningen) {
+  Rows rows(database, QStringLiteral("SELECT count(*) FROM vrijekolom WHERE lening = ?"));
+  const std::int64_t meeste = kMostWeight / BareWeight(Tabel::Kolom);
+  for (Opbouw& opbouw : leningen) {
+    rows.Start({opbouw.lening.Sleutel});
+    const auto aantal = static_cast<std::size_t>(rows.Next() ? std::min(rows.Whole(0), meeste) : 0);
+    opbouw.lening.VrijeKolommen.reserve(aantal);
+    opbouw.volgorde.reserve(aantal);
+  }
+}
+
 /// Gives the loans their columns, in the order of the columns' keys.
 void LeesKolommen(Database& database, std::vector<Opbouw>& leningen, Scale& scale) {
+  MaakPlaats(database, leningen);
   QStringList namen = {QStringLiteral("lening"), QStringLiteral("volgorde"), QStringLiteral("sleutel")};
   const KolomGegevens voorbeeld;
-  BezoekKolom(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekKolom(voorbeeld,
+              [&](std::string_view naam, const auto&) { namen << QString::fromStdString(ColumnName(naam)); });
   const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
   VoorElkeRij(database, sql, [&](Rij& rij) {
     Sleutel sleutel = 0;
@@ -195,7 +204,8 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen, Scale& s
   Sleutel hoogste = 0;
   QStringList namen = {QStringLiteral("kolom"), QStringLiteral("sleutel")};
   const PeriodeGegevens voorbeeld;
-  BezoekPeriode(voorbeeld, [&](std::string_view naam, const auto& waarde) { namen << Uitdrukking(naam, waarde); });
+  BezoekPeriode(voorbeeld,
+                [&](std::string_view naam, const auto&) { namen << QString::fromStdString(ColumnName(naam)); });
   std::unordered_map<Sleutel, std::vector<PeriodeGegevens>*> perioden;
   const auto aantal = [](std::size_t som, const Opbouw& opbouw) { return som + opbouw.volgorde.size(); };
   perioden.reserve(std::accumulate(leningen.begin(), leningen.end(), std::size_t{0}, aantal));
