@@ -159,6 +159,10 @@ TEST(Graphemes, BytesThatAreNotUtf8StandAlone) {
   EXPECT_EQ(Split("\xE2\x82"), (Characters{"\xE2", "\x82"}));
   EXPECT_EQ(Split("\xC3\xA9\xA9"), (Characters{"\xC3\xA9", "\xA9"}));
   EXPECT_EQ(Split("\xFF\xFE"), (Characters{"\xFF", "\xFE"}));
+  EXPECT_EQ(Split("a\x80"), (Characters{"a", "\x80"}));
+  EXPECT_EQ(Split("a\x80\x80"), (Characters{"a", "\x80", "\x80"}));
+  EXPECT_EQ(Split("\x7F\xBF"), (Characters{"\x7F", "\xBF"}));
+  EXPECT_EQ(Split("\xBF\xBF"), (Characters{"\xBF", "\xBF"}));
 }
 
 TEST(Graphemes, AMarkWithoutALetterStandsAlone) { EXPECT_EQ(Split("\u0301"), Characters{"\u0301"}); }
