@@ -371,6 +371,16 @@ TEST_F(PendingEditTest, IsPendingFromTheFirstDecimalSignOfTheKeypad) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 0,50"));
 }
 
+TEST_F(PendingEditTest, OfAControlThatTheHostLetGoIsInNobodysWay) {
+  TypeOver(amount, "12.50");
+  const std::shared_ptr<controls::Life> life = toolkit.Life();
+  life->End(nullptr);
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(face.reason, "");
+  EXPECT_EQ(face.text, "12.50");
+}
+
 TEST_F(PendingEditTest, ThatEnterFindsRefusedSelectsNothingElse) {
   TypeOver(amount, "12.50");
   EXPECT_FALSE(edit.CommitAndSelect());
