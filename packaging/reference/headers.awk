@@ -1,0 +1,29 @@
+# How Doxygen is shown a header, line by line in the same place:
+# - a comment before a namespace is what the file holds; what a namespace holds stands in rooms.dox;
+# - a setter right below its getter shares the getter's comment;
+# - what is deleted is left out, and a defaulted comparison says that it goes member by member.
+{ lines[NR] = $0 }
+END {
+  comment = 0  # where the comment began that is being read
+  told = 0     # whether the file has said what it holds
+  for (n = 1; n <= NR; ++n) {
+    line = lines[n]
+    if (line ~ /^ *\/\/\//) {
+      if (!comment) comment = n
+      continue
+    }
+    if (line ~ /^namespace .*\{$/ && comment && !told) {
+      lines[comment - 1] = "/// \\file"
+      told = 1
+    } else if (!comment && match(line, /void ([Ss]et|Zet)[A-Za-z]+\(/)) {
+      name = substr(line, RSTART + 8, RLENGTH - 9)
+      getter = index(lines[n - 1], " " name "(") ? name : tolower(substr(name, 1, 1)) substr(name, 2)
+      if (index(lines[n - 1], " " getter "(")) lines[n] = "/** \\copydoc " getter "() */" line
+    }
+    if (line ~ /= delete;$/) lines[n] = ""
+    if (line ~ /friend .*operator(==|<=>)\(.*\) = default;/) lines[n] = "/** Member by member. */" line
+    comment = 0
+  }
+  if (!told) sub(/^#pragma once/, "/** \\file */", lines[1])
+  for (n = 1; n <= NR; ++n) print lines[n]
+}

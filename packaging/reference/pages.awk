@@ -1,0 +1,18 @@
+# How Doxygen is shown a page of docs/: a link to a page that is not in the reference goes to where that one is installed,
+# beside it. `pages` has the file names of those that are, with a blank on either side of each.
+{
+  line = ""
+  rest = $0
+  while (match(rest, /\[[^]]+\]\([^)]+\.md\)/)) {
+    link = substr(rest, RSTART, RLENGTH)
+    text = substr(link, 2, index(link, "](") - 2)
+    target = substr(link, index(link, "](") + 2)
+    sub(/\)$/, "", target)
+    file = target
+    sub(/.*\//, "", file)
+    if (!index(pages, " " file " ")) link = "<a href=\"../docs/" target "\">" text "</a>"
+    line = line substr(rest, 1, RSTART - 1) link
+    rest = substr(rest, RSTART + RLENGTH)
+  }
+  print line rest
+}
