@@ -1,20 +1,40 @@
 # How Doxygen is shown a header, line by line in the same place:
 # - a comment before a namespace is what the file holds; what a namespace holds stands in rooms.dox;
+# - a comment before @{ goes for each one that follows until @}, which Doxygen forgets in what is made of a template;
 # - a setter right below its getter shares the getter's comment;
 # - what is deleted is left out, and a defaulted comparison says that it goes member by member.
+function indent(line) {
+  match(line, /^ */)
+  return RLENGTH
+}
+function words(from, to, text, n, line) {
+  for (n = from; n <= to; ++n) {
+    line = lines[n]
+    sub(/^ *\/\/\/ ?/, "", line)
+    text = text " " line
+  }
+  return text
+}
 { lines[NR] = $0 }
 END {
   comment = 0  # where the comment began that is being read
   told = 0     # whether the file has said what it holds
+  shared = ""  # the comment that goes for each one
   for (n = 1; n <= NR; ++n) {
     line = lines[n]
     if (line ~ /^ *\/\/\//) {
       if (!comment) comment = n
+      if (line ~ /@\{/) shared = lines[comment] ~ /\\name/ ? "" : words(comment, n - 1)
+      if (line ~ /@\{/) depth = indent(line)
+      if (line ~ /@\}/) shared = ""
+      if (line ~ /@\}/) comment = 0
       continue
     }
     if (line ~ /^namespace .*\{$/ && comment && !told) {
       lines[comment - 1] = "/// \\file"
       told = 1
+    } else if (!comment && shared != "" && indent(line) == depth && line ~ /[;}]$/) {
+      lines[n] = "/**" shared " */" line
     } else if (!comment && match(line, /void ([Ss]et|Zet)[A-Za-z]+\(/)) {
       name = substr(line, RSTART + 8, RLENGTH - 9)
       getter = index(lines[n - 1], " " name "(") ? name : tolower(substr(name, 1, 1)) substr(name, 2)
