@@ -20,7 +20,7 @@ enum class BindingState : std::uint8_t {
 
 /// What became of a binding.
 enum class BindingResult : std::uint8_t {
-  Bound,
+  Bound,    ///< the control shows the column
   Failed,   ///< the host was told why by its own ReportError; the control takes no input until it is bound
   Refused,  ///< something that is being typed does not pass: the control stays bound as it was, and shows what it is
 };

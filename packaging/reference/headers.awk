@@ -33,7 +33,7 @@ END {
     if (line ~ /^namespace .*\{$/ && comment && !told) {
       lines[comment - 1] = "/// \\file"
       told = 1
-    } else if (!comment && shared != "" && indent(line) == depth && line ~ /[;}]$/) {
+    } else if (!comment && shared != "" && indent(line) == depth && line ~ /[;},]$/) {
       lines[n] = "/**" shared " */" line
     } else if (!comment && match(line, /void ([Ss]et|Zet)[A-Za-z]+\(/)) {
       name = substr(line, RSTART + 8, RLENGTH - 9)

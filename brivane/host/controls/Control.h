@@ -27,7 +27,17 @@ enum class Kind : std::uint8_t {
 };
 
 /// A measure that a control may have. Lengths are twips, the font size is points.
-enum class Measure : std::uint8_t { Left, Top, Width, Height, FontSize, X1, X2, Y1, Y2 };
+enum class Measure : std::uint8_t {
+  Left,      ///< of Place
+  Top,       ///< of Place
+  Width,     ///< of Place
+  Height,    ///< of Place
+  FontSize,  ///< of the text in it
+  X1,        ///< where a line begins, from the left
+  X2,        ///< where a line ends, from the left
+  Y1,        ///< where a line begins, from the top
+  Y2         ///< where a line ends, from the top
+};
 
 /// What every control has. Nothing here raises an event, except that changing a surface's size
 /// raises its Resize.

@@ -10,10 +10,17 @@ namespace brivane::host {
 
 /// Buttons and icon of a message box: the sum of the button code (0 OK, 4 Yes/No) and the icon code
 /// (32 question, 48 exclamation).
-enum class MessageStyle : std::int32_t { YesNoQuestion = 36, OkExclamation = 48 };
+enum class MessageStyle : std::int32_t {
+  YesNoQuestion = 36,  ///< "Ja" and "Nee"
+  OkExclamation = 48   ///< "OK" alone
+};
 
 /// What a message box answers: the button, by its number.
-enum class MessageAnswer : std::int32_t { Ok = 1, Yes = 6, No = 7 };
+enum class MessageAnswer : std::int32_t {
+  Ok = 1,   ///< "OK", also by closing the box
+  Yes = 6,  ///< "Ja"
+  No = 7    ///< "Nee", also by closing the box
+};
 
 /// What a control needs of the machine and the running application around it.
 ///

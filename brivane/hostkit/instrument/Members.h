@@ -22,6 +22,8 @@ enum class MemberKind : std::uint8_t {
 /// the editor reads and writes, and `Scenario` for all that the year-by-year form knows. The fields of a free column
 /// and of a period entry have no enumerator of their own: they follow the others in the order of their tables.
 enum class Member : std::uint8_t {
+  /// The class in brivane::host, and the member there.
+  /// @{
   Application_Dossier,
   Application_Uitgangspunten,
   Application_Hoofdvenster,
@@ -61,6 +63,7 @@ enum class Member : std::uint8_t {
   ProcedureTrace_ErrorNumber,
   ProcedureTrace_ErrorDescription,
   ProcedureTrace_ErrorSource,
+  /// @}
 };
 
 /// The members that are no field of a table.
