@@ -1,8 +1,9 @@
 # How Doxygen is shown a header, line by line in the same place:
-# - a comment before a namespace is what the file holds; what a namespace holds stands in rooms.dox;
+# - a comment before a namespace is what the file holds, or the first sentence on the class that it is named for; what a
+#   namespace holds stands in rooms.dox;
 # - a comment before @{ goes for each one that follows until @}, which Doxygen forgets in what is made of a template;
 # - a setter right below its getter shares the getter's comment;
-# - what is deleted is left out, and a defaulted comparison says that it goes member by member.
+# - what is deleted is left out, and which classes are friends; a defaulted comparison says that it goes member by member.
 function indent(line) {
   match(line, /^ */)
   return RLENGTH
@@ -13,6 +14,27 @@ function words(from, to, text, n, line) {
     sub(/^ *\/\/\/ ?/, "", line)
     text = text " " line
   }
+  return text
+}
+# The first sentence of the comment on the class of the file's name, or on the first thing that has one.
+function holds(stem, n, from, first, text) {
+  stem = FILENAME
+  sub(/.*\//, "", stem)
+  sub(/\.h$/, "", stem)
+  for (n = 1; n <= NR; ++n) {
+    if (lines[n] ~ /^\/\/\//) {
+      if (!from) from = n
+      continue
+    }
+    if (from && !first) first = words(from, n - 1)
+    if (from && lines[n] ~ "(class|struct)( BRIVANE_API)? " stem "[ :]") {
+      first = words(from, n - 1)
+      break
+    }
+    from = 0
+  }
+  text = first
+  sub(/\. .*/, ".", text)
   return text
 }
 { lines[NR] = $0 }
@@ -40,10 +62,10 @@ END {
       getter = index(lines[n - 1], " " name "(") ? name : tolower(substr(name, 1, 1)) substr(name, 2)
       if (index(lines[n - 1], " " getter "(")) lines[n] = "/** \\copydoc " getter "() */" line
     }
-    if (line ~ /= delete;$/) lines[n] = ""
+    if (line ~ /= delete;$|friend class .*;$/) lines[n] = ""
     if (line ~ /friend .*operator(==|<=>)\(.*\) = default;/) lines[n] = "/** Member by member. */" line
     comment = 0
   }
-  if (!told) sub(/^#pragma once/, "/** \\file */", lines[1])
+  if (!told) lines[1] = "/** \\file " substr(FILENAME, index(FILENAME, "brivane/")) " \\brief" holds() " */"
   for (n = 1; n <= NR; ++n) print lines[n]
 }

@@ -1,5 +1,10 @@
 # How Doxygen is shown a page of docs/: a link to a page that is not in the reference goes to where that one is installed,
-# beside it. `pages` has the file names of those that are, with a blank on either side of each.
+# beside it. `pages` has the file names of those that are, with a blank on either side of each. A list of its headings
+# stands below its title. A picture is shown from where the pages are.
+FNR == 2 && $0 == "" {
+  print "[TOC]"
+  next
+}
 {
   line = ""
   rest = $0
@@ -14,5 +19,7 @@
     line = line substr(rest, 1, RSTART - 1) link
     rest = substr(rest, RSTART + RLENGTH)
   }
-  print line rest
+  line = line rest
+  sub(/\]\(images\//, "](../docs/images/", line)
+  print line
 }
