@@ -1,7 +1,7 @@
 # How Doxygen is shown a header, line by line in the same place:
 # - a comment before a namespace is what the file holds, or the first sentence on the class that it is named for; what a
 #   namespace holds stands in rooms.dox;
-# - a comment before @{ goes for each one that follows until @}, which Doxygen forgets in what is made of a template;
+# - a comment before @{ goes for each one that follows until @}, where it stands: Doxygen would put them together at the end;
 # - a setter right below its getter shares the getter's comment;
 # - what is deleted is left out, and which classes are friends; a defaulted comparison says that it goes member by member.
 function indent(line) {
@@ -46,16 +46,23 @@ END {
     line = lines[n]
     if (line ~ /^ *\/\/\//) {
       if (!comment) comment = n
-      if (line ~ /@\{/) shared = lines[comment] ~ /\\name/ ? "" : words(comment, n - 1)
-      if (line ~ /@\{/) depth = indent(line)
-      if (line ~ /@\}/) shared = ""
-      if (line ~ /@\}/) comment = 0
+      if (line ~ /@\{/ && lines[comment] !~ /\\name/) {
+        shared = words(comment, n - 1)
+        depth = indent(line)
+        first = n + 1
+        lines[n] = ""
+      }
+      if (line ~ /@\}/) {
+        if (shared != "") lines[n] = ""
+        shared = ""
+        comment = 0
+      }
       continue
     }
     if (line ~ /^namespace .*\{$/ && comment && !told) {
       lines[comment - 1] = "/// \\file"
       told = 1
-    } else if (!comment && shared != "" && indent(line) == depth && line ~ /[;},]$/) {
+    } else if (shared != "" && n > first && !comment && indent(line) == depth && line ~ /^ *[^ })]/) {
       lines[n] = "/**" shared " */" line
     } else if (!comment && match(line, /void ([Ss]et|Zet)[A-Za-z]+\(/)) {
       name = substr(line, RSTART + 8, RLENGTH - 9)

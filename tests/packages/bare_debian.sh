@@ -20,6 +20,9 @@ echo "== packages"
 packages=("$work"/packages/*.deb)
 ((${#packages[@]} >= 6))
 lintian --allow-root --fail-on error "${packages[@]}"
+for file in doc/BrivaneVrijeKolom/reference/index.html doc-base/libbrivane-vrijekolom-doc; do
+  dpkg-deb -c "$work"/packages/libbrivane-vrijekolom-doc_*.deb | grep -q "/usr/share/$file\$"
+done
 
 echo "== a bare Debian 12"
 cat $(ls /etc/apt/sources.list /etc/apt/sources.list.d/debian.sources 2>/dev/null) |
