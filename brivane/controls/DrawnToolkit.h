@@ -17,6 +17,8 @@ namespace brivane::controls {
 ///
 /// A toolkit of your own derives from it, makes a Peer for each control (ToolkitBase::MakePeer, MakeFormPeer), hands
 /// what a person does to Hand, and what is typed to a PendingEdit. What the controls do then is done here.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API DrawnToolkit : public ToolkitBase {
  public:
   /// Told of a failure, with its number, description and source.

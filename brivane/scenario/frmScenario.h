@@ -27,6 +27,8 @@ namespace brivane {
 /// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base
 /// value is written as soon as row 1 is edited. No tracer is told of it; a failure of a handler is shown to the
 /// adviser, and the form stays open as it is (\ref failures).
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API frmScenario {
  public:
   /// Makes the form, unseen and empty. The toolkit outlives it.

@@ -32,7 +32,8 @@ inline constexpr std::string_view kHintLangleven =
     "Let op! Indien u 'Nee' selecteert zal het bedrag in lasten- en NBI- overzichten bij lang leven en pensioen niet "
     "worden meegeteld.";
 
-/// A label with a mnemonic goes to the box in the row below it.
+/// The controls of the explanation, frames before what stands in them. A label with a mnemonic goes to the box in the
+/// row below it.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen",

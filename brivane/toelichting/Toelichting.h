@@ -20,6 +20,8 @@ namespace brivane {
 ///     Toelichting toelichting(surface, toolkit.Desktop(), factories);
 ///     const auto changed = toelichting.Changed.Connect([&] { ... });
 ///     toelichting.SetApplication(application, lening, 1);
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API Toelichting {
  public:
   /// Builds the effect list and scales the surface to the screen; the factories are kept. Fails where the tracer does.

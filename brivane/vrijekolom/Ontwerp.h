@@ -44,8 +44,8 @@ inline constexpr int kProductHoog = 2790;
 inline constexpr int kToelichtingTop = kProductHoog + kKaderAfstand;
 /// @}
 
-/// A label with a mnemonic goes to the box in the row below it, a frame to what it holds. The host has the letters h,
-/// k, r and t for its menus.
+/// The controls of the editor, frames before what stands in them. A label with a mnemonic goes to the box in the row
+/// below it, a frame to what it holds. The host has the letters h, k, r and t for its menus.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last",

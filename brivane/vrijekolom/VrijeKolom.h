@@ -28,6 +28,8 @@ class frmScenario;
 ///     editor.SetApplication(application, 0, 1);
 ///     bool cancel = false;
 ///     editor.Validation(cancel);  // cancel: stay on the page
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API VrijeKolom {
  public:
   /// Listens to the surface and scales it to the screen; the factories are kept. Fails where the tracer of the

@@ -17,7 +17,7 @@ namespace brivane::host {
 /// The host application object, the root of the host's model. Each member that answers nothing where the controls need
 /// an object ends the procedure that asked with error 91 (ErrorNumber::ObjectMissing).
 ///
-/// Who implements it: \ref ownership, \ref threads, \ref failures, \ref callbacks.
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class Application {
  public:
   virtual ~Application() = default;

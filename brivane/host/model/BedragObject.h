@@ -13,6 +13,8 @@ namespace brivane::host {
 /// The editor knows it as the column's `Bedrag` and writes its base amount; the year-by-year form
 /// knows it as its `Scenario` and writes the base value and the period entries. Base amount and base
 /// value are one number, reached under two names. Amounts are kept in double precision, exactly.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class BedragObject {
  public:
   virtual ~BedragObject() = default;

@@ -9,6 +9,8 @@
 namespace brivane::host {
 
 /// The case: a client's loan file.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class Dossier {
  public:
   virtual ~Dossier() = default;

@@ -9,6 +9,8 @@ namespace brivane::host {
 
 /// A loan: the holder of free columns. A column has an identifier of its own within its loan, and a running position
 /// that moves up when one before it is removed.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class Lening {
  public:
   virtual ~Lening() = default;

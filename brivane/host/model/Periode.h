@@ -6,6 +6,8 @@ namespace brivane::host {
 
 /// One entry of a scenario: from its month on, a value differs. Read when the form is filled; written at OK, to an
 /// entry that was just appended. What the kind of scenario does not use is not written.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class Periode {
  public:
   virtual ~Periode() = default;

@@ -8,6 +8,8 @@
 namespace brivane::host {
 
 /// The applicant or the partner.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class Persoon {
  public:
   virtual ~Persoon() = default;

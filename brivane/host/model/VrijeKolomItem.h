@@ -16,7 +16,7 @@ namespace brivane::host {
 /// host's case does not know keeps what it is given as long as the control is bound. What a setter throws is reported,
 /// and the procedure ends there. Texts are UTF-8 of any length, the empty one included; dates are days without time.
 ///
-/// Who implements it: \ref ownership, \ref threads, \ref failures, \ref callbacks.
+/// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class VrijeKolomItem {
  public:
   virtual ~VrijeKolomItem() = default;

@@ -21,6 +21,8 @@ namespace brivane::memory {
 ///     auto editor = std::make_unique<memory::Embedded<VrijeKolom>>(vrijekolom::kOntwerp, factories);
 ///     editor->SetApplication(application, 0, 1);
 ///     editor->Surface().Find("TxtOm")->Perform(controls::Enter{"Krant"});
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 template <class Control> class Embedded {
  public:
   /// `prepare` sets the toolkit up before anything is made of the design.

@@ -29,6 +29,8 @@ namespace brivane::qt {
 /// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
 /// its form open, or calls the host. What is open closes, what was going on is abandoned without a word, and nothing of
 /// the host is touched any more when the deletion comes back.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API ControlWidget : public QWidget {
   Q_OBJECT
   /// As the function of this name.
