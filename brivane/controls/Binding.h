@@ -40,8 +40,8 @@ class BRIVANE_API Binding {
   explicit Binding(host::Surface& surface);
 
   /// Runs a binding. It has failed where a procedure of the control did since the last binding began, also where that
-  /// was reported, and where this throws,
-  /// which goes on to the caller. May be called again from inside; what came last counts.
+  /// was reported, and where this throws, which goes on to the caller. May be called again from inside; what came last
+  /// counts.
   BindingResult Bind(const std::function<void()>& bind);
   /// Runs what lets go of the host's objects, after the veil was laid. May be called from inside a binding, which has
   /// failed then.

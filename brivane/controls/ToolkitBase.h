@@ -33,8 +33,8 @@ class BRIVANE_API ToolkitBase : public frame::Toolkit {
   /// How long what it makes lives, where a host may delete it at any moment; it ends with the toolkit at the latest.
   [[nodiscard]] const std::shared_ptr<controls::Life>& Life() const { return life_; }
 
-  /// Listeners are told in the order of adding, and of what an action became in the reverse order.
-  /// One that is removed while an action goes on is told no more of it; it is removed before it ends.
+  /// Listeners are told in the order of adding, and of what an action became in the reverse order. One that is removed
+  /// while an action goes on is told no more of it; it is removed before it ends.
   /// @{
   void AddListener(ActionListener& listener) { listeners_.push_back(&listener); }
   void RemoveListener(ActionListener& listener) { std::erase(listeners_, &listener); }

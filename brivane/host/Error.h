@@ -21,8 +21,8 @@ enum class ErrorNumber : std::int32_t {
 
 /// The one error type of the component and its host: a number, a description and a source.
 ///
-/// A host implementation throws it to report a failure of its own; number, description and source
-/// then reach the host's `ReportError` unchanged. Which failures reach whom is told in \ref failures.
+/// A host implementation throws it to report a failure of its own; number, description and source then reach the host's
+/// `ReportError` unchanged. Which failures reach whom is told in \ref failures.
 class Error : public std::exception {
  public:
   /// A failure of the host: any number, and texts in UTF-8 that its own ReportError will be told.

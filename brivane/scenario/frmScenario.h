@@ -24,9 +24,9 @@ namespace brivane {
 ///     formulier.Invoeren(bedrag, 30);
 ///     formulier.ShowModal(hoofdvenster);
 ///
-/// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base
-/// value is written as soon as row 1 is edited. No tracer is told of it; a failure of a handler is shown to the
-/// adviser, and the form stays open as it is (\ref failures).
+/// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base value is
+/// written as soon as row 1 is edited. No tracer is told of it; a failure of a handler is shown to the adviser, and the
+/// form stays open as it is (\ref failures).
 ///
 /// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API frmScenario {
@@ -51,8 +51,8 @@ class BRIVANE_API frmScenario {
   [[nodiscard]] std::int16_t SoortScenario() const;
   void SetSoortScenario(std::int16_t soort);
 
-  /// Checks that the amounts together stay within Bd_MaxOpname; a refusal shows its message and sets Cancel.
-  /// ControleNr 0 lets pending user-interface events run first; 1 is this check alone. A failure is shown once.
+  /// Checks that the amounts together stay within Bd_MaxOpname; a refusal shows its message and sets Cancel. ControleNr
+  /// 0 lets pending user-interface events run first; 1 is this check alone. A failure is shown once.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
   /// The background of the form, which each control in the colour of button faces takes over when the form is shown.

@@ -39,9 +39,9 @@ class BRIVANE_API Toelichting {
   /// used. Untraced, and nothing is written or raised. What the controls show stays.
   void Unbind();
 
-  /// Checks the input and sets Cancel on a refusal, after a message. With Cancel already set nothing is
-  /// checked, nor while the column does not count at death. ControleNr: 0 the percentage and the end date, 3 the
-  /// percentage, 4 the end date, 5 the end age.
+  /// Checks the input and sets Cancel on a refusal, after a message. With Cancel already set nothing is checked, nor
+  /// while the column does not count at death. ControleNr: 0 the percentage and the end date, 3 the percentage, 4 the
+  /// end date, 5 the end age.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
   /// The background of the surface. Setting it colours each control that still has the colour of button faces, once;

@@ -42,8 +42,8 @@ inline std::string Leeftijden(int jaar, const std::vector<Geborene>& personen) {
 
 }  // namespace detail
 
-/// Reads the boxes of an editor's surface. Fails with error 13 where the box of the start date holds
-/// something that is none.
+/// Reads the boxes of an editor's surface. Fails with error 13 where the box of the start date holds something that is
+/// none.
 [[nodiscard]] inline Onderwerp LeesOnderwerp(host::Surface& surface) {
   const frame::Controls controls(surface);
   const host::ListBox& termijn = controls[cboTermijn];

@@ -39,10 +39,9 @@ class BRIVANE_API VrijeKolom {
   VrijeKolom& operator=(const VrijeKolom&) = delete;
   ~VrijeKolom();
 
-  /// Binds the editor to free column `Vrij_Id` of loan `Len_Id` (0: the loan of the current situation) and
-  /// fills it; may be called again at any time. A failure is reported through the application and does not reach the
-  /// caller
-  /// (\ref failures): controls::Binding tells.
+  /// Binds the editor to free column `Vrij_Id` of loan `Len_Id` (0: the loan of the current situation) and fills it;
+  /// may be called again at any time. A failure is reported through the application and does not reach the caller (\ref
+  /// failures): controls::Binding tells.
   void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
 
   /// Lets go of every object of the host's, the tracer and the check too; what was made by the factories is made anew
@@ -58,8 +57,8 @@ class BRIVANE_API VrijeKolom {
   [[nodiscard]] host::Color BackColor() const;
   void SetBackColor(host::Color New_Color);
 
-  /// Whether the frame "Post beëindigen in" with the proposal boxes is shown; the host sets it where its
-  /// case works with proposals. False until it is set.
+  /// Whether the frame "Post beëindigen in" with the proposal boxes is shown; the host sets it where its case works
+  /// with proposals. False until it is set.
   [[nodiscard]] bool BeeindigenZichtbaar() const { return BeeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 

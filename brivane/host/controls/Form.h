@@ -10,12 +10,12 @@ namespace brivane::host {
 
 /// A form: a surface in a window of its own, whose control arrays can grow at run time.
 ///
-/// Its place is that of the window, frame and title included; the difference to the scale measures
-/// is what frame and title take. It is shown once: what was unloaded does not come back.
+/// Its place is that of the window, frame and title included; the difference to the scale measures is what frame and
+/// title take. It is shown once: what was unloaded does not come back.
 class Form : public Surface {
  public:
-  /// Makes element `index` of the control array whose template (element 0) is the control of `row`.
-  /// It copies every property of the template and starts invisible. The form keeps it.
+  /// Makes element `index` of the control array whose template (element 0) is the control of `row`. It copies every
+  /// property of the template and starts invisible. The form keeps it.
   virtual Control& Create(std::size_t row, int index) = 0;
   /// A made element, or nothing.
   [[nodiscard]] virtual Control* Element(std::size_t row, int index) = 0;

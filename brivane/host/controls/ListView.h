@@ -7,7 +7,8 @@
 
 namespace brivane::host {
 
-/// The report list: column headers and keyed rows. Texts are UTF-8. It raises nothing.
+/// The report list: column headers and keyed rows. Texts are UTF-8. It raises nothing. An index that it does not have
+/// fails with error 9.
 class ListView : public Control {
  public:
   /// Takes away every column header.

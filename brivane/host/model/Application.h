@@ -28,15 +28,15 @@ class Application {
   /// The assumptions of the case. Asked by "Scenario invullen" alone, which fails without.
   [[nodiscard]] virtual std::shared_ptr<host::Uitgangspunten> Uitgangspunten() = 0;
   /// The owner of the year-by-year form, for the toolkit in use (qt::Hoofdvenster). Asked by "Scenario invullen";
-  /// nothing is a form without an owner.
+  /// nothing leaves it to the toolkit, and with Qt it is the active window then.
   [[nodiscard]] virtual std::shared_ptr<host::Hoofdvenster> Hoofdvenster() = 0;
   /// What the two members below are handed as `bron`; nothing where the host has no need of it.
   [[nodiscard]] virtual std::shared_ptr<host::Codetabellen> Codetabellen() = 0;
 
-  /// Adds the entries of a code table to the list, in table order, and selects the one whose code is
-  /// given, if any. Clears nothing. The component passes an empty `leeg` and leaves out `keuze`, and the table is
-  /// always codes::kMaatschappijTabel. Selecting raises the list's Click, so it is done once, after the last entry. The
-  /// list is lent for the time of the call.
+  /// Adds the entries of a code table to the list, in table order, and selects the one whose code is given, if any.
+  /// Clears nothing. The component passes an empty `leeg` and leaves out `keuze`, and the table is always
+  /// codes::kMaatschappijTabel. Selecting raises the list's Click, so it is done once, after the last entry. The list
+  /// is lent for the time of the call.
   virtual void VulCombo(const std::shared_ptr<host::Codetabellen>& bron, std::string_view tabel, ListBox& lijst,
                         const std::string& code, const std::string& leeg,
                         std::optional<std::int32_t> keuze = std::nullopt) = 0;

@@ -10,9 +10,9 @@ namespace brivane::host {
 
 /// The amount object of a free column: its base amount and its development over time.
 ///
-/// The editor knows it as the column's `Bedrag` and writes its base amount; the year-by-year form
-/// knows it as its `Scenario` and writes the base value and the period entries. Base amount and base
-/// value are one number, reached under two names. Amounts are kept in double precision, exactly.
+/// The editor knows it as the column's `Bedrag` and writes its base amount; the year-by-year form knows it as its
+/// `Scenario` and writes the base value and the period entries. Base amount and base value are one number, reached
+/// under two names. Amounts are kept in double precision, exactly.
 ///
 /// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class BedragObject {

@@ -12,8 +12,8 @@ class Periode {
  public:
   virtual ~Periode() = default;
 
-  /// Month number counted from the start, from 1; row r of the form stands for the months from (r - 1) x 12 + 1 to r
-  /// x 12. An entry beyond the last row is passed over, and gone after OK.
+  /// Month number counted from the start, from 1; row r of the form stands for the months from (r - 1) x 12 + 1 to r x
+  /// 12. An entry beyond the last row is passed over, and gone after OK.
   [[nodiscard]] virtual std::int16_t Maand() const = 0;
   virtual void SetMaand(std::int16_t maand) = 0;
   /// Amount in euros, of kind 1.

@@ -5,8 +5,8 @@
 
 namespace brivane::host {
 
-/// The host's procedure tracer and error record. A control makes one on first use and keeps it.
-/// All strings are written by the component and never read by it; they are UTF-8 and lent for the time of the call.
+/// The host's procedure tracer and error record. A control makes one on first use and keeps it. All strings are written
+/// by the component and never read by it; they are UTF-8 and lent for the time of the call.
 ///
 /// What holds for all of it: \ref threads, \ref ownership, \ref callbacks, \ref failures.
 class ProcedureTrace {

@@ -51,16 +51,16 @@ class VrijeKolomItem {
   /// the editor writes false when a change of the corrections ends that.
   [[nodiscard]] virtual bool InkomenUitArbeid() const = 0;
   virtual void SetInkomenUitArbeid(bool ja) = 0;
-  /// Whether the income is part of the wage that benefits are based on. The editor writes false when it
-  /// becomes income from work no more.
+  /// Whether the income is part of the wage that benefits are based on. The editor writes false when it becomes income
+  /// from work no more.
   [[nodiscard]] virtual bool InDagloon() const = 0;
   virtual void SetInDagloon(bool ja) = 0;
 
   /// Start date; no date when not set. The editor writes only a date: an empty box is refused.
   [[nodiscard]] virtual Date DatumAanvang() const = 0;
   virtual void SetDatumAanvang(Date datum) = 0;
-  /// Duration in months; 0 when not set. What the editor works out fits in 16 bits; more is read well. 999
-  /// comes with each kind of product but "Anders", which makes it 0.
+  /// Duration in months; 0 when not set. What the editor works out fits in 16 bits; more is read well. 999 comes with
+  /// each kind of product but "Anders", which makes it 0.
   [[nodiscard]] virtual std::int32_t Looptijd() const = 0;
   virtual void SetLooptijd(std::int32_t maanden) = 0;
   /// Contract expiry date, used in place of the duration for the contract kinds; no date when not set.

@@ -27,8 +27,8 @@ enum class TraceMark : std::uint8_t {
   Error,  ///< it failed
 };
 
-/// Told what the controls did to the host, after it was done; a failed access is not told. What a
-/// listener throws goes on to the control that was at it.
+/// Told what the controls did to the host, after it was done; a failed access is not told. What a listener throws goes
+/// on to the control that was at it.
 class HostListener {
  public:
   virtual ~HostListener() = default;
