@@ -3,6 +3,7 @@
 #   namespace holds stands in rooms.dox;
 # - a comment before @{ goes for each one that follows until @}, where it stands: Doxygen would put them together at the end;
 # - a setter right below its getter shares the getter's comment;
+# - a property of Qt is as the function that reads it;
 # - what is deleted is left out, and which classes are friends; a defaulted comparison says that it goes member by member.
 function indent(line) {
   match(line, /^ */)
@@ -68,6 +69,11 @@ END {
       name = substr(line, RSTART + 8, RLENGTH - 9)
       getter = index(lines[n - 1], " " name "(") ? name : tolower(substr(name, 1, 1)) substr(name, 2)
       if (index(lines[n - 1], " " getter "(")) lines[n] = "/** \\copydoc " getter "() */" line
+    }
+    if (!comment && match(line, /Q_PROPERTY\(.* READ [A-Za-z]+/)) {
+      name = substr(line, RSTART, RLENGTH)
+      sub(/.* READ /, "", name)
+      lines[n] = "/** As " name "(). */" line
     }
     if (line ~ /= delete;$|friend class .*;$/) lines[n] = ""
     if (line ~ /friend .*operator(==|<=>)\(.*\) = default;/) lines[n] = "/** Member by member. */" line

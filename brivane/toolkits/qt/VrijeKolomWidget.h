@@ -23,7 +23,6 @@ namespace brivane::qt {
 ///     editor->Validation(cancel);  // cancel: stay on the column
 class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
-  /// As the function of this name.
   Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
 
  public:

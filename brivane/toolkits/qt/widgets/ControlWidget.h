@@ -33,7 +33,6 @@ namespace brivane::qt {
 /// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API ControlWidget : public QWidget {
   Q_OBJECT
-  /// As the function of this name.
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
 
   /// What the control runs on: it stays as long as something of it runs, the widget or no widget.
