@@ -40,4 +40,7 @@ add_custom_command(OUTPUT ${reference_dir}/html/index.html
 add_custom_target(reference ALL DEPENDS ${reference_dir}/html/index.html)
 if(BRIVANE_INSTALL)
   install(DIRECTORY ${reference_dir}/html/ DESTINATION ${CMAKE_INSTALL_DOCDIR}/reference COMPONENT documents OPTIONAL)
+  # For a reference of one's own that leads to this one (TAGFILES).
+  install(FILES ${reference_dir}/brivane-vrijekolom.tag DESTINATION ${CMAKE_INSTALL_DOCDIR}/reference
+          COMPONENT documents OPTIONAL)
 endif()
