@@ -1,6 +1,7 @@
-# How Doxygen is shown a page of docs/: a link to a page that is not in the reference goes to where that one is installed,
-# beside it. `pages` has the file names of those that are, with a blank on either side of each. A list of its headings
-# stands below its title. A picture is shown from where the pages are.
+# How Doxygen is shown a page of docs/. A link to a page that is not in the reference goes to where that one is installed,
+# beside it; `pages` has the file names of those that are, with a blank on either side of each. A picture is shown from where
+# the pages are. A list of its headings stands below the title, and a heading has the name that stands behind it as a
+# comment, for the headers to refer to.
 FNR == 2 && $0 == "" {
   print "[TOC]"
   next
@@ -20,6 +21,10 @@ FNR == 2 && $0 == "" {
     rest = substr(rest, RSTART + RLENGTH)
   }
   line = line rest
+  if (line ~ /^#+ .* <!-- [a-z]+ -->$/) {
+    sub(/<!-- /, "{#", line)
+    sub(/ -->$/, "}", line)
+  }
   sub(/\]\(images\//, "](../docs/images/", line)
   print line
 }
