@@ -80,7 +80,7 @@ class BRIVANE_API VrijeKolom {
   /// after term and scenario, and Kopregel else. Not by binding.
   host::Event<const std::string&> RefreshTopDisplay;
   /// The editor was laid out, by a binding, an edit that shows or hides a frame, or a new size: its height may have
-  /// changed.
+  /// changed. A listener must not fail: the editor is laid out no more after that.
   host::Event<> HeightChanged;
   /// The year-by-year form has been filled and is about to be shown. For tools that follow an adviser's
   /// work; the form is gone when the event that opened it ends.
