@@ -23,7 +23,8 @@ namespace brivane::qt {
 ///     editor->Validation(cancel);  // cancel: stay on the column
 class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
+  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged DESIGNABLE false STORED false)
+  Q_PROPERTY(bool beeindigenZichtbaar READ BeeindigenZichtbaar WRITE setBeeindigenZichtbaar)
 
  public:
   explicit VrijeKolomWidget(QWidget* parent = nullptr);
@@ -41,6 +42,8 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   void ValidationToelichting(bool& Cancel, std::int32_t ControleNr = 0);
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
+  /// The same by the name that a form of Qt Designer calls it by.
+  void setBeeindigenZichtbaar(bool zichtbaar) { SetBeeindigenZichtbaar(zichtbaar); }
 
   /// Whose ages the rows of the year-by-year form tell, when one is opened; nobody's until it is set.
   using Geborenen = std::vector<vrijekolom::Geborene>;
