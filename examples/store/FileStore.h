@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <sstream>
@@ -11,6 +13,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "host/MemoryHost.h"
 #include <brivane/host/Error.h>
@@ -58,6 +61,7 @@ class Store {
   Store(std::filesystem::path file, std::shared_ptr<memory_host::VrijeKolomItem> column)
       : file_(std::move(file)), column_(std::move(column)) {
     if (std::filesystem::exists(file_)) Load();
+    stored_ = Text();
   }
 
   [[nodiscard]] host::HostFactories Factories() {
@@ -65,9 +69,51 @@ class Store {
             .MaakDossierControle = [](std::string_view) { return std::make_shared<host::GeenDossierControle>(); }};
   }
 
-  void Save() const {
+  /// Writes the file where the column is not as it was stored.
+  void Save() {
+    const std::string text = Text();
+    if (text == stored_) return;
     const std::filesystem::path beside = file_.string() + ".new";
     std::ofstream out(beside);
+    out << text;
+    out.close();
+    std::error_code failed;
+    if (out) std::filesystem::rename(beside, file_, failed);
+    if (!out || failed) throw host::Error(75, "The file cannot be written: " + file_.string(), "FileStore");
+    stored_ = text;
+  }
+
+ private:
+  /// Follows the procedures of a control. Those of the editor and of its explanation call each other, so that they
+  /// share one list of what runs.
+  class Trace final : public memory_host::Trace {
+   public:
+    explicit Trace(Store& store) : store_(store) {}
+    void EnterProcedure(std::string_view procedure) override { store_.running_.emplace_back(procedure); }
+    void LeaveProcedure() override {
+      store_.running_.pop_back();
+      if (store_.running_.empty()) store_.Save();
+    }
+    void ErrorInProcedure(std::string_view procedure) override { store_.Failed(procedure); }
+
+   private:
+    Store& store_;
+  };
+
+  /// A procedure ended by a failure, and with it those that it called. What it wrote stays written. Where that cannot
+  /// be stored either, the person hears of the first failure.
+  void Failed(std::string_view procedure) {
+    const auto last = std::find(running_.rbegin(), running_.rend(), procedure);
+    if (last == running_.rend()) return;  // it was ended already: saving failed
+    running_.erase(std::prev(last.base()), running_.end());
+    try {
+      if (running_.empty()) Save();
+    } catch (const host::Error&) {
+    }
+  }
+
+  [[nodiscard]] std::string Text() const {
+    std::ostringstream out;
     EachField([&](const auto& field) {
       out << field.name;
       WriteField(out, field);
@@ -84,30 +130,8 @@ class Store {
       out << entry->eenmalig;
     }
     out << '\n';
-    out.close();
-    std::error_code failed;
-    if (out) std::filesystem::rename(beside, file_, failed);
-    if (!out || failed) throw host::Error(75, "The file cannot be written: " + file_.string(), "FileStore");
+    return out.str();
   }
-
- private:
-  /// Follows the procedures, and saves at the end of the outermost.
-  class Trace final : public memory_host::Trace {
-   public:
-    explicit Trace(const Store& store) : store_(store) {}
-    void EnterProcedure(std::string_view) override { ++depth_; }
-    void LeaveProcedure() override {
-      if (--depth_ == 0) store_.Save();
-    }
-    /// A procedure that fails does not come to its end: what it wrote stays written.
-    void ErrorInProcedure(std::string_view) override {
-      if (--depth_ == 0) store_.Save();
-    }
-
-   private:
-    const Store& store_;
-    int depth_ = 0;
-  };
 
   template <class Field> void WriteField(std::ostream& out, const Field& field) const {
     const auto one = [&](const auto& value) {
@@ -154,6 +178,8 @@ class Store {
 
   std::filesystem::path file_;
   std::shared_ptr<memory_host::VrijeKolomItem> column_;
+  std::string stored_;
+  std::vector<std::string> running_;  ///< the procedures that have begun and not ended
 };
 
 }  // namespace file_store

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QLocale>
 #include <QVBoxLayout>
 #include <QWizard>
 #include <QWizardPage>
@@ -36,9 +37,9 @@ class StoredPage : public QWizardPage {
     (new QVBoxLayout(this))->addWidget(text_);
   }
   void initializePage() override {
-    text_->setText(QStringLiteral("%1: € %L2 per maand")
-                       .arg(QString::fromStdString(column_->omschrijving))
-                       .arg(column_->bedrag->basisbedrag, 0, 'f', 2));
+    text_->setText(QStringLiteral("%1: € %2 per maand")
+                       .arg(QString::fromStdString(column_->omschrijving),
+                            QLocale(QLocale::Dutch).toString(column_->bedrag->basisbedrag, 'f', 2)));
   }
 
  private:
