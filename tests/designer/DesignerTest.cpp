@@ -2,16 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QPluginLoader>
-#include <QUiLoader>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
-#include "examples/host/SampleCase.h"
-#include <brivane/toolkits/qt/ToelichtingWidget.h>
-#include <brivane/toolkits/qt/VrijeKolomWidget.h>
+#include "tests/designer/LoadForm.h"
 
 /// The plugin as Designer and the loader of forms meet it: through the file, by Qt's own means.
 namespace brivane::test {
@@ -29,14 +25,6 @@ class Designer : public testing::Test {
     for (QDesignerCustomWidgetInterface* widget : Widgets())
       if (widget->name() == name) return widget;
     return nullptr;
-  }
-  static std::unique_ptr<QWidget> Load() {
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(PLUGINS));
-    QFile form(QStringLiteral(FORM));
-    if (!form.open(QFile::ReadOnly)) return nullptr;
-    return std::unique_ptr<QWidget>(loader.load(&form));
   }
 };
 
@@ -83,7 +71,7 @@ TEST_F(Designer, DrawsTheWidgetsAliveWithoutACase) {
 }
 
 TEST_F(Designer, LoadsAFormWithItsPropertiesAndConnections) {
-  const std::unique_ptr<QWidget> form = Load();
+  const std::unique_ptr<QWidget> form = LoadForm();
   ASSERT_NE(form, nullptr);
   auto* const editor = form->findChild<QWidget*>("editor");
   ASSERT_NE(editor, nullptr);
@@ -94,22 +82,5 @@ TEST_F(Designer, LoadsAFormWithItsPropertiesAndConnections) {
   EXPECT_EQ(header->text(), "Vereniging");
 }
 
-TEST_F(Designer, ALoadedEditorIsBoundLikeAnyOther) {
-  if (!SHARED) GTEST_SKIP() << "where the library is static, the plugin has classes of its own";
-  const std::unique_ptr<QWidget> form = Load();
-  auto* const editor = form->findChild<qt::VrijeKolomWidget*>("editor");
-  ASSERT_NE(editor, nullptr);
-  EXPECT_EQ(editor->Control(), nullptr);
-  editor->SetHostFactories(memory_host::Factories());
-  EXPECT_EQ(editor->SetApplication(memory_host::SampleCase(), 0, 1), controls::BindingResult::Bound);
-  EXPECT_EQ(form->findChild<QLabel*>("header")->text(), "Vereniging");
-}
-
 }  // namespace
 }  // namespace brivane::test
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
-  return RUN_ALL_TESTS();
-}
