@@ -60,7 +60,14 @@ brivane_package(tools vrijekolom-replay utils "plays sessions of the free column
   "Reads a document of what a person did and what the host held, plays it on the\ncontrols, and prints what they did.")
 if(BRIVANE_QT)
   brivane_package(runtime_qt libbrivane-vrijekolom-qt1 libs "controls that edit a free column, as Qt widgets"
-    "The widgets of the controls, for programs on Qt 6." "libbrivane-vrijekolom1 ${same}")
+    "The widgets of the controls, for programs on Qt 6."
+    "libbrivane-vrijekolom1 ${same}, fonts-liberation")  # as wide as Arial: without either words are cut off
+  if(BRIVANE_DESIGNER)
+    brivane_package(designer libbrivane-vrijekolom-designer libdevel "free column widgets in Qt Designer"
+      "The plugin by which Qt Designer, and what loads its forms, knows the widgets of\nlibbrivane-vrijekolom-qt1."
+      "libbrivane-vrijekolom-qt1 ${same}")
+    set(CPACK_DEBIAN_DESIGNER_PACKAGE_SUGGESTS "designer-qt6, libbrivane-vrijekolom-dev")
+  endif()
   brivane_package(host dossier misc "loan files with free columns"
     "The reference host of the free column controls: an application that keeps loan\nfiles and edits their free columns."
     "libqt6sql6-sqlite")

@@ -23,7 +23,8 @@ namespace brivane::qt {
 ///     editor->Validation(cancel);  // cancel: stay on the column
 class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
+  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged DESIGNABLE false STORED false)
+  Q_PROPERTY(bool beeindigenZichtbaar READ BeeindigenZichtbaar WRITE setBeeindigenZichtbaar)
 
  public:
   /// Stands as designed until the first binding.
@@ -43,6 +44,8 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   /// Whether the frame with the proposals is shown, for a case that works with them; before and after the factories.
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
+  /// The same by the name that a form of Qt Designer calls it by.
+  void setBeeindigenZichtbaar(bool zichtbaar) { SetBeeindigenZichtbaar(zichtbaar); }
 
   /// Whose ages the rows of the year-by-year form tell, when one is opened; nobody's until it is set.
   /// @{
