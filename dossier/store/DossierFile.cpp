@@ -275,6 +275,8 @@ std::unique_ptr<HistoryView> DossierFile::Geschiedenis() const {
   return std::make_unique<HistoryView>(*journal_->Bestand());
 }
 
+Database& DossierFile::Tabellen() const { return *journal_->Bestand(); }
+
 void DossierFile::WorkOff() noexcept { journal_->WorkOff(); }
 
 QStringList DossierFile::ControleerHeelheid() {

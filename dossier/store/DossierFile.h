@@ -52,6 +52,8 @@ class DossierFile final : public DossierStore {
   void WorkOff() noexcept override;
   /// Also where this file was moved or deleted.
   void Kopieer(const QString& pad) const override;
+  /// The open tables, for what takes them over whole; they stay as they are.
+  [[nodiscard]] Database& Tabellen() const;
   /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
   [[nodiscard]] QStringList ControleerHeelheid();
 
