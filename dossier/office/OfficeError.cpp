@@ -57,6 +57,9 @@ std::string OfficeError::Oorzaak() const {
 QString OfficeError::Melding() const {
   QString text = QString::fromStdString(Oorzaak());
   text[0] = text[0].toUpper();
+  // A server that is not reached, or lets nobody in, gives no code: its own words tell which.
+  const QString said = QString::fromUtf8(what()).section(u'\n', 0, 0).trimmed();
+  if (problem_ == OfficeProblem::Unreachable && !said.isEmpty()) text += QStringLiteral(" (%1)").arg(said);
   return text + u'.';
 }
 

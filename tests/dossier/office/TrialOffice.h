@@ -29,8 +29,10 @@ class TrialOffice {
 
   [[nodiscard]] const QString& Name() const { return database_; }
   [[nodiscard]] QString Words(const QString& account) const { return server_.Words(account, database_); }
-  [[nodiscard]] std::shared_ptr<OfficeConnection> Enter(const QString& account = "anna") const {
-    auto office = std::make_shared<OfficeConnection>(Words(account));
+  /// `by`: the folder of another socket that leads to the server.
+  [[nodiscard]] std::shared_ptr<OfficeConnection> Enter(const QString& account = "anna", const QString& by = {}) const {
+    // Of two hosts the last counts.
+    auto office = std::make_shared<OfficeConnection>(Words(account) + (by.isEmpty() ? QString() : " host=" + by));
     office->OpenOffice();
     return office;
   }
