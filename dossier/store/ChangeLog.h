@@ -32,6 +32,11 @@ class ChangeLog {
   /// The transaction was committed, or rolled back.
   void Committed();
   void RolledBack();
+  /// The tables were filled anew: nothing that was known of them counts.
+  void Forget() {
+    last_.reset();
+    RolledBack();
+  }
 
   /// Who works in the file; UTF-8.
   void SetAuthor(std::string name) { author_ = std::move(name); }

@@ -1,5 +1,7 @@
 #include "dossier/store/Database.h"
 
+#include <sqlite3.h>
+
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QUrl>
@@ -92,6 +94,11 @@ QSqlQuery Database::Prepare(const QString& sql) const {
 
 void Database::Run(QSqlQuery& query) {
   if (!query.exec()) throw DatabaseError(query.lastError());
+}
+
+void Database::PassOverTriggers() {
+  if (sqlite3_db_config(Handle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr) != SQLITE_OK)
+    throw DatabaseError(SqliteCode::CannotOpen, "The triggers cannot be passed over");
 }
 
 sqlite3* Database::Handle() const {
