@@ -28,6 +28,8 @@ grep -q '^no editor' printed
 library=$("$wine" winepath -w "$folder/$kind/BrivaneVrijeKolom.dll" | tr -d '\r')
 "$wine" regsvr32 /s "$library"
 "$wine" ./container_example.exe --quit
+said=$(sed -n '/^It prints$/,/^without the relay/s/^    //p' "$folder/examples/windows/script/README.md" | grep -v '^laid out')
+diff <(echo "$said") <(cd "$folder/examples/windows/script" && "$wine" cscript //nologo host.vbs | tr -d '\r')
 "$wine" regsvr32 /s /u "$library"
 if "$wine" ./container_example.exe --quit; then echo "still registered" && exit 1; fi
 echo "$kind: registered, used and taken away"
