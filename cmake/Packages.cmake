@@ -50,7 +50,12 @@ brivane_package(development libbrivane-vrijekolom-dev libdevel "headers and buil
   "What a program that embeds the controls is compiled with: headers, and what CMake\nand pkg-config know the libraries by."
   "libbrivane-vrijekolom1 ${same}, libbrivane-vrijekolom-qt1 ${same}, qt6-base-dev")
 brivane_package(documents libbrivane-vrijekolom-doc doc "documents of libbrivane-vrijekolom"
-  "How the controls are embedded, what they ask of a host, and why they are as they are.")
+  "How the controls are embedded, what they ask of a host, and why they are as\nthey are: pages, and a reference of the public headers.")
+if(TARGET reference)
+  configure_file(packaging/debian/doc-base.in ${PROJECT_BINARY_DIR}/about/doc-base @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/about/doc-base DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc-base
+          RENAME libbrivane-vrijekolom-doc COMPONENT documents)
+endif()
 brivane_package(tools vrijekolom-replay utils "plays sessions of the free column controls"
   "Reads a document of what a person did and what the host held, plays it on the\ncontrols, and prints what they did.")
 if(BRIVANE_QT)

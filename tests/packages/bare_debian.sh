@@ -25,6 +25,10 @@ echo "== packages"
 packages=("$work"/packages/*.deb)
 ((${#packages[@]} >= 6))
 lintian --allow-root --fail-on error "${packages[@]}"
+documents=$(dpkg-deb -c "$work"/packages/libbrivane-vrijekolom-doc_*.deb)
+for file in doc/BrivaneVrijeKolom/reference/index.html doc-base/libbrivane-vrijekolom-doc; do
+  grep -q "/usr/share/$file\$" <<<"$documents" || { echo "the documents are without $file" && exit 1; }
+done
 
 echo "== a bare Debian 12"
 bare=$work/packages-system
