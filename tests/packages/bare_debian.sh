@@ -73,7 +73,8 @@ way() {
   echo "$((SECONDS - started)) s to the editor on the screen"
   grep '^+ ' "$work/way.log"
   if [[ -n ${BRIVANE_PICTURES-} ]]; then cp "$work/way.png" "$BRIVANE_PICTURES/${1// /-}.png"; fi
-  kill "$(pgrep -P "$stranger")"
+  # The program runs in the shell, or in its place.
+  kill "$(pgrep -P "$stranger" || echo "$stranger")"
   wait "$stranger" 2>/dev/null || true
 }
 
