@@ -47,7 +47,7 @@ set(same "(= ${PROJECT_VERSION})")
 brivane_package(runtime libbrivane-vrijekolom1 libs "controls that edit a free column of a loan file"
   "The logic of the controls and a toolkit without a screen, as a shared library.")
 brivane_package(development libbrivane-vrijekolom-dev libdevel "headers and build files of libbrivane-vrijekolom"
-  "What a program that embeds the controls is compiled with: headers, and what CMake\nand pkg-config know the libraries by."
+  "What a program that embeds the controls is compiled with: headers, and what\nCMake and pkg-config know the libraries by."
   "libbrivane-vrijekolom1 ${same}, libbrivane-vrijekolom-qt1 ${same}, qt6-base-dev")
 brivane_package(documents libbrivane-vrijekolom-doc doc "documents of libbrivane-vrijekolom"
   "How the controls are embedded, what they ask of a host, and why they are as\nthey are: pages, and a reference of the public headers.")

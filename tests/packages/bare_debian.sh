@@ -61,10 +61,10 @@ commands() {
 
 # way HEADING: runs them in $bare until something is on the display. The last of them is the program.
 way() {
-  commands "$1" >"$bare/root/way.sh"
-  (($(wc -l <"$bare/root/way.sh") >= 4)) || { echo "the page has no commands below \"$1\"" && exit 1; }
-  local started=$SECONDS
-  (inside DISPLAY="$display" bash -ec "PS4='+ \$SECONDS s: '; set -x; . /root/way.sh") >"$work/way.log" 2>&1 &
+  local typed started=$SECONDS
+  typed=$(commands "$1")
+  (($(wc -l <<<"$typed") >= 4)) || { echo "the page has no commands below \"$1\"" && exit 1; }
+  (inside DISPLAY="$display" bash -ec "PS4='+ \$SECONDS s: '; set -x"$'\n'"$typed") >"$work/way.log" 2>&1 &
   local stranger=$!
   until python3 -B "$screen" "$work/display/Xvfb_screen0" "$work/way.png"; do
     kill -0 "$stranger" 2>/dev/null || { tail -n 40 "$work/way.log" && echo "the stranger's way ends here" && exit 1; }
@@ -73,7 +73,8 @@ way() {
   echo "$((SECONDS - started)) s to the editor on the screen"
   grep '^+ ' "$work/way.log"
   if [[ -n ${BRIVANE_PICTURES-} ]]; then cp "$work/way.png" "$BRIVANE_PICTURES/${1// /-}.png"; fi
-  kill "$(pgrep -P "$stranger")"
+  # The program runs in the shell, or in its place.
+  kill "$(pgrep -P "$stranger" || echo "$stranger")"
   wait "$stranger" 2>/dev/null || true
 }
 
