@@ -71,6 +71,7 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
       {"1234.567", "De punt staat niet tussen duizendtallen. Bedoelt u 1.234.567?"},
       {"12.", "De punt staat niet tussen duizendtallen. Bedoelt u 12?"},
       {".50", "De punt staat niet tussen duizendtallen. Bedoelt u 50?"},
+      {".123", "De punt staat niet tussen duizendtallen. Bedoelt u 123?"},
   };
   for (const Refused& row : kTable) EXPECT_EQ(ReadAmount(row.typed).Reason(), row.reason) << row.typed;
 }

@@ -55,7 +55,7 @@ class Reckoner {
       const Sign* const sign = SignAt(rest_);
       if (sign == nullptr || (sign->means != '+' && sign->means != '-')) return Unreadable();
       Take(*sign);
-      const Number next = Product(false);
+      Number next = Product(false);
       if (next.IsRefused()) return next;
       sum = sign->means == '+' ? *sum + *next : *sum - *next;
     }
@@ -71,7 +71,7 @@ class Reckoner {
       if (sign == nullptr || (sign->means != '*' && sign->means != '/')) break;
       Take(*sign);
       const bool minus = Negated();
-      const Number next = Operand();
+      Number next = Operand();
       if (next.IsRefused()) return next;
       if (sign->means == '/' && *next == 0) return Number::Refuse("Delen door nul kan niet.");
       const double factor = minus ? -*next : *next;
@@ -142,7 +142,7 @@ bool IsSum(std::string_view text) {
 Number ReadSum(std::string_view text, frame::Format format) {
   text = frame::Trim(text);
   if (IsWholeDate(text)) return Number::Refuse("Dit is een datum. Vul een getal in.");
-  const Number outcome = Reckoner(text).Reckon();
+  Number outcome = Reckoner(text).Reckon();
   if (outcome.IsRefused()) return outcome;
   const double meant = Meant(*outcome);
   if (!(std::abs(meant) < kTooLarge)) return Number::Refuse("De uitkomst van deze som is te groot.");

@@ -66,7 +66,7 @@ void VrijeKolomWidget::ValidationToelichting(bool& Cancel, std::int32_t Controle
 QString VrijeKolomWidget::topDisplay() {
   if (topDisplay_) return *topDisplay_;
   const QPointer<VrijeKolomWidget> alive(this);
-  const QString text = ReadTopDisplay();
+  QString text = ReadTopDisplay();
   if (alive) topDisplay_ = text;
   return text;
 }

@@ -29,13 +29,17 @@ class TestFace final : public EntryFace {
   bool readOnly = false;
   bool atHand = true;
   int calls = 0;  ///< of whatever changes it
+  std::function<void()> whenFocused;
 
   [[nodiscard]] std::string Text() const override { return text; }
   void ShowText(const std::string& shown) override { Change(text, shown); }
   void InsertText(const std::string& inserted) override { Change(text, selected ? inserted : text + inserted); }
   void SelectAll() override { Change(selected, true); }
   [[nodiscard]] bool HasFocus() const override { return focused; }
-  void TakeFocus() override { Change(focused, true); }
+  void TakeFocus() override {
+    Change(focused, true);
+    if (whenFocused) whenFocused();
+  }
   [[nodiscard]] bool ReadOnly() const override { return readOnly; }
   [[nodiscard]] bool IsAtHand() const override { return atHand; }
   void ShowReason(const std::string& why) override {

@@ -331,6 +331,54 @@ TEST_F(PendingEditTest, MayBeGoneWhenItsEntryComesBack) {
   }
 }
 
+TEST_F(PendingEditTest, MayBeGoneWhenItTakesTheFocus) {
+  TestFace outlives;
+  auto gone = std::make_unique<PendingEdit>(outlives);
+  gone->Tie(amount, toolkit);
+  outlives.whenFocused = [&] {
+    gone.reset();
+    outlives.calls = 0;
+  };
+  outlives.text = "12.50";
+  gone->Typed();
+  EXPECT_FALSE(gone->Commit());
+  EXPECT_EQ(outlives.calls, 0);
+}
+
+TEST_F(PendingEditTest, SaysAgainWhatItMakesOfTheTypingWhereThatWasTakenAway) {
+  const TextBox& date = Box("txtDatum");
+  TestFace& shown = Face(date);
+  TypeOver(date, "1-4-2031");
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+  const int calls = shown.calls;
+  Edit(date).Typed();
+  EXPECT_EQ(shown.calls, calls) << "said already";
+  TypeOver(date, "");
+  EXPECT_EQ(shown.note, "");
+  TypeOver(date, "1-4-2031");
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+  shown.note.clear();
+  Edit(date).Shown();
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+}
+
+TEST_F(PendingEditTest, IsPendingFromTheFirstDecimalSignOfTheKeypad) {
+  EXPECT_TRUE(edit.TypeDecimalSign());
+  EXPECT_TRUE(edit.IsPending());
+  edit.Paste("5");
+  EXPECT_EQ(face.text, "0,00,5");
+  EXPECT_FALSE(edit.CommitAndSelect());
+  EXPECT_EQ(face.reason, "Vul een bedrag in, bijvoorbeeld 1.234,56.");
+  EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(PendingEditTest, ThatIsRefusedInSightIsNotAskedAboutWhenTheHostLeaves) {
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.HandOver());
+  EXPECT_THAT(toolkit.asked, IsEmpty());
+  EXPECT_TRUE(edit.IsPending());
+}
+
 TEST_F(PendingEditTest, MovesToAnotherBoxWithWhatThatHolds) {
   Box("txtDatum").SetDate(frame::MakeDate({2024, 1, 31}));
   TypeOver(amount, "5");

@@ -41,6 +41,7 @@ class AccessibleCell final : public QAccessibleInterface,
   [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   [[nodiscard]] QWindow* window() const override { return canvas_.window()->windowHandle(); }
 
+  using AccessibleText::text;
   [[nodiscard]] QString text(QAccessible::Text which) const override {
     const Kind kind = cell_.Control().ControlKind();
     if (which == QAccessible::Name) return kind == Kind::Label ? cell_.Text() : Name(kind);
