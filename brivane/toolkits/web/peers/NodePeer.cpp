@@ -75,7 +75,8 @@ void NodePeer::Refresh(Aspect aspect) {
     case Aspect::Visible: return Page().Show(node_, aspect, state.Visible() ? 1 : 0);
     case Aspect::Place: return Page().Place(node_, state.Place());
     case Aspect::FontSize:
-      return Page().Show(node_, aspect, double{state.Read(host::Measure::FontSize).value_or(0)});
+      if (const auto points = state.Read(host::Measure::FontSize)) Page().Show(node_, aspect, double{*points});
+      return;
     case Aspect::BackColor:
       if (const auto color = state.BackColor()) Page().Show(node_, aspect, color->value);
       return;

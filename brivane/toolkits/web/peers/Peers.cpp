@@ -1,3 +1,5 @@
+#include <optional>
+
 #include <brivane/controls/Surface.h>
 #include <brivane/toolkits/web/peers/BoxPeer.h>
 #include <brivane/toolkits/web/peers/ChoicePeers.h>
@@ -42,9 +44,9 @@ std::unique_ptr<NodePeer> MakeNodePeer(controls::AnyControl& control, Toolkit& t
   std::unique_ptr<NodePeer> peer = Make(control, toolkit);
   const host::Control& state = control.Host();
   peer->Refresh(Aspect::Place);
-  const controls::Surface* const owner = control.Owner();
-  if (owner == nullptr || state.Read(host::Measure::FontSize).value_or(0) != owner->Table().fontSize)
-    peer->Refresh(Aspect::FontSize);
+  // What stands on a surface takes over its font.
+  const std::optional<float> fontSize = state.Read(host::Measure::FontSize);
+  if (fontSize && *fontSize != control.Owner()->Table().fontSize) peer->Refresh(Aspect::FontSize);
   if (IsRenamed(control)) peer->Refresh(Aspect::Caption);
   if (!state.Enabled()) peer->Refresh(Aspect::Enabled);
   if (!state.Visible()) peer->Refresh(Aspect::Visible);
