@@ -32,6 +32,8 @@ Element::Element(int page, Kind kind) : page_(page), kind_(kind), body_(std::mak
   body_->surface =
       body_->toolkit.MakeSurface(kind == Kind::VrijeKolom ? EditorDesign() : ToelichtingDesign());
   body_->binding.emplace(*body_->surface);
+  // As designed the frames of the editor lie on each other: it is laid out when it is bound.
+  Surface().SetVeiled(true);
 }
 
 Element::~Element() {
@@ -100,7 +102,8 @@ bool Element::Validation(Checked what, bool cancel, std::int32_t ControleNr) {
   const std::shared_ptr<Body> body = body_;
   if (!cancel && !CommitPending()) cancel = true;
   body->toolkit.Life()->Check();
-  if (body->binding->IsVoid() || body->part == nullptr) return cancel;
+  const bool stands = !body->binding->IsVoid() || actsBehindTheVeil;
+  if (!stands || body->part == nullptr) return cancel;
   if (what == Checked::All)
     body->part->Validation(cancel, ControleNr);
   else if (brivane::VrijeKolom* const editor = body->part->Editor())

@@ -49,6 +49,9 @@ class Element {
   /// Nothing before it was made.
   [[nodiscard]] webelement::Part* Part() { return body_->part.get(); }
 
+  /// It takes input and is checked although it stands for nothing, as its tests want it.
+  bool actsBehindTheVeil = false;
+
   /// The element that a page knows by a number; nothing where it is gone.
   [[nodiscard]] static Element* Find(int page);
 

@@ -128,7 +128,10 @@ EMSCRIPTEN_KEEPALIVE void brivane_new(int page, int kind) {
 }
 
 /// At any moment.
-EMSCRIPTEN_KEEPALIVE void brivane_end(int page) { elements_.erase(page); }
+EMSCRIPTEN_KEEPALIVE void brivane_end(int page) {
+  const web::CalledBack calledBack;
+  elements_.erase(page);
+}
 
 /// `first` and `second` are objects that the script has kept for this side; 0 for none.
 EMSCRIPTEN_KEEPALIVE void brivane_run(int number, int page, int job, int node, double value, double more,
@@ -143,6 +146,7 @@ EMSCRIPTEN_KEEPALIVE void brivane_run(int number, int page, int job, int node, d
 EMSCRIPTEN_KEEPALIVE void brivane_go_on() { web::GoOn(); }
 
 EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
+  const web::CalledBack calledBack;
   if (Element* const element = Element::Find(page))
     element->Toolkit().Desktop().Answered(box, static_cast<host::MessageAnswer>(answer));
 }

@@ -19,7 +19,7 @@ void GoOn();
 /// Whether what is running may wait: it is in a turn, and the page does not stand between.
 [[nodiscard]] bool CanWait();
 
-/// While it stands, the page has called into the controls from inside a call of theirs: nothing may wait.
+/// While it stands, the page may have called into the controls from inside a call of theirs: nothing may wait.
 class CalledBack {
  public:
   CalledBack();
