@@ -90,12 +90,11 @@ void Call(const Object& object, const char* name, std::initializer_list<Value> a
   (void)Ask(object, Way::Call, name, arguments);
 }
 
-Value Element(const Object& object, int index) {
-  return Ask(object, Way::Element, "", {Value(std::int32_t{index})});
-}
+Value Element(const Object& object, int index) { return Ask(object, Way::Element, "", {Value(std::int32_t{index})}); }
 
 Object Make(int page, const char* what, const std::string& control) {
-  const Wire wire = ToWire(Value(control));
+  const Value given(control);
+  const Wire wire = ToWire(given);
   return As<Object>(Ask(page, 0, Way::Make, what, &wire, 1));
 }
 

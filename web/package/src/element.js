@@ -105,7 +105,6 @@ class ControlElement extends HTMLElement {
     });
     newView(view, this._kind);
     this.#view = view;
-    runJob(view, Job.size);
     return view;
   }
 
