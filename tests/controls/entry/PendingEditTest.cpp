@@ -366,10 +366,26 @@ TEST_F(PendingEditTest, IsPendingFromTheFirstDecimalSignOfTheKeypad) {
   EXPECT_TRUE(edit.TypeDecimalSign());
   EXPECT_TRUE(edit.IsPending());
   edit.Paste("5");
-  EXPECT_EQ(face.text, "0,00,5");
-  EXPECT_FALSE(edit.CommitAndSelect());
-  EXPECT_EQ(face.reason, "Vul een bedrag in, bijvoorbeeld 1.234,56.");
+  EXPECT_EQ(face.text, ",5");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 0,50"));
+}
+
+TEST_F(PendingEditTest, OfAControlThatTheHostLetGoIsInNobodysWay) {
+  TypeOver(amount, "12.50");
+  const std::shared_ptr<controls::Life> life = toolkit.Life();
+  life->End(nullptr);
+  EXPECT_TRUE(edit.Commit());
   EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(face.reason, "");
+  EXPECT_EQ(face.text, "12.50");
+}
+
+TEST_F(PendingEditTest, ThatEnterFindsRefusedSelectsNothingElse) {
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.CommitAndSelect());
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_TRUE(edit.IsPending());
 }
 
 TEST_F(PendingEditTest, ThatIsRefusedInSightIsNotAskedAboutWhenTheHostLeaves) {
