@@ -1,11 +1,22 @@
 // How the controls look. Lengths of the design are twips, of which a text of the page's size has as many as the design's
 // font of 9 points; colours are those of the page's scheme.
 
+/** The length that all others are made of. */
+export const TWIP = '--vrije-kolom-twip';
+/** As many are as long as the text around the element is high: the design's font of 9 points. */
+export const TWIPS_AN_EM = 180;
+
 let made = null;
 
 /** The style of every element, made once. */
 export function sheet() {
   if (made === null) {
+    // A length of the element's own text, whatever the text around what it is used for.
+    try {
+      CSS.registerProperty({ name: TWIP, syntax: '<length>', inherits: true, initialValue: '1px' });
+    } catch {
+      // Another copy of this module on the page was first.
+    }
     made = new CSSStyleSheet();
     made.replaceSync(CSS_TEXT);
   }
@@ -28,7 +39,7 @@ const CSS_TEXT = `
   --field: var(--vrije-kolom-field, light-dark(#fff, #1f2329));
   --face: var(--vrije-kolom-face, light-dark(#f1f3f5, #343a42));
   --faint: light-dark(#5c6168, #a4abb4);
-  --twip: calc(1em / 180);
+  ${TWIP}: calc(1em / ${TWIPS_AN_EM});
 }
 :host([hidden]), [hidden] { display: none !important; }
 *, *::before { box-sizing: border-box; }
@@ -91,17 +102,12 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   width: 100%; height: 100%; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
   font-weight: bold; line-height: 1;
 }
-.tip {
-  position: absolute; left: 0; top: calc(100% + 3px); z-index: 20; width: max-content; max-width: 24em; padding: .4em .6em;
-  visibility: hidden; white-space: normal;
-}
+.spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 .tip, .bubble {
   border: 1px solid var(--line); border-radius: 3px; background: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);
+  position: fixed; inset: auto; margin: 0; width: max-content; max-width: min(26em, 92vw); padding: .3em .5em; pointer-events: none;
 }
-.hint:hover .tip, .help:focus-visible + .tip { visibility: visible; }
-.hint:hover, .hint:focus-within { z-index: 20; }
-.bubble { position: absolute; z-index: 30; width: max-content; max-width: min(26em, 90vw); padding: .3em .5em; }
 
 .listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
 table { border-collapse: collapse; table-layout: fixed; width: max-content; }
