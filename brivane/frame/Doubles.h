@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 /// Doubles as text for machines: plain digits with a point, whatever the locale of the process.
@@ -11,5 +12,11 @@ namespace brivane::frame {
 
 /// The same for a standard library that reads doubles through streams alone.
 [[nodiscard]] double NearestDoubleByStream(std::string_view digits);
+
+/// The fewest digits that read back to the same number, without an exponent: "1234.5", "1000". The number is finite and
+/// not negative.
+[[nodiscard]] std::string ShortestDigits(double number);
+/// The same for a standard library that writes doubles in the manner of C alone.
+[[nodiscard]] std::string ShortestDigitsByTrial(double number);
 
 }  // namespace brivane::frame

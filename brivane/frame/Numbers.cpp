@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -145,9 +144,7 @@ Reading<double> Read(std::string_view text, const Style& style) {
 /// Decimal digits of a number rounded to so many decimals, halves away from zero as they read in the
 /// shortest text of the number; empty where the number is not finite.
 std::string Rounded(double number, std::size_t decimals) {
-  char buffer[400];
-  const auto shortest = std::to_chars(buffer, buffer + sizeof buffer, std::abs(number), std::chars_format::fixed);
-  std::string text(buffer, shortest.ptr);
+  std::string text = ShortestDigits(std::abs(number));
   std::size_t point = text.find('.');
   if (point == std::string::npos) {
     point = text.size();

@@ -199,7 +199,7 @@ TEST(Design, ARowWithoutMoreIsABorderedFrameWithoutAPlace) {
   row.embedded = &kEmbedded;
   EXPECT_TRUE(row.embedded.Given());
 
-  Design design{.name = "Proef"};
+  Design design{.name = "Proef", .rows = {}};
   EXPECT_EQ(design.width, 0);
   EXPECT_EQ(design.height, 0);
   EXPECT_EQ(design.fontName, "Arial");

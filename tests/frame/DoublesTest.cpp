@@ -9,6 +9,7 @@
 #include <locale>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <brivane/frame/Doubles.h>
@@ -106,6 +107,28 @@ TEST(NearestDouble, KnowsNoLocale) {
   EXPECT_EQ(NearestDouble("1234.5"), 1234.5);
   EXPECT_EQ(NearestDoubleByStream("1234.5"), 1234.5);
   std::locale::global(before);
+}
+
+TEST(ShortestDigits, ReadBackAndAreTheSameByTrial) {
+  const std::pair<double, const char*> rows[] = {{0, "0"},
+                                                 {1, "1"},
+                                                 {0.1, "0.1"},
+                                                 {1234.5, "1234.5"},
+                                                 {1000, "1000"},
+                                                 {0.00012, "0.00012"},
+                                                 {2.675, "2.675"},
+                                                 {9007199254740991.0, "9007199254740991"},
+                                                 {18014398509481984.0, "18014398509481984"}};
+  for (const auto& [number, digits] : rows) {
+    EXPECT_EQ(ShortestDigits(number), digits);
+    EXPECT_EQ(ShortestDigitsByTrial(number), digits);
+  }
+  std::mt19937_64 random(54);
+  for (int i = 0; i < 4000; ++i) {
+    const double number =
+        static_cast<double>(random() % 100'000'000'000'000) / static_cast<double>(1 + random() % 1000);
+    ASSERT_EQ(ShortestDigitsByTrial(number), ShortestDigits(number));
+  }
 }
 
 }  // namespace

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <brivane/controls/TextBox.h>
+#include <brivane/controls/entry/PendingEdit.h>
+#include <brivane/toolkits/web/peers/NodePeer.h>
+
+namespace brivane::web {
+
+/// Shows a text box by an `input`. What is typed there is a controls::PendingEdit.
+class BoxPeer final : public NodePeer, private controls::EntryFace {
+ public:
+  BoxPeer(controls::TextBox& box, web::Toolkit& toolkit);
+
+  void Refresh(controls::Aspect aspect) override;
+  void TakeFocus() override;
+  bool OnKey(const Key& key) override;
+  void OnTyped(const std::string& text) override;
+  void OnPasted(const std::string& text) override { edit_.Paste(text); }
+  void OnLeft() override;
+  /// A day of a calendar, counted from 30 December 1899.
+  void OnPicked(int days) override;
+  [[nodiscard]] bool HandOver() override;
+
+ private:
+  [[nodiscard]] std::string Text() const override { return text_; }
+  void ShowText(const std::string& text) override;
+  void InsertText(const std::string& text) override;
+  void SelectAll() override { Page().Show(Node(), Shows::Selected); }
+  [[nodiscard]] bool HasFocus() const override { return Page().Ask(Node(), Asked::HasFocus); }
+  void TakeFocus(int) { NodePeer::TakeFocus(); }
+  [[nodiscard]] bool ReadOnly() const override { return box_.Locked(); }
+  [[nodiscard]] bool IsAtHand() const override { return Page().Ask(Node(), Asked::IsAtHand); }
+  void ShowReason(const std::string& reason) override { Page().Show(Node(), Shows::Reason, 0, reason); }
+  void ShowNote(const std::string& note) override { Page().Show(Node(), Shows::Note, 0, note); }
+  void HideReason() override { Page().Show(Node(), Shows::Nothing); }
+
+  controls::TextBox& box_;
+  std::string text_;  ///< what stands in the input
+  controls::PendingEdit edit_{*this};
+};
+
+}  // namespace brivane::web

@@ -1,0 +1,180 @@
+// What the script calls. All that may run something of the host's goes through brivane_run, in a turn of its own; the
+// script sees to it that none is called while another one stands on the stack.
+
+#include <emscripten.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "web/element/Element.h"
+#include <brivane/frame/ErrorReport.h>
+#include <brivane/toolkits/web/Turns.h>
+#include <brivane/toolkits/web/peers/FormDialog.h>
+#include <brivane/toolkits/web/peers/NodePeer.h>
+
+// clang-format off
+EM_JS(void, brivane_done, (int job, double result), { Module["element"]["done"](job, result); })
+EM_JS(void, brivane_failed, (int job, int number, const char* description, const char* source), {
+  Module["element"]["failed"](job, number, UTF8ToString(description), UTF8ToString(source));
+})
+// clang-format on
+
+namespace brivane::webelement {
+
+namespace {
+
+/// The numbers stand in jobs.js too.
+enum class Job {
+  Make,
+  Bind,
+  Unbind,
+  Validation,
+  ValidationToelichting,
+  CommitPending,
+  BackColor,
+  BeeindigenZichtbaar,
+  Size,
+  Key,
+  Typed,
+  Pasted,
+  Left,
+  Picked,
+  Letter,
+  Close,
+};
+
+struct Order {
+  Job job;
+  int node = 0;
+  double number = 0;
+  double more = 0;
+  std::string text;
+  webhost::Object first;
+  webhost::Object second;
+};
+
+std::map<int, std::unique_ptr<Element>> elements_;
+
+enum Modifiers { kShift = 1, kControl = 2, kAlt = 4, kKeypad = 8 };
+
+web::Key KeyOf(const Order& order) {
+  const auto with = static_cast<unsigned>(order.number);
+  return {order.text, (with & kShift) != 0, (with & kControl) != 0, (with & kAlt) != 0, (with & kKeypad) != 0};
+}
+
+/// What a person does to one element of the page.
+double Act(Element& element, const Order& order) {
+  web::NodePeer* const peer = element.Toolkit().Find(order.node);
+  web::FormDialog* const form = element.Toolkit().FindForm(order.node);
+  if (order.job == Job::Letter)
+    return element.Toolkit().GoByLetter(form != nullptr ? form->Form() : element.Surface(), order.text.front()) ? 1 : 0;
+  if (order.job == Job::Close && form != nullptr) form->Close();
+  if (peer == nullptr) return 0;
+  switch (order.job) {
+    case Job::Key: return peer->OnKey(KeyOf(order)) ? 1 : 0;
+    case Job::Typed: peer->OnTyped(order.text); return 1;
+    case Job::Pasted: peer->OnPasted(order.text); return 1;
+    case Job::Left: peer->OnLeft(); return 1;
+    case Job::Picked: peer->OnPicked(static_cast<int>(order.number)); return 1;
+    default: return 0;
+  }
+}
+
+double Do(Element& element, const Order& order) {
+  const auto whole = [](double number) { return static_cast<std::int32_t>(number); };
+  switch (order.job) {
+    case Job::Make: element.Make(); return 0;
+    case Job::Bind:
+      return static_cast<double>(element.Bind(
+          {order.first, order.second, static_cast<std::int16_t>(order.number), static_cast<std::int16_t>(order.more)}));
+    case Job::Unbind: element.Unbind(); return 0;
+    case Job::Validation:
+      return element.Validation(Element::Checked::All, order.more != 0, whole(order.number)) ? 1 : 0;
+    case Job::ValidationToelichting:
+      return element.Validation(Element::Checked::Toelichting, order.more != 0, whole(order.number)) ? 1 : 0;
+    case Job::CommitPending: return element.CommitPending() ? 1 : 0;
+    case Job::BackColor: element.SetBackColor({whole(order.number)}); return 0;
+    case Job::BeeindigenZichtbaar: element.SetBeeindigenZichtbaar(order.number != 0); return 0;
+    case Job::Size: element.Size({static_cast<float>(order.number)}, {static_cast<float>(order.more)}); return 0;
+    default: break;
+  }
+  double done = 0;
+  element.Toolkit().Guard([&] { done = Act(element, order); });
+  return done;
+}
+
+void RunJob(int number, int page, const Order& order) {
+  // Of what was abandoned: a binding failed, a check has nothing against leaving.
+  double result = order.job == Job::Bind ? static_cast<double>(controls::BindingResult::Failed) : 0;
+  try {
+    if (Element* const element = Element::Find(page))
+      controls::Life::Run(element->Toolkit().Life(), [&] { result = Do(*element, order); });
+    brivane_done(number, result);
+  } catch (...) {
+    const host::Error failure = frame::CurrentError();
+    brivane_failed(number, failure.Number(), failure.Description().c_str(), failure.Source().c_str());
+  }
+}
+
+}  // namespace
+
+extern "C" {
+
+EMSCRIPTEN_KEEPALIVE void brivane_new(int page, int kind) {
+  elements_[page] = std::make_unique<Element>(page, static_cast<Kind>(kind));
+}
+
+/// At any moment.
+EMSCRIPTEN_KEEPALIVE void brivane_end(int page) {
+  const web::CalledBack calledBack;
+  elements_.erase(page);
+}
+
+/// `first` and `second` are objects that the script has kept for this side; 0 for none.
+EMSCRIPTEN_KEEPALIVE void brivane_run(int number, int page, int job, int node, double value, double more,
+                                      const char* text, int first, int second) {
+  const auto object = [page](int kept) {
+    return kept != 0 ? std::make_shared<const webhost::Kept>(page, kept) : nullptr;
+  };
+  web::RunTurn(
+      [number, page, order = Order{static_cast<Job>(job), node, value, more, text, object(first), object(second)}] {
+        RunJob(number, page, order);
+      });
+}
+
+/// Goes on with what was waiting for an answer that came.
+EMSCRIPTEN_KEEPALIVE void brivane_go_on() { web::GoOn(); }
+
+EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
+  const web::CalledBack calledBack;
+  if (Element* const element = Element::Find(page))
+    element->Toolkit().Desktop().Answered(box, static_cast<host::MessageAnswer>(answer));
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+  using Press = controls::KeysUnderWay::Press;
+  Element* const element = Element::Find(page);
+  return element != nullptr && element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First)
+             ? 1
+             : 0;
+}
+
+EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
+  if (Element* const element = Element::Find(page)) element->Toolkit().Desktop().CameBack(waiting);
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {
+  Element* const element = Element::Find(page);
+  return element != nullptr && element->Part() != nullptr ? element->Part()->BackColor().value
+                                                          : host::kButtonFace.value;
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_state(int page) {
+  Element* const element = Element::Find(page);
+  return element != nullptr ? static_cast<int>(element->State()) : 0;
+}
+
+}  // extern "C"
+
+}  // namespace brivane::webelement

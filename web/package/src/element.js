@@ -1,0 +1,189 @@
+import { HostError } from './errors.js';
+import { Job } from './jobs.js';
+import { backColorOf, dropView, isLoaded, load, newView, runJob, stateOf } from './machine.js';
+import { sheet, TWIPS_AN_EM } from './style.js';
+import { DossierControle, ProcedureTrace } from './trace.js';
+import { View } from './view.js';
+
+const STATES = ['never', 'bound', 'failed', 'unbound'];
+const RESULTS = ['bound', 'failed', 'refused'];
+const EVENTS = ['refreshtopdisplay', 'heightchanged', 'changed'];
+const TYPE_MISMATCH = 13;
+/** Of the explanation control, in twips. */
+const DESIGN_WIDTH = 6030;
+
+function whole(value) {
+  if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+  return value;
+}
+
+/**
+ * What the two elements have in common. An element lives from when it is used first until it is taken out of its page;
+ * put back, it is made anew and bound as it was.
+ */
+class ControlElement extends HTMLElement {
+  #view = null;
+  #bound = null;
+  #factories = {};
+  #backColor = null;
+
+  constructor() {
+    super();
+    this.attachShadow({ mode: 'open' }).adoptedStyleSheets = [sheet()];
+  }
+
+  connectedCallback() {
+    if (this.#view !== null) this.#view.moved();
+    else this.#use(() => this.isConnected && this.#made() && this.#again());
+  }
+
+  disconnectedCallback() {
+    // An element that is moved is taken out as well, and is in its page again when this runs.
+    queueMicrotask(() => {
+      if (!this.isConnected) this.#end();
+    });
+  }
+
+  /** What the host makes where a control needs an object of its classes, told the name of the control. */
+  get hostFactories() {
+    return this.#factories;
+  }
+  set hostFactories(factories) {
+    this.#factories = factories ?? {};
+  }
+
+  get state() {
+    return STATES[this.#view === null ? 0 : stateOf(this.#view)];
+  }
+
+  get backColor() {
+    return this.#view === null ? (this.#backColor ?? -2147483633) : backColorOf(this.#view);
+  }
+  set backColor(color) {
+    if (!Number.isInteger(color)) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+    this.#backColor = color;
+    this.#use(() => this.#job(Job.backColor, { number: color | 0 }));
+  }
+
+  async validation(controleNr = 0, cancel = false) {
+    const number = whole(controleNr);
+    return (await this.#use(() => this.#job(Job.validation, { number, more: cancel ? 1 : 0 }))) !== 0;
+  }
+  async commitPending() {
+    return (await this.#use(() => this.#job(Job.commitPending))) !== 0;
+  }
+  async unbind() {
+    this.#bound = null;
+    if (this.#view !== null) await this.#job(Job.unbind);
+  }
+
+  /** Binds to objects of the host, now where the machine has been started. */
+  async _bind(binding) {
+    this.#bound = binding.first == null ? null : binding;
+    return RESULTS[await this.#use(() => this.#job(Job.bind, binding))];
+  }
+  async _job(job, order) {
+    return this.#use(() => this.#job(job, order));
+  }
+
+  /** For tests, which reach further than a host. */
+  get _view() {
+    return this.#made();
+  }
+
+  #use(work) {
+    return isLoaded() ? work() : load().then(work);
+  }
+
+  #job(job, order) {
+    return runJob(this.#made(), job, order).result;
+  }
+
+  #made() {
+    if (this.#view !== null) return this.#view;
+    const view = new View(this.shadowRoot, {
+      makeForHost: (what, control) => this.#make(what, control),
+      tell: (what, text) => this.#tell(what, text),
+    });
+    newView(view, this._kind);
+    this.#view = view;
+    return view;
+  }
+
+  /** An element that is put back in a page is as it was. */
+  #again() {
+    if (this.#backColor !== null) this.#job(Job.backColor, { number: this.#backColor | 0 });
+    this._again();
+    if (this.#bound !== null && this.state === 'never') this.#job(Job.bind, this.#bound);
+  }
+  _again() {}
+
+  #end() {
+    if (this.#view === null) return;
+    const view = this.#view;
+    this.#view = null;
+    dropView(view);
+    view.stopListening();
+    this.shadowRoot.replaceChildren();
+  }
+
+  #make(what, control) {
+    if (what === 'ProcedureTrace') return this.#factories.procedureTrace?.(control) ?? new ProcedureTrace();
+    return this.#factories.dossierControle?.(control) ?? new DossierControle();
+  }
+
+  #tell(what, text) {
+    const detail = what === 0 ? { text } : undefined;
+    this.dispatchEvent(new CustomEvent(EVENTS[what], { detail, bubbles: true, composed: true }));
+  }
+}
+
+/** The editor of a free column. */
+export class VrijeKolomElement extends ControlElement {
+  #beeindigenZichtbaar = false;
+
+  get _kind() {
+    return 0;
+  }
+
+  /** Binds the editor to a column of a loan (0: the loan of the current situation) and fills it. */
+  async setApplication(application, lenId, vrijId) {
+    return this._bind({ first: application, number: whole(lenId), more: whole(vrijId) });
+  }
+  /** The check of the explanation control inside the editor. */
+  async validationToelichting(controleNr = 0, cancel = false) {
+    const order = { number: whole(controleNr), more: cancel ? 1 : 0 };
+    return (await this._job(Job.validationToelichting, order)) !== 0;
+  }
+
+  get beeindigenZichtbaar() {
+    return this.#beeindigenZichtbaar;
+  }
+  set beeindigenZichtbaar(zichtbaar) {
+    this.#beeindigenZichtbaar = Boolean(zichtbaar);
+    this._job(Job.beeindigenZichtbaar, { number: zichtbaar ? 1 : 0 });
+  }
+  _again() {
+    if (this.#beeindigenZichtbaar) this._job(Job.beeindigenZichtbaar, { number: 1 });
+  }
+}
+
+/** The explanation control by itself. It is as wide as its place, and no narrower than its design. */
+export class ToelichtingElement extends ControlElement {
+  #sizes = new ResizeObserver(([entry]) => {
+    const width = Math.round(entry.contentRect.width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM));
+    if (this.state === 'bound') this._job(Job.size, { number: Math.max(DESIGN_WIDTH, width) });
+  });
+
+  constructor() {
+    super();
+    this.#sizes.observe(this);
+  }
+  get _kind() {
+    return 1;
+  }
+
+  async setApplication(application, lening, vrijId) {
+    return this._bind({ first: application, second: lening, number: 0, more: whole(vrijId) });
+  }
+}

@@ -1,0 +1,167 @@
+// What a person does in a view, handed to the machine. What keys mean is the machine's to say; here stands which of them
+// it is asked about, and what the browser would do by itself.
+
+import { Job } from './jobs.js';
+import { isAtWork, runJob } from './machine.js';
+
+const Modifier = Object.freeze({ shift: 1, control: 2, alt: 4, keypad: 8 });
+/** Keys that never type a character and always may mean something. */
+const ASKED = new Set(['Escape', 'Enter', 'Tab', 'ArrowUp', 'ArrowDown', 'ArrowLeft', 'ArrowRight', 'PageUp', 'PageDown',
+  'Home', 'End', '+', '-', '.', ',']);
+
+const modifiersOf = (event) =>
+  (event.shiftKey ? Modifier.shift : 0) | (event.ctrlKey || event.metaKey ? Modifier.control : 0) |
+  (event.altKey ? Modifier.alt : 0) | (event.location === KeyboardEvent.DOM_KEY_LOCATION_NUMPAD ? Modifier.keypad : 0);
+
+const isLetter = (event) => event.key.length === 1;
+const isList = (node) => node.input?.localName === 'select';
+const isBox = (node) => node.input?.localName === 'input' && node.input.type === 'text';
+const isToggle = (node) => node.input?.getAttribute('role') === 'switch';
+
+/** Whether the list of a `select` is open, as far as the browser tells. */
+function isOpen(select) {
+  try {
+    return select.matches(':open');
+  } catch {
+    return false;
+  }
+}
+
+function nodeOf(event) {
+  for (let at = event.target; at instanceof Element; at = at.parentElement) if (at.node !== undefined) return at.node;
+  return null;
+}
+
+export function listen(view) {
+  const run = (job, node, order = {}) => runJob(view, job, { node: node?.id ?? 0, ...order });
+  const stop = (event) => {
+    event.preventDefault();
+    event.stopPropagation();
+  };
+
+  function keyDown(event) {
+    if (event.isComposing || event.defaultPrevented) return;
+    const node = nodeOf(event);
+    if (node === null) return;
+    if (event.altKey && isLetter(event) && !event.ctrlKey) return letter(event);
+    if (isBox(node) && (event.key === 'F4' || (event.altKey && event.key === 'ArrowDown')) && node.openCalendar?.()) return stop(event);
+    if (isList(node) && isOpen(node.input)) return;
+    if (isList(node) && event.altKey) return;
+    const asked = isList(node) || isToggle(node) ? ASKED.has(event.key) || isLetter(event) : ASKED.has(event.key);
+    if (asked && key(event, node)) return;
+    if (event.key === 'Escape') escape(event);
+  }
+
+  /** Whether the machine took the key, or is busy with it. */
+  function key(event, node) {
+    const job = run(Job.key, node, { number: modifiersOf(event), text: event.key });
+    if (job.done && job.answer === 0) return false;
+    stop(event);
+    // Somebody is asked first; then Tab goes where it would have gone.
+    if (!job.done && event.key === 'Tab')
+      job.result.then((stays) => stays === 0 && view.root.activeElement === node.input && step(node.input, event.shiftKey));
+    return true;
+  }
+
+  function step(from, back) {
+    const stops = [...(view.dialog ?? view.root).querySelectorAll('input, select, button, [tabindex="0"]')].filter(
+      (stop) => stop.tabIndex >= 0 && !stop.matches(':disabled') && stop.getClientRects().length > 0);
+    stops[stops.indexOf(from) + (back ? -1 : 1)]?.focus();
+  }
+
+  function letter(event) {
+    const form = view.dialog?.node?.id ?? 0;
+    const job = runJob(view, Job.letter, { node: form, text: event.key });
+    if (!job.done || job.answer !== 0) stop(event);
+  }
+
+  /** Shows what a help icon has to say: to a pointer over it, and to who goes to it by keys or presses it. */
+  function help(event) {
+    const node = nodeOf(event);
+    if (node?.isHint && (event.type !== 'focusin' || node.input.matches(':focus-visible'))) view.tip.show(node);
+  }
+  function helpNoMore(event) {
+    if (nodeOf(event)?.outer === view.tip.anchor) view.tip.take();
+  }
+
+  function escape(event) {
+    if (view.tip.anchor !== null) return stop(event), view.tip.take();
+    if (view.dialog === null) return;
+    stop(event);
+    if (view.dialog.node !== undefined) run(Job.close, view.dialog.node);
+  }
+
+  function input(event) {
+    const node = nodeOf(event);
+    if (node !== null && isBox(node) && event.target === node.input) run(Job.typed, node, { text: node.input.value });
+  }
+
+  function paste(event) {
+    const node = nodeOf(event);
+    if (node === null || !isBox(node)) return;
+    stop(event);
+    run(Job.pasted, node, { text: event.clipboardData.getData('text/plain') });
+  }
+
+  /** Where the window loses the focus, or a dialog of the machine takes it, nothing has been left. */
+  function focusOut(event) {
+    helpNoMore(event);
+    const node = nodeOf(event);
+    if (node === null || isAtWork() || view.root.activeElement === event.target || !document.hasFocus()) return;
+    if (isBox(node) || isList(node)) run(Job.left, node);
+  }
+
+  /** A press elsewhere in the view hands over first: what is refused keeps the focus, and the press is dropped. */
+  function mouseDown(event) {
+    const from = view.root.activeElement?.node;
+    if (from === undefined || !isBox(from) || from === nodeOf(event)) return;
+    if (!(event.target instanceof Element) || event.target.closest('input, select, button, label, [tabindex]') === null) return;
+    const job = run(Job.key, from, { text: 'Tab' });
+    if (job.done && job.answer === 0) return;
+    stop(event);
+    const dropped = (click) => stop(click);
+    view.root.addEventListener('click', dropped, { capture: true, once: true });
+    addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
+  }
+
+  function click(event) {
+    const node = nodeOf(event);
+    if (node === null) return;
+    help(event);
+    if (event.target === node.closeButton) run(Job.close, node);
+    else if (event.target.closest?.('.calendar')) node.input.focus(), node.openCalendar();
+    else if (isToggle(node)) toggle(event, node);
+    else if (node.input?.localName === 'button' && node.input.classList.contains('button')) run(Job.picked, node, { number: 1 });
+  }
+
+  /** The half that was pressed; without a pointer the other answer. */
+  function toggle(event, node) {
+    const half = event.target.closest('span');
+    if (half === null) run(Job.key, node, { text: ' ' });
+    else run(Job.picked, node, { number: half.textContent === 'Ja' ? 2 : 1 });
+  }
+
+  function change(event) {
+    const node = nodeOf(event);
+    if (node === null) return;
+    if (event.target === node.picker) {
+      const day = node.picker.valueAsNumber / 86400000 + 25569;
+      if (!Number.isNaN(day)) run(Job.picked, node, { number: day });
+    } else if (isList(node)) {
+      run(Job.picked, node, { number: node.input.selectedIndex });
+    } else if (node.input?.type === 'checkbox') {
+      run(Job.picked, node, { number: node.input.checked ? 1 : 0 });
+    } else if (node.input?.type === 'radio') {
+      run(Job.picked, node, { number: 1 });
+    }
+  }
+
+  const root = view.root;
+  const heard = { keydown: keyDown, input, paste, focusout: focusOut, focusin: help, mouseover: help, mouseout: helpNoMore, mousedown: mouseDown, click, change,
+    cancel: (event) => event.preventDefault() };
+  const isFirst = (name) => name === 'mousedown' || name === 'cancel';
+  for (const [name, listener] of Object.entries(heard)) root.addEventListener(name, listener, isFirst(name));
+  return () => {
+    for (const [name, listener] of Object.entries(heard)) root.removeEventListener(name, listener, isFirst(name));
+  };
+}

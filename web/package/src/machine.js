@@ -1,0 +1,106 @@
+// The one machine of a page: the controls, compiled. Every element is a number to it.
+
+import createMachine from '../machine/machine.js';
+import { HostError } from './errors.js';
+import { dayOf, Host } from './host.js';
+import { done, enter, failed, isAtWork, run } from './jobs.js';
+import { Memory } from './memory.js';
+
+let machine = null;
+let memory = null;
+let loading = null;
+let lastView = 0;
+/** The views by number. Who takes an element away takes its view along. */
+const views = new Map();
+const gone = new FinalizationRegistry((number) => endView(number));
+
+const viewOf = (number) => views.get(number)?.deref();
+
+/** A member of the view that the machine names first; what is gone answers nothing. */
+const toView = (name) => (number, ...given) => viewOf(number)?.[name](...given) ?? 0;
+
+function calls(of) {
+  const page = {
+    today: () => dayOf(new Date()),
+    title: () => memory.give(document.title),
+    groupSeparator: () => memory.give(groupSeparator()),
+    insert: (number, node, text) => memory.give(viewOf(number)?.insert(node, text) ?? ''),
+    comeBack: (number, waiting) => {
+      setTimeout(() => {
+        machine._brivane_came_back(number, waiting);
+        enter(() => machine._brivane_go_on());
+      });
+    },
+  };
+  for (const name of ['make', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
+    page[name] = toView(name);
+  const element = {
+    tell: toView('tell'),
+    done,
+    failed: (number, code, description, source) => failed(number, new HostError(code, description, source)),
+  };
+  // The heap is there once the machine is.
+  const host = { call: (...given) => of.host.call(...given), letGo: (...given) => of.host.letGo(...given) };
+  return { page, element, host };
+}
+
+/** What separates groups of digits where the reader is. */
+function groupSeparator() {
+  const parts = new Intl.NumberFormat(undefined, { useGrouping: true }).formatToParts(1234567);
+  return parts.find((part) => part.type === 'group')?.value ?? '.';
+}
+
+/** Starts the machine, once. */
+export function load() {
+  loading ??= (async () => {
+    const of = {};
+    const started = await createMachine(calls(of));
+    memory = new Memory(started);
+    of.host = new Host(started, memory, viewOf);
+    machine = started;
+  })();
+  return loading;
+}
+
+export const isLoaded = () => machine !== null;
+
+export function newView(view, kind) {
+  const number = ++lastView;
+  views.set(number, new WeakRef(view));
+  gone.register(view, number, view);
+  view.number = number;
+  machine._brivane_new(number, kind);
+}
+
+function endView(number) {
+  machine._brivane_end(number);
+  views.delete(number);
+  // What was waiting in it goes on, and ends.
+  enter(() => machine._brivane_go_on());
+}
+
+export function dropView(view) {
+  gone.unregister(view);
+  endView(view.number);
+}
+
+/** Has the machine do something for a view; see jobs.js. */
+export function runJob(view, job, { node = 0, number = 0, more = 0, text = '', first = null, second = null } = {}) {
+  return run((given) => {
+    const objects = [view.objects.keep(first), view.objects.keep(second)];
+    memory.lend(text, (lent) => machine._brivane_run(given, view.number, job, node, number, more, lent, ...objects));
+  });
+}
+
+export function answerBox(view, box, answer) {
+  machine._brivane_answered(view.number, box, answer);
+  enter(() => machine._brivane_go_on());
+}
+
+export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
+export const backColorOf = (view) => machine._brivane_back_color(view.number);
+export const stateOf = (view) => machine._brivane_state(view.number);
+export { isAtWork };
+
+/** For tests, which reach further than a host. */
+export const internals = () => ({ machine, memory, isAtWork });

@@ -1,0 +1,355 @@
+// What shows a control: one class for each kind. `outer` stands where the control stands, `input` is what takes the focus,
+// and `area` is where others stand in it.
+
+import { colorsOf } from './colors.js';
+import { TWIP } from './style.js';
+
+/** As in Control.h. */
+const Kind = Object.freeze({
+  frame: 0, label: 1, textBox: 2, jaNee: 3, hint: 4, option: 5, checkBox: 6, list: 7, button: 8, listView: 9, surface: 10,
+  form: 100,
+});
+/** As in Design.h. */
+const Format = Object.freeze({ text: 1, amount: 2, number: 3, whole: 4, date: 5 });
+/** As in Peer.h and Page.h. */
+export const Shows = Object.freeze({
+  value: 0, enabled: 1, visible: 2, caption: 3, fontSize: 5, backColor: 6, locked: 7, entries: 8, entryAdded: 9,
+  listIndex: 10, columns: 11, rows: 12, selection: 13, veil: 14,
+  number: 32, selected: 36, focus: 37, label: 38, help: 39, heading: 40, row: 41, cell: 42,
+});
+
+const TWIPS_A_POINT = 20;
+
+const make = (name, className, properties = {}) => Object.assign(document.createElement(name), { className }, properties);
+const twips = (length) => `calc(${length} * var(${TWIP}))`;
+
+/** A caption with an "&" before the letter to underline, and "&&" for one to show. */
+function writeCaption(element, marked) {
+  const parts = marked.split(/&(.)/s);
+  const texts = parts.map((part, i) => {
+    if (i % 2 === 0 || part === '&') return part;
+    const letter = document.createElement('u');
+    letter.textContent = part;
+    return letter;
+  });
+  element.replaceChildren(...texts.filter((text) => text !== ''));
+}
+
+class Node {
+  isLabel = false;
+
+  constructor(view, id, design, outer, { input = null, area = outer, caption = null } = {}) {
+    Object.assign(this, { view, id, design, outer, input, area, caption });
+    outer.classList.add('control');
+    if (input !== null) {
+      input.id = `c${id}`;
+      input.node = this;
+      if (design.label !== '') input.setAttribute('aria-label', design.label);
+    }
+    if (caption !== null) writeCaption(caption, design.caption);
+  }
+
+  place(left, top, width, height) {
+    const style = this.outer.style;
+    this.twips = [left, top, width, height];
+    style.left = twips(left);
+    style.top = twips(top);
+    style.width = twips(width);
+    style.height = twips(height);
+  }
+
+  show(what, number, text) {
+    switch (what) {
+      case Shows.enabled: return this.enable(number !== 0);
+      case Shows.visible: this.outer.hidden = number === 0; return;
+      case Shows.caption: if (this.caption !== null) writeCaption(this.caption, text); return;
+      case Shows.fontSize: this.outer.style.fontSize = twips(number * TWIPS_A_POINT); return;
+      case Shows.backColor: return this.color(number);
+      case Shows.focus: this.input?.focus(); return;
+      case Shows.label: this.input?.setAttribute('aria-label', text); return;
+      case Shows.help: this.outer.title = text; return;
+    }
+  }
+
+  enable(enabled) {
+    if (this.input !== null) this.input.disabled = !enabled;
+    this.outer.classList.toggle('disabled', !enabled);
+  }
+
+  color(number) {
+    const { background, text } = colorsOf(number);
+    this.colored.style.backgroundColor = background;
+    this.colored.style.color = text;
+  }
+  get colored() {
+    return this.outer;
+  }
+}
+
+class Frame extends Node {
+  constructor(view, id, design) {
+    const outer = make('fieldset', design.bordered ? 'frame' : 'plain');
+    outer.part = 'frame';
+    const legend = design.bordered ? make('legend', 'legend') : null;
+    if (legend !== null) {
+      legend.part = 'legend';
+      outer.append(legend);
+      legend.order = -1;
+    } else if (design.caption !== '') {
+      outer.setAttribute('aria-label', design.caption.replace(/&(.)/gs, '$1'));
+    }
+    super(view, id, design, outer, { caption: legend });
+  }
+  enable(enabled) {
+    this.outer.disabled = !enabled;
+    super.enable(enabled);
+  }
+}
+
+class Label extends Node {
+  isLabel = true;
+
+  constructor(view, id, design) {
+    const leads = design.caption.includes('&');
+    const outer = make(leads ? 'label' : 'span', design.multiline ? 'label lines' : 'label');
+    outer.part = 'label';
+    super(view, id, design, outer, { caption: outer });
+  }
+}
+
+class TextBox extends Node {
+  constructor(view, id, design) {
+    const number = [Format.amount, Format.number, Format.whole].includes(design.format);
+    const input = make('input', number ? 'box number' : 'box', { type: 'text', autocomplete: 'off' });
+    input.part = 'box';
+    input.spellcheck = design.format === Format.text;
+    if (number) input.inputMode = design.format === Format.whole ? 'numeric' : 'decimal';
+    const date = design.format === Format.date;
+    super(view, id, design, date ? make('span', 'date') : input, { input });
+    if (date) this.#addCalendar();
+  }
+
+  #addCalendar() {
+    // The browser's own calendar; what is picked there is typed over by the machine.
+    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
+    this.picker.node = this;
+    const button = make('button', 'calendar', { type: 'button', tabIndex: -1, title: 'Kalender (F4)' });
+    button.ariaHidden = 'true';
+    button.part = 'calendar';
+    button.node = this;
+    this.button = button;
+    this.outer.append(this.input, this.picker, button);
+  }
+
+  openCalendar() {
+    if (this.picker === undefined || this.input.disabled || this.input.readOnly) return false;
+    const [day, month, year] = this.input.value.split('-');
+    this.picker.value = /^\d\d-\d\d-\d{4}$/.test(this.input.value) ? `${year}-${month}-${day}` : '';
+    try {
+      this.picker.showPicker();
+    } catch {
+      // Without a press or a key of a person, and in a frame of another origin, there is none.
+    }
+    return true;
+  }
+
+  show(what, number, text) {
+    if (what === Shows.value) this.input.value = text;
+    else if (what === Shows.selected) this.input.select();
+    else if (what === Shows.locked) this.input.readOnly = number !== 0;
+    else super.show(what, number, text);
+  }
+  enable(enabled) {
+    super.enable(enabled);
+    if (this.button !== undefined) this.button.disabled = !enabled;
+  }
+  get colored() {
+    return this.input;
+  }
+}
+
+class Toggle extends Node {
+  constructor(view, id, design) {
+    const outer = make('button', 'toggle', { type: 'button' });
+    outer.part = 'toggle';
+    outer.setAttribute('role', 'switch');
+    outer.append(...['Ja', 'Nee'].map((answer) => make('span', '', { textContent: answer, ariaHidden: 'true' })));
+    super(view, id, design, outer, { input: outer });
+  }
+  show(what, number, text) {
+    if (what === Shows.number) this.input.setAttribute('aria-checked', number !== 0 ? 'true' : 'false');
+    else super.show(what, number, text);
+  }
+  color() {}
+}
+
+class Hint extends Node {
+  isHint = true;
+
+  constructor(view, id, design) {
+    const outer = make('span', 'hint');
+    const input = make('button', 'help', { type: 'button', textContent: '?' });
+    input.part = 'hint';
+    const text = make('span', 'spoken', { id: `t${id}`, textContent: design.caption });
+    outer.append(input, text);
+    super(view, id, { ...design, label: design.label === '' ? 'Hulp' : design.label }, outer, { input });
+    input.setAttribute('aria-describedby', text.id);
+  }
+}
+
+class Choice extends Node {
+  constructor(view, id, design, type) {
+    const outer = make('label', 'choice');
+    outer.part = type === 'radio' ? 'option' : 'check';
+    const input = make('input', '', { type });
+    const caption = make('span', 'text');
+    outer.append(input, caption);
+    if (type === 'radio') input.name = `${view.number}-${design.group}`;
+    super(view, id, design, outer, { input, caption });
+  }
+  show(what, number, text) {
+    if (what === Shows.number) this.input.checked = number !== 0;
+    else super.show(what, number, text);
+  }
+}
+
+class List extends Node {
+  constructor(view, id, design) {
+    const outer = make('select', 'box select');
+    outer.part = 'list';
+    super(view, id, design, outer, { input: outer });
+  }
+  show(what, number, text) {
+    if (what === Shows.entries) this.input.replaceChildren();
+    else if (what === Shows.entryAdded) this.input.add(new Option(text));
+    else if (what === Shows.listIndex) this.input.selectedIndex = number;
+    else super.show(what, number, text);
+  }
+}
+
+class Button extends Node {
+  constructor(view, id, design) {
+    const outer = make('button', 'button', { type: 'button' });
+    outer.part = 'button';
+    super(view, id, design, outer, { input: outer, caption: outer });
+  }
+  color() {}
+}
+
+class ListView extends Node {
+  constructor(view, id, design) {
+    const outer = make('div', 'listview', { tabIndex: 0 });
+    outer.part = 'table';
+    outer.setAttribute('role', 'region');
+    const table = make('table', '');
+    table.setAttribute('aria-label', design.label);
+    table.append(make('thead', ''), make('tbody', ''));
+    table.tHead.append(make('tr', ''));
+    outer.append(table);
+    super(view, id, design, outer, { input: outer });
+    this.table = table;
+  }
+  show(what, number, text) {
+    const body = this.table.tBodies[0];
+    const heads = this.table.tHead.rows[0];
+    switch (what) {
+      case Shows.columns: heads.replaceChildren(); return;
+      case Shows.heading: {
+        const head = make('th', '', { scope: 'col', textContent: text });
+        head.style.width = twips(number);
+        head.twips = number;
+        heads.append(head);
+        return;
+      }
+      case Shows.rows: body.replaceChildren(); return;
+      case Shows.row: select(body.insertRow(), number !== 0); return;
+      case Shows.cell: {
+        const cell = body.rows[body.rows.length - 1].insertCell();
+        cell.textContent = text;
+        cell.className = number !== 0 ? 'bold' : '';
+        return;
+      }
+      case Shows.selection: [...body.rows].forEach((row, i) => select(row, i + 1 === number)); return;
+      default: super.show(what, number, text);
+    }
+  }
+  enable(enabled) {
+    this.outer.tabIndex = enabled ? 0 : -1;
+    this.outer.classList.toggle('disabled', !enabled);
+  }
+}
+
+function select(row, selected) {
+  if (selected) row.setAttribute('aria-current', 'true');
+  else row.removeAttribute('aria-current');
+}
+
+class Surface extends Node {
+  constructor(view, id, design) {
+    const outer = make('div', 'surface');
+    outer.part = 'surface';
+    const area = make('div', 'area');
+    const veil = make('p', 'veil', { hidden: true });
+    veil.part = 'veil';
+    outer.append(area, veil);
+    super(view, id, design, outer, { area });
+    this.veil = veil;
+  }
+  show(what, number, text) {
+    if (what !== Shows.veil) return super.show(what, number, text);
+    const veiled = number !== 0;
+    this.area.inert = veiled;
+    this.area.classList.toggle('veiled', veiled);
+    this.veil.hidden = !veiled;
+    this.veil.textContent = text;
+  }
+  enable(enabled) {
+    this.area.inert = !enabled;
+  }
+}
+
+class Form extends Node {
+  constructor(view, id, design) {
+    const outer = make('dialog', 'form');
+    outer.part = 'dialog form';
+    outer.setAttribute('aria-labelledby', `f${id}`);
+    const head = make('div', 'head');
+    head.part = 'head';
+    const title = make('div', 'title', { id: `f${id}` });
+    const close = make('button', 'close', { type: 'button', textContent: '×', ariaLabel: 'Sluiten' });
+    const scroll = make('div', 'scroll');
+    const area = make('div', 'inside');
+    head.append(title, close);
+    scroll.append(area);
+    outer.append(head, scroll);
+    super(view, id, design, outer, { area, caption: title });
+    close.node = outer.node = this;
+    this.closeButton = close;
+  }
+  place(left, top, width, height) {
+    this.twips = [left, top, width, height];
+    this.area.style.width = twips(width);
+    this.area.style.height = twips(height);
+  }
+  enable(enabled) {
+    this.area.inert = !enabled;
+  }
+  show(what, number, text) {
+    if (what === Shows.caption) this.caption.textContent = text;
+    else super.show(what, number, text);
+  }
+  get colored() {
+    return this.area;
+  }
+}
+
+const classes = new Map([
+  [Kind.frame, Frame], [Kind.label, Label], [Kind.textBox, TextBox], [Kind.jaNee, Toggle], [Kind.hint, Hint],
+  [Kind.list, List], [Kind.button, Button], [Kind.listView, ListView], [Kind.surface, Surface], [Kind.form, Form],
+]);
+
+export function makeNode(view, id, design) {
+  if (design.kind === Kind.option) return new Choice(view, id, design, 'radio');
+  if (design.kind === Kind.checkBox) return new Choice(view, id, design, 'checkbox');
+  return new (classes.get(design.kind))(view, id, design);
+}

@@ -1,0 +1,147 @@
+// What stands in the shadow root of one element: a node for each control, and the dialogs. The machine calls its members
+// by name (machine.js); what a person does goes back by events.js.
+
+import { listen } from './events.js';
+import { Bubble, Tip } from './floating.js';
+import { HostObjects } from './host.js';
+import { MessageBox } from './messagebox.js';
+import { makeNode } from './nodes.js';
+
+/** What the machine asks of a node; as in Page.h. */
+const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
+const Shows = Object.freeze({ reason: 33, note: 34, nothing: 35 });
+
+/** The parts of a design, as Page.cpp writes them. */
+function read(design) {
+  const [name, label, caption, group, kind, format, order, bordered, multiline, row] = design.split('\x1f');
+  return {
+    name, label, caption, group, kind: Number(kind), format: Number(format), order: Number(order),
+    bordered: bordered === '1', multiline: multiline === '1', row: row === '1',
+  };
+}
+
+/** Elements of one container lie in the order of their numbers, those with the same as they came. */
+function put(area, outer, order) {
+  outer.order = order;
+  let before = null;
+  for (let last = area.lastElementChild; last !== null && last.order > order; last = last.previousElementSibling) before = last;
+  area.insertBefore(outer, before);
+}
+
+export class View {
+  number = 0;
+  /** The objects of the host that the machine holds for this element. */
+  objects = new HostObjects();
+  nodes = new Map();
+  bubble = new Bubble();
+  tip = new Tip();
+  #owner;
+  #label = null;
+  #dialogs = [];
+  #boxes = new Map();
+
+  /** `owner` makes objects for the host and tells its page: makeForHost(what, control), tell(what, text). */
+  constructor(root, owner) {
+    this.root = root;
+    this.#owner = owner;
+    this.stopListening = listen(this);
+  }
+
+  makeForHost(what, control) {
+    return this.#owner.makeForHost(what, control);
+  }
+  tell(what, text) {
+    this.#owner.tell(what, text);
+  }
+
+  make(id, container, written) {
+    const design = read(written);
+    const node = makeNode(this, id, design);
+    this.nodes.set(id, node);
+    put(container === 0 ? this.root : this.nodes.get(container).area, node.outer, design.order);
+    // A label with a mnemonic is that of the control made next.
+    if (this.#label !== null && node.input?.matches('input, select')) this.#label.htmlFor = node.input.id;
+    this.#label = node.isLabel && design.caption.includes('&') ? node.outer : null;
+  }
+
+  drop(id) {
+    this.nodes.get(id)?.outer.remove();
+    this.nodes.delete(id);
+  }
+
+  place(id, left, top, width, height) {
+    this.nodes.get(id)?.place(left, top, width, height);
+  }
+
+  show(id, what, number, text) {
+    const node = this.nodes.get(id);
+    if (node === undefined) return;
+    if (what === Shows.nothing) this.bubble.hide(node);
+    else if (what === Shows.reason || what === Shows.note) this.bubble.show(node, text, what === Shows.reason);
+    else node.show(what, number, text);
+  }
+
+  ask(id, what) {
+    const input = this.nodes.get(id)?.input;
+    if (!input) return 0;
+    if (what === Asked.hasFocus) return this.root.activeElement === input ? 1 : 0;
+    return input.isConnected && !input.matches(':disabled') && input.getClientRects().length > 0 ? 1 : 0;
+  }
+
+  insert(id, text) {
+    const input = this.nodes.get(id).input;
+    input.setRangeText(text, input.selectionStart, input.selectionEnd, 'end');
+    return input.value;
+  }
+
+  openForm(id) {
+    return this.#open(this.nodes.get(id).outer);
+  }
+  closeForm(id) {
+    this.#close(this.nodes.get(id)?.outer);
+  }
+
+  openBox(number, style, title, text) {
+    const box = new MessageBox(this, number, style, title, text);
+    this.#boxes.set(number, box);
+    this.root.append(box.dialog);
+    if (this.#open(box.dialog)) return 1;
+    this.closeBox(number);
+    return 0;
+  }
+  closeBox(number) {
+    const dialog = this.#boxes.get(number)?.dialog;
+    this.#boxes.delete(number);
+    this.#close(dialog);
+    dialog?.remove();
+  }
+
+  /** The innermost dialog that is open, or nothing. */
+  get dialog() {
+    return this.#dialogs.at(-1) ?? null;
+  }
+  boxOf(dialog) {
+    return [...this.#boxes.values()].find((box) => box.dialog === dialog);
+  }
+
+  /** The element was moved: its dialogs were taken off the screen. */
+  moved() {
+    for (const dialog of this.#dialogs) {
+      dialog.close();
+      dialog.showModal();
+    }
+  }
+
+  #open(dialog) {
+    if (!dialog.isConnected) return 0;
+    this.#dialogs.push(dialog);
+    dialog.showModal();
+    return 1;
+  }
+  #close(dialog) {
+    const place = this.#dialogs.indexOf(dialog);
+    if (place < 0) return;
+    this.#dialogs.splice(place, 1);
+    dialog.close();
+  }
+}
