@@ -66,6 +66,8 @@ TEST(TypedDate, IsRefusedWithTheReason) {
       {"001-4-2031", expected},
       {"1-004-2031", expected},
       {"1-4-2031-1", expected},
+      {"1~4~2031", expected},
+      {"1,4,2031", expected},
       {"1-4-", expected},
       {"1--2031", expected},
       {"-4-2031", expected},

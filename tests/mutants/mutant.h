@@ -59,9 +59,7 @@ template <class A, class B> constexpr bool GreaterEqual(int id, const A& a, cons
   return On(id) ? a > b : On(id + 1) ? a < b : a >= b;
 }
 template <class A, class B> constexpr bool Equal(int id, const A& a, const B& b) { return On(id) ? a != b : a == b; }
-template <class A, class B> constexpr bool NotEqual(int id, const A& a, const B& b) {
-  return On(id) ? a == b : a != b;
-}
+template <class A, class B> constexpr bool NotEqual(int id, const A& a, const B& b) { return On(id) ? a == b : a != b; }
 
 // Arithmetic.
 template <class A, class B> constexpr auto Plus(int id, const A& a, const B& b) { return On(id) ? a - b : a + b; }
@@ -86,7 +84,9 @@ template <class T> constexpr T UpDown(int id, T a) { return On(id) ? More(a, 1) 
 
 inline const std::string& Longer(std::string_view text) { return *new std::string(std::string(text) + "~"); }
 constexpr const char* Text(int id, const char* text) { return On(id) ? Longer(text).c_str() : text; }
-constexpr std::string_view Text(int id, std::string_view text) { return On(id) ? std::string_view(Longer(text)) : text; }
+constexpr std::string_view Text(int id, std::string_view text) {
+  return On(id) ? std::string_view(Longer(text)) : text;
+}
 inline std::string Text(int id, std::string text) { return On(id) ? text + "~" : text; }
 
 /// Writes into a table that the compiler made.
