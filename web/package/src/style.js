@@ -98,9 +98,10 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   padding: 0 .6em; border: 1px solid var(--line); border-radius: 3px; background: var(--face); white-space: nowrap;
 }
 .button:disabled { color: GrayText; }
+.hint { display: grid; place-items: center; }
 .help {
-  width: 100%; height: 100%; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
-  font-weight: bold; line-height: 1;
+  width: 100%; aspect-ratio: 1; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
+  font-weight: bold; line-height: 1; forced-color-adjust: none;
 }
 .spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 .tip, .bubble {
