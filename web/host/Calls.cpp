@@ -95,7 +95,8 @@ Value Element(const Object& object, int index) {
 }
 
 Object Make(int page, const char* what, const std::string& control) {
-  const Wire wire = ToWire(Value(control));
+  const Value given(control);
+  const Wire wire = ToWire(given);
   return As<Object>(Ask(page, 0, Way::Make, what, &wire, 1));
 }
 

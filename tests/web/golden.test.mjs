@@ -1,0 +1,62 @@
+// The golden documents and random sessions, played against the element with a host of plain objects, give the transcripts
+// of the toolkit in memory: every line, in order. Lines are compared as the values that they hold, members in order.
+import assert from 'node:assert/strict';
+import { createReadStream, existsSync, readdirSync, readFileSync } from 'node:fs';
+import { createInterface } from 'node:readline';
+import { test } from 'node:test';
+
+import { useBrowser } from './harness/browser.mjs';
+import { top } from './harness/packages.mjs';
+
+const { open } = useBrowser();
+const golden = `${top}tests/golden/`;
+const SESSIONS = `${top}build/release/web-sessions.jsonl`;
+const LEAST_SESSIONS = 1000;
+
+async function openPlayer() {
+  const page = await open('/tests/pages/replay.html');
+  await page.waitForFunction(() => window.isReady);
+  return page;
+}
+const play = (page, document) => page.evaluate((given) => window.play(given), document);
+const asWritten = (line) => JSON.stringify(JSON.parse(line));
+
+function holdAlike(actual, expected, what) {
+  const { length } = expected;
+  for (let i = 0; i < Math.max(length, actual.length); ++i)
+    if (actual[i] !== asWritten(expected[i] ?? 'null'))
+      assert.fail(`${what}, line ${i + 1}\nafter    ${expected.slice(0, i).findLast((line) => line.startsWith('{"step"'))}\nexpected ${expected[i]}\nactual   ${actual[i]}`);
+}
+
+const names = readdirSync(golden).filter((name) => name.endsWith('.json')).map((name) => name.slice(0, -5));
+
+test('golden.ThereAreSessions', () => assert.ok(names.length >= 24));
+
+for (const name of names)
+  test(`golden.${name}`, async () => {
+    const page = await openPlayer();
+    const { lines, refusal } = await play(page, JSON.parse(readFileSync(`${golden}${name}.json`, 'utf8')));
+    assert.equal(refusal, '');
+    holdAlike(lines, readFileSync(`${golden}${name}.jsonl`, 'utf8').trimEnd().split('\n'), name);
+    assert.deepEqual(page.faults, []);
+    await page.close();
+  });
+
+test('random.SessionsGiveTheSameTranscripts', async () => {
+  assert.ok(existsSync(SESSIONS), `${SESSIONS} is not there: ./test --web makes it`);
+  const page = await openPlayer();
+  let sessions = 0;
+  let compared = 0;
+  for await (const text of createInterface({ input: createReadStream(SESSIONS) })) {
+    const { document, lines, refusal } = JSON.parse(text);
+    const played = await play(page, document);
+    holdAlike(played.lines, lines, `session ${sessions}: ${JSON.stringify(document)}`);
+    assert.equal(played.refusal !== '', refusal !== '');
+    ++sessions;
+    compared += lines.length;
+  }
+  assert.ok(sessions >= LEAST_SESSIONS, `${sessions} sessions`);
+  assert.ok(compared > sessions);
+  console.log(`${sessions} sessions, ${compared} lines alike`);
+  assert.deepEqual(page.faults, []);
+});

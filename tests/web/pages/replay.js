@@ -1,0 +1,4 @@
+import { play } from '../replay/session.js';
+
+window.play = play;
+window.isReady = true;
