@@ -68,11 +68,14 @@ void Hook(int page, Element& element) {
   };
   toolkit.modal = [page](controls::Form& form) { ShowForm(page, form); };
   element.actsBehindTheVeil = true;
-  element.Surface().SetVeiled(false);
 }
 
+/// The open form, or the surface of the element, which a binding that failed has veiled.
 controls::Surface& SurfaceOf(int page, int form) {
-  return form != 0 ? *opened_[page].form : Element::Find(page)->Surface();
+  if (form != 0) return *opened_[page].form;
+  controls::Surface& surface = Element::Find(page)->Surface();
+  surface.SetVeiled(false);
+  return surface;
 }
 
 /// 3: it failed, with number and description at `place`.
@@ -146,7 +149,7 @@ class Writer {
     if (control.list) List(*control.list);
     if (control.listView) Report(*control.listView);
     Close('}');
-    }
+  }
 
   void Value(const controls::DumpValue& value) {
     if (const auto* yes = std::get_if<bool>(&value)) Member("value", *yes);
@@ -287,7 +290,6 @@ EMSCRIPTEN_KEEPALIVE int brivane_door_perform(int page, int form, const char* na
                                               double number, const char* text, void* place) {
   return Answering(place, [&] {
     controls::Surface& surface = SurfaceOf(page, form);
-    if (form == 0) surface.SetVeiled(false);
     controls::AnyControl* const control = *name != '\0' ? surface.Find(name, index) : &surface;
     return static_cast<int>(control->Perform(ActionOf(action, type, number, text)));
   });

@@ -1,366 +1,220 @@
-// Plays a document of the replay tool against an element of the page: the host is a script, what the host does goes through
-// the element's members, and what a person does through the door. Gives the lines that the tool prints.
+// Plays a replay document on an element, through its public interface, with a host in JavaScript. The transcript is that of
+// the replay tool, line by line.
 
-import { Application, BedragObject, Dossier, KOLOM } from '/demo/model.js';
-import { enter, Job } from '/door/src/jobs.js';
-import { Memory } from '/door/src/memory.js';
-import { tried } from '/door/machine/machine.js';
-import { HostError, ready } from '/door/src/index.js';
+import { HostError } from './src/errors.js';
+import { Door, Kind, Outcome } from './door.js';
+import { Host, MISSING, writeAmount, writeColumn } from './host.js';
 
-import { Recording } from './recording.js';
-
-await ready;
-const machine = tried.machine;
-const memory = new Memory(machine);
-
-const LOGS = ['trace', 'writes', 'calls', 'events', 'messages', 'results'];
-const PERSONEN = [{ Naam: ['J.', 'van', 'Dam'], Geboortedatum: '1975-12-31' }, { Naam: ['A.', 'de', 'Wit'], Geboortedatum: '1978-02-03' }];
-const Kind = { textBox: 2, option: 5, list: 7 };
-const Action = { press: 0, select: 1, tick: 2, toggle: 3, choose: 4, enter: 5, close: 6 };
-const Outcome = { ignored: 1, refused: 2, failed: 3 };
-const Typed = { nothing: 0, text: 1, number: 2, date: 3 };
+const LOG = ['trace', 'writes', 'calls', 'events', 'messages', 'results'];
 const QUESTION = 36;
 const ANSWERS = { OK: 1, Ja: 6, Nee: 7 };
+const SEPARATORS = { nl_NL: '.', en_US: ',' };
+const SCENARIO = { AantalJaar: 1, Labeltype: 0, Anv_Leeftijd: 0, LooptijdExtra: false, In_RenteKorting: false, Bd_MaxOpname: 0,
+  SoortScenario: 0, DisableJaar: [] };
 
-/** A document or a step that asks for what is not there. */
-class BadInput extends Error {}
-
-const dayNumber = (text) => Date.parse(`${text}T00:00:00Z`) / 86400000 + 25569;
-const dates = (record) => Object.fromEntries(Object.entries(record).map(([name, value]) =>
-  [name, value === 0 && KOLOM[name] === null ? null : value]));
-const elementName = (name, index) => (index === undefined ? name : `${name}(${index})`);
-
-function groupSeparator(locale) {
-  const known = { nl: '.', en: ',' }[locale.slice(0, 2)];
-  if (known !== undefined) return known;
-  throw new BadInput(`a locale that this player does not know: ${locale}`);
+/** JSON with a blank behind each comma and colon, and numbers as the replay tool writes them. */
+function write(value) {
+  if (Array.isArray(value)) return `[${value.map(write).join(', ')}]`;
+  if (value !== null && typeof value === 'object')
+    return `{${Object.entries(value).filter(([, member]) => member !== undefined).map(([key, member]) => `${JSON.stringify(key)}: ${write(member)}`).join(', ')}}`;
+  if (Object.is(value, -0)) return '-0.0';
+  return JSON.stringify(value);
 }
 
-function hostOf({ dossier: given }) {
-  const columns = ({ VrijeKolommen = [] } = {}) => ({ VrijeKolommen: VrijeKolommen.map(dates) });
-  const dossier = new Dossier({
-    Personen: given.personen.map((persoon, i) => ({ Naam: persoon.naam ?? PERSONEN[i].Naam,
-      Geboortedatum: persoon.Geboortedatum === 0 ? null : (persoon.Geboortedatum ?? PERSONEN[i].Geboortedatum) })),
-    HuidigeLening: columns(given.HuidigeLening),
-    Leningen: (given.Leningen ?? [{}]).map(columns),
-  });
-  return new Application(dossier, { Leeftijd: given.Uitgangspunten?.Leeftijd ?? 67,
-    MaatschappijType: given.MaatschappijType ?? [['AB', 'Alfa Bank'], ['ZZ', 'Anders']] });
-}
+const elementName = ({ control, index }) => (index === undefined ? control : `${control}(${index})`);
 
-const dumpAmount = ({ Naam, Invoersoort, Bedrag, Perioden }) => ({ Naam, Invoersoort, Bedrag, Perioden });
-function dumpRecord(record) {
-  if (record === null) return null;
-  if (record instanceof BedragObject) return dumpAmount(record);
-  const fields = Object.keys(KOLOM).map((name) => [name, KOLOM[name] === null ? record[name] || 0 : record[name]]);
-  return { ...Object.fromEntries(fields), Bedrag: dumpAmount(record.Bedrag) };
-}
-
-/** Calls the machine with texts that are lent to it. */
-function call(name, ...given) {
-  const lent = [];
-  const ready = given.map((value) => {
-    if (typeof value !== 'string') return value;
-    lent.push(memory.give(value));
-    return lent.at(-1);
-  });
-  try {
-    return machine[`_brivane_door_${name}`](...ready);
-  } finally {
-    for (const place of lent) machine._free(place);
-  }
-}
-
-/** The same for what may fail. */
-function trying(name, ...given) {
-  return memory.room(16, (place) => {
-    const answer = call(name, ...given, place);
-    if (answer === Outcome.failed) throw new HostError(memory.number(place), memory.take(memory.whole(place + 8)));
-    return answer;
-  });
-}
-
-class Session {
-  lines = [];
+export class Session {
+  #document;
+  #element;
+  #lines = [];
+  #wanted;
   #running = [];
-  #problem = null;
-  #muted = false;
+  #host;
+  #door;
 
-  constructor(document_) {
-    this.document = document_;
-    this.wanted = new Set(document_.log ?? LOGS);
-    this.recording = new Recording((log, line) => this.#print(log, line), document_.faults ?? []);
-    this.inner = hostOf(document_);
-    this.application = this.recording.application(this.inner);
+  /** `element` is a new `<vrije-kolom>` in a page whose machine has the door. */
+  constructor(document, element) {
+    this.#document = document;
+    this.#element = element;
+    this.#wanted = new Set(document.log ?? LOG);
+    this.#host = new Host(document.dossier, document.faults ?? [], {
+      get: (member, value, index) => this.#tell('reads', { get: member, value, index }),
+      set: (member, value, index) => this.#tell('writes', { set: member, value, index }),
+      call: (member, args) => this.#tell('calls', { call: member, args }),
+      trace: (line) => this.#tell('trace', line),
+      report: (record) => this.#tell('messages', { report: { ...record } }),
+    });
   }
 
   async run() {
-    const element = (this.element = document.createElement('vrije-kolom'));
-    element.hostFactories = this.recording.factories();
-    this.#listen();
-    document.body.append(element);
-    const page = (this.page = tried.last);
-    this.#equip(page);
-    try {
-      await element._job(Job.make);
-      call('listen', page);
-      await this.#steps();
-    } catch (failure) {
-      if (!(failure instanceof HostError)) throw failure;
-      this.#failed(failure);
-    } finally {
-      tried.door = {};
-      element.remove();
-      await null;
-    }
-  }
-
-  #equip(page) {
-    const { today, title = 'Dossier', locale = 'nl_NL', screen = {} } = this.document;
-    tried.door = {
-      message: (of, heading, text, style) => this.#message(heading, text, style),
+    const { today, title = 'Dossier', locale = 'nl_NL', screen = {}, steps } = this.#document;
+    const element = this.#element;
+    element.hostFactories = this.#host.factories;
+    for (const name of ['refreshtopdisplay', 'heightchanged', 'changed'])
+      element.addEventListener(name, (event) => this.#hear(event));
+    this.#door = new Door(element, {
+      message: (boxTitle, text, style) => this.#message(boxTitle, text, style),
       pending: () => this.#pending(),
-      focus: (of, focus) => this.#print('events', { focus }),
-      form: (of, color, years) => this.#shown(color, years),
-      closed: () => this.#print('events', { closed: 'frmScenario' }),
-    };
-    call('open', page);
-    if (today !== undefined) call('set', page, 0, dayNumber(today), '');
-    call('set', page, 1, 0, title);
-    call('set', page, 2, screen.TwipsPerPixelX ?? 15, '');
-    call('set', page, 3, screen.TwipsPerPixelY ?? 15, '');
-    call('set', page, 4, 0, groupSeparator(locale));
-  }
-
-  #listen() {
-    const on = (name, line) => this.element.addEventListener(name, (event) => this.#print('events', line(event)));
-    on('refreshtopdisplay', (event) => ({ event: 'RefreshTopDisplay', text: event.detail.text }));
-    on('heightchanged', () => ({ event: 'HeightChanged' }));
-    on('changed', () => ({ event: 'Toelichting.Changed' }));
-  }
-
-  async #steps() {
-    for (const [i, step] of this.document.steps.entries()) {
-      const running = { step, number: i + 1, form: 0, answers: 0, pending: 0 };
-      this.#running.push(running);
-      try {
-        this.#begin(running);
-        try {
-          await this.#doOutside(running);
-        } catch (failure) {
-          if (!(failure instanceof HostError)) throw failure;
-          this.#failed(failure);
-        }
-        this.#runPending(running);
-      } finally {
-        this.#running.pop();
-      }
-      if (this.#problem !== null) throw this.#problem;
-    }
-  }
-
-  #print(log, line) {
-    if (this.#muted || (log !== null && !this.wanted.has(log))) return;
-    this.lines.push(JSON.stringify(line));
-  }
-  #failed({ number, message }) {
-    this.#print('results', { failed: { number, description: message } });
-  }
-
-  /** What a host does comes back later, what a person does at once. */
-  async #doOutside(running) {
-    const { step } = running;
-    const element = this.element;
-    const result = (Cancel) => this.#print('results', { result: step.do, Cancel });
-    switch (step.do) {
-      case 'SetApplication': return element.setApplication(this.application, step.Len_Id, step.Vrij_Id);
-      case 'Validation': return result(await element.validation(step.ControleNr ?? 0, step.Cancel ?? false));
-      case 'Toelichting.Validation': return result(await element.validationToelichting(step.ControleNr ?? 0, step.Cancel ?? false));
-      case 'BackColor': return element._job(Job.backColor, { number: step.value });
-      case 'BeeindigenZichtbaar': return element._job(Job.beeindigenZichtbaar, { number: step.value ? 1 : 0 });
-      default: return this.#do(running);
-    }
-  }
-
-  #runStep(step, number, form) {
-    const running = { step, number, form, answers: 0, pending: 0 };
-    this.#running.push(running);
+      focus: (name) => this.#tell('events', { focus: name }),
+      form: (color, years) => this.#form(color, years),
+      closed: () => this.#tell('events', { closed: 'frmScenario' }),
+    });
+    if (today !== undefined) this.#door.set('today', today);
+    this.#door.set('title', title);
+    this.#door.set('groupSeparator', SEPARATORS[locale] ?? '.');
+    for (const [setting, value] of Object.entries(screen)) this.#door.set(setting[0].toLowerCase() + setting.slice(1), value);
     try {
-      this.#begin(running);
-      try {
-        this.#do(running);
-      } catch (failure) {
-        if (!(failure instanceof HostError)) throw failure;
-        this.#failed(failure);
-      }
-      this.#runPending(running);
-    } finally {
-      this.#running.pop();
+      this.#door.make();
+    } catch (failure) {
+      this.#fail(failure);
+      return this.#lines;
     }
+    for (const [i, step] of steps.entries()) await this.#step(step, String(i + 1));
+    return this.#lines;
   }
 
-  #begin(running) {
-    const { step, number, form } = running;
-    if (step.control !== undefined && step.do !== 'resize') {
-      const { reachable } = this.#find(running);
-      if (reachable) this.#action(running);
-    }
-    void form;
-    this.#print(null, { step: number, do: step.do });
+  #tell(log, line) {
+    if (this.#wanted.has(log)) this.#lines.push(write(line));
+  }
+  #fail(failure) {
+    this.#tell('results', { failed: { number: failure.number, description: failure.message } });
   }
 
-  #isClosed() {
-    return (call('flags', this.page) & 4) !== 0;
-  }
-
-  #runPending(running) {
-    const steps = running.step.pending ?? [];
-    while (running.pending < steps.length) {
-      if (this.#problem !== null || (running.form && this.#isClosed())) return;
-      const step = steps[running.pending++];
-      this.#guarded(() => this.#runStep(step, `${running.number}.${running.pending}`, running.form));
-    }
-  }
-  #guarded(work) {
-    try {
-      work();
-    } catch (problem) {
-      if (!(problem instanceof BadInput)) throw problem;
-      this.#problem = problem;
-      this.#muted = true;
-    }
-  }
-
-  #pending() {
-    this.#print('events', { pending: true });
-    if (this.#running.length > 0) this.#runPending(this.#running.at(-1));
-  }
-
-  #shown(BackColor, AantalJaar) {
-    this.#print('events', { opened: 'frmScenario', BackColor, AantalJaar });
-    const opener = this.#running.at(-1);
-    const steps = opener.step.modal ?? [];
-    for (let i = 0; i < steps.length && !this.#isClosed() && this.#problem === null; ++i)
-      this.#guarded(() => this.#runStep(steps[i], `${opener.number}.${i + 1}`, 1));
+  #hear(event) {
+    if (event.type === 'refreshtopdisplay') this.#tell('events', { event: 'RefreshTopDisplay', text: event.detail.text });
+    else this.#tell('events', { event: event.type === 'heightchanged' ? 'HeightChanged' : 'Toelichting.Changed' });
   }
 
   #message(title, text, style) {
     const question = style === QUESTION;
     let answer = question ? 'Nee' : 'OK';
     const running = this.#running.at(-1);
-    const answers = running?.step.answers ?? [];
-    if (running !== undefined && running.answers < answers.length) {
-      const given = answers[running.answers++];
+    const given = running?.step.answers?.[running.answers];
+    if (given !== undefined) {
+      ++running.answers;
       if (question === (given !== 'OK')) answer = given;
     }
-    this.#print('messages', { message: { title, text, style }, answer });
+    this.#tell('messages', { message: { title, text, style }, answer });
     return ANSWERS[answer];
   }
 
-  #find({ step, form }) {
-    // The index of a list is that of an entry.
-    const index = step.do === 'select' ? undefined : step.index;
-    const found = call('find', this.page, form, step.control, index ?? -1);
-    if (found < 0) throw new BadInput(`the form has no "${elementName(step.control, index)}"`);
-    return { kind: found & 255, reachable: (found & 256) !== 0, index };
+  #pending() {
+    this.#tell('events', { pending: true });
+    if (this.#running.length > 0) this.#runPending(this.#running.at(-1));
   }
 
-  #state(form) {
-    return JSON.parse(memory.take(call('state', this.page, form)));
+  #runPending(running) {
+    const steps = running.step.pending ?? [];
+    while (running.pending < steps.length) {
+      if (running.form && this.#door.flags.closed) return;
+      const step = steps[running.pending++];
+      this.#inner(step, `${running.number}.${running.pending}`, running.form);
+    }
   }
 
-  /** [action, type, number, text] as the door takes them. */
-  #action({ step, form }) {
-    const { value } = step;
+  #form(color, years) {
+    this.#tell('events', { opened: 'frmScenario', BackColor: color, AantalJaar: years });
+    const opener = this.#running.at(-1);
+    for (const [i, step] of (opener.step.modal ?? []).entries()) {
+      if (this.#door.flags.closed) return;
+      this.#inner(step, `${opener.number}.${i + 1}`, true);
+    }
+  }
+
+  #begin(step, number, form) {
+    const running = { step, number, form, answers: 0, pending: 0 };
+    this.#running.push(running);
+    this.#lines.push(write({ step: number.includes('.') ? number : Number(number), do: step.do }));
+    return running;
+  }
+  #end(running) {
+    this.#runPending(running);
+    this.#running.pop();
+  }
+
+  /** A step of the host's, which may have to wait for the element. */
+  async #step(step, number) {
+    const running = this.#begin(step, number, false);
+    try {
+      if (!(await this.#doHost(step))) this.#do(running);
+    } catch (failure) {
+      this.#fail(failure);
+    }
+    this.#end(running);
+  }
+
+  /** A step inside another one, done at once. */
+  #inner(step, number, form) {
+    const running = this.#begin(step, number, form);
+    try {
+      this.#do(running);
+    } catch (failure) {
+      this.#fail(failure);
+    }
+    this.#end(running);
+  }
+
+  /** The steps of the public interface; false for the others. */
+  async #doHost(step) {
+    const element = this.#element;
+    const { ControleNr = 0, Cancel = false } = step;
     switch (step.do) {
-      case 'click': return [Action.press, 0, 0, ''];
-      case 'check': return [Action.tick, 0, value, ''];
-      case 'toggle': return [Action.toggle, 0, value, ''];
-      case 'select': {
-        const { entries } = this.#state(form)[step.control];
-        const index = step.index ?? entries.indexOf(step.entry);
-        if (index < 0 || index >= entries.length) throw new BadInput(`"${step.control}" has no such entry now`);
-        return [Action.choose, 0, index, ''];
-      }
-      default: return [Action.enter, ...this.#typed(value)];
+      case 'SetApplication': await element.setApplication(this.#host.application, step.Len_Id ?? 0, step.Vrij_Id ?? 1); return true;
+      case 'Validation': this.#result(step, await element.validation(ControleNr, Cancel)); return true;
+      case 'Toelichting.Validation': this.#result(step, await element.validationToelichting(ControleNr, Cancel)); return true;
+      case 'BackColor': element.backColor = step.value; return true;
+      case 'BeeindigenZichtbaar': element.beeindigenZichtbaar = step.value; return true;
+      default: return false;
     }
   }
-  #typed(value) {
-    if (typeof value === 'string') return [Typed.text, 0, value];
-    if (typeof value === 'number') return [Typed.number, value, ''];
-    return value.date === 0 ? [Typed.date, 0, ''] : [Typed.date, dayNumber(value.date), ''];
+
+  #result(step, cancel) {
+    this.#tell('results', { result: step.do, Cancel: cancel });
   }
 
-  #do(running) {
-    const { step, form } = running;
-    if (step.do === 'close') return void trying('perform', this.page, form, '', -1, Action.close, 0, 0, '');
-    if (step.do === 'dump') return this.#dump(form);
-    if (step.do === 'resize') return void this.#enter(() => trying('size', this.page, step.control ?? '', step.width, step.height));
-    if (step.do === 'frmScenario') return this.#scenario(step);
-    const { kind, reachable, index } = this.#find(running);
-    let outcome = Outcome.ignored;
-    if (reachable) {
-      const [action, ...value] = this.#action(running);
-      const meant = action === Action.press && kind === Kind.option ? Action.select : action;
-      outcome = this.#enter(() => trying('perform', this.page, form, step.control, index ?? -1, meant, ...value));
+  #do({ step, form }) {
+    switch (step.do) {
+      case 'resize': return void this.#door.size(step.control ?? '', step.width, step.height);
+      case 'frmScenario': return this.#scenario(step);
+      case 'close': return void this.#door.perform(true, '', -1, 'close');
+      case 'dump': return this.#dump(form);
+      default: return this.#act(step, form);
     }
-    if (outcome === Outcome.ignored) this.#print('results', { ignored: elementName(step.control, index) });
-    else if (kind === Kind.textBox) this.#print('results', { result: step.do, Cancel: outcome === Outcome.refused });
   }
 
-  /** With the machine at work, as it is when a person acts; inside another act it is so already. */
-  #enter(work) {
-    if (this.#running.length > 1) return work();
-    let answer;
-    let failure = null;
-    enter(() => {
-      try {
-        answer = work();
-      } catch (thrown) {
-        failure = thrown;
-      }
-    });
-    if (failure !== null) throw failure;
-    return answer;
+  #act(step, form) {
+    // The index of a list's step is its entry.
+    const isChoice = step.do === 'select';
+    const index = isChoice ? -1 : step.index;
+    const control = this.#door.find(form, step.control, index);
+    const outcome = control.reachable ? this.#door.perform(form, step.control, index, ...this.#action(step, form)) : Outcome.ignored;
+    if (outcome === Outcome.ignored) this.#tell('results', { ignored: isChoice ? step.control : elementName(step) });
+    else if (control.kind === Kind.textBox) this.#result(step, outcome === Outcome.refused);
+  }
+
+  #action(step, form) {
+    switch (step.do) {
+      case 'click': return step.index === undefined ? ['press'] : ['select'];
+      case 'check': return ['tick', step.value];
+      case 'toggle': return ['toggle', step.value];
+      case 'select': return ['choose', step.index ?? this.#door.state(form)[step.control].entries.indexOf(step.entry)];
+      default: return ['enter', typeof step.value === 'object' ? { date: step.value.date === 0 ? null : step.value.date } : step.value];
+    }
   }
 
   #scenario(step) {
-    const kolom = (step.Len_Id === 0 ? this.inner.Dossier.HuidigeLening : this.inner.Dossier.Lening(step.Len_Id))
-      ?.VrijeKolom(step.Vrij_Id);
-    if (!kolom) throw new HostError(91, 'Object missing');
-    const amount = this.#objects().keep(this.recording.amount(kolom.Bedrag));
-    this.#enter(() => trying('scenario', this.page, amount, step.SoortScenario ?? 0, step.AantalJaar, step.Labeltype ?? 0,
-      step.Anv_Leeftijd ?? 0, step.LooptijdExtra ? 1 : 0, step.In_RenteKorting ? 1 : 0, step.Bd_MaxOpname ?? 0,
-      (step.DisableJaar ?? []).join(' ')));
-  }
-
-  #objects() {
-    return this.element.shadowRoot.querySelector('input').node.view.objects;
+    const column = this.#host.column(step.Len_Id ?? 0, step.Vrij_Id ?? 1);
+    if (column === null) throw new HostError(MISSING, 'Object missing');
+    this.#door.scenario(this.#host.amountOf(column), { ...SCENARIO, ...step });
   }
 
   #dump(form) {
-    const controls = this.#state(form);
-    for (const control of Object.values(controls)) {
-      delete control.kind;
-      delete control.locked;
-      delete control.widths;
-    }
-    const record = dumpRecord(this.recording.inner(this.#objects().value(call('record', this.page, form))));
-    const flags = call('flags', this.page);
-    const dump = form ? { controls, record } : { controls, record, Filling: (flags & 1) !== 0, Gewijzigd: (flags & 2) !== 0 };
-    this.#print(null, { dump });
+    const controls = this.#door.state(form);
+    for (const control of Object.values(controls)) for (const own of ['kind', 'locked', 'widths']) delete control[own];
+    const record = this.#host.inner(this.#door.record(form));
+    const dump = { controls, record: record === null ? null : form ? writeAmount(record) : writeColumn(this.#host, record) };
+    const { Filling, Gewijzigd } = this.#door.flags;
+    if (!form) Object.assign(dump, { Filling, Gewijzigd });
+    this.#lines.push(write({ dump }));
   }
-}
-
-/** The lines of a session, and what it was stopped by, if it was. */
-export async function play(document_) {
-  const session = new Session(document_);
-  let refusal = '';
-  try {
-    await session.run();
-  } catch (problem) {
-    if (!(problem instanceof BadInput)) throw problem;
-    refusal = problem.message;
-  }
-  return { lines: session.lines, refusal };
 }

@@ -84,6 +84,11 @@ class ControlElement extends HTMLElement {
     return this.#use(() => this.#job(job, order));
   }
 
+  /** For tests, which reach further than a host. */
+  get _view() {
+    return this.#made();
+  }
+
   #use(work) {
     return isLoaded() ? work() : load().then(work);
   }

@@ -51,4 +51,4 @@ function end(number, settle) {
 }
 
 export const done = (number, answer) => end(number, (job) => job.resolve((job.answer = answer)));
-export const failed = (number, error) => end(number, (job) => job.reject(error));
+export const failed = (number, error) => end(number, (job) => job.reject((job.error = error)));

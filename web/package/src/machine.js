@@ -101,3 +101,6 @@ export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.n
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);
 export { isAtWork };
+
+/** For tests, which reach further than a host. */
+export const internals = () => ({ machine, memory, isAtWork });

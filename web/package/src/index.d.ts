@@ -1,0 +1,92 @@
+import type { Application, Lening, ProcedureTrace, DossierControle } from './model.js';
+
+export type * from './model.js';
+
+/** What became of a binding. Refused: something that is being typed does not pass, and the element stays bound as it was. */
+export type BindingResult = 'bound' | 'failed' | 'refused';
+/** What an element stands for. After a failed binding and after letting go it shows nothing until a binding succeeds. */
+export type BindingState = 'never' | 'bound' | 'failed' | 'unbound';
+
+/**
+ * A failure with a number. The component's own are 6 (overflow), 9 (subscript out of range), 13 (type mismatch), 91 (object
+ * missing), 381 (no such list entry) and 438 (no such member). What a host throws of this class reaches `ReportError` with
+ * its number, description and source; anything else is number 440 with its text.
+ */
+export class HostError extends Error {
+  constructor(number: number, description?: string, source?: string);
+  readonly number: number;
+  readonly source: string;
+}
+
+/** What the host makes where a control needs an object of its classes. To be set before the element is used. */
+export interface HostFactories {
+  /** Told "VrijeKolom" or "Toelichting". Without it failures are reported by a plain tracer. */
+  procedureTrace?(control: string): ProcedureTrace;
+  /** The check that a complete validation of the editor calls last. */
+  dossierControle?(control: string): DossierControle;
+}
+
+export interface ControlEventMap extends HTMLElementEventMap {
+  /** The header text of the column may have changed. Of the editor. */
+  refreshtopdisplay: CustomEvent<{ text: string }>;
+  /** The control was laid out: its height may have changed. Of the editor. */
+  heightchanged: CustomEvent<undefined>;
+  /** An edit of the explanation control was written into the record. */
+  changed: CustomEvent<undefined>;
+}
+
+declare class ControlElement extends HTMLElement {
+  hostFactories: HostFactories;
+  /** A colour as the component has it: 0x00BBGGRR, or below 0 for one of the system, which is the page's. */
+  backColor: number;
+  readonly state: BindingState;
+
+  /**
+   * The host's check before it leaves the column: whether to stay. What is being typed is handed over first. A question may
+   * be asked meanwhile. `controleNr`: 0 everything, or the number of one check.
+   */
+  validation(controleNr?: number, cancel?: boolean): Promise<boolean>;
+  /** Hands over what is being typed or chosen; false where something does not pass. */
+  commitPending(): Promise<boolean>;
+  /** Lets go of every object of the host's, and leaves the element empty. */
+  unbind(): Promise<void>;
+
+  addEventListener<K extends keyof ControlEventMap>(
+    type: K,
+    listener: (this: this, event: ControlEventMap[K]) => unknown,
+    options?: boolean | AddEventListenerOptions,
+  ): void;
+  addEventListener(
+    type: string,
+    listener: EventListenerOrEventListenerObject,
+    options?: boolean | AddEventListenerOptions,
+  ): void;
+}
+
+/** `<vrije-kolom>`: the editor of a free column. */
+export class VrijeKolomElement extends ControlElement {
+  /**
+   * Binds the editor to column `vrijId` of loan `lenId` (0: the loan of the current situation) and fills it. Without an
+   * application it lets go of the host.
+   */
+  setApplication(application: Application | null, lenId: number, vrijId: number): Promise<BindingResult>;
+  /** The check of the explanation control inside the editor: whether to stay. */
+  validationToelichting(controleNr?: number, cancel?: boolean): Promise<boolean>;
+  /** Whether the frame with the proposals is shown. */
+  beeindigenZichtbaar: boolean;
+}
+
+/** `<vrije-kolom-toelichting>`: the explanation control by itself. */
+export class ToelichtingElement extends ControlElement {
+  setApplication(application: Application | null, lening: Lening | null, vrijId: number): Promise<BindingResult>;
+}
+
+/** Resolves when the elements can show something; rejects where the browser could not start them. Nobody needs to wait. */
+export const ready: Promise<void>;
+
+declare global {
+  interface HTMLElementTagNameMap {
+    'vrije-kolom': VrijeKolomElement;
+    'vrije-kolom-toelichting': ToelichtingElement;
+  }
+}
