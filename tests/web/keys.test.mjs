@@ -131,7 +131,6 @@ if (!process.env.WEB_BROWSER)
   });
 
 editing('APastedAmountIsReadAsTyped', async () => {
-  await person.typeOver('TxtBd', '');
   await person.paste('TxtBd', '€ 1.250,75');
   await person.press('Tab');
   assert.equal(await item('Bedrag'), 1250.75);

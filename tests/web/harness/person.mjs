@@ -11,6 +11,9 @@ const findInPage = (selector, name) => {
   return null;
 };
 
+/** Without a window, Chromium has no editing commands of its own on its keys. */
+const COMMANDS = { 'Control+a': ['SelectAll'], 'Control+c': ['Copy'], 'Control+v': ['Paste'] };
+
 export class Person {
   constructor(page, selector = 'vrije-kolom') {
     this.page = page;
@@ -25,7 +28,7 @@ export class Person {
   async click(name, options = {}) {
     const input = await this.control(name);
     await input.scrollIntoView();
-    await input.click({ offset: undefined, ...options });
+    await input.click(options);
   }
   async type(text) {
     await this.page.keyboard.type(text);
@@ -36,7 +39,7 @@ export class Person {
       const parts = key === '+' ? ['+'] : key.split('+');
       const last = parts.pop();
       for (const part of parts) await this.page.keyboard.down(part);
-      await this.page.keyboard.press(last);
+      await this.page.keyboard.press(last === 'Space' ? ' ' : last, { commands: COMMANDS[key] });
       for (const part of parts.reverse()) await this.page.keyboard.up(part);
     }
   }
@@ -54,13 +57,14 @@ export class Person {
     if (text === '') await this.press('Delete');
     else await this.type(text);
   }
+  /** Copies a text from a box of the page, and pastes it into another one. */
   async paste(name, text) {
-    const input = await this.control(name);
-    await input.evaluate((box, pasted) => {
-      const data = new DataTransfer();
-      data.setData('text/plain', pasted);
-      box.dispatchEvent(new ClipboardEvent('paste', { clipboardData: data, bubbles: true, composed: true, cancelable: true }));
-    }, text);
+    await this.page.click('#bron');
+    await this.press('Control+a');
+    await this.type(text);
+    await this.press('Control+a', 'Control+c');
+    await this.click(name);
+    await this.press('Control+a', 'Control+v');
   }
 
   async text(name) {
