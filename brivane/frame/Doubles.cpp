@@ -30,8 +30,7 @@ double NearestDouble(std::string_view digits) {
 std::string ShortestDigits(double number) {
 #ifdef __cpp_lib_to_chars
   std::array<char, 400> digits{};
-  const auto written =
-      std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+  const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
   return {digits.data(), written.ptr};
 #else
   return ShortestDigitsByTrial(number);

@@ -125,7 +125,8 @@ TEST(ShortestDigits, ReadBackAndAreTheSameByTrial) {
   }
   std::mt19937_64 random(54);
   for (int i = 0; i < 4000; ++i) {
-    const double number = static_cast<double>(random() % 100'000'000'000'000) / static_cast<double>(1 + random() % 1000);
+    const double number =
+        static_cast<double>(random() % 100'000'000'000'000) / static_cast<double>(1 + random() % 1000);
     ASSERT_EQ(ShortestDigitsByTrial(number), ShortestDigits(number));
   }
 }

@@ -1,6 +1,6 @@
 // What tests of the elements reach through beside the public interface: a person's acts by the name of a control, the
-// state of every control, the machine's answers, and who is asked in a person's place. It is linked into a machine of its
-// own, and no part of the one that is published.
+// state of every control, the machine's answers, and who is asked in a person's place. It is linked into a machine of
+// its own, and no part of the one that is published.
 
 #include <emscripten.h>
 
@@ -324,8 +324,8 @@ EMSCRIPTEN_KEEPALIVE int brivane_door_record(int page, int form) {
 }
 
 /// A form by itself, on an amount object that was kept. `locked` are the rows that take no input, with blanks between.
-EMSCRIPTEN_KEEPALIVE int brivane_door_scenario(int page, int amount, int kind, int years, int labels, int age, int extra,
-                                               int discount, double most, const char* locked, void* place) {
+EMSCRIPTEN_KEEPALIVE int brivane_door_scenario(int page, int amount, int kind, int years, int labels, int age,
+                                               int extra, int discount, double most, const char* locked, void* place) {
   return Answering(place, [&] {
     web::Toolkit& toolkit = Element::Find(page)->Toolkit();
     const auto session = std::make_shared<webhost::Session>(page, toolkit.Life());

@@ -29,8 +29,7 @@ Element* Element::Find(int page) {
 Element::Element(int page, Kind kind) : page_(page), kind_(kind), body_(std::make_shared<Body>(page)) {
   elements_[page] = this;
   body_->session = std::make_shared<webhost::Session>(page, body_->toolkit.Life());
-  body_->surface =
-      body_->toolkit.MakeSurface(kind == Kind::VrijeKolom ? EditorDesign() : ToelichtingDesign());
+  body_->surface = body_->toolkit.MakeSurface(kind == Kind::VrijeKolom ? EditorDesign() : ToelichtingDesign());
   body_->binding.emplace(*body_->surface);
   // As designed the frames of the editor lie on each other: it is laid out when it is bound.
   Surface().SetVeiled(true);
@@ -72,8 +71,7 @@ controls::BindingResult Element::Bind(const Subject& subject) {
   life->Check();
   Make();
   life->Check();
-  const controls::BindingResult result =
-      body->binding->Bind([&] { body->part->Bind(*body->session, subject); });
+  const controls::BindingResult result = body->binding->Bind([&] { body->part->Bind(*body->session, subject); });
   life->Check();
   if (subject.application != nullptr) return result;
   LetGo(*body);

@@ -14,8 +14,8 @@ namespace brivane::webelement {
 enum class Kind : std::uint8_t { VrijeKolom, Toelichting };
 
 /// A control on a page with all that it runs on, as one thing that the page may take away at any moment: also while it
-/// asks something, has its form open, or calls the host. What was going on is abandoned then, and nothing of the host is
-/// touched any more.
+/// asks something, has its form open, or calls the host. What was going on is abandoned then, and nothing of the host
+/// is touched any more.
 ///
 /// All but the making and the going is done in a turn (web::RunTurn).
 class Element {

@@ -67,11 +67,9 @@ web::Key KeyOf(const Order& order) {
 double Act(Element& element, const Order& order) {
   web::NodePeer* const peer = element.Toolkit().Find(order.node);
   web::FormDialog* const form = element.Toolkit().FindForm(order.node);
-  if (form != nullptr && order.job == Job::Close) form->Close();
-  if (order.job == Job::Letter) {
-    web::FormDialog* const open = element.Toolkit().FindForm(order.node);
-    return element.Toolkit().GoByLetter(open != nullptr ? open->Form() : element.Surface(), order.text.front()) ? 1 : 0;
-  }
+  if (order.job == Job::Letter)
+    return element.Toolkit().GoByLetter(form != nullptr ? form->Form() : element.Surface(), order.text.front()) ? 1 : 0;
+  if (order.job == Job::Close && form != nullptr) form->Close();
   if (peer == nullptr) return 0;
   switch (order.job) {
     case Job::Key: return peer->OnKey(KeyOf(order)) ? 1 : 0;
@@ -88,18 +86,17 @@ double Do(Element& element, const Order& order) {
   switch (order.job) {
     case Job::Make: element.Make(); return 0;
     case Job::Bind:
-      return static_cast<double>(element.Bind({order.first, order.second, static_cast<std::int16_t>(order.number),
-                                               static_cast<std::int16_t>(order.more)}));
+      return static_cast<double>(element.Bind(
+          {order.first, order.second, static_cast<std::int16_t>(order.number), static_cast<std::int16_t>(order.more)}));
     case Job::Unbind: element.Unbind(); return 0;
-    case Job::Validation: return element.Validation(Element::Checked::All, order.more != 0, whole(order.number)) ? 1 : 0;
+    case Job::Validation:
+      return element.Validation(Element::Checked::All, order.more != 0, whole(order.number)) ? 1 : 0;
     case Job::ValidationToelichting:
       return element.Validation(Element::Checked::Toelichting, order.more != 0, whole(order.number)) ? 1 : 0;
     case Job::CommitPending: return element.CommitPending() ? 1 : 0;
     case Job::BackColor: element.SetBackColor({whole(order.number)}); return 0;
     case Job::BeeindigenZichtbaar: element.SetBeeindigenZichtbaar(order.number != 0); return 0;
-    case Job::Size:
-      element.Size({static_cast<float>(order.number)}, {static_cast<float>(order.more)});
-      return 0;
+    case Job::Size: element.Size({static_cast<float>(order.number)}, {static_cast<float>(order.more)}); return 0;
     default: break;
   }
   double done = 0;
@@ -108,7 +105,8 @@ double Do(Element& element, const Order& order) {
 }
 
 void RunJob(int number, int page, const Order& order) {
-  double result = 0;
+  // Of what was abandoned: a binding failed, a check has nothing against leaving.
+  double result = order.job == Job::Bind ? static_cast<double>(controls::BindingResult::Failed) : 0;
   try {
     if (Element* const element = Element::Find(page))
       controls::Life::Run(element->Toolkit().Life(), [&] { result = Do(*element, order); });
@@ -136,10 +134,13 @@ EMSCRIPTEN_KEEPALIVE void brivane_end(int page) {
 /// `first` and `second` are objects that the script has kept for this side; 0 for none.
 EMSCRIPTEN_KEEPALIVE void brivane_run(int number, int page, int job, int node, double value, double more,
                                       const char* text, int first, int second) {
-  const auto object = [page](int kept) { return kept != 0 ? std::make_shared<const webhost::Kept>(page, kept) : nullptr; };
-  web::RunTurn([number, page, order = Order{static_cast<Job>(job), node, value, more, text, object(first), object(second)}] {
-    RunJob(number, page, order);
-  });
+  const auto object = [page](int kept) {
+    return kept != 0 ? std::make_shared<const webhost::Kept>(page, kept) : nullptr;
+  };
+  web::RunTurn(
+      [number, page, order = Order{static_cast<Job>(job), node, value, more, text, object(first), object(second)}] {
+        RunJob(number, page, order);
+      });
 }
 
 /// Goes on with what was waiting for an answer that came.
@@ -165,7 +166,8 @@ EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
 
 EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {
   Element* const element = Element::Find(page);
-  return element != nullptr && element->Part() != nullptr ? element->Part()->BackColor().value : host::kButtonFace.value;
+  return element != nullptr && element->Part() != nullptr ? element->Part()->BackColor().value
+                                                          : host::kButtonFace.value;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_state(int page) {

@@ -19,7 +19,7 @@ namespace brivane::webelement {
 /// What an element is bound to, as its host gave it.
 struct Subject {
   webhost::Object application;
-  webhost::Object lening;  ///< of the explanation control
+  webhost::Object lening;   ///< of the explanation control
   std::int16_t Len_Id = 0;  ///< of the editor
   std::int16_t Vrij_Id = 0;
 };

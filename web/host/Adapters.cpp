@@ -27,16 +27,14 @@ Value Handed(const std::shared_ptr<host::Codetabellen>& bron) {
 
 std::string ItemAdapter::Voorstel(std::int16_t nummer) const {
   const auto voorstellen = Get<webhost::Object>("Voorstel");
-  return As<std::string>(
-      Asked([&](const webhost::Object&) { return Element(voorstellen, nummer - 1); }));
+  return As<std::string>(Asked([&](const webhost::Object&) { return Element(voorstellen, nummer - 1); }));
 }
 
 std::array<std::string, 3> PersoonAdapter::Naam() const {
   const auto delen = Get<webhost::Object>("Naam");
   std::array<std::string, 3> naam;
   for (std::size_t i = 0; i < naam.size(); ++i)
-    naam[i] = As<std::string>(
-        Asked([&](const webhost::Object&) { return Element(delen, static_cast<int>(i)); }));
+    naam[i] = As<std::string>(Asked([&](const webhost::Object&) { return Element(delen, static_cast<int>(i)); }));
   return naam;
 }
 
@@ -55,8 +53,9 @@ void ApplicationAdapter::VulCombo(const std::shared_ptr<host::Codetabellen>& bro
                                   std::optional<std::int32_t> keuze) {
   const LentKeuzelijst lent(lijst);
   Asked([&](const webhost::Object& object) {
-    webhost::Call(object, "VulCombo", {Handed(bron), Value(std::string(tabel)), Value(std::int32_t{lent.Number()}),
-                                       Value(code), Value(leeg), keuze ? Value(*keuze) : Value()});
+    webhost::Call(object, "VulCombo",
+                  {Handed(bron), Value(std::string(tabel)), Value(std::int32_t{lent.Number()}), Value(code),
+                   Value(leeg), keuze ? Value(*keuze) : Value()});
     return 0;
   });
 }

@@ -72,7 +72,9 @@ class LeningAdapter final : public AdapterOf<host::Lening> {
   std::shared_ptr<host::VrijeKolomItem> VrijeKolommen(std::int16_t Vrij_Id) override {
     return Item("VrijeKolommen", Vrij_Id);
   }
-  std::shared_ptr<host::VrijeKolomItem> VrijeKolom(std::int16_t Vrij_Id) override { return Item("VrijeKolom", Vrij_Id); }
+  std::shared_ptr<host::VrijeKolomItem> VrijeKolom(std::int16_t Vrij_Id) override {
+    return Item("VrijeKolom", Vrij_Id);
+  }
   std::shared_ptr<host::VrijeKolomItem> VrijeKolomOp(std::int16_t positie) override {
     return Item("VrijeKolomOp", positie);
   }

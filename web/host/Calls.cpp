@@ -90,9 +90,7 @@ void Call(const Object& object, const char* name, std::initializer_list<Value> a
   (void)Ask(object, Way::Call, name, arguments);
 }
 
-Value Element(const Object& object, int index) {
-  return Ask(object, Way::Element, "", {Value(std::int32_t{index})});
-}
+Value Element(const Object& object, int index) { return Ask(object, Way::Element, "", {Value(std::int32_t{index})}); }
 
 Object Make(int page, const char* what, const std::string& control) {
   const Value given(control);

@@ -16,8 +16,8 @@ namespace brivane::webhost {
 
 class Session;
 
-/// What stands for an object of the host. Who uses it after the life of its control has ended, or after what he stands in
-/// was abandoned, is abandoned: before the host is asked, and when it answers or fails.
+/// What stands for an object of the host. Who uses it after the life of its control has ended, or after what he stands
+/// in was abandoned, is abandoned: before the host is asked, and when it answers or fails.
 class Adapter {
  public:
   Adapter(std::shared_ptr<Session> session, Object object);
@@ -31,7 +31,8 @@ class Adapter {
 
  protected:
   template <class T, class... Arguments> [[nodiscard]] T Get(const char* name, const Arguments&... arguments) const {
-    return As<T>(Asked([&](const webhost::Object& object) { return webhost::Get(object, name, {Value(arguments)...}); }));
+    return As<T>(
+        Asked([&](const webhost::Object& object) { return webhost::Get(object, name, {Value(arguments)...}); }));
   }
   template <class T> void Put(const char* name, const T& value, int index = 0) {
     Asked([&](const webhost::Object& object) { return webhost::Put(object, name, Value(value), index), 0; });

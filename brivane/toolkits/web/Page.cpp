@@ -47,9 +47,10 @@ std::string Taken(char* text) {
 std::string Written(const NodeDesign& design) {
   constexpr char kNext = '\x1f';
   std::string written;
-  for (const std::string* text : {&design.name, &design.label, &design.caption, &design.group}) written += *text + kNext;
-  for (const int number : {design.kind, design.format, design.order, int{design.bordered}, int{design.multiline},
-                           int{design.row}})
+  for (const std::string* text : {&design.name, &design.label, &design.caption, &design.group})
+    written += *text + kNext;
+  for (const int number :
+       {design.kind, design.format, design.order, int{design.bordered}, int{design.multiline}, int{design.row}})
     written += std::to_string(number) + kNext;
   return written;
 }

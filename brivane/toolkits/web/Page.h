@@ -24,10 +24,10 @@ struct NodeDesign {
   std::string caption;  ///< with an "&" before its mnemonic
   std::string group;    ///< of the options that exclude each other
   int format = 0;
-  int order = 0;        ///< where it stands among those of its container, from 0
+  int order = 0;  ///< where it stands among those of its container, from 0
   bool bordered = true;
   bool multiline = false;
-  bool row = false;     ///< one of the many of a form
+  bool row = false;  ///< one of the many of a form
 };
 
 /// What the page shows beside what controls::Aspect names.
@@ -38,11 +38,11 @@ enum class Shows : std::uint8_t {
   Nothing,      ///< neither
   Selected,     ///< the whole text of a box is selected
   Focus,
-  Label,        ///< what a screen reader calls it
-  Help,         ///< what there is to know about a row
-  Heading,      ///< of a list view: one more column, with its width in twips
-  Row,          ///< of a list view: one more row, selected or not
-  Cell,         ///< of the row added last: one more cell, bold or not
+  Label,    ///< what a screen reader calls it
+  Help,     ///< what there is to know about a row
+  Heading,  ///< of a list view: one more column, with its width in twips
+  Row,      ///< of a list view: one more row, selected or not
+  Cell,     ///< of the row added last: one more cell, bold or not
 };
 
 /// What the page is asked about an element.

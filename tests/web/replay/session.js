@@ -46,6 +46,11 @@ export class Session {
     });
   }
 
+  /** The door of the element, once the session runs. */
+  get door() {
+    return this.#door;
+  }
+
   async run() {
     const { today, title = 'Dossier', locale = 'nl_NL', screen = {}, steps } = this.#document;
     const element = this.#element;

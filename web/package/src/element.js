@@ -1,7 +1,7 @@
 import { HostError } from './errors.js';
 import { Job } from './jobs.js';
 import { backColorOf, dropView, isLoaded, load, newView, runJob, stateOf } from './machine.js';
-import { sheet } from './style.js';
+import { sheet, TWIPS_AN_EM } from './style.js';
 import { DossierControle, ProcedureTrace } from './trace.js';
 import { View } from './view.js';
 
@@ -9,6 +9,8 @@ const STATES = ['never', 'bound', 'failed', 'unbound'];
 const RESULTS = ['bound', 'failed', 'refused'];
 const EVENTS = ['refreshtopdisplay', 'heightchanged', 'changed'];
 const TYPE_MISMATCH = 13;
+/** Of the explanation control, in twips. */
+const DESIGN_WIDTH = 6030;
 
 function whole(value) {
   if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
@@ -105,7 +107,6 @@ class ControlElement extends HTMLElement {
     });
     newView(view, this._kind);
     this.#view = view;
-    runJob(view, Job.size);
     return view;
   }
 
@@ -167,8 +168,17 @@ export class VrijeKolomElement extends ControlElement {
   }
 }
 
-/** The explanation control by itself. */
+/** The explanation control by itself. It is as wide as its place, and no narrower than its design. */
 export class ToelichtingElement extends ControlElement {
+  #sizes = new ResizeObserver(([entry]) => {
+    const width = Math.round(entry.contentRect.width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM));
+    if (this.state === 'bound') this._job(Job.size, { number: Math.max(DESIGN_WIDTH, width) });
+  });
+
+  constructor() {
+    super();
+    this.#sizes.observe(this);
+  }
   get _kind() {
     return 1;
   }

@@ -2,6 +2,7 @@
 // and `area` is where others stand in it.
 
 import { colorsOf } from './colors.js';
+import { TWIP } from './style.js';
 
 /** As in Control.h. */
 const Kind = Object.freeze({
@@ -17,12 +18,10 @@ export const Shows = Object.freeze({
   number: 32, selected: 36, focus: 37, label: 38, help: 39, heading: 40, row: 41, cell: 42,
 });
 
-/** The font of the designs, in points: as large as the text around the element. */
-const POINTS = 9;
 const TWIPS_A_POINT = 20;
 
 const make = (name, className, properties = {}) => Object.assign(document.createElement(name), { className }, properties);
-const twips = (length) => `calc(${length} * var(--twip))`;
+const twips = (length) => `calc(${length} * var(${TWIP}))`;
 
 /** A caption with an "&" before the letter to underline, and "&&" for one to show. */
 function writeCaption(element, marked) {
@@ -64,7 +63,7 @@ class Node {
       case Shows.enabled: return this.enable(number !== 0);
       case Shows.visible: this.outer.hidden = number === 0; return;
       case Shows.caption: if (this.caption !== null) writeCaption(this.caption, text); return;
-      case Shows.fontSize: return this.size(number, POINTS);
+      case Shows.fontSize: this.outer.style.fontSize = twips(number * TWIPS_A_POINT); return;
       case Shows.backColor: return this.color(number);
       case Shows.focus: this.input?.focus(); return;
       case Shows.label: this.input?.setAttribute('aria-label', text); return;
@@ -75,12 +74,6 @@ class Node {
   enable(enabled) {
     if (this.input !== null) this.input.disabled = !enabled;
     this.outer.classList.toggle('disabled', !enabled);
-  }
-
-  /** What stands in it keeps its places: a twip does not depend on the size of the text. */
-  size(points, around) {
-    this.outer.style.fontSize = `${points / around}em`;
-    this.outer.style.setProperty('--twip', `calc(1em / ${points * TWIPS_A_POINT})`);
   }
 
   color(number) {

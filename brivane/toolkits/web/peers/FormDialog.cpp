@@ -51,7 +51,8 @@ void FormDialog::TellRows() const {
     const NodeId node = PeerOf(*control)->Node();
     if (control->Row().tab == 0) continue;
     Page().Show(node, Shows::Label, 0, std::string(control->AccessibleName()));
-    if (const std::string help = subject_.OfRow(control->Index()); !help.empty() && control->ControlKind() == Kind::TextBox)
+    if (const std::string help = subject_.OfRow(control->Index());
+        !help.empty() && control->ControlKind() == Kind::TextBox)
       Page().Show(node, Shows::Help, 0, help);
   }
 }
@@ -110,9 +111,10 @@ void FormDialog::Step(NodePeer& from, Direction direction, bool page) {
   const auto here = std::find(column.begin(), column.end(), &from);
   if (here == column.end()) return;
   const host::Twips left = from.Control().Host().Place().left;
-  const auto steps = page ? std::count_if(column.begin(), column.end(),
-                                          [&](const NodePeer* peer) { return peer->Control().Host().Place().left == left; })
-                          : 1;
+  const auto steps =
+      page ? std::count_if(column.begin(), column.end(),
+                           [&](const NodePeer* peer) { return peer->Control().Host().Place().left == left; })
+           : 1;
   const auto far = std::min<std::ptrdiff_t>(steps, std::distance(here, std::prev(column.end())));
   if (far > 0) (*std::next(here, far))->TakeFocus();
 }

@@ -50,7 +50,9 @@ NodeDesign DesignOf(const controls::AnyControl& control) {
                                                   : controls::MarkedCaption(row, std::string(row.caption)),
           .group = row.kind == host::Kind::OptionButton ? std::string(row.name) : std::string(),
           .format = static_cast<int>(row.format),
-          .order = control.Owner() == nullptr ? 0 : made ? kRows : OrderOf(control.Owner()->Table(), row),
+          .order = control.Owner() == nullptr ? 0
+                   : made                     ? kRows
+                                              : OrderOf(control.Owner()->Table(), row),
           .bordered = row.bordered,
           .multiline = row.multiline,
           .row = made};
@@ -81,8 +83,8 @@ void NodePeer::Refresh(Aspect aspect) {
       if (const auto color = state.BackColor()) Page().Show(node_, aspect, color->value);
       return;
     case Aspect::Caption:
-      return ShowText(aspect, controls::MarkedCaption(control_.Row(),
-                                                      dynamic_cast<const host::Captioned&>(state).Caption()));
+      return ShowText(aspect,
+                      controls::MarkedCaption(control_.Row(), dynamic_cast<const host::Captioned&>(state).Caption()));
     default: return;
   }
 }

@@ -22,7 +22,8 @@ std::unique_ptr<NodePeer> Make(controls::AnyControl& control, Toolkit& toolkit) 
     case Kind::Hint: return std::make_unique<NodePeer>(control, toolkit);
     case Kind::TextBox: return std::make_unique<BoxPeer>(static_cast<controls::TextBox&>(control), toolkit);
     case Kind::JaNee: return std::make_unique<TogglePeer>(static_cast<controls::JaNee&>(control), toolkit);
-    case Kind::OptionButton: return std::make_unique<OptionPeer>(static_cast<controls::OptionButton&>(control), toolkit);
+    case Kind::OptionButton:
+      return std::make_unique<OptionPeer>(static_cast<controls::OptionButton&>(control), toolkit);
     case Kind::CheckBox: return std::make_unique<CheckPeer>(static_cast<controls::CheckBox&>(control), toolkit);
     case Kind::ListBox: return std::make_unique<ListPeer>(static_cast<controls::ListBox&>(control), toolkit);
     case Kind::Button: return std::make_unique<ButtonPeer>(control, toolkit);
