@@ -5,7 +5,7 @@ const PERSONEN = [
   { Naam: ['J.', 'van', 'Dam'], Geboortedatum: '1975-12-31' },
   { Naam: ['A.', 'de', 'Wit'], Geboortedatum: '1978-02-03' },
 ];
-const MAATSCHAPPIJEN = [['AB', 'Alfa Bank'], ['ZZ', 'Anders']];
+const MAATSCHAPPIJEN = [['AB', 'Alfa Bank'], ['CD', 'Centrale Dekking'], ['ZZ', 'Anders']];
 
 export function makeHost(kolommen, { personen = PERSONEN, Leeftijd = 67 } = {}) {
   const dossier = new Dossier({ Personen: personen, HuidigeLening: { VrijeKolommen: kolommen }, Leningen: [{}] });
