@@ -46,6 +46,7 @@ void Desktop::DoPendingEvents() {
     Waiting pause;
     const int number = ++last_;
     pauses_[number] = &pause;
+    const controls::Life::AtEnd close(*life_, [&] { CameBack(number); });
     page_.ComeBack(number);
     pause.Wait();
   }

@@ -75,7 +75,17 @@ export function listen(view) {
     if (!job.done || job.answer !== 0) stop(event);
   }
 
+  /** Shows what a help icon has to say: to a pointer over it, and to who goes to it by keys or presses it. */
+  function help(event) {
+    const node = nodeOf(event);
+    if (node?.isHint && (event.type !== 'focusin' || node.input.matches(':focus-visible'))) view.tip.show(node);
+  }
+  function helpNoMore(event) {
+    if (nodeOf(event)?.outer === view.tip.anchor) view.tip.take();
+  }
+
   function escape(event) {
+    if (view.tip.anchor !== null) return stop(event), view.tip.take();
     if (view.dialog === null) return;
     stop(event);
     if (view.dialog.node !== undefined) run(Job.close, view.dialog.node);
@@ -95,6 +105,7 @@ export function listen(view) {
 
   /** Where the window loses the focus, or a dialog of the machine takes it, nothing has been left. */
   function focusOut(event) {
+    helpNoMore(event);
     const node = nodeOf(event);
     if (node === null || isAtWork() || view.root.activeElement === event.target || !document.hasFocus()) return;
     if (isBox(node) || isList(node)) run(Job.left, node);
@@ -116,6 +127,7 @@ export function listen(view) {
   function click(event) {
     const node = nodeOf(event);
     if (node === null) return;
+    help(event);
     if (event.target === node.closeButton) run(Job.close, node);
     else if (event.target.closest?.('.calendar')) node.input.focus(), node.openCalendar();
     else if (isToggle(node)) toggle(event, node);
@@ -145,7 +157,7 @@ export function listen(view) {
   }
 
   const root = view.root;
-  const heard = { keydown: keyDown, input, paste, focusout: focusOut, mousedown: mouseDown, click, change,
+  const heard = { keydown: keyDown, input, paste, focusout: focusOut, focusin: help, mouseover: help, mouseout: helpNoMore, mousedown: mouseDown, click, change,
     cancel: (event) => event.preventDefault() };
   const isFirst = (name) => name === 'mousedown' || name === 'cancel';
   for (const [name, listener] of Object.entries(heard)) root.addEventListener(name, listener, isFirst(name));

@@ -184,13 +184,13 @@ class Toggle extends Node {
 }
 
 class Hint extends Node {
+  isHint = true;
+
   constructor(view, id, design) {
     const outer = make('span', 'hint');
     const input = make('button', 'help', { type: 'button', textContent: '?' });
     input.part = 'hint';
-    const text = make('span', 'tip', { id: `t${id}`, textContent: design.caption });
-    text.part = 'tip';
-    text.setAttribute('role', 'tooltip');
+    const text = make('span', 'spoken', { id: `t${id}`, textContent: design.caption });
     outer.append(input, text);
     super(view, id, { ...design, label: design.label === '' ? 'Hulp' : design.label }, outer, { input });
     input.setAttribute('aria-describedby', text.id);

@@ -12,7 +12,11 @@ let made = null;
 export function sheet() {
   if (made === null) {
     // A length of the element's own text, whatever the text around what it is used for.
-    CSS.registerProperty({ name: TWIP, syntax: '<length>', inherits: true, initialValue: '1px' });
+    try {
+      CSS.registerProperty({ name: TWIP, syntax: '<length>', inherits: true, initialValue: '1px' });
+    } catch {
+      // Another copy of this module on the page was first.
+    }
     made = new CSSStyleSheet();
     made.replaceSync(CSS_TEXT);
   }
@@ -94,21 +98,17 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   padding: 0 .6em; border: 1px solid var(--line); border-radius: 3px; background: var(--face); white-space: nowrap;
 }
 .button:disabled { color: GrayText; }
+.hint { display: grid; place-items: center; }
 .help {
-  width: 100%; height: 100%; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
+  width: 100%; aspect-ratio: 1; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
   font-weight: bold; line-height: 1;
 }
-.tip {
-  position: absolute; left: 0; top: calc(100% + 3px); z-index: 20; width: max-content; max-width: 24em; padding: .4em .6em;
-  visibility: hidden; white-space: normal;
-}
+.spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 .tip, .bubble {
   border: 1px solid var(--line); border-radius: 3px; background: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);
+  position: fixed; inset: auto; margin: 0; width: max-content; max-width: min(26em, 92vw); padding: .3em .5em; pointer-events: none;
 }
-.hint:hover .tip, .help:focus-visible + .tip { visibility: visible; }
-.hint:hover, .hint:focus-within { z-index: 20; }
-.bubble { position: absolute; z-index: 30; width: max-content; max-width: min(26em, 90vw); padding: .3em .5em; }
 
 .listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
 table { border-collapse: collapse; table-layout: fixed; width: max-content; }

@@ -1,8 +1,8 @@
 // What stands in the shadow root of one element: a node for each control, and the dialogs. The machine calls its members
 // by name (machine.js); what a person does goes back by events.js.
 
-import { Bubble } from './bubble.js';
 import { listen } from './events.js';
+import { Bubble, Tip } from './floating.js';
 import { HostObjects } from './host.js';
 import { MessageBox } from './messagebox.js';
 import { makeNode } from './nodes.js';
@@ -34,6 +34,7 @@ export class View {
   objects = new HostObjects();
   nodes = new Map();
   bubble = new Bubble();
+  tip = new Tip();
   #owner;
   #label = null;
   #dialogs = [];
