@@ -6,8 +6,8 @@ import { extname, normalize } from 'node:path';
 
 export const POLICY = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'self'; connect-src 'self'; " +
   "img-src 'self' data:; frame-src 'self'; base-uri 'none'; form-action 'none'";
-const TYPES = { '.html': 'text/html', '.js': 'text/javascript', '.mjs': 'text/javascript', '.css': 'text/css',
-  '.wasm': 'application/wasm', '.json': 'application/json', '.svg': 'image/svg+xml' };
+const TYPES = { '.html': 'text/html; charset=utf-8', '.js': 'text/javascript; charset=utf-8', '.css': 'text/css; charset=utf-8',
+  '.wasm': 'application/wasm' };
 
 /** The file that a path names, or nothing. `folders` are pairs of what a path begins with and where that stands. */
 function fileOf(path, folders) {
@@ -25,7 +25,7 @@ export async function serve(folders, port = 0) {
     const file = fileOf(decodeURIComponent(new URL(request.url, 'http://localhost').pathname), folders);
     if (file === null) return void response.writeHead(404).end();
     response.writeHead(200, {
-      'content-type': `${TYPES[extname(file)] ?? 'application/octet-stream'}; charset=utf-8`,
+      'content-type': TYPES[extname(file)] ?? 'application/octet-stream',
       'content-security-policy': POLICY,
       'cache-control': 'no-cache',
     });

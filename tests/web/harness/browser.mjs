@@ -34,7 +34,7 @@ export function useBrowser(name = 'chrome', options = {}) {
       return server.origin;
     },
     async open(path, viewport) {
-      server ??= await serve([['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/', `${top}web/demo/`],
+      server ??= await serve([['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
         ['/tests/', `${top}tests/web/`], ['/examples/', `${top}examples/web/`], ['/made/', `${built}made/`]]);
       browser ??= await launch(name, options);
       const page = await browser.newPage();
