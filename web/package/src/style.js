@@ -101,7 +101,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .hint { display: grid; place-items: center; }
 .help {
   width: 100%; aspect-ratio: 1; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
-  font-weight: bold; line-height: 1;
+  font-weight: bold; line-height: 1; forced-color-adjust: none;
 }
 .spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 .tip, .bubble {
