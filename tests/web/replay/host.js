@@ -20,7 +20,7 @@ const MISSING = 91;
 
 /** A value as documents and transcripts write it. */
 const written = (name, value) => (DATES.has(name) && value === null ? 0 : value);
-const read = (name, value) => (DATES.has(name) && value === 0 ? null : name === 'PercentageOvergang' ? Math.fround(value) : value);
+const read = (name, value) => (DATES.has(name) && (value === 0 || value === '1899-12-30') ? null : name === 'PercentageOvergang' ? Math.fround(value) : value);
 
 /** Counts the accesses of each member, and fails those that were planned to fail. */
 class Ledger {

@@ -12,13 +12,22 @@ const SEPARATORS = { nl_NL: '.', en_US: ',' };
 const SCENARIO = { AantalJaar: 1, Labeltype: 0, Anv_Leeftijd: 0, LooptijdExtra: false, In_RenteKorting: false, Bd_MaxOpname: 0,
   SoortScenario: 0, DisableJaar: [] };
 
+/** Plain digits where people read them, and beyond that what is shorter. */
+function writeNumber(value) {
+  if (Object.is(value, -0)) return '-0.0';
+  const size = Math.abs(value);
+  if (!Number.isFinite(value) || size === 0 || (size >= 1e-6 && size < 2 ** 53)) return JSON.stringify(value);
+  const short = value.toExponential().replace(/e([+-])(\d)$/, 'e$10$2');
+  const digits = size < 1 ? '' : BigInt(value).toString();
+  return digits !== '' && digits.length <= short.length ? digits : short;
+}
+
 /** JSON with a blank behind each comma and colon, and numbers as the replay tool writes them. */
 function write(value) {
   if (Array.isArray(value)) return `[${value.map(write).join(', ')}]`;
   if (value !== null && typeof value === 'object')
     return `{${Object.entries(value).filter(([, member]) => member !== undefined).map(([key, member]) => `${JSON.stringify(key)}: ${write(member)}`).join(', ')}}`;
-  if (Object.is(value, -0)) return '-0.0';
-  return JSON.stringify(value);
+  return typeof value === 'number' ? writeNumber(value) : JSON.stringify(value);
 }
 
 const elementName = ({ control, index }) => (index === undefined ? control : `${control}(${index})`);

@@ -210,6 +210,10 @@ class Choice extends Node {
   show(what, number, text) {
     if (what === Shows.number) this.input.checked = number !== 0;
     else super.show(what, number, text);
+    // A choice without a caption (a partner who is not there) is called what the design calls it.
+    if (what !== Shows.caption) return;
+    if (text === '') this.input.setAttribute('aria-label', this.design.caption.replace(/&(.)/gs, '$1'));
+    else if (this.design.label === '') this.input.removeAttribute('aria-label');
   }
 }
 

@@ -1,0 +1,54 @@
+// A browser of this machine without a window, and the pages of the tests in it.
+import { existsSync } from 'node:fs';
+import { after } from 'node:test';
+
+import { built, puppeteer, top } from './packages.mjs';
+import { serve } from '../../../web/demo/server.mjs';
+
+const PROGRAMS = { chrome: '/usr/bin/chromium', firefox: '/usr/bin/firefox-esr' };
+
+async function launch(name, options) {
+  const program = PROGRAMS[name];
+  if (!existsSync(program)) throw new Error(`${program} is not there: it stands in packages.txt`);
+  const chrome = name === 'chrome';
+  const args = chrome ? ['--enable-precise-memory-info', '--js-flags=--expose-gc', '--lang=nl', '--font-render-hinting=none'] : [];
+  // A browser of root has no sandbox.
+  if (chrome && process.getuid() === 0) args.push('--no-sandbox');
+  return puppeteer.launch({ browser: name, executablePath: program, headless: true, args, protocolTimeout: 120000,
+    defaultViewport: { width: 1000, height: 800 }, ...options });
+}
+
+/**
+ * Opens pages in one browser, for one file of tests: `open` answers a page whose faults fail the test that asks for
+ * them, and everything is closed in the end. What the page itself reports stands in `page.faults`.
+ */
+export function useBrowser(name = 'chrome', options = {}) {
+  let server = null;
+  let browser = null;
+  after(async () => {
+    await browser?.close();
+    await server?.close();
+  });
+  return {
+    get origin() {
+      return server.origin;
+    },
+    async open(path, viewport) {
+      server ??= await serve([['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
+        ['/tests/', `${top}tests/web/`], ['/examples/', `${top}examples/web/`], ['/made/', `${built}made/`]]);
+      browser ??= await launch(name, options);
+      const page = await browser.newPage();
+      page.faults = [];
+      page.on('pageerror', (error) => page.faults.push(String(error?.stack ?? error)));
+      page.on('console', (message) => {
+        if (message.type() === 'error') page.faults.push(message.text());
+      });
+      if (viewport !== undefined) await page.setViewport(viewport);
+      await page.goto(server.origin + path);
+      return page;
+    },
+    get browser() {
+      return browser;
+    },
+  };
+}

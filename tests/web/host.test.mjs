@@ -1,0 +1,183 @@
+// Hosts that fail, answer what they should not, and take the element away at the wrong moment: it is reported, or it ends,
+// and nothing hangs.
+import assert from 'node:assert/strict';
+import { before, test } from 'node:test';
+
+import { useBrowser } from './harness/browser.mjs';
+import { Person } from './harness/person.mjs';
+
+const COLUMN = { Id: 1, Omschrijving: 'Contributie', DatumAanvang: '2031-04-01', Looptijd: 30, Bedrag: { Bedrag: 7, Perioden: [{ Maand: 13, Bedrag: 8 }] } };
+const { open } = useBrowser();
+let page;
+let person;
+
+before(async () => {
+  page = await open('/tests/pages/editor.html');
+  await page.waitForFunction(() => window.isReady);
+  person = new Person(page);
+});
+
+/** Binds with a member of an object of the host replaced by a getter that does this, and answers what came of it. */
+const bindWith = (member, what) =>
+  page.evaluate(async ([name, todo, fields]) => {
+    await window.bind({ ...fields });
+    const fresh = document.createElement('vrije-kolom');
+    window.editor.replaceWith(fresh);
+    window.editor = fresh;
+    window.reports.length = 0;
+    const item = window.item;
+    const answers = { undefined, NaN, text: 'geen getal', number: 12.5, noDate: '2031-02-31', huge: 1e9 };
+    Object.defineProperty(item, name, {
+      configurable: true,
+      get: () => {
+        if (todo === 'throw') throw Object.assign(new Error('De host weigert'), { number: 1234, source: 'Proef' });
+        if (todo === 'throw text') throw 'zomaar een tekst';
+        return answers[todo];
+      },
+      set() {},
+    });
+    const result = await fresh.setApplication(window.application, 0, 1);
+    return { result, reports: window.reports, state: fresh.state };
+  }, [member, what, COLUMN]);
+
+/** A procedure inside another one reports by itself, so that there may be more than one. */
+function holdReports(reports, number) {
+  assert.ok(reports.length > 0);
+  assert.deepEqual(new Set(reports.map((report) => report.number)), new Set([number]));
+}
+
+const READ = ['CorrectieLast', 'CorrectieFiscaal', 'Omschrijving', 'Termijn', 'InkomenUitArbeid', 'InDagloon', 'HeffingBij',
+  'IsProduct', 'DatumAanvang', 'Looptijd', 'UitsluitenAO', 'ScenarioOverlijden', 'Bedrag'];
+
+for (const member of READ)
+  test(`host.AFailureOf${member}IsReported`, async () => {
+    const { result, reports, state } = await bindWith(member, 'throw');
+    assert.equal(result, 'failed');
+    assert.equal(state, 'failed');
+    holdReports(reports, '1234');
+    assert.equal(reports[0].text, 'De host weigert');
+  });
+
+for (const [member, what, number] of [
+  ['Omschrijving', 'undefined', '13'], ['Omschrijving', 'number', '13'], ['Termijn', 'undefined', '13'],
+  ['Termijn', 'NaN', '13'], ['Termijn', 'text', '13'], ['Termijn', 'huge', '6'], ['InkomenUitArbeid', 'text', '13'],
+  ['DatumAanvang', 'noDate', '13'], ['DatumAanvang', 'text', '13'], ['Looptijd', 'NaN', '13'], ['Bedrag', 'number', '13'],
+  ['Omschrijving', 'throw text', '440'],
+])
+  test(`host.${member}As ${what} IsError${number}`, async () => {
+    const { result, reports } = await bindWith(member, what);
+    assert.equal(result, 'failed');
+    holdReports(reports, number);
+  });
+
+test('host.AMemberThatIsMissingIsReported', async () => {
+  const reports = await page.evaluate(async (fields) => {
+    await window.bind(fields);
+    window.reports.length = 0;
+    delete window.item.Termijn;
+    await window.editor.setApplication(window.application, 0, 1);
+    return window.reports;
+  }, COLUMN);
+  assert.equal(reports[0].number, '438');
+});
+
+test('host.AFailedWriteIsReportedAndTheTextIsKept', async () => {
+  await page.evaluate((fields) => window.bind(fields), COLUMN);
+  await page.evaluate(() => Object.defineProperty(window.item, 'Omschrijving', { get: () => 'Contributie', set() {
+    throw new Error('Alleen lezen');
+  } }));
+  await person.typeOver('TxtOm', 'Krant');
+  await person.press('Tab');
+  const reports = await page.evaluate(() => window.reports);
+  assert.equal(reports.length, 1);
+  assert.equal(reports[0].number, '440');
+  assert.equal(reports[0].text, 'Alleen lezen');
+  assert.equal(await person.text('TxtOm'), 'Krant');
+  assert.equal(await person.focused(), 'TxtOm');
+  assert.equal(await person.said(), 'Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.');
+  await person.press('Escape');
+  await person.typeOver('TxtBd', '12');
+  await person.press('Enter');
+  assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 12);
+});
+
+for (const event of ['changed', 'heightchanged', 'refreshtopdisplay'])
+  test(`host.AListenerOf ${event} ThatThrowsStopsNothing`, async () => {
+    await page.evaluate(async ([name, fields]) => {
+      await window.bind(fields);
+      window.editor.addEventListener(name, () => {
+        throw new Error('mislukt');
+      });
+    }, [event, COLUMN]);
+    await (await person.control('Toelichting.jnAO')).focus();
+    await person.press('n');
+    await person.click('optLast(2)');
+    assert.equal(await page.evaluate(() => window.item.UitsluitenAO), true);
+    assert.equal(await page.evaluate(() => window.item.CorrectieLast), 2);
+    page.faults.length = 0;
+  });
+
+/** The element is taken away in its own event, and another one works on. */
+for (const event of ['changed', 'refreshtopdisplay'])
+  test(`host.TheElementTakenAwayIn ${event} EndsQuietly`, async () => {
+    await page.evaluate(async ([name, fields]) => {
+      await window.bind(fields);
+      window.editor.addEventListener(name, () => window.editor.remove(), { once: true });
+    }, [event, COLUMN]);
+    await (await person.control('Toelichting.jnAO')).focus();
+    await person.press('n');
+    if (event === 'refreshtopdisplay' && await page.evaluate(() => window.editor.isConnected)) await person.click('optLast(2)');
+    await page.waitForFunction(() => !window.editor.isConnected);
+    assert.deepEqual(await page.evaluate(() => window.reports), []);
+    await worksAgain();
+  });
+
+/** After all that, a fresh editor in the same page is bound and takes an amount. */
+async function worksAgain() {
+  await page.evaluate((fields) => {
+    document.querySelector('vrije-kolom') ?? document.querySelector('main').append(document.createElement('vrije-kolom'));
+    return window.bind(fields);
+  }, COLUMN);
+  await person.typeOver('TxtBd', '42');
+  await person.press('Tab');
+  assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 42);
+}
+
+test('host.TheElementTakenAwayWithItsFormOpenEndsQuietly', async () => {
+  await page.evaluate((fields) => window.bind(fields), COLUMN);
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  const validated = await page.evaluate(async () => {
+    window.editor.remove();
+    await new Promise((done) => setTimeout(done));
+    return window.editor.shadowRoot.childElementCount;
+  });
+  assert.equal(validated, 0);
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+  await worksAgain();
+});
+
+test('host.TheElementTakenAwayWithAMessageOpenEndsQuietly', async () => {
+  await page.evaluate((fields) => window.bind(fields), COLUMN);
+  await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.press('Tab');
+  await person.until(async () => (await person.message()) !== '', 'the message');
+  await page.evaluate(() => window.editor.remove());
+  await new Promise((done) => setTimeout(done, 50));
+  await worksAgain();
+});
+
+test('host.AnEditorPutBackIsBoundAsItWas', async () => {
+  await page.evaluate(async (fields) => {
+    await window.bind(fields);
+    const { editor } = window;
+    editor.remove();
+    await new Promise((done) => setTimeout(done));
+    document.querySelector('main').prepend(editor);
+  }, COLUMN);
+  await page.waitForFunction(() => window.editor.state === 'bound');
+  assert.equal(await person.text('TxtOm'), 'Contributie');
+  await page.evaluate(() => document.querySelector('h1').after(window.editor));
+});
+
+test('host.NothingElseWentWrong', () => assert.deepEqual(page.faults, []));

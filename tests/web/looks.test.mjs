@@ -1,0 +1,91 @@
+// What stands on the page: as on every other toolkit, without a fault for those who read it otherwise, and as Chromium's
+// accessibility tree tells it.
+import assert from 'node:assert/strict';
+import { readFileSync, writeFileSync } from 'node:fs';
+import { before, test } from 'node:test';
+
+import { useBrowser } from './harness/browser.mjs';
+import { axeScript, top } from './harness/packages.mjs';
+import { Person } from './harness/person.mjs';
+
+const COLUMN = { Id: 1, Omschrijving: 'Contributie tennisvereniging', DatumAanvang: '2031-04-01', Looptijd: 30, Bedrag: { Bedrag: 1234.5 } };
+const ALONE = { personen: [{ Naam: ['J.', 'van', 'Dam'], Geboortedatum: '1975-12-31' }] };
+const STATES = {
+  'editor-vaste-last': [COLUMN, ALONE],
+  'editor-product': [{ ...COLUMN, IsProduct: true, Maatschappij: 'ZZ', MaatschappijNaam: 'Drukkerij De Pers', Productsoort: 44,
+    Productnaam: 'Zaterdagabonnement', UwBemiddeling: true, Contractvervaldatum: '2033-12-31' }, {}],
+  'editor-overgang': [{ ...COLUMN, CorrectieLast: 2, CorrectieFiscaal: 2, HeffingBij: 2, UitsluitenAO: true,
+    ScenarioOverlijden: true, PercentageOvergang: 70, EinddatumOvergang: '2040-04-01' }, {}],
+};
+const { open } = useBrowser();
+let page;
+let person;
+
+before(async () => {
+  page = await open('/tests/pages/editor.html', { width: 1100, height: 900 });
+  await page.waitForFunction(() => window.isReady);
+  await page.evaluate(readFileSync(axeScript, 'utf8'));
+  person = new Person(page);
+});
+const bind = (state) => page.evaluate(([fields, settings]) => window.bind(fields, settings), STATES[state]);
+
+for (const state of Object.keys(STATES))
+  test(`looks.${state} IsShownAsEveryToolkitShowsIt`, async () => {
+    await bind(state);
+    const shown = await page.evaluate(async () => (await import('/tests/pages/shown.js')).shownText(window.editor));
+    assert.deepEqual(shown, readFileSync(`${top}tests/toolkits/shown/${state}.txt`, 'utf8').trimEnd().split('\n'));
+  });
+
+/** What a person may come upon, each to be looked at. */
+const SIGHTS = {
+  ...Object.fromEntries(Object.keys(STATES).map((state) => [state, () => bind(state)])),
+  'een leeg element': () => page.evaluate(() => window.editor.unbind()),
+  'een weigering': async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtBd', '12.50');
+    await person.press('Tab');
+  },
+  'een melding': async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtDtEind', '1-1-1990');
+    await person.press('Tab');
+    await person.until(async () => (await person.message()) !== '', 'the message');
+  },
+  'het formulier': async () => {
+    await bind('editor-vaste-last');
+    await person.click('cmdScenario');
+    await person.until(() => person.hasForm(), 'the form');
+  },
+};
+
+for (const scheme of ['light', 'dark'])
+  for (const [name, show] of Object.entries(SIGHTS))
+    test(`looks.NothingIsFoundIn ${name} ${scheme}`, async () => {
+      await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
+      await show();
+      const found = await page.evaluate(async () => {
+        const { violations, passes } = await axe.run(document, { resultTypes: ['violations', 'passes'] });
+        return { violations: violations.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html}\n${failureSummary}`)), passes: passes.length };
+      });
+      assert.ok(found.passes > 10, `${found.passes} rules held`);
+      assert.deepEqual(found.violations, []);
+    });
+
+function* lines({ role, name = '', children = [], value, checked, disabled, description, focused }, depth = 0) {
+  const state = [value === undefined ? '' : ` = ${value}`, checked === undefined ? '' : checked ? ' checked' : ' unchecked',
+    disabled ? ' disabled' : '', focused ? ' focused' : '', description ? ` (${description})` : ''];
+  yield `${'  '.repeat(depth)}${role} "${name}"${state.join('')}`;
+  for (const child of children) yield* lines(child, depth + 1);
+}
+
+for (const name of ['editor-product', 'een melding', 'het formulier'])
+  test(`looks.TheAccessibilityTreeOf ${name}`, async () => {
+    await SIGHTS[name]();
+    const text = [...lines(await page.accessibility.snapshot())].join('\n') + '\n';
+    const file = `${top}tests/web/shown/${name.replaceAll(' ', '-')}.txt`;
+    // After a change that is wanted they are written anew with SHOWN_WRITE=1, and read.
+    if (process.env.SHOWN_WRITE) writeFileSync(file, text);
+    assert.equal(text, readFileSync(file, 'utf8'));
+  });
+
+test('looks.NothingElseWentWrong', () => assert.deepEqual(page.faults, []));

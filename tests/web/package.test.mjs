@@ -1,0 +1,86 @@
+// The npm package: what is in it, its declarations, and that it works from a plain script and from a bundler.
+import assert from 'node:assert/strict';
+import { execFileSync } from 'node:child_process';
+import { cpSync, mkdirSync, readdirSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { before, test } from 'node:test';
+
+import { useBrowser } from './harness/browser.mjs';
+import { built, npm, top } from './harness/packages.mjs';
+import { Person } from './harness/person.mjs';
+
+const made = `${built}made/`;
+const installed = `${made}node_modules/brivane-vrije-kolom/`;
+const run = (program, ...given) => execFileSync(program, given, { cwd: made, encoding: 'utf8', stdio: ['ignore', 'pipe', 'pipe'] });
+const tool = (name, ...given) => run(`${npm}node_modules/.bin/${name}`, ...given);
+const { open } = useBrowser();
+
+before(() => {
+  rmSync(made, { recursive: true, force: true });
+  mkdirSync(installed, { recursive: true });
+  const [{ filename }] = JSON.parse(run('npm', 'pack', `${built}package`, '--json', '--offline'));
+  run('tar', '-xzf', filename, '--strip-components=1', '-C', installed);
+  // The packages that the examples use, where a bundler looks.
+  for (const name of ['final-form', '@babel/runtime']) {
+    cpSync(`${npm}node_modules/${name}`, `${made}node_modules/${name}`, { recursive: true });
+  }
+});
+
+test('package.HoldsTheModuleTheMachineAndTheDeclarations', () => {
+  const files = readdirSync(installed, { recursive: true }).map(String);
+  for (const file of ['src/index.js', 'src/index.d.ts', 'src/model.d.ts', 'machine/machine.js', 'machine/machine.wasm', 'README.md'])
+    assert.ok(files.includes(file), file);
+  assert.deepEqual(files.filter((file) => /test|door/.test(file)), []);
+});
+
+test('package.NeedsNoOther', () => {
+  const { dependencies, peerDependencies, scripts, version } = JSON.parse(readFileSync(`${installed}package.json`, 'utf8'));
+  assert.deepEqual([dependencies, peerDependencies, scripts], [undefined, undefined, undefined]);
+  const [, project] = /VERSION (\d+\.\d+\.\d+)/.exec(readFileSync(`${top}CMakeLists.txt`, 'utf8').split('project(')[1]);
+  assert.equal(version, project);
+});
+
+test('package.DeclaresWhatAHostInTypeScriptUses', () => {
+  cpSync(`${top}tests/web/types/host.ts`, `${made}host.ts`);
+  try {
+    tool('tsc', '--noEmit', '--strict', '--target', 'es2022', '--module', 'esnext', '--moduleResolution', 'bundler', 'host.ts');
+  } catch ({ stdout }) {
+    assert.fail(stdout);
+  }
+});
+
+test('package.WorksFromAPlainScript', async () => {
+  cpSync(`${top}examples/web/smallest`, `${made}smallest`, { recursive: true });
+  const script = `${made}smallest/host.js`;
+  writeFileSync(script, readFileSync(script, 'utf8').replace('/package/', '../node_modules/brivane-vrije-kolom/'));
+  const page = await open('/made/smallest/index.html');
+  await page.waitForFunction(() => document.body.dataset.result === 'bound');
+  const person = new Person(page);
+  await person.typeOver('TxtOm', 'Oppas');
+  await person.press('Tab');
+  assert.equal(await page.$eval('#kop', (kop) => kop.textContent), 'Oppas · € 485,5');
+  assert.deepEqual(page.faults, []);
+});
+
+test('package.WorksFromABundlerInAFormOfALibrary', async () => {
+  const entry = `${made}examples/web/form/`;
+  cpSync(`${top}examples/web/form`, entry, { recursive: true });
+  mkdirSync(`${made}web/demo`, { recursive: true });
+  cpSync(`${top}web/demo/model.js`, `${made}web/demo/model.js`);
+  tool('esbuild', `${entry}main.js`, '--bundle', '--format=esm', '--minify', `--outfile=${entry}form.js`);
+  cpSync(`${installed}machine/machine.wasm`, `${entry}machine.wasm`);
+  const page = await open('/made/examples/web/form/index.html');
+  await page.waitForFunction(() => document.body.dataset.result === 'bound');
+  const person = new Person(page);
+  const isDirty = () => page.$eval('#bewaar', (button) => !button.disabled);
+  assert.equal(await isDirty(), false);
+  await person.typeOver('TxtOm', 'Oppas');
+  await person.press('Tab');
+  assert.equal(await isDirty(), true);
+  await page.click('#terug');
+  await person.until(async () => (await person.text('TxtOm')) === 'Kinderopvang', 'what stood there');
+  assert.equal(await isDirty(), false);
+  await person.typeOver('TxtOm', 'Crèche');
+  await page.click('#bewaar');
+  await person.until(async () => (await page.$eval('#stand', (out) => out.value)) === 'Bewaard: Crèche', 'the submission');
+  assert.deepEqual(page.faults, []);
+});
