@@ -31,6 +31,11 @@ if(BRIVANE_QT)
                        "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")
 endif()
 
+# A host ships those that it wants with its own.
+set(translations_dir ${CMAKE_INSTALL_DATADIR}/brivane-vrijekolom/translations)
+get_property(translations GLOBAL PROPERTY BRIVANE_TRANSLATIONS)
+install(FILES ${translations} DESTINATION ${translations_dir} COMPONENT development OPTIONAL)
+
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake
                               INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(BrivaneVrijeKolomConfigVersion.cmake COMPATIBILITY SameMajorVersion)
