@@ -26,6 +26,8 @@ echo "${#headers[@]} headers"
 
 echo "== the texts of the widgets in another language"
 [[ -z $(find "$work/prefix" -name 'libbrivane-vrijekolom-qt.*') ]] || find "$work/prefix" -name brivane_en.ts | grep -q .
+lines=$(wc -l <"$root/examples/qt/main.cpp")
+((lines <= 30)) || { echo "the smallest program has grown to $lines lines" && exit 1; }
 
 echo "== with find_package"
 configure build -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/configure.log"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "dossier/store/Database.h"
+#include "dossier/store/DossierFile.h"
 #include "tests/dossier/store/Digest.h"
 #include "tests/dossier/store/RandomEdits.h"
 #include "tests/dossier/store/ScriptedEdits.h"
