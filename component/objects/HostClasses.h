@@ -20,7 +20,8 @@ struct HostClasses {
 /// the key `HostClasses` below the class's own.
 [[nodiscard]] HostClasses RegisteredHostClasses(const CLSID& control);
 
-/// The texts of the language that the host registered for the controls of a class: `Language` of that key, "nl" or "en".
+/// The texts of the language that the host registered for the controls of a class: `Language` of that key, "nl" or
+/// "en".
 [[nodiscard]] const frame::Texts& RegisteredTexts(const CLSID& control);
 
 /// Makes the host's tracer and check for the logic: what the companion makes, else one of the class. All three must
