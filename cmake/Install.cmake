@@ -41,6 +41,11 @@ if(BRIVANE_DESIGNER)
   endif()
 endif()
 
+# A host ships those that it wants with its own.
+set(translations_dir ${CMAKE_INSTALL_DATADIR}/brivane-vrijekolom/translations)
+get_property(translations GLOBAL PROPERTY BRIVANE_TRANSLATIONS)
+install(FILES ${translations} DESTINATION ${translations_dir} COMPONENT development OPTIONAL)
+
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake
                               INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(BrivaneVrijeKolomConfigVersion.cmake COMPATIBILITY SameMajorVersion)

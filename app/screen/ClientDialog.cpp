@@ -52,14 +52,14 @@ class AgeBox final : public QSpinBox {
 /// A date of birth as it is typed.
 controls::TypedContent ReadBirth(std::string_view typed) {
   const frame::Reading<host::Date> date = frame::ReadPastDate(typed, Today());
-  if (date.IsRefused()) return {.refusal = date.Reason()};
+  if (date.IsRefused()) return {.refusal = date.Why()};
   return date.IsEmpty() ? controls::TypedContent() : controls::TypedContent{.value = *date};
 }
 
 /// A rate as it is typed.
 controls::TypedContent ReadRate(std::string_view typed) {
   const frame::Reading<double> rate = frame::ReadNumber(typed);
-  if (rate.IsRefused()) return {.refusal = rate.Reason()};
+  if (rate.IsRefused()) return {.refusal = rate.Why()};
   if (rate.IsEmpty()) return {};
   if (*rate < 0 || *rate > 100) return {.refusal = "Vul een percentage van 0 tot en met 100 in, of niets."};
   return {.value = *rate};

@@ -6,6 +6,7 @@
 #include <brivane/controls/FormSubject.h>
 #include <brivane/controls/ToolkitBase.h>
 #include <brivane/controls/entry/PendingEdits.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/host/Error.h>
 #include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
@@ -43,6 +44,8 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
 
   /// What is being typed in the boxes of this toolkit.
   [[nodiscard]] PendingEdits& Pending() { return pending_; }
+  /// The texts of what it adds to the controls; Dutch where it knows no other.
+  [[nodiscard]] virtual const frame::Texts& Texts() const { return frame::Texts::In(frame::Language::Dutch); }
   /// Asks a person something, or tells it; the controls' own message boxes do not come here.
   [[nodiscard]] virtual host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                                 host::MessageStyle style) = 0;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <brivane/controls/Control.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/host/Export.h>
 #include <brivane/host/controls/Surface.h>
 
@@ -14,8 +15,8 @@ namespace brivane::controls {
 class OptionButton;
 class ToolkitBase;
 
-/// What a person reads on a veiled surface.
-inline constexpr std::string_view kVeil = "Er is geen vrije kolom geopend.";
+/// What a person reads on a veiled surface, in Dutch.
+inline const std::string kVeil = frame::Texts::In(frame::Language::Dutch).Of(frame::TextId::NothingOpen);
 
 /// The controls of one design table, on a surface of its own, embedded in another one, or on a form.
 class BRIVANE_API Surface : public AnyControl {
@@ -35,7 +36,7 @@ class BRIVANE_API Surface : public AnyControl {
   /// The container sizes the surface: one Resize, also to the present size.
   void Size(host::Twips width, host::Twips height);
 
-  /// A veiled surface stands for nothing: a person can act on nothing there, and what draws it shows kVeil in place of
+  /// A veiled surface stands for nothing: a person can act on nothing there, and what draws it says so in place of
   /// what stands on it. Code sees and sets the controls as always.
   void SetVeiled(bool veiled) { Assign(veiled_, veiled, Aspect::Veil); }
   /// Whether it is veiled; an embedded surface has a veil of its own.

@@ -24,6 +24,8 @@ for header in "${headers[@]}"; do echo "#include <${header#./}>"; done |
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -DQT_NO_KEYWORDS "${qt_flags[@]}" -I"$work/prefix/include"
 echo "${#headers[@]} headers"
 
+echo "== the texts of the widgets in another language"
+[[ -z $(find "$work/prefix" -name 'libbrivane-vrijekolom-qt.*') ]] || find "$work/prefix" -name brivane_en.ts | grep -q .
 lines=$(wc -l <"$root/examples/qt/main.cpp")
 ((lines <= 30)) || { echo "the smallest program has grown to $lines lines" && exit 1; }
 

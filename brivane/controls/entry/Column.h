@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include <brivane/controls/TextBox.h>
+#include <brivane/frame/Phrase.h>
 #include <brivane/host/Export.h>
 
 /// A column of values that is pasted into rows.
@@ -18,8 +18,8 @@ struct Column {
     controls::BoxValue value;  ///< of the box's format
   };
   std::vector<Entry> entries = {};  ///< from above; none where all is refused
-  std::string refusal = {};         ///< why nothing is entered, in Dutch
-  std::string surplus = {};         ///< told after entering: lines that found no row
+  frame::Phrase refusal = {};       ///< why nothing is entered
+  frame::Phrase surplus = {};       ///< told after entering: lines that found no row
 };
 
 /// What the lines of a text enter into the boxes from `first` down its control array, one line a box. Empty

@@ -8,6 +8,7 @@
 #include <brivane/controls/Action.h>
 #include <brivane/controls/entry/Typing.h>
 #include <brivane/frame/Design.h>
+#include <brivane/frame/Phrase.h>
 #include <brivane/host/Export.h>
 
 namespace brivane::controls {
@@ -36,6 +37,8 @@ class BRIVANE_API EntryFace {
   [[nodiscard]] virtual bool ReadOnly() const = 0;
   /// Whether a person can get at the box now: it is on the screen, and nothing around it is disabled.
   [[nodiscard]] virtual bool IsAtHand() const = 0;
+  /// The texts of what is said beside the box; Dutch where a toolkit knows no other.
+  [[nodiscard]] virtual const frame::Texts& Texts() const { return frame::Texts::In(frame::Language::Dutch); }
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
   /// Says there, less loudly, what the box makes of what is being typed; a toolkit may leave it unsaid.
@@ -126,9 +129,9 @@ class BRIVANE_API PendingEdit {
   [[nodiscard]] bool CanBeTaken() const;
   [[nodiscard]] DateOrigin Origin() const;
   void ShowNote();
-  void ShowReason(const std::string& reason);
+  void ShowReason(const frame::Phrase& reason);
   void HideReason();
-  bool Refuse(const std::string& reason);
+  bool Refuse(const frame::Phrase& reason);
   bool AskToDrop();
   void Insert(const std::string& text);
   void PasteColumn(std::string_view text);
@@ -140,10 +143,10 @@ class BRIVANE_API PendingEdit {
   frame::Format format_ = frame::Format::Text;
   Reader reader_;
   Clock clock_;
-  std::string shown_;    ///< what stood there before the typing
-  BoxValue standing_;    ///< the same as content, of a control
-  std::string refusal_;  ///< why what is pending was refused
-  std::string note_;     ///< shown beside the box
+  std::string shown_;      ///< what stood there before the typing
+  BoxValue standing_;      ///< the same as content, of a control
+  frame::Phrase refusal_;  ///< why what is pending was refused
+  std::string note_;       ///< shown beside the box
   bool pending_ = false;
   bool committing_ = false;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');

@@ -21,6 +21,7 @@ class BRIVANE_API Toolkit : public controls::DrawnToolkit {
 
   /// The machine: texts and buttons of the host's own go there.
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] const frame::Texts& Texts() const override;
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle style) override;
 

@@ -29,6 +29,7 @@ class TestFace final : public EntryFace {
   bool readOnly = false;
   bool atHand = true;
   int calls = 0;  ///< of whatever changes it
+  frame::Language language = frame::Language::Dutch;
   std::function<void()> whenFocused;
 
   [[nodiscard]] std::string Text() const override { return text; }
@@ -42,6 +43,7 @@ class TestFace final : public EntryFace {
   }
   [[nodiscard]] bool ReadOnly() const override { return readOnly; }
   [[nodiscard]] bool IsAtHand() const override { return atHand; }
+  [[nodiscard]] const frame::Texts& Texts() const override { return frame::Texts::In(language); }
   void ShowReason(const std::string& why) override {
     Change(note, std::string());
     Change(reason, why);
@@ -75,6 +77,7 @@ class TestToolkit final : public DrawnToolkit {
  public:
   [[nodiscard]] memory::Desktop& Desktop() override { return desktop_; }
   [[nodiscard]] host::Twips MeasureText(const frame::Design&, std::string_view, bool) const override { return {}; }
+  [[nodiscard]] const frame::Texts& Texts() const override { return frame::Texts::In(language); }
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle) override {
     asked.push_back(caption + ": " + text);
@@ -82,6 +85,7 @@ class TestToolkit final : public DrawnToolkit {
   }
 
   std::vector<std::string> asked;
+  frame::Language language = frame::Language::Dutch;
   host::MessageAnswer answer = host::MessageAnswer::No;
 
  protected:

@@ -47,6 +47,24 @@ TEST_F(PendingEditTest, ThatEmptiesAnAmountShowsWhatItCountsFor) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 0,00"));
 }
 
+TEST_F(PendingEditTest, SpeaksTheLanguageOfItsFace) {
+  face.language = frame::Language::English;
+  TypeOver(amount, "twaalf");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.reason, "Enter an amount, for example 1.234,56.");
+  amount.SetEnabled(false);
+  EXPECT_FALSE(edit.HandOver());
+  EXPECT_THAT(toolkit.asked, ElementsAre(testing::AllOf(
+                                 testing::StartsWith("Not taken over: The box \"Bedrag\" still holds \"twaalf\"."),
+                                 testing::HasSubstr("\r\n\r\nEnter an amount, for example 1.234,56.\r\n\r\n"),
+                                 testing::EndsWith("Do you want to drop what was typed there?"))));
+  const TextBox& date = Box("txtDatum");
+  Face(date).language = frame::Language::English;
+  toolkit.Desktop().today = frame::MakeDate({2031, 4, 1});
+  TypeOver(date, "v");
+  EXPECT_EQ(Face(date).note, "Tuesday 1 April 2031");
+}
+
 TEST_F(PendingEditTest, OfNoControlIsReadItsOwnWay) {
   TestFace own;
   PendingEdit date(own);

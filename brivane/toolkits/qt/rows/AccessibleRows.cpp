@@ -4,6 +4,7 @@
 #include <brivane/controls/Plain.h>
 #include <brivane/controls/TextBox.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/rows/AccessibleRows.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
@@ -115,7 +116,7 @@ class AccessibleCell final : public QAccessibleInterface,
  private:
   [[nodiscard]] QString Name(Kind kind) const {
     const QString name = ToQt(cell_.Control().AccessibleName());
-    return kind == Kind::Hint && name.isEmpty() ? QString::fromLatin1(kHelpName) : name;
+    return kind == Kind::Hint && name.isEmpty() ? Translated(frame::TextId::Help) : name;
   }
 
   RowCanvas& canvas_;

@@ -23,7 +23,7 @@ namespace brivane::qt {
 /// application's unless the host sets another: at 9 points it is as designed, and it grows with the font.
 /// The size hint is the control's own size. Sizing the widget lays the control out; its height is its own.
 ///
-/// A binding that failed, and letting go of the host, leave the widget empty: it shows controls::kVeil, nothing of what
+/// A binding that failed, and letting go of the host, leave the widget empty: it says so and shows nothing of what
 /// stood there, and takes no input until a binding succeeds.
 ///
 /// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
