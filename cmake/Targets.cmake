@@ -4,6 +4,7 @@ function(brivane_library name)
   target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE brivane_warnings)
   target_compile_features(${name} PUBLIC cxx_std_20)
+  brivane_with_symbols(${name})
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON
     CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
 endfunction()

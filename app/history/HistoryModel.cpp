@@ -20,6 +20,7 @@ QString KindText(const dossier::HistoryLine& line) {
   switch (line.step.kind) {
     case dossier::StepKind::Undo: return QStringLiteral("ongedaan gemaakt");
     case dossier::StepKind::Redo: return QStringLiteral("opnieuw gedaan");
+    case dossier::StepKind::CarryOver: return QStringLiteral("overgenomen");
     case dossier::StepKind::Edit: break;
   }
   if (line.entry.Added()) return QStringLiteral("toegevoegd");

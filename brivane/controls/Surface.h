@@ -24,9 +24,12 @@ class BRIVANE_API Surface : public AnyControl {
 
   /// The implementation behind a surface that one of these toolkits made.
   [[nodiscard]] static Surface& Of(host::Surface& surface);
+  /// The same surface as the logic sees it.
   [[nodiscard]] virtual host::Surface& HostSurface() = 0;
 
+  /// The design that it was made of.
   [[nodiscard]] const frame::Design& Table() const { return *design_; }
+  /// The toolkit that made it, or the surface around it.
   [[nodiscard]] ToolkitBase& MadeBy() const { return *toolkit_; }
 
   /// The container sizes the surface: one Resize, also to the present size.
@@ -35,6 +38,7 @@ class BRIVANE_API Surface : public AnyControl {
   /// A veiled surface stands for nothing: a person can act on nothing there, and what draws it shows kVeil in place of
   /// what stands on it. Code sees and sets the controls as always.
   void SetVeiled(bool veiled) { Assign(veiled_, veiled, Aspect::Veil); }
+  /// Whether it is veiled; an embedded surface has a veil of its own.
   [[nodiscard]] bool IsVeiled() const { return veiled_; }
 
   /// A control by name, and by index in a control array; "Toelichting.jnAO" for one on an embedded
@@ -57,14 +61,19 @@ class BRIVANE_API Surface : public AnyControl {
   AnyControl& Add(const frame::Row& row, int index, const AnyControl* original);
 
   [[nodiscard]] bool Present() const override { return !veiled_; }
+  /// Raises Resize where the size differs.
   void PutPlace(const host::Place& place) override;
+  /// Raises BackColorSet, also for the colour that it has.
   void PutBackColor(host::Color color) override;
 
+  /// What the functions of host::Surface answer and set.
+  /// @{
   [[nodiscard]] host::Control& ControlAt(std::size_t row) const { return *controls_[row]; }
   [[nodiscard]] const std::vector<host::Control*>& HostControls() const { return controls_; }
   [[nodiscard]] bool IsBold() const { return bold_; }
   void PutBold(bool bold) { bold_ = bold; }
   [[nodiscard]] host::Twips MeasureText(std::string_view text) const;
+  /// @}
 
  private:
   [[nodiscard]] AnyControl* ContainerOf(const frame::Row& row);
@@ -84,12 +93,15 @@ template <class Interface> class SurfaceOf : public ControlOf<Interface, Surface
  public:
   using ControlOf<Interface, Surface>::ControlOf;
 
+  /// As host::Surface has it, of what Surface keeps.
+  /// @{
   [[nodiscard]] host::Surface& HostSurface() final { return *this; }
   [[nodiscard]] host::Control& At(std::size_t row) final { return this->ControlAt(row); }
   [[nodiscard]] const std::vector<host::Control*>& Controls() const final { return this->HostControls(); }
   [[nodiscard]] bool FontBold() const final { return this->IsBold(); }
   void SetFontBold(bool bold) final { this->PutBold(bold); }
   [[nodiscard]] host::Twips TextWidth(std::string_view text) const final { return this->MeasureText(text); }
+  /// @}
 };
 
 /// The surface of a control, of its own or embedded.

@@ -14,15 +14,15 @@ namespace brivane::vrijekolom {
 
 /// A person whose age a row tells.
 struct Geborene {
-  std::string wie;  ///< "aanvrager", "partner"
-  host::Date geboren;
+  std::string wie;     ///< "aanvrager", "partner"
+  host::Date geboren;  ///< no date: the age is left out
 };
 
 /// What the editor shows of its column.
 struct Onderwerp {
-  std::string omschrijving;
-  std::string termijn;
-  host::Date aanvang;
+  std::string omschrijving;  ///< may be empty
+  std::string termijn;       ///< as the list shows it; empty where none is chosen
+  host::Date aanvang;        ///< may be no date
 };
 
 namespace detail {
@@ -42,6 +42,8 @@ inline std::string Leeftijden(int jaar, const std::vector<Geborene>& personen) {
 
 }  // namespace detail
 
+/// Reads the boxes of an editor's surface. Fails with error 13 where the box of the start date holds something that is
+/// none.
 [[nodiscard]] inline Onderwerp LeesOnderwerp(host::Surface& surface) {
   const frame::Controls controls(surface);
   const host::ListBox& termijn = controls[cboTermijn];

@@ -6,7 +6,7 @@
 namespace brivane::dossier {
 namespace {
 
-struct Step {
+struct Upgrade {
   /// As the account that sets up: roles, and what only it may make.
   const char* as_account;
   /// As the owner, in order.
@@ -16,8 +16,8 @@ struct Step {
 
 const char* const kOwnedV1[] = {kTablesV1, kRightsV1, kFunctionsV1, kFunctionRightsV1};
 
-/// Step n leads from version n to version n + 1.
-const Step kSteps[kOfficeVersion] = {{kRolesV1, kOwnedV1, std::size(kOwnedV1)}};
+/// Upgrade n leads from version n to version n + 1.
+const Upgrade kUpgrades[kOfficeVersion] = {{kRolesV1, kOwnedV1, std::size(kOwnedV1)}};
 
 int VersionOf(OfficeConnection& connection) {
   const bool is = connection.Run(QStringLiteral("SELECT to_regclass('kantoor.versie') IS NOT NULL")).value(0).toBool();
@@ -34,10 +34,10 @@ int SetUpOffice(OfficeConnection& connection) {
     const int before = VersionOf(connection);
     if (before > kOfficeVersion) throw OfficeError(OfficeProblem::Newer, "The office is of a later version");
     for (int version = before; version < kOfficeVersion; ++version) {
-      const Step& step = kSteps[version];
-      connection.RunScript(QString::fromUtf8(step.as_account));
+      const Upgrade& upgrade = kUpgrades[version];
+      connection.RunScript(QString::fromUtf8(upgrade.as_account));
       connection.RunScript(QStringLiteral("SET LOCAL ROLE kantoor_eigenaar"));
-      for (std::size_t n = 0; n < step.count; ++n) connection.RunScript(QString::fromUtf8(step.as_owner[n]));
+      for (std::size_t n = 0; n < upgrade.count; ++n) connection.RunScript(QString::fromUtf8(upgrade.as_owner[n]));
       connection.RunScript(QStringLiteral("INSERT INTO kantoor.versie (nummer) VALUES (%1)").arg(version + 1));
       connection.RunScript(QStringLiteral("RESET ROLE"));
     }

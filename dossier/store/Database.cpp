@@ -68,10 +68,14 @@ void Database::Run(const QString& sql) {
 }
 
 void Database::RunAgain(const QString& sql) {
-  const auto known = often_.find(sql);
-  QSqlQuery& query = known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
+  QSqlQuery& query = Again(sql);
   Run(query);
   query.finish();
+}
+
+QSqlQuery& Database::Again(const QString& sql) {
+  const auto known = often_.find(sql);
+  return known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
 }
 
 QVariant Database::Value(const QString& sql) {

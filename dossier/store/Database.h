@@ -62,6 +62,8 @@ class Database {
   void Run(const QString& sql);
   /// The same of a statement that is run often: it is prepared once.
   void RunAgain(const QString& sql);
+  /// A statement that is run often, prepared once; finished before it is asked again.
+  [[nodiscard]] QSqlQuery& Again(const QString& sql);
   /// The first value of the first row.
   [[nodiscard]] QVariant Value(const QString& sql);
   /// A prepared statement whose rows are read once, in order.

@@ -170,7 +170,7 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
-    log_.Store(writer_.Hoogste());
+    log_.Store(writer_.Hoogste(), edits_.MadeBy());
     if (weight_ + log_.Growth() > kMostWeight)
       throw DatabaseError(SqliteCode::Full, "The case is as large as it may be");
     AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);

@@ -15,9 +15,10 @@ namespace brivane::controls {
 
 /// What a typed text is as content of a box; a Dutch reason to refuse it where it is not of the format.
 struct TypedContent {
-  controls::BoxValue value = {};
-  std::string refusal = {};
+  controls::BoxValue value = {};  ///< empty where it is refused
+  std::string refusal = {};       ///< empty where it is taken
 };
+/// Reads what stands in a box, as it is written out.
 [[nodiscard]] BRIVANE_API TypedContent ReadContent(std::string_view typed, frame::Format format);
 /// The same of what is handed over: an amount that was emptied is 0, and is shown as what it counts for.
 [[nodiscard]] BRIVANE_API TypedContent ReadEntry(std::string_view typed, frame::Format format);

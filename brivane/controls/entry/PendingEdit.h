@@ -26,9 +26,13 @@ class BRIVANE_API EntryFace {
   virtual void ShowText(const std::string& text) = 0;
   /// Puts a text where the cursor stands, in place of what is selected.
   virtual void InsertText(const std::string& text) = 0;
+  /// Selects the whole text.
   virtual void SelectAll() = 0;
+  /// Whether keys go to the box.
   [[nodiscard]] virtual bool HasFocus() const = 0;
+  /// Moves the input focus into the box, and shows where that is.
   virtual void TakeFocus() = 0;
+  /// Whether a person cannot type in it: the control is locked.
   [[nodiscard]] virtual bool ReadOnly() const = 0;
   /// Whether a person can get at the box now: it is on the screen, and nothing around it is disabled.
   [[nodiscard]] virtual bool IsAtHand() const = 0;
@@ -55,6 +59,7 @@ class BRIVANE_API EntryFace {
 ///     if (!edit.Commit()) return;           // before the focus goes: refused, it stays
 class BRIVANE_API PendingEdit {
  public:
+  /// Of no control and no format yet. The face outlives it.
   explicit PendingEdit(EntryFace& face) : face_(face) {}
   PendingEdit(const PendingEdit&) = delete;
   PendingEdit& operator=(const PendingEdit&) = delete;
@@ -72,6 +77,7 @@ class BRIVANE_API PendingEdit {
   [[nodiscard]] TypedContent Read(std::string_view typed) const;
   /// The box that is typed in; nothing where it is no control's.
   [[nodiscard]] TextBox* Box() const { return box_; }
+  /// What it reads what is typed as.
   [[nodiscard]] frame::Format Format() const { return format_; }
   /// Expires with the edit.
   [[nodiscard]] std::weak_ptr<const char> Life() const { return life_; }
