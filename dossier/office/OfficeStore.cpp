@@ -145,14 +145,18 @@ void OfficeStore::Attend() {
 }
 
 void OfficeStore::Told(const QString& channel, const QString& what) {
-  if (channel != session_->Channel()) return;
+  if (channel != session_->Channel() || !timer_) return;
+  // The driver is still at work here: what is done about it comes after.
   constexpr char kAsks[] = "vraag ";
   if (what.startsWith(QLatin1String(kAsks))) {
-    if (Now() == State::Editing) Asked.Raise(what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1));
+    const QString who = what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1);
+    QTimer::singleShot(0, timer_.get(), [this, who] {
+      if (Now() == State::Editing) Asked.Raise(who);
+    });
     return;
   }
   // What is told is a hint to look: anybody on the server may tell.
-  if (Now() == State::Reading) Attend();
+  if (Now() == State::Reading) timer_->start(0);
 }
 
 template <class Action> void OfficeStore::Try(Action&& action) {
