@@ -44,10 +44,12 @@ using Times = std::vector<std::int64_t>;
 /// Runs a body in a process of its own for each adviser, all at the same time, and gathers their times.
 template <class Body> Times InProcesses(int count, Body&& body) {
   std::vector<int> pipes;
+  std::vector<pid_t> children;
   for (int n = 0; n < count; ++n) {
     int ends[2];
     if (pipe(ends) != 0) std::abort();
-    if (fork() == 0) {
+    const pid_t child = fork();
+    if (child == 0) {
       close(ends[0]);
       const Times times = body(n);
       const auto* bytes = reinterpret_cast<const char*>(times.data());
@@ -61,6 +63,7 @@ template <class Body> Times InProcesses(int count, Body&& body) {
       _exit(0);
     }
     close(ends[1]);
+    children.push_back(child);
     pipes.push_back(ends[0]);
   }
   Times all;
@@ -69,8 +72,7 @@ template <class Body> Times InProcesses(int count, Body&& body) {
     while (read(from, &time, sizeof time) == static_cast<ssize_t>(sizeof time)) all.push_back(time);
     close(from);
   }
-  while (wait(nullptr) > 0) {
-  }
+  for (const pid_t child : children) waitpid(child, nullptr, 0);
   return all;
 }
 
