@@ -16,6 +16,7 @@ function(brivane_embedding name export_name file_name)
     add_library(${name})
   endif()
   add_library(Brivane::${export_name} ALIAS ${name})
+  set_property(GLOBAL APPEND PROPERTY BRIVANE_EMBEDDED ${name})
   set_target_properties(${name} PROPERTIES EXPORT_NAME ${export_name} OUTPUT_NAME ${file_name} LINKER_LANGUAGE CXX
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   target_compile_features(${name} PUBLIC cxx_std_20)

@@ -5,6 +5,7 @@ set(BRIVANE_WIDL_LIBRARIES /usr/lib/x86_64-linux-gnu/wine/x86_64-windows CACHE P
 # brivane_compile_idl(FILE FOLDER): NAME_idl.h and NAME.tlb of an interface definition, in the folder.
 function(brivane_compile_idl file folder)
   get_filename_component(name ${file} NAME_WE)
+  get_filename_component(source_dir ${file} DIRECTORY)  # the header says which file it was made of
   if(CMAKE_SIZEOF_VOID_P EQUAL 8)
     set(machine --win64)
   else()
@@ -13,7 +14,7 @@ function(brivane_compile_idl file folder)
   # The compiler leaves the time in the description: always the same one, so that the library can be built again.
   set(widl ${CMAKE_COMMAND} -E env WIDL_TIME_OVERRIDE=0 ${BRIVANE_WIDL} -I${BRIVANE_WIDL_INCLUDE} -L${BRIVANE_WIDL_LIBRARIES} ${machine})
   add_custom_command(OUTPUT ${folder}/${name}.tlb ${folder}/${name}_idl.h
-    COMMAND ${widl} -t -o ${folder}/${name}.tlb ${file}
-    COMMAND ${widl} -h -o ${folder}/${name}_idl.h ${file}
-    DEPENDS ${file} VERBATIM)
+    COMMAND ${widl} -t -o ${folder}/${name}.tlb ${name}.idl
+    COMMAND ${widl} -h -o ${folder}/${name}_idl.h ${name}.idl
+    WORKING_DIRECTORY ${source_dir} DEPENDS ${file} VERBATIM)
 endfunction()

@@ -2,7 +2,7 @@
 # they are. Parts that were not built are left out, and the package says so to who asks for them.
 #
 # Components: runtime and runtime_qt (the shared libraries), development (all else that is compiled and linked with),
-# documents, tools (the replay tool), host (the reference host).
+# designer (the plugin for Qt Designer), documents, tools (the replay tool), host (the reference host).
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -30,6 +30,21 @@ if(BRIVANE_QT)
   brivane_install_part(Qt brivane_embedding_qt runtime_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
                        "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")
 endif()
+if(BRIVANE_DESIGNER)
+  # Where Qt has its plugins below its own prefix; elsewhere QT_PLUGIN_PATH leads there.
+  set(designer_dir ${QT6_INSTALL_PLUGINS}/designer)
+  install(TARGETS brivane_designer LIBRARY DESTINATION ${designer_dir} COMPONENT designer OPTIONAL)
+  if(BUILD_SHARED_LIBS AND NOT BRIVANE_PACKAGES)
+    cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${designer_dir}
+               OUTPUT_VARIABLE to_library)
+    set_target_properties(brivane_designer PROPERTIES INSTALL_RPATH "$ORIGIN/${to_library}")
+  endif()
+endif()
+
+# A host ships those that it wants with its own.
+set(translations_dir ${CMAKE_INSTALL_DATADIR}/brivane-vrijekolom/translations)
+get_property(translations GLOBAL PROPERTY BRIVANE_TRANSLATIONS)
+install(FILES ${translations} DESTINATION ${translations_dir} COMPONENT development OPTIONAL)
 
 configure_package_config_file(cmake/BrivaneVrijeKolomConfig.cmake.in BrivaneVrijeKolomConfig.cmake
                               INSTALL_DESTINATION ${package_dir})

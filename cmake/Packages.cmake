@@ -47,19 +47,31 @@ set(same "(= ${PROJECT_VERSION})")
 brivane_package(runtime libbrivane-vrijekolom1 libs "controls that edit a free column of a loan file"
   "The logic of the controls and a toolkit without a screen, as a shared library.")
 brivane_package(development libbrivane-vrijekolom-dev libdevel "headers and build files of libbrivane-vrijekolom"
-  "What a program that embeds the controls is compiled with: headers, and what CMake\nand pkg-config know the libraries by."
+  "What a program that embeds the controls is compiled with: headers, and what\nCMake and pkg-config know the libraries by."
   "libbrivane-vrijekolom1 ${same}, libbrivane-vrijekolom-qt1 ${same}, qt6-base-dev")
 brivane_package(documents libbrivane-vrijekolom-doc doc "documents of libbrivane-vrijekolom"
-  "How the controls are embedded, what they ask of a host, and why they are as they are.")
+  "How the controls are embedded, what they ask of a host, and why they are as\nthey are: pages, and a reference of the public headers.")
+if(TARGET reference)
+  configure_file(packaging/debian/doc-base.in ${PROJECT_BINARY_DIR}/about/doc-base @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/about/doc-base DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc-base
+          RENAME libbrivane-vrijekolom-doc COMPONENT documents)
+endif()
 brivane_package(tools vrijekolom-replay utils "plays sessions of the free column controls"
   "Reads a document of what a person did and what the host held, plays it on the\ncontrols, and prints what they did.")
 if(BRIVANE_QT)
   brivane_package(runtime_qt libbrivane-vrijekolom-qt1 libs "controls that edit a free column, as Qt widgets"
-    "The widgets of the controls, for programs on Qt 6." "libbrivane-vrijekolom1 ${same}")
+    "The widgets of the controls, for programs on Qt 6."
+    "libbrivane-vrijekolom1 ${same}, fonts-liberation")  # as wide as Arial: without either words are cut off
+  if(BRIVANE_DESIGNER)
+    brivane_package(designer libbrivane-vrijekolom-designer libdevel "free column widgets in Qt Designer"
+      "The plugin by which Qt Designer, and what loads its forms, knows the widgets of\nlibbrivane-vrijekolom-qt1."
+      "libbrivane-vrijekolom-qt1 ${same}")
+    set(CPACK_DEBIAN_DESIGNER_PACKAGE_SUGGESTS "designer-qt6, libbrivane-vrijekolom-dev")
+  endif()
   brivane_package(host dossier misc "loan files with free columns"
     "The reference host of the free column controls: an application that keeps loan\nfiles and edits their free columns."
     "libqt6sql6-sqlite")
-  set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-liberation")
+  set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-liberation, libqt6sql6-psql")
 endif()
 set(CPACK_DEBIAN_DOCUMENTS_PACKAGE_ARCHITECTURE all)
 include(CPack)

@@ -240,6 +240,9 @@ QString AfterText(const Entry& entry) { return SideText(entry, entry.after); }
 QString StepText(std::span<const Entry> entries) {
   if (entries.empty()) return {};
   const Entry& reason = entries.front();
+  if (reason.kind == dossier::StepKind::CarryOver) {
+    return QStringLiteral("overnemen van %1 in de nieuwe situatie").arg(NameOf(reason));
+  }
   switch (reason.tabel) {
     case Tabel::Dossier:
     case Tabel::Persoon: return QStringLiteral("cliëntgegevens");

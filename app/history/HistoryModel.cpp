@@ -20,6 +20,7 @@ QString KindText(const dossier::HistoryLine& line) {
   switch (line.step.kind) {
     case dossier::StepKind::Undo: return QStringLiteral("ongedaan gemaakt");
     case dossier::StepKind::Redo: return QStringLiteral("opnieuw gedaan");
+    case dossier::StepKind::CarryOver: return QStringLiteral("overgenomen");
     case dossier::StepKind::Edit: break;
   }
   if (line.entry.Added()) return QStringLiteral("toegevoegd");
@@ -57,7 +58,7 @@ void HistoryModel::Show(const dossier::HistoryFilter& filter) {
 const dossier::HistoryLine& HistoryModel::LineAt(int row) const {
   const int page = row / kPage;
   if (!pages_.contains(page)) {
-    const auto first = numbers_.begin() + page * kPage;
+    const auto first = numbers_.begin() + std::ptrdiff_t{page} * kPage;
     const auto count = std::min<std::ptrdiff_t>(kPage, numbers_.end() - first);
     pages_.insert(page, new Page(view_.Lines({first, first + count})));
   }

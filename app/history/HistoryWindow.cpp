@@ -5,12 +5,11 @@
 #include <QDateTime>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QFormLayout>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QTableView>
 #include <QTimeZone>
@@ -19,6 +18,7 @@
 
 #include "app/desk/Csv.h"
 #include "app/desk/FileDialogs.h"
+#include "app/desk/FlowRow.h"
 #include "app/desk/Messages.h"
 #include <brivane/frame/Dates.h>
 #include <brivane/host/Error.h>
@@ -29,6 +29,9 @@ namespace brivane::app {
 namespace {
 
 constexpr char kTitle[] = "Wijzigingen";
+constexpr QSize kHistorySize{1200, 560};
+constexpr int kKolomCharacters = 28;
+constexpr int kDateCharacters = 16;  ///< a date and the button of its calendar
 /// Day 0 of a date.
 const QDate kDayZero{1899, 12, 30};
 
@@ -37,6 +40,7 @@ qt::DateBox* MakeDateBox(const QString& name) {
   qt::TypesNothingWithAlt(*box);
   box->Edit().Tie(frame::Format::Date);
   box->setAccessibleName(name);
+  box->setFixedWidth(box->fontMetrics().averageCharWidth() * kDateCharacters);
   return box;
 }
 
@@ -65,22 +69,15 @@ HistoryWindow::HistoryWindow(std::unique_ptr<dossier::HistoryView> view, const Q
   setWindowTitle(QStringLiteral("%1 in %2").arg(QString::fromLatin1(kTitle), title));
   kolom_->setAccessibleName(QStringLiteral("Vrije kolom"));
   kolom_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  kolom_->setMinimumContentsLength(28);
+  kolom_->setMinimumContentsLength(kKolomCharacters);
   who_->setAccessibleName(QStringLiteral("Wie"));
   FillFilters();
 
-  auto* filters = new QHBoxLayout;
-  const auto add = [&](const char* text, QWidget* box) {
-    auto* label = new QLabel(QString::fromUtf8(text));
-    label->setBuddy(box);
-    filters->addWidget(label);
-    filters->addWidget(box);
-  };
-  add("&Vrije kolom", kolom_);
-  add("&Wie", who_);
-  add("Van&af", from_);
-  add("&Tot en met", until_);
-  filters->addStretch();
+  auto* filters = new FlowRow;
+  filters->AddPair(QStringLiteral("&Vrije kolom"), kolom_);
+  filters->AddPair(QStringLiteral("&Wie"), who_);
+  filters->AddPair(QStringLiteral("Van&af"), from_);
+  filters->AddPair(QStringLiteral("Tot en &met"), until_);
 
   table_->setObjectName(QStringLiteral("wijzigingen"));
   table_->setAccessibleName(QString::fromLatin1(kTitle));
@@ -101,6 +98,8 @@ HistoryWindow::HistoryWindow(std::unique_ptr<dossier::HistoryView> view, const Q
     table_->setColumnWidth(column, letters * letter);
   }
   table_->horizontalHeader()->setStretchLastSection(true);
+  table_->horizontalHeader()->setHighlightSections(false);
+  table_->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
   auto* copy = new QShortcut(QKeySequence::Copy, table_);
   copy->setContext(Qt::WidgetShortcut);
@@ -125,7 +124,7 @@ HistoryWindow::HistoryWindow(std::unique_ptr<dossier::HistoryView> view, const Q
   Apply();
   table_->setFocus();
   if (model_->rowCount() > 0) table_->setCurrentIndex(model_->index(0, 0));
-  resize(1200, 560);
+  resize(kHistorySize.boundedTo(screen()->availableSize()));
 }
 
 void HistoryWindow::FillFilters() {

@@ -2,11 +2,10 @@
 
 #include <QComboBox>
 #include <QDateEdit>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "app/desk/FlowRow.h"
 #include "app/desk/Today.h"
 #include "app/overview/Words.h"
 #include <brivane/frame/Calendar.h>
@@ -46,11 +45,10 @@ void Fill(QComboBox& box, const QStringList& texts) {
 
 Choices::Choices(QWidget* parent)
     : QWidget(parent),
-      row_(new QHBoxLayout(this)),
+      row_(new FlowRow(this)),
       situatie_(new QComboBox),
       scenario_(new QComboBox),
       peildatum_(new QDateEdit) {
-  row_->setContentsMargins(0, 0, 0, 0);
   situatie_->setObjectName(QStringLiteral("situatie"));
   situatie_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   scenario_->setObjectName(QStringLiteral("scenario"));
@@ -63,27 +61,16 @@ Choices::Choices(QWidget* parent)
   peildatum_->setKeyboardTracking(false);
   peildatum_->setDateRange(QDate(1900, 1, 1), QDate(2199, 12, 31));
   peildatum_->setDate(ToQDate(Today()));
-  Add(QStringLiteral("&Situatie:"), situatie_);
-  Add(QStringLiteral("&Levensscenario:"), scenario_);
-  Add(QStringLiteral("&Peildatum:"), peildatum_);
-  row_->addStretch();
+  row_->AddPair(QStringLiteral("&Situatie:"), situatie_);
+  row_->AddPair(QStringLiteral("&Levensscenario:"), scenario_);
+  row_->AddPair(QStringLiteral("&Peildatum:"), peildatum_);
   connect(situatie_, &QComboBox::currentIndexChanged, this, &Choices::Tell);
   connect(scenario_, &QComboBox::currentIndexChanged, this, &Choices::Tell);
   connect(peildatum_, &QDateEdit::dateChanged, this, &Choices::Tell);
 }
 
-void Choices::Add(const QString& label, QWidget* box) {
-  auto* text = new QLabel(label);
-  text->setBuddy(box);
-  row_->addWidget(text);
-  row_->addWidget(box);
-}
-
 void Choices::AddFirst(const QString& label, QComboBox* box) {
-  auto* text = new QLabel(label);
-  text->setBuddy(box);
-  row_->insertWidget(0, text);
-  row_->insertWidget(1, box);
+  row_->AddPair(label, box, 0);
   setTabOrder(box, situatie_);
   connect(box, &QComboBox::currentIndexChanged, this, &Choices::Tell);
 }

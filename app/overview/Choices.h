@@ -7,9 +7,10 @@
 
 class QComboBox;
 class QDateEdit;
-class QHBoxLayout;
 
 namespace brivane::app {
+
+class FlowRow;
 
 /// What an overview is asked for: a situation, a life scenario and a date of reference, today's at first.
 class Choices final : public QWidget {
@@ -33,10 +34,9 @@ class Choices final : public QWidget {
   std::function<void()> changed;
 
  private:
-  void Add(const QString& label, QWidget* box);
   void Tell() const;
 
-  QHBoxLayout* row_;
+  FlowRow* row_;
   QComboBox* situatie_;
   QComboBox* scenario_;
   QDateEdit* peildatum_;

@@ -6,6 +6,7 @@
 #include "app/program/DutchTranslator.h"
 #include "app/program/LegiblePalette.h"
 #include "app/program/WindowIcon.h"
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 
 namespace brivane::app {
 
@@ -16,6 +17,7 @@ void SetUpProgram(QApplication& program) {
   QApplication::setApplicationVersion(QStringLiteral(BRIVANE_VERSION));
   QApplication::setWindowIcon(WindowIcon());
   QApplication::setPalette(LegiblePalette(QApplication::palette()));
+  qt::OutlineAllInHighContrast(program);
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QApplication::installTranslator(new DutchTranslator(&program));
 }

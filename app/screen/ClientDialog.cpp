@@ -8,6 +8,9 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -49,14 +52,14 @@ class AgeBox final : public QSpinBox {
 /// A date of birth as it is typed.
 controls::TypedContent ReadBirth(std::string_view typed) {
   const frame::Reading<host::Date> date = frame::ReadPastDate(typed, Today());
-  if (date.IsRefused()) return {.refusal = date.Reason()};
+  if (date.IsRefused()) return {.refusal = date.Why()};
   return date.IsEmpty() ? controls::TypedContent() : controls::TypedContent{.value = *date};
 }
 
 /// A rate as it is typed.
 controls::TypedContent ReadRate(std::string_view typed) {
   const frame::Reading<double> rate = frame::ReadNumber(typed);
-  if (rate.IsRefused()) return {.refusal = rate.Reason()};
+  if (rate.IsRefused()) return {.refusal = rate.Why()};
   if (rate.IsEmpty()) return {};
   if (*rate < 0 || *rate > 100) return {.refusal = "Vul een percentage van 0 tot en met 100 in, of niets."};
   return {.value = *rate};
@@ -92,14 +95,27 @@ ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* 
   connect(buttons, &QDialogButtonBox::accepted, this, &ClientDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
+  auto* form = new QWidget;
+  auto* fields = new QVBoxLayout(form);
+  fields->setContentsMargins(0, 0, 0, 0);
+  fields->addWidget(aanvrager);
+  fields->addWidget(withPartner_);
+  fields->addWidget(partner);
+  fields->addLayout(uitgangspunten);
+  fields->addStretch();
+  scroller_ = new QScrollArea;
+  scroller_->setFrameShape(QFrame::NoFrame);
+  scroller_->setWidgetResizable(true);
+  scroller_->setFocusPolicy(Qt::NoFocus);
+  scroller_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroller_->setWidget(form);
+  scroller_->setMinimumWidth(form->sizeHint().width() + scroller_->verticalScrollBar()->sizeHint().width());
   auto* layout = new QVBoxLayout(this);
-  layout->addWidget(aanvrager);
-  layout->addWidget(withPartner_);
-  layout->addWidget(partner);
-  layout->addLayout(uitgangspunten);
+  layout->addWidget(scroller_, 1);
   layout->addWidget(reason_);
-  layout->addStretch();
   layout->addWidget(buttons);
+  const int more = form->sizeHint().height() - scroller_->sizeHint().height();
+  resize((sizeHint() + QSize(0, more + reason_->fontMetrics().lineSpacing())).boundedTo(screen()->availableSize()));
 
   if (!client.personen.empty()) Fill(aanvrager_, client.personen[0]);
   if (client.personen.size() > 1) {
@@ -200,6 +216,7 @@ void ClientDialog::Tell(const QString& reason, QLineEdit* field) {
   reason_->setText(reason);
   field->setFocus(Qt::OtherFocusReason);
   field->selectAll();
+  scroller_->ensureWidgetVisible(field);
   // What is being mended is refused no more.
   connect(field, &QLineEdit::textChanged, reason_, &QLabel::clear, Qt::UniqueConnection);
 }

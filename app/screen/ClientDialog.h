@@ -10,6 +10,7 @@ class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 class QSpinBox;
 
 namespace brivane::qt {
@@ -28,6 +29,7 @@ struct Client {
 /// Asks for the applicant, the partner if there is one, and the age limit.
 ///
 /// OK is refused, with the reason in the dialog, while a person lacks a surname or a birth date in the past.
+/// On a low screen the fields scroll; the buttons and the reason stay in sight.
 class ClientDialog final : public QDialog {
  public:
   ClientDialog(const QString& title, const Client& client, QWidget* parent);
@@ -56,6 +58,7 @@ class ClientDialog final : public QDialog {
   QCheckBox* withPartner_;
   QSpinBox* leeftijd_;
   QLabel* reason_;
+  QScrollArea* scroller_;  ///< around the fields
 };
 
 }  // namespace brivane::app

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -117,7 +118,7 @@ void HelpDesk::MakeWindow(QWidget* above) {
   auto* layout = new QVBoxLayout(dialog_);
   layout->addWidget(text_);
   layout->addWidget(buttons);
-  dialog_->resize(kSize);
+  dialog_->resize(kSize.boundedTo(dialog_->screen()->availableSize()));
 }
 
 void HelpDesk::Follow(const QWidget* focus) {

@@ -20,6 +20,11 @@
 #include <brivane/vrijekolom/Teksten.h>
 
 namespace brivane::app {
+namespace {
+
+constexpr int kSideMargin = 2;  ///< pixels
+
+}  // namespace
 
 KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost host, Recording& recording,
                          QWidget* parent)
@@ -69,6 +74,9 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   effect_ = new EffectLabel;
   kolom_ = new QWidget;
   auto* layout = new QVBoxLayout(kolom_);
+  // The width is for the list and the boxes.
+  layout->setContentsMargins(kSideMargin, layout->contentsMargins().top(), kSideMargin,
+                             layout->contentsMargins().bottom());
   layout->addWidget(header_);
   layout->addWidget(effect_);
   layout->addWidget(scroller_, 1);

@@ -264,8 +264,7 @@ QVariant KolommenModel::TextOf(const Place& place, const dossier::KolomGegevens&
     case kNaam: return qt::ToQt(Onderwerp(kolom));
     case kStand: {
       const KolomStand stand = StandOf(place);
-      return signsAlone_ || stand == KolomStand::Geen ? StandTeken(stand)
-                                                      : StandTeken(stand) + u' ' + StandWoord(stand);
+      return stand == KolomStand::Geen ? QString() : StandTeken(stand) + u' ' + StandWoord(stand);
     }
     case kBedrag: return qt::ToQt(Basisbedrag(kolom));
     case kTermijn: return TermText(kolom.Termijn);
@@ -340,7 +339,7 @@ QVariant KolommenModel::headerData(int section, Qt::Orientation orientation, int
   if (role != Qt::DisplayRole) return {};
   switch (section) {
     case kNaam: return QStringLiteral("Vrije kolom");
-    case kStand: return signsAlone_ ? QString() : QStringLiteral("Stand");
+    case kStand: return QStringLiteral("Stand");
     case kBedrag: return QStringLiteral("Bedrag");
     case kTermijn: return QStringLiteral("Per");
     case kAanvang: return QStringLiteral("Aanvang");

@@ -46,8 +46,10 @@ class KolommenModel final : public QAbstractItemModel {
   [[nodiscard]] std::vector<Place> Shown() const;
   /// The widest texts that an amount of any column has, shown or not.
   [[nodiscard]] QStringList WidestAmounts() const;
-  /// Tell how a column stands by its sign alone.
-  void ShowSignsAlone(bool alone) { signsAlone_ = alone; }
+  /// How the column of a row stands to the other situation.
+  [[nodiscard]] KolomStand StandOfRow(const QModelIndex& index) const {
+    return KolomOf(index) == nullptr ? KolomStand::Geen : StandOf(PlaceOf(index));
+  }
 
   [[nodiscard]] Place PlaceOf(const QModelIndex& index) const;
   /// An invalid index where there is no such place, or the filter leaves it out.
@@ -91,7 +93,6 @@ class KolommenModel final : public QAbstractItemModel {
   QStringList words_;
   int sortedBy_ = kEigenVolgorde;
   Qt::SortOrder order_ = Qt::AscendingOrder;
-  bool signsAlone_ = false;
   std::vector<std::vector<QString>> searched_;  ///< search texts as far as they were asked for
   std::vector<Rows> rows_;                      ///< of each loan, places in its columns as they are shown
   std::vector<std::size_t> shownLoans_;

@@ -12,6 +12,7 @@
 
 #include "app/screen/Actions.h"
 #include "app/screen/ListColumns.h"
+#include <brivane/toolkits/qt/widgets/HighContrast.h>
 
 namespace brivane::app {
 namespace {
@@ -20,13 +21,27 @@ constexpr int kLeastCharacters = 26;      ///< least width, in characters
 constexpr int kLeastNameCharacters = 24;  ///< of what a column is called
 constexpr int kFocusFrame = 2;            ///< pixels
 
-/// Leaves room in a row for the frame of the focus.
+/// Leaves room in a row for the frame of the focus. Where how a column stands has no room of its own, its sign goes
+/// before the name of one that does not follow.
 class RowDelegate final : public QStyledItemDelegate {
  public:
-  using QStyledItemDelegate::QStyledItemDelegate;
+  RowDelegate(QTreeView& tree, const KolommenModel& model) : QStyledItemDelegate(&tree), tree_(tree), model_(model) {}
   [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 2 * kFocusFrame + 2);
   }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.column() != KolommenModel::kNaam || !tree_.isColumnHidden(KolommenModel::kStand)) return;
+    const KolomStand stand = model_.StandOfRow(index);
+    if (stand == KolomStand::WijktAf || stand == KolomStand::Nieuw)
+      option->text.prepend(StandTeken(stand) + QChar(QChar::Nbsp));
+  }
+
+ private:
+  QTreeView& tree_;
+  const KolommenModel& model_;
 };
 
 /// What a cell needs around a text.
@@ -47,10 +62,10 @@ KolommenTree::KolommenTree(std::shared_ptr<dossier::Dossier> dossier, QWidget* p
   setObjectName(QStringLiteral("kolommen"));
   setAccessibleName(QStringLiteral("Leningen en vrije kolommen"));
   setModel(model_);
-  setItemDelegate(new RowDelegate(this));
+  setItemDelegate(new RowDelegate(*this, *model_));
   setUniformRowHeights(true);
   // There are two levels, and names to read.
-  setIndentation(fontMetrics().averageCharWidth() * 2);
+  setIndentation(fontMetrics().averageCharWidth() * 3 / 2);
   setAllColumnsShowFocus(true);
   setEditTriggers(NoEditTriggers);
   setDragDropMode(DragDrop);
@@ -159,19 +174,17 @@ void KolommenTree::FitColumns() {
   const int room = viewport()->width();
   const ListWidths widths{.naam = fontMetrics().averageCharWidth() * kLeastNameCharacters + indentation(),
                           .amount = WidestOf(*this, model_->WidestAmounts() << heading(KolommenModel::kBedrag)),
-                          .sign = WidestOf(*this, {QStringLiteral("≠")}),
                           .stand = WidestOf(*this, {QStringLiteral("≠ wijkt af"), heading(KolommenModel::kStand)}),
                           .termijn = WidestOf(*this, {QStringLiteral("kwartaal"), QStringLiteral("eenmalig")}),
                           .aanvang = WidestOf(*this, {QStringLiteral("00-00-0000"), heading(KolommenModel::kAanvang)})};
   const ListParts parts = PartsWithRoom(room, widths);
-  model_->ShowSignsAlone(!parts.standInWords);
+  setColumnHidden(KolommenModel::kStand, !parts.stand);
   setColumnHidden(KolommenModel::kTermijn, !parts.termijn);
   setColumnHidden(KolommenModel::kAanvang, !parts.aanvang);
-  const int stand = parts.standInWords ? widths.stand : widths.sign;
-  const int naam =
-      room - stand - widths.amount - (parts.termijn ? widths.termijn : 0) - (parts.aanvang ? widths.aanvang : 0);
+  const int naam = room - widths.amount - (parts.termijn ? widths.termijn : 0) - (parts.stand ? widths.stand : 0) -
+                   (parts.aanvang ? widths.aanvang : 0);
   setColumnWidth(KolommenModel::kNaam, std::max(naam, 1));
-  setColumnWidth(KolommenModel::kStand, stand);
+  setColumnWidth(KolommenModel::kStand, widths.stand);
   setColumnWidth(KolommenModel::kBedrag, widths.amount);
   setColumnWidth(KolommenModel::kTermijn, widths.termijn);
   setColumnWidth(KolommenModel::kAanvang, widths.aanvang);
@@ -209,9 +222,12 @@ void KolommenTree::drawRow(QPainter* painter, const QStyleOptionViewItem& option
   if (!hasFocus() || index.siblingAtColumn(0) != currentIndex().siblingAtColumn(0)) return;
   // The colour of a selection alone does not tell where the keys go.
   painter->save();
-  painter->setPen(QPen(palette().color(QPalette::Text), kFocusFrame));
+  // In high contrast a selection is as bright as the text: its own dark text makes a frame inside it.
+  const bool inside = qt::IsHighContrast(palette());
+  const int inset = kFocusFrame / 2 + (inside ? kFocusFrame / 2 : 0);
+  painter->setPen(QPen(palette().color(inside ? QPalette::HighlightedText : QPalette::Text), kFocusFrame));
   painter->setBrush(Qt::NoBrush);
-  painter->drawRect(row.adjusted(kFocusFrame / 2, kFocusFrame / 2, -kFocusFrame / 2, -kFocusFrame / 2));
+  painter->drawRect(row.adjusted(inset, inset, -inset, -inset));
   painter->restore();
 }
 

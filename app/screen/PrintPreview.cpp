@@ -1,6 +1,5 @@
 #include "app/screen/PrintPreview.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPageSize>
@@ -13,6 +12,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/desk/FlowRow.h"
 #include "app/desk/Messages.h"
 #include "app/report/Painter.h"
 
@@ -46,7 +46,7 @@ PrintPreview::PrintPreview(report::Report report, QWidget* parent)
           [this](QPrinter* printer) { static_cast<void>(report::PaintPages(PagesFor(report_, *printer), *printer)); });
   connect(pages_, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::ShowPage);
 
-  auto* bar = new QHBoxLayout;
+  auto* bar = new FlowRow;
   const auto button = [&](const char* text, const char* name, auto task) {
     auto* made = new QPushButton(QString::fromUtf8(text));
     made->setAccessibleName(QString::fromUtf8(name));
@@ -58,15 +58,12 @@ PrintPreview::PrintPreview(report::Report report, QWidget* parent)
   QPushButton* print = button("&Afdrukken…", "Afdrukken", [this] { Print(); });
   print->setAutoDefault(true);
   print->setDefault(true);
-  bar->addSpacing(fontMetrics().height());
   button("V&orige", "Vorige bladzijde", [this] { GoTo(pages_->currentPage() - 1); });
   bar->addWidget(place_);
   button("V&olgende", "Volgende bladzijde", [this] { GoTo(pages_->currentPage() + 1); });
-  bar->addSpacing(fontMetrics().height());
   button("&Groter", "Groter", [this] { pages_->zoomIn(); });
   button("&Kleiner", "Kleiner", [this] { pages_->zoomOut(); });
   button("Hele &bladzijde", "Hele bladzijde", [this] { pages_->fitInView(); });
-  bar->addStretch();
   button("&Sluiten", "Sluiten", [this] { reject(); });
 
   auto* layout = new QVBoxLayout(this);

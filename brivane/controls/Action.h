@@ -26,22 +26,22 @@ struct Select {
 };
 /// Ticks or unticks a check box: host::kTicked or host::kUnticked.
 struct Tick {
-  int value = 0;
+  int value = 0;  ///< any other is ignored
   friend bool operator==(const Tick&, const Tick&) = default;
 };
 /// Sets a yes/no toggle: host::kJa or host::kNee.
 struct Toggle {
-  int value = 0;
+  int value = 0;  ///< any other is ignored
   friend bool operator==(const Toggle&, const Toggle&) = default;
 };
 /// Picks the entry of a list at a position from 0.
 struct Choose {
-  int index = 0;
+  int index = 0;  ///< one that the list does not have is ignored
   friend bool operator==(const Choose&, const Choose&) = default;
 };
 /// Types a value into a box and leaves the box. A value that is not of the box's kind is held as typed.
 struct Enter {
-  BoxValue value;
+  BoxValue value;  ///< empty empties the box
   friend bool operator==(const Enter&, const Enter&) = default;
 };
 /// Closes a form by its close box.
@@ -49,11 +49,12 @@ struct Close {
   friend bool operator==(const Close&, const Close&) = default;
 };
 
+/// One thing that a person does. Which control takes which is told by each; a control ignores any other.
 using Action = std::variant<Press, Select, Tick, Toggle, Choose, Enter, Close>;
 
 /// What became of an action.
 enum class Outcome : std::uint8_t {
-  Done,
+  Done,     ///< it took place, with all that it set off
   Ignored,  ///< the control cannot be reached, is locked, or is of a kind that knows no such action
   Refused,  ///< the box's Validation set Cancel: the content stays as typed and the focus in the box
 };
@@ -66,6 +67,7 @@ class Surface;
 class BRIVANE_API ActionListener {
  public:
   virtual ~ActionListener() = default;
+  /// A person is about to act on a control. A failure here is a failure of the action.
   virtual void Before(AnyControl& control, const Action& action) = 0;
   /// No outcome: the action failed, and its failure goes on to the caller.
   virtual void After(AnyControl& control, const Action& action, std::optional<Outcome> outcome) = 0;

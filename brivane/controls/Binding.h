@@ -20,7 +20,7 @@ enum class BindingState : std::uint8_t {
 
 /// What became of a binding.
 enum class BindingResult : std::uint8_t {
-  Bound,
+  Bound,    ///< the control shows the column
   Failed,   ///< the host was told why by its own ReportError; the control takes no input until it is bound
   Refused,  ///< something that is being typed does not pass: the control stays bound as it was, and shows what it is
 };
@@ -36,14 +36,18 @@ enum class BindingResult : std::uint8_t {
 ///     binding.Unbind([&] { editor.Unbind(); });
 class BRIVANE_API Binding {
  public:
+  /// A surface that one of these toolkits made. It outlives this.
   explicit Binding(host::Surface& surface);
 
   /// Runs a binding. It has failed where a procedure of the control did since the last binding began, also where that
-  /// was reported, and where this throws. May be called again from inside; what came last counts.
+  /// was reported, and where this throws, which goes on to the caller. May be called again from inside; what came last
+  /// counts.
   BindingResult Bind(const std::function<void()>& bind);
-  /// Runs what lets go of the host's objects.
+  /// Runs what lets go of the host's objects, after the veil was laid. May be called from inside a binding, which has
+  /// failed then.
   void Unbind(const std::function<void()>& letGo);
 
+  /// What the control stands for now.
   [[nodiscard]] BindingState State() const { return state_; }
   /// A binding failed or was let go of: there is nothing to show and nothing to check.
   [[nodiscard]] bool IsVoid() const { return state_ == BindingState::Failed || state_ == BindingState::Unbound; }

@@ -11,6 +11,7 @@
 /// The controls that choose between a few values: toggle, check box and option.
 namespace brivane::controls {
 
+/// The yes/no toggle. A person sets it by Toggle.
 class BRIVANE_API JaNee final : public ControlOf<host::JaNee> {
  public:
   using ControlOf::ControlOf;
@@ -37,6 +38,7 @@ class BRIVANE_API JaNee final : public ControlOf<host::JaNee> {
   int value_ = host::kNee;
 };
 
+/// The check box. A person sets it by Tick.
 class BRIVANE_API CheckBox final : public CaptionedOf<host::CheckBox> {
  public:
   using CaptionedOf::CaptionedOf;
@@ -63,6 +65,7 @@ class BRIVANE_API CheckBox final : public CaptionedOf<host::CheckBox> {
   int value_ = host::kUnticked;
 };
 
+/// An option. A person selects it by Select, and deselects it by selecting another one.
 class BRIVANE_API OptionButton final : public CaptionedOf<host::OptionButton> {
  public:
   using CaptionedOf::CaptionedOf;

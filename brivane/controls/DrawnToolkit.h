@@ -6,6 +6,7 @@
 #include <brivane/controls/FormSubject.h>
 #include <brivane/controls/ToolkitBase.h>
 #include <brivane/controls/entry/PendingEdits.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/host/Error.h>
 #include <brivane/host/Export.h>
 #include <brivane/host/controls/Desktop.h>
@@ -14,8 +15,14 @@ namespace brivane::controls {
 
 /// A toolkit that shows its controls: what a person does there comes from an event loop, across which no
 /// exception may go.
+///
+/// A toolkit of your own derives from it, makes a Peer for each control (ToolkitBase::MakePeer, MakeFormPeer), hands
+/// what a person does to Hand, and what is typed to a PendingEdit. What the controls do then is done here.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API DrawnToolkit : public ToolkitBase {
  public:
+  /// Told of a failure, with its number, description and source.
   using FailureListener = std::function<void(const host::Error& failure)>;
 
   /// Where a failure goes that no procedure handled: it would otherwise cross the event loop. Without a
@@ -30,12 +37,15 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
 
   /// Who tells what a form is about that comes on the screen.
   using SubjectTeller = std::function<FormSubject()>;
+  /// Asked when a form comes on the screen. A host::Error of the teller leaves it without words.
   void SetSubjectTeller(SubjectTeller teller) { subjectTeller_ = std::move(teller); }
   /// What the form that comes on the screen is about; nothing where nobody tells.
   [[nodiscard]] FormSubject Subject();
 
   /// What is being typed in the boxes of this toolkit.
   [[nodiscard]] PendingEdits& Pending() { return pending_; }
+  /// The texts of what it adds to the controls; Dutch where it knows no other.
+  [[nodiscard]] virtual const frame::Texts& Texts() const { return frame::Texts::In(frame::Language::Dutch); }
   /// Asks a person something, or tells it; the controls' own message boxes do not come here.
   [[nodiscard]] virtual host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                                 host::MessageStyle style) = 0;

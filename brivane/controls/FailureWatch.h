@@ -13,12 +13,14 @@ namespace brivane::controls {
 ///     if (failures.Seen()) ...  // the host did not take it
 class BRIVANE_API FailureWatch {
  public:
+  /// Begins to watch. The desktop may end before it.
   explicit FailureWatch(host::Desktop& desktop)
       : listening_(desktop.ProcedureFailed.Connect([this] { seen_ = true; })) {}
   FailureWatch(const FailureWatch&) = delete;
   FailureWatch& operator=(const FailureWatch&) = delete;
   ~FailureWatch() = default;
 
+  /// Whether anything failed since it began, or since Forget.
   [[nodiscard]] bool Seen() const { return seen_; }
   /// What was seen until now does not count.
   void Forget() { seen_ = false; }

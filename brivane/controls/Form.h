@@ -14,6 +14,7 @@ namespace brivane::controls {
 /// A form: a surface in a window of its own. Its size is that of the window.
 class BRIVANE_API Form final : public SurfaceOf<host::Form> {
  public:
+  /// For the toolkit, which outlives it.
   Form(std::unique_ptr<frame::Row> row, ToolkitBase& toolkit);
 
   [[nodiscard]] host::Control& Create(std::size_t row, int index) override;

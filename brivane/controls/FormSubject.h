@@ -11,6 +11,7 @@ struct FormSubject {
   std::string title = {};                        ///< goes with the form's caption in the title of its window
   std::function<std::string(int row)> row = {};  ///< of a row from 1; empty where there is nothing to tell
 
+  /// What there is to tell of a row.
   [[nodiscard]] std::string OfRow(int number) const { return row ? row(number) : std::string(); }
 };
 

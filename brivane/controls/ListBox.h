@@ -9,14 +9,17 @@
 
 namespace brivane::controls {
 
+/// The list. A person chooses by Choose.
 class BRIVANE_API ListBox final : public ControlOf<host::ListBox> {
  public:
+  /// What was added.
   struct Entry {
-    std::string text;
-    std::int32_t itemData = 0;
+    std::string text;           ///< UTF-8
+    std::int32_t itemData = 0;  ///< what it stands for
     friend bool operator==(const Entry&, const Entry&) = default;
   };
 
+  /// With the entries of the row, and none selected.
   ListBox(const frame::Row& row, int index, Surface* owner, AnyControl* container, float fontSize);
 
   void Clear() override;
@@ -27,6 +30,7 @@ class BRIVANE_API ListBox final : public ControlOf<host::ListBox> {
   [[nodiscard]] std::int32_t ItemData(int index) const override { return At(index).itemData; }
   [[nodiscard]] std::string List(int index) const override { return At(index).text; }
 
+  /// All of them in their order; until the next Add or Clear.
   [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
 
  protected:

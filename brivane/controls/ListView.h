@@ -12,20 +12,22 @@ namespace brivane::controls {
 /// The report list. An index or sub-item that it does not have fails with error 9.
 class BRIVANE_API ListView final : public ControlOf<host::ListView> {
  public:
+  /// A column.
   struct Column {
-    std::string heading;
-    host::Twips width;
+    std::string heading;  ///< UTF-8
+    host::Twips width;    ///< as it was added
     friend bool operator==(const Column&, const Column&) = default;
   };
+  /// What stands in a row under a column.
   struct Cell {
-    std::string text;
-    bool bold = false;
+    std::string text;   ///< UTF-8
+    bool bold = false;  ///< whether it is marked
     friend bool operator==(const Cell&, const Cell&) = default;
   };
   /// A row: its key, and a cell for its text and for each sub-item.
   struct Item {
-    std::string key;
-    std::vector<Cell> cells;
+    std::string key;          ///< shown nowhere
+    std::vector<Cell> cells;  ///< the text first
     friend bool operator==(const Item&, const Item&) = default;
   };
 
@@ -45,8 +47,11 @@ class BRIVANE_API ListView final : public ControlOf<host::ListView> {
   void SetBold(std::size_t index, bool bold) override;
   void SetSubItemBold(std::size_t index, std::size_t subItem, bool bold) override;
 
+  /// All of them in their order; until the next change.
+  /// @{
   [[nodiscard]] const std::vector<Column>& Columns() const { return columns_; }
   [[nodiscard]] const std::vector<Item>& Items() const { return items_; }
+  /// @}
 
  protected:
   void CopyFrom(const AnyControl& original) override;

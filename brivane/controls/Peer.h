@@ -9,21 +9,21 @@ namespace brivane::controls {
 
 /// A side of a control's state that a peer shows.
 enum class Aspect : std::uint8_t {
-  Value,  ///< content of a box; value of a toggle, option or check box
-  Enabled,
-  Visible,
-  Caption,
-  Place,
-  FontSize,
-  BackColor,
-  Locked,
+  Value,       ///< content of a box; value of a toggle, option or check box
+  Enabled,     ///< whether a person can act on it
+  Visible,     ///< whether it is on show
+  Caption,     ///< the text of its own
+  Place,       ///< where it stands, and its size
+  FontSize,    ///< in points
+  BackColor,   ///< the background
+  Locked,      ///< whether a text box is written by code alone
   Entries,     ///< a list's entries, all anew; the index goes with them
   EntryAdded,  ///< one more entry at the end of a list
-  ListIndex,
-  Columns,    ///< a list view's columns
-  Rows,       ///< a list view's rows, with their bold marks
-  Selection,  ///< a list view's selected row
-  Veil,       ///< whether a surface is veiled
+  ListIndex,   ///< the selected entry of a list
+  Columns,     ///< a list view's columns
+  Rows,        ///< a list view's rows, with their bold marks
+  Selection,   ///< a list view's selected row
+  Veil,        ///< whether a surface is veiled
 };
 
 /// What draws a control: shows the state that the control holds, and hands what a person does to
@@ -38,7 +38,9 @@ class BRIVANE_API Peer {
   Peer& operator=(const Peer&) = delete;
   virtual ~Peer() = default;
 
+  /// Shows a side of the state that has changed. It acts on no control, and does not fail.
   virtual void Refresh(Aspect aspect) = 0;
+  /// Code moves the input focus here.
   virtual void TakeFocus() {}
 };
 

@@ -11,13 +11,14 @@ inline constexpr double kTwipsPerPixel = host::kTwipsPerPixel;
 
 /// A place in whole pixels.
 struct PixelPlace {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
+  int left = 0;    ///< from the container's left edge
+  int top = 0;     ///< from its top edge
+  int width = 0;   ///< outside
+  int height = 0;  ///< outside
   friend bool operator==(const PixelPlace&, const PixelPlace&) = default;
 };
 
+/// A length in whole pixels, halves away from zero; a scale of 1 has 15 twips to a pixel.
 [[nodiscard]] inline int Pixel(float twips, double scale) {
   return static_cast<int>(std::lround(double{twips} / kTwipsPerPixel * scale));
 }

@@ -12,22 +12,26 @@
 /// The controls without a value: frame, label, help icon and button.
 namespace brivane::controls {
 
+/// The frame. Nothing is done to it.
 class BRIVANE_API Frame final : public CaptionedOf<host::Frame> {
  public:
   using CaptionedOf::CaptionedOf;
 };
 
+/// The label. Nothing is done to it.
 class BRIVANE_API Label final : public CaptionedOf<host::Label> {
  public:
   using CaptionedOf::CaptionedOf;
 };
 
+/// The help icon. Nothing is done to it; what shows it shows its text.
 class BRIVANE_API Hint final : public ControlOf<host::Hint> {
  public:
   using ControlOf::ControlOf;
   [[nodiscard]] std::string HelpText() const override { return std::string(Row().caption); }
 };
 
+/// The button. A person presses it by Press.
 class BRIVANE_API Button final : public CaptionedOf<host::Button> {
  public:
   using CaptionedOf::CaptionedOf;

@@ -7,19 +7,25 @@
 
 namespace brivane::controls {
 
+using frame::TextId;
+
 namespace {
 
 enum class Typing : std::uint8_t { No, Yes };
 
 /// Says what is lost and what is not when the form is closed.
-std::string Question(RowChanges::Stays stays, Typing typing) {
-  constexpr char kStays[] = " van de eerste rij is bij het invullen al bewaard en blijft staan. De andere wijzigingen";
-  std::string text = "De wijzigingen in de rijen";
-  if (stays == RowChanges::Stays::Amount) text = std::string("Het bedrag") + kStays;
-  if (stays == RowChanges::Stays::Value) text = std::string("De waarde") + kStays;
-  text += " worden niet bewaard als u het venster sluit zonder op OK te drukken.";
-  if (typing == Typing::Yes) text += " Dat geldt ook voor wat u nu aan het typen bent.";
-  return text + " Wilt u het sluiten?";
+std::string Question(const frame::Texts& texts, RowChanges::Stays stays, Typing typing) {
+  const auto lost = [&] {
+    switch (stays) {
+      case RowChanges::Stays::Amount: return TextId::AmountStays;
+      case RowChanges::Stays::Value: return TextId::ValueStays;
+      case RowChanges::Stays::Nothing: break;
+    }
+    return TextId::RowsNotStored;
+  }();
+  std::string text = texts.Of(lost);
+  if (typing == Typing::Yes) text += ' ' + texts.Of(TextId::TypingToo);
+  return text + ' ' + texts.Of(TextId::CloseQuestion);
 }
 
 bool IsOfFirstRow(const AnyControl& control) {
@@ -47,8 +53,8 @@ RowChanges::Stays RowChanges::WhatStays(const AnyControl& control) {
 void RowChanges::Close(Form& form, DrawnToolkit& toolkit) {
   const bool typing = toolkit.Pending().InRowsOf(form);
   if (form.Rows()->Any() || typing) {
-    const std::string question = Question(form.Rows()->stays_, typing ? Typing::Yes : Typing::No);
-    // "Nee" is the default of a question.
+    const std::string question = Question(toolkit.Texts(), form.Rows()->stays_, typing ? Typing::Yes : Typing::No);
+    // No is the default of a question.
     if (toolkit.Ask(form.Caption(), question, host::MessageStyle::YesNoQuestion) != host::MessageAnswer::Yes) return;
   }
   toolkit.Hand(form, controls::Close{});

@@ -20,18 +20,25 @@ class BRIVANE_API RowChanges {
   [[nodiscard]] static std::shared_ptr<RowChanges> Around(const AnyControl& control);
 
   /// What closing the form leaves of an entry.
-  enum class Stays : std::uint8_t { Nothing, Amount, Value };
+  enum class Stays : std::uint8_t {
+    Nothing,  ///< nothing: OK alone stores it
+    Amount,   ///< the amount of the first row, which was stored when it was entered
+    Value,    ///< the value of the first row, where the rows have no amounts
+  };
   /// Of one in this row element. The value of the first row is its amount, or where the rows have none, what its boxes
   /// make of it.
   [[nodiscard]] static Stays WhatStays(const AnyControl& control);
 
+  /// A person changed a row; `stays` is what closing leaves of it.
   void Mark(Stays stays) {
     changed_ = true;
     if (stays != Stays::Nothing) stays_ = stays;
   }
+  /// Whether a person changed any row.
   [[nodiscard]] bool Any() const { return changed_; }
 
-  /// A person closes the window of a form.
+  /// A person closes the window of a form: where a row was changed or is being typed in, a question is asked first. The
+  /// form may be gone when this returns.
   static void Close(Form& form, DrawnToolkit& toolkit);
 
  private:

@@ -8,9 +8,10 @@
 
 namespace brivane::controls {
 
-/// The host's text box. It can hold anything, of its kind or not; reading tells.
+/// The host's text box. It can hold anything, of its kind or not; reading tells. A person fills it by Enter.
 class BRIVANE_API TextBox final : public ControlOf<host::TextBox> {
  public:
+  /// Empty.
   TextBox(const frame::Row& row, int index, Surface* owner, AnyControl* container, float fontSize)
       : ControlOf(row, index, owner, container, fontSize), locked_(row.locked) {}
 
@@ -26,7 +27,9 @@ class BRIVANE_API TextBox final : public ControlOf<host::TextBox> {
 
   /// What the box holds, of whatever kind.
   [[nodiscard]] const BoxValue& Content() const { return content_; }
+  /// Holds something else, as code writes it: nothing is raised and nothing is checked.
   void SetContent(BoxValue value);
+  /// What its design says of what it takes.
   [[nodiscard]] frame::Format Format() const { return Row().format; }
   /// A person is typing something that was not entered yet: the next value written by code is shown,
   /// also when it equals the content.

@@ -15,8 +15,8 @@ namespace brivane::controls {
 
 /// What the frame and title of a form's window take of its size.
 struct WindowFrame {
-  host::Twips width;
-  host::Twips height;
+  host::Twips width;   ///< of both sides together
+  host::Twips height;  ///< of title and bottom together
 };
 
 /// Makes the controls of design tables. What a toolkit shows of them, and on which machine they stand,
@@ -33,9 +33,12 @@ class BRIVANE_API ToolkitBase : public frame::Toolkit {
   /// How long what it makes lives, where a host may delete it at any moment; it ends with the toolkit at the latest.
   [[nodiscard]] const std::shared_ptr<controls::Life>& Life() const { return life_; }
 
-  /// Listeners are told in the order of adding, and of what an action became in the reverse order.
+  /// Listeners are told in the order of adding, and of what an action became in the reverse order. One that is removed
+  /// while an action goes on is told no more of it; it is removed before it ends.
+  /// @{
   void AddListener(ActionListener& listener) { listeners_.push_back(&listener); }
   void RemoveListener(ActionListener& listener) { std::erase(listeners_, &listener); }
+  /// @}
 
   /// Code moved the input focus into a control.
   std::function<void(AnyControl&)> focusMoved;
@@ -43,6 +46,7 @@ class BRIVANE_API ToolkitBase : public frame::Toolkit {
   /// Width of a text in a design's font at its designed size.
   [[nodiscard]] virtual host::Twips MeasureText(const frame::Design& design, std::string_view text,
                                                 bool bold) const = 0;
+  /// What a form's window adds to its inside, in twips: fixed, so that a form is of one size on every machine.
   [[nodiscard]] virtual controls::WindowFrame WindowFrame() const { return {{240}, {585}}; }
 
  protected:
@@ -53,6 +57,7 @@ class BRIVANE_API ToolkitBase : public frame::Toolkit {
   /// What draws a control, its frame and surface already having theirs; nothing where nothing is drawn.
   /// A surface of its own comes here too, its row without a place in a table.
   [[nodiscard]] virtual std::unique_ptr<Peer> MakePeer(AnyControl&) { return nullptr; }
+  /// What draws a form, which has no control yet.
   [[nodiscard]] virtual std::unique_ptr<FormPeer> MakeFormPeer(Form&) { return nullptr; }
   /// What happens while a form without a peer is open.
   virtual void RunModal(Form&) {}

@@ -9,11 +9,14 @@
 namespace brivane::frame {
 
 /// The calendar's first and last day: 1 January 100 and 31 December 9999.
+/// @{
 inline constexpr host::Date kFirstDay{-657434};
 inline constexpr host::Date kLastDay{2958465};
+/// @}
 
+/// A date as it is written, checked by nobody until MakeDate.
 struct YearMonthDay {
-  int year;
+  int year;   ///< 100 to 9999
   int month;  ///< 1 to 12
   int day;    ///< 1 to 31
   friend constexpr bool operator==(const YearMonthDay&, const YearMonthDay&) = default;
@@ -23,6 +26,7 @@ struct YearMonthDay {
 [[nodiscard]] BRIVANE_API YearMonthDay Split(host::Date date);
 /// Fails with error 6 outside the years 100 to 9999.
 [[nodiscard]] BRIVANE_API host::Date MakeDate(YearMonthDay date);
+/// Whether there is such a day, within the calendar.
 [[nodiscard]] BRIVANE_API bool IsCalendarDate(YearMonthDay date);
 
 /// The date that many calendar months later (or earlier), the day clamped to the last of a shorter

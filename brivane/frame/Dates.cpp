@@ -11,13 +11,9 @@
 namespace brivane::frame {
 namespace {
 
-constexpr std::string_view kExpected = "Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031.";
-constexpr std::array<std::string_view, 12> kMonths = {"januari",   "februari", "maart",    "april",
-                                                      "mei",       "juni",     "juli",     "augustus",
-                                                      "september", "oktober",  "november", "december"};
 /// From the day of the week that the zero date was.
-constexpr std::array<std::string_view, 7> kDays = {"zaterdag", "zondag",    "maandag", "dinsdag",
-                                                   "woensdag", "donderdag", "vrijdag"};
+constexpr std::array<TextId, 7> kDays = {TextId::Saturday,  TextId::Sunday,   TextId::Monday, TextId::Tuesday,
+                                         TextId::Wednesday, TextId::Thursday, TextId::Friday};
 constexpr std::size_t kShortYear = 2;
 constexpr std::size_t kFullYear = 4;
 
@@ -58,20 +54,22 @@ int Year(std::string_view digits, int firstShort) {
   return century + year < firstShort ? century + 100 + year : century + year;
 }
 
+Phrase InWords(const frame::YearMonthDay& day) {
+  const auto month = static_cast<TextId>(static_cast<int>(TextId::January) + day.month - 1);
+  return {TextId::Day, {std::to_string(day.day), month, std::to_string(day.year)}};
+}
+
 Reading<host::Date> Read(std::string_view text, int firstShort) {
   using Answer = Reading<host::Date>;
   text = Trim(text);
   if (text.empty()) return {};
   const std::vector<std::string_view> parts = Split(text);
-  if (parts.empty()) return Answer::Refuse(std::string(kExpected));
+  if (parts.empty()) return Answer::Refuse(TextId::ExpectDate);
   const frame::YearMonthDay date{Year(parts[2], firstShort), ToInt(parts[1]), ToInt(parts[0])};
-  if (date.year < kFirstYear) return Answer::Refuse("Vul een jaar vanaf " + std::to_string(kFirstYear) + " in.");
+  if (date.year < kFirstYear) return Answer::Refuse({TextId::EarliestYear, {std::to_string(kFirstYear)}});
   if (date.month < 1 || date.month > 12)
-    return Answer::Refuse("Maand " + std::to_string(date.month) + " bestaat niet. " + std::string(kExpected));
-  if (!frame::IsCalendarDate(date))
-    return Answer::Refuse(std::to_string(date.day) + " " +
-                          std::string(kMonths[static_cast<std::size_t>(date.month) - 1]) + " " +
-                          std::to_string(date.year) + " bestaat niet.");
+    return Answer::Refuse({TextId::NoSuchMonth, {std::to_string(date.month), TextId::ExpectDate}});
+  if (!frame::IsCalendarDate(date)) return Answer::Refuse({TextId::NoSuchDay, {InWords(date)}});
   return frame::MakeDate(date);
 }
 
@@ -94,18 +92,16 @@ std::string ShowDate(host::Date date) {
   return text;
 }
 
-std::string ShowLongDate(host::Date date) {
-  if (date.IsNone()) return {};
-  const frame::YearMonthDay parts = frame::Split(date);
-  return std::to_string(parts.day) + ' ' + std::string(kMonths[static_cast<std::size_t>(parts.month) - 1]) + ' ' +
-         std::to_string(parts.year);
-}
+Phrase LongDate(host::Date date) { return date.IsNone() ? Phrase() : InWords(frame::Split(date)); }
 
-std::string ShowDateInWords(host::Date date) {
+Phrase DateInWords(host::Date date) {
   if (date.IsNone()) return {};
   const auto week = static_cast<int>(kDays.size());
   const auto day = static_cast<std::size_t>((date.Days() % week + week) % week);
-  return std::string(kDays[day]) + ' ' + ShowLongDate(date);
+  return {TextId::DayOfWeek, {kDays[day], LongDate(date)}};
 }
+
+std::string ShowLongDate(host::Date date) { return LongDate(date).In(Language::Dutch); }
+std::string ShowDateInWords(host::Date date) { return DateInWords(date).In(Language::Dutch); }
 
 }  // namespace brivane::frame

@@ -26,6 +26,10 @@ inline constexpr int kFirstYear = 1900;
 
 /// "01-04-2031"; no date is the empty text.
 [[nodiscard]] BRIVANE_API std::string ShowDate(host::Date date);
+/// "1 april 2031"; no date says nothing.
+[[nodiscard]] BRIVANE_API Phrase LongDate(host::Date date);
+/// "dinsdag 1 april 2031"; no date says nothing.
+[[nodiscard]] BRIVANE_API Phrase DateInWords(host::Date date);
 /// "1 april 2031"; no date is the empty text.
 [[nodiscard]] BRIVANE_API std::string ShowLongDate(host::Date date);
 /// "dinsdag 1 april 2031"; no date is the empty text.

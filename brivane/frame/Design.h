@@ -26,8 +26,8 @@ using host::Kind;
 
 /// How a text box formats and accepts its content.
 enum class Format : std::uint8_t {
-  None,  ///< not a box
-  Text,
+  None,         ///< not a box
+  Text,         ///< any text
   Amount,       ///< euros, two decimals, Dutch grouping
   Number,       ///< a number with up to four decimals
   WholeNumber,  ///< a 32-bit whole number
@@ -36,16 +36,16 @@ enum class Format : std::uint8_t {
 
 /// A place in whole twips; multiples of 15 keep every control on whole pixels at 96 dots per inch.
 struct DesignPlace {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
+  int left = 0;    ///< from the left edge of the frame or surface
+  int top = 0;     ///< from its top edge
+  int width = 0;   ///< outside
+  int height = 0;  ///< outside
 };
 
 using host::ListEntry;
 
-inline constexpr int kNoIndex = -1;
-inline constexpr int kTemplateIndex = 0;
+inline constexpr int kNoIndex = -1;       ///< of a control that is no element of a control array
+inline constexpr int kTemplateIndex = 0;  ///< of the element from which a form makes others at run time; never shown
 
 struct Design;
 
@@ -53,22 +53,28 @@ struct Design;
 /// sanitizers an address cannot be compared with null while compiling.
 class BRIVANE_API EmbeddedDesign {
  public:
-  constexpr EmbeddedDesign() = default;
+  constexpr EmbeddedDesign() = default;  ///< none
+  /// The design, which lives as long as the program.
   constexpr EmbeddedDesign(const Design* design) : design_(design), given_(true) {}
 
+  /// Whether there is one.
   [[nodiscard]] constexpr bool Given() const { return given_; }
+  /// The design; a null pointer where there is none.
+  /// @{
   constexpr operator const Design*() const { return design_; }
   constexpr const Design* operator->() const { return design_; }
+  /// @}
 
  private:
   const Design* design_ = nullptr;
   bool given_ = false;
 };
 
+/// One control of a design. Texts are UTF-8 and live as long as the program.
 struct Row {
-  std::string_view name;
-  Kind kind = Kind::Frame;
-  DesignPlace place = {};
+  std::string_view name;          ///< unique on its surface, but for the elements of one array
+  Kind kind = Kind::Frame;        ///< which interface it has
+  DesignPlace place = {};         ///< in its frame, or on the surface
   std::string_view parent = {};   ///< name of the containing frame; empty for the surface itself
   std::string_view caption = {};  ///< also the help text of a Hint
   int index = kNoIndex;           ///< place in a control array; kTemplateIndex is the template of run-time elements
@@ -76,42 +82,43 @@ struct Row {
   std::string_view label = {};    ///< the text that names a box, toggle, list or help icon to a screen reader
   /// Letter of the caption that, with Alt, goes to the control, to the box that it labels, or into the frame.
   char mnemonic = '\0';
-  Format format = Format::None;
+  Format format = Format::None;  ///< text boxes: what it takes and how it shows it
   /// End dates: the box with the date that a typed term ("3j") counts from, on this surface or on one around it.
   std::string_view countsFrom = {};
-  bool bordered = true;    ///< frames: draws its border and caption
-  bool locked = false;     ///< text boxes: written by code alone
-  bool multiline = false;  ///< labels: wraps over lines
-  std::span<const ListEntry> entries = {};
-  EmbeddedDesign embedded = {};  ///< kind Surface: the design of the embedded control
+  bool bordered = true;                     ///< frames: draws its border and caption
+  bool locked = false;                      ///< text boxes: written by code alone
+  bool multiline = false;                   ///< labels: wraps over lines
+  std::span<const ListEntry> entries = {};  ///< lists: those that it begins with
+  EmbeddedDesign embedded = {};             ///< kind Surface: the design of the embedded control
 };
 
+/// The design of a surface or a form. Check tells whether it holds together.
 struct Design {
-  std::string_view name;
-  std::span<const Row> rows;
-  int width = 0;  ///< twips; of a form, its inside
-  int height = 0;
-  std::string_view caption = {};  ///< title of a form
-  std::string_view fontName = "Arial";
-  float fontSize = 9;  ///< points
+  std::string_view name;                ///< what the control is called, by scripts as well
+  std::span<const Row> rows;            ///< frames before what stands in them, in the order of making
+  int width = 0;                        ///< twips; of a form, its inside
+  int height = 0;                       ///< the same
+  std::string_view caption = {};        ///< title of a form
+  std::string_view fontName = "Arial";  ///< of every control on it
+  float fontSize = 9;                   ///< points
 };
 
 /// What is wrong with a table.
 enum class Fault : std::uint8_t {
-  None,
-  NoName,
-  NameTwice,
-  ParentMissing,
-  ParentNotAFrame,
-  OutsideParent,
-  BoxWithoutLabel,
-  BoxWithoutFormat,
-  TabTwice,
-  TabGap,
-  TabMissing,
-  TabOnPassive,
-  SurfaceWithoutDesign,
-  ArrayScattered
+  None,                  ///< nothing
+  NoName,                ///< a row without a name
+  NameTwice,             ///< two rows with one name that are no elements of an array in the order of their indexes
+  ParentMissing,         ///< no row above has the name of its parent
+  ParentNotAFrame,       ///< the row above that has it is no frame
+  OutsideParent,         ///< it stands outside its frame or surface, in part or whole
+  BoxWithoutLabel,       ///< a screen reader would have no name for it
+  BoxWithoutFormat,      ///< a text box without a format, or another kind with one
+  TabTwice,              ///< two rows at one place in the tab order
+  TabGap,                ///< a place past the number of those that take the focus
+  TabMissing,            ///< a control that takes the focus has no place
+  TabOnPassive,          ///< a control that takes no focus has one
+  SurfaceWithoutDesign,  ///< an embedded control without a design, or another kind with one
+  ArrayScattered         ///< the elements of an array do not stand together
 };
 
 namespace detail {

@@ -25,8 +25,8 @@ struct ControlIdentity {
 /// Where a control's reports go: the desktop that knows the application's title and pointer, and the
 /// application bound at the moment of the report (nothing before the first binding).
 struct ErrorReporter {
-  host::Desktop* desktop;
-  std::function<std::shared_ptr<host::Application>()> application;
+  host::Desktop* desktop;                                           ///< never nothing; outlives the control
+  std::function<std::shared_ptr<host::Application>()> application;  ///< asked at each report
 };
 
 /// The exception being handled as an Error: one that is not an Error becomes number 440 with its text.

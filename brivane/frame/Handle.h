@@ -35,16 +35,19 @@ template <> struct KindType<Kind::ListView> { using type = host::ListView; };
 template <> struct KindType<Kind::Surface> { using type = host::Surface; };
 }  // namespace detail
 
+/// The interface of a kind of control.
 template <Kind K> using TypeOf = typename detail::KindType<K>::type;
 
 /// One control of a design, typed by its kind.
-template <Kind K> struct Handle { std::size_t row; };
+template <Kind K> struct Handle {
+  std::size_t row;  ///< in the design, from 0
+};
 
 /// The designed elements `first` .. `last` of a control array.
 template <Kind K> struct ArrayHandle {
-  std::size_t row;
-  int first;
-  int last;
+  std::size_t row;  ///< of the first element, from 0; the others follow it
+  int first;        ///< index of the first
+  int last;         ///< index of the last
 };
 
 namespace detail {
@@ -79,8 +82,10 @@ template <Kind K> consteval ArrayHandle<K> FindArray(const Design& design, std::
 /// The controls of a surface by handle: `controls[TxtOm].SetText(...)`, `controls(optLast, 2).Value()`.
 class Controls {
  public:
+  /// The surface outlives this, and is made of the design that the handles are of.
   explicit Controls(host::Surface& surface) : surface_(surface) {}
 
+  /// The control, which lives as long as the surface.
   template <Kind K> [[nodiscard]] TypeOf<K>& operator[](Handle<K> handle) const {
     return static_cast<TypeOf<K>&>(surface_.At(handle.row));
   }

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include <brivane/frame/Doubles.h>
 #include <brivane/frame/Numbers.h>
@@ -18,18 +19,13 @@ constexpr std::string_view kDash = "–";
 /// How one kind of number is written.
 struct Style {
   std::size_t decimals;
-  std::string_view expected;  ///< the sentence that says what to type
-  std::string_view tooManyDecimals;
+  TextId expected;  ///< the sentence that says what to type
+  TextId tooManyDecimals;
 };
 
-constexpr Style kAmount{2, "Vul een bedrag in, bijvoorbeeld 1.234,56.",
-                        "Een bedrag heeft ten hoogste twee cijfers achter de komma."};
-constexpr Style kNumber{4, "Vul een getal in, bijvoorbeeld 12,5.",
-                        "Een getal heeft ten hoogste vier cijfers achter de komma."};
-constexpr Style kWhole{0, "Vul een geheel getal in, zonder cijfers achter de komma.",
-                       "Vul een geheel getal in, zonder cijfers achter de komma."};
-
-constexpr std::string_view kTooLarge = "Dit getal is te groot.";
+constexpr Style kAmount{2, TextId::ExpectAmount, TextId::AmountDecimals};
+constexpr Style kNumber{4, TextId::ExpectNumber, TextId::NumberDecimals};
+constexpr Style kWhole{0, TextId::ExpectWhole, TextId::ExpectWhole};
 
 bool IsDigits(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -62,16 +58,15 @@ bool IsGrouped(std::string_view whole) {
 }
 
 /// A refusal that names what the text could mean: the last point as a comma, or no point at all.
-std::string BothReadings(std::string_view whole, const Style& style) {
+Phrase BothReadings(std::string_view whole, const Style& style) {
   const std::string together = Grouped(WithoutLeadingZeros(WithoutPoints(whole)));
   const std::size_t point = whole.rfind('.');
   std::string decimals(whole.substr(point + 1));
   while (decimals.size() > style.decimals && decimals.back() == '0') decimals.pop_back();
-  if (decimals.empty() || decimals.size() > style.decimals || point == 0)
-    return "De punt staat niet tussen duizendtallen. Bedoelt u " + together + "?";
+  if (decimals.empty() || decimals.size() > style.decimals || point == 0) return {TextId::PointMisplaced, {together}};
   if (style.decimals == 2) decimals.resize(2, '0');
   const std::string before = Grouped(WithoutLeadingZeros(WithoutPoints(whole.substr(0, point))));
-  return "Bedoelt u " + before + "," + decimals + " of " + together + "? Typ een komma voor de decimalen.";
+  return {TextId::PointOrComma, {before + "," + decimals, together}};
 }
 
 struct Parts {
@@ -120,7 +115,7 @@ Parts Take(std::string_view text, const Style& style) {
 }
 
 Reading<double> Read(std::string_view text, const Style& style) {
-  const auto refuse = [](std::string_view reason) { return Reading<double>::Refuse(std::string(reason)); };
+  const auto refuse = [](Phrase why) { return Reading<double>::Refuse(std::move(why)); };
   text = Trim(text);
   if (text.empty()) return {};
   if (style.decimals == 2 && IsNothing(text)) return 0.0;
@@ -129,10 +124,9 @@ Reading<double> Read(std::string_view text, const Style& style) {
   if (!IsDigits(digits) || (digits.empty() && !parts.comma)) return refuse(style.expected);
   if (parts.whole.find('.') != std::string_view::npos && digits.empty()) return refuse(style.expected);
   if (parts.comma && (parts.decimals.empty() || !IsDigits(parts.decimals))) return refuse(style.expected);
-  if (!IsGrouped(parts.whole))
-    return refuse(parts.comma ? std::string(style.expected) : BothReadings(parts.whole, style));
+  if (!IsGrouped(parts.whole)) return refuse(parts.comma ? Phrase(style.expected) : BothReadings(parts.whole, style));
   if (parts.decimals.size() > style.decimals) return refuse(style.tooManyDecimals);
-  if (digits.size() > kMostWholeDigits) return refuse(kTooLarge);
+  if (digits.size() > kMostWholeDigits) return refuse(TextId::NumberTooLarge);
 
   std::string plain = digits.empty() ? "0" : digits;
   plain += '.';
@@ -182,10 +176,10 @@ Reading<double> ReadNumber(std::string_view text) { return Read(text, kNumber); 
 
 Reading<std::int32_t> ReadWhole(std::string_view text) {
   const Reading<double> reading = Read(text, kWhole);
-  if (reading.IsRefused()) return Reading<std::int32_t>::Refuse(reading.Reason());
+  if (reading.IsRefused()) return Reading<std::int32_t>::Refuse(reading.Why());
   if (reading.IsEmpty()) return {};
   if (std::abs(*reading) > std::numeric_limits<std::int32_t>::max())
-    return Reading<std::int32_t>::Refuse(std::string(kTooLarge));
+    return Reading<std::int32_t>::Refuse(TextId::NumberTooLarge);
   return static_cast<std::int32_t>(*reading);
 }
 

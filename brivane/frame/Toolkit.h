@@ -18,9 +18,14 @@ class BRIVANE_API Toolkit {
  public:
   virtual ~Toolkit() = default;
 
+  /// The machine; it lives as long as the toolkit.
   [[nodiscard]] virtual host::Desktop& Desktop() = 0;
+  /// A surface of its own, or a form, with every control of the design, which lives as long as the program. The caller
+  /// owns it, and the toolkit outlives it.
+  /// @{
   [[nodiscard]] virtual std::unique_ptr<host::Surface> MakeSurface(const Design& design) = 0;
   [[nodiscard]] virtual std::unique_ptr<host::Form> MakeForm(const Design& design) = 0;
+  /// @}
 };
 
 }  // namespace brivane::frame

@@ -28,6 +28,7 @@ class BRIVANE_API Tracing {
   Tracing(ControlIdentity identity, const host::HostFactories& factories, ErrorReporter reporter)
       : identity_(identity), factories_(factories), reporter_(std::move(reporter)) {}
 
+  /// Runs a procedure and reports its failure, of which the caller does not hear. The name is lent for the call.
   template <class Body> void Handled(std::string_view procedure, Body&& body) {
     Trace().EnterProcedure(procedure);
     Guarded(procedure, [&] {
@@ -36,6 +37,7 @@ class BRIVANE_API Tracing {
     });
   }
 
+  /// Runs a procedure; its failure goes to the caller, who reports it.
   template <class Body> void Unhandled(std::string_view procedure, Body&& body) {
     Trace().EnterProcedure(procedure);
     body();

@@ -6,7 +6,7 @@ namespace brivane::host {
 
 /// A colour: 0x00BBGGRR, or a system colour with the highest bit set (a signed 32-bit number).
 struct Color {
-  std::int32_t value = 0;
+  std::int32_t value = 0;  ///< red in the lowest byte, then green, then blue
   friend constexpr bool operator==(Color, Color) = default;
 };
 

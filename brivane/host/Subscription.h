@@ -120,10 +120,12 @@ class Listeners {
 /// whichever comes first; both may happen while the event is being raised.
 class [[nodiscard]] Subscription {
  public:
-  Subscription() = default;
+  Subscription() = default;  ///< connected to nothing
   /// Takes the link, which stands in an event's list, over.
   explicit Subscription(detail::Link& link) noexcept : link_(&link) {}
+  /// The listener goes on being told, by this one; the other is connected to nothing.
   Subscription(Subscription&& other) noexcept : link_(std::exchange(other.link_, nullptr)) {}
+  /// The same; what this one was connected to is told no more.
   Subscription& operator=(Subscription&& other) noexcept {
     Subscription taken(std::move(other));
     std::swap(link_, taken.link_);
@@ -131,6 +133,8 @@ class [[nodiscard]] Subscription {
   }
   ~Subscription() { Reset(); }
 
+  /// The listener is told no more, also of a raising that is under way. What it holds goes with it, at the latest when
+  /// it returns.
   void Reset() noexcept {
     if (link_ == nullptr) return;
     detail::Link& link = *std::exchange(link_, nullptr);
@@ -146,7 +150,9 @@ class [[nodiscard]] Subscription {
 /// use.
 class Subscriptions {
  public:
+  /// Keeps one more.
   void operator+=(Subscription subscription) { all_.push_back(std::move(subscription)); }
+  /// Ends them all.
   void Reset() { all_.clear(); }
 
  private:

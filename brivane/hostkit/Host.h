@@ -19,6 +19,7 @@ namespace brivane::hostkit {
 struct Host {
   /// The application object, with the case of Case.h.
   std::shared_ptr<host::Application> application;
+  /// What the controls make themselves.
   host::HostFactories factories;
 
   /// Makes the next write of a column's `Omschrijving` fail as the host's own store would fail, with this number,
@@ -39,17 +40,19 @@ using HostFactory = std::function<Host()>;
 /// values, as the report writes them ("VrijeKolomItem.Looptijd", "VrijeKolomItem.Omschrijving/long text"). It is left
 /// out, and the report says so.
 struct Exception {
-  std::string what;
-  std::string why;
+  std::string what;  ///< the name, spelled exactly
+  std::string why;   ///< for the report
 };
 
 /// An entry of the code table "MaatschappijType".
 struct Company {
-  std::string code;
-  std::string text;
+  std::string code;  ///< as VrijeKolomItem::Maatschappij holds it
+  std::string text;  ///< as the list shows it, in UTF-8
 };
 
+/// What the kit is told of a host beside the host itself.
 struct Options {
+  /// What is left out, and why. A name that no check has changes nothing.
   std::vector<Exception> cannot;
   /// A company that the code table has.
   Company company{"AB", "Alfa Bank"};

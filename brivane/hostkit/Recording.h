@@ -28,14 +28,17 @@ namespace brivane::hostkit {
 /// It outlives the controls that it is given to.
 class BRIVANE_API Recording {
  public:
+  /// Stands before these, and holds them as long as it lives.
   Recording(std::shared_ptr<host::Application> application, host::HostFactories factories);
   Recording(const Recording&) = delete;
   Recording& operator=(const Recording&) = delete;
   ~Recording();
 
   /// These are given to the controls in place of the host's own.
+  /// @{
   [[nodiscard]] const std::shared_ptr<host::Application>& Application() const;
   [[nodiscard]] const host::HostFactories& Factories() const;
+  /// @}
 
   /// What was asked since the last time.
   [[nodiscard]] std::vector<std::string> Lines();

@@ -6,11 +6,16 @@
 /// Rows and month numbers: row r stands for the months (r - 1) x 12 + 1 to r x 12.
 namespace brivane::scenario {
 
+/// How many months a row stands for, of a bridging loan as well, whose labels say months.
 inline constexpr int kMaandenPerRij = 12;
 
 /// The month by which a stored amount counts: a yearly amount falls in the last month of its row.
-enum class Maandbasis : bool { Jaar, Maand };
+enum class Maandbasis : bool {
+  Jaar,   ///< the last month of its row
+  Maand,  ///< the first
+};
 
+/// The month that a row of 1 and up is stored by.
 [[nodiscard]] constexpr std::int16_t MaandVan(int rij, Maandbasis basis) {
   const int maand = basis == Maandbasis::Maand ? (rij - 1) * kMaandenPerRij + 1 : rij * kMaandenPerRij;
   return static_cast<std::int16_t>(maand);

@@ -14,6 +14,7 @@ namespace brivane::scenario {
 /// without its column (0) and a tick without its box (no). Writing raises nothing.
 class Rooster {
  public:
+  /// The form outlives it.
   explicit Rooster(host::Form& form) : form_(form) {}
 
   /// Width of the templates as the form has them now.
@@ -21,22 +22,29 @@ class Rooster {
   /// Makes and shows the rows and headers; `vrij` answers whether a row can be edited. To be called once.
   void Bouw(const Opzet& opzet, const Indeling& indeling, const std::function<bool(int rij)>& vrij);
 
+  /// How many rows there are; none until they are made.
   [[nodiscard]] int Aantal() const { return static_cast<int>(rijen_.size()); }
+  /// The amount of a row in euros.
   [[nodiscard]] double Bedrag(int rij) const;
   void ZetBedrag(int rij, double bedrag);
+  /// The percentage of a row.
   [[nodiscard]] double Percentage(int rij) const;
   void ZetPercentage(int rij, double percentage);
+  /// The discount of a row in percentage points.
   [[nodiscard]] double Korting(int rij) const;
   void ZetKorting(int rij, double korting);
+  /// Whether the amount of a row is ticked as a yearly one.
   [[nodiscard]] bool Eenmalig(int rij) const;
   void ZetEenmalig(int rij, bool eenmalig);
   /// Sum of all amount boxes, the template included. Fails with error 6 where a double cannot hold it.
   [[nodiscard]] double Totaal() const;
 
-  /// A row was edited in one of its boxes.
+  /// A row was edited in one of its boxes, counted from 1; told before the edit that set it off returns.
+  /// @{
   std::function<void(int rij)> BedragBewerkt;
   std::function<void(int rij)> PercentageBewerkt;
   std::function<void(int rij)> KortingBewerkt;
+  /// @}
 
  private:
   struct Rij {

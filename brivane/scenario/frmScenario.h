@@ -24,10 +24,14 @@ namespace brivane {
 ///     formulier.Invoeren(bedrag, 30);
 ///     formulier.ShowModal(hoofdvenster);
 ///
-/// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base
-/// value is written as soon as row 1 is edited.
+/// OK stores the rows in the scenario; closing in any other way leaves its periods as they were. The base value is
+/// written as soon as row 1 is edited. No tracer is told of it; a failure of a handler is shown to the adviser, and the
+/// form stays open as it is (\ref failures).
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API frmScenario {
  public:
+  /// Makes the form, unseen and empty. The toolkit outlives it.
   explicit frmScenario(frame::Toolkit& toolkit);
   frmScenario(const frmScenario&) = delete;
   frmScenario& operator=(const frmScenario&) = delete;
@@ -42,14 +46,17 @@ class BRIVANE_API frmScenario {
 
   /// Locks row Jr (1 to 50; else error 9) or frees it; to be set before Invoeren.
   void SetDisableJaar(std::int16_t Jr, bool NewValue);
-  /// Decides the month numbers of stored amounts; 0 until set.
+  /// Decides the month numbers of stored amounts: 1 the first month of a row; 2 the same, and the last where the row is
+  /// ticked as yearly; any other the last. 0 until set; the editor leaves it so. Counts from the next OK.
   [[nodiscard]] std::int16_t SoortScenario() const;
   void SetSoortScenario(std::int16_t soort);
 
-  /// Checks that the amounts together stay within Bd_MaxOpname; a refusal shows its message and sets Cancel.
-  /// ControleNr 0 lets pending user-interface events run first; 1 is this check alone.
+  /// Checks that the amounts together stay within Bd_MaxOpname; a refusal shows its message and sets Cancel. ControleNr
+  /// 0 lets pending user-interface events run first; 1 is this check alone. A failure is shown once.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
+  /// The background of the form, which each control in the colour of button faces takes over when the form is shown.
+  /// The editor gives it its own.
   [[nodiscard]] host::Color BackColor() const;
   void SetBackColor(host::Color New_Color);
 
@@ -67,8 +74,10 @@ class BRIVANE_API frmScenario {
 
   /// What OK writes into the scenario, it writes between these two, for who stores it as a whole. The second one
   /// comes also where the writing fails, before the adviser is told. A listener of these two must not fail.
+  /// @{
   host::Event<> OpslagBegint;
   host::Event<> OpslagEindigt;
+  /// @}
 
  private:
   void Form_Load();

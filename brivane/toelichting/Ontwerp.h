@@ -15,21 +15,25 @@ inline constexpr frame::DesignPlace kLijstPlaats{135, 300, 5760, 1695};
 /// Width of each of its four columns.
 inline constexpr int kKolomBreedte = 1425;
 
-/// Left edge of the content frame, its distance to the list, and the margin under it.
-inline constexpr int kInhoudLinks = 135;
-inline constexpr int kOnderLijst = 120;
-inline constexpr int kOndermarge = 60;
+inline constexpr int kInhoudLinks = 135;  ///< left edge of the content frame
+inline constexpr int kOnderLijst = 120;   ///< from the list to the content frame
+inline constexpr int kOndermarge = 60;    ///< under the content frame
 
+/// Top and height of the content frame, and what the whole takes, in twips.
+/// @{
 inline constexpr int kInhoudTop = kLijstPlaats.top + kLijstPlaats.height + kOnderLijst;
 inline constexpr int kInhoudHoogte = 1890;
 inline constexpr int kBreedte = 6030;
 inline constexpr int kHoogte = kInhoudTop + kInhoudHoogte + kOndermarge;
+/// @}
 
+/// What the help icon beside "Langleven" says.
 inline constexpr std::string_view kHintLangleven =
     "Let op! Indien u 'Nee' selecteert zal het bedrag in lasten- en NBI- overzichten bij lang leven en pensioen niet "
     "worden meegeteld.";
 
-/// A label with a mnemonic goes to the box in the row below it.
+/// The controls of the explanation, frames before what stands in them. A label with a mnemonic goes to the box in the
+/// row below it.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraScenarios", .kind = Kind::Frame, .place = {0, 0, kBreedte, kHoogte}, .caption = "Verrekenen",
@@ -76,10 +80,13 @@ inline constexpr frame::Row kRijen[] = {
      .caption = " jaar"},
 };
 
+/// The design itself, which a Toelichting is made on.
 inline constexpr frame::Design kOntwerp{.name = "Toelichting", .rows = kRijen, .width = kBreedte, .height = kHoogte};
 // clang-format on
 static_assert(frame::Check(kOntwerp) == frame::Fault::None);
 
+/// The control of this name in kOntwerp, for frame::Controls.
+/// @{
 inline constexpr auto fraScenarios = frame::Find<Kind::Frame>(kOntwerp, "fraScenarios");
 inline constexpr auto lstToelichting = frame::Find<Kind::ListView>(kOntwerp, "lstToelichting");
 inline constexpr auto fraContent = frame::Find<Kind::Frame>(kOntwerp, "fraContent");
@@ -91,5 +98,6 @@ inline constexpr auto TxtPcOvergang = frame::Find<Kind::TextBox>(kOntwerp, "TxtP
 inline constexpr auto txtEinddatum = frame::Find<Kind::TextBox>(kOntwerp, "txtEinddatum");
 inline constexpr auto lblSlash = frame::Find<Kind::Label>(kOntwerp, "lblSlash");
 inline constexpr auto TxtEindjaar = frame::Find<Kind::TextBox>(kOntwerp, "TxtEindjaar");
+/// @}
 
 }  // namespace brivane::toelichting

@@ -20,9 +20,11 @@ namespace brivane {
 ///     Toelichting toelichting(surface, toolkit.Desktop(), factories);
 ///     const auto changed = toelichting.Changed.Connect([&] { ... });
 ///     toelichting.SetApplication(application, lening, 1);
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API Toelichting {
  public:
-  /// Builds the effect list and scales the surface to the screen.
+  /// Builds the effect list and scales the surface to the screen; the factories are kept. Fails where the tracer does.
   Toelichting(host::Surface& surface, host::Desktop& desktop, const host::HostFactories& factories);
   Toelichting(const Toelichting&) = delete;
   Toelichting& operator=(const Toelichting&) = delete;
@@ -37,14 +39,17 @@ class BRIVANE_API Toelichting {
   /// used. Untraced, and nothing is written or raised. What the controls show stays.
   void Unbind();
 
-  /// Checks the input and sets Cancel on a refusal, after a message. With Cancel already set nothing is
-  /// checked. ControleNr: 0 the percentage and the end date, 3 the percentage, 4 the end date, 5 the end age.
+  /// Checks the input and sets Cancel on a refusal, after a message. With Cancel already set nothing is checked, nor
+  /// while the column does not count at death. ControleNr: 0 the percentage and the end date, 3 the percentage, 4 the
+  /// end date, 5 the end age.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
+  /// The background of the surface. Setting it colours each control that still has the colour of button faces, once;
+  /// the others keep theirs. A failure goes to the caller.
   [[nodiscard]] host::Color BackColor() const;
   void SetBackColor(host::Color New_Color);
 
-  /// An edit was written into the record.
+  /// An edit was written into the record; once for each edit, not while the control is being bound.
   host::Event<> Changed;
 
  private:

@@ -13,23 +13,26 @@ namespace brivane::vrijekolom {
 using frame::Format;
 using host::Kind;
 
-/// Width of the left column and of the row frames inside it.
-inline constexpr int kLinksBreed = 6300;
-inline constexpr int kRijBreed = 6030;
-/// Left edge of the boxes in a row frame, and on a frame of the column itself.
-inline constexpr int kVakLinks = 1800;
-inline constexpr int kVakInKader = 135 + kVakLinks;
-/// Halfway between a frame's title and its bottom.
-inline constexpr int kOptieTop = 330;
-inline constexpr int kOptieHoog = 255;
-inline constexpr int kVakHoog = 315;
-inline constexpr int kRijHoog = 330;
+/// \name Measures
+/// In twips.
+/// @{
+inline constexpr int kLinksBreed = 6300;             ///< width of the left column
+inline constexpr int kRijBreed = 6030;               ///< width of the row frames inside it
+inline constexpr int kVakLinks = 1800;               ///< left edge of the boxes in a row frame
+inline constexpr int kVakInKader = 135 + kVakLinks;  ///< and on a frame of the column itself
+inline constexpr int kOptieTop = 330;                ///< halfway between a frame's title and its bottom
+inline constexpr int kOptieHoog = 255;               ///< height of an option or a check box
+inline constexpr int kVakHoog = 315;                 ///< height of a box, a list or a toggle
+inline constexpr int kRijHoog = 330;                 ///< height of a row frame
 
-inline constexpr int kKolomAfstand = 120;
-inline constexpr int kKaderAfstand = 60;
-inline constexpr int kRechtsLinks = kLinksBreed + kKolomAfstand;
-inline constexpr int kRechtsBreed = toelichting::kBreedte;
+inline constexpr int kKolomAfstand = 120;                         ///< between the two columns
+inline constexpr int kKaderAfstand = 60;                          ///< between two frames of a column
+inline constexpr int kRechtsLinks = kLinksBreed + kKolomAfstand;  ///< left edge of the right column
+inline constexpr int kRechtsBreed = toelichting::kBreedte;        ///< width of the right column
+/// @}
 
+/// Top or height of a frame in twips, as designed with all of them shown; the layout procedure moves them from there.
+/// @{
 inline constexpr int kLastHoog = 660;
 inline constexpr int kFiscaalTop = kLastHoog + kKaderAfstand;
 inline constexpr int kAlgemeenTop = kFiscaalTop + kLastHoog + kKaderAfstand;
@@ -39,9 +42,10 @@ inline constexpr int kGegevensHoog = 2220;
 inline constexpr int kHeffingTop = kGegevensTop + kGegevensHoog + kKaderAfstand;
 inline constexpr int kProductHoog = 2790;
 inline constexpr int kToelichtingTop = kProductHoog + kKaderAfstand;
+/// @}
 
-/// A label with a mnemonic goes to the box in the row below it, a frame to what it holds. The host has the letters h,
-/// k, r and t for its menus.
+/// The controls of the editor, frames before what stands in them. A label with a mnemonic goes to the box in the row
+/// below it, a frame to what it holds. The host has the letters h, k, r and t for its menus.
 // clang-format off
 inline constexpr frame::Row kRijen[] = {
     {.name = "fraLast", .kind = Kind::Frame, .place = {0, 0, kLinksBreed, kLastHoog}, .caption = "Correctie last",
@@ -178,6 +182,7 @@ inline constexpr frame::Row kRijen[] = {
      .embedded = &toelichting::kOntwerp},
 };
 
+/// The design itself, which a VrijeKolom is made on.
 inline constexpr frame::Design kOntwerp{.name = "VrijeKolom",
                                         .rows = kRijen,
                                         .width = kRechtsLinks + kRechtsBreed,
@@ -185,6 +190,8 @@ inline constexpr frame::Design kOntwerp{.name = "VrijeKolom",
 // clang-format on
 static_assert(frame::Check(kOntwerp) == frame::Fault::None);
 
+/// The control of this name in kOntwerp, for frame::Controls.
+/// @{
 inline constexpr auto fraLast = frame::Find<Kind::Frame>(kOntwerp, "fraLast");
 inline constexpr auto optLast = frame::FindArray<Kind::OptionButton>(kOntwerp, "optLast");
 inline constexpr auto fraFiscaal = frame::Find<Kind::Frame>(kOntwerp, "fraFiscaal");
@@ -222,5 +229,6 @@ inline constexpr auto txtProductnaam = frame::Find<Kind::TextBox>(kOntwerp, "txt
 inline constexpr auto fraUwBemiddeling = frame::Find<Kind::Frame>(kOntwerp, "fraUwBemiddeling");
 inline constexpr auto jnUwBemiddeling = frame::Find<Kind::JaNee>(kOntwerp, "jnUwBemiddeling");
 inline constexpr auto ToelichtingVlak = frame::Find<Kind::Surface>(kOntwerp, "Toelichting");
+/// @}
 
 }  // namespace brivane::vrijekolom

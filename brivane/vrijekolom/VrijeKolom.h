@@ -28,15 +28,20 @@ class frmScenario;
 ///     editor.SetApplication(application, 0, 1);
 ///     bool cancel = false;
 ///     editor.Validation(cancel);  // cancel: stay on the page
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API VrijeKolom {
  public:
+  /// Listens to the surface and scales it to the screen; the factories are kept. Fails where the tracer of the
+  /// explanation control does.
   VrijeKolom(host::Surface& surface, frame::Toolkit& toolkit, const host::HostFactories& factories);
   VrijeKolom(const VrijeKolom&) = delete;
   VrijeKolom& operator=(const VrijeKolom&) = delete;
   ~VrijeKolom();
 
-  /// Binds the editor to free column `Vrij_Id` of loan `Len_Id` (0: the loan of the current situation) and
-  /// fills it. A failure is reported through the application and does not reach the caller.
+  /// Binds the editor to free column `Vrij_Id` of loan `Len_Id` (0: the loan of the current situation) and fills it;
+  /// may be called again at any time. A failure is reported through the application and does not reach the caller (\ref
+  /// failures): controls::Binding tells.
   void SetApplication(const std::shared_ptr<host::Application>& Application, std::int16_t Len_Id, std::int16_t Vrij_Id);
 
   /// Lets go of every object of the host's, the tracer and the check too; what was made by the factories is made anew
@@ -47,11 +52,13 @@ class BRIVANE_API VrijeKolom {
   /// already set nothing is asked or checked. ControleNr: 0 everything, 1 the start date, 2 the end date.
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
 
+  /// The background of the surface, and of the year-by-year form. Setting it colours each control that still has the
+  /// colour of button faces, once; the others keep theirs. A failure goes to the caller.
   [[nodiscard]] host::Color BackColor() const;
   void SetBackColor(host::Color New_Color);
 
-  /// Whether the frame "Post beëindigen in" with the proposal boxes is shown; the host sets it where its
-  /// case works with proposals.
+  /// Whether the frame "Post beëindigen in" with the proposal boxes is shown; the host sets it where its case works
+  /// with proposals. False until it is set.
   [[nodiscard]] bool BeeindigenZichtbaar() const { return BeeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
 
@@ -60,14 +67,20 @@ class BRIVANE_API VrijeKolom {
 
   /// The explanation control inside the editor; its complete check is the host's to call.
   [[nodiscard]] brivane::Toelichting& Toelichting() { return Toelichting_; }
+  /// The record that the editor writes; nothing while it is not bound. A control that was embedded holds the host's
+  /// behind another one (controls::HostsOwn).
   [[nodiscard]] const std::shared_ptr<host::VrijeKolomItem>& Item() const { return Item_; }
+  /// The editor is writing its own controls, so that toggles, options and lists write nothing back. It stays so after a
+  /// binding that failed, until one succeeds.
   [[nodiscard]] bool Filling() const { return Filling_; }
-  /// The adviser changed something since the last check.
+  /// The adviser changed something that is to be carried over, since the column was bound or that was last asked.
   [[nodiscard]] bool Gewijzigd() const { return Gewijzigd_; }
 
-  /// The header text of the column may have changed.
+  /// The header text of the column may have changed: raised after the edit was written, with VrijeKolomItem::Weergave
+  /// after term and scenario, and Kopregel else. Not by binding.
   host::Event<const std::string&> RefreshTopDisplay;
-  /// The editor was laid out: its height may have changed.
+  /// The editor was laid out, by a binding, an edit that shows or hides a frame, or a new size: its height may have
+  /// changed. A listener must not fail: the editor is laid out no more after that.
   host::Event<> HeightChanged;
   /// The year-by-year form has been filled and is about to be shown. For tools that follow an adviser's
   /// work; the form is gone when the event that opened it ends.

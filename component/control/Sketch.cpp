@@ -9,6 +9,7 @@
 #include "component/control/Paper.h"
 #include "component/control/Units.h"
 #include <brivane/controls/Choices.h>
+#include <brivane/controls/DrawnToolkit.h>
 #include <brivane/controls/ListView.h>
 #include <brivane/toolkits/win32/window/ControlWindow.h>
 #include <brivane/toolkits/win32/window/Text.h>
@@ -244,7 +245,9 @@ void SketchSurface(const controls::Surface& surface, HDC target, const RECT& bou
   if (!surface.IsVeiled()) return SketchOn(surface, root, paper);
   const auto font = reinterpret_cast<HFONT>(::SendMessageW(root, WM_GETFONT, 0, 0));
   if (font == nullptr) return;
-  paper.Text({0, 0, size.cx, size.cy}, win32::Wide(controls::kVeil), font, SystemColor(COLOR_GRAYTEXT), Align::Center);
+  const auto& toolkit = static_cast<const controls::DrawnToolkit&>(surface.MadeBy());
+  const std::string veil = toolkit.Texts().Of(frame::TextId::NothingOpen);
+  paper.Text({0, 0, size.cx, size.cy}, win32::Wide(veil), font, SystemColor(COLOR_GRAYTEXT), Align::Center);
 }
 
 }  // namespace brivane::component

@@ -23,7 +23,9 @@ template <class Interface>
 class CoObject : public Dispatching<Interface>, public IProvideClassInfo2, public Identity, private Accompanied {
  public:
   CoObject(IUnknown* outer, const CLSID& classId, const IID& outgoing)
-      : Identity(outer), classId_(classId), outgoing_(outgoing) {}
+      : Identity(outer), classId_(classId), outgoing_(outgoing) {
+    toolkit_->Desktop().texts = &RegisteredTexts(classId_);
+  }
   ~CoObject() override { session_->LetGo(); }
 
   BRIVANE_IDENTITY()

@@ -35,7 +35,11 @@ ComPtr<IDispatch> MakeCheck(const HostClasses& classes, Companion& companion, st
   return classes.dossierControle.empty() ? ComPtr<IDispatch>() : CreateByProgId(classes.dossierControle);
 }
 
-std::string RegisteredClass(const std::wstring& key, const wchar_t* value) {
+/// Of the key `HostClasses` below a class's own.
+std::string RegisteredText(const CLSID& control, const wchar_t* value) {
+  std::array<wchar_t, 40> id{};
+  StringFromGUID2(control, id.data(), static_cast<int>(id.size()));
+  const std::wstring key = std::wstring(L"CLSID\\") + id.data() + L"\\HostClasses";
   std::array<wchar_t, 256> text{};
   DWORD size = sizeof(text);
   const LSTATUS status =
@@ -46,10 +50,12 @@ std::string RegisteredClass(const std::wstring& key, const wchar_t* value) {
 }  // namespace
 
 HostClasses RegisteredHostClasses(const CLSID& control) {
-  std::array<wchar_t, 40> id{};
-  StringFromGUID2(control, id.data(), static_cast<int>(id.size()));
-  const std::wstring key = std::wstring(L"CLSID\\") + id.data() + L"\\HostClasses";
-  return {RegisteredClass(key, L"ProcedureTrace"), RegisteredClass(key, L"DossierControle")};
+  return {RegisteredText(control, L"ProcedureTrace"), RegisteredText(control, L"DossierControle")};
+}
+
+const frame::Texts& RegisteredTexts(const CLSID& control) {
+  const bool english = RegisteredText(control, L"Language") == "en";
+  return frame::Texts::In(english ? frame::Language::English : frame::Language::Dutch);
 }
 
 host::HostFactories FactoriesFor(HostSession& session, const HostClasses& classes, Companion& companion) {

@@ -98,7 +98,9 @@ VrijeKolomObject::VrijeKolomObject(IUnknown* outer)
       points_(Controlling(), {&events_, &part_.PropertyListeners()}) {
   TheToolkit().SetSubjectTeller([this] {
     const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(*surface_);
-    const auto row = [aanvang = onderwerp.aanvang](int rij) { return vrijekolom::Rijuitleg(rij, aanvang, {}); };
+    const auto row = [aanvang = onderwerp.aanvang, &teksten = TheToolkit().Texts()](int rij) {
+      return vrijekolom::Rijuitleg(rij, aanvang, {}, teksten);
+    };
     return controls::FormSubject{.title = vrijekolom::Titel(onderwerp), .row = row};
   });
   subscriptions_ += editor_->RefreshTopDisplay.Connect([this](const std::string& text) {

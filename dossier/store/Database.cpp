@@ -1,5 +1,7 @@
 #include "dossier/store/Database.h"
 
+#include <sqlite3.h>
+
 #include <QSqlDriver>
 #include <QSqlError>
 #include <QUrl>
@@ -66,10 +68,14 @@ void Database::Run(const QString& sql) {
 }
 
 void Database::RunAgain(const QString& sql) {
-  const auto known = often_.find(sql);
-  QSqlQuery& query = known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
+  QSqlQuery& query = Again(sql);
   Run(query);
   query.finish();
+}
+
+QSqlQuery& Database::Again(const QString& sql) {
+  const auto known = often_.find(sql);
+  return known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
 }
 
 QVariant Database::Value(const QString& sql) {
@@ -88,6 +94,11 @@ QSqlQuery Database::Prepare(const QString& sql) const {
 
 void Database::Run(QSqlQuery& query) {
   if (!query.exec()) throw DatabaseError(query.lastError());
+}
+
+void Database::PassOverTriggers() {
+  if (sqlite3_db_config(Handle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr) != SQLITE_OK)
+    throw DatabaseError(SqliteCode::CannotOpen, "The triggers cannot be passed over");
 }
 
 sqlite3* Database::Handle() const {

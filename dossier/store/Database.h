@@ -62,11 +62,15 @@ class Database {
   void Run(const QString& sql);
   /// The same of a statement that is run often: it is prepared once.
   void RunAgain(const QString& sql);
+  /// A statement that is run often, prepared once; finished before it is asked again.
+  [[nodiscard]] QSqlQuery& Again(const QString& sql);
   /// The first value of the first row.
   [[nodiscard]] QVariant Value(const QString& sql);
   /// A prepared statement whose rows are read once, in order.
   [[nodiscard]] QSqlQuery Prepare(const QString& sql) const;
   static void Run(QSqlQuery& query);
+  /// No trigger runs on this connection; the file keeps them.
+  void PassOverTriggers();
   /// SQLite's own handle of the connection, for what is read as Rows.
   [[nodiscard]] sqlite3* Handle() const;
 

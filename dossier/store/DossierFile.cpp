@@ -237,6 +237,8 @@ DossierFile::~DossierFile() {
   journal_->Sluit();
 }
 
+QString DossierFile::Naam() const { return QFileInfo(pad_).completeBaseName(); }
+
 bool DossierFile::InPlace() const { return journal_->InPlace(); }
 
 void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
@@ -249,19 +251,17 @@ void DossierFile::Maak(const QString& pad, const DossierGegevens& gegevens) {
   });
 }
 
+void DossierFile::Maak(const QString& pad, Database& tables) {
+  MakeNew(pad, [&](const QString& voorlopig) { CopyInto(tables, voorlopig); });
+}
+
 void DossierFile::Kopieer(const QString& pad) const {
   // What was opened to be read stands in memory, for the case alone.
   if (read_only_) return Maak(pad, dossier_->Gegevens());
-  MakeNew(pad, [&](const QString& voorlopig) { CopyInto(*journal_->Bestand(), voorlopig); });
+  Maak(pad, *journal_->Bestand());
 }
-
-Edits& DossierFile::Bewerkingen() { return journal_->Bewerkingen(); }
 
 std::shared_ptr<Edits> DossierFile::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
-
-std::shared_ptr<StoreTrace> DossierFile::MakeTrace(std::string_view control, std::shared_ptr<TraceListener> listener) {
-  return std::make_shared<StoreTrace>(control, GedeeldeBewerkingen(), std::move(listener));
-}
 
 void DossierFile::SetAuthor(const std::string& name) { journal_->SetAuthor(name); }
 
@@ -274,6 +274,8 @@ std::optional<Done> DossierFile::Take(StepKind kind) { return journal_->Take(kin
 std::unique_ptr<HistoryView> DossierFile::Geschiedenis() const {
   return std::make_unique<HistoryView>(*journal_->Bestand());
 }
+
+Database& DossierFile::Tabellen() const { return *journal_->Bestand(); }
 
 void DossierFile::WorkOff() noexcept { journal_->WorkOff(); }
 

@@ -2,20 +2,16 @@
 
 #include <QString>
 #include <QStringList>
-#include <cstddef>
 #include <memory>
-#include <string_view>
 
-#include "dossier/model/Dossier.h"
-#include "dossier/store/Edits.h"
-#include "dossier/store/HistoryView.h"
+#include "dossier/store/DossierStore.h"
 #include "dossier/store/OpeningError.h"
-#include "dossier/store/StoreTrace.h"
 
 class QTimer;
 
 namespace brivane::dossier {
 
+class Database;
 class FileJournal;
 
 /// An open loan file (`.dossier`) with its case in memory. While it is open nobody else can open it, in this
@@ -24,14 +20,8 @@ class FileJournal;
 /// stands alone.
 ///
 ///     auto bestand = DossierFile::Open(pad);   // OpeningError: show its Melding()
-///     auto application = std::make_shared<Application>(bestand->Dossier(), hoofdvenster);
-///     factories.MaakProcedureTrace = [&](std::string_view control) { return bestand->MakeTrace(control); };
-///     ScenarioTransaction scenario(editor, bestand->Bewerkingen());
-///     const auto failed = bestand->Bewerkingen().Failed.Connect([&](const StoreFailure& failure) { /* rebind, later */
-///     });
-///
-/// The objects of the case may outlive it; a change then fails.
-class DossierFile {
+/// What follows is in DossierStore.h.
+class DossierFile final : public DossierStore {
  public:
   /// Opens a loan file. One that is read-only, or in a folder that is, opens to be read: nothing is written to it or
   /// beside it, every change fails, and others may read it too. Throws OpeningError, and leaves the file as it was.
@@ -40,40 +30,30 @@ class DossierFile {
   [[nodiscard]] static bool StandsAt(const QString& pad);
   /// Makes a loan file with these contents, complete or not at all. Throws OpeningError; never replaces a file.
   static void Maak(const QString& pad, const DossierGegevens& gegevens);
+  /// Makes one of open tables with their history, as they stand. Throws OpeningError; never replaces a file.
+  static void Maak(const QString& pad, Database& tables);
 
-  /// Makes another file of this one, with its history, complete or not at all; also where this one was moved or
-  /// deleted. Throws OpeningError; never replaces a file.
-  void Kopieer(const QString& pad) const;
+  ~DossierFile() override;
 
-  DossierFile(const DossierFile&) = delete;
-  DossierFile& operator=(const DossierFile&) = delete;
-  ~DossierFile();
-
+  /// Where it stands.
   [[nodiscard]] const QString& Pad() const { return pad_; }
-  [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const { return dossier_; }
-  /// What is stored together, and what could not be stored.
-  [[nodiscard]] Edits& Bewerkingen();
-  [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen();
-  /// A tracer for one control, bound to this file's edits.
-  [[nodiscard]] std::shared_ptr<StoreTrace> MakeTrace(std::string_view control,
-                                                      std::shared_ptr<TraceListener> listener = nullptr);
+  [[nodiscard]] QString Naam() const override;
+  [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const override { return dossier_; }
+  [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen() override;
   /// The file was opened to be read.
-  [[nodiscard]] bool IsReadOnly() const { return read_only_; }
-  /// The file stands where it was opened: it was not moved, replaced or deleted. Where it was, every change fails, and
-  /// what is stored can be kept by making another file with Dossier()->Gegevens().
-  [[nodiscard]] bool InPlace() const;
-  /// Who works in the file, as its history names them.
-  void SetAuthor(const std::string& name);
-  /// What would be undone (Undo) or redone (Redo) next: the entries of that step, the reason of all the rest first.
-  /// None where there is nothing, or where it is only read. Throws host::Error.
-  [[nodiscard]] std::vector<Entry> Next(StepKind kind) const;
-  /// Undoes or redoes that step, in the file and in memory: objects of what came back are new. Nothing where there is
-  /// no step. Throws host::Error, and then nothing has changed.
-  std::optional<Done> Take(StepKind kind);
-  /// The history to be looked through; it goes before this object.
-  [[nodiscard]] std::unique_ptr<HistoryView> Geschiedenis() const;
+  [[nodiscard]] bool IsReadOnly() const override { return read_only_; }
+  /// The file stands where it was opened: it was not moved, replaced or deleted.
+  [[nodiscard]] bool InPlace() const override;
+  void SetAuthor(const std::string& name) override;
+  [[nodiscard]] std::vector<Entry> Next(StepKind kind) const override;
+  std::optional<Done> Take(StepKind kind) override;
+  [[nodiscard]] std::unique_ptr<HistoryView> Geschiedenis() const override;
   /// Works the log off now, where no edit is under way and the disk lets it: the file alone holds everything.
-  void WorkOff() noexcept;
+  void WorkOff() noexcept override;
+  /// Also where this file was moved or deleted.
+  void Kopieer(const QString& pad) const override;
+  /// The open tables, for what takes them over whole; they stay as they are.
+  [[nodiscard]] Database& Tabellen() const;
   /// A full check of the file: what is wrong with it, in SQLite's words; nothing when it is whole.
   [[nodiscard]] QStringList ControleerHeelheid();
 

@@ -21,7 +21,7 @@ void Edits::Fail(std::string_view procedure) {
 
 std::size_t Edits::BeginEdit() {
   running_.emplace_back();
-  if (!edit_) edit_ = Edit{.depth = running_.size()};
+  if (!edit_) edit_ = Edit{.depth = running_.size(), .maker = Maker::Host};
   return running_.size();
 }
 
@@ -57,7 +57,10 @@ void Edits::BeginModal() {
 
 void Edits::Write(const std::function<void()>& change) {
   if (!edit_ && Outside()) return InOneEdit([&] { Write(change); });
-  if (!edit_) edit_ = Edit{.depth = running_.size()};
+  if (!edit_) {
+    const bool byHand = running_.back().empty();
+    edit_ = Edit{.depth = running_.size(), .maker = byHand ? Maker::Host : Maker::Control};
+  }
   if (edit_->failure) return;
   try {
     if (!edit_->begun) transactions_.Begin();

@@ -15,6 +15,9 @@ namespace brivane::dossier {
 /// Whether somebody has been told of a failure already: the one who made the change, by an exception.
 enum class Told : bool { No, Yes };
 
+/// Who made an edit: a procedure of a control, or the host around it.
+enum class Maker : bool { Control, Host };
+
 /// A change that could not be stored. The memory shows what is stored again.
 struct StoreFailure {
   host::Error error;
@@ -47,6 +50,9 @@ class Edits {
   /// `transactions` outlives this object.
   explicit Edits(Transactions& transactions) : transactions_(transactions) {}
 
+  /// No procedure runs and no edit is under way: the memory may be loaded anew.
+  [[nodiscard]] bool IsQuiet() const { return running_.empty() && !edit_; }
+
   // What the tracers tell.
   void Enter(std::string_view procedure);
   /// Ends the running procedure. Throws where its edit cannot be stored; it is then still running.
@@ -68,6 +74,9 @@ class Edits {
   /// Makes one change. Fails as the change fails; does nothing in an edit that has failed already.
   void Write(const std::function<void()>& change);
 
+  /// Who made the edit that is under way. There is one.
+  [[nodiscard]] Maker MadeBy() const { return edit_->maker; }
+
   /// An edit that changed something is in the file. A listener of these two must not fail.
   host::Event<> Stored;
   /// A change is not stored. Told from inside the procedure that ends: a listener that rebinds a control does so later.
@@ -77,6 +86,7 @@ class Edits {
   /// `depth`: the length of `running_` where the edit belongs.
   struct Edit {
     std::size_t depth;
+    Maker maker;
     bool begun = false;
     std::optional<host::Error> failure{};
   };
@@ -91,6 +101,7 @@ class Edits {
   [[nodiscard]] bool Outside() const;
 
   Transactions& transactions_;
+  /// The procedures by name; what was begun by hand has none.
   std::vector<std::string> running_;
   /// For each open modal form, the length of `running_` when it opened.
   std::vector<std::size_t> modal_;

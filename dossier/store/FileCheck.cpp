@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QtEndian>
 #include <cerrno>
 
@@ -14,6 +13,7 @@
 #include "dossier/store/Possible.h"
 #include "dossier/store/Schema.h"
 #include "dossier/store/StateChain.h"
+#include "dossier/store/WholeCheck.h"
 
 namespace brivane::dossier {
 namespace {
@@ -73,33 +73,6 @@ bool IsVolledig(const QByteArray& header, qint64 lengte) {
   return pagina > 0 && lengte >= pagina * qFromBigEndian<quint32>(header.constData() + kPageCount);
 }
 
-/// What SQLite's check finds is damage, unless the disk or the memory kept it from looking. `what`: a number of
-/// findings for the whole file, or the name of a table.
-void CheckWith(Database& database, const QString& what, const QString& pad) {
-  const QString found = database.Value(QStringLiteral("PRAGMA integrity_check(%1)").arg(what)).toString();
-  if (found == QStringLiteral("ok")) return;
-  static const QRegularExpression code(QStringLiteral("error code[ =](\\d+)"));
-  if (const QRegularExpressionMatch match = code.match(found); match.hasMatch()) {
-    const DatabaseError error(static_cast<SqliteCode>(match.captured(1).toInt() & 0xff), "The check was broken off");
-    if (!error.IsDamage()) throw error;
-  }
-  throw OpeningError(OpeningProblem::Damaged, pad);
-}
-
-/// A history of so many entries is checked with the file; opening does not wait for a longer one.
-constexpr qlonglong kShortHistory = 2000;
-
-void CheckWhole(Database& database, int version, const QString& pad) {
-  const bool longHistory =
-      version >= kVersionWithHistory &&
-      database.Value(QStringLiteral("SELECT max(nummer) FROM wijziging")).toLongLong() > kShortHistory;
-  if (!longHistory) return CheckWith(database, QStringLiteral("1"), pad);
-  for (const char* table : {"sqlite_schema", "dossier", "persoon", "maatschappij_type", "lening", "vrijekolom",
-                            "periode", "voorstel", "stand"}) {
-    CheckWith(database, QLatin1String(table), pad);
-  }
-}
-
 }  // namespace
 
 void CheckName(const QString& pad) {
@@ -149,16 +122,20 @@ StoredDossier ReadChecked(Database& database, const QString& pad) {
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
   // The layout comes first: SQLite holds the rows against the constraints that the file itself gives.
   if (versie < 1 || !HasSchema(database, versie)) throw OpeningError(OpeningProblem::Damaged, pad);
+  // With a log beside it the file alone is not what is read.
+  std::optional<CheckBeside> beside;
+  if (QFileInfo(LogOf(pad)).size() == 0) beside.emplace(pad, versie);
+  const auto check = [&] { beside ? beside->Verdict() : CheckWhole(database, versie, pad); };
   StoredDossier read;
   try {
-    // Before the check, which has no bound of its own: reading ends where a case is too large.
+    // Never after the check, which has no bound of its own: reading ends where a case is too large.
     read = ReadDossier(database);
   } catch (const ContentsError& error) {
     // Where the file is damaged, that is why.
-    if (error.Which() != ContentsError::What::Size) CheckWhole(database, versie, pad);
+    if (error.Which() != ContentsError::What::Size) check();
     throw;
   }
-  CheckWhole(database, versie, pad);
+  check();
   static_cast<void>(ReadStates(database));
   CheckPossible(read.gegevens, pad);
   return read;

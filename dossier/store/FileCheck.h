@@ -30,8 +30,8 @@ void CheckPossible(const DossierGegevens& contents, const QString& pad);
 
 /// Reads what an open file holds, and checks its layout, the whole of the case and, where that is short, of its
 /// history; a long history is looked at when it is used. Reads only. Throws OpeningError for a file that is newer,
-/// damaged or larger than a case may be, and DatabaseError where it cannot be read. A connection that cannot write
-/// passes over the constraints of the rows; ReadDossier keeps to those itself.
+/// damaged or larger than a case may be, and DatabaseError where it cannot be read; which of them does not hang on
+/// whether the check or the reading is done first.
 [[nodiscard]] StoredDossier ReadChecked(Database& database, const QString& pad);
 
 }  // namespace brivane::dossier

@@ -74,8 +74,10 @@ QString Update(const char* tabel, std::string_view veld, const Waarde& waarde) {
 }  // namespace
 
 FileJournal::FileJournal(std::unique_ptr<Database> database, const StoredDossier& stored,
-                         std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held)
+                         std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held,
+                         std::shared_ptr<EditKeeper> keeper)
     : held_(std::move(held)),
+      keeper_(std::move(keeper)),
       database_(std::move(database)),
       log_(*database_),
       // A key of what was removed is not given out again: the history still speaks of it.
@@ -158,6 +160,7 @@ void FileJournal::Begin() {
                       "het open was.",
                       kBron);
   }
+  if (keeper_) keeper_->Begin();
   try {
     Database::Run(Prepared(begin_, QStringLiteral("BEGIN IMMEDIATE")));
   } catch (const DatabaseError& error) {
@@ -167,10 +170,11 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
-    log_.Store(writer_.Hoogste());
+    log_.Store(writer_.Hoogste(), edits_.MadeBy());
     if (weight_ + log_.Growth() > kMostWeight)
       throw DatabaseError(SqliteCode::Full, "The case is as large as it may be");
     AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);
+    if (keeper_) keeper_->Keep(*database_);
     Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
   } catch (const DatabaseError& error) {
     throw StoringFailed(error);
@@ -198,6 +202,15 @@ void FileJournal::Reload() noexcept {
     // The memory may show what is not stored: nothing may be built on it any more.
     unreadable_ = true;
   }
+}
+
+void FileJournal::Refilled() {
+  log_.Forget();
+  StoredDossier stored = ReadDossier(*database_);
+  writer_.GoOnAfter(std::max(stored.hoogste, log_.HighestKey()));
+  weight_ = stored.weight;
+  adopt_(std::move(stored.gegevens));
+  unreadable_ = false;
 }
 
 void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) {
@@ -351,6 +364,15 @@ void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membe
     query.bindValue(1, static_cast<qlonglong>(Vrij_Id));
     RunForOne(query);
   });
+}
+
+std::int64_t FileJournal::NextStep(StepKind kind) {
+  try {
+    static_cast<void>(Open());
+    return log_.Next(kind);
+  } catch (const DatabaseError& error) {
+    throw AlsFout(error);
+  }
 }
 
 std::vector<Entry> FileJournal::Next(StepKind kind) {

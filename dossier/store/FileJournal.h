@@ -10,6 +10,7 @@
 #include "dossier/model/Journal.h"
 #include "dossier/store/ChangeLog.h"
 #include "dossier/store/Database.h"
+#include "dossier/store/EditKeeper.h"
 #include "dossier/store/Edits.h"
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/Reader.h"
@@ -24,8 +25,10 @@ class FileJournal : public Journal, private Edits::Transactions {
  public:
   /// `adopt` loads the memory anew with what the file holds; it may fail, and then nothing more is written. `stored` is
   /// what the file holds now. `held` is the file that the connection works in, or nothing where that is not watched.
+  /// `keeper`: nothing where the file itself is what keeps the edits.
   FileJournal(std::unique_ptr<Database> database, const StoredDossier& stored,
-              std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held = nullptr);
+              std::function<void(DossierGegevens)> adopt, std::unique_ptr<HeldFile> held = nullptr,
+              std::shared_ptr<EditKeeper> keeper = nullptr);
   ~FileJournal() override;
 
   void SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) override;
@@ -43,12 +46,18 @@ class FileJournal : public Journal, private Edits::Transactions {
   void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) override;
   void InOneEdit(const std::function<void()>& body) override { edits_.InOneEdit(body); }
 
+  /// The number of the step that stands to be undone, or of the undo that stands to be taken back; 0 for none. Throws
+  /// as a change does.
+  [[nodiscard]] std::int64_t NextStep(StepKind kind);
   /// What would be undone or redone next: the entries of that step; none where there is nothing. Throws as a change
   /// does.
   [[nodiscard]] std::vector<Entry> Next(StepKind kind);
   /// Undoes or redoes the next step: an edit of its own. The memory follows. Throws as a change does; nothing is done
   /// where there is no step.
   std::optional<Done> Take(StepKind kind);
+  /// The tables were filled anew, outside of any edit: the memory follows. Throws DatabaseError where they cannot be
+  /// read.
+  void Refilled();
   /// Who works in the file; UTF-8.
   void SetAuthor(std::string name) { log_.SetAuthor(std::move(name)); }
 
@@ -83,6 +92,7 @@ class FileJournal : public Journal, private Edits::Transactions {
   [[nodiscard]] host::Error StoringFailed(const DatabaseError& error);
 
   std::unique_ptr<HeldFile> held_;
+  std::shared_ptr<EditKeeper> keeper_;
   std::unique_ptr<Database> database_;
   ChangeLog log_;
   Writer writer_;

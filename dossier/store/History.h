@@ -11,12 +11,19 @@
 /// row was before and after it. Nothing of it is ever changed or removed: undoing and redoing are steps too.
 namespace brivane::dossier {
 
-enum class StepKind : std::uint8_t { Edit = 0, Undo = 1, Redo = 2 };
+/// The numbers stand in the file: they never change.
+enum class StepKind : std::uint8_t {
+  Edit = 0,
+  Undo = 1,
+  Redo = 2,
+  CarryOver = 3  ///< an edit that took versions out of the new situation, so that those loans follow the current one
+};
 
 /// What one row, or one field of it, was before and after a step.
 struct Entry {
   std::int64_t number = 0;
   std::int64_t step = 0;
+  StepKind kind = StepKind::Edit;  ///< of its step
   Tabel tabel = Tabel::Dossier;
   Sleutel key = 0;
   /// The loan and the column that the row belongs to, and what they were called then; 0 for none.

@@ -4,8 +4,8 @@
 #include <QStringList>
 #include <unordered_map>
 
-#include "dossier/store/ChangeLog.h"
 #include "dossier/store/Database.h"
+#include "dossier/store/HistoryTables.h"
 #include "dossier/store/StoreErrors.h"
 #include <brivane/host/Error.h>
 
@@ -84,7 +84,7 @@ std::vector<HistoryLine> HistoryView::Lines(const std::vector<std::int64_t>& num
     QStringList wanted;
     for (const std::int64_t number : numbers) wanted << QString::number(number);
     QSqlQuery query = database_.Prepare(
-        QStringLiteral("SELECT %1, tijd, (SELECT CAST(tekst AS BLOB) FROM naam WHERE nummer = medewerker), soort, van "
+        QStringLiteral("SELECT %1, tijd, (SELECT CAST(tekst AS BLOB) FROM naam WHERE nummer = medewerker), van "
                        "FROM wijziging JOIN stap ON stap.nummer = wijziging.stap WHERE wijziging.nummer IN (%2)")
             .arg(QLatin1String(kEntryColumns), wanted.join(u',')));
     std::unordered_map<std::int64_t, HistoryLine> found;
@@ -95,12 +95,10 @@ std::vector<HistoryLine> HistoryView::Lines(const std::vector<std::int64_t>& num
         line.entry.before = NameOfLoan(database_, line.entry.before);
         line.entry.after = NameOfLoan(database_, line.entry.after);
       }
-      const auto kind = row.value(15).toLongLong();
-      if (kind < 0 || kind > 2) throw DatabaseError(SqliteCode::Corrupt, "A step of no kind");
       line.step = {.number = line.entry.step,
-                   .time = row.value(13).toLongLong(),
-                   .who = TextAt(row, 14),
-                   .kind = static_cast<StepKind>(kind),
+                   .time = row.value(14).toLongLong(),
+                   .who = TextAt(row, 15),
+                   .kind = line.entry.kind,
                    .of = row.value(16).toLongLong()};
       const std::int64_t number = line.entry.number;
       found.emplace(number, std::move(line));

@@ -54,11 +54,16 @@ std::size_t Bytes(const std::string& text) { return text.size(); }
 /// Keys and places start at 1, and new ones are given out after the highest.
 constexpr std::int64_t kHoogsteSleutel = std::numeric_limits<std::int64_t>::max() / 2;
 
-/// Reads the values of a row from left to right.
-class Rij {
+/// The rows that a query finds, each read from left to right.
+class Rijen {
  public:
-  explicit Rij(const Rows& rows) : rows_(rows) {}
+  Rijen(const Database& database, const QString& sql) : rows_(database, sql) {}
 
+  /// Goes to the next row; false after the last.
+  [[nodiscard]] bool Volgende() {
+    plaats_ = 0;
+    return rows_.Next();
+  }
   void Lees(std::integral auto& getal) {
     using Getal = std::remove_reference_t<decltype(getal)>;
     const std::int64_t waarde = rows_.Whole(plaats_++);
@@ -96,18 +101,9 @@ class Rij {
   void Lees(std::string& tekst) { tekst = rows_.Bytes(plaats_++); }
 
  private:
-  const Rows& rows_;
+  Rows rows_;
   int plaats_ = 0;
 };
-
-/// Runs a query and hands each row to a function.
-template <class Function> void VoorElkeRij(Database& database, const QString& sql, Function&& functie) {
-  Rows rows(database, sql);
-  while (rows.Next()) {
-    Rij rij(rows);
-    functie(rij);
-  }
-}
 
 /// A loan while its parts are being put together.
 struct Opbouw {
@@ -119,20 +115,20 @@ struct Opbouw {
 /// The loans in order of their number, 0 first and none left out.
 std::vector<Opbouw> LeesLeningen(Database& database, Scale& scale) {
   std::vector<Opbouw> leningen;
-  VoorElkeRij(database, QStringLiteral("SELECT nummer, sleutel, CAST(naam AS BLOB) FROM lening ORDER BY nummer"),
-              [&](Rij& rij) {
-                const std::size_t nummer = leningen.size();
-                if (!rij.HeeftNummer(nummer)) Damaged(LoanInWords(nummer) + " ontbreekt");
-                // Looking up the loan of each column would take ever longer.
-                if (nummer > kMostLoans) throw ContentsError(ContentsError::What::Value, TooManyLoans());
-                Opbouw& opbouw = leningen.emplace_back();
-                At([&] { return LoanInWords(nummer) + ", sleutel"; },
-                   [&] {
-                     rij.LeesSleutel(opbouw.lening.Sleutel);
-                     rij.Lees(opbouw.lening.Naam);
-                   });
-                scale.Add(Tabel::Lening, opbouw.lening.Naam.size());
-              });
+  Rijen rij(database, QStringLiteral("SELECT nummer, sleutel, naam FROM lening ORDER BY nummer"));
+  while (rij.Volgende()) {
+    const std::size_t nummer = leningen.size();
+    if (!rij.HeeftNummer(nummer)) Damaged(LoanInWords(nummer) + " ontbreekt");
+    // Looking up the loan of each column would take ever longer.
+    if (nummer > kMostLoans) throw ContentsError(ContentsError::What::Value, TooManyLoans());
+    Opbouw& opbouw = leningen.emplace_back();
+    At([&] { return LoanInWords(nummer) + ", sleutel"; },
+       [&] {
+         rij.LeesSleutel(opbouw.lening.Sleutel);
+         rij.Lees(opbouw.lening.Naam);
+       });
+    scale.Add(Tabel::Lening, opbouw.lening.Naam.size());
+  }
   if (leningen.empty()) Damaged(LoanInWords(0) + " ontbreekt");
   return leningen;
 }
@@ -157,7 +153,8 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen, Scale& scal
   BezoekKolom(voorbeeld,
               [&](std::string_view naam, const auto&) { namen << QString::fromStdString(ColumnName(naam)); });
   const QString sql = QStringLiteral("SELECT %1 FROM vrijekolom").arg(namen.join(QStringLiteral(", ")));
-  VoorElkeRij(database, sql, [&](Rij& rij) {
+  Rijen rij(database, sql);
+  while (rij.Volgende()) {
     Sleutel sleutel = 0;
     rij.Lees(sleutel);
     const auto opbouw = std::find_if(leningen.begin(), leningen.end(),
@@ -186,7 +183,7 @@ void LeesKolommen(Database& database, std::vector<Opbouw>& leningen, Scale& scal
           });
           scale.Add(Tabel::Kolom, texts);
         });
-  });
+  }
 }
 
 /// A column in words, by its key.
@@ -210,7 +207,8 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen, Scale& s
   const auto aantal = [](std::size_t som, const Opbouw& opbouw) { return som + opbouw.volgorde.size(); };
   perioden.reserve(std::accumulate(leningen.begin(), leningen.end(), std::size_t{0}, aantal));
   const QString sql = QStringLiteral("SELECT %1 FROM periode ORDER BY sleutel").arg(namen.join(QStringLiteral(", ")));
-  VoorElkeRij(database, sql, [&](Rij& rij) {
+  Rijen rij(database, sql);
+  while (rij.Volgende()) {
     if (perioden.empty()) {
       for (Opbouw& opbouw : leningen) {
         for (KolomGegevens& kolom : opbouw.lening.VrijeKolommen) {
@@ -238,7 +236,7 @@ Sleutel LeesPerioden(Database& database, std::vector<Opbouw>& leningen, Scale& s
         });
     scale.Add(Tabel::Periode, 0);
     hoogste = periode.Sleutel;
-  });
+  }
   return hoogste;
 }
 
@@ -277,45 +275,50 @@ void LeesInhoud(Database& database, StoredDossier& gelezen, Scale& scale) {
   gelezen.gegevens.Leningen.erase(gelezen.gegevens.Leningen.begin());
 }
 
-}  // namespace
-
-StoredDossier ReadDossier(Database& database) {
-  StoredDossier gelezen;
-  DossierGegevens& dossier = gelezen.gegevens;
-  Scale scale(gelezen);
+void LeesUitgangspunten(Database& database, DossierGegevens& dossier) {
   std::size_t dossiers = 0;
-  VoorElkeRij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"), [&](Rij& rij) {
+  Rijen rij(database, QStringLiteral("SELECT enig, leeftijd FROM dossier"));
+  while (rij.Volgende()) {
     if (!rij.HeeftNummer(++dossiers)) Damaged("uitgangspunten");
     At("leeftijdsgrens", [&] { rij.Lees(dossier.Leeftijd); });
-  });
+  }
   if (dossiers != 1) Damaged("de uitgangspunten ontbreken");
-  VoorElkeRij(database,
-              QStringLiteral("SELECT nummer, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB), "
-                             "geboortedatum, %1 FROM persoon ORDER BY nummer")
-                  .arg(QLatin1String(HeeftTarieven(database) ? "belastingtarief" : "NULL")),
-              [&](Rij& rij) {
-                const std::size_t plaats = dossier.Personen.size();
-                if (!rij.HeeftNummer(plaats + 1)) Damaged(PersonInWords(plaats) + " ontbreekt");
-                PersoonGegevens& persoon = dossier.Personen.emplace_back();
-                for (std::string& naam : persoon.Naam) rij.Lees(naam);
-                At([&] { return PersonInWords(plaats) + ", geboortedatum"; }, [&] { rij.Lees(persoon.Geboortedatum); });
-                rij.Lees(persoon.Belastingtarief);
-                scale.Add(Tabel::Persoon,
-                          std::accumulate(persoon.Naam.begin(), persoon.Naam.end(), std::size_t{0},
-                                          [](std::size_t sum, const std::string& part) { return sum + part.size(); }));
-              });
+}
+
+void LeesPersonen(Database& database, DossierGegevens& dossier, Scale& scale) {
+  Rijen rij(database,
+            QStringLiteral("SELECT nummer, naam_1, naam_2, naam_3, geboortedatum, %1 FROM persoon ORDER BY nummer")
+                .arg(QLatin1String(HeeftTarieven(database) ? "belastingtarief" : "NULL")));
+  while (rij.Volgende()) {
+    const std::size_t plaats = dossier.Personen.size();
+    if (!rij.HeeftNummer(plaats + 1)) Damaged(PersonInWords(plaats) + " ontbreekt");
+    PersoonGegevens& persoon = dossier.Personen.emplace_back();
+    std::size_t texts = 0;
+    for (std::string& naam : persoon.Naam) {
+      rij.Lees(naam);
+      texts += naam.size();
+    }
+    At([&] { return PersonInWords(plaats) + ", geboortedatum"; }, [&] { rij.Lees(persoon.Geboortedatum); });
+    rij.Lees(persoon.Belastingtarief);
+    scale.Add(Tabel::Persoon, texts);
+  }
   if (dossier.Personen.empty()) Damaged(PersonInWords(0) + " ontbreekt");
   if (dossier.Personen.size() > 2) Damaged("meer dan twee personen");
-  VoorElkeRij(database,
-              QStringLiteral("SELECT CAST(code AS BLOB), CAST(tekst AS BLOB) FROM maatschappij_type ORDER BY volgorde"),
-              [&](Rij& rij) {
-                Code& code = dossier.MaatschappijType.emplace_back();
-                rij.Lees(code.code);
-                rij.Lees(code.tekst);
-                scale.Add(Tabel::Dossier, code.code.size() + code.tekst.size());
-              });
-  LeesInhoud(database, gelezen, scale);
-  VoorElkeRij(database, QStringLiteral("SELECT voorstel, vrij_id FROM voorstel"), [&](Rij& rij) {
+}
+
+void LeesMaatschappijen(Database& database, DossierGegevens& dossier, Scale& scale) {
+  Rijen rij(database, QStringLiteral("SELECT code, tekst FROM maatschappij_type ORDER BY volgorde"));
+  while (rij.Volgende()) {
+    Code& code = dossier.MaatschappijType.emplace_back();
+    rij.Lees(code.code);
+    rij.Lees(code.tekst);
+    scale.Add(Tabel::Dossier, code.code.size() + code.tekst.size());
+  }
+}
+
+void LeesVoorstellen(Database& database, DossierGegevens& dossier, Scale& scale) {
+  Rijen rij(database, QStringLiteral("SELECT voorstel, vrij_id FROM voorstel"));
+  while (rij.Volgende()) {
     std::int16_t voorstel = 0;
     std::int16_t Vrij_Id = 0;
     At("voorstel", [&] { rij.Lees(voorstel); });
@@ -323,7 +326,19 @@ StoredDossier ReadDossier(Database& database) {
     At([&] { return "voorstel " + std::to_string(voorstel); }, [&] { rij.Lees(Vrij_Id); });
     dossier.Voorstellen[static_cast<std::size_t>(voorstel - 1)].insert(Vrij_Id);
     scale.Add(Tabel::Voorstel, 0);
-  });
+  }
+}
+
+}  // namespace
+
+StoredDossier ReadDossier(Database& database) {
+  StoredDossier gelezen;
+  Scale scale(gelezen);
+  LeesUitgangspunten(database, gelezen.gegevens);
+  LeesPersonen(database, gelezen.gegevens, scale);
+  LeesMaatschappijen(database, gelezen.gegevens, scale);
+  LeesInhoud(database, gelezen, scale);
+  LeesVoorstellen(database, gelezen.gegevens, scale);
   return gelezen;
 }
 

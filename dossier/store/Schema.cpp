@@ -46,9 +46,10 @@ constexpr const char* kVersie2[] = {
     "INSERT INTO stand (kenmerk) VALUES (random())",
 };
 
-// The history: History.h. Nothing of it is ever changed or removed. `eerste` is the number of a step's first entry,
-// `van` the step that is undone or redone, `terug` and `opnieuw` what is undone and redone next, 0 for none. An entry
-// holds the value of one field before and after, or of a whole row where `veld` is 0: NULL where there was none.
+// The history: History.h. Nothing of it is ever changed or removed. `soort` is a StepKind, `eerste` the number of a
+// step's first entry, `van` the step that is undone or redone, `terug` and `opnieuw` what is undone and redone next, 0
+// for none. An entry holds the value of one field before and after, or of a whole row where `veld` is 0: NULL where
+// there was none.
 constexpr const char* kVersie3[] = {
     "ALTER TABLE persoon ADD COLUMN belastingtarief REAL",
     "CREATE TABLE naam (nummer INTEGER PRIMARY KEY, tekst TEXT NOT NULL UNIQUE) STRICT",

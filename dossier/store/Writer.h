@@ -28,6 +28,10 @@ class Writer {
   Sleutel AddPeriode(Sleutel kolom);
   /// A key, or a place at the end of any order, that was not given out before.
   [[nodiscard]] Sleutel Volgende() { return volgende_++; }
+  /// Nothing up to that key is given out any more.
+  void GoOnAfter(Sleutel hoogste) {
+    if (hoogste >= volgende_) volgende_ = hoogste + 1;
+  }
   /// The highest key that was given out.
   [[nodiscard]] Sleutel Hoogste() const { return volgende_ - 1; }
   /// Frees the prepared statements, so that the connection can be closed.

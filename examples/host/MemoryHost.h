@@ -176,7 +176,7 @@ struct Uitgangspunten final : host::Uitgangspunten {
 };
 
 /// Remembers the last error that a control reported.
-struct Trace final : host::ProcedureTrace {
+struct Trace : host::ProcedureTrace {
   std::string number, description;
 
   void EnterProcedure(std::string_view) override {}

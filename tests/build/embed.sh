@@ -24,6 +24,11 @@ for header in "${headers[@]}"; do echo "#include <${header#./}>"; done |
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -DQT_NO_KEYWORDS "${qt_flags[@]}" -I"$work/prefix/include"
 echo "${#headers[@]} headers"
 
+echo "== the texts of the widgets in another language"
+[[ -z $(find "$work/prefix" -name 'libbrivane-vrijekolom-qt.*') ]] || find "$work/prefix" -name brivane_en.ts | grep -q .
+lines=$(wc -l <"$root/examples/qt/main.cpp")
+((lines <= 30)) || { echo "the smallest program has grown to $lines lines" && exit 1; }
+
 echo "== with find_package"
 configure build -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$work/configure.log"
 if grep -E -- '-Werror|-ffp-contract|-Wshadow|-Wconversion' "$work/build/compile_commands.json"; then

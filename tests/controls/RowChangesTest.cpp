@@ -38,6 +38,18 @@ TEST_F(RowChangesTest, AreAskedAboutOnceARowWasEntered) {
   EXPECT_TRUE(Closes());
 }
 
+TEST_F(RowChangesTest, AreAskedAboutInTheLanguageOfTheToolkit) {
+  toolkit.language = frame::Language::English;
+  TypeOver(Row(1), "5");
+  EXPECT_TRUE(Edit(Row(1)).Commit());
+  TypeOver(Row(2), "6");
+  EXPECT_FALSE(Closes());
+  EXPECT_THAT(toolkit.asked,
+              ElementsAre("Proefformulier: The amount of the first row was saved when it was entered, and stays. The "
+                          "other changes are not saved when you close the window without pressing OK. That goes for "
+                          "what you are typing now, too. Do you want to close it?"));
+}
+
 TEST_F(RowChangesTest, LeaveTheAmountOfTheFirstRowAndSaySo) {
   TypeOver(Row(1), "5");
   EXPECT_TRUE(Edit(Row(1)).Commit());

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <atomic>
 #include <iterator>
 #include <new>
 
@@ -9,30 +10,35 @@ namespace brivane::faults {
 
 namespace {
 
-struct Plan {
-  int calls = 0;
-  int failing = 0;
-  int fullFrom = 0;
-  bool struck = false;
-};
-Plan plan;
+/// A file is looked at in two threads while it is opened.
+std::atomic<int> calls = 0;
+std::atomic<int> failing = 0;
+std::atomic<int> fullFrom = 0;
+std::atomic<bool> struck = false;
+
+void Plan(int failingCall, int fullFromCall) {
+  failing = failingCall;
+  fullFrom = fullFromCall;
+  calls = 0;
+  struck = false;
+}
 
 /// What stands before one of SQLite's ways to the disk.
 sqlite3_vfs* Disk(sqlite3_vfs* shim) { return static_cast<sqlite3_vfs*>(shim->pAppData); }
 
-/// The code of a failure that is due now, or SQLITE_OK.
-int Due(int code) {
-  if (++plan.calls != plan.failing) return SQLITE_OK;
-  plan.struck = true;
+int Strike(int code) {
+  struck = true;
   return code;
 }
 
+/// The code of a failure that is due now, or SQLITE_OK.
+int Due(int code) { return ++calls == failing ? Strike(code) : SQLITE_OK; }
+
 /// The same for what takes room on the disk.
 int DueForRoom(int code) {
-  const int due = Due(code);
-  if (due != SQLITE_OK || plan.fullFrom == 0 || plan.calls < plan.fullFrom) return due;
-  plan.struck = true;
-  return SQLITE_FULL;
+  const int call = ++calls;
+  if (call == failing) return Strike(code);
+  return fullFrom != 0 && call >= fullFrom ? Strike(SQLITE_FULL) : SQLITE_OK;
 }
 
 /// SQLite's file, followed in memory by that of the real disk.
@@ -143,7 +149,7 @@ FaultyVfs::FaultyVfs() {
     // Of two with one name the first in the list is found, and a new one comes before the others.
     sqlite3_vfs_register(&shim, n == 0 ? 1 : 0);
   }
-  plan = {};
+  Plan(0, 0);
 }
 
 FaultyVfs::~FaultyVfs() {
@@ -151,12 +157,12 @@ FaultyVfs::~FaultyVfs() {
   sqlite3_vfs_register(Disk(&shims[0]), 1);
 }
 
-void FaultyVfs::FailAt(int nth) { plan = {.failing = nth}; }
+void FaultyVfs::FailAt(int nth) { Plan(nth, 0); }
 
-void FaultyVfs::FullFrom(int nth) { plan = {.fullFrom = nth}; }
+void FaultyVfs::FullFrom(int nth) { Plan(0, nth); }
 
-int FaultyVfs::Calls() const { return plan.calls; }
+int FaultyVfs::Calls() const { return calls; }
 
-bool FaultyVfs::Struck() const { return plan.struck; }
+bool FaultyVfs::Struck() const { return struck; }
 
 }  // namespace brivane::faults

@@ -110,6 +110,14 @@ TEST(Calendar, AnyNumberOfMonthsOrYearsIsADateOrAnOverflow) {
   }
 }
 
+TEST(Calendar, TheLastMonthOfTheYearsIsTheirLast) {
+  // 9900 years and a day less a month: December 9999 has the 31st as January 100 has.
+  EXPECT_EQ(AddMonths(MakeDate({100, 1, 31}), 9900 * 12 - 1), MakeDate({9999, 12, 31}));
+  EXPECT_EQ(ErrorOf([] { (void)AddMonths(MakeDate({100, 1, 31}), 9900 * 12); }), 6);
+  EXPECT_EQ(AddMonths(MakeDate({9999, 12, 31}), 1 - 9900 * 12), MakeDate({100, 1, 31}));
+  EXPECT_EQ(ErrorOf([] { (void)AddMonths(MakeDate({9999, 12, 31}), -9900 * 12); }), 6);
+}
+
 TEST(Calendar, CountsMonthBoundariesWhateverTheDay) {
   EXPECT_EQ(MonthsBetween(MakeDate({2024, 1, 31}), MakeDate({2024, 2, 1})), 1);
   EXPECT_EQ(MonthsBetween(MakeDate({2024, 1, 1}), MakeDate({2024, 1, 31})), 0);

@@ -64,6 +64,15 @@ TEST(TypedDate, IsRefusedWithTheReason) {
       {"1-4-2031-", expected},
       {"--", expected},
       {"001-4-2031", expected},
+      {"1-004-2031", expected},
+      {"1-4-2031-1", expected},
+      {"1~4~2031", expected},
+      {"1,4,2031", expected},
+      {"1-4-", expected},
+      {"1--2031", expected},
+      {"-4-2031", expected},
+      {"1-4-3x", expected},
+      {"01043x", expected},
       {"2031-04-01", expected},
       {"1-13-2031", "Maand 13 bestaat niet. Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031."},
       {"1-0-2031", "Maand 0 bestaat niet. Vul een datum in als dd-mm-jjjj, bijvoorbeeld 1-4-2031."},
@@ -78,6 +87,26 @@ TEST(TypedDate, IsRefusedWithTheReason) {
 TEST(ShownDate, HasTwoDigitsForDayAndMonth) {
   EXPECT_EQ(ShowDate(frame::MakeDate({2031, 4, 1})), "01-04-2031");
   EXPECT_EQ(ShowDate(host::kNoDate), "");
+}
+
+TEST(ShownDate, NamesEachMonth) {
+  const char* const kNames[] = {"januari", "februari", "maart",     "april",   "mei",      "juni",
+                                "juli",    "augustus", "september", "oktober", "november", "december"};
+  for (int month = 1; month <= 12; ++month) {
+    const std::string name = kNames[month - 1];
+    EXPECT_EQ(ShowLongDate(frame::MakeDate({2031, month, 1})), "1 " + name + " 2031");
+  }
+  EXPECT_EQ(ReadDate("32-12-2031").Reason(), "32 december 2031 bestaat niet.");
+  EXPECT_EQ(ReadDate("32-1-2031").Reason(), "32 januari 2031 bestaat niet.");
+  EXPECT_EQ(ShowLongDate(host::kNoDate), "");
+}
+
+TEST(ShownDate, NamesEachDayOfAWeek) {
+  // 1 January 1900 was a Monday: day 2.
+  const char* const kNames[] = {"maandag", "dinsdag", "woensdag", "donderdag", "vrijdag", "zaterdag", "zondag"};
+  for (int day = 1; day <= 7; ++day)
+    EXPECT_EQ(ShowDateInWords(frame::MakeDate({1900, 1, day})),
+              std::string(kNames[day - 1]) + " " + std::to_string(day) + " januari 1900");
 }
 
 TEST(ShownDate, InWordsNamesTheDayOfTheWeek) {

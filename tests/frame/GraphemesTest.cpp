@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <map>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <brivane/frame/Graphemes.h>
@@ -23,6 +27,32 @@ std::vector<std::string> Split(std::string_view text) {
     text = text.substr(0, start);
   }
   return characters;
+}
+
+/// A code point in UTF-8.
+std::string Utf8(char32_t c) {
+  const auto tail = [c](unsigned shift) { return static_cast<char>(0x80U | ((c >> shift) & 0x3FU)); };
+  if (c < 0x80) return {static_cast<char>(c)};
+  if (c < 0x800) return {static_cast<char>(0xC0U | (c >> 6U)), tail(0)};
+  if (c < 0x10000) return {static_cast<char>(0xE0U | (c >> 12U)), tail(6), tail(0)};
+  return {static_cast<char>(0xF0U | (c >> 18U)), tail(12), tail(6), tail(0)};
+}
+
+/// Whether the second code point is part of the character that the first begins.
+bool Joined(char32_t first, char32_t second) { return LastGraphemeStart(Utf8(first) + Utf8(second)) == 0; }
+
+/// The code points from 0 on that `joins` says yes to, as ranges of hexadecimal numbers.
+template <class Joins> std::string Ranges(char32_t last, const Joins& joins) {
+  std::ostringstream found;
+  found << std::hex;
+  for (char32_t c = 0; c <= last; ++c) {
+    if (!joins(c)) continue;
+    const char32_t first = c;
+    while (c < last && joins(c + 1)) ++c;
+    found << (first == 0 ? "" : " ") << static_cast<std::uint32_t>(first);
+    if (c != first) found << '-' << static_cast<std::uint32_t>(c);
+  }
+  return found.str();
 }
 
 using Characters = std::vector<std::string>;
@@ -129,8 +159,104 @@ TEST(Graphemes, BytesThatAreNotUtf8StandAlone) {
   EXPECT_EQ(Split("\xE2\x82"), (Characters{"\xE2", "\x82"}));
   EXPECT_EQ(Split("\xC3\xA9\xA9"), (Characters{"\xC3\xA9", "\xA9"}));
   EXPECT_EQ(Split("\xFF\xFE"), (Characters{"\xFF", "\xFE"}));
+  EXPECT_EQ(Split("a\x80"), (Characters{"a", "\x80"}));
+  EXPECT_EQ(Split("a\x80\x80"), (Characters{"a", "\x80", "\x80"}));
+  EXPECT_EQ(Split("\x7F\xBF"), (Characters{"\x7F", "\xBF"}));
+  EXPECT_EQ(Split("\xBF\xBF"), (Characters{"\xBF", "\xBF"}));
 }
 
 TEST(Graphemes, AMarkWithoutALetterStandsAlone) { EXPECT_EQ(Split("\u0301"), Characters{"\u0301"}); }
+
+TEST(Graphemes, OfEachPageOfCodePointsSoManyJoinALetter) {
+  // Counted in the character database of Unicode 14 by pages of 256: what extends a character, and the spacing marks.
+  const std::map<char32_t, int> expected = {
+      {0x03, 112}, {0x04, 7},   {0x05, 51},  {0x06, 52},  {0x07, 49},  {0x08, 85},  {0x09, 54},   {0x0A, 44},
+      {0x0B, 35},  {0x0C, 46},  {0x0D, 44},  {0x0E, 34},  {0x0F, 77},  {0x10, 34},  {0x13, 3},    {0x17, 44},
+      {0x18, 7},   {0x19, 24},  {0x1A, 73},  {0x1B, 61},  {0x1C, 49},  {0x1D, 64},  {0x20, 35},   {0x2C, 3},
+      {0x2D, 33},  {0x30, 8},   {0xA6, 18},  {0xA8, 48},  {0xA9, 40},  {0xAA, 34},  {0xAB, 10},   {0xFB, 1},
+      {0xFE, 32},  {0xFF, 2},   {0x101, 1},  {0x102, 1},  {0x103, 5},  {0x10A, 15}, {0x10D, 4},   {0x10E, 2},
+      {0x10F, 15}, {0x110, 37}, {0x111, 43}, {0x112, 25}, {0x113, 33}, {0x114, 39}, {0x115, 18},  {0x116, 30},
+      {0x117, 13}, {0x118, 15}, {0x119, 30}, {0x11A, 49}, {0x11C, 52}, {0x11D, 29}, {0x11E, 4},   {0x16A, 5},
+      {0x16B, 7},  {0x16F, 63}, {0x1BC, 2},  {0x1CF, 69}, {0x1D1, 30}, {0x1D2, 3},  {0x1DA, 127}, {0x1E0, 38},
+      {0x1E1, 7},  {0x1E2, 5},  {0x1E8, 7},  {0x1E9, 7},  {0x1F3, 5},  {0xE00, 96}, {0xE01, 240}};
+  std::map<char32_t, int> counted;
+  // The planes in which Unicode has assigned signs, less those of ideographs.
+  for (const auto& [first, last] : {std::pair{0x20, 0x1FFFF}, std::pair{0xE0000, 0xE0FFF}})
+    for (int c = first; c <= last; ++c)
+      if (Joined('a', static_cast<char32_t>(c))) ++counted[static_cast<char32_t>(c) >> 8U];
+  EXPECT_EQ(counted, expected);
+}
+
+TEST(Graphemes, TheSignsThatStandBeforeTheirCharacterAreTheseAlone) {
+  EXPECT_EQ(Ranges(0x1FFFF, [](char32_t c) { return Joined(c, 'a'); }),
+            " 600-605 6dd 70f 890-891 8e2 d4e 110bd 110cd 111c2-111c3 1193f 11941 11a3a 11a84-11a89 11d46");
+  // A blank is a character that such a sign can stand before, what steers a line is none.
+  EXPECT_TRUE(Joined(0x600, ' '));
+  EXPECT_FALSE(Joined(0x600, 0x1F));
+}
+
+TEST(Graphemes, HangulLettersJoinInTheOrderOfASyllable) {
+  const char32_t last = 0xFFFF;
+  const auto after = [&](char32_t first) {
+    return Ranges(last, [=](char32_t c) { return !Joined('a', c) && Joined(first, c); });
+  };
+  const std::string oldLead = " a960-a97c";
+  const std::string syllable = " ac00-d7a3";
+  const std::string tail = " 11a8-11ff";
+  const std::string oldVowel = " d7b0-d7c6";
+  const std::string oldTail = " d7cb-d7fb";
+  EXPECT_EQ(after(0x1100), " 1100-11a7" + oldLead + syllable + oldVowel);
+  EXPECT_EQ(after(0x1160), " 1160-11ff" + oldVowel + oldTail);
+  EXPECT_EQ(after(0x11A8), tail + oldTail);
+
+  struct Case {
+    char32_t first;
+    std::string joins;  ///< of a lead, a vowel, a tail and a syllable
+  };
+  for (const Case& c :
+       {// The ends of the ranges, and what stands beside them.
+        Case{0x10FF, ""}, Case{0x1100, "LVS"}, Case{0x115F, "LVS"}, Case{0x1160, "VT"}, Case{0x11A7, "VT"},
+        Case{0x11A8, "T"}, Case{0x11FF, "T"}, Case{0x1200, ""}, Case{0xA95F, ""}, Case{0xA960, "LVS"},
+        Case{0xA97C, "LVS"}, Case{0xA97D, ""}, Case{0xABFF, ""}, Case{0xD7A4, ""}, Case{0xD7AF, ""}, Case{0xD7B0, "VT"},
+        Case{0xD7C6, "VT"}, Case{0xD7C7, ""}, Case{0xD7CA, ""}, Case{0xD7CB, "T"}, Case{0xD7FB, "T"}, Case{0xD7FC, ""},
+        // Syllables without a tail are every 28th.
+        Case{0xAC00, "VT"}, Case{0xAC01, "T"}, Case{0xAC1B, "T"}, Case{0xAC1C, "VT"}, Case{0xD788, "VT"},
+        Case{0xD7A3, "T"}}) {
+    std::string joins;
+    if (Joined(c.first, 0x1100)) joins += 'L';
+    if (Joined(c.first, 0x1161)) joins += 'V';
+    if (Joined(c.first, 0x11A8)) joins += 'T';
+    if (Joined(c.first, 0xAC00)) joins += 'S';
+    EXPECT_EQ(joins, c.joins) << std::hex << static_cast<std::uint32_t>(c.first);
+  }
+}
+
+TEST(Graphemes, AJoinerJoinsThesePictographs) {
+  const std::string joiner = Utf8(0x200D);
+  const std::string rocket = Utf8(0x1F680);
+  const auto both = [&](char32_t first, char32_t second) {
+    return LastGraphemeStart(Utf8(first) + joiner + Utf8(second)) == 0;
+  };
+  // Between the pictographs stand the indicators of flags and the skin tones.
+  const std::string pictographs = " a9 ae 203c 2049 2122 2139 2190-2bff 1f000-1f1e5 1f200-1f3fa 1f400-1faff";
+  EXPECT_EQ(Ranges(0x1FFFF, [&](char32_t c) { return both(c, 0x1F680); }), pictographs);
+  EXPECT_EQ(Ranges(0x1FFFF, [&](char32_t c) { return !Joined('a', c) && both(0x1F680, c); }), pictographs);
+}
+
+TEST(Graphemes, TheIndicatorsOfFlagsAreTheseAlone) {
+  EXPECT_EQ(Ranges(0x1FFFF, [](char32_t c) { return !Joined('a', c) && Joined(0x1F1E6, c); }), " 1f1e6-1f1ff");
+  EXPECT_EQ(Ranges(0x1FFFF, [](char32_t c) { return !Joined(c, 'a') && Joined(c, 0x1F1FF); }), " 1f1e6-1f1ff");
+}
+
+TEST(Graphemes, ACodePointOfEachLengthIsReadWhole) {
+  // The first and the last of two, three and four bytes.
+  for (const char32_t c : {0x80, 0x7FF, 0x800, 0xFFFD, 0x10000, 0x10FFFF})
+    EXPECT_EQ(Split("a" + Utf8(c) + "b"), (Characters{"a", Utf8(c), "b"})) << std::hex << static_cast<std::uint32_t>(c);
+  // A byte of a sequence that is too short, or too long by one, stands alone.
+  EXPECT_EQ(Split("\xF0\x9F\x9A"), (Characters{"\xF0", "\x9F", "\x9A"}));
+  EXPECT_EQ(Split("\xE2\x82\xAC\x80"), (Characters{"\xE2\x82\xAC", "\x80"}));
+  EXPECT_EQ(Split("\xF0\x9F\x9A\x80\x80"), (Characters{"\xF0\x9F\x9A\x80", "\x80"}));
+  EXPECT_EQ(Split("\x80\x80\x80\x80\x80"), (Characters{"\x80", "\x80", "\x80", "\x80", "\x80"}));
+}
 
 }  // namespace brivane::frame

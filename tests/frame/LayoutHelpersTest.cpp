@@ -239,6 +239,36 @@ TEST(FitText, ALongTextIsShortenedToTheSameWithoutMeasuringItForEachOfItsCharact
   }
 }
 
+/// A surface on which a longer text may be narrower, by less than 32 bytes.
+class WobblyRuler final : public host::DrawingSurface {
+ public:
+  [[nodiscard]] bool FontBold() const override { return false; }
+  void SetFontBold(bool) override {}
+  [[nodiscard]] host::Twips TextWidth(std::string_view text) const override {
+    return {static_cast<float>(text.size() * 100 + text.size() * 11 % 31 * 100)};
+  }
+};
+
+TEST(FitText, ALongTextIsShortenedToTheSameWhereALongerOneMayBeNarrower) {
+  const WobblyRuler ruler;
+  std::string letters;
+  std::string mixed;
+  for (int i = 0; i < 40; ++i) {
+    letters += "abcdefghij";
+    mixed += "e\u0308\u20AC\U0001F600";
+  }
+  for (const std::string& whole : {letters, mixed})
+    for (const std::size_t length : {1U, 31U, 32U, 33U, 34U, 63U, 64U, 65U, 66U, 96U, 97U, 130U, 400U}) {
+      const std::string text = whole.substr(0, length);
+      for (int width = 0; width < 45000; width += 100) {
+        WobblyRuler measuring;
+        EXPECT_EQ(FitText(&measuring, text, {static_cast<float>(width)}),
+                  ShortenedOneByOne(ruler, text, {static_cast<float>(width)}))
+            << length << ' ' << width;
+      }
+    }
+}
+
 TEST(SmallerAndLarger, GiveTheSecondWhenEqual) {
   EXPECT_EQ(Smaller(80, 200), 80);
   EXPECT_EQ(Smaller(200, 80), 80);

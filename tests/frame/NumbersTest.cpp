@@ -35,6 +35,7 @@ TEST(Amount, AcceptsWhatHasOneMeaning) {
       {"12,-", 12},
       {"12,--", 12},
       {"-3,10", -3.1},
+      {"-1", -1},
       {"€ -3,10", -3.1},
       {"-€ 3,10", -3.1},
       {"12,50 €", 12.5},
@@ -71,6 +72,7 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
       {"1234.567", "De punt staat niet tussen duizendtallen. Bedoelt u 1.234.567?"},
       {"12.", "De punt staat niet tussen duizendtallen. Bedoelt u 12?"},
       {".50", "De punt staat niet tussen duizendtallen. Bedoelt u 50?"},
+      {".123", "De punt staat niet tussen duizendtallen. Bedoelt u 123?"},
   };
   for (const Refused& row : kTable) EXPECT_EQ(ReadAmount(row.typed).Reason(), row.reason) << row.typed;
 }
@@ -104,6 +106,8 @@ TEST(Number, TakesUpToFourDecimals) {
   for (const Accepted& row : kTable) EXPECT_EQ(*ReadNumber(row.typed), row.value) << row.typed;
   EXPECT_EQ(ReadNumber("3,12345").Reason(), "Een getal heeft ten hoogste vier cijfers achter de komma.");
   EXPECT_EQ(ReadNumber("3.7").Reason(), "Bedoelt u 3,7 of 37? Typ een komma voor de decimalen.");
+  EXPECT_EQ(ReadNumber("3.5000").Reason(), "Bedoelt u 3,5000 of 35.000? Typ een komma voor de decimalen.");
+  EXPECT_EQ(ReadNumber("3.50000").Reason(), "Bedoelt u 3,5000 of 350.000? Typ een komma voor de decimalen.");
   EXPECT_EQ(ReadNumber("€ 3").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
   EXPECT_EQ(ReadNumber("3,-").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
 }

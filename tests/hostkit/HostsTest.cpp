@@ -9,6 +9,8 @@
 #include "dossier/model/DossierControle.h"
 #include "dossier/model/Tracer.h"
 #include "dossier/store/DossierFile.h"
+#include "dossier/store/FileJournal.h"
+#include "dossier/store/Reader.h"
 #include "dossier/store/StoreTrace.h"
 #include "tests/hostkit/FaultyHost.h"
 #include "tests/support/TestHost.h"
@@ -74,29 +76,63 @@ Host ReferenceHost() {
   return host;
 }
 
-/// The loan file of one host, open.
-struct OpenFile {
-  QTemporaryDir folder;
-  std::unique_ptr<dossier::DossierFile> file;
+/// The same on a file: the edit that the failing change belongs to is rolled back, as where the disk is full.
+class FailingFileJournal final : public dossier::FileJournal {
+ public:
+  using FileJournal::FileJournal;
+  std::optional<host::Error> next;
 
-  std::shared_ptr<dossier::Application> Open() {
+  using FileJournal::SetField;
+  void SetField(dossier::Sleutel kolom, dossier::KolomVeld veld, const dossier::Waarde& waarde) override {
+    if (next && veld.naam == "Omschrijving")
+      Bewerkingen().Write([&] { throw host::Error(*std::exchange(next, std::nullopt)); });
+    FileJournal::SetField(kolom, veld, waarde);
+  }
+};
+
+/// The loan file of one host: worked in over a journal that can fail, then opened as the program does.
+struct OpenFile {
+  OpenFile() {
+    dossier::DossierFile::Maak(path, Zaak());
+    auto database = std::make_unique<dossier::Database>(path, dossier::Access::ReadWrite);
+    const dossier::StoredDossier stored = dossier::ReadDossier(*database);
+    const auto omgeving = std::make_shared<dossier::Environment>();
+    dossier = std::make_shared<dossier::Dossier>(stored.gegevens, omgeving);
+    const auto adopt = [this](dossier::DossierGegevens contents) { dossier->Herlaad(std::move(contents)); };
+    journal = std::make_shared<FailingFileJournal>(std::move(database), stored, adopt);
+    omgeving->Journal = journal;
+  }
+  std::shared_ptr<dossier::Application> Reopen() {
+    journal->Sluit();
     file.reset();
-    file = dossier::DossierFile::Open(folder.filePath("zaak.dossier"));
+    file = dossier::DossierFile::Open(path);
     return std::make_shared<dossier::Application>(file->Dossier());
   }
+  [[nodiscard]] std::shared_ptr<dossier::Edits> Bewerkingen() const {
+    return file ? file->GedeeldeBewerkingen() : std::shared_ptr<dossier::Edits>(journal, &journal->Bewerkingen());
+  }
+
+  QTemporaryDir folder;
+  QString path = folder.filePath("zaak.dossier");
+  std::shared_ptr<dossier::Dossier> dossier;
+  std::shared_ptr<FailingFileJournal> journal;
+  std::unique_ptr<dossier::DossierFile> file;
 };
 
 Host HostOnFile() {
   const auto open = std::make_shared<OpenFile>();
-  dossier::DossierFile::Maak(open->folder.filePath("zaak.dossier"), Zaak());
-  const auto application = open->Open();
+  const auto application = std::make_shared<dossier::Application>(open->dossier);
   const auto last = std::make_shared<LastReport>(*application);
   Host host;
   host.application = application;
-  host.factories = {.MaakProcedureTrace = [open](std::string_view control) { return open->file->MakeTrace(control); },
+  host.factories = {.MaakProcedureTrace =
+                        [open](std::string_view control) {
+                          return std::make_shared<dossier::StoreTrace>(control, open->Bewerkingen(), nullptr);
+                        },
                     .MaakDossierControle = [](std::string_view) { return MakeControle(); }};
+  host.failNextWrite = [open](const host::Error& error) { open->journal->next.emplace(error); };
   host.lastReport = [last] { return last->record; };
-  host.reopen = [open] { return open->Open(); };
+  host.reopen = [open] { return open->Reopen(); };
   host.keeps = open;
   return host;
 }

@@ -27,6 +27,13 @@ TEST(GelijkInSingle, ComparesAsSinglePrecisionDoes) {
   const double teGroot = std::numeric_limits<double>::max();
   EXPECT_FALSE(GelijkInSingle(teGroot, teGroot));
   EXPECT_FALSE(GelijkInSingle(1, -teGroot));
+  // The largest number of single precision is in it, and the next double is not.
+  const double grootste = static_cast<double>(std::numeric_limits<float>::max());
+  const double daarboven = std::nextafter(grootste, teGroot);
+  EXPECT_TRUE(GelijkInSingle(grootste, grootste));
+  EXPECT_TRUE(GelijkInSingle(-grootste, -grootste));
+  EXPECT_FALSE(GelijkInSingle(grootste, daarboven));
+  EXPECT_FALSE(GelijkInSingle(daarboven, grootste));
 }
 
 TEST(ZoalsIngevoerd, RoundsOnlyWhereStoringGivesTheSameNumber) {

@@ -104,5 +104,14 @@ TEST(LaadGroei, UndoesTheRoundingOfStoringButLeavesDerivedPercentages) {
   EXPECT_EQ(LaadGroei(2, std::vector<Groeipost>{{1, drieZeven}, {13, derde}}), (Reeks{3.7, derde}));
 }
 
+TEST(Rijen, BeginEmpty) {
+  EXPECT_EQ(Bedragrij{}, (Bedragrij{0, false}));
+  EXPECT_EQ(Renterij{}, (Renterij{0, 0}));
+  const RelatievePost post;
+  EXPECT_EQ(post.maand, 0);
+  EXPECT_EQ(post.percentage, 0);
+  EXPECT_EQ(post.korting, 0);
+}
+
 }  // namespace
 }  // namespace brivane::scenario

@@ -117,5 +117,11 @@ TEST(BewaarGroei, TakesTheRowsThatDifferFromTheRowAboveAndTheFirstFromZero) {
   EXPECT_EQ(Bewaard({.percentages = {0, 0}}), Groeiposten{});
 }
 
+TEST(Posten, BeginEmpty) {
+  EXPECT_EQ(Bedragpost{}, (Bedragpost{0, 0, false}));
+  EXPECT_EQ(Rentepost{}, (Rentepost{0, 0, 0}));
+  EXPECT_EQ(Groeipost{}, (Groeipost{0, 0}));
+}
+
 }  // namespace
 }  // namespace brivane::scenario

@@ -264,6 +264,7 @@ TEST_F(Rooster, EachBoxNamesItsRowAndWhatItIs) {
   Open(1, 7);
   EXPECT_EQ(Zoek("txtBedrag", 7)->AccessibleName(), "Bedrag jaar 7");
   EXPECT_EQ(Zoek("chkEenmalig", 2)->AccessibleName(), "Op jaarbasis jaar 2");
+  EXPECT_EQ(Zoek("Hint", 4)->AccessibleName(), "Hulp bij op jaarbasis jaar 4");
   Nieuw();
   Open(2, 3, {.korting = true});
   EXPECT_EQ(Zoek("txtPercentage", 3)->AccessibleName(), "Percentage jaar 3");

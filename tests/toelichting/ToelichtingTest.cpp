@@ -2,6 +2,8 @@
 
 #include "tests/toelichting/ToelichtingTest.h"
 
+#include <array>
+
 namespace brivane::test {
 
 namespace {
@@ -167,6 +169,18 @@ TEST_F(ToelichtingBindingTest, HoldsCountedReferencesUntilItGoes) {
   EXPECT_FALSE(kolom.expired());
   control_.reset();
   EXPECT_TRUE(kolom.expired());
+}
+
+TEST_F(ToelichtingBindingTest, LetsGoOfEverythingOfTheHostWhenItIsUnbound) {
+  const auto held = [this] {
+    return std::array{host_.application.use_count(), host_.application->dossier.use_count(),
+                      host_.dossier.huidig.use_count(), host_.dossier.huidig->kolommen.front().use_count()};
+  };
+  const auto before = held();
+  Bind();
+  EXPECT_NE(held(), before);
+  control_->Unbind();
+  EXPECT_EQ(held(), before);
 }
 
 TEST_F(ToelichtingBindingTest, ASurfaceThatOutlivesTheControlCallsNothing) {

@@ -1,5 +1,7 @@
 // Binding the editor to a free column and filling it.
 
+#include <array>
+
 #include "tests/vrijekolom/EditorTest.h"
 
 namespace brivane::test {
@@ -349,6 +351,19 @@ TEST_F(LoadingTest, ReleasesTheOldReferencesOnABindingAnew) {
   EXPECT_FALSE(first.expired());
   Bind(0, 2);
   EXPECT_TRUE(first.expired());
+}
+
+TEST_F(LoadingTest, LetsGoOfEverythingOfTheHostWhenItIsUnbound) {
+  const auto held = [this] {
+    return std::array{host_.application.use_count(), host_.application->dossier.use_count(),
+                      host_.dossier.huidig.use_count(), host_.dossier.huidig->kolommen.front().use_count()};
+  };
+  const auto before = held();
+  Bind();
+  EXPECT_NE(held(), before);
+  editor_->Unbind();
+  EXPECT_EQ(held(), before);
+  EXPECT_FALSE(editor_->Gewijzigd());
 }
 
 TEST_F(LoadingTest, ClearsTheMarkForAnotherColumnAndKeepsItForTheSame) {

@@ -12,7 +12,7 @@ namespace brivane::controls {
 namespace {
 
 template <class Value> TypedContent FromReading(const frame::Reading<Value>& reading) {
-  if (reading.IsRefused()) return {{}, reading.Reason()};
+  if (reading.IsRefused()) return {{}, reading.Why()};
   if (reading.IsEmpty()) return {};
   if constexpr (std::is_same_v<Value, std::int32_t>) {
     return {static_cast<double>(*reading), {}};

@@ -18,7 +18,11 @@ class BRIVANE_API KeysUnderWay {
   /// Times are on any one clock; `shown` is when the box came up.
   KeysUnderWay(std::chrono::milliseconds pause, std::chrono::milliseconds shown) : pause_(pause), last_(shown) {}
 
-  enum class Press { First, Repeat };
+  /// How a key goes down.
+  enum class Press {
+    First,   ///< somebody pressed it
+    Repeat,  ///< it is held down
+  };
 
   /// Whether a key that goes down at this time is meant for the box.
   [[nodiscard]] bool IsMeant(std::chrono::milliseconds at, Press press) {

@@ -12,11 +12,10 @@
 namespace brivane::controls {
 
 using frame::Format;
+using frame::Phrase;
+using frame::TextId;
 
 namespace {
-
-constexpr char kNotStored[] = "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.";
-constexpr char kNotTaken[] = "Niet overgenomen";
 
 /// The box that an end date counts from, on its surface or on one around it.
 const TextBox* StartOf(const TextBox& box) {
@@ -72,14 +71,14 @@ DateOrigin PendingEdit::Origin() const {
 
 void PendingEdit::ShowNote() {
   const std::string typed = face_.Text();
-  const std::string note = NoteOf(typed, Read(typed), format_);
+  const std::string note = NoteOf(typed, Read(typed), format_).In(face_.Texts());
   if (note.empty()) return HideReason();
   if (note != std::exchange(note_, note)) face_.ShowNote(note);
 }
 
-void PendingEdit::ShowReason(const std::string& reason) {
+void PendingEdit::ShowReason(const Phrase& reason) {
   note_.clear();
-  face_.ShowReason(reason);
+  face_.ShowReason(reason.In(face_.Texts()));
 }
 
 void PendingEdit::HideReason() {
@@ -94,7 +93,7 @@ void PendingEdit::ShowContent() {
 void PendingEdit::ShowText(const std::string& text) {
   End();
   HideReason();
-  refusal_.clear();
+  refusal_ = {};
   shown_ = text;
   if (face_.Text() == text) return;
   face_.ShowText(text);
@@ -107,7 +106,7 @@ void PendingEdit::End() {
 }
 
 void PendingEdit::Typed() {
-  refusal_.clear();
+  refusal_ = {};
   if (!std::exchange(pending_, true) && box_ != nullptr) {
     standing_ = box_->Content();
     box_->MarkEdited();
@@ -176,10 +175,10 @@ bool PendingEdit::Commit() {
   committing_ = false;
   // Where what was going on was abandoned, nobody is told anything.
   if (!toolkit_->Life()->Ended()) {
-    if (outcome == Outcome::Refused) return Refuse({});
+    if (outcome == Outcome::Refused) return Refuse(Phrase());
     if (failures.Seen()) {
       box_->MarkEdited();
-      return Refuse(kNotStored);
+      return Refuse(TextId::NotStored);
     }
   }
   ShowContent();
@@ -200,12 +199,15 @@ bool PendingEdit::HandOver() {
 bool PendingEdit::AskToDrop() {
   if (toolkit_ == nullptr) return false;
   const std::string name(box_->AccessibleName());
-  std::string question = "In " + (name.empty() ? "een vak" : "het vak \"" + name + '"') + " staat nog \"" +
-                         face_.Text() + "\". Dat is niet overgenomen, en het vak is nu niet te bereiken.";
-  if (!refusal_.empty()) question += "\r\n\r\n" + refusal_;
-  question += "\r\n\r\nWilt u wat daar getypt is laten vervallen?";
+  const Phrase left =
+      name.empty() ? Phrase(TextId::LeftInSomeBox, {face_.Text()}) : Phrase(TextId::LeftInBox, {name, face_.Text()});
+  const frame::Texts& texts = face_.Texts();
+  std::string question = left.In(texts);
+  if (!refusal_.empty()) question += "\r\n\r\n" + refusal_.In(texts);
+  question += "\r\n\r\n" + texts.Of(TextId::DropQuestion);
   const auto life = Life();
-  const bool drop = toolkit_->Ask(kNotTaken, question, host::MessageStyle::YesNoQuestion) == host::MessageAnswer::Yes;
+  const bool drop = toolkit_->Ask(texts.Of(TextId::NotTaken), question, host::MessageStyle::YesNoQuestion) ==
+                    host::MessageAnswer::Yes;
   if (drop && !life.expired()) Restore();
   return drop;
 }
@@ -219,7 +221,7 @@ void PendingEdit::Shown() {
     ShowReason(refusal_);
 }
 
-bool PendingEdit::Refuse(const std::string& reason) {
+bool PendingEdit::Refuse(const Phrase& reason) {
   refusal_ = reason;
   if (!face_.IsAtHand()) return false;
   const auto life = Life();

@@ -8,6 +8,7 @@
 #include <brivane/controls/Action.h>
 #include <brivane/controls/entry/Typing.h>
 #include <brivane/frame/Design.h>
+#include <brivane/frame/Phrase.h>
 #include <brivane/host/Export.h>
 
 namespace brivane::controls {
@@ -26,12 +27,18 @@ class BRIVANE_API EntryFace {
   virtual void ShowText(const std::string& text) = 0;
   /// Puts a text where the cursor stands, in place of what is selected.
   virtual void InsertText(const std::string& text) = 0;
+  /// Selects the whole text.
   virtual void SelectAll() = 0;
+  /// Whether keys go to the box.
   [[nodiscard]] virtual bool HasFocus() const = 0;
+  /// Moves the input focus into the box, and shows where that is.
   virtual void TakeFocus() = 0;
+  /// Whether a person cannot type in it: the control is locked.
   [[nodiscard]] virtual bool ReadOnly() const = 0;
   /// Whether a person can get at the box now: it is on the screen, and nothing around it is disabled.
   [[nodiscard]] virtual bool IsAtHand() const = 0;
+  /// The texts of what is said beside the box; Dutch where a toolkit knows no other.
+  [[nodiscard]] virtual const frame::Texts& Texts() const { return frame::Texts::In(frame::Language::Dutch); }
   /// Says beside the box why a text was refused, in place of an earlier reason.
   virtual void ShowReason(const std::string& reason) = 0;
   /// Says there, less loudly, what the box makes of what is being typed; a toolkit may leave it unsaid.
@@ -55,6 +62,7 @@ class BRIVANE_API EntryFace {
 ///     if (!edit.Commit()) return;           // before the focus goes: refused, it stays
 class BRIVANE_API PendingEdit {
  public:
+  /// Of no control and no format yet. The face outlives it.
   explicit PendingEdit(EntryFace& face) : face_(face) {}
   PendingEdit(const PendingEdit&) = delete;
   PendingEdit& operator=(const PendingEdit&) = delete;
@@ -72,6 +80,7 @@ class BRIVANE_API PendingEdit {
   [[nodiscard]] TypedContent Read(std::string_view typed) const;
   /// The box that is typed in; nothing where it is no control's.
   [[nodiscard]] TextBox* Box() const { return box_; }
+  /// What it reads what is typed as.
   [[nodiscard]] frame::Format Format() const { return format_; }
   /// Expires with the edit.
   [[nodiscard]] std::weak_ptr<const char> Life() const { return life_; }
@@ -120,9 +129,9 @@ class BRIVANE_API PendingEdit {
   [[nodiscard]] bool CanBeTaken() const;
   [[nodiscard]] DateOrigin Origin() const;
   void ShowNote();
-  void ShowReason(const std::string& reason);
+  void ShowReason(const frame::Phrase& reason);
   void HideReason();
-  bool Refuse(const std::string& reason);
+  bool Refuse(const frame::Phrase& reason);
   bool AskToDrop();
   void Insert(const std::string& text);
   void PasteColumn(std::string_view text);
@@ -134,10 +143,10 @@ class BRIVANE_API PendingEdit {
   frame::Format format_ = frame::Format::Text;
   Reader reader_;
   Clock clock_;
-  std::string shown_;    ///< what stood there before the typing
-  BoxValue standing_;    ///< the same as content, of a control
-  std::string refusal_;  ///< why what is pending was refused
-  std::string note_;     ///< shown beside the box
+  std::string shown_;      ///< what stood there before the typing
+  BoxValue standing_;      ///< the same as content, of a control
+  frame::Phrase refusal_;  ///< why what is pending was refused
+  std::string note_;       ///< shown beside the box
   bool pending_ = false;
   bool committing_ = false;
   std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');

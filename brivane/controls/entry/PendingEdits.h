@@ -17,8 +17,11 @@ class Surface;
 /// Anything may end while something is handed over, the toolkit too.
 class BRIVANE_API PendingEdits {
  public:
+  /// For the edit itself, when something is typed, and when that is handed over or it ends.
+  /// @{
   void Add(PendingEdit& edit) { edits_.push_back(&edit); }
   void Remove(PendingEdit& edit) { std::erase(edits_, &edit); }
+  /// @}
 
   /// The edits in boxes of a surface or of one that stands on it.
   [[nodiscard]] std::vector<PendingEdit*> On(const Surface& surface) const;

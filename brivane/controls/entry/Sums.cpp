@@ -11,6 +11,7 @@ namespace brivane::controls {
 
 namespace {
 
+using frame::TextId;
 using Number = frame::Reading<double>;
 
 constexpr double kTooLarge = 1e12;
@@ -55,7 +56,7 @@ class Reckoner {
       const Sign* const sign = SignAt(rest_);
       if (sign == nullptr || (sign->means != '+' && sign->means != '-')) return Unreadable();
       Take(*sign);
-      const Number next = Product(false);
+      Number next = Product(false);
       if (next.IsRefused()) return next;
       sum = sign->means == '+' ? *sum + *next : *sum - *next;
     }
@@ -71,9 +72,9 @@ class Reckoner {
       if (sign == nullptr || (sign->means != '*' && sign->means != '/')) break;
       Take(*sign);
       const bool minus = Negated();
-      const Number next = Operand();
+      Number next = Operand();
       if (next.IsRefused()) return next;
-      if (sign->means == '/' && *next == 0) return Number::Refuse("Delen door nul kan niet.");
+      if (sign->means == '/' && *next == 0) return Number::Refuse(TextId::DivideByZero);
       const double factor = minus ? -*next : *next;
       product = sign->means == '*' ? *product * factor : *product / factor;
     }
@@ -113,8 +114,8 @@ class Reckoner {
 
   [[nodiscard]] Number Unreadable() {
     if (!after_.empty() && (Rest().empty() || SignAt(rest_) != nullptr))
-      return Number::Refuse("Achter \"" + std::string(after_) + "\" hoort een getal.");
-    return Number::Refuse("Deze som is niet te lezen. Typ bijvoorbeeld 10+5 of 1200/12.");
+      return Number::Refuse({TextId::NumberAfterSign, {after_}});
+    return Number::Refuse(TextId::UnreadableSum);
   }
 
   std::string_view rest_;
@@ -141,11 +142,11 @@ bool IsSum(std::string_view text) {
 
 Number ReadSum(std::string_view text, frame::Format format) {
   text = frame::Trim(text);
-  if (IsWholeDate(text)) return Number::Refuse("Dit is een datum. Vul een getal in.");
-  const Number outcome = Reckoner(text).Reckon();
+  if (IsWholeDate(text)) return Number::Refuse(TextId::DateForNumber);
+  Number outcome = Reckoner(text).Reckon();
   if (outcome.IsRefused()) return outcome;
   const double meant = Meant(*outcome);
-  if (!(std::abs(meant) < kTooLarge)) return Number::Refuse("De uitkomst van deze som is te groot.");
+  if (!(std::abs(meant) < kTooLarge)) return Number::Refuse(TextId::SumTooLarge);
   const bool amount = format == frame::Format::Amount;
   return amount ? frame::ReadAmount(frame::ShowAmount(meant)) : frame::ReadNumber(frame::ShowNumber(meant));
 }

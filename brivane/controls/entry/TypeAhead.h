@@ -18,6 +18,7 @@ namespace brivane::controls {
 ///     shown = typed.Type(entries, shown, "p", now);
 class BRIVANE_API TypeAhead {
  public:
+  /// How long after a character the next one goes on with it.
   static constexpr std::chrono::milliseconds kTogether{1000};
 
   /// The entry to go to after one more character, which is UTF-8; `current` where none begins that way. Both from 0,
@@ -26,6 +27,7 @@ class BRIVANE_API TypeAhead {
                          std::chrono::milliseconds at);
   /// Whether a character at this time goes on with a beginning; a blank is then part of it.
   [[nodiscard]] bool GoesOn(std::chrono::milliseconds at) const { return !typed_.empty() && at - last_ <= kTogether; }
+  /// The next character begins anew.
   void Forget() { typed_.clear(); }
 
  private:

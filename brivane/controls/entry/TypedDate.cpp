@@ -67,13 +67,12 @@ bool IsTypable(host::Date date) {
 }
 
 Day After(const DateOrigin::Start& start, std::string_view typed, std::int64_t months) {
-  if (start.date.IsNone())
-    return Day::Refuse('"' + std::string(typed) + "\" telt vanaf \"" + start.name + "\", en daar staat geen datum.");
+  if (start.date.IsNone()) return Day::Refuse({frame::TextId::NoStart, {typed, start.name}});
   const frame::YearMonthDay from = frame::Split(start.date);
   // No later than the calendar's last year, which the day of the month cannot lead past.
   if ((static_cast<std::int64_t>(from.year) * kMonthsInYear + from.month - 1 + months) / kMonthsInYear >
       frame::Split(frame::kLastDay).year)
-    return Day::Refuse('"' + std::string(typed) + "\" eindigt na het jaar 9999.");
+    return Day::Refuse({frame::TextId::PastCalendar, {typed}});
   return frame::AddMonths(start.date, months);
 }
 

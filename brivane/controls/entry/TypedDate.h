@@ -15,11 +15,11 @@ namespace brivane::controls {
 struct DateOrigin {
   /// Where an end date counts from: the date of another box, and what that box is called.
   struct Start {
-    std::string name;
-    host::Date date;
+    std::string name;  ///< for a refusal, in Dutch
+    host::Date date;   ///< may be no date, and then nothing can be counted from it
   };
 
-  host::Date today;
+  host::Date today;                 ///< of the machine
   std::optional<Start> start = {};  ///< of an end date
 };
 
@@ -30,7 +30,15 @@ struct DateOrigin {
 /// Whether a hyphen goes on with what is being typed, and is no step: "1" and "1-4" have no year yet.
 [[nodiscard]] BRIVANE_API bool GoesOnWithHyphen(std::string_view typed);
 
-enum class DateStep { DayBack, Day, MonthBack, Month, YearBack, Year };
+/// A step of a date by a key.
+enum class DateStep {
+  DayBack,    ///< one day back
+  Day,        ///< one day on
+  MonthBack,  ///< one month back
+  Month,      ///< one month on
+  YearBack,   ///< one year back
+  Year,       ///< one year on
+};
 
 /// The day one step from another one; the last of a shorter month. Past what may be typed it stays where it is.
 [[nodiscard]] BRIVANE_API host::Date StepFrom(host::Date date, DateStep step);

@@ -7,7 +7,7 @@ namespace brivane::controls {
 namespace {
 
 template <class Value> TypedContent ContentOf(const frame::Reading<Value>& reading) {
-  if (reading.IsRefused()) return {.refusal = reading.Reason()};
+  if (reading.IsRefused()) return {.refusal = reading.Why()};
   return reading.IsEmpty() ? TypedContent() : TypedContent{.value = *reading};
 }
 
@@ -22,12 +22,12 @@ TypedContent ReadTyped(std::string_view typed, frame::Format format, const DateO
   return ContentOf(ReadSum(typed, format));
 }
 
-std::string NoteOf(std::string_view typed, const TypedContent& content, frame::Format format) {
+frame::Phrase NoteOf(std::string_view typed, const TypedContent& content, frame::Format format) {
   if (!content.refusal.empty()) return {};
-  if (const auto* date = std::get_if<host::Date>(&content.value)) return frame::ShowDateInWords(*date);
+  if (const auto* date = std::get_if<host::Date>(&content.value)) return frame::DateInWords(*date);
   const bool inFigures = typed.find_first_of("0123456789") != std::string_view::npos;
   const bool reckoned = !typed.empty() && (!inFigures || !ReadContent(typed, format).refusal.empty());
-  return HasDecimals(format) && reckoned ? "= " + ShowContent(content.value, format) : std::string();
+  return HasDecimals(format) && reckoned ? frame::Phrase("= " + ShowContent(content.value, format)) : frame::Phrase();
 }
 
 }  // namespace brivane::controls

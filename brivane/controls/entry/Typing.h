@@ -1,6 +1,5 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include <brivane/controls/entry/Content.h>
@@ -16,6 +15,7 @@ namespace brivane::controls {
 
 /// What a box says beside it of what it makes of a text: "= 15,00", "dinsdag 1 april 2031". Empty where there is
 /// nothing to say that the text does not.
-[[nodiscard]] BRIVANE_API std::string NoteOf(std::string_view typed, const TypedContent& content, frame::Format format);
+[[nodiscard]] BRIVANE_API frame::Phrase NoteOf(std::string_view typed, const TypedContent& content,
+                                               frame::Format format);
 
 }  // namespace brivane::controls

@@ -25,14 +25,17 @@ namespace brivane::controls {
 /// by identity. What the host hands out on being asked stands behind one of these too; the host is given its own back.
 class BRIVANE_API HeldHost {
  public:
+  /// Lets go of everything when that life ends.
   explicit HeldHost(std::shared_ptr<Life> life);
   HeldHost(const HeldHost&) = delete;
   HeldHost& operator=(const HeldHost&) = delete;
   ~HeldHost();
 
+  /// Factories whose objects stand behind others; a factory that is not there stays so.
   [[nodiscard]] host::HostFactories Hold(host::HostFactories factories);
   /// Nothing for nothing. The application that was given last is known again, also when the control had none meanwhile.
   [[nodiscard]] std::shared_ptr<host::Application> Hold(const std::shared_ptr<host::Application>& application);
+  /// Nothing for nothing.
   [[nodiscard]] std::shared_ptr<host::Lening> Hold(const std::shared_ptr<host::Lening>& lening);
   /// After a binding: lets go of an application that the control holds no more.
   void Rest();
@@ -51,9 +54,11 @@ class BRIVANE_API HeldHost {
 };
 
 /// The host's own object behind one that a control holds; any other object as it is.
+/// @{
 [[nodiscard]] BRIVANE_API std::shared_ptr<host::VrijeKolomItem> HostsOwn(
     const std::shared_ptr<host::VrijeKolomItem>& item);
 [[nodiscard]] BRIVANE_API std::shared_ptr<host::BedragObject> HostsOwn(
     const std::shared_ptr<host::BedragObject>& bedrag);
+/// @}
 
 }  // namespace brivane::controls

@@ -60,6 +60,7 @@ class BRIVANE_API Life {
   /// Something of the control is running, and what it runs on stays.
   class [[nodiscard]] Call {
    public:
+    /// Holds the life; one that has ended may be given, and what is run must ask Ended.
     explicit Call(std::shared_ptr<Life> life)
         : life_(std::move(life)), around_(std::exchange(life_->running_, life_->turn_)) {
       ++life_->calls_;
@@ -77,6 +78,7 @@ class BRIVANE_API Life {
   /// must not fail, and is never asked twice.
   class [[nodiscard]] AtEnd {
    public:
+    /// `close` runs at most once; the life outlives this.
     AtEnd(Life& life, std::function<void()> close) : life_(life), close_(std::move(close)) {
       life_.open_.push_back(this);
     }

@@ -4,9 +4,10 @@
 
 namespace brivane::host {
 
+/// A push button.
 class Button : public Captioned {
  public:
-  /// A person pressed the button.
+  /// A person pressed the button, with the mouse, a key or its mnemonic; code has no way to.
   Event<> Click;
 };
 

@@ -5,12 +5,15 @@
 namespace brivane::host {
 
 /// The two values of a check box.
-inline constexpr int kUnticked = 0;
+/// @{
+inline constexpr int kUnticked = 0;  ///< as designed
 inline constexpr int kTicked = 1;
+/// @}
 
+/// A box to tick, with its caption. There is no third state.
 class CheckBox : public Captioned {
  public:
-  /// kUnticked or kTicked.
+  /// kUnticked or kTicked. Writing another value than it has raises Click, before the setter returns.
   [[nodiscard]] virtual int Value() const = 0;
   virtual void SetValue(int value) = 0;
 

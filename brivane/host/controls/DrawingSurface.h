@@ -10,6 +10,7 @@ namespace brivane::host {
 class DrawingSurface {
  public:
   virtual ~DrawingSurface() = default;
+  /// Whether its font is bold while it measures; who sets it puts it back.
   [[nodiscard]] virtual bool FontBold() const = 0;
   virtual void SetFontBold(bool bold) = 0;
   /// Width of a UTF-8 text in the surface's font.

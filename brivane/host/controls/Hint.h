@@ -9,6 +9,7 @@ namespace brivane::host {
 /// The host's help icon: shows a fixed text on hover, focus and click.
 class Hint : public Control {
  public:
+  /// The text, as its design has it; UTF-8.
   [[nodiscard]] virtual std::string HelpText() const = 0;
 };
 

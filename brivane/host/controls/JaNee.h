@@ -5,13 +5,15 @@
 namespace brivane::host {
 
 /// The two values of a yes/no toggle.
+/// @{
 inline constexpr int kNee = 1;
 inline constexpr int kJa = 2;
+/// @}
 
 /// The host's yes/no toggle. A new one stands at "Nee".
 class JaNee : public Control {
  public:
-  /// kNee or kJa.
+  /// kNee or kJa. Writing another value than it has raises Change, before the setter returns.
   [[nodiscard]] virtual int Value() const = 0;
   virtual void SetValue(int value) = 0;
 

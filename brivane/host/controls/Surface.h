@@ -15,7 +15,8 @@ namespace brivane::host {
 /// A surface is itself a control where it is embedded in another one.
 class Surface : public Control, public DrawingSurface {
  public:
-  /// The control of a row of the design table. A control array has a row for each designed element.
+  /// The control of a row of the design table, counted from 0; it lives as long as the surface. A control array has a
+  /// row for each designed element.
   [[nodiscard]] virtual Control& At(std::size_t row) = 0;
   /// Every control on the surface in the order of creation, those inside frames too; of an embedded
   /// surface, the surface itself and not what is on it.

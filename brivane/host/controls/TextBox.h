@@ -14,15 +14,21 @@ namespace brivane::host {
 /// no date. Writing by code raises nothing.
 class TextBox : public Control {
  public:
+  /// The content as a text, a number or a date; a number box has its amount or percentage in double precision.
+  /// @{
   [[nodiscard]] virtual std::string Text() const = 0;
   [[nodiscard]] virtual double Number() const = 0;
   [[nodiscard]] virtual Date DateValue() const = 0;
+  /// @}
 
+  /// Writes a text, in UTF-8.
   virtual void SetText(const std::string& text) = 0;
   /// For number boxes; 0 empties a date box.
   virtual void SetNumber(double number) = 0;
+  /// For date boxes; host::kNoDate empties it.
   virtual void SetDate(Date date) = 0;
 
+  /// Whether it is written by code alone: a person can read and copy what stands in it.
   [[nodiscard]] virtual bool Locked() const = 0;
   virtual void SetLocked(bool locked) = 0;
 

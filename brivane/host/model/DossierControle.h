@@ -12,7 +12,9 @@ class DossierControle {
  public:
   virtual ~DossierControle() = default;
 
-  /// The host's own check of the loan file. The component always passes 1.
+  /// The host's own check of the loan file, with the application that the editor is bound to. The component always
+  /// passes 1. Called last in a complete check of a column of any loan, also after a refusal. What it throws is
+  /// reported.
   virtual void Controleer(const std::shared_ptr<Application>& application, std::int16_t soort) = 0;
 };
 

@@ -23,48 +23,54 @@ template <class Record> struct AnyField {
 /// A field that is read and written. `Values` holds the fields of the record as plain values; `Given` is how the
 /// setter is handed the value.
 template <class Record, class Values, class T, class Given> struct Field : AnyField<Record> {
-  using Value = T;
+  using Value = T;  ///< what it holds
 
+  /// Its name, its place among the values, and its two functions; the place in the table is told by FieldTable.
   constexpr Field(std::string_view name_, T Values::*value_, T (Record::*get_)() const, void (Record::*set_)(Given))
       : AnyField<Record>{name_, 0}, value(value_), get(get_), set(set_) {}
 
+  /// Asks the record; what the record throws goes on to the caller.
   [[nodiscard]] T Read(const Record& record) const { return (record.*get)(); }
 
-  T Values::*value;
-  T (Record::*get)() const;
-  void (Record::*set)(Given);
+  T Values::*value;            ///< where the plain values have it
+  T (Record::*get)() const;    ///< the record's getter
+  void (Record::*set)(Given);  ///< the record's setter
 };
 
 /// A field that is read and never written.
 template <class Record, class Values, class T> struct ReadOnlyField : AnyField<Record> {
-  using Value = T;
+  using Value = T;  ///< what it holds
 
+  /// Its name, its place among the values, and its getter.
   constexpr ReadOnlyField(std::string_view name_, T Values::*value_, T (Record::*get_)() const)
       : AnyField<Record>{name_, 0}, value(value_), get(get_) {}
 
+  /// Asks the record; what the record throws goes on to the caller.
   [[nodiscard]] T Read(const Record& record) const { return (record.*get)(); }
 
-  T Values::*value;
-  T (Record::*get)() const;
+  T Values::*value;          ///< where the plain values have it
+  T (Record::*get)() const;  ///< the record's getter
 };
 
 /// A field that has a value for each number from 1 to `count`.
 template <class Record, class Values, class T, class Given, std::size_t count> struct NumberedField : AnyField<Record> {
-  using Value = std::array<T, count>;
+  using Value = std::array<T, count>;  ///< that of number 1 first
 
+  /// Its name, its place among the values, and its two functions.
   constexpr NumberedField(std::string_view name_, Value Values::*value_, T (Record::*get_)(std::int16_t) const,
                           void (Record::*set_)(std::int16_t, Given))
       : AnyField<Record>{name_, 0}, value(value_), get(get_), set(set_) {}
 
+  /// Asks the record for each number in turn.
   [[nodiscard]] Value Read(const Record& record) const {
     Value values;
     for (std::size_t i = 0; i < count; ++i) values[i] = (record.*get)(static_cast<std::int16_t>(i + 1));
     return values;
   }
 
-  Value Values::*value;
-  T (Record::*get)(std::int16_t) const;
-  void (Record::*set)(std::int16_t, Given);
+  Value Values::*value;                      ///< where the plain values have them
+  T (Record::*get)(std::int16_t) const;      ///< the record's getter, given a number
+  void (Record::*set)(std::int16_t, Given);  ///< the record's setter, given a number
 };
 
 /// A table of fields, each told its place.

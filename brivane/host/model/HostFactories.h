@@ -13,7 +13,10 @@ namespace brivane::host {
 /// is told the name of the asking control ("VrijeKolom" or "Toelichting"); the object is kept for
 /// the life of the control. A factory that answers nothing makes the using procedure fail with error 91.
 struct HostFactories {
+  /// Asked by each of the two controls at the first procedure that it runs, which is while it is made; anew after
+  /// Unbind.
   std::function<std::shared_ptr<ProcedureTrace>(std::string_view control)> MaakProcedureTrace;
+  /// Asked by the editor at its first complete check; GeenDossierControle is for a host that has none.
   std::function<std::shared_ptr<DossierControle>(std::string_view control)> MaakDossierControle;
 };
 

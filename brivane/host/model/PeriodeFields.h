@@ -7,11 +7,14 @@ namespace brivane::host {
 
 /// The fields of a period entry as plain values.
 struct PeriodeValues {
+  /// As the function of this name in Periode.
+  /// @{
   std::int16_t Maand = 0;
   double Bedrag = 0;
   double Percentage = 0;
   double Korting = 0;
   bool Eenmalig = false;
+  /// @}
 
   friend bool operator==(const PeriodeValues&, const PeriodeValues&) = default;
 };

@@ -12,6 +12,8 @@ namespace brivane::host {
 
 /// The fields of a free column as plain values. The defaults are a valid recurring cost of the applicant.
 struct VrijeKolomValues {
+  /// As the function of this name in VrijeKolomItem.
+  /// @{
   std::int16_t Id = 1;
   std::int16_t CorrectieLast = 1;
   std::int16_t CorrectieFiscaal = 1;
@@ -40,6 +42,7 @@ struct VrijeKolomValues {
   float PercentageOvergang = 0;
   Date EinddatumOvergang;
   std::int16_t EindleeftijdOvergang = 0;
+  /// @}
 
   friend bool operator==(const VrijeKolomValues&, const VrijeKolomValues&) = default;
 };

@@ -16,11 +16,14 @@
 /// A check that the host says it cannot do is a test that is skipped.
 namespace brivane::hostkit {
 
+/// One check as a test; RegisterHostTests makes them.
 class HostTest : public testing::Test {
  public:
+  /// The check of that name, spelled exactly.
   HostTest(HostFactory factory, Options options, std::string check)
       : factory_(std::move(factory)), options_(std::move(options)), check_(std::move(check)) {}
 
+  /// Fails once for each finding.
   void TestBody() override {
     const Report report = Check(factory_, options_, check_);
     for (const Finding& finding : report.findings) ADD_FAILURE() << Text(finding);

@@ -30,6 +30,7 @@ class BRIVANE_API AccessLedger {
 
   /// Accesses so far, the failed ones included.
   [[nodiscard]] std::uint64_t Accesses() const { return accesses_; }
+  /// How often a member was accessed in that way.
   [[nodiscard]] std::uint32_t Count(Member member, Op op) const;
   /// Faults that have struck so far.
   [[nodiscard]] std::uint32_t Struck() const { return struck_; }

@@ -21,11 +21,16 @@ namespace brivane::hostkit {
 /// compared by identity. The listener must outlive everything that the host handed out.
 class BRIVANE_API InstrumentedHost {
  public:
+  /// Stands before these, and holds them as long as it lives.
   InstrumentedHost(std::shared_ptr<host::Application> application, host::HostFactories factories,
                    HostListener& listener);
 
+  /// These are given to the controls in place of the inner host's own.
+  /// @{
   [[nodiscard]] const std::shared_ptr<host::Application>& Application() const { return application_; }
   [[nodiscard]] const host::HostFactories& Factories() const { return factories_; }
+  /// @}
+  /// What counts the accesses, and makes them fail; it lives as long as anything that the host handed out.
   [[nodiscard]] AccessLedger& Ledger();
 
   /// The stand-in of an amount object of the inner host. Not counted.
@@ -41,9 +46,11 @@ class BRIVANE_API InstrumentedHost {
 
 /// What a stand-in stands for: the record of the inner host, and nothing for an object that is no stand-in.
 /// For dumps, which must neither count nor print.
+/// @{
 [[nodiscard]] BRIVANE_API std::shared_ptr<host::VrijeKolomItem> InnerOf(
     const std::shared_ptr<host::VrijeKolomItem>& standIn);
 [[nodiscard]] BRIVANE_API std::shared_ptr<host::BedragObject> InnerOf(
     const std::shared_ptr<host::BedragObject>& standIn);
+/// @}
 
 }  // namespace brivane::hostkit

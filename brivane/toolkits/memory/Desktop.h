@@ -20,9 +20,13 @@ class BRIVANE_API Desktop final : public host::Desktop {
 
   /// Today's date, when set; else the system's.
   host::Date today = host::kNoDate;
+  /// What ApplicationTitle answers; UTF-8.
   std::string title = "Dossier";
+  /// The resolution, for the surfaces that are made from then on.
+  /// @{
   float twipsPerPixelX = host::kTwipsPerPixel;
   float twipsPerPixelY = host::kTwipsPerPixel;
+  /// @}
   /// Separates groups of three digits in a whole number.
   std::string groupSeparator = ".";
   /// Answers a message box; without it, "Nee" to a question and OK to everything else.

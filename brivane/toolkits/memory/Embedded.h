@@ -21,6 +21,8 @@ namespace brivane::memory {
 ///     auto editor = std::make_unique<memory::Embedded<VrijeKolom>>(vrijekolom::kOntwerp, factories);
 ///     editor->SetApplication(application, 0, 1);
 ///     editor->Surface().Find("TxtOm")->Perform(controls::Enter{"Krant"});
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 template <class Control> class Embedded {
  public:
   /// `prepare` sets the toolkit up before anything is made of the design.
@@ -43,13 +45,17 @@ template <class Control> class Embedded {
     life->End(std::move(body_));
   }
 
+  /// What it runs on, for as long as it lives: the machine is set there.
   [[nodiscard]] memory::Toolkit& Toolkit() { return body_->toolkit; }
+  /// Where a person acts: its controls by name.
   [[nodiscard]] controls::Surface& Surface() { return controls::Surface::Of(*body_->surface); }
   /// The control itself, for its events and its state. What it does is asked of it here.
   [[nodiscard]] Control& Get() { return *body_->control; }
 
   /// These bind the control, as its own SetApplication does, and say what became of it. A control that could not be
-  /// bound takes no actions until it is. Without an application it also lets go of the host, as Unbind does.
+  /// bound takes no actions until it is. Without an application it also lets go of the host, as Unbind does. The first
+  /// is the editor's, the second the explanation control's.
+  /// @{
   controls::BindingResult SetApplication(const std::shared_ptr<host::Application>& application, std::int16_t Len_Id,
                                          std::int16_t Vrij_Id) {
     return Bind([&](Body& body) { body.control->SetApplication(body.host.Hold(application), Len_Id, Vrij_Id); },
@@ -65,6 +71,7 @@ template <class Control> class Embedded {
         },
         application == nullptr);
   }
+  /// @}
   /// What the control stands for.
   [[nodiscard]] controls::BindingState State() const { return body_->binding->State(); }
   /// Lets go of every object of the host's.

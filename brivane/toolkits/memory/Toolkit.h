@@ -16,6 +16,7 @@ namespace brivane::memory {
 ///     toolkit.modal = [](controls::Form& form) { form.Find("cmdOK")->Perform(controls::Press{}); };
 class BRIVANE_API Toolkit final : public controls::ToolkitBase {
  public:
+  /// The machine; what it answers is set there.
   [[nodiscard]] memory::Desktop& Desktop() override { return desktop_; }
 
   [[nodiscard]] host::Twips MeasureText(const frame::Design& design, std::string_view text, bool bold) const override;

@@ -10,9 +10,12 @@
 #include <brivane/toolkits/qt/Desktop.h>
 #include <brivane/toolkits/qt/Edge.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/QuestionBox.h>
 
 namespace brivane::qt {
+
+using frame::TextId;
 
 std::string Desktop::ApplicationTitle() const { return FromQt(QGuiApplication::applicationDisplayName()); }
 
@@ -55,7 +58,7 @@ host::MessageAnswer Desktop::Show(const std::string& title, const std::string& t
   box->setInformativeText(ToQt(added.below));
   if (!question) {
     box->setIcon(QMessageBox::Warning);
-    QPushButton* const ok = box->addButton("OK", QMessageBox::AcceptRole);
+    QPushButton* const ok = box->addButton(Translated(TextId::Ok), QMessageBox::AcceptRole);
     const QPushButton* const offered =
         added.offer ? box->addButton(ToQt(added.offer->button), QMessageBox::DestructiveRole) : nullptr;
     box->setDefaultButton(ok);
@@ -65,8 +68,8 @@ host::MessageAnswer Desktop::Show(const std::string& title, const std::string& t
     return unanswered;
   }
   box->setIcon(QMessageBox::Question);
-  const QPushButton* const yes = box->addButton("&Ja", QMessageBox::YesRole);
-  QPushButton* const no = box->addButton("&Nee", QMessageBox::NoRole);
+  const QPushButton* const yes = box->addButton(Translated(TextId::Yes), QMessageBox::YesRole);
+  QPushButton* const no = box->addButton(Translated(TextId::No), QMessageBox::NoRole);
   box->setDefaultButton(no);
   box->setEscapeButton(no);
   box->exec();

@@ -36,9 +36,10 @@ class BRIVANE_API Desktop final : public host::Desktop {
   /// A button that the host puts beside OK in a message of the controls, and what it does when the box was closed by
   /// it. The controls go on as after OK.
   struct Offer {
-    std::string button;
-    std::function<void()> taken;
+    std::string button;           ///< its caption in UTF-8
+    std::function<void()> taken;  ///< runs after the box was closed, before the controls go on
   };
+  /// Asked at each message; nothing for none.
   std::function<std::optional<Offer>(const std::string& title, const std::string& text)> offer;
   /// A message box takes no key before a pause in the typing, so that what was under way does not answer it.
   std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;

@@ -23,12 +23,17 @@ class BRIVANE_API Edge {
  public:
   /// The scale that a font of the host asks for: 1 where it is as large as the design's font of 9 points.
   [[nodiscard]] static Edge OfFont(const QFont& font);
+  /// At 1 there are 15 twips to a pixel of Qt.
   explicit Edge(double scale = 1) : scale_(scale) {}
 
-  /// Edges are rounded, so that controls that touch in twips touch in pixels.
+  /// In pixels of Qt. Edges are rounded, so that controls that touch in twips touch in pixels.
+  /// @{
   [[nodiscard]] QRect Pixels(const host::Place& place) const;
   [[nodiscard]] QSize Pixels(host::Twips width, host::Twips height) const;
+  /// @}
+  /// A number of pixels in twips.
   [[nodiscard]] host::Twips ToTwips(int pixels) const;
+  /// The typeface of a design at a size of that design, as it is drawn.
   [[nodiscard]] QFont Font(const frame::Design& design, float points) const;
 
   friend bool operator==(const Edge&, const Edge&) = default;
@@ -41,6 +46,7 @@ class BRIVANE_API Edge {
 
 /// The colour, or nothing for a colour of the system, which is left to the palette.
 [[nodiscard]] BRIVANE_API std::optional<QColor> ToQt(host::Color color);
+/// A colour of Qt; how far it can be seen through is left out.
 [[nodiscard]] BRIVANE_API host::Color FromQt(const QColor& color);
 /// Text that can be read on a background.
 [[nodiscard]] BRIVANE_API QColor TextOn(const QColor& background);

@@ -15,7 +15,9 @@ namespace brivane::qt {
 ///     std::make_shared<qt::Hoofdvenster>(window_); }
 class BRIVANE_API Hoofdvenster : public host::Hoofdvenster {
  public:
+  /// A window, or any widget in it; may be nothing. It stays its owner's.
   explicit Hoofdvenster(QWidget* venster) : venster_(venster) {}
+  /// The widget that was given; nothing once it was deleted.
   [[nodiscard]] QWidget* Venster() const { return venster_; }
 
  private:

@@ -13,6 +13,7 @@ class BRIVANE_API ToelichtingWidget : public ControlWidget {
   Q_OBJECT
 
  public:
+  /// Stands as designed until the first binding.
   explicit ToelichtingWidget(QWidget* parent = nullptr);
   ~ToelichtingWidget() override;
 
@@ -37,6 +38,7 @@ class BRIVANE_API ToelichtingWidget : public ControlWidget {
   void MakeControl(const host::HostFactories& factories) override;
   void ColorControl(host::Color color) override;
   void UnbindControl() override;
+  /// Tells the height after it.
   void resizeEvent(QResizeEvent* event) override;
 
  private:

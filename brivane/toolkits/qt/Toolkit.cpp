@@ -2,6 +2,7 @@
 #include <QPointer>
 
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/Toolkit.h>
 #include <brivane/toolkits/qt/peers/Peers.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
@@ -30,6 +31,8 @@ Toolkit::Toolkit() {
   InstallAccessibleWidgets();
   Life()->bury = [](std::shared_ptr<void> remains) { (new Remains(std::move(remains)))->deleteLater(); };
 }
+
+const frame::Texts& Toolkit::Texts() const { return TranslatedTexts(); }
 
 host::MessageAnswer Toolkit::Ask(const std::string& caption, const std::string& text, host::MessageStyle style) {
   return desktop_.Ask(caption, text, style);

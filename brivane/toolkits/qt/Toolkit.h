@@ -16,9 +16,12 @@ namespace brivane::qt {
 /// Must outlive the surfaces and forms that it made.
 class BRIVANE_API Toolkit : public controls::DrawnToolkit {
  public:
+  /// For the thread of the QApplication, which there is by then.
   Toolkit();
 
+  /// The machine: texts and buttons of the host's own go there.
   [[nodiscard]] qt::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] const frame::Texts& Texts() const override;
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle style) override;
 
@@ -27,6 +30,7 @@ class BRIVANE_API Toolkit : public controls::DrawnToolkit {
   /// not done and there is still a widget to show that.
   bool Act(controls::AnyControl& control, const controls::Action& action, const QWidget& widget);
 
+  /// The scale of what is shown.
   [[nodiscard]] const qt::Edge& Edge() const { return edge_; }
   /// What is shown later has this scale; what is shown already is to be shown anew.
   void SetEdge(const qt::Edge& edge) { edge_ = edge; }

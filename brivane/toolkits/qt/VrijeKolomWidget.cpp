@@ -2,17 +2,18 @@
 #include <QPointer>
 
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/VrijeKolomWidget.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::qt {
 
 VrijeKolomWidget::VrijeKolomWidget(QWidget* parent) : ControlWidget(vrijekolom::kOntwerp, parent) {
-  setAccessibleName(QStringLiteral("Vrije kolom"));
+  setAccessibleName(Translated(frame::TextId::FreeColumn));
   Toolkit().SetSubjectTeller([this] {
     const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(Surface());
     const auto row = [aanvang = onderwerp.aanvang, personen = personen_ ? personen_() : Geborenen()](int rij) {
-      return vrijekolom::Rijuitleg(rij, aanvang, personen);
+      return vrijekolom::Rijuitleg(rij, aanvang, personen, TranslatedTexts());
     };
     return controls::FormSubject{.title = vrijekolom::Titel(onderwerp), .row = row};
   });
@@ -66,7 +67,7 @@ void VrijeKolomWidget::ValidationToelichting(bool& Cancel, std::int32_t Controle
 QString VrijeKolomWidget::topDisplay() {
   if (topDisplay_) return *topDisplay_;
   const QPointer<VrijeKolomWidget> alive(this);
-  const QString text = ReadTopDisplay();
+  QString text = ReadTopDisplay();
   if (alive) topDisplay_ = text;
   return text;
 }

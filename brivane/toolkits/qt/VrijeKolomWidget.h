@@ -23,9 +23,11 @@ namespace brivane::qt {
 ///     editor->Validation(cancel);  // cancel: stay on the column
 class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   Q_OBJECT
-  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged)
+  Q_PROPERTY(QString topDisplay READ topDisplay NOTIFY topDisplayChanged DESIGNABLE false STORED false)
+  Q_PROPERTY(bool beeindigenZichtbaar READ BeeindigenZichtbaar WRITE setBeeindigenZichtbaar)
 
  public:
+  /// Stands as designed until the first binding.
   explicit VrijeKolomWidget(QWidget* parent = nullptr);
   ~VrijeKolomWidget() override;
 
@@ -39,13 +41,18 @@ class BRIVANE_API VrijeKolomWidget : public ControlWidget {
   void Validation(bool& Cancel, std::int32_t ControleNr = 0);
   /// As the Validation of the explanation control inside the editor, which is the host's to call, after the same.
   void ValidationToelichting(bool& Cancel, std::int32_t ControleNr = 0);
+  /// Whether the frame with the proposals is shown, for a case that works with them; before and after the factories.
   [[nodiscard]] bool BeeindigenZichtbaar() const { return beeindigenZichtbaar_; }
   void SetBeeindigenZichtbaar(bool zichtbaar);
+  /// The same by the name that a form of Qt Designer calls it by.
+  void setBeeindigenZichtbaar(bool zichtbaar) { SetBeeindigenZichtbaar(zichtbaar); }
 
   /// Whose ages the rows of the year-by-year form tell, when one is opened; nobody's until it is set.
+  /// @{
   using Geborenen = std::vector<vrijekolom::Geborene>;
   using Personen = std::function<Geborenen()>;
   void SetPersonen(Personen personen) { personen_ = std::move(personen); }
+  /// @}
 
   /// The header text of the column as it was told last; empty while the widget stands for no column.
   [[nodiscard]] QString topDisplay();

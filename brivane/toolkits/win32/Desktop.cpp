@@ -13,12 +13,14 @@ namespace brivane::win32 {
 
 namespace {
 
-/// Gives the next message box of this thread Dutch buttons, whatever language Windows has, lets Escape answer "Nee",
-/// and keeps from it what nobody meant as an answer: bare letters, and keys that were under way when it came up.
+/// Gives the next message box of this thread the texts of its buttons, whatever language Windows has, lets Escape
+/// answer "Nee", and keeps from it what nobody meant as an answer: bare letters, and keys that were under way when it
+/// came up.
 class BoxHooks {
  public:
-  explicit BoxHooks(std::chrono::milliseconds pause)
-      : pause_(pause),
+  BoxHooks(std::chrono::milliseconds pause, const frame::Texts& texts)
+      : texts_(texts),
+        pause_(pause),
         underWay_(pause, Milliseconds(GetTickCount())),
         activated_(SetWindowsHookExW(WH_CBT, &Activated, nullptr, GetCurrentThreadId())),
         filtered_(SetWindowsHookExW(WH_MSGFILTER, &Filtered, nullptr, GetCurrentThreadId())) {
@@ -54,11 +56,12 @@ class BoxHooks {
   static LRESULT CALLBACK Activated(int code, WPARAM window, LPARAM info) {
     if (code == HCBT_ACTIVATE) {
       const auto box = reinterpret_cast<HWND>(window);
-      if (GetDlgItem(box, IDYES) != nullptr) {
-        SetDlgItemTextW(box, IDYES, L"&Ja");
-        SetDlgItemTextW(box, IDNO, L"&Nee");
+      BoxHooks* const hooks = Current();
+      if (hooks != nullptr && GetDlgItem(box, IDYES) != nullptr) {
+        SetDlgItemTextW(box, IDYES, Wide(hooks->texts_.Of(frame::TextId::Yes)).c_str());
+        SetDlgItemTextW(box, IDNO, Wide(hooks->texts_.Of(frame::TextId::No)).c_str());
       }
-      if (BoxHooks* const hooks = Current(); hooks != nullptr && hooks->IsBox(box)) {
+      if (hooks != nullptr && hooks->IsBox(box)) {
         // Only from when it has the keyboard does a pause say that somebody has seen it.
         hooks->underWay_ = {hooks->pause_, Milliseconds(GetTickCount())};
         if (hooks->closed_) PostMessageW(box, WM_COMMAND, IDNO, 0);
@@ -107,6 +110,7 @@ class BoxHooks {
   static std::mutex lock;
   static BoxHooks* all;  ///< of every thread, the last made first
 
+  const frame::Texts& texts_;
   DWORD thread_ = GetCurrentThreadId();
   std::chrono::milliseconds pause_;
   controls::KeysUnderWay underWay_;
@@ -154,7 +158,7 @@ host::MessageAnswer Desktop::Ask(const std::string& caption, const std::string& 
   if (answer) return answer(caption, text, style);
   const std::shared_ptr<controls::Life> life = life_;
   const ModalTime modalTime(*this);
-  BoxHooks hooks(pause);
+  BoxHooks hooks(pause, *texts);
   const controls::Life::AtEnd close(*life, [&hooks] { hooks.Close(); });
   // The styles are the numbers of Windows. The second button of a question is "Nee".
   const UINT standard = style == host::MessageStyle::YesNoQuestion ? MB_DEFBUTTON2 : MB_DEFBUTTON1;

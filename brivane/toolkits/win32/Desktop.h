@@ -12,11 +12,12 @@
 #include <brivane/controls/Pixels.h>
 #include <brivane/controls/entry/KeysUnderWay.h>
 #include <brivane/controls/life/Life.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/host/controls/Desktop.h>
 
 namespace brivane::win32 {
 
-/// The machine as Windows sees it: message boxes with Dutch buttons, the program's name and the user's
+/// The machine as Windows sees it: message boxes with buttons of its own, the program's name and the user's
 /// number format.
 ///
 /// A message box is answered on purpose: "Nee" is the default of a question, no bare letter answers, and a key
@@ -45,6 +46,10 @@ class Desktop final : public host::Desktop {
   /// Twips to a pixel as the logic sees them: the windows are scaled to the screen themselves.
   float twipsPerPixelX = static_cast<float>(controls::kTwipsPerPixel);
   float twipsPerPixelY = static_cast<float>(controls::kTwipsPerPixel);
+
+  /// What is added to the controls is said in these: a host's own, or frame::Texts::In of a language. They outlive the
+  /// controls; set them before these are made.
+  const frame::Texts* texts = &frame::Texts::In(frame::Language::Dutch);
 
   /// Told that a form or a message box comes up, and that it has gone.
   std::function<void(bool up)> modal;

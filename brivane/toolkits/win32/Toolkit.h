@@ -45,6 +45,7 @@ class Toolkit : public controls::DrawnToolkit {
   ~Toolkit() override;
 
   [[nodiscard]] win32::Desktop& Desktop() override { return desktop_; }
+  [[nodiscard]] const frame::Texts& Texts() const override { return *desktop_.texts; }
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle style) override;
 

@@ -86,6 +86,12 @@ TEST_P(Reach, NothingLiesOutsideASmallScreenAndNothingIsCutOff) {
       QApplication::processEvents();
       EXPECT_LE(window.width(), room.width()) << "the window itself is too wide";
       EXPECT_LE(window.height(), room.height()) << "the window itself is too high";
+      if (front != &window) {
+        front->resize(front->size().boundedTo(room));
+        QApplication::processEvents();
+        EXPECT_LE(front->width(), room.width()) << "what stands in front is too wide";
+        EXPECT_LE(front->height(), room.height()) << "what stands in front is too high";
+      }
       if (window.Screen() != nullptr) ExpectInView(stage, window.size());
       EXPECT_THAT(test::CutOffWithin(*front), IsEmpty());
     }

@@ -79,7 +79,9 @@ bool Activate(QWidget& window) {
 /// A window that was opened beside the program's own, or that one.
 QWidget* InFront(QWidget& window) {
   for (QWidget* const other : QApplication::topLevelWidgets())
-    if (other->isVisible() && other->windowType() == Qt::Window && other->parentWidget() == &window) return other;
+    if (other->isVisible() && (other->windowType() == Qt::Window || other->windowType() == Qt::Dialog) &&
+        other->parentWidget() == &window)
+      return other;
   return &window;
 }
 
@@ -161,6 +163,35 @@ const std::vector<Scene>& AllScenes() {
       {"overview", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9); }, "filler \"Overzicht\""},
       {"course", [](Stage& stage) { OpenBeside(stage, Qt::Key_F9, Qt::ShiftModifier); }, "filler \"Verloop\""},
       {"history", [](Stage& stage) { OpenBeside(stage, Qt::Key_F8); }, kWhole, true},
+      {"changes",
+       [](Stage& stage) {
+         stage.GoTo(kAmount);
+         stage.Focus("TxtOm");
+         Stage::Type("Opvang");
+         Stage::Press(Qt::Key_Tab);
+         Stage::Type("512,75");
+         Stage::Press(Qt::Key_Tab);
+         Stage::Press(Qt::Key_F8);
+       },
+       kWhole, true, true},
+      {"found",
+       [](Stage& stage) {
+         stage.GoTo(kAmount);
+         Stage::Press(Qt::Key_F, Qt::ControlModifier);
+         Stage::Type("on");
+         Stage::Press(Qt::Key_Down);
+       },
+       "tree \"Leningen"},
+      {"client", [](Stage& stage) { OpenBeside(stage, Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier); }, kWhole,
+       true},
+      {"help", [](Stage& stage) { OpenBeside(stage, Qt::Key_F1); }, "dialog"},
+      {"missing",
+       [](Stage& stage) {
+         stage.GoTo(kAmount);
+         Stage::Press(Qt::Key_Delete);
+         Stage::Press(Qt::Key_Tab);
+       },
+       kWhole, true},
       {"print-preview", [](Stage& stage) { OpenBeside(stage, Qt::Key_P, Qt::ControlModifier); }, kWhole, true},
   };
   return scenes;

@@ -40,6 +40,7 @@ struct Scene {
   /// How the element that is looked at starts, role and name, where it is not the whole window in front.
   const char* part = "panel \"Vrije kolom\"";
   bool modal = false;  ///< ends in a modal window, which stays open
+  bool timed = false;  ///< tells the time of day, so that it never reads the same twice
 };
 
 [[nodiscard]] const std::vector<Scene>& AllScenes();

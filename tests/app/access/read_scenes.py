@@ -226,7 +226,7 @@ def main():
     write = arguments[:1] == ["--write"]
     names = arguments[1:] if write else arguments
     listed = subprocess.run([program, "--list"], check=True, capture_output=True, text=True).stdout
-    scenes = dict(line.split("\t") for line in listed.splitlines())
+    scenes = dict(line.split("\t") for line in listed.splitlines() if not line.endswith("\ttimed"))
     try:
         reader = Reader()
     except (ImportError, ValueError) as error:

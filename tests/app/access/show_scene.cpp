@@ -12,10 +12,11 @@
 #include "tests/app/access/Pictures.h"
 #include "tests/app/access/Scenes.h"
 
-// show_scene --list                                   the names of the scenes, each with the part of the window that it
-// is about show_scene NAME FOLDER                              plays one, its files in the folder; says "ready" and
-// stays until its input ends show_scene NAME FOLDER PICTURES WIDTHxHEIGHT        takes pictures of it instead, on a
-// screen of that size
+// show_scene --list                                   the scenes: name, the part of the window that it is about, and
+//                                                     "timed" where it tells the time of day
+// show_scene NAME FOLDER                              plays one, its files in the folder; says "ready" and stays until
+//                                                     its input ends
+// show_scene NAME FOLDER PICTURES WIDTHxHEIGHT        takes pictures of it instead, on a screen of that size
 
 namespace {
 
@@ -32,7 +33,8 @@ void Stay() {
 
 int main(int argc, char** argv) {
   if (argc == 2 && std::string_view(argv[1]) == "--list") {
-    for (const Scene& scene : AllScenes()) std::printf("%s\t%s\n", scene.name, scene.part);
+    for (const Scene& scene : AllScenes())
+      std::printf("%s\t%s%s\n", scene.name, scene.part, scene.timed ? "\ttimed" : "");
     return 0;
   }
   if (argc != 3 && argc != 5) return 2;

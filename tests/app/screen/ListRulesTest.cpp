@@ -43,14 +43,14 @@ TEST(ListRoomTest, TheListGivesWayBeforeTheEditorDoes) {
 }
 
 TEST(ListColumnsTest, TheNameAndTheAmountAreAlwaysThere) {
-  const ListWidths widths{.naam = 100, .amount = 80, .sign = 20, .stand = 70, .termijn = 60, .aanvang = 90};
+  const ListWidths widths{.naam = 100, .amount = 80, .stand = 70, .termijn = 60, .aanvang = 90};
   EXPECT_EQ(PartsWithRoom(0, widths), (ListParts{}));
-  EXPECT_EQ(PartsWithRoom(259, widths), (ListParts{}));
-  EXPECT_EQ(PartsWithRoom(260, widths), (ListParts{.termijn = true}));
+  EXPECT_EQ(PartsWithRoom(239, widths), (ListParts{}));
+  EXPECT_EQ(PartsWithRoom(240, widths), (ListParts{.termijn = true}));
   EXPECT_EQ(PartsWithRoom(309, widths), (ListParts{.termijn = true}));
-  EXPECT_EQ(PartsWithRoom(310, widths), (ListParts{.standInWords = true, .termijn = true}));
-  EXPECT_EQ(PartsWithRoom(399, widths), (ListParts{.standInWords = true, .termijn = true}));
-  EXPECT_EQ(PartsWithRoom(400, widths), (ListParts{.standInWords = true, .termijn = true, .aanvang = true}));
+  EXPECT_EQ(PartsWithRoom(310, widths), (ListParts{.stand = true, .termijn = true}));
+  EXPECT_EQ(PartsWithRoom(399, widths), (ListParts{.stand = true, .termijn = true}));
+  EXPECT_EQ(PartsWithRoom(400, widths), (ListParts{.stand = true, .termijn = true, .aanvang = true}));
 }
 
 class SearchTextTest : public testing::Test {

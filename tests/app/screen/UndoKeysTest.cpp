@@ -198,10 +198,34 @@ TEST_F(UndoKeysTest, AYesToTheCarryOverIsAStepOfItsOwn) {
   PressKey(Qt::Key_PageDown, Qt::ControlModifier);
   QApplication::processEvents();
   ASSERT_FALSE(Screen().Dossier().FindKolom(1, 1));
-  EXPECT_EQ(UndoText(), "&Ongedaan maken: verwijderen van Kinderopvang");
+  const dossier::DossierGegevens after = Case();
+  EXPECT_EQ(UndoText(), "&Ongedaan maken: overnemen van Kinderopvang in de nieuwe situatie");
   Undo();
   EXPECT_EQ(Case(), before);
   EXPECT_EQ(Screen().Shown(), (Place{1, 1}));
+  EXPECT_EQ(window_->statusBar()->currentMessage(),
+            "Ongedaan gemaakt: overnemen van Kinderopvang in de nieuwe situatie");
+  EXPECT_EQ(RedoText(), "Opn&ieuw: overnemen van Kinderopvang in de nieuwe situatie");
+  Redo();
+  EXPECT_EQ(Case(), after);
+  // The history tells the removal of the version by its reason.
+  const auto view = Screen().File().Geschiedenis();
+  HistoryModel history(*view, nullptr);
+  history.Show({});
+  QStringList kinds;
+  for (int row = 0; row < history.rowCount({}); ++row) {
+    const QStringList texts = history.Texts(row);
+    if (texts[HistoryModel::What] == "kolom" || texts[HistoryModel::What] == "bedrag")
+      kinds << texts[HistoryModel::Kind];
+  }
+  EXPECT_EQ(kinds, (QStringList{"opnieuw gedaan", "ongedaan gemaakt", "overgenomen", "gewijzigd"}));
+}
+
+TEST_F(UndoKeysTest, AVersionThatTheAdviserRemovesIsRemoved) {
+  ASSERT_TRUE(Screen().GoTo({1, 1}));
+  PressKey(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+  ASSERT_FALSE(Screen().Dossier().FindKolom(1, 1));
+  EXPECT_EQ(UndoText(), "&Ongedaan maken: verwijderen van Kinderopvang");
 }
 
 TEST_F(UndoKeysTest, TheHistoryTellsWhoChangedWhatInTheWordsOfTheScreen) {

@@ -200,6 +200,20 @@ TEST_F(BindingTest, TheHostIsToldWhatBecameOfABinding) {
   EXPECT_EQ(state(), BindingLosgelaten);
 }
 
+TEST_F(BindingTest, WhatIsAddedToTheControlsIsInTheLanguageThatTheHostRegistered) {
+  const std::wstring key = L"Software\\Classes\\CLSID\\{9E623786-EB13-493A-A455-FD19036B8E3E}\\HostClasses";
+  const std::wstring english = L"en";
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"Language", REG_SZ, english.c_str(),
+                  static_cast<DWORD>((english.size() + 1) * sizeof(wchar_t)));
+  {
+    FakeHost host;
+    const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);
+    EXPECT_EQ(editor->SetApplication(host.application.Get(), 9, 2), S_FALSE);
+    EXPECT_NE(ControlWith(L"BrivaneVlak", L"No free column is open."), nullptr);
+  }
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
+}
+
 TEST_F(BindingTest, AfterOneThatFailedNothingIsShownAndNothingIsTaken) {
   FakeHost host;
   const auto editor = Create<IVrijeKolom>(CLSID_VrijeKolom);

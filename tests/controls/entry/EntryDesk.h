@@ -29,15 +29,21 @@ class TestFace final : public EntryFace {
   bool readOnly = false;
   bool atHand = true;
   int calls = 0;  ///< of whatever changes it
+  frame::Language language = frame::Language::Dutch;
+  std::function<void()> whenFocused;
 
   [[nodiscard]] std::string Text() const override { return text; }
   void ShowText(const std::string& shown) override { Change(text, shown); }
   void InsertText(const std::string& inserted) override { Change(text, selected ? inserted : text + inserted); }
   void SelectAll() override { Change(selected, true); }
   [[nodiscard]] bool HasFocus() const override { return focused; }
-  void TakeFocus() override { Change(focused, true); }
+  void TakeFocus() override {
+    Change(focused, true);
+    if (whenFocused) whenFocused();
+  }
   [[nodiscard]] bool ReadOnly() const override { return readOnly; }
   [[nodiscard]] bool IsAtHand() const override { return atHand; }
+  [[nodiscard]] const frame::Texts& Texts() const override { return frame::Texts::In(language); }
   void ShowReason(const std::string& why) override {
     Change(note, std::string());
     Change(reason, why);
@@ -71,6 +77,7 @@ class TestToolkit final : public DrawnToolkit {
  public:
   [[nodiscard]] memory::Desktop& Desktop() override { return desktop_; }
   [[nodiscard]] host::Twips MeasureText(const frame::Design&, std::string_view, bool) const override { return {}; }
+  [[nodiscard]] const frame::Texts& Texts() const override { return frame::Texts::In(language); }
   [[nodiscard]] host::MessageAnswer Ask(const std::string& caption, const std::string& text,
                                         host::MessageStyle) override {
     asked.push_back(caption + ": " + text);
@@ -78,6 +85,7 @@ class TestToolkit final : public DrawnToolkit {
   }
 
   std::vector<std::string> asked;
+  frame::Language language = frame::Language::Dutch;
   host::MessageAnswer answer = host::MessageAnswer::No;
 
  protected:

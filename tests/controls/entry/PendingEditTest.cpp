@@ -47,6 +47,24 @@ TEST_F(PendingEditTest, ThatEmptiesAnAmountShowsWhatItCountsFor) {
   EXPECT_THAT(log, ElementsAre("txtBedrag = 0,00"));
 }
 
+TEST_F(PendingEditTest, SpeaksTheLanguageOfItsFace) {
+  face.language = frame::Language::English;
+  TypeOver(amount, "twaalf");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.reason, "Enter an amount, for example 1.234,56.");
+  amount.SetEnabled(false);
+  EXPECT_FALSE(edit.HandOver());
+  EXPECT_THAT(toolkit.asked, ElementsAre(testing::AllOf(
+                                 testing::StartsWith("Not taken over: The box \"Bedrag\" still holds \"twaalf\"."),
+                                 testing::HasSubstr("\r\n\r\nEnter an amount, for example 1.234,56.\r\n\r\n"),
+                                 testing::EndsWith("Do you want to drop what was typed there?"))));
+  const TextBox& date = Box("txtDatum");
+  Face(date).language = frame::Language::English;
+  toolkit.Desktop().today = frame::MakeDate({2031, 4, 1});
+  TypeOver(date, "v");
+  EXPECT_EQ(Face(date).note, "Tuesday 1 April 2031");
+}
+
 TEST_F(PendingEditTest, OfNoControlIsReadItsOwnWay) {
   TestFace own;
   PendingEdit date(own);
@@ -329,6 +347,70 @@ TEST_F(PendingEditTest, MayBeGoneWhenItsEntryComesBack) {
     EXPECT_EQ(outlives.calls, 0);
     EXPECT_THAT(toolkit.Pending().On(Surface::Of(*surface)), IsEmpty());
   }
+}
+
+TEST_F(PendingEditTest, MayBeGoneWhenItTakesTheFocus) {
+  TestFace outlives;
+  auto gone = std::make_unique<PendingEdit>(outlives);
+  gone->Tie(amount, toolkit);
+  outlives.whenFocused = [&] {
+    gone.reset();
+    outlives.calls = 0;
+  };
+  outlives.text = "12.50";
+  gone->Typed();
+  EXPECT_FALSE(gone->Commit());
+  EXPECT_EQ(outlives.calls, 0);
+}
+
+TEST_F(PendingEditTest, SaysAgainWhatItMakesOfTheTypingWhereThatWasTakenAway) {
+  const TextBox& date = Box("txtDatum");
+  TestFace& shown = Face(date);
+  TypeOver(date, "1-4-2031");
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+  const int calls = shown.calls;
+  Edit(date).Typed();
+  EXPECT_EQ(shown.calls, calls) << "said already";
+  TypeOver(date, "");
+  EXPECT_EQ(shown.note, "");
+  TypeOver(date, "1-4-2031");
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+  shown.note.clear();
+  Edit(date).Shown();
+  EXPECT_EQ(shown.note, "dinsdag 1 april 2031");
+}
+
+TEST_F(PendingEditTest, IsPendingFromTheFirstDecimalSignOfTheKeypad) {
+  EXPECT_TRUE(edit.TypeDecimalSign());
+  EXPECT_TRUE(edit.IsPending());
+  edit.Paste("5");
+  EXPECT_EQ(face.text, ",5");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, ElementsAre("txtBedrag = 0,50"));
+}
+
+TEST_F(PendingEditTest, OfAControlThatTheHostLetGoIsInNobodysWay) {
+  TypeOver(amount, "12.50");
+  const std::shared_ptr<controls::Life> life = toolkit.Life();
+  life->End(nullptr);
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_EQ(face.reason, "");
+  EXPECT_EQ(face.text, "12.50");
+}
+
+TEST_F(PendingEditTest, ThatEnterFindsRefusedSelectsNothingElse) {
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.CommitAndSelect());
+  EXPECT_THAT(log, IsEmpty());
+  EXPECT_TRUE(edit.IsPending());
+}
+
+TEST_F(PendingEditTest, ThatIsRefusedInSightIsNotAskedAboutWhenTheHostLeaves) {
+  TypeOver(amount, "12.50");
+  EXPECT_FALSE(edit.HandOver());
+  EXPECT_THAT(toolkit.asked, IsEmpty());
+  EXPECT_TRUE(edit.IsPending());
 }
 
 TEST_F(PendingEditTest, MovesToAnotherBoxWithWhatThatHolds) {

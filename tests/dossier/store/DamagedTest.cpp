@@ -152,6 +152,24 @@ TEST(DamagedTest, ARowThatBreaksAConstraint) {
   }
 }
 
+/// Opening may look at a file over a connection that passes over them: the test above has a row for each, and another
+/// one needs its own, and a reader that keeps to it.
+TEST(DamagedTest, TheConstraintsOfRowsAreThese) {
+  const Folder folder;
+  Database database(folder.Make(), Access::Immutable);
+  QSqlQuery query = database.Prepare("SELECT name, sql FROM sqlite_schema WHERE sql LIKE '%CHECK%' ORDER BY name");
+  Database::Run(query);
+  QStringList found;
+  while (query.next()) {
+    const QString sql = query.value(1).toString();
+    const qsizetype begin = sql.indexOf("CHECK");
+    found << query.value(0).toString() + ": " + sql.mid(begin, sql.indexOf(')', begin) - begin + 1);
+    EXPECT_EQ(sql.count("CHECK"), 1) << sql.toStdString();
+  }
+  EXPECT_EQ(found, (QStringList{"dossier: CHECK (enig = 1)", "lening: CHECK (nummer >= 0)",
+                                "persoon: CHECK (nummer IN (1, 2)", "voorstel: CHECK (voorstel IN (1, 2, 3)"}));
+}
+
 TEST(DamagedTest, ARowWithoutItsOwner) {
   ExpectDamagedAfter({"UPDATE vrijekolom SET lening = 999 WHERE id = 2"});
   ExpectDamagedAfter({"UPDATE periode SET kolom = 999"});
@@ -187,9 +205,8 @@ TEST(DamagedTest, AFieldWithAValueOfAnotherKind) {
                                "UPDATE vrijekolom SET bedrag = 'veel' WHERE id = 2");
 }
 
-TEST(DamagedTest, AnIndexThatMissesARow) {
-  const Folder folder;
-  const QString path = folder.Make();
+/// A file whose index does not lead to one of its rows: what is read is right, and only SQLite's check finds it.
+void BreakAnIndex(const QString& path) {
   int root = 0;
   {
     Database database(path, Access::ReadWrite);
@@ -201,7 +218,36 @@ TEST(DamagedTest, AnIndexThatMissesARow) {
   const QByteArray back = "INSERT INTO sqlite_schema VALUES ('index', 'periode_kolom', 'periode', " +
                           QByteArray::number(root) + ", 'CREATE INDEX periode_kolom ON periode (kolom)')";
   Change(path, {"PRAGMA writable_schema = ON", back.constData()});
+}
+
+TEST(DamagedTest, AnIndexThatMissesARow) {
+  const Folder folder;
+  BreakAnIndex(folder.Make());
   ExpectDamaged(folder);
+}
+
+/// The file is checked while it is read: what is told must not hang on which of the two is ready first.
+void ExpectEachTime(const QString& path, OpeningProblem problem) {
+  for (int time = 0; time < 50; ++time) ASSERT_EQ(ProblemAtOpening(path), problem) << time;
+}
+
+TEST(DamagedTest, DamageIsToldBeforeAValueThatCannotBe) {
+  const Folder folder;
+  const QString path = folder.Make();
+  Change(path, {"UPDATE vrijekolom SET termijn = 32768 WHERE id = 2"});
+  ExpectEachTime(path, OpeningProblem::Impossible);
+  BreakAnIndex(path);
+  ExpectEachTime(path, OpeningProblem::Damaged);
+}
+
+TEST(DamagedTest, ACaseThatIsTooLargeIsToldBeforeDamage) {
+  const Folder folder;
+  const QString path = folder.Make();
+  BreakAnIndex(path);
+  ExpectEachTime(path, OpeningProblem::Damaged);
+  Change(path, {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 60) "
+                "INSERT INTO maatschappij_type SELECT 1000 + i, 'x', printf('%.*c', 100000, 'x') FROM n"});
+  ExpectEachTime(path, OpeningProblem::TooLarge);
 }
 
 TEST(DamagedTest, AKeyThatIsNeverGivenOut) {

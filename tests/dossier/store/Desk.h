@@ -8,7 +8,7 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
-#include "dossier/store/DossierFile.h"
+#include "dossier/store/DossierStore.h"
 #include "dossier/store/ScenarioTransaction.h"
 #include <brivane/frame/Calendar.h>
 #include <brivane/toolkits/memory/Toolkit.h>
@@ -39,7 +39,7 @@ class Desk {
     editor_ = std::make_unique<brivane::VrijeKolom>(*surface_, toolkit_, factories);
     scenario_ = std::make_unique<ScenarioTransaction>(*editor_, *edits_);
   }
-  explicit Desk(DossierFile& file) : Desk(file.Dossier(), file.GedeeldeBewerkingen()) {}
+  explicit Desk(DossierStore& store) : Desk(store.Dossier(), store.GedeeldeBewerkingen()) {}
 
   void Bind(std::int16_t Len_Id, std::int16_t Vrij_Id) { editor_->SetApplication(application_, Len_Id, Vrij_Id); }
   [[nodiscard]] controls::AnyControl& Control(std::string_view name, int index = frame::kNoIndex) {

@@ -15,7 +15,10 @@ const host::Error kFull(1013, "vol", "Dossier");
 class LoggedTransactions : public Edits::Transactions {
  public:
   void Begin() override { Note("begin"); }
-  void Commit() override { Note("commit"); }
+  void Commit() override {
+    Note("commit");
+    makers.push_back(edits->MadeBy());
+  }
   void Rollback() noexcept override { lines.emplace_back("rollback"); }
   void Reload() noexcept override { lines.emplace_back("reload"); }
 
@@ -29,11 +32,15 @@ class LoggedTransactions : public Edits::Transactions {
 
   std::vector<std::string> lines;
   std::string refused;
+  const Edits* edits = nullptr;
+  /// Of each edit that was committed.
+  std::vector<Maker> makers;
 };
 
 class EditsTest : public testing::Test {
  protected:
   EditsTest() {
+    file_.edits = &edits_;
     failed_ = edits_.Failed.Connect([this](const StoreFailure& failure) {
       file_.lines.push_back(failure.told == Told::Yes ? "failed, told" : "failed, not told");
       EXPECT_EQ(failure.error.Number(), 1013);
@@ -97,6 +104,22 @@ TEST_F(EditsTest, AnEditOfACalledProcedureIsStoredAsThatOneEnds) {
 TEST_F(EditsTest, AChangeOutsideOfAnyProcedureIsStoredAtOnce) {
   Change("1");
   EXPECT_THAT(Lines(), ElementsAre("begin", "1", "commit"));
+}
+
+TEST_F(EditsTest, AnEditOfAProcedureIsTheControlsAndAnyOtherTheHosts) {
+  edits_.Enter("A");
+  Change("1");
+  edits_.Leave();
+  Change("2");
+  const std::size_t edit = edits_.BeginEdit();
+  edits_.Enter("A");
+  Change("3");
+  edits_.Leave();
+  ASSERT_TRUE(edits_.EndEdit(edit));
+  edits_.Enter("A");
+  edits_.InOneEdit([&] { Change("4"); });
+  edits_.Leave();
+  EXPECT_THAT(file_.makers, ElementsAre(Maker::Control, Maker::Host, Maker::Host, Maker::Host));
 }
 
 TEST_F(EditsTest, AFailingProcedureKeepsWhatItChanged) {

@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "dossier/store/DossierFile.h"
+#include "dossier/store/DossierStore.h"
 
 namespace brivane::dossier {
 

@@ -1,14 +1,17 @@
-#include "dossier/store/FileJournal.h"
-#include "tests/dossier/store/Files.h"
+#include <functional>
+#include <utility>
+
+#include "dossier/store/StoreErrors.h"
+#include "tests/dossier/store/Shelf.h"
 #include <brivane/frame/Calendar.h>
 
-// What is written comes back from the file as it was.
+// What is written comes back from every store as it was.
 namespace brivane::dossier {
 namespace {
 
 host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
-/// The same contents with the keys left out, which the file gives.
+/// The same contents with the keys left out, which the store gives.
 DossierGegevens WithoutKeys(DossierGegevens dossier) {
   dossier.Leningen.push_back(std::exchange(dossier.HuidigeLening, {}));
   for (LeningGegevens& lening : dossier.Leningen) {
@@ -21,7 +24,7 @@ DossierGegevens WithoutKeys(DossierGegevens dossier) {
   return dossier;
 }
 
-/// A column in which every field that a file keeps has a value of its own.
+/// A column in which every field that a store keeps has a value of its own.
 KolomGegevens FullKolom() {
   KolomGegevens kolom;
   kolom.Id = 32767;
@@ -58,41 +61,39 @@ KolomGegevens FullKolom() {
   return kolom;
 }
 
-TEST(RoundTripTest, TheSampleComesBackAsItWas) {
-  const Folder folder;
+class RoundTripTest : public EveryStoreTest {};
+
+TEST_F(RoundTripTest, TheSampleComesBackAsItWas) {
   const DossierGegevens sample = VoorbeeldDossier();
-  EXPECT_EQ(WithoutKeys(ReadBack(folder.Make(sample))), WithoutKeys(sample));
+  EXPECT_EQ(WithoutKeys(ReadBack(shelf_->Make(sample))), WithoutKeys(sample));
 }
 
-TEST(RoundTripTest, EveryFieldComesBackAsItWas) {
-  const Folder folder;
+TEST_F(RoundTripTest, EveryFieldComesBackAsItWas) {
   DossierGegevens dossier = VoorbeeldDossier();
   dossier.Leeftijd = 71;
   dossier.MaatschappijType = {{"", "geen"}, {"A'B", "Alfa \"B\""}, {"A'B", "dubbel"}};
   dossier.HuidigeLening.VrijeKolommen.push_back(FullKolom());
   dossier.Voorstellen = {{{1, 2}, {}, {7, 32767}}};
-  EXPECT_EQ(WithoutKeys(ReadBack(folder.Make(dossier))), WithoutKeys(dossier));
+  EXPECT_EQ(WithoutKeys(ReadBack(shelf_->Make(dossier))), WithoutKeys(dossier));
 }
 
-TEST(RoundTripTest, ATextComesBackToTheByte) {
-  const Folder folder;
-  const QString path = folder.Make();
+TEST_F(RoundTripTest, ATextComesBackToTheByte) {
+  const QString path = shelf_->Make();
   const std::string nul("a\0b", 3);
   const std::string notUtf8("\xff\xfe");
   const std::string longText(100000, 'x');
   for (const std::string& text : {nul, notUtf8, longText, std::string()}) {
-    DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetOmschrijving(text);
-    EXPECT_EQ(DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->Omschrijving(), text);
+    shelf_->Open(path)->Dossier()->FindKolom(0, 1)->SetOmschrijving(text);
+    EXPECT_EQ(shelf_->Open(path)->Dossier()->FindKolom(0, 1)->Omschrijving(), text);
   }
 }
 
-TEST(RoundTripTest, WhatEachSetterWritesIsInTheFile) {
-  const Folder folder;
-  const QString path = folder.Make(LeegDossier());
+TEST_F(RoundTripTest, WhatEachSetterWritesIsInTheFile) {
+  const QString path = shelf_->Make(LeegDossier());
   const KolomGegevens full = FullKolom();
   {
-    const auto file = DossierFile::Open(path);
-    const auto kolom = file->Dossier()->NewKolom(0);
+    const auto store = shelf_->Open(path);
+    const auto kolom = store->Dossier()->NewKolom(0);
     kolom->SetCorrectieLast(full.CorrectieLast);
     kolom->SetCorrectieFiscaal(full.CorrectieFiscaal);
     kolom->SetHeffingBij(full.HeffingBij);
@@ -140,17 +141,16 @@ TEST(RoundTripTest, WhatEachSetterWritesIsInTheFile) {
   EXPECT_EQ(WithoutKeys(ReadBack(path)), WithoutKeys(expected));
 }
 
-TEST(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
-  const Folder folder;
-  const QString path = folder.Make();
+TEST_F(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
+  const QString path = shelf_->Make();
   const auto after = [&](const char* what, const std::function<void(Dossier&)>& operation) {
     SCOPED_TRACE(what);
     DossierGegevens inMemory;
     {
-      const auto file = DossierFile::Open(path);
-      operation(*file->Dossier());
-      inMemory = file->Dossier()->Gegevens();
-      EXPECT_EQ(file->ControleerHeelheid(), QStringList());
+      const auto store = shelf_->Open(path);
+      operation(*store->Dossier());
+      inMemory = store->Dossier()->Gegevens();
+      EXPECT_EQ(shelf_->Findings(path, *store), QStringList());
     }
     // Keys and places too: an order that only the memory knew would show.
     EXPECT_EQ(ReadBack(path), inMemory);
@@ -183,10 +183,9 @@ TEST(RoundTripTest, TheMemoryShowsWhatIsInTheFileAfterEveryOperation) {
   });
 }
 
-TEST(RoundTripTest, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
-  const Folder folder;
-  const auto file = DossierFile::Open(folder.Make());
-  Dossier& dossier = *file->Dossier();
+TEST_F(RoundTripTest, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
+  const auto store = shelf_->Open(shelf_->Make());
+  Dossier& dossier = *store->Dossier();
   const auto removed = dossier.NewKolom(0);
   dossier.Verwijder(0, removed->Id());
   const auto added = dossier.NewKolom(0);
@@ -202,13 +201,12 @@ TEST(RoundTripTest, AKeyIsNotUsedAgainWhileTheFileIsOpen) {
   EXPECT_EQ(removed->Omschrijving(), "");
 }
 
-TEST(RoundTripTest, TheCaseOutlivesItsFileButChangesNoMore) {
-  const Folder folder;
-  const QString path = folder.Make();
-  auto file = DossierFile::Open(path);
-  const auto dossier = file->Dossier();
-  const auto trace = file->MakeTrace("VrijeKolom");
-  file.reset();
+TEST_F(RoundTripTest, TheCaseOutlivesItsFileButChangesNoMore) {
+  const QString path = shelf_->Make();
+  auto store = shelf_->Open(path);
+  const auto dossier = store->Dossier();
+  const auto trace = store->MakeTrace("VrijeKolom");
+  store.reset();
   EXPECT_EQ(dossier->FindKolom(0, 1)->Omschrijving(), "Kinderopvang");
   trace->EnterProcedure("TxtOm_Validation");
   try {

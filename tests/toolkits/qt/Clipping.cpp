@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
@@ -25,6 +26,18 @@ QString Plain(QString text) {
   return text.replace(QChar(1), '&');
 }
 
+/// Across which a label writes its text: a mnemonic is drawn by itself, so that no letter moves under its neighbour.
+int WidthDrawn(const QLabel& label) {
+  if (label.textFormat() == Qt::PlainText && label.buddy() == nullptr)
+    return label.fontMetrics().horizontalAdvance(label.text());
+  const qsizetype mark = label.text().indexOf(QRegularExpression("&[^&]"));
+  if (label.buddy() == nullptr || mark < 0) return label.fontMetrics().horizontalAdvance(Plain(label.text()));
+  int width = 0;
+  for (const QString& part : {label.text().left(mark), label.text().mid(mark + 1, 1), label.text().mid(mark + 2)})
+    width += label.fontMetrics().horizontalAdvance(Plain(part));
+  return width;
+}
+
 class Findings {
  public:
   explicit Findings(std::vector<std::string>& lines) : lines_(lines) {}
@@ -33,6 +46,10 @@ class Findings {
   void Fits(const QWidget& widget, const QString& text, const QFontMetrics& metrics, int room) {
     const int width = metrics.horizontalAdvance(text);
     if (!text.isEmpty() && width > room) Add(widget, text, "width", width, room);
+  }
+  void FitsDrawn(const QLabel& label, int room) {
+    const int width = WidthDrawn(label);
+    if (width > room) Add(label, label.text(), "width", width, room);
   }
   void FitsInHeight(const QWidget& widget, const QString& text, int height, int room) {
     if (height > room) Add(widget, text, "height", height, room);
@@ -60,7 +77,7 @@ void LookAt(const QLabel& label, Findings& findings) {
     const QRect needed = label.fontMetrics().boundingRect(QRect(0, 0, room.width(), 10000), Qt::TextWordWrap, text);
     return findings.FitsInHeight(label, text, needed.height(), room.height());
   }
-  findings.Fits(label, text, room.width());
+  findings.FitsDrawn(label, room.width());
   findings.FitsInHeight(label, text, label.fontMetrics().height(), room.height());
 }
 

@@ -2,11 +2,19 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScopeGuard>
+#include <QScrollArea>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QTreeView>
 #include <QVBoxLayout>
 #include <map>
+#include <memory>
 
 #include "tests/support/TestHost.h"
 #include "tests/toolkits/qt/Clipping.h"
@@ -201,6 +209,65 @@ TEST(HighContrast, IsAPaletteOfBlackAndWhiteAlone) {
     palette.setColor(QPalette::WindowText, c.text);
     EXPECT_EQ(qt::IsHighContrast(palette), c.high) << c.back.name().toStdString() << " " << c.text.name().toStdString();
   }
+}
+
+TEST(HighContrast, EveryWindowOfAProgramGetsItsEdges) {
+  const QPalette before = QApplication::palette();
+  const auto putBack = qScopeGuard([&] { QApplication::setPalette(before); });
+  QApplication::setPalette(
+      QPalette(Qt::white, Qt::black, Qt::black, Qt::black, Qt::black, Qt::white, Qt::white, Qt::black, Qt::black));
+  using Made = std::unique_ptr<QWidget>;
+  struct Case {
+    const char* name;
+    Made (*make)();
+    bool edged;
+  };
+  const Case cases[] = {{"line", []() -> Made { return std::make_unique<QLineEdit>(); }, true},
+                        {"line without a frame",
+                         []() -> Made {
+                           auto line = std::make_unique<QLineEdit>();
+                           line->setFrame(false);
+                           return line;
+                         },
+                         false},
+                        {"list of choices", []() -> Made { return std::make_unique<QComboBox>(); }, true},
+                        {"number", []() -> Made { return std::make_unique<QSpinBox>(); }, true},
+                        {"button", []() -> Made { return std::make_unique<QPushButton>(); }, true},
+                        {"flat button",
+                         []() -> Made {
+                           auto button = std::make_unique<QPushButton>();
+                           button->setFlat(true);
+                           return button;
+                         },
+                         false},
+                        {"button in a bar",
+                         []() -> Made {
+                           auto button = std::make_unique<QToolButton>();
+                           button->setAutoRaise(true);
+                           return button;
+                         },
+                         false},
+                        {"tree", []() -> Made { return std::make_unique<QTreeView>(); }, true},
+                        {"area without a frame",
+                         []() -> Made {
+                           auto area = std::make_unique<QScrollArea>();
+                           area->setFrameShape(QFrame::NoFrame);
+                           return area;
+                         },
+                         false},
+                        {"label", []() -> Made { return std::make_unique<QLabel>(); }, false}};
+  const auto edge = [](const Case& c) {
+    const Made widget = c.make();
+    widget->resize(80, 24);
+    const QImage picture = widget->grab().toImage();
+    return qGray(picture.pixel(picture.width() / 2, 0));
+  };
+  for (const Case& c : cases) EXPECT_LT(edge(c), 100) << c.name << ", before anything is outlined";
+  QObject program;
+  qt::OutlineAllInHighContrast(program);
+  for (const Case& c : cases) EXPECT_EQ(edge(c) > 200, c.edged) << c.name;
+  QApplication::setPalette(before);
+  for (const Case& c : cases) EXPECT_GT(edge(c), 60) << c.name << ", where the palette is another";
 }
 
 TEST_F(HostLooks, EdgesCanBeSeenInHighContrast) {

@@ -51,9 +51,6 @@ export class HostObjects {
   value(number) {
     return this.#kept.get(number)?.value;
   }
-  get size() {
-    return this.#kept.size;
-  }
 }
 
 /** What the machine calls: Module.host. `pages` finds the element of a number. */

@@ -120,9 +120,6 @@ export class View {
   get dialog() {
     return this.#dialogs.at(-1) ?? null;
   }
-  boxOf(dialog) {
-    return [...this.#boxes.values()].find((box) => box.dialog === dialog);
-  }
 
   /** The element was moved: its dialogs were taken off the screen. */
   moved() {

@@ -4,6 +4,7 @@
 #include <brivane/controls/Plain.h>
 #include <brivane/controls/TextBox.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/rows/AccessibleRows.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
 #include <brivane/toolkits/qt/rows/RowCanvas.h>
@@ -41,6 +42,7 @@ class AccessibleCell final : public QAccessibleInterface,
   [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
   [[nodiscard]] QWindow* window() const override { return canvas_.window()->windowHandle(); }
 
+  using AccessibleText::text;
   [[nodiscard]] QString text(QAccessible::Text which) const override {
     const Kind kind = cell_.Control().ControlKind();
     if (which == QAccessible::Name) return kind == Kind::Label ? cell_.Text() : Name(kind);
@@ -114,7 +116,7 @@ class AccessibleCell final : public QAccessibleInterface,
  private:
   [[nodiscard]] QString Name(Kind kind) const {
     const QString name = ToQt(cell_.Control().AccessibleName());
-    return kind == Kind::Hint && name.isEmpty() ? QString::fromLatin1(kHelpName) : name;
+    return kind == Kind::Hint && name.isEmpty() ? Translated(frame::TextId::Help) : name;
   }
 
   RowCanvas& canvas_;

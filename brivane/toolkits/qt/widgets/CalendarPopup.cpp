@@ -8,9 +8,12 @@
 #include <QVBoxLayout>
 
 #include <brivane/frame/Dates.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/CalendarPopup.h>
 
 namespace brivane::qt {
+
+using frame::TextId;
 
 namespace {
 
@@ -19,11 +22,8 @@ QColor WeekendOn(const QColor& paper) {
   return paper.lightness() < 128 ? QColor(0xff, 0xa0, 0x96) : QColor(0xa8, 0x12, 0x12);
 }
 
-/// Says the day as other texts of the box do.
-const QLocale& Dutch() {
-  static const QLocale dutch(QLocale::Dutch, QLocale::Netherlands);
-  return dutch;
-}
+/// Names days and months as other texts of the box do.
+QLocale NamesOfDays() { return QLocale(Translated(TextId::CalendarLocale)); }
 
 }  // namespace
 
@@ -35,12 +35,12 @@ CalendarPopup::CalendarPopup(QWidget& box, QDate shown, std::optional<QDate> tod
       calendar_(new QCalendarWidget(this)) {
   setAttribute(Qt::WA_DeleteOnClose);
   setFrameStyle(QFrame::StyledPanel);
-  setAccessibleName(QStringLiteral("Kalender"));
+  setAccessibleName(Translated(TextId::Calendar));
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(1, 1, 1, 1);
   layout->setSpacing(1);
   layout->addWidget(calendar_);
-  calendar_->setLocale(Dutch());
+  calendar_->setLocale(NamesOfDays());
   calendar_->setFirstDayOfWeek(Qt::Monday);
   calendar_->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
   // A date is typed in the box, by its rules. The calendar's own way of typing also keeps memory where it closes
@@ -53,9 +53,9 @@ CalendarPopup::CalendarPopup(QWidget& box, QDate shown, std::optional<QDate> tod
   QObject::connect(calendar_, &QCalendarWidget::activated, this, [this](QDate date) { picked_(date); });
   if (auto* const days = calendar_->findChild<QAbstractItemView*>()) days->installEventFilter(this);
   if (!today_) return;
-  auto* const button = new QPushButton(QStringLiteral("&Vandaag"), this);
+  auto* const button = new QPushButton(Translated(TextId::Today), this);
   button->setAutoDefault(true);
-  button->setToolTip(Dutch().toString(*today_, QStringLiteral("dddd d MMMM yyyy")));
+  button->setToolTip(NamesOfDays().toString(*today_, QStringLiteral("dddd d MMMM yyyy")));
   layout->addWidget(button);
   QObject::connect(button, &QPushButton::clicked, this, [this] { picked_(*today_); });
 }

@@ -70,6 +70,7 @@ bool ChoiceBox::TakesTyped(const QKeyEvent& event) const {
 
 int ChoiceBox::EntryTyped(const QString& text, int current) {
   std::vector<std::string> entries;
+  entries.reserve(static_cast<std::size_t>(count()));
   for (int i = 0; i < count(); ++i) entries.push_back(FromQt(itemText(i)));
   return typed_.Type(entries, current, FromQt(text), Now());
 }

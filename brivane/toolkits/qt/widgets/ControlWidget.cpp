@@ -2,7 +2,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 
-#include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/ChoiceBox.h>
 #include <brivane/toolkits/qt/widgets/ControlWidget.h>
 #include <brivane/toolkits/qt/widgets/SurfaceWidget.h>
@@ -14,7 +14,7 @@ ControlWidget::ControlWidget(const frame::Design& design, QWidget* parent)
       body_(std::make_shared<Body>()),
       toolkit_(body_->toolkit),
       surface_(body_->surface),
-      veil_(new QLabel(ToQt(controls::kVeil), this)) {
+      veil_(new QLabel(Translated(frame::TextId::NothingOpen), this)) {
   body_->surface = toolkit_.MakeSurface(design);
   body_->binding.emplace(*surface_);
   setLayoutDirection(Qt::LeftToRight);

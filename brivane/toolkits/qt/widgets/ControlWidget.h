@@ -23,12 +23,14 @@ namespace brivane::qt {
 /// application's unless the host sets another: at 9 points it is as designed, and it grows with the font.
 /// The size hint is the control's own size. Sizing the widget lays the control out; its height is its own.
 ///
-/// A binding that failed, and letting go of the host, leave the widget empty: it shows controls::kVeil, nothing of what
+/// A binding that failed, and letting go of the host, leave the widget empty: it says so and shows nothing of what
 /// stood there, and takes no input until a binding succeeds.
 ///
 /// The widget may be deleted at any moment, by itself or with its window: also while the control asks something, has
 /// its form open, or calls the host. What is open closes, what was going on is abandoned without a word, and nothing of
 /// the host is touched any more when the deletion comes back.
+///
+/// What holds for all of it: \ref threads, \ref ownership, \ref events, \ref failures.
 class BRIVANE_API ControlWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(QColor backColor READ backColor WRITE setBackColor)
@@ -53,6 +55,7 @@ class BRIVANE_API ControlWidget : public QWidget {
 
   /// What the control stands for.
   [[nodiscard]] controls::BindingState State() const { return body_->binding->State(); }
+  /// Whether that is a column.
   [[nodiscard]] bool IsBound() const { return State() == controls::BindingState::Bound; }
   /// Lets go of every object of the host's, and leaves the widget empty. What is being typed is handed over first; what
   /// does not pass is dropped. The factories stay, for the next binding.
@@ -66,14 +69,20 @@ class BRIVANE_API ControlWidget : public QWidget {
   /// to be dropped.
   void PutBackPending();
 
-  /// The background; the palette's until it is set.
+  /// The background; the palette's until it is set. Setting it colours each control that still has the colour of button
+  /// faces, once.
   [[nodiscard]] QColor backColor() const;
   void setBackColor(const QColor& color);
 
+  /// As wide as the design and as high as what is shown, at the size of the widget's font.
+  /// @{
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
+  /// @}
 
+  /// What the control stands on; it lives as long as the widget.
   [[nodiscard]] host::Surface& Surface() { return *surface_; }
+  /// What it runs on, with its machine; it lives as long as the widget.
   [[nodiscard]] qt::Toolkit& Toolkit() { return toolkit_; }
 
  Q_SIGNALS:
@@ -81,10 +90,12 @@ class BRIVANE_API ControlWidget : public QWidget {
   void heightChanged();
 
  protected:
+  /// Makes the surface of the design, which lives as long as the program.
   ControlWidget(const frame::Design& design, QWidget* parent);
 
   /// Makes the control behind the widget; it may fail, as the host's factories may.
   virtual void MakeControl(const host::HostFactories& factories) = 0;
+  /// Colours the control, where there is one.
   virtual void ColorControl(host::Color color) = 0;
   /// Lets the control behind the widget go of the host.
   virtual void UnbindControl() = 0;
@@ -107,9 +118,13 @@ class BRIVANE_API ControlWidget : public QWidget {
   [[nodiscard]] std::shared_ptr<const controls::Life> Life() const { return toolkit_.Life(); }
   /// Emits heightChanged. What came of a size that the widget was given is told after that event: Qt goes on with the
   /// widget then, and a host may delete it.
+  /// @{
   void TellHeight();
   void TellHeightLater();
+  /// @}
+  /// Follows the font.
   void changeEvent(QEvent* event) override;
+  /// Lays the control out.
   void resizeEvent(QResizeEvent* event) override;
 
  private:

@@ -6,6 +6,7 @@
 #include <brivane/frame/Dates.h>
 #include <brivane/toolkits/qt/Desktop.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/CalendarPopup.h>
 #include <brivane/toolkits/qt/widgets/DateBox.h>
 
@@ -48,8 +49,8 @@ std::optional<controls::DateStep> StepOf(const QKeyEvent& key) {
 DateBox::DateBox(QWidget* parent) : EntryBox(parent), icon_(new QAction(this)) {
   Edit().Tie(frame::Format::Date, nullptr, [] { return Desktop().Today(); });
   setInputMethodHints(Qt::ImhDate);
-  icon_->setText("Kalender");
-  icon_->setToolTip("Kalender (F4)");
+  icon_->setText(Translated(frame::TextId::Calendar));
+  icon_->setToolTip(Translated(frame::TextId::CalendarKey));
   addAction(icon_, QLineEdit::TrailingPosition);
   DrawIcon();
   QObject::connect(icon_, &QAction::triggered, this, [this] { OpenCalendar(); });

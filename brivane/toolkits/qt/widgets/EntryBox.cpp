@@ -14,6 +14,7 @@
 #include <brivane/controls/DrawnToolkit.h>
 #include <brivane/controls/TextBox.h>
 #include <brivane/toolkits/qt/Text.h>
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/Bubble.h>
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 
@@ -61,6 +62,8 @@ void EntryBox::ShowText(const std::string& text) {
 }
 
 void EntryBox::InsertText(const std::string& text) { insert(ToQt(text)); }
+
+const frame::Texts& EntryBox::Texts() const { return TranslatedTexts(); }
 
 void EntryBox::ShowReason(const std::string& reason) {
   Bubble::Show(*this, ToQt(reason));

@@ -53,6 +53,7 @@ class EntryBox : public QLineEdit, private controls::EntryFace {
   void TakeFocus() override { setFocus(Qt::OtherFocusReason); }
   [[nodiscard]] bool ReadOnly() const override { return isReadOnly(); }
   [[nodiscard]] bool IsAtHand() const override { return isVisible() && isEnabled(); }
+  [[nodiscard]] const frame::Texts& Texts() const override;
   void ShowReason(const std::string& reason) override;
   void ShowNote(const std::string& note) override;
   void HideReason() override;

@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <brivane/toolkits/qt/Texts.h>
 #include <brivane/toolkits/qt/widgets/HelpIcon.h>
 
 namespace brivane::qt {
@@ -35,7 +36,7 @@ void PaintHelpIcon(QPainter& painter, const QRect& rect, const QPalette& palette
 HelpIcon::HelpIcon(const QString& help, QWidget* parent) : QAbstractButton(parent), help_(help) {
   setFocusPolicy(Qt::StrongFocus);
   setToolTip(WrappedToolTip(help));
-  setAccessibleName(QString::fromLatin1(kHelpName));
+  setAccessibleName(Translated(frame::TextId::Help));
   setAccessibleDescription(help);
   QObject::connect(this, &QAbstractButton::clicked, this, [this] { ShowHelp(); });
 }

@@ -22,9 +22,6 @@ class HelpIcon : public QAbstractButton {
   QString help_;
 };
 
-/// What a screen reader calls an icon whose design gives it no label.
-inline constexpr char kHelpName[] = "Hulp";
-
 /// Paints the icon, for help icons that are no widgets of their own.
 void PaintHelpIcon(QPainter& painter, const QRect& rect, const QPalette& palette, bool focused);
 

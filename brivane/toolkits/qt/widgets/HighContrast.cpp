@@ -1,10 +1,20 @@
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
+#include <QStyleOptionSlider>
+#include <QToolButton>
 
 #include <brivane/toolkits/qt/widgets/HighContrast.h>
 
@@ -35,6 +45,43 @@ QRect FrameOf(const QGroupBox& group) {
   return frame;
 }
 
+QRect SliderOf(const QScrollBar& bar) {
+  QStyleOptionSlider option;
+  option.initFrom(&bar);
+  option.orientation = bar.orientation();
+  option.state.setFlag(QStyle::State_Horizontal, bar.orientation() == Qt::Horizontal);
+  option.minimum = bar.minimum();
+  option.maximum = bar.maximum();
+  option.sliderPosition = bar.sliderPosition();
+  option.sliderValue = bar.value();
+  option.singleStep = bar.singleStep();
+  option.pageStep = bar.pageStep();
+  option.upsideDown = bar.invertedAppearance();
+  return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
+}
+
+/// Whether a style draws an edge around it.
+bool HasAnEdge(const QWidget& widget) {
+  if (const auto* const line = qobject_cast<const QLineEdit*>(&widget)) return line->hasFrame();
+  if (const auto* const list = qobject_cast<const QComboBox*>(&widget)) return list->hasFrame();
+  if (const auto* const spin = qobject_cast<const QAbstractSpinBox*>(&widget)) return spin->hasFrame();
+  if (const auto* const button = qobject_cast<const QPushButton*>(&widget)) return !button->isFlat();
+  if (const auto* const area = qobject_cast<const QAbstractScrollArea*>(&widget))
+    return area->frameShape() != QFrame::NoFrame;
+  // What stands inside a box has the box's.
+  if (qobject_cast<const QToolButton*>(&widget) != nullptr)
+    return qobject_cast<const QLineEdit*>(widget.parentWidget()) == nullptr;
+  return qobject_cast<const QCheckBox*>(&widget) != nullptr || qobject_cast<const QRadioButton*>(&widget) != nullptr ||
+         qobject_cast<const QGroupBox*>(&widget) != nullptr || qobject_cast<const QMenu*>(&widget) != nullptr ||
+         qobject_cast<const QScrollBar*>(&widget) != nullptr;
+}
+
+/// One that lies flat in a bar has an edge only while the keys go to it.
+bool LiesFlat(const QWidget& widget) {
+  const auto* const button = qobject_cast<const QToolButton*>(&widget);
+  return button != nullptr && button->autoRaise() && !button->hasFocus();
+}
+
 class Outline final : public QObject {
  public:
   using QObject::QObject;
@@ -42,7 +89,8 @@ class Outline final : public QObject {
   /// After the widget has painted itself.
   bool eventFilter(QObject* watched, QEvent* event) override {
     auto& widget = static_cast<QWidget&>(*watched);
-    if (event->type() != QEvent::Paint || drawing_ || !IsHighContrast(widget.palette())) return false;
+    if (event->type() != QEvent::Paint || drawing_ || !IsHighContrast(widget.palette()) || LiesFlat(widget))
+      return false;
     drawing_ = true;
     watched->event(event);
     drawing_ = false;
@@ -64,12 +112,26 @@ class Outline final : public QObject {
       painter.drawRect(inside(IndicatorOf(*tick, QStyle::SE_CheckBoxIndicator)));
     } else if (const auto* const group = qobject_cast<const QGroupBox*>(&widget)) {
       painter.drawRect(inside(FrameOf(*group)));
+    } else if (const auto* const bar = qobject_cast<const QScrollBar*>(&widget)) {
+      painter.drawRect(inside(SliderOf(*bar)));
     } else {
       painter.drawRect(inside(widget.rect()));
     }
   }
 
   bool drawing_ = false;
+};
+
+/// Gives each widget its outline when it is about to be shown for the first time.
+class OutlineAll final : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Polish && watched->isWidgetType() && HasAnEdge(static_cast<QWidget&>(*watched)))
+      OutlineInHighContrast(static_cast<QWidget&>(*watched));
+    return false;
+  }
 };
 
 }  // namespace
@@ -81,5 +143,9 @@ bool IsHighContrast(const QPalette& palette) {
 }
 
 void OutlineInHighContrast(QWidget& widget) { widget.installEventFilter(new Outline(&widget)); }
+
+void OutlineAllInHighContrast(QObject& owner) {
+  QCoreApplication::instance()->installEventFilter(new OutlineAll(&owner));
+}
 
 }  // namespace brivane::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+class QObject;
 class QPalette;
 class QWidget;
 
@@ -11,5 +12,9 @@ namespace brivane::qt {
 /// Draws the edge of a box, a list, a button, a tick, an option or a frame in the colour of the text where the palette
 /// has high contrast: a style mixes edges from the background, and on black there is nothing to mix.
 void OutlineInHighContrast(QWidget& widget);
+
+/// Does so for all that has an edge in every window that this program shows for the first time from now on, for as long
+/// as the owner lives. From the thread of the widgets.
+void OutlineAllInHighContrast(QObject& owner);
 
 }  // namespace brivane::qt

@@ -27,7 +27,6 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   void InsertText(const std::string& text) override;
   void SelectAll() override { Page().Show(Node(), Shows::Selected); }
   [[nodiscard]] bool HasFocus() const override { return Page().Ask(Node(), Asked::HasFocus); }
-  void TakeFocus(int) { NodePeer::TakeFocus(); }
   [[nodiscard]] bool ReadOnly() const override { return box_.Locked(); }
   [[nodiscard]] bool IsAtHand() const override { return Page().Ask(Node(), Asked::IsAtHand); }
   void ShowReason(const std::string& reason) override { Page().Show(Node(), Shows::Reason, 0, reason); }

@@ -50,6 +50,7 @@ class BoxWindow : public ControlWindow, private controls::EntryFace {
   void SelectAll() override;
   [[nodiscard]] bool HasFocus() const override { return GetFocus() == Handle(); }
   [[nodiscard]] bool IsAtHand() const override;
+  [[nodiscard]] const frame::Texts& Texts() const override { return Toolkit().Texts(); }
   void ShowReason(const std::string& reason) override;
   void ShowNote(const std::string& note) override;
   void HideReason() override { bubble_.reset(); }

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <brivane/frame/Phrase.h>
 #include <brivane/toolkits/win32/controls/HintWindow.h>
 #include <brivane/toolkits/win32/form/FormWindow.h>
 #include <brivane/toolkits/win32/window/Text.h>
@@ -10,7 +11,7 @@ HintWindow::HintWindow(controls::Hint& hint, win32::Toolkit& toolkit)
     : ControlWindow(hint, toolkit,
                     {.className = L"BUTTON",
                      .style = WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP | BS_PUSHBUTTON,
-                     .text = L"Help: " + Wide(hint.HelpText())}),
+                     .text = Wide(frame::Phrase(frame::TextId::HelpOn, {hint.HelpText()}).In(toolkit.Texts()))}),
       hint_(hint) {}
 
 void HintWindow::ShowHelp() { tip_.Show(Toolkit(), Handle(), Wide(hint_.HelpText()), Font()); }

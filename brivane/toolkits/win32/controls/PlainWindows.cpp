@@ -68,7 +68,7 @@ void SurfaceWindow::ShowVeil() {
   if (const HWND focus = GetFocus(); veiled && (focus == Handle() || IsChild(Handle(), focus) != FALSE))
     SetFocus(GetParent(Handle()));
   EnableWindow(Handle(), !veiled && surface_.Host().Enabled() ? TRUE : FALSE);
-  SetText(veiled ? std::string(controls::kVeil) : std::string());
+  SetText(veiled ? Toolkit().Texts().Of(frame::TextId::NothingOpen) : std::string());
   RedrawWindow(Handle(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
 }
 
@@ -79,7 +79,8 @@ void SurfaceWindow::DrawVeil(HDC context) const {
   SetBkMode(context, TRANSPARENT);
   const std::optional<COLORREF> own = OwnColor(BackgroundOf(surface_));
   SetTextColor(context, own ? TextOn(*own) : GetSysColor(COLOR_BTNTEXT));
-  DrawTextW(context, Wide(controls::kVeil).c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+  const std::wstring text = Wide(Toolkit().Texts().Of(frame::TextId::NothingOpen));
+  DrawTextW(context, text.c_str(), -1, &area, DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
   SelectObject(context, before);
 }
 

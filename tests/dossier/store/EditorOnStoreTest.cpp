@@ -1,9 +1,9 @@
-#include <QtEndian>
+#include <functional>
 
 #include "tests/dossier/store/Desk.h"
-#include "tests/dossier/store/Files.h"
+#include "tests/dossier/store/Shelf.h"
 
-// The real editor on a loan file: what an adviser accepts is in the file before the handler returns.
+// The real editor on every store: what an adviser accepts is stored before the handler returns.
 namespace brivane::dossier {
 namespace {
 
@@ -17,37 +17,13 @@ using controls::Toggle;
 
 host::Date DateOf(int day, int month, int year) { return frame::MakeDate({.year = year, .month = month, .day = day}); }
 
-/// How many transactions the write-ahead log of an open file holds: frames that end one name the file's size.
-int Transactions(const QString& path) {
-  constexpr qsizetype kLogHeader = 32;
-  constexpr qsizetype kFrameHeader = 24;
-  const QByteArray log = Bytes(path + QStringLiteral("-wal"));
-  if (log.size() < kLogHeader) return 0;
-  const auto page = static_cast<qsizetype>(qFromBigEndian<quint32>(log.constData() + 8));
-  const QByteArray salt = log.mid(16, 8);
-  int transactions = 0;
-  for (qsizetype position = kLogHeader; position + kFrameHeader + page <= log.size(); position += kFrameHeader + page) {
-    // Frames of an earlier round of the log carry another salt.
-    if (log.mid(position + 8, 8) != salt) break;
-    if (qFromBigEndian<quint32>(log.constData() + position + 4) != 0) ++transactions;
-  }
-  return transactions;
-}
-
-class EditorOnFileTest : public testing::Test {
+class EditorOnStoreTest : public EveryStoreTest {
  protected:
-  EditorOnFileTest() { desk_.Bind(0, 1); }
+  EditorOnStoreTest() { desk_.Bind(0, 1); }
 
-  /// What the disk holds at this moment: the file and its log, copied and opened elsewhere.
-  [[nodiscard]] DossierGegevens OnDisk() const {
-    const Folder copy;
-    EXPECT_TRUE(QFile::copy(path_, copy.Path()));
-    if (QFileInfo::exists(path_ + "-wal")) {
-      EXPECT_TRUE(QFile::copy(path_ + "-wal", copy.Path("test.dossier-wal")));
-    }
-    return ReadBack(copy.Path());
-  }
-  [[nodiscard]] KolomGegevens KolomOnDisk(std::int16_t Vrij_Id) const {
+  /// What is stored at this moment, for somebody else.
+  [[nodiscard]] DossierGegevens OnDisk() { return ReadBack(name_); }
+  [[nodiscard]] KolomGegevens KolomOnDisk(std::int16_t Vrij_Id) {
     for (const KolomGegevens& kolom : OnDisk().HuidigeLening.VrijeKolommen) {
       if (kolom.Id == Vrij_Id) return kolom;
     }
@@ -56,18 +32,17 @@ class EditorOnFileTest : public testing::Test {
   }
   /// Runs an action and answers how many transactions it took.
   int TransactionsOf(const std::function<void()>& action) {
-    const int before = Transactions(path_);
+    const int before = shelf_->Transactions(name_);
     action();
-    return Transactions(path_) - before;
+    return shelf_->Transactions(name_) - before;
   }
 
-  Folder folder_;
-  QString path_ = folder_.Make();
-  std::unique_ptr<DossierFile> file_ = DossierFile::Open(path_);
-  Desk desk_{*file_};
+  QString name_ = shelf_->Make();
+  std::unique_ptr<DossierStore> store_ = shelf_->Open(name_);
+  Desk desk_{*store_};
 };
 
-TEST_F(EditorOnFileTest, BindingStoresNothing) {
+TEST_F(EditorOnStoreTest, BindingStoresNothing) {
   EXPECT_EQ(TransactionsOf([&] {
               for (const std::int16_t id : {1, 2, 3, 4, 5, 6}) desk_.Bind(0, id);
             }),
@@ -75,7 +50,7 @@ TEST_F(EditorOnFileTest, BindingStoresNothing) {
   EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOnFileTest, EachAcceptedEditIsOneTransaction) {
+TEST_F(EditorOnStoreTest, EachAcceptedEditIsOneTransaction) {
   desk_.Bind(0, 3);
   const auto act = [&](std::string_view name, const controls::Action& action, int index = frame::kNoIndex) {
     SCOPED_TRACE(name);
@@ -118,16 +93,16 @@ TEST_F(EditorOnFileTest, EachAcceptedEditIsOneTransaction) {
   EXPECT_EQ(kolom.Maatschappij, "BV");
   EXPECT_EQ(kolom.Productnaam, "Zaterdag");
   EXPECT_EQ(kolom.Contractvervaldatum, DateOf(31, 12, 2029));
-  EXPECT_EQ(file_->Dossier()->FindKolom(0, 3)->Gegevens(), kolom);
+  EXPECT_EQ(store_->Dossier()->FindKolom(0, 3)->Gegevens(), kolom);
   EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOnFileTest, ARefusedEditStoresNothing) {
+TEST_F(EditorOnStoreTest, ARefusedEditStoresNothing) {
   EXPECT_EQ(TransactionsOf([&] { EXPECT_EQ(desk_.Do("TxtDtAanvang", Enter{}), Outcome::Refused); }), 0);
   EXPECT_EQ(KolomOnDisk(1).DatumAanvang, DateOf(1, 9, 2024));
 }
 
-TEST_F(EditorOnFileTest, AHandlerThatFailsKeepsWhatItWrote) {
+TEST_F(EditorOnStoreTest, AHandlerThatFailsKeepsWhatItWrote) {
   // The start date is written; the end date, 96 months later, would lie past the year 9999.
   EXPECT_EQ(TransactionsOf([&] { desk_.Do("TxtDtAanvang", Enter{DateOf(1, 12, 9999)}); }), 1);
   ASSERT_EQ(desk_.reports.size(), 1u);
@@ -138,7 +113,7 @@ TEST_F(EditorOnFileTest, AHandlerThatFailsKeepsWhatItWrote) {
   EXPECT_EQ(TransactionsOf([&] { desk_.Do("TxtOm", Enter{std::string("daarna")}); }), 1);
 }
 
-TEST_F(EditorOnFileTest, ChoosingOneOffEmptiesTheScenarioInTheSameTransaction) {
+TEST_F(EditorOnStoreTest, ChoosingOneOffEmptiesTheScenarioInTheSameTransaction) {
   EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
   EXPECT_EQ(TransactionsOf([&] { desk_.Do("cboTermijn", Choose{4}); }), 1);
   const KolomGegevens kolom = KolomOnDisk(1);
@@ -147,7 +122,7 @@ TEST_F(EditorOnFileTest, ChoosingOneOffEmptiesTheScenarioInTheSameTransaction) {
   EXPECT_TRUE(kolom.Bedrag.Perioden.empty());
 }
 
-TEST_F(EditorOnFileTest, TickingAProposalRegistersTheColumnInTheSameTransaction) {
+TEST_F(EditorOnStoreTest, TickingAProposalRegistersTheColumnInTheSameTransaction) {
   desk_.Editor().SetBeeindigenZichtbaar(true);
   EXPECT_EQ(TransactionsOf([&] { desk_.Do("ChkVoorstel", Tick{1}, 2); }), 1);
   EXPECT_TRUE(OnDisk().Voorstellen[1].contains(1));
@@ -157,9 +132,9 @@ TEST_F(EditorOnFileTest, TickingAProposalRegistersTheColumnInTheSameTransaction)
   EXPECT_EQ(KolomOnDisk(1).Voorstel[1], "N");
 }
 
-TEST_F(EditorOnFileTest, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) {
-  file_->Dossier()->MakeAfwijking(1, 2);
-  file_->Dossier()->VoegToeAanVoorstel(3, 1);
+TEST_F(EditorOnStoreTest, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) {
+  store_->Dossier()->MakeAfwijking(1, 2);
+  store_->Dossier()->VoegToeAanVoorstel(3, 1);
   desk_.Do("TxtOm", Enter{std::string("Buitenschoolse opvang")});
   desk_.Toolkit().Desktop().answer = [](const auto&...) { return host::MessageAnswer::Yes; };
   bool cancel = false;
@@ -171,21 +146,21 @@ TEST_F(EditorOnFileTest, TheYesToCarryOverIsStoredWithTheVersionsThatItRemoves) 
   }
   EXPECT_FALSE(dossier.Voorstellen[2].contains(1));
   // The new situation now takes over the column as it was changed.
-  const auto following = file_->Dossier()->VolgtHuidigeSituatie();
+  const auto following = store_->Dossier()->VolgtHuidigeSituatie();
   EXPECT_TRUE(std::any_of(following.begin(), following.end(),
                           [](const auto& kolom) { return kolom->Omschrijving() == "Buitenschoolse opvang"; }));
 }
 
-TEST_F(EditorOnFileTest, AnEditThatWaitsInTheQueueIsStoredBeforeTheCheckThatLetItRunGoesOn) {
+TEST_F(EditorOnStoreTest, AnEditThatWaitsInTheQueueIsStoredBeforeTheCheckThatLetItRunGoesOn) {
   desk_.Bind(0, 5);
   // The check of the explanation lets a waiting edit run, and then refuses.
   desk_.Toolkit().Desktop().pending = [&] { desk_.Do("TxtBd", Enter{7000.0}); };
   desk_.Do("Toelichting.TxtPcOvergang", Enter{0.5});
   int transactionsAtTheMessage = -1;
-  const int before = Transactions(path_);
+  const int before = shelf_->Transactions(name_);
   desk_.Toolkit().Desktop().today = DateOf(1, 1, 2050);
   desk_.Toolkit().Desktop().answer = [&](const auto&...) {
-    transactionsAtTheMessage = Transactions(path_) - before;
+    transactionsAtTheMessage = shelf_->Transactions(name_) - before;
     return host::MessageAnswer::Ok;
   };
   bool cancel = false;
@@ -194,14 +169,14 @@ TEST_F(EditorOnFileTest, AnEditThatWaitsInTheQueueIsStoredBeforeTheCheckThatLetI
   EXPECT_EQ(transactionsAtTheMessage, 1);
 }
 
-TEST_F(EditorOnFileTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWithItsOk) {
+TEST_F(EditorOnStoreTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWithItsOk) {
   desk_.Toolkit().modal = [&](controls::Form& form) {
     EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 1)->Perform(Enter{500.0}); }), 1);
     EXPECT_EQ(KolomOnDisk(1).Bedrag.Bedrag, 500);
     EXPECT_EQ(TransactionsOf([&] { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); }), 0);
     EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
     EXPECT_EQ(TransactionsOf([&] { form.Find("cmdOK")->Perform(Press{}); }), 1);
-    EXPECT_EQ(file_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+    EXPECT_EQ(store_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
   };
   EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
   const KolomGegevens kolom = KolomOnDisk(1);
@@ -213,12 +188,12 @@ TEST_F(EditorOnFileTest, TheScenarioFormStoresTheFirstRowAtOnceAndThePeriodsWith
   EXPECT_TRUE(desk_.reports.empty());
 }
 
-TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransactionBeforeItTells) {
+TEST_F(EditorOnStoreTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransactionBeforeItTells) {
   int messages = 0;
   desk_.Toolkit().Desktop().answer = [&](const std::string&, const std::string&, host::MessageStyle) {
     ++messages;
     // Nothing is undone: the list was emptied before the third row could not be read.
-    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, file_->Dossier()->FindKolom(0, 1)->Gegevens().Bedrag.Perioden);
+    EXPECT_EQ(KolomOnDisk(1).Bedrag.Perioden, store_->Dossier()->FindKolom(0, 1)->Gegevens().Bedrag.Perioden);
     EXPECT_NE(KolomOnDisk(1).Bedrag.Perioden.size(), 2u);
     return host::MessageAnswer::Ok;
   };
@@ -234,10 +209,10 @@ TEST_F(EditorOnFileTest, AnOkOfTheScenarioFormThatFailsHalfwayEndsItsTransaction
   };
   EXPECT_EQ(desk_.Do("cmdScenario", Press{}), Outcome::Done);
   EXPECT_EQ(messages, 1);
-  EXPECT_EQ(file_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
+  EXPECT_EQ(store_->Dossier()->FindKolom(0, 1)->Gegevens(), KolomOnDisk(1));
 }
 
-TEST_F(EditorOnFileTest, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
+TEST_F(EditorOnStoreTest, AScenarioFormThatIsClosedLeavesThePeriodsAsTheyWere) {
   const std::vector<PeriodeGegevens> before = KolomOnDisk(1).Bedrag.Perioden;
   desk_.Toolkit().modal = [&](controls::Form& form) { form.Find("txtBedrag", 3)->Perform(Enter{600.0}); };
   EXPECT_EQ(TransactionsOf([&] { desk_.Do("cmdScenario", Press{}); }), 0);

@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "dossier/office/ClientTables.h"
+#include "dossier/office/OfficeConnection.h"
+#include "dossier/office/Reconnection.h"
+#include "dossier/store/EditKeeper.h"
+
+namespace brivane::dossier {
+
+/// Who edits a client, since when; nobody where the name is empty.
+struct Holder {
+  QString naam;
+  QDateTime sinds;
+};
+
+/// A client of an office that is open in this program: whether it may edit it, and the way of each edit to the server.
+///
+/// An edit is one statement, which checks the lease, writes rows and history and commits before it answers. Where the
+/// answer is lost the edit is looked up by its identifier once that is certain, and is never sent a second time.
+class ClientSession final : public EditKeeper {
+ public:
+  enum class State {
+    Editing,  ///< it is taken up here
+    Reading,  ///< somebody else has it, or this account only reads
+    Broken    ///< there is no connection
+  };
+
+  /// Reads the client, and takes it up where that can be. Throws OfficeError.
+  ClientSession(std::shared_ptr<OfficeConnection> office, int client);
+  ~ClientSession() override;
+
+  [[nodiscard]] State Now() const { return state_; }
+  [[nodiscard]] int Client() const { return client_; }
+  [[nodiscard]] OfficeConnection& Office() { return *office_; }
+  /// Who else has it, as far as this program was told.
+  [[nodiscard]] const Holder& HeldBy() const { return holder_; }
+  [[nodiscard]] ClientTables& Tables() { return tables_; }
+
+  void Begin() override;
+  void Keep(Database& tables) override;
+
+  /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
+  /// OfficeError.
+  bool LookAround();
+  /// Takes the client up where nobody has it any more; answers whether it is taken up here now. The tables are to be
+  /// filled anew where it answers so and LookAround does. Throws OfficeError.
+  bool Take();
+  /// Lets another have it.
+  void LetGo() noexcept;
+  /// Asks who has it to let it go. Throws OfficeError.
+  void Ask();
+  /// Tries to begin a new session after the connection broke; `tries` have failed before. Answers what came of it,
+  /// nothing where the server is not reached.
+  std::optional<Verdict> Reconnect() noexcept;
+  /// A statement met a connection that is gone.
+  void Broke();
+  [[nodiscard]] int Tries() const { return tries_; }
+  /// What holds of the connection, this client and nobody else's.
+  [[nodiscard]] QString Channel() const { return QStringLiteral("kantoor_%1").arg(client_); }
+  /// There is an edit whose outcome is not known.
+  [[nodiscard]] bool HasUnknownEdit() const { return pending_.has_value(); }
+  /// The tables hold something else than the office: they are to be filled anew before anything is edited.
+  [[nodiscard]] bool IsBehind() const { return behind_; }
+  /// Fills the tables anew. Throws OfficeError.
+  void Fill();
+
+ private:
+  struct Pending {
+    QString edit;
+    std::int64_t step;
+  };
+
+  [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
+  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
+  void TakeUp();
+  void Follow();
+  void FollowNoMore();
+
+  std::shared_ptr<OfficeConnection> office_;
+  int client_;
+  ClientTables tables_;
+  State state_ = State::Reading;
+  QString token_;
+  Holder holder_;
+  int pid_ = 0;
+  std::optional<Pending> pending_;
+  int tries_ = 0;
+  bool behind_ = false;
+  bool follows_ = false;
+  std::int64_t names_ = 0;
+  /// What the last new session found: the time of the edit that was looked up, and the last step.
+  std::int64_t found_time_ = 0;
+  std::int64_t found_step_ = 0;
+};
+
+}  // namespace brivane::dossier

@@ -1,0 +1,66 @@
+#include "dossier/office/OfficeError.h"
+
+#include <QSqlError>
+#include <string_view>
+
+namespace brivane::dossier {
+namespace {
+
+struct Meaning {
+  /// A code, or the class that it begins with.
+  std::string_view code;
+  OfficeProblem problem;
+};
+
+/// The first that fits counts. Codes that begin with KT are the office's own.
+constexpr Meaning kMeanings[] = {
+    {"KT001", OfficeProblem::LeaseLost},   {"KT002", OfficeProblem::Stale},       {"KT003", OfficeProblem::NoClient},
+    {"08", OfficeProblem::Unreachable},    {"57P01", OfficeProblem::Unreachable},  // the session was ended
+    {"57P02", OfficeProblem::Unreachable},                                         // the server went down
+    {"57P03", OfficeProblem::Unreachable},                                         // it is starting
+    {"57P05", OfficeProblem::Unreachable},                                         // the session was idle for too long
+    {"53300", OfficeProblem::Unreachable},                                         // too many sessions
+    {"28", OfficeProblem::NotAdmitted},    {"3D000", OfficeProblem::NoOffice},    {"3F000", OfficeProblem::NoOffice},
+    {"42883", OfficeProblem::NoOffice},    {"42501", OfficeProblem::NotAllowed},  {"53100", OfficeProblem::DiskFull}};
+
+}  // namespace
+
+OfficeProblem ProblemOf(const std::string& sqlstate) {
+  if (sqlstate.empty()) return OfficeProblem::Unreachable;
+  for (const Meaning& one : kMeanings) {
+    if (sqlstate.starts_with(one.code)) return one.problem;
+  }
+  return OfficeProblem::Refused;
+}
+
+OfficeError::OfficeError(const QSqlError& error)
+    : std::runtime_error(error.databaseText().toStdString()),
+      problem_(ProblemOf(error.nativeErrorCode().toStdString())) {}
+
+std::string OfficeError::Oorzaak() const {
+  switch (problem_) {
+    case OfficeProblem::Unreachable: return "er is geen verbinding met het kantoor";
+    case OfficeProblem::NotAdmitted: return "het kantoor kent u niet onder deze naam of dit wachtwoord";
+    case OfficeProblem::NoOffice: return "op deze server is geen kantoor ingericht";
+    case OfficeProblem::Older: return "het kantoor is ingericht voor een eerdere versie; de beheerder werkt het bij";
+    case OfficeProblem::Newer: return "het kantoor is van een nieuwere versie; werk dit programma bij";
+    case OfficeProblem::NotAllowed: return "u hebt daar op dit kantoor het recht niet toe";
+    case OfficeProblem::NoClient: return "deze cliënt is er niet (meer), of niet voor uw team";
+    case OfficeProblem::LeaseLost: return "een ander is in dit dossier gaan werken";
+    case OfficeProblem::Stale: return "het dossier is intussen door een ander gewijzigd";
+    case OfficeProblem::DiskFull: return "de schijf van het kantoor is vol";
+    case OfficeProblem::Refused: break;
+  }
+  return std::string("het kantoor weigert: ") + what();
+}
+
+QString OfficeError::Melding() const {
+  QString text = QString::fromStdString(Oorzaak());
+  text[0] = text[0].toUpper();
+  // A server that is not reached, or lets nobody in, gives no code: its own words tell which.
+  const QString said = QString::fromUtf8(what()).section(u'\n', 0, 0).trimmed();
+  if (problem_ == OfficeProblem::Unreachable && !said.isEmpty()) text += QStringLiteral(" (%1)").arg(said);
+  return text + u'.';
+}
+
+}  // namespace brivane::dossier

@@ -1,0 +1,200 @@
+#include "dossier/office/OfficeStore.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "dossier/store/DossierFile.h"
+#include "dossier/store/FileJournal.h"
+#include "dossier/store/Reader.h"
+
+namespace brivane::dossier {
+namespace {
+
+/// How often it is looked whether who had the client is gone: nobody tells of a session that ended.
+constexpr std::chrono::milliseconds kLook{2000};
+/// The same where it is edited here: whether the connection is still there.
+constexpr std::chrono::milliseconds kHeartbeat{10000};
+/// Until what is behind is read anew.
+constexpr std::chrono::milliseconds kSoon{50};
+
+host::Error AsFailure(const OfficeError& error) {
+  return {error.Problem() == OfficeProblem::Unreachable ? kOfficeError : kRefusedError,
+          "Dit kan nu niet: " + error.Oorzaak() + ".", "Dossier"};
+}
+
+}  // namespace
+
+OfficeStore::OfficeStore(std::shared_ptr<OfficeConnection> office, int client)
+    : session_(std::make_shared<ClientSession>(std::move(office), client)) {
+  StoredDossier contents = ReadDossier(session_->Tables().Tables());
+  auto goal = std::make_shared<std::weak_ptr<dossier::Dossier>>();
+  journal_ = std::make_shared<FileJournal>(
+      session_->Tables().Release(), contents,
+      [goal](DossierGegevens gegevens) {
+        if (const auto dossier = goal->lock()) dossier->Herlaad(std::move(gegevens));
+      },
+      nullptr, session_);
+  journal_->SetAuthor(session_->Office().User().name);
+  auto environment = std::make_shared<Environment>();
+  environment->Journal = journal_;
+  environment->Kopteksten = std::make_shared<BerekendeKopteksten>();
+  dossier_ = std::make_shared<dossier::Dossier>(std::move(contents.gegevens), std::move(environment));
+  *goal = dossier_;
+  told_state_ = session_->Now();
+  told_holder_ = session_->HeldBy().naam;
+  subscriptions_ +=
+      session_->Office().Told.Connect([this](const QString& channel, const QString& what) { Told(channel, what); });
+  // Whether the connection broke shows when an edit ends.
+  subscriptions_ += journal_->Bewerkingen().Failed.Connect([this](const StoreFailure&) { Plan(); });
+  subscriptions_ += journal_->Bewerkingen().Stored.Connect([this] { Plan(); });
+  if (QCoreApplication::instance() == nullptr) return;
+  timer_ = std::make_unique<QTimer>();
+  timer_->setSingleShot(true);
+  QObject::connect(timer_.get(), &QTimer::timeout, [this] { Attend(); });
+  Plan();
+}
+
+OfficeStore::~OfficeStore() {
+  subscriptions_ = {};
+  timer_.reset();
+  journal_->Sluit();
+  session_->LetGo();
+}
+
+std::unique_ptr<OfficeStore> OfficeStore::Open(std::shared_ptr<OfficeConnection> office, int client) {
+  return std::unique_ptr<OfficeStore>(new OfficeStore(std::move(office), client));
+}
+
+QString OfficeStore::Naam() const {
+  const std::vector<PersoonGegevens> personen = dossier_->Personen();
+  QStringList parts;
+  for (const std::string& part : personen.front().Naam) {
+    if (!part.empty()) parts << QString::fromStdString(part);
+  }
+  return parts.join(u' ');
+}
+
+std::shared_ptr<Edits> OfficeStore::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
+
+void OfficeStore::ReadHistory() const {
+  try {
+    session_->Tables().FillHistory();
+  } catch (const OfficeError& error) {
+    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    throw AsFailure(error);
+  }
+}
+
+std::vector<Entry> OfficeStore::Next(StepKind kind) const {
+  if (Now() != State::Editing) return {};
+  // The last step is there from the start, so that a menu can name it.
+  const std::int64_t next = journal_->NextStep(kind);
+  if (next != 0 && (kind == StepKind::Redo || next != session_->Tables().LastStep())) ReadHistory();
+  return journal_->Next(kind);
+}
+
+std::optional<Done> OfficeStore::Take(StepKind kind) {
+  ReadHistory();
+  return journal_->Take(kind);
+}
+
+std::unique_ptr<HistoryView> OfficeStore::Geschiedenis() const {
+  ReadHistory();
+  return std::make_unique<HistoryView>(*journal_->Bestand());
+}
+
+void OfficeStore::Kopieer(const QString& pad) const {
+  try {
+    session_->Tables().FillHistory();
+  } catch (const OfficeError&) {
+    throw OpeningError(OpeningProblem::CannotCreate, pad);
+  }
+  DossierFile::Maak(pad, *journal_->Bestand());
+}
+
+bool OfficeStore::TakeOver() {
+  const bool mine = session_->Take();
+  if (session_->IsBehind()) Reload();
+  TellIfChanged();
+  return mine;
+}
+
+void OfficeStore::LetGo() {
+  session_->LetGo();
+  TellIfChanged();
+}
+
+void OfficeStore::Ask() { session_->Ask(); }
+
+void OfficeStore::Attend() {
+  if (Now() == State::Broken) {
+    const bool unknown = session_->HasUnknownEdit();
+    const std::optional<Verdict> verdict = session_->Reconnect();
+    if (verdict && unknown) settled_ = verdict->outcome;
+  } else {
+    Try([&] { session_->LookAround(); });
+  }
+  // What somebody is at work on stays as it is until he is done.
+  if (Now() != State::Broken && journal_->Bewerkingen().IsQuiet()) {
+    if (session_->IsBehind()) Try([&] { Reload(); });
+    if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
+  }
+  TellIfChanged();
+}
+
+void OfficeStore::Told(const QString& channel, const QString& what) {
+  if (channel != session_->Channel() || !timer_) return;
+  // The driver is still at work here: what is done about it comes after.
+  constexpr char kAsks[] = "vraag ";
+  if (what.startsWith(QLatin1String(kAsks))) {
+    const QString who = what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1);
+    QTimer::singleShot(0, timer_.get(), [this, who] {
+      if (Now() == State::Editing) Asked.Raise(who);
+    });
+    return;
+  }
+  // What is told is a hint to look: anybody on the server may tell.
+  if (Now() == State::Reading) timer_->start(0);
+}
+
+template <class Action> void OfficeStore::Try(Action&& action) {
+  try {
+    action();
+  } catch (const OfficeError& error) {
+    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+  } catch (const DatabaseError&) {
+    // Nothing is edited until the next reading succeeds.
+  }
+}
+
+void OfficeStore::Reload() {
+  session_->Fill();
+  journal_->Refilled();
+  Herladen.Raise();
+}
+
+void OfficeStore::TellIfChanged() {
+  Plan();
+  if (Now() == told_state_ && HeldBy().naam == told_holder_) return;
+  told_state_ = Now();
+  told_holder_ = HeldBy().naam;
+  Changed.Raise();
+}
+
+void OfficeStore::Plan() {
+  if (!timer_) return;
+  if (Now() == State::Broken) {
+    // A window shows it at once.
+    timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
+  } else if (told_state_ != Now()) {
+    timer_->start(0);
+  } else if (session_->IsBehind() || settled_) {
+    timer_->start(kSoon);
+  } else {
+    timer_->start(Now() == State::Reading ? kLook : kHeartbeat);
+  }
+}
+
+}  // namespace brivane::dossier

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "dossier/office/ClientSession.h"
+#include "dossier/store/DossierStore.h"
+
+class QTimer;
+
+namespace brivane::dossier {
+
+class FileJournal;
+
+/// A client of an office, open in this program, with its case in memory.
+///
+///     auto office = std::make_shared<OfficeConnection>(words);
+///     office->OpenOffice();                              // OfficeError: show its Melding()
+///     auto client = OfficeStore::Open(office, 17);
+///     client->Changed.Connect([&] { /* who may edit, or the connection, is another: State(), HeldBy() */ });
+///     client->Herladen.Connect([&] { /* what is on the screen is old: bind anew */ });
+///
+/// It is taken up to be edited where nobody else has it; else it opens to be read, and follows what the other stores.
+/// With an event loop it looks after itself: it is told of edits, looks whether the other is gone, and tries again
+/// where the connection broke. A program without one calls Attend.
+class OfficeStore final : public DossierStore {
+ public:
+  using State = ClientSession::State;
+
+  /// Throws OfficeError, with NoClient where there is no such client or none for this account.
+  [[nodiscard]] static std::unique_ptr<OfficeStore> Open(std::shared_ptr<OfficeConnection> office, int client);
+  ~OfficeStore() override;
+
+  [[nodiscard]] QString Naam() const override;
+  [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const override { return dossier_; }
+  [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen() override;
+  /// Somebody else has it, or this account only reads. Where the connection broke nothing is stored either, but what
+  /// was edited goes on after it.
+  [[nodiscard]] bool IsReadOnly() const override { return Now() == State::Reading; }
+  [[nodiscard]] bool InPlace() const override { return Now() != State::Broken; }
+  /// The office names its users itself.
+  void SetAuthor(const std::string&) override {}
+  [[nodiscard]] std::vector<Entry> Next(StepKind kind) const override;
+  std::optional<Done> Take(StepKind kind) override;
+  [[nodiscard]] std::unique_ptr<HistoryView> Geschiedenis() const override;
+  void WorkOff() noexcept override {}
+  /// A loan file with everything that stands in the office, to the stored rows.
+  void Kopieer(const QString& pad) const override;
+
+  [[nodiscard]] int Client() const { return session_->Client(); }
+  [[nodiscard]] State Now() const { return session_->Now(); }
+  /// Who else edits it; nobody where the name is empty.
+  [[nodiscard]] const Holder& HeldBy() const { return session_->HeldBy(); }
+  /// How many tries to reach the office have failed since the connection broke.
+  [[nodiscard]] int Tries() const { return session_->Tries(); }
+
+  /// Takes it up to be edited where nobody has it any more; answers whether it is taken up here now. Throws
+  /// OfficeError.
+  bool TakeOver();
+  /// Lets another edit it; it goes on as one that is read. Not while an edit is under way.
+  void LetGo();
+  /// Asks who has it to let go. Throws OfficeError.
+  void Ask();
+  /// Does what is due: tries to reach the office where the connection broke, and otherwise looks who has the client and
+  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
+  void Attend();
+
+  /// Who may edit it, or the connection, is another.
+  host::Event<> Changed;
+  /// The memory was loaded anew with what others stored, or with an edit whose outcome was not known.
+  host::Event<> Herladen;
+  /// Somebody asks for it, by name; told where it is edited here.
+  host::Event<const QString&> Asked;
+  /// Of an edit that was told as not known: whether it was stored.
+  host::Event<Outcome> Settled;
+
+ private:
+  OfficeStore(std::shared_ptr<OfficeConnection> office, int client);
+  /// Has the whole of the history at hand. Throws host::Error.
+  void ReadHistory() const;
+  void Told(const QString& channel, const QString& what);
+  /// Does something with the office; a connection that is gone is met by Attend.
+  template <class Action> void Try(Action&& action);
+  void Reload();
+  void TellIfChanged();
+  void Plan();
+
+  std::shared_ptr<ClientSession> session_;
+  std::shared_ptr<FileJournal> journal_;
+  std::shared_ptr<dossier::Dossier> dossier_;
+  std::unique_ptr<QTimer> timer_;
+  host::Subscriptions subscriptions_;
+  /// What Settled is to tell.
+  std::optional<Outcome> settled_;
+  /// What Changed told last.
+  State told_state_ = State::Reading;
+  QString told_holder_;
+};
+
+}  // namespace brivane::dossier

@@ -1,0 +1,351 @@
+#include "dossier/office/SchemaSteps.h"
+
+namespace brivane::dossier {
+
+// All run as the owner, which no adviser can be, and by the session's user see the rows of his teams alone. Each begins
+// with what it checks. Their failures have codes of their own: OfficeError.h.
+const char* const kFunctionsV1 = R"sql(
+CREATE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE sql STABLE SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  SELECT coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text)
+$$;
+
+-- Who the session is, and which version of the schema it meets.
+CREATE FUNCTION kantoor.ik(OUT versie integer, OUT gebruiker name, OUT naam text, OUT schrijft boolean,
+    OUT beheert boolean, OUT pid integer, OUT team integer) LANGUAGE sql STABLE SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  SELECT (SELECT max(v.nummer) FROM versie v), session_user, eigen_naam(),
+    pg_has_role(session_user, 'kantoor_adviseur', 'MEMBER'), pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER'),
+    pg_backend_pid(), (SELECT min(l.team) FROM lid l WHERE l.gebruiker = session_user)
+$$;
+
+CREATE FUNCTION kantoor.moet_adviseur_zijn() RETURNS void LANGUAGE plpgsql STABLE
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  IF NOT pg_has_role(session_user, 'kantoor_adviseur', 'MEMBER') THEN
+    RAISE EXCEPTION 'not an adviser' USING ERRCODE = 'insufficient_privilege';
+  END IF;
+END $$;
+
+-- The last step of a client that the session may see.
+CREATE FUNCTION kantoor.moet_zichtbaar_zijn(p_client integer) RETURNS bigint LANGUAGE plpgsql STABLE
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_laatste bigint;
+BEGIN
+  SELECT c.laatste INTO v_laatste FROM client c WHERE c.nummer = p_client;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
+  END IF;
+  RETURN v_laatste;
+END $$;
+
+-- The advisory locks of the clients: the first key is the office's own.
+CREATE FUNCTION kantoor.sloten(OUT client integer, OUT pid integer) RETURNS SETOF record LANGUAGE sql STABLE
+  SET search_path = pg_catalog, pg_temp AS $$
+  SELECT l.objid::bigint::integer, l.pid FROM pg_locks l WHERE l.locktype = 'advisory' AND l.granted
+    AND l.classid = 1262571092 AND l.objsubid = 2
+    AND l.database = (SELECT d.oid FROM pg_database d WHERE d.datname = current_database())
+$$;
+
+CREATE FUNCTION kantoor.meld(p_client integer, p_bericht text) RETURNS void LANGUAGE plpgsql
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  IF EXISTS (SELECT FROM meelezer m WHERE m.client = p_client) THEN
+    PERFORM pg_notify('kantoor_' || p_client, p_bericht);
+  END IF;
+END $$;
+
+-- Takes up a client to edit it. `bewijs` is none where another session has it: `houder`, since `sinds`, by `pid`.
+CREATE FUNCTION kantoor.neem(p_client integer, OUT bewijs uuid, OUT houder text, OUT sinds timestamptz,
+    OUT laatste bigint, OUT pid integer) LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_genomen boolean := false;
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  PERFORM moet_zichtbaar_zijn(p_client);
+  -- A session may lock twice, but the client is edited once.
+  IF NOT EXISTS (SELECT FROM sloten() s WHERE s.client = p_client AND s.pid = pg_backend_pid()) THEN
+    v_genomen := pg_try_advisory_lock(1262571092, p_client);
+  END IF;
+  IF NOT v_genomen THEN
+    SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, b.pid INTO houder, sinds, pid
+      FROM bewerker b LEFT JOIN medewerker m ON m.gebruiker = b.gebruiker WHERE b.client = p_client;
+    houder := coalesce(houder, '?');
+    laatste := moet_zichtbaar_zijn(p_client);
+    RETURN;
+  END IF;
+  -- An edit of the holder before, if it is still under way, ends first.
+  SELECT c.laatste INTO laatste FROM client c WHERE c.nummer = p_client FOR UPDATE;
+  bewijs := gen_random_uuid();
+  sinds := clock_timestamp();
+  pid := pg_backend_pid();
+  INSERT INTO bewerker AS b (client, pid, bewijs, gebruiker, sinds)
+    VALUES (p_client, neem.pid, neem.bewijs, session_user, neem.sinds)
+    ON CONFLICT (client) DO UPDATE SET pid = EXCLUDED.pid, bewijs = EXCLUDED.bewijs, gebruiker = EXCLUDED.gebruiker,
+      sinds = EXCLUDED.sinds, gevraagd_door = NULL, gevraagd_om = NULL;
+  PERFORM meld(p_client, 'genomen');
+END $$;
+
+CREATE FUNCTION kantoor.laat_los(p_client integer, p_bewijs uuid) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  DELETE FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid();
+  IF FOUND THEN
+    PERFORM pg_advisory_unlock(1262571092, p_client);
+    PERFORM meld(p_client, 'los');
+  END IF;
+END $$;
+
+-- Who edits a client now, if anybody does, and how far it is.
+CREATE FUNCTION kantoor.wie(p_client integer, OUT houder text, OUT sinds timestamptz, OUT gevraagd_door text,
+    OUT laatste bigint) LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  laatste := moet_zichtbaar_zijn(p_client);
+  SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, coalesce(v.naam, b.gevraagd_door::text)
+    INTO houder, sinds, gevraagd_door
+    FROM bewerker b LEFT JOIN medewerker m ON m.gebruiker = b.gebruiker
+      LEFT JOIN medewerker v ON v.gebruiker = b.gevraagd_door
+    WHERE b.client = p_client AND EXISTS (SELECT FROM sloten() s WHERE s.client = p_client AND s.pid = b.pid);
+END $$;
+
+-- Asks the holder to let go.
+CREATE FUNCTION kantoor.vraag(p_client integer) RETURNS boolean LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  PERFORM moet_zichtbaar_zijn(p_client);
+  UPDATE bewerker b SET gevraagd_door = session_user, gevraagd_om = clock_timestamp() WHERE b.client = p_client;
+  IF NOT FOUND THEN
+    RETURN false;
+  END IF;
+  PERFORM pg_notify('kantoor_' || p_client, 'vraag ' || eigen_naam());
+  RETURN true;
+END $$;
+
+CREATE FUNCTION kantoor.volg(p_client integer) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  PERFORM moet_zichtbaar_zijn(p_client);
+  DELETE FROM meelezer m WHERE m.client = p_client AND NOT EXISTS (SELECT FROM pg_stat_activity a WHERE a.pid = m.pid);
+  INSERT INTO meelezer (client, pid) VALUES (p_client, pg_backend_pid()) ON CONFLICT DO NOTHING;
+END $$;
+
+CREATE FUNCTION kantoor.volg_niet(p_client integer) RETURNS void LANGUAGE sql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  DELETE FROM meelezer m WHERE m.client = p_client AND m.pid = pg_backend_pid()
+$$;
+
+-- The rows of an edit, as they stand after it; `p` names the tables that have any.
+CREATE FUNCTION kantoor.schrijf_rijen(p_client integer, p json) RETURNS void LANGUAGE plpgsql
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  IF p->'weg' IS NOT NULL THEN
+    DELETE FROM periode t USING json_populate_recordset(NULL::periode_rij, p->'weg'->'periode') r
+      WHERE t.client = p_client AND t.sleutel = r.sleutel;
+    DELETE FROM vrijekolom t USING json_populate_recordset(NULL::vrijekolom_rij, p->'weg'->'vrijekolom') r
+      WHERE t.client = p_client AND t.sleutel = r.sleutel;
+    DELETE FROM lening t USING json_populate_recordset(NULL::lening_rij, p->'weg'->'lening') r
+      WHERE t.client = p_client AND t.sleutel = r.sleutel;
+    DELETE FROM persoon t USING json_populate_recordset(NULL::persoon_rij, p->'weg'->'persoon') r
+      WHERE t.client = p_client AND t.nummer = r.nummer;
+    DELETE FROM voorstel t USING json_populate_recordset(NULL::voorstel_rij, p->'weg'->'voorstel') r
+      WHERE t.client = p_client AND t.voorstel = r.voorstel AND t.vrij_id = r.vrij_id;
+  END IF;
+  IF p->'dossier' IS NOT NULL THEN
+    INSERT INTO dossier SELECT p_client, r.* FROM json_populate_recordset(NULL::dossier_rij, p->'dossier') r
+      ON CONFLICT (client, enig) DO UPDATE SET leeftijd = EXCLUDED.leeftijd;
+  END IF;
+  IF p->'persoon' IS NOT NULL THEN
+    INSERT INTO persoon SELECT p_client, r.* FROM json_populate_recordset(NULL::persoon_rij, p->'persoon') r
+      ON CONFLICT (client, nummer) DO UPDATE SET naam_1 = EXCLUDED.naam_1, naam_2 = EXCLUDED.naam_2,
+        naam_3 = EXCLUDED.naam_3, geboortedatum = EXCLUDED.geboortedatum, belastingtarief = EXCLUDED.belastingtarief;
+  END IF;
+  IF p->'lening' IS NOT NULL THEN
+    INSERT INTO lening SELECT p_client, r.* FROM json_populate_recordset(NULL::lening_rij, p->'lening') r
+      ON CONFLICT (client, sleutel) DO UPDATE SET nummer = EXCLUDED.nummer, naam = EXCLUDED.naam;
+  END IF;
+  IF p->'vrijekolom' IS NOT NULL THEN
+    INSERT INTO vrijekolom SELECT p_client, r.* FROM json_populate_recordset(NULL::vrijekolom_rij, p->'vrijekolom') r
+      ON CONFLICT (client, sleutel) DO UPDATE SET lening = EXCLUDED.lening, volgorde = EXCLUDED.volgorde,
+        id = EXCLUDED.id, correctie_last = EXCLUDED.correctie_last, correctie_fiscaal = EXCLUDED.correctie_fiscaal,
+        heffing_bij = EXCLUDED.heffing_bij, omschrijving = EXCLUDED.omschrijving, termijn = EXCLUDED.termijn,
+        inkomen_uit_arbeid = EXCLUDED.inkomen_uit_arbeid, in_dagloon = EXCLUDED.in_dagloon,
+        datum_aanvang = EXCLUDED.datum_aanvang, looptijd = EXCLUDED.looptijd,
+        contractvervaldatum = EXCLUDED.contractvervaldatum, is_product = EXCLUDED.is_product,
+        maatschappij = EXCLUDED.maatschappij, maatschappij_naam = EXCLUDED.maatschappij_naam,
+        productsoort = EXCLUDED.productsoort, productsoort_omschrijving = EXCLUDED.productsoort_omschrijving,
+        productnaam = EXCLUDED.productnaam, uw_bemiddeling = EXCLUDED.uw_bemiddeling, voorstel_1 = EXCLUDED.voorstel_1,
+        voorstel_2 = EXCLUDED.voorstel_2, voorstel_3 = EXCLUDED.voorstel_3, uitsluiten_ao = EXCLUDED.uitsluiten_ao,
+        uitsluiten_ww = EXCLUDED.uitsluiten_ww, uitsluiten_langleven = EXCLUDED.uitsluiten_langleven,
+        scenario_overlijden = EXCLUDED.scenario_overlijden, percentage_overgang = EXCLUDED.percentage_overgang,
+        einddatum_overgang = EXCLUDED.einddatum_overgang, eindleeftijd_overgang = EXCLUDED.eindleeftijd_overgang,
+        bedrag_naam = EXCLUDED.bedrag_naam, invoersoort = EXCLUDED.invoersoort, bedrag = EXCLUDED.bedrag;
+  END IF;
+  IF p->'periode' IS NOT NULL THEN
+    INSERT INTO periode SELECT p_client, r.* FROM json_populate_recordset(NULL::periode_rij, p->'periode') r
+      ON CONFLICT (client, sleutel) DO UPDATE SET kolom = EXCLUDED.kolom, maand = EXCLUDED.maand,
+        bedrag = EXCLUDED.bedrag, percentage = EXCLUDED.percentage, korting = EXCLUDED.korting,
+        eenmalig = EXCLUDED.eenmalig;
+  END IF;
+  IF p->'voorstel' IS NOT NULL THEN
+    INSERT INTO voorstel SELECT p_client, r.* FROM json_populate_recordset(NULL::voorstel_rij, p->'voorstel') r
+      ON CONFLICT DO NOTHING;
+  END IF;
+  IF p->'naam' IS NOT NULL THEN
+    INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;
+  END IF;
+  IF p->'zoek' IS NOT NULL THEN
+    UPDATE zoek z SET tekst = p->'zoek'->>'tekst'
+      WHERE z.client = p_client AND z.tekst IS DISTINCT FROM p->'zoek'->>'tekst';
+    UPDATE client c SET naam = p->'zoek'->>'naam', geboortedatum = (p->'zoek'->>'geboortedatum')::bigint
+      WHERE c.nummer = p_client AND (c.naam, c.geboortedatum)
+        IS DISTINCT FROM (p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint);
+  END IF;
+END $$;
+
+-- Stores one edit: its step, its entries and its rows. Answers the time of the step. Refuses a holder that lost the
+-- client (KT001), and an edit that does not follow on what stands there (KT002), so that none is stored twice.
+CREATE FUNCTION kantoor.sla_op(p_client integer, p_bewijs uuid, p_bewerking uuid, p json) RETURNS bigint
+  LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_nu timestamptz := clock_timestamp();
+  v_tijd bigint := (extract(epoch FROM v_nu) * 1000)::bigint;
+  v_stap stap_rij;
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  -- What is told as stored outlives a power cut, however the server is set.
+  IF current_setting('synchronous_commit') = 'off' THEN
+    PERFORM set_config('synchronous_commit', 'on', true);
+  END IF;
+  v_stap := json_populate_record(NULL::stap_rij, p->'stap');
+  UPDATE client c SET laatste = v_stap.nummer, gewijzigd = v_nu, gewijzigd_door = session_user
+    WHERE c.nummer = p_client AND c.laatste = v_stap.nummer - 1;
+  IF NOT FOUND THEN
+    PERFORM moet_zichtbaar_zijn(p_client);
+    IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
+    THEN
+      RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
+    END IF;
+    RAISE EXCEPTION 'another step was stored' USING ERRCODE = 'KT002';
+  END IF;
+  -- Whoever takes the client up waits for the row above, so that this stays true until the end.
+  IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
+  THEN
+    RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
+  END IF;
+  PERFORM schrijf_rijen(p_client, p);
+  -- A step names the session's user and nobody else.
+  IF NOT EXISTS (SELECT FROM naam n
+                 WHERE n.client = p_client AND n.nummer = v_stap.medewerker AND n.tekst = eigen_naam()) THEN
+    RAISE EXCEPTION 'somebody else''s name' USING ERRCODE = 'KT006';
+  END IF;
+  INSERT INTO stap VALUES (p_client, v_stap.nummer, v_tijd, v_stap.medewerker, v_stap.soort, v_stap.van, v_stap.terug,
+    v_stap.opnieuw, v_stap.eerste, v_stap.hoogste, p_bewerking, session_user, v_nu);
+  INSERT INTO wijziging SELECT p_client, r.nummer, v_stap.nummer, r.tabel, r.sleutel, r.lening, r.lening_naam, r.kolom,
+      r.kolom_naam, r.veld, r.oud, r.nieuw
+    FROM json_populate_recordset(NULL::wijziging_rij, p->'wijziging') r;
+  PERFORM meld(p_client, 'stap ' || v_stap.nummer || ' ' || eigen_naam());
+  RETURN v_tijd;
+END $$;
+
+-- The time of an edit whose answer was lost, none where it was not stored. Certain once the client was taken up again, or by somebody else: the
+-- session that stored it has ended then.
+CREATE FUNCTION kantoor.uitkomst(p_client integer, p_stap bigint, p_bewerking uuid) RETURNS bigint
+  LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  SELECT s.tijd FROM stap s WHERE s.client = p_client AND s.nummer = p_stap AND s.bewerking = p_bewerking
+$$;
+
+-- A new client of a team that the session is in.
+CREATE FUNCTION kantoor.nieuw(p_team integer, p json) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_client integer;
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  IF NOT EXISTS (SELECT FROM lid l WHERE l.gebruiker = session_user AND l.team = p_team) THEN
+    RAISE EXCEPTION 'not a member of the team' USING ERRCODE = 'insufficient_privilege';
+  END IF;
+  INSERT INTO client (team, naam, geboortedatum)
+    VALUES (p_team, p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint) RETURNING nummer INTO v_client;
+  INSERT INTO zoek VALUES (v_client, p->'zoek'->>'tekst');
+  INSERT INTO maatschappij_type SELECT v_client, r.*
+    FROM json_populate_recordset(NULL::maatschappij_type_rij, p->'maatschappij_type') r;
+  PERFORM schrijf_rijen(v_client, p);
+  RETURN v_client;
+END $$;
+
+-- A part of the history that a file brings along, in the transaction that made the client; what was stored in the office
+-- is out of its reach.
+CREATE FUNCTION kantoor.vul_geschiedenis(p_client integer, p json) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  IF NOT EXISTS (SELECT FROM client c WHERE c.nummer = p_client AND c.xmin = pg_current_xact_id()::xid) THEN
+    RAISE EXCEPTION 'not a client of this transaction' USING ERRCODE = 'insufficient_privilege';
+  END IF;
+  INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;
+  INSERT INTO stap SELECT p_client, r.*, NULL, session_user, clock_timestamp()
+    FROM json_populate_recordset(NULL::stap_rij, p->'stap') r;
+  INSERT INTO wijziging SELECT p_client, r.* FROM json_populate_recordset(NULL::wijziging_rij, p->'wijziging') r;
+  UPDATE client c SET laatste = (SELECT coalesce(max(s.nummer), 0) FROM stap s WHERE s.client = p_client)
+    WHERE c.nummer = p_client;
+END $$;
+
+-- Clients by words, each the beginning of a word of theirs; what the session changed last comes first, then the newest.
+-- A word that many have is soon found among the newest of each team, a word that few have goes by the index of the words:
+-- neither way alone is quick for both.
+CREATE FUNCTION kantoor.zoek_clienten(p_woorden text[], p_hoogstens integer)
+  RETURNS TABLE (nummer integer, naam text, geboortedatum bigint, team text, gewijzigd timestamptz, gewijzigd_door text,
+    eigen boolean, bewerker text, sinds timestamptz)
+  LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_voorwaarden text;
+  v_teams integer[];
+  v_gevonden integer[];
+BEGIN
+  SELECT string_agg(format('z.tekst LIKE %L', '% ' || regexp_replace(w, '([\\%_])', '\\\1', 'g') || '%'), ' AND ')
+    INTO v_voorwaarden FROM unnest(p_woorden) w WHERE w <> '';
+  SELECT array_agg(t.nummer) INTO v_teams FROM kantoor.team t
+    WHERE pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER')
+      OR EXISTS (SELECT FROM lid l WHERE l.team = t.nummer AND l.gebruiker = session_user);
+  EXECUTE format($q$
+    SELECT array_agg(n.nummer) FROM (
+      SELECT g.nummer FROM unnest($1) t(team), LATERAL (SELECT k.nummer FROM (SELECT c.nummer, c.gewijzigd FROM client c
+          WHERE c.team = t.team ORDER BY c.gewijzigd DESC LIMIT $2) k %1$s ORDER BY k.gewijzigd DESC LIMIT $3) g
+      UNION
+      (SELECT k.nummer FROM (SELECT c.nummer, c.gewijzigd FROM client c WHERE c.gewijzigd_door = session_user
+          ORDER BY c.gewijzigd DESC LIMIT $2) k %1$s ORDER BY k.gewijzigd DESC LIMIT $3)) n$q$,
+    coalesce('JOIN zoek z ON z.client = k.nummer WHERE ' || v_voorwaarden, ''))
+    INTO v_gevonden
+    USING v_teams, p_hoogstens + 2000 / greatest(cardinality(v_teams), 1), p_hoogstens;
+  IF v_voorwaarden IS NOT NULL AND coalesce(cardinality(v_gevonden), 0) < p_hoogstens THEN
+    EXECUTE format($q$
+      WITH raak AS MATERIALIZED (SELECT z.client FROM zoek z WHERE %s)
+      SELECT array_agg(n.nummer) FROM (SELECT c.nummer FROM raak r JOIN client c ON c.nummer = r.client
+        ORDER BY (c.gewijzigd_door = session_user) DESC, c.gewijzigd DESC LIMIT $1) n$q$, v_voorwaarden)
+      INTO v_gevonden USING p_hoogstens;
+  END IF;
+  RETURN QUERY SELECT c.nummer, c.naam, c.geboortedatum, t.naam, c.gewijzigd, coalesce(m.naam, c.gewijzigd_door::text),
+      c.gewijzigd_door = session_user, coalesce(w.naam, b.gebruiker::text), b.sinds
+    FROM client c JOIN team t ON t.nummer = c.team LEFT JOIN medewerker m ON m.gebruiker = c.gewijzigd_door
+      LEFT JOIN (SELECT e.* FROM bewerker e JOIN sloten() s ON s.client = e.client AND s.pid = e.pid) b ON b.client = c.nummer
+      LEFT JOIN medewerker w ON w.gebruiker = b.gebruiker
+    WHERE c.nummer = ANY (v_gevonden)
+    ORDER BY (c.gewijzigd_door = session_user) DESC, c.gewijzigd DESC, c.nummer DESC LIMIT p_hoogstens;
+END $$;
+
+CREATE FUNCTION kantoor.geef_aan_team(p_client integer, p_team integer) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  IF NOT pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER') THEN
+    RAISE EXCEPTION 'not a manager' USING ERRCODE = 'insufficient_privilege';
+  END IF;
+  UPDATE client c SET team = p_team WHERE c.nummer = p_client;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
+  END IF;
+END $$;
+)sql";
+
+}  // namespace brivane::dossier

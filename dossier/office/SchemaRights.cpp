@@ -1,0 +1,78 @@
+#include "dossier/office/SchemaSteps.h"
+
+namespace brivane::dossier {
+
+// The group roles belong to the whole server, the schema to one database. Nobody logs in as the owner.
+const char* const kRolesV1 = R"sql(
+DO $$
+DECLARE
+  rol text;
+BEGIN
+  FOREACH rol IN ARRAY ARRAY['kantoor_eigenaar', 'kantoor_adviseur', 'kantoor_lezer', 'kantoor_beheerder'] LOOP
+    IF NOT EXISTS (SELECT FROM pg_roles WHERE rolname = rol) THEN
+      EXECUTE format('CREATE ROLE %I NOLOGIN NOSUPERUSER NOCREATEDB NOCREATEROLE NOREPLICATION NOBYPASSRLS', rol);
+    END IF;
+  END LOOP;
+  IF NOT pg_has_role(current_user, 'kantoor_eigenaar', 'MEMBER') THEN
+    EXECUTE format('GRANT kantoor_eigenaar TO %I', current_user);
+  END IF;
+END $$;
+CREATE EXTENSION IF NOT EXISTS pg_trgm;
+CREATE SCHEMA kantoor AUTHORIZATION kantoor_eigenaar;
+REVOKE ALL ON SCHEMA kantoor FROM PUBLIC;
+)sql";
+
+// Rows are seen by team, whoever runs the statement: the policies go by the session's user and hold for the owner's
+// functions too. What is asked once for a statement stands in a SELECT of its own.
+const char* const kRightsV1 = R"sql(
+GRANT USAGE ON SCHEMA kantoor TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
+GRANT SELECT ON kantoor.versie, kantoor.team, kantoor.lid, kantoor.medewerker, kantoor.client, kantoor.dossier,
+  kantoor.persoon, kantoor.maatschappij_type, kantoor.lening, kantoor.vrijekolom, kantoor.periode, kantoor.voorstel,
+  kantoor.naam, kantoor.stap, kantoor.wijziging
+  TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
+GRANT INSERT, UPDATE, DELETE ON kantoor.team, kantoor.lid, kantoor.medewerker TO kantoor_beheerder;
+
+ALTER TABLE kantoor.client ENABLE ROW LEVEL SECURITY;
+ALTER TABLE kantoor.client FORCE ROW LEVEL SECURITY;
+CREATE POLICY eigen_team ON kantoor.client
+  USING (team = ANY (ARRAY(SELECT l.team FROM kantoor.lid l WHERE l.gebruiker = session_user))
+         OR (SELECT pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER')));
+
+DO $$
+DECLARE
+  tabel text;
+BEGIN
+  FOREACH tabel IN ARRAY ARRAY['dossier', 'persoon', 'maatschappij_type', 'lening', 'vrijekolom', 'periode', 'voorstel',
+                               'naam', 'stap', 'wijziging'] LOOP
+    EXECUTE format('ALTER TABLE kantoor.%I ENABLE ROW LEVEL SECURITY', tabel);
+    EXECUTE format('ALTER TABLE kantoor.%I FORCE ROW LEVEL SECURITY', tabel);
+    EXECUTE format('CREATE POLICY eigen_team ON kantoor.%1$I USING (EXISTS (SELECT FROM kantoor.client c '
+                   'WHERE c.nummer = %1$I.client))', tabel);
+  END LOOP;
+END $$;
+
+-- Also for the owner: a mistake in a function must not change what was.
+CREATE FUNCTION kantoor.geschiedenis_blijft() RETURNS trigger LANGUAGE plpgsql SET search_path = pg_catalog, pg_temp AS $$
+BEGIN
+  RAISE EXCEPTION 'history' USING ERRCODE = 'KT005';
+END $$;
+CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.naam EXECUTE FUNCTION kantoor.geschiedenis_blijft();
+CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.stap EXECUTE FUNCTION kantoor.geschiedenis_blijft();
+CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.wijziging
+  EXECUTE FUNCTION kantoor.geschiedenis_blijft();
+)sql";
+
+// Functions are open to everybody when they are made.
+const char* const kFunctionRightsV1 = R"sql(
+REVOKE ALL ON ALL FUNCTIONS IN SCHEMA kantoor FROM PUBLIC;
+GRANT EXECUTE ON FUNCTION kantoor.ik(), kantoor.wie(integer), kantoor.zoek_clienten(text[], integer),
+  kantoor.volg(integer), kantoor.volg_niet(integer)
+  TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
+GRANT EXECUTE ON FUNCTION kantoor.neem(integer), kantoor.laat_los(integer, uuid), kantoor.vraag(integer),
+  kantoor.sla_op(integer, uuid, uuid, json), kantoor.nieuw(integer, json), kantoor.vul_geschiedenis(integer, json),
+  kantoor.uitkomst(integer, bigint, uuid)
+  TO kantoor_adviseur;
+GRANT EXECUTE ON FUNCTION kantoor.geef_aan_team(integer, integer) TO kantoor_beheerder;
+)sql";
+
+}  // namespace brivane::dossier

@@ -1,0 +1,106 @@
+#!/usr/bin/env python3
+"""Holds what the toolkits say to the catalogue of texts, brivane/frame/Texts.cpp.
+
+    check_texts.py ROOT         every string in the sources that show controls
+    check_texts.py selftest     whether it finds what it is for
+
+A string is a text for a person where it has two words, a capital in front, a mnemonic, or goes on
+with what stands beside it. What looks so and is none
+stands below, with what it is. Prints each offence and a count, and fails when there is one."""
+
+import os
+import re
+import sys
+
+ROOMS = ("brivane/controls", "brivane/toolkits/qt", "brivane/toolkits/win32")
+FILES = ("brivane/frame/Dates.cpp", "brivane/frame/Dates.h", "brivane/frame/Numbers.cpp", "brivane/frame/Phrase.cpp",
+         "brivane/frame/Reading.h", "brivane/vrijekolom/Onderwerp.h")
+# For the engineer who embeds the editor, in English as error descriptions are.
+FOR_ENGINEERS = ("brivane/controls/WhatIsMissing.cpp",)
+NO_TEXTS = {
+    "Ja": "a half of a toggle, which is a caption of the control",
+    "Nee": "the other half",
+    "STATIC": "a class of Windows", "Static": "a class of Windows",
+    "EDIT": "a class of Windows", "Edit": "a class of Windows",
+    "BUTTON": "a class of Windows", "Button": "a class of Windows",
+    "COMBOBOX": "a class of Windows", "ComboBox": "a class of Windows",
+    "BrivaneVlak": "a class of windows of our own",
+    "BrivaneFormulier": "a class of windows of our own",
+    "Brivane": "the beginning of a property's name, and where Qt finds the texts",
+    "dddd d MMMM yyyy": "how Qt writes a day",
+    '* { font: %1px \\"%2\\"; }': "a rule of a style sheet",
+    "CreateWindowEx": "a function of Windows",
+}
+
+STRING = re.compile(r'(?:\bu8|\bL|\bu|\bU)?"((?:[^"\\\n]|\\.)*)"')
+LETTERS = "A-Za-zÀ-ÿ"
+
+
+def is_text(string):
+    if string in NO_TEXTS:
+        return False
+    string = re.sub(r"\\u[0-9A-Fa-f]{4}|\\[nrt]", " ", string)
+    words = re.findall(f"[{LETTERS}]{{2,}}", string)
+    if not words:
+        return False
+    if re.search(f"[{LETTERS}]{{2,}}[^{LETTERS}]* [^{LETTERS}]*[{LETTERS}]{{2,}}", string):
+        return True
+    joined = string != string.strip() and re.search(f"[{LETTERS}]{{4,}}", string)
+    alone = re.match(f"^[A-ZÀ-Þ][a-zà-ÿ]+(?![{LETTERS}])", string.strip())
+    return bool(joined or alone or re.search(f"&[{LETTERS}]", string))
+
+
+def without_comments(source):
+    """The source with blanks for its comments, line for line, and without what it includes."""
+    found = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:[^"\\\n]|\\.)*"', re.S)
+    source = found.sub(lambda m: m[0] if m[0].startswith('"') else re.sub(r"[^\n]", " ", m[0]), source)
+    return re.sub(r"^[ \t]*#[^\n]*", "", source, flags=re.M)
+
+
+def offences(source):
+    for number, line in enumerate(without_comments(source).split("\n"), 1):
+        if "static_assert" in line or re.search(r"\bthrow\b", line):
+            continue
+        for string in STRING.finditer(line):
+            if is_text(string[1]):
+                yield number, string[1]
+
+
+def sources(root):
+    for room in ROOMS:
+        for folder, _, names in os.walk(os.path.join(root, room)):
+            for name in sorted(names):
+                path = os.path.relpath(os.path.join(folder, name), root)
+                if name.endswith((".cpp", ".h")) and path not in FOR_ENGINEERS:
+                    yield path
+    yield from FILES
+
+
+def check(root):
+    count = looked = 0
+    for path in sources(root):
+        looked += 1
+        with open(os.path.join(root, path), encoding="utf-8") as source:
+            for number, text in offences(source.read()):
+                print(f'{path}:{number}: "{text}" is no text of the catalogue')
+                count += 1
+    print(f"{count} texts outside the catalogue in {looked} files")
+    return 1 if count or looked < 100 else 0
+
+
+def selftest():
+    texts = ['f(" wordt ");', 'f("Plak een kolom.");', 'f(L"&Nee");', 'f("Kalender");', 'f(" van de rij");', 'g(QStringLiteral("Vrije kolom"));',
+             'x = "a" + "De waarde\\u00A0is";', '/* c */ f("Één kolom"); // d']
+    others = ['f("TxtBd");  // "Vrije kolom"', 'f("edit-paste");', '#include "Een bestand.h"', 'f("%1 %2");',
+              'f(L"BUTTON");', 'f("= ");', '/* "De\n waarde" */']
+    missed = [line for line in texts if not list(offences(line))]
+    wrong = [line for line in others if list(offences(line))]
+    for line in missed:
+        print("not found:", line)
+    for line in wrong:
+        print("found:", line)
+    return 1 if missed or wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(selftest() if sys.argv[1] == "selftest" else check(sys.argv[1]))

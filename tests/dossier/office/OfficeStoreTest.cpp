@@ -1,0 +1,95 @@
+#include <QTemporaryDir>
+
+#include "dossier/office/OfficeStore.h"
+#include "dossier/store/DossierFile.h"
+#include "dossier/store/StoreErrors.h"
+#include "tests/dossier/office/TrialOffice.h"
+
+// A client of an office behaves as a loan file does, and is edited by one adviser at a time.
+namespace brivane::dossier {
+namespace {
+
+TEST(OfficeStoreTest, WhatIsStoredIsThereForTheNextOne) {
+  const TrialOffice office;
+  const int client = office.Add();
+  DossierGegevens contents;
+  {
+    const auto store = office.Open(client);
+    EXPECT_EQ(store->Now(), OfficeStore::State::Editing);
+    EXPECT_EQ(store->Naam(), "M.C. van den Heuvel");
+    store->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+    store->Dossier()->NewKolom(1)->SetOmschrijving("Zoë's \"\\ krant");
+    contents = store->Dossier()->Gegevens();
+  }
+  const auto again = office.Open(client, "bert");
+  EXPECT_EQ(again->Now(), OfficeStore::State::Editing);
+  EXPECT_EQ(again->Dossier()->Gegevens(), contents);
+  EXPECT_EQ(again->Dossier()->FindKolom(0, 1)->Looptijd(), 10);
+}
+
+TEST(OfficeStoreTest, TheWayBackAndTheHistoryOutliveTheProgram) {
+  const TrialOffice office;
+  const int client = office.Add();
+  const DossierGegevens before = office.Open(client)->Dossier()->Gegevens();
+  office.Open(client)->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+  office.Open(client, "bert")->Dossier()->Verwijder(0, 2);
+  {
+    const auto store = office.Open(client);
+    ASSERT_TRUE(store->Take(StepKind::Undo));
+    ASSERT_TRUE(store->Take(StepKind::Undo));
+    EXPECT_FALSE(store->Take(StepKind::Undo));
+    EXPECT_EQ(store->Dossier()->Gegevens(), before);
+  }
+  const auto store = office.Open(client);
+  EXPECT_EQ(store->Dossier()->Gegevens(), before);
+  const auto history = store->Geschiedenis();
+  const auto lines = history->Lines(history->Find({}));
+  ASSERT_FALSE(lines.empty());
+  EXPECT_EQ(lines.back().step.who, "Anna Aalders");
+  EXPECT_EQ(history->People(), (std::vector<std::string>{"Anna Aalders", "Bert Bakker"}));
+  ASSERT_TRUE(store->Take(StepKind::Redo));
+  EXPECT_EQ(store->Dossier()->FindKolom(0, 1)->Looptijd(), 10);
+}
+
+TEST(OfficeStoreTest, TheSecondOneReadsAndIsToldWhoEdits) {
+  const TrialOffice office;
+  const int client = office.Add();
+  auto first = office.Open(client);
+  const auto second = office.Open(client, "bert");
+  EXPECT_EQ(second->Now(), OfficeStore::State::Reading);
+  EXPECT_EQ(second->HeldBy().naam, "Anna Aalders");
+  EXPECT_TRUE(second->HeldBy().sinds.isValid());
+  try {
+    second->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+    ADD_FAILURE() << "stored";
+  } catch (const host::Error& error) {
+    EXPECT_EQ(error.Number(), kLeaseError);
+    EXPECT_EQ(error.Description(), "De wijziging is niet opgeslagen: Anna Aalders werkt in dit dossier.");
+  }
+  EXPECT_FALSE(second->TakeOver());
+  first->Dossier()->FindKolom(0, 1)->SetLooptijd(20);
+  first.reset();
+  EXPECT_TRUE(second->TakeOver());
+  EXPECT_EQ(second->Now(), OfficeStore::State::Editing);
+  EXPECT_EQ(second->Dossier()->FindKolom(0, 1)->Looptijd(), 20);
+  second->Dossier()->FindKolom(0, 1)->SetLooptijd(30);
+  EXPECT_EQ(office.Open(client, "rob")->Dossier()->FindKolom(0, 1)->Looptijd(), 30);
+}
+
+TEST(OfficeStoreTest, AClientOfAnotherTeamIsNotThere) {
+  const TrialOffice office;
+  const int client = office.Add();
+  try {
+    static_cast<void>(office.Open(client, "carla"));
+    ADD_FAILURE() << "opened";
+  } catch (const OfficeError& error) {
+    EXPECT_EQ(error.Problem(), OfficeProblem::NoClient);
+  }
+  EXPECT_TRUE(SearchClients(*office.Enter("carla"), "Heuvel").empty());
+  EXPECT_EQ(SearchClients(*office.Enter("bert"), "heuv 12-3-1978").size(), 1U);
+  EXPECT_EQ(SearchClients(*office.Enter("rob"), "").size(), 1U);
+  EXPECT_EQ(SearchClients(*office.Enter("mia"), "").size(), 1U);
+}
+
+}  // namespace
+}  // namespace brivane::dossier

@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <random>
+
+#include "dossier/office/FoundBy.h"
+#include "dossier/office/OfficeError.h"
+#include "dossier/office/OfficeText.h"
+#include "dossier/office/RowsJson.h"
+
+namespace brivane::dossier {
+namespace {
+
+/// Byte b as a character of private use: U+10FE00 and the byte.
+std::string Mark(unsigned char b) {
+  return std::string("\xF4\x8F") + static_cast<char>(0xB8 + b / 64) + static_cast<char>(0x80 + b % 64);
+}
+
+TEST(OfficeTextTest, WhatAServerRefusesBecomesPrivateCharacters) {
+  const std::pair<std::string, std::string> table[] = {
+      {"", ""},
+      {"Zoë ☕ 😀", "Zoë ☕ 😀"},
+      {std::string("a\0b", 3), "a" + Mark(0) + "b"},
+      {"\xff\xfe", Mark(0xff) + Mark(0xfe)},
+      {"\xc3", Mark(0xc3)},                                                     // cut off
+      {"\xc0\x80", Mark(0xc0) + Mark(0x80)},                                    // a longer way to write zero
+      {"\xed\xa0\x80", Mark(0xed) + Mark(0xa0) + Mark(0x80)},                   // half of a pair
+      {"\xf4\x90\x80\x80", Mark(0xf4) + Mark(0x90) + Mark(0x80) + Mark(0x80)},  // past the last character
+      {Mark(0), Mark(0xf4) + Mark(0x8f) + Mark(0xb8) + Mark(0x80)}};
+  for (const auto& [bytes, text] : table) {
+    EXPECT_EQ(ToOffice(bytes), text);
+    EXPECT_EQ(FromOffice(text), bytes);
+  }
+}
+
+TEST(OfficeTextTest, AnyBytesComeBack) {
+  std::mt19937 chance(7);
+  for (int n = 0; n < 20000; ++n) {
+    std::string bytes;
+    for (int length = static_cast<int>(chance() % 12); length > 0; --length) {
+      static const unsigned char kLikely[] = {0xF4, 0x8F, 0xB8, 0x80, 0xC3, 0xA9, 0x00, 'x'};
+      bytes += static_cast<char>(chance() % 2 == 0 ? kLikely[chance() % 8] : chance() % 256);
+    }
+    const std::string text = ToOffice(bytes);
+    ASSERT_EQ(FromOffice(text), bytes);
+    // Valid UTF-8 without zero bytes: no character is replaced.
+    ASSERT_EQ(QString::fromUtf8(text.c_str()).toStdString(), text);
+  }
+}
+
+TEST(OfficeTextTest, ValuesAreWrittenToTheBit) {
+  EXPECT_EQ(JsonValue(std::int64_t{-5}), "-5");
+  EXPECT_EQ(JsonValue(0.1), "0.1");
+  EXPECT_EQ(JsonValue(-0.0), "-0");
+  EXPECT_EQ(JsonValue(1.0 / 3), "0.3333333333333333");
+  EXPECT_EQ(JsonValue(Stored()), "null");
+  EXPECT_EQ(JsonValue(std::string("a\"\\\n\x01")), "\"a\\\"\\\\\\u000a\\u0001\"");
+  EXPECT_EQ(JsonBytes(std::string("\x00\xff", 2)), "\"\\\\x00ff\"");
+}
+
+TEST(OfficeTextTest, WhatIsTypedIsLookedForByWords) {
+  const std::pair<const char*, QStringList> table[] = {{"", {}},
+                                                       {"  Zoë  d'Arc ", {"zoe", "d", "arc"}},
+                                                       {"12-3-1978", {"12031978"}},
+                                                       {"heuvel 1/12/2001", {"01122001", "heuvel"}},
+                                                       {"%_\\", {}},
+                                                       {"31-2-2000", {"3122000"}},
+                                                       {"A.B.", {"a", "b"}}};
+  for (const auto& [typed, words] : table) EXPECT_EQ(WordsTyped(typed), words) << typed;
+}
+
+TEST(OfficeTextTest, AStateCodeTellsWhatWentWrong) {
+  const std::pair<const char*, OfficeProblem> table[] = {
+      {"", OfficeProblem::Unreachable},      {"57P01", OfficeProblem::Unreachable},
+      {"08006", OfficeProblem::Unreachable}, {"KT001", OfficeProblem::LeaseLost},
+      {"KT002", OfficeProblem::Stale},       {"KT003", OfficeProblem::NoClient},
+      {"42501", OfficeProblem::NotAllowed},  {"28P01", OfficeProblem::NotAdmitted},
+      {"53100", OfficeProblem::DiskFull},    {"3F000", OfficeProblem::NoOffice},
+      {"23505", OfficeProblem::Refused},     {"KT006", OfficeProblem::Refused}};
+  for (const auto& [code, problem] : table) EXPECT_EQ(ProblemOf(code), problem) << code;
+}
+
+}  // namespace
+}  // namespace brivane::dossier

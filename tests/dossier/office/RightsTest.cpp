@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include "tests/dossier/office/TrialOffice.h"
+
+// What the database refuses, whoever speaks to it: each tried by psql, as an adviser, a reader and somebody else.
+namespace brivane::dossier {
+namespace {
+
+/// A client of team Noord with a history, and one of Zuid.
+class RightsTest : public testing::Test {
+ protected:
+  RightsTest() {
+    office_.Open(noord_)->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
+    EXPECT_EQ(office_.Psql("postgres", "CREATE ROLE vreemd_" + office_.Name() + " LOGIN"), "");
+  }
+  ~RightsTest() override { office_.Psql("postgres", "DROP ROLE vreemd_" + office_.Name()); }
+
+  void ExpectRefused(const QString& account, const QString& sql, const char* reason) {
+    bool failed = false;
+    const QString said = office_.Psql(account, sql, &failed);
+    EXPECT_TRUE(failed) << account.toStdString() << " could: " << sql.toStdString() << "\n" << said.toStdString();
+    EXPECT_TRUE(said.contains(QLatin1String(reason))) << account.toStdString() << ": " << sql.toStdString() << "\n"
+                                                      << said.toStdString();
+  }
+  [[nodiscard]] QString N() const { return QString::number(noord_); }
+  [[nodiscard]] QString Z() const { return QString::number(zuid_); }
+
+  TrialOffice office_;
+  int noord_ = office_.Add();
+  int zuid_ = AddClient(*office_.Enter("carla"), TrialOffice::kZuid, VoorbeeldDossier());
+};
+
+const QStringList kTables = {
+    "versie",   "team",       "lid",     "medewerker", "client", "dossier", "persoon",   "maatschappij_type",
+    "lening",   "vrijekolom", "periode", "voorstel",   "naam",   "stap",    "wijziging", "zoek",
+    "bewerker", "meelezer"};
+
+TEST_F(RightsTest, NoRowIsWrittenButByTheFunctions) {
+  for (const char* account : {"anna", "rob"}) {
+    for (const QString& table : kTables) {
+      for (const QString& sql :
+           {QString("DELETE FROM kantoor.%1"), QString("TRUNCATE kantoor.%1 CASCADE"),
+            QString("INSERT INTO kantoor.%1 DEFAULT VALUES"),
+            QString("ALTER TABLE kantoor.%1 DISABLE ROW LEVEL SECURITY"), QString("DROP TABLE kantoor.%1 CASCADE"),
+            QString("CREATE TRIGGER t BEFORE INSERT ON kantoor.%1 EXECUTE FUNCTION kantoor.geschiedenis_blijft()"),
+            QString("BEGIN; LOCK TABLE kantoor.%1 IN ACCESS EXCLUSIVE MODE")}) {
+        const bool owns = sql.startsWith("ALTER") || sql.startsWith("DROP");
+        ExpectRefused(account, sql.arg(table), owns ? "must be owner" : "permission denied");
+      }
+    }
+    ExpectRefused(account, "UPDATE kantoor.vrijekolom SET looptijd = 1", "permission denied");
+    ExpectRefused(account, "UPDATE kantoor.client SET team = 2", "permission denied");
+    ExpectRefused(account, "UPDATE kantoor.stap SET tijd = 0", "permission denied");
+    ExpectRefused(account, "UPDATE kantoor.stap SET gebruiker = 'bert'", "permission denied");
+    ExpectRefused(account, "UPDATE kantoor.wijziging SET oud = NULL", "permission denied");
+    ExpectRefused(account, "UPDATE kantoor.naam SET tekst = 'x'", "permission denied");
+    ExpectRefused(account, "INSERT INTO kantoor.lid VALUES (session_user, 2)", "permission denied");
+    ExpectRefused(account, "SELECT * FROM kantoor.zoek", "permission denied");
+    ExpectRefused(account, "SELECT bewijs FROM kantoor.bewerker", "permission denied");
+    ExpectRefused(account, "CREATE TABLE kantoor.x ()", "permission denied");
+    ExpectRefused(account, "CREATE FUNCTION kantoor.mag() RETURNS int LANGUAGE sql AS 'SELECT 1'", "permission denied");
+    ExpectRefused(account, "DROP SCHEMA kantoor CASCADE", "must be owner");
+    ExpectRefused(account,
+                  "CREATE OR REPLACE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE sql AS 'SELECT ''x'''",
+                  "permission denied");
+    ExpectRefused(account, "ALTER FUNCTION kantoor.ik() SECURITY INVOKER", "must be owner");
+    ExpectRefused(account, "SET ROLE kantoor_eigenaar", "permission denied");
+    ExpectRefused(account, "SET ROLE kantoor_beheerder", "permission denied");
+    ExpectRefused(account, "SET SESSION AUTHORIZATION bert", "permission denied");
+    ExpectRefused(account, "GRANT kantoor_beheerder TO " + QString(account), "must have admin option");
+    ExpectRefused(account, "ALTER ROLE " + QString(account) + " BYPASSRLS", "must be superuser");
+    ExpectRefused(account, "DROP POLICY eigen_team ON kantoor.client", "must be owner");
+    ExpectRefused(account, "SET row_security = off; SELECT * FROM kantoor.client", "row-level security");
+  }
+}
+
+TEST_F(RightsTest, TheInnerFunctionsAreTheOwnersAlone) {
+  for (const char* account : {"anna", "rob"}) {
+    for (const QString& call :
+         {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"), QString("kantoor.sloten()"),
+          QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
+          QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.eigen_naam()")}) {
+      ExpectRefused(account, "SELECT " + (call.contains('%') ? call.arg(N()) : call), "permission denied");
+    }
+  }
+}
+
+TEST_F(RightsTest, AReaderTakesNothingUpAndStoresNothing) {
+  for (const QString& call :
+       {"kantoor.neem(" + N() + ")", "kantoor.laat_los(" + N() + ", gen_random_uuid())", "kantoor.vraag(" + N() + ")",
+        QString("kantoor.nieuw(1, '{}')"), "kantoor.vul_geschiedenis(" + N() + ", '{}')",
+        "kantoor.sla_op(" + N() + ", gen_random_uuid(), gen_random_uuid(), '{}')"})
+    ExpectRefused("rob", "SELECT " + call, "permission denied");
+}
+
+TEST_F(RightsTest, AnotherTeamsClientIsNotThere) {
+  for (const char* account : {"anna", "rob"}) {
+    for (const char* table :
+         {"client WHERE nummer", "dossier WHERE client", "persoon WHERE client", "maatschappij_type WHERE client",
+          "lening WHERE client", "vrijekolom WHERE client", "periode WHERE client", "voorstel WHERE client",
+          "naam WHERE client", "stap WHERE client", "wijziging WHERE client"}) {
+      EXPECT_EQ(office_.Psql(account, QString("SELECT count(*) FROM kantoor.%1 = %2").arg(table, Z())), "0") << table;
+    }
+    EXPECT_NE(office_.Psql(account, "SELECT count(*) FROM kantoor.vrijekolom WHERE client = " + N()), "0");
+    EXPECT_EQ(office_.Psql(account, "SELECT count(*) FROM kantoor.zoek_clienten('{heuvel}', 50)"), "1");
+    ExpectRefused(account, "SELECT kantoor.wie(" + Z() + ")", "no such client");
+    ExpectRefused(account, "SELECT kantoor.volg(" + Z() + ")", "no such client");
+  }
+  ExpectRefused("anna", "SELECT kantoor.neem(" + Z() + ")", "no such client");
+  ExpectRefused("anna", "SELECT kantoor.vraag(" + Z() + ")", "no such client");
+  ExpectRefused("anna",
+                "SELECT kantoor.sla_op(" + Z() + ", gen_random_uuid(), gen_random_uuid(), '{\"stap\":{\"nummer\":1}}')",
+                "no such client");
+  ExpectRefused("anna", "SELECT kantoor.nieuw(2, '{}')", "not a member");
+  // A policy cannot be looked past by a function of one's own that is cheap.
+  EXPECT_EQ(office_
+                .Psql("anna",
+                      "CREATE FUNCTION pg_temp.kijk(text) RETURNS boolean LANGUAGE plpgsql COST 0.0000001 AS $$ "
+                      "BEGIN RAISE NOTICE 'zag %', $1; RETURN true; END $$; SELECT count(*) FROM "
+                      "kantoor.client WHERE pg_temp.kijk(naam)")
+                .count("zag"),
+            1);
+}
+
+TEST_F(RightsTest, AnEditIsStoredByItsHolderInHisOwnNameOnce) {
+  const QString edit =
+      "'{\"stap\":{\"nummer\":2,\"medewerker\":%1,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
+      "\"hoogste\":50},\"naam\":[{\"nummer\":90,\"tekst\":\"%2\"}],\"wijziging\":[]}'";
+  const QString mine = edit.arg("90", "Anna Aalders");
+  const QString forged = edit.arg("90", "Bert Bakker");
+  // Without the client taken up, with a guessed proof, in another session than the one that took it up.
+  ExpectRefused("anna", "SELECT kantoor.sla_op(" + N() + ", gen_random_uuid(), gen_random_uuid(), " + mine + ")",
+                "let go");
+  ExpectRefused("bert",
+                "SELECT kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" + N() +
+                    ", gen_random_uuid(), gen_random_uuid(), " + mine + ")",
+                "let go");
+  const QString take = "CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); ";
+  const QString store = "SELECT kantoor.sla_op(" + N() + ", (SELECT bewijs FROM b), gen_random_uuid(), ";
+  ExpectRefused("anna", take + store + forged + ")", "somebody else's name");
+  bool failed = false;
+  const QString said = office_.Psql("anna", take + store + mine + ")", &failed);
+  EXPECT_FALSE(failed) << said.toStdString();
+  ExpectRefused("anna", take + store + mine + ")", "another step was stored");
+  EXPECT_EQ(office_.Psql(
+                "rob",
+                "SELECT gebruiker, nummer, opgeslagen > now() - interval '1 minute' FROM kantoor.stap WHERE client = " +
+                    N() + " ORDER BY nummer"),
+            "anna|1|t\nanna|2|t");
+}
+
+TEST_F(RightsTest, AnEditCannotNameAnotherClient) {
+  const QString other = QString::number(office_.Add());
+  const QString edit =
+      "'{\"stap\":{\"nummer\":2,\"medewerker\":90,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
+      "\"hoogste\":50},"
+      "\"naam\":[{\"nummer\":90,\"tekst\":\"Anna Aalders\"}],\"dossier\":[{\"client\":" +
+      other + ",\"enig\":1,\"leeftijd\":99}]}'";
+  bool failed = false;
+  office_.Psql("anna",
+               "CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" + N() +
+                   ", (SELECT bewijs FROM b), gen_random_uuid(), " + edit + ")",
+               &failed);
+  EXPECT_FALSE(failed);
+  EXPECT_EQ(office_.Psql("rob", "SELECT leeftijd FROM kantoor.dossier WHERE client = " + other), "67");
+  EXPECT_EQ(office_.Psql("rob", "SELECT leeftijd FROM kantoor.dossier WHERE client = " + N()), "99");
+}
+
+TEST_F(RightsTest, WhatIsInTheOfficeGetsNoHistoryFromElsewhere) {
+  ExpectRefused("anna", "SELECT kantoor.vul_geschiedenis(" + N() + ", '{\"stap\":[{\"nummer\":1}]}')",
+                "not a client of this transaction");
+  // Also not by changing it in the same transaction.
+  ExpectRefused("anna", "BEGIN; SELECT kantoor.vraag(" + N() + "); SELECT kantoor.vul_geschiedenis(" + N() + ", '{}')",
+                "not a client of this transaction");
+}
+
+TEST_F(RightsTest, TheOwnerOfTheOfficeChangesNoHistoryEither) {
+  for (const char* sql : {"UPDATE kantoor.stap SET tijd = 0", "DELETE FROM kantoor.stap", "TRUNCATE kantoor.wijziging",
+                          "UPDATE kantoor.wijziging SET oud = NULL", "DELETE FROM kantoor.naam"})
+    ExpectRefused("postgres", QString("SET ROLE kantoor_eigenaar; ") + sql, "history");
+}
+
+TEST_F(RightsTest, WhoHasNoRoleSeesNothing) {
+  const QString stranger = "vreemd_" + office_.Name();
+  ExpectRefused(stranger, "SELECT * FROM kantoor.client", "permission denied");
+  ExpectRefused(stranger, "SELECT kantoor.ik()", "permission denied");
+  ExpectRefused(stranger, "SELECT kantoor.zoek_clienten('{}', 5)", "permission denied");
+  OfficeConnection connection(office_.Words(stranger));
+  try {
+    connection.OpenOffice();
+    ADD_FAILURE() << "entered";
+  } catch (const OfficeError& error) {
+    EXPECT_EQ(error.Problem(), OfficeProblem::NotAllowed);
+  }
+}
+
+TEST_F(RightsTest, AManagerSeesAllAndWritesNoCase) {
+  EXPECT_EQ(office_.Psql("mia", "SELECT count(*) FROM kantoor.client"), "2");
+  ExpectRefused("mia", "SELECT kantoor.neem(" + N() + ")", "permission denied");
+  ExpectRefused("mia", "DELETE FROM kantoor.stap", "permission denied");
+  ExpectRefused("mia", "UPDATE kantoor.vrijekolom SET looptijd = 1", "permission denied");
+  EXPECT_EQ(office_.Psql("mia", "SELECT kantoor.geef_aan_team(" + N() + ", 2)"), "");
+  EXPECT_EQ(office_.Psql("anna", "SELECT count(*) FROM kantoor.client"), "0");
+  EXPECT_EQ(office_.Psql("carla", "SELECT count(*) FROM kantoor.client"), "2");
+}
+
+TEST_F(RightsTest, EveryFunctionOfTheOwnerHasAFixedPath) {
+  EXPECT_EQ(
+      office_.Psql("postgres",
+                   "SELECT count(*) FROM pg_proc p JOIN pg_namespace n ON n.oid = p.pronamespace WHERE n.nspname = "
+                   "'kantoor' AND NOT coalesce(array_to_string(p.proconfig, ',') LIKE 'search_path=pg_catalog, "
+                   "%pg_temp', false)"),
+      "0");
+  EXPECT_EQ(
+      office_.Psql("postgres",
+                   "SELECT count(*) FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace WHERE "
+                   "n.nspname = 'kantoor' AND c.relkind = 'r' AND pg_get_userbyid(c.relowner) <> 'kantoor_eigenaar'"),
+      "0");
+}
+
+}  // namespace
+}  // namespace brivane::dossier

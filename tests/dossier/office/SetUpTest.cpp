@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "tests/dossier/office/TrialOffice.h"
+
+namespace brivane::dossier {
+namespace {
+
+TEST(SetUpTest, IsDoneOnceAndLeavesWhatIsThere) {
+  TrialOffice office;
+  const int client = office.Add();
+  OfficeConnection manager(office.Words("postgres"));
+  manager.Open();
+  EXPECT_EQ(SetUpOffice(manager), kOfficeVersion);
+  EXPECT_EQ(office.Psql("postgres", "SELECT count(*) FROM kantoor.versie"), QString::number(kOfficeVersion));
+  EXPECT_EQ(office.Open(client)->Dossier()->FindKolom(0, 1)->Omschrijving(), "Kinderopvang");
+}
+
+TEST(SetUpTest, TwoAtOnceWaitForEachOther) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  const QString words = server.Words("postgres", server.MakeDatabase());
+  int found[2] = {-1, -1};
+  const auto set_up = [&](int which) {
+    OfficeConnection manager(words);
+    manager.Open();
+    found[which] = SetUpOffice(manager);
+  };
+  std::thread one([&] { set_up(0); });
+  std::thread other([&] { set_up(1); });
+  one.join();
+  other.join();
+  EXPECT_EQ(std::min(found[0], found[1]), 0);
+  EXPECT_EQ(std::max(found[0], found[1]), kOfficeVersion);
+}
+
+TEST(SetUpTest, AFailureHalfwayLeavesNothing) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  const QString database = server.MakeDatabase();
+  // A schema of that name that is not an office's stands in the way.
+  server.Psql("postgres", database, "CREATE SCHEMA kantoor; CREATE TABLE kantoor.iets ()");
+  OfficeConnection manager(server.Words("postgres", database));
+  manager.Open();
+  EXPECT_THROW(SetUpOffice(manager), OfficeError);
+  EXPECT_EQ(
+      server.Psql(
+          "postgres", database,
+          "SELECT count(*) FROM pg_class c JOIN pg_namespace n ON n.oid = c.relnamespace WHERE n.nspname = 'kantoor'"),
+      "1");
+  EXPECT_EQ(server.Psql("postgres", database, "SELECT count(*) FROM pg_extension WHERE extname = 'pg_trgm'"), "0");
+}
+
+TEST(SetUpTest, ByAnAccountThatOwnsTheDatabaseAndMakesRoles) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  server.Psql("postgres", "postgres", "CREATE ROLE oprichter LOGIN CREATEROLE");
+  const QString database = server.MakeDatabase();
+  server.Psql("postgres", "postgres", "ALTER DATABASE " + database + " OWNER TO oprichter");
+  OfficeConnection manager(server.Words("oprichter", database));
+  manager.Open();
+  EXPECT_EQ(SetUpOffice(manager), 0);
+  EXPECT_EQ(SetUpOffice(manager), kOfficeVersion);
+}
+
+TEST(SetUpTest, ALaterOfficeIsLeftAlone) {
+  TrialOffice office;
+  office.Psql("postgres", "INSERT INTO kantoor.versie (nummer) VALUES (99)");
+  for (const bool setting_up : {true, false}) {
+    try {
+      OfficeConnection connection(office.Words(setting_up ? "postgres" : "anna"));
+      if (setting_up) {
+        connection.Open();
+        SetUpOffice(connection);
+      } else {
+        connection.OpenOffice();
+      }
+      ADD_FAILURE() << "done";
+    } catch (const OfficeError& error) {
+      EXPECT_EQ(error.Problem(), OfficeProblem::Newer);
+    }
+  }
+}
+
+TEST(SetUpTest, WhereThereIsNoOfficeThatIsTold) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  const QString database = server.MakeDatabase();
+  const std::pair<QString, OfficeProblem> table[] = {
+      {server.Words("postgres", database), OfficeProblem::NoOffice},
+      {server.Words("postgres", "bestaat_niet"), OfficeProblem::Unreachable},
+      {server.Words("niemand", database), OfficeProblem::Unreachable},
+      {"host=/nergens dbname=x", OfficeProblem::Unreachable},
+      {"geen_dienst", OfficeProblem::Unreachable}};
+  for (const auto& [words, problem] : table) {
+    try {
+      OfficeConnection(words).OpenOffice();
+      ADD_FAILURE() << words.toStdString();
+    } catch (const OfficeError& error) {
+      EXPECT_EQ(error.Problem(), problem) << words.toStdString() << ": " << error.what();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace brivane::dossier

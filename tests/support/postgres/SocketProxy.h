@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+#include <atomic>
+#include <chrono>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace brivane::test {
+
+/// A socket in front of a server's, as a network may be: slow, and cut where it hurts. The words of a connection name
+/// its folder as the host.
+class SocketProxy {
+ public:
+  /// `server`: the folder of the server's socket. Each answer is `delay` late.
+  explicit SocketProxy(const QString& server, std::chrono::milliseconds delay = {});
+  SocketProxy(const SocketProxy&) = delete;
+  SocketProxy& operator=(const SocketProxy&) = delete;
+  ~SocketProxy();
+
+  [[nodiscard]] QString Folder() const { return folder_.path(); }
+  /// How often a question was sent and answered.
+  [[nodiscard]] int RoundTrips() const { return round_trips_; }
+
+  /// What the next question meets.
+  enum class Fate {
+    Answered,    ///< nothing
+    LostBefore,  ///< the connection ends before it reaches the server
+    LostAfter,   ///< it reaches the server, which works it off; the connection ends before the answer comes back
+    DeadBefore,  ///< as the two before, and nobody gets through any more until Mend
+    DeadAfter
+  };
+  void NextMeets(Fate fate) { fate_ = fate; }
+  /// Nobody gets through from now on, or everybody again. What is open ends.
+  void Cut();
+  void Mend() { cut_ = false; }
+
+ private:
+  void Accept();
+  void Carry(int client);
+
+  QString server_;
+  std::chrono::milliseconds delay_;
+  QTemporaryDir folder_;
+  int listener_ = -1;
+  std::atomic<bool> ends_ = false;
+  std::atomic<bool> cut_ = false;
+  std::atomic<int> round_trips_ = 0;
+  std::atomic<Fate> fate_ = Fate::Answered;
+  std::mutex guard_;
+  std::vector<std::thread> carriers_;
+  std::thread acceptor_;
+};
+
+}  // namespace brivane::test
