@@ -70,6 +70,46 @@ for (const [member, what, number] of [
     holdReports(reports, number);
   });
 
+// What a binding asks of the objects around the column. A failure reaches ReportError, and one of ReportError itself nobody.
+for (const [object, member, reported] of [
+  ['application', 'Dossier', true], ['application', 'Codetabellen', true], ['application', 'VulCombo', true],
+  ['application', 'ReportError', false], ['dossier', 'HuidigeLening', true], ['dossier', 'Persoon', true],
+  ['lening', 'VrijeKolommen', true], ['trace', 'EnterProcedure', true], ['trace', 'LeaveProcedure', true],
+])
+  test(`host.AFailureOf ${object} ${member} HangsNothing`, async () => {
+    const { struck, reports, state } = await page.evaluate(async ([what, name, fields]) => {
+      await window.bind({ ...fields });
+      const fresh = document.createElement('vrije-kolom');
+      window.editor.replaceWith(fresh);
+      window.editor = fresh;
+      let struck = 0;
+      const fail = () => {
+        ++struck;
+        throw Object.assign(new Error('De host weigert'), { number: 1234 });
+      };
+      const { application, dossier, item, reports } = window;
+      reports.length = 0;
+      const trace = { EnterProcedure() {}, LeaveProcedure() {}, ErrorInProcedure() {}, ApplicationTitle: '', ObjectName: '', Caption: '',
+        ObjectDescription: '', Message: '', ErrorNumber: '', ErrorDescription: '', ErrorSource: '' };
+      fresh.hostFactories = { procedureTrace: () => trace };
+      const objects = { application, dossier, lening: dossier.HuidigeLening, trace };
+      Object.defineProperty(objects[what], name, { configurable: true, get: fail });
+      // Something has to be reported for a reporter to fail.
+      if (name === 'ReportError') Object.defineProperty(item, 'Termijn', { get: fail });
+      try {
+        await fresh.setApplication(application, 0, 1);
+      } catch (failure) {
+        reports.push({ number: String(failure.number) });
+      }
+      return { struck, reports, state: fresh.state };
+    }, [object, member, { ...COLUMN, IsProduct: true, Maatschappij: 'AB', Productsoort: 44 }]);
+    assert.ok(struck > 0, 'it was never asked');
+    if (reported) holdReports(reports, '1234');
+    // Without a tracer there is no control.
+    assert.equal(state, object === 'trace' ? 'never' : 'failed');
+    await worksAgain();
+  });
+
 test('host.AMemberThatIsMissingIsReported', async () => {
   const reports = await page.evaluate(async (fields) => {
     await window.bind(fields);

@@ -6,7 +6,7 @@ import { useBrowser } from './harness/browser.mjs';
 import { Person } from './harness/person.mjs';
 
 const RECURRING = { Id: 1, Omschrijving: 'Contributie', DatumAanvang: '2031-04-01', Looptijd: 30, Bedrag: { Bedrag: 7 } };
-const { open } = useBrowser(process.env.WEB_BROWSER);
+const { open } = useBrowser(process.env.WEB_BROWSER || 'chrome');
 let page;
 let person;
 
@@ -121,7 +121,7 @@ editing('PageDownGoesAMonthAhead', async () => {
 });
 
 // Of the keypad with its lock on, only Chromium's protocol knows.
-if (!process.env.WEB_BROWSER)
+if (process.env.WEB_BROWSER !== 'firefox')
   editing('ThePointOfTheKeypadIsTheDecimalSign', async () => {
     await person.click('TxtBd');
     await person.press('Control+a', '1', '2');
