@@ -11,6 +11,10 @@ namespace brivane::app {
 enum class Command : std::uint8_t {
   Window,   ///< open the window, on `file` where one was named
   Sample,   ///< write the sample loan file to `file`
+  Office,   ///< open the window, on the clients of the office `offices[0]`
+  OfficeSetUp,    ///< set up the office
+  OfficeTrial,    ///< add the clients of a trial office
+  OfficeSession,  ///< play two advisers, the pictures into `outputFolder`
   Session,  ///< play the sample session on `file`, pictures and transcript into `outputFolder`
   Help,
   Version,
@@ -21,6 +25,7 @@ struct CommandLine {
   Command command = Command::Window;
   QString file;
   QString outputFolder;
+  QStringList offices;  ///< service names or connection words without a password
   QString message;
 };
 
