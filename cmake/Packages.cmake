@@ -71,7 +71,7 @@ if(BRIVANE_QT)
   brivane_package(host dossier misc "loan files with free columns"
     "The reference host of the free column controls: an application that keeps loan\nfiles and edits their free columns."
     "libqt6sql6-sqlite")
-  set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-liberation")
+  set(CPACK_DEBIAN_HOST_PACKAGE_RECOMMENDS "fonts-liberation, libqt6sql6-psql")
 endif()
 set(CPACK_DEBIAN_DOCUMENTS_PACKAGE_ARCHITECTURE all)
 include(CPack)

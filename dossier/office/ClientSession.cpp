@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeTables.h"
@@ -73,7 +74,7 @@ ClientSession::~ClientSession() {
   try {
     if (state_ != State::Broken) {
       office_->ListenNoMore(Channel());
-      office_->Run(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
+      FollowNoMore();
     }
   } catch (const OfficeError&) {
     // The server forgets a session that ended.
@@ -88,7 +89,17 @@ void ClientSession::Fill() {
 
 void ClientSession::TakeUp() {
   office_->Listen(Channel());
-  if (state_ == State::Reading) office_->Run(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
+  if (state_ == State::Reading) Follow();
+}
+
+void ClientSession::Follow() {
+  office_->Run(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
+  follows_ = true;
+}
+
+void ClientSession::FollowNoMore() {
+  if (!std::exchange(follows_, false)) return;
+  office_->Run(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
 }
 
 bool ClientSession::Take() {
@@ -104,6 +115,7 @@ bool ClientSession::Take() {
   holder_ = {};
   state_ = State::Editing;
   pid_ = office_->User().pid;
+  FollowNoMore();
   // The first edit is one round trip too.
   office_->Prepared(SendSql());
   return true;
@@ -122,7 +134,7 @@ void ClientSession::LetGo() noexcept {
   try {
     state_ = State::Reading;
     office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
-    office_->Run(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
+    Follow();
   } catch (const OfficeError&) {
     // With the session the lease goes too.
   }
@@ -282,6 +294,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       token_ = token;
       holder_ = holder;
       pid_ = office_->User().pid;
+      follows_ = false;
       TakeUp();
       if (state_ == State::Editing) office_->Prepared(SendSql());
       found_step_ = found.step;

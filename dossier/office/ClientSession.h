@@ -81,6 +81,8 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
   void TakeUp();
+  void Follow();
+  void FollowNoMore();
 
   std::shared_ptr<OfficeConnection> office_;
   int client_;
@@ -92,6 +94,7 @@ class ClientSession final : public EditKeeper {
   std::optional<Pending> pending_;
   int tries_ = 0;
   bool behind_ = false;
+  bool follows_ = false;
   std::int64_t names_ = 0;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;

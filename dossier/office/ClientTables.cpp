@@ -14,8 +14,6 @@
 namespace brivane::dossier {
 namespace {
 
-QString Latin(std::string_view text) { return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())); }
-
 /// Every table that a client has, by the number that its rows come with.
 const std::vector<ClientTable>& AllTables() {
   static const std::vector<ClientTable> all = [] {

@@ -23,8 +23,10 @@ constexpr char kPatience[] =
 
 }  // namespace
 
-OfficeConnection::OfficeConnection(const QString& words, const QString& password)
-    : name_(NewName()), database_(QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_)) {
+OfficeConnection::OfficeConnection(const QString& words, const QString& password) : name_(NewName()) {
+  if (words.contains(QLatin1String("password=")))
+    throw OfficeError(OfficeProblem::Refused, "a password does not stand among the words of a connection");
+  database_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_);
   const QString all = words.contains(u'=') ? words : QStringLiteral("service=") + words;
   database_.setConnectOptions(QLatin1String(kPatience) + all);
   if (!password.isEmpty()) database_.setPassword(password);

@@ -14,6 +14,10 @@ namespace {
 
 /// How often it is looked whether who had the client is gone: nobody tells of a session that ended.
 constexpr std::chrono::milliseconds kLook{2000};
+/// The same where it is edited here: whether the connection is still there.
+constexpr std::chrono::milliseconds kHeartbeat{10000};
+/// Until what is behind is read anew.
+constexpr std::chrono::milliseconds kSoon{50};
 
 host::Error AsFailure(const OfficeError& error) {
   return {error.Problem() == OfficeProblem::Unreachable ? kOfficeError : kRefusedError,
@@ -74,31 +78,30 @@ QString OfficeStore::Naam() const {
 
 std::shared_ptr<Edits> OfficeStore::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
 
-std::vector<Entry> OfficeStore::Next(StepKind kind) const {
-  if (Now() != State::Editing) return {};
+void OfficeStore::ReadHistory() const {
   try {
     session_->Tables().FillHistory();
   } catch (const OfficeError& error) {
+    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
     throw AsFailure(error);
   }
+}
+
+std::vector<Entry> OfficeStore::Next(StepKind kind) const {
+  if (Now() != State::Editing) return {};
+  // The last step is there from the start, so that a menu can name it.
+  const std::int64_t next = journal_->NextStep(kind);
+  if (next != 0 && (kind == StepKind::Redo || next != session_->Tables().LastStep())) ReadHistory();
   return journal_->Next(kind);
 }
 
 std::optional<Done> OfficeStore::Take(StepKind kind) {
-  try {
-    session_->Tables().FillHistory();
-  } catch (const OfficeError& error) {
-    throw AsFailure(error);
-  }
+  ReadHistory();
   return journal_->Take(kind);
 }
 
 std::unique_ptr<HistoryView> OfficeStore::Geschiedenis() const {
-  try {
-    session_->Tables().FillHistory();
-  } catch (const OfficeError& error) {
-    throw AsFailure(error);
-  }
+  ReadHistory();
   return std::make_unique<HistoryView>(*journal_->Bestand());
 }
 
@@ -128,28 +131,32 @@ void OfficeStore::Ask() { session_->Ask(); }
 void OfficeStore::Attend() {
   if (Now() == State::Broken) {
     const bool unknown = session_->HasUnknownEdit();
-    if (const std::optional<Verdict> verdict = session_->Reconnect()) {
-      Try([&] { Reload(); });
-      if (unknown && verdict->outcome != Outcome::NoneAsked) Settled.Raise(verdict->outcome);
-    }
+    const std::optional<Verdict> verdict = session_->Reconnect();
+    if (verdict && unknown) settled_ = verdict->outcome;
   } else {
-    Try([&] {
-      if (Now() == State::Reading) session_->LookAround();
-      if (session_->IsBehind()) Reload();
-    });
+    Try([&] { session_->LookAround(); });
+  }
+  // What somebody is at work on stays as it is until he is done.
+  if (Now() != State::Broken && journal_->Bewerkingen().IsQuiet()) {
+    if (session_->IsBehind()) Try([&] { Reload(); });
+    if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
   }
   TellIfChanged();
 }
 
 void OfficeStore::Told(const QString& channel, const QString& what) {
-  if (channel != session_->Channel()) return;
+  if (channel != session_->Channel() || !timer_) return;
+  // The driver is still at work here: what is done about it comes after.
   constexpr char kAsks[] = "vraag ";
   if (what.startsWith(QLatin1String(kAsks))) {
-    if (Now() == State::Editing) Asked.Raise(what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1));
+    const QString who = what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1);
+    QTimer::singleShot(0, timer_.get(), [this, who] {
+      if (Now() == State::Editing) Asked.Raise(who);
+    });
     return;
   }
   // What is told is a hint to look: anybody on the server may tell.
-  if (Now() == State::Reading) Attend();
+  if (Now() == State::Reading) timer_->start(0);
 }
 
 template <class Action> void OfficeStore::Try(Action&& action) {
@@ -157,6 +164,8 @@ template <class Action> void OfficeStore::Try(Action&& action) {
     action();
   } catch (const OfficeError& error) {
     if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+  } catch (const DatabaseError&) {
+    // Nothing is edited until the next reading succeeds.
   }
 }
 
@@ -179,12 +188,12 @@ void OfficeStore::Plan() {
   if (Now() == State::Broken) {
     // A window shows it at once.
     timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
-  } else if (session_->IsBehind() || told_state_ != Now()) {
+  } else if (told_state_ != Now()) {
     timer_->start(0);
-  } else if (Now() == State::Reading) {
-    timer_->start(kLook);
+  } else if (session_->IsBehind() || settled_) {
+    timer_->start(kSoon);
   } else {
-    timer_->stop();
+    timer_->start(Now() == State::Reading ? kLook : kHeartbeat);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 #include <memory>
+#include <optional>
 
 #include "dossier/office/ClientSession.h"
 #include "dossier/store/DossierStore.h"
@@ -63,7 +64,7 @@ class OfficeStore final : public DossierStore {
   /// Asks who has it to let go. Throws OfficeError.
   void Ask();
   /// Does what is due: tries to reach the office where the connection broke, and otherwise looks who has the client and
-  /// whether something was stored. Not while an edit is under way.
+  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
   void Attend();
 
   /// Who may edit it, or the connection, is another.
@@ -77,6 +78,8 @@ class OfficeStore final : public DossierStore {
 
  private:
   OfficeStore(std::shared_ptr<OfficeConnection> office, int client);
+  /// Has the whole of the history at hand. Throws host::Error.
+  void ReadHistory() const;
   void Told(const QString& channel, const QString& what);
   /// Does something with the office; a connection that is gone is met by Attend.
   template <class Action> void Try(Action&& action);
@@ -89,6 +92,8 @@ class OfficeStore final : public DossierStore {
   std::shared_ptr<dossier::Dossier> dossier_;
   std::unique_ptr<QTimer> timer_;
   host::Subscriptions subscriptions_;
+  /// What Settled is to tell.
+  std::optional<Outcome> settled_;
   /// What Changed told last.
   State told_state_ = State::Reading;
   QString told_holder_;

@@ -24,8 +24,6 @@ const ClientTable kNames{"naam", kNaam};
 const ClientTable kSteps{"stap", kStap};
 const ClientTable kEntries{"wijziging", kWijziging, static_cast<int>(std::size(kValues))};
 
-QString Latin(std::string_view text) { return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())); }
-
 /// By how the file keeps it.
 Stored Take(const QVariant& value) {
   if (value.isNull()) return {};

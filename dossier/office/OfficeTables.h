@@ -26,6 +26,10 @@ struct ClientTable {
 [[nodiscard]] const ClientTable& Steps();
 [[nodiscard]] const ClientTable& Entries();
 
+/// A name of a table or column.
+[[nodiscard]] inline QString Latin(std::string_view text) {
+  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
 /// The names of the columns, separated by commas.
 [[nodiscard]] QString ColumnsOf(const ClientTable& table);
 

@@ -59,12 +59,16 @@ END $$;
 -- Takes up a client to edit it. `bewijs` is none where another session has it: `houder`, since `sinds`, by `pid`.
 CREATE FUNCTION kantoor.neem(p_client integer, OUT bewijs uuid, OUT houder text, OUT sinds timestamptz,
     OUT laatste bigint, OUT pid integer) LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_genomen boolean := false;
 BEGIN
   PERFORM moet_adviseur_zijn();
   PERFORM moet_zichtbaar_zijn(p_client);
   -- A session may lock twice, but the client is edited once.
-  IF EXISTS (SELECT FROM sloten() s WHERE s.client = p_client AND s.pid = pg_backend_pid())
-     OR NOT pg_try_advisory_lock(1262571092, p_client) THEN
+  IF NOT EXISTS (SELECT FROM sloten() s WHERE s.client = p_client AND s.pid = pg_backend_pid()) THEN
+    v_genomen := pg_try_advisory_lock(1262571092, p_client);
+  END IF;
+  IF NOT v_genomen THEN
     SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, b.pid INTO houder, sinds, pid
       FROM bewerker b LEFT JOIN medewerker m ON m.gebruiker = b.gebruiker WHERE b.client = p_client;
     houder := coalesce(houder, '?');

@@ -50,6 +50,9 @@ class Edits {
   /// `transactions` outlives this object.
   explicit Edits(Transactions& transactions) : transactions_(transactions) {}
 
+  /// No procedure runs and no edit is under way: the memory may be loaded anew.
+  [[nodiscard]] bool IsQuiet() const { return running_.empty() && !edit_; }
+
   // What the tracers tell.
   void Enter(std::string_view procedure);
   /// Ends the running procedure. Throws where its edit cannot be stored; it is then still running.

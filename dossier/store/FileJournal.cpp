@@ -366,6 +366,15 @@ void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membe
   });
 }
 
+std::int64_t FileJournal::NextStep(StepKind kind) {
+  try {
+    static_cast<void>(Open());
+    return log_.Next(kind);
+  } catch (const DatabaseError& error) {
+    throw AlsFout(error);
+  }
+}
+
 std::vector<Entry> FileJournal::Next(StepKind kind) {
   try {
     static_cast<void>(Open());

@@ -46,6 +46,9 @@ class FileJournal : public Journal, private Edits::Transactions {
   void SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membership lidmaatschap) override;
   void InOneEdit(const std::function<void()>& body) override { edits_.InOneEdit(body); }
 
+  /// The number of the step that stands to be undone, or of the undo that stands to be taken back; 0 for none. Throws
+  /// as a change does.
+  [[nodiscard]] std::int64_t NextStep(StepKind kind);
   /// What would be undone or redone next: the entries of that step; none where there is nothing. Throws as a change
   /// does.
   [[nodiscard]] std::vector<Entry> Next(StepKind kind);

@@ -28,6 +28,7 @@ class OfficeShelf final : public Shelf {
 
   QString Make(const DossierGegevens& gegevens) override { return QString::number(office_.Add(gegevens)); }
   std::unique_ptr<DossierStore> Open(const QString& name) override { return OpenClient(name); }
+  QString Address(const QString& name) const override { return office_.Words("anna") + ";" + name; }
   DossierGegevens Stored(const QString& name) override {
     ClientTables tables(*reader_, name.toInt());
     tables.Fill();

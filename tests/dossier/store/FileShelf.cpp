@@ -87,6 +87,7 @@ class FileShelf final : public Shelf {
     return folder_.Make(gegevens, QByteArray::number(++files_).append(".dossier").constData());
   }
   std::unique_ptr<DossierStore> Open(const QString& name) override { return DossierFile::Open(name); }
+  QString Address(const QString& name) const override { return name; }
   DossierGegevens Stored(const QString& name) override {
     const Copy copy(name);
     return ReadBack(copy.path);

@@ -3,6 +3,7 @@
 
 #include "tests/dossier/store/ScriptedEdits.h"
 #include "tests/dossier/store/SecondProcess.h"
+#include "tests/dossier/store/Shelf.h"
 
 // The program is killed at any moment of its work: what was accepted is in the file, and the file is whole.
 namespace brivane::dossier {
@@ -49,17 +50,18 @@ class Expectation {
   std::vector<KolomGegevens> states_;
 };
 
-TEST(KilledTest, TwoHundredTimesAtAnyMomentTheFileHoldsEveryAcceptedEdit) {
+class KilledTest : public EveryStoreTest {};
+
+TEST_F(KilledTest, TwoHundredTimesAtAnyMomentTheFileHoldsEveryAcceptedEdit) {
   constexpr int kTurns = 200;
   constexpr int kEndless = 1 << 30;
-  const Folder folder;
-  const QString path = folder.Make();
+  const QString path = shelf_->Make();
   Expectation expectation;
   std::mt19937 random(20261121);
   int done = 0;    // edits that the file holds
   int atWork = 0;  // kills that struck after an accepted edit
   for (int turn = 0; turn < kTurns; ++turn) {
-    SecondProcess process({"edit", path, QString::number(done + 1), QString::number(kEndless)});
+    SecondProcess process({"edit", shelf_->Address(path), QString::number(done + 1), QString::number(kEndless)});
     QStringList said;
     // One in five is killed while it opens the file and recovers the log, the others some edits later.
     const bool atOpening = turn % 5 == 0;
@@ -73,8 +75,8 @@ TEST(KilledTest, TwoHundredTimesAtAnyMomentTheFileHoldsEveryAcceptedEdit) {
     }
     if (accepted > done) ++atWork;
 
-    const auto file = DossierFile::Open(path);
-    ASSERT_EQ(file->ControleerHeelheid(), QStringList()) << "kill " << turn;
+    const auto file = shelf_->Open(path);
+    ASSERT_EQ(shelf_->Findings(path, *file), QStringList()) << "kill " << turn;
     const KolomGegevens kolom = Expectation::WithoutKeys(file->Dossier()->FindKolom(0, 1)->Gegevens());
     // The edit after the last accepted one may have been stored when the kill struck; as a whole or not at all.
     done = kolom == expectation.After(accepted) ? accepted : accepted + 1;

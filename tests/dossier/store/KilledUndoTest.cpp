@@ -3,6 +3,7 @@
 
 #include "tests/dossier/store/Digest.h"
 #include "tests/dossier/store/SecondProcess.h"
+#include "tests/dossier/store/Shelf.h"
 
 // The program is killed while it edits, undoes and redoes: the way back and the history are as the data are.
 namespace brivane::dossier {
@@ -29,11 +30,12 @@ struct Way {
   }
 };
 
-TEST(KilledUndoTest, WhateverWasUnderWayTheWayBackIsWhole) {
+class KilledUndoTest : public EveryStoreTest {};
+
+TEST_F(KilledUndoTest, WhateverWasUnderWayTheWayBackIsWhole) {
   const int asked = qEnvironmentVariableIntValue("BRIVANE_UNDO");
   const int turns = asked > 0 ? 25 * asked : 25;
-  const Folder folder;
-  const QString path = folder.Make();
+  const QString path = shelf_->Make();
   std::mt19937 random(20261122);
   Way way{.states = {Digest(ReadBack(path))}};
   std::int64_t seen = 0;  // steps of the history that the way has
@@ -41,13 +43,13 @@ TEST(KilledUndoTest, WhateverWasUnderWayTheWayBackIsWhole) {
   for (int turn = 0; turn < turns; ++turn) {
     QStringList said;
     {
-      SecondProcess process({"walk", path, QString::number(turn + 1)});
+      SecondProcess process({"walk", shelf_->Address(path), QString::number(turn + 1)});
       ASSERT_EQ(process.Line(), "open");
       QThread::usleep(std::uniform_int_distribution<unsigned long>(0, 150000)(random));
       said = process.Kill();
     }
-    const auto file = DossierFile::Open(path);
-    ASSERT_EQ(file->ControleerHeelheid(), QStringList()) << "kill " << turn;
+    const auto file = shelf_->Open(path);
+    ASSERT_EQ(shelf_->Findings(path, *file), QStringList()) << "kill " << turn;
     // The steps since the last time, each once, in their order.
     const auto history = file->Geschiedenis();
     std::vector<std::int64_t> numbers = history->Find({});
@@ -76,7 +78,7 @@ TEST(KilledUndoTest, WhateverWasUnderWayTheWayBackIsWhole) {
     ASSERT_EQ(Digest(file->Dossier()->Gegevens()), way.states[way.here]) << "kill " << turn;
     steps += static_cast<int>(since.size());
   }
-  const auto file = DossierFile::Open(path);
+  const auto file = shelf_->Open(path);
   const std::size_t top = way.here;
   while (way.here > 0) {
     ASSERT_TRUE(file->Take(StepKind::Undo)) << way.here;

@@ -24,6 +24,8 @@ class Shelf {
   [[nodiscard]] virtual QString Make(const DossierGegevens& gegevens = VoorbeeldDossier()) = 0;
   /// Opens one to be edited, as soon as nobody else has it.
   [[nodiscard]] virtual std::unique_ptr<DossierStore> Open(const QString& name) = 0;
+  /// By what another process opens it: OpenElsewhere.h.
+  [[nodiscard]] virtual QString Address(const QString& name) const = 0;
   /// What is stored at this moment, read by another than the one who has it open.
   [[nodiscard]] virtual DossierGegevens Stored(const QString& name) = 0;
   /// The same to the byte: StoredRows.

@@ -5,9 +5,6 @@
 
 #include "dossier/store/Database.h"
 #include "dossier/store/DossierFile.h"
-#include "tests/dossier/store/Digest.h"
-#include "tests/dossier/store/RandomEdits.h"
-#include "tests/dossier/store/ScriptedEdits.h"
 
 // A second process for the tests: does what it is told to a loan file and says so on standard output.
 namespace {
@@ -57,38 +54,6 @@ int Write(const QString& path) {
   return 0;
 }
 
-/// Says the number of each edit once it has been accepted, until it is killed or has done the last one.
-int Edit(const QString& path, int first, int last) {
-  const auto file = DossierFile::Open(path);
-  Desk desk(*file);
-  desk.Bind(0, 1);
-  for (int n = first; n <= last; ++n) {
-    DoEdit(desk, n);
-    if (!desk.reports.empty()) {
-      Say("error: " + desk.reports.back().ErrorDescription);
-      return 1;
-    }
-    Say(std::to_string(n));
-  }
-  return 0;
-}
-
-/// Edits, undoes and redoes by chance until it is killed, and says after each what the case is like.
-int Walk(const QString& path, unsigned seed) {
-  const auto file = DossierFile::Open(path);
-  RandomEdits edits(*file->Dossier(), file->Bewerkingen(), seed);
-  std::mt19937 chance(seed);
-  Say("open");
-  for (;;) {
-    const int what = std::uniform_int_distribution<int>(0, 9)(chance);
-    if (what < 6)
-      edits.One();
-    else
-      file->Take(what < 9 ? StepKind::Undo : StepKind::Redo);
-    Say(Digest(file->Dossier()->Gegevens()));
-  }
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -98,7 +63,5 @@ int main(int argc, char** argv) {
   if (command == "open") return Open(path);
   if (command == "read") return Read(path);
   if (command == "write") return Write(path);
-  if (command == "edit" && argc == 5) return Edit(path, std::atoi(argv[3]), std::atoi(argv[4]));
-  if (command == "walk" && argc == 4) return Walk(path, static_cast<unsigned>(std::atoi(argv[3])));
   return 2;
 }

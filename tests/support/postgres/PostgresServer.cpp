@@ -2,7 +2,8 @@
 
 #include <unistd.h>
 
-#include <memory>
+#include <QFile>
+#include <QProcess>
 #include <stdexcept>
 
 namespace brivane::test {
@@ -14,15 +15,17 @@ constexpr int kLongest = 60000;
 
 }  // namespace
 
-PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")), disk_(disk) {
+PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")) {
   if (geteuid() == 0 && QProcess::execute("chown", {QLatin1String(kAccount), folder_.path()}) != 0)
     throw std::runtime_error("the folder of the server cannot be given away");
-  bool failed = false;
-  const QString said = Run(
-      QLatin1String(kPrograms) + "initdb",
-      {"-D", folder_.filePath("data"), "-U", kAccount, "-A", "trust", "-E", "UTF8", "--locale=C.UTF-8", "--no-sync"},
-      &failed);
-  if (failed) throw std::runtime_error(said.toStdString());
+  if (!Tool("initdb", {"-D", folder_.filePath("data"), "-U", kAccount, "-A", "trust", "-E", "UTF8", "--locale=C.UTF-8",
+                       "--no-sync"}))
+    throw std::runtime_error("initdb failed");
+  AddSettings(
+      QString("unix_socket_directories = '%1'\nlisten_addresses = ''\nmax_connections = 120\nlog_min_messages = "
+              "fatal\n")
+          .arg(folder_.path()));
+  if (disk == Disk::DoesNotWait) AddSettings("fsync = off\nfull_page_writes = off\n");
   Start();
   // Its input ends with this process, however that ends.
   const QString stop = QString("cat; %1 %2pg_ctl -D %3/data -m immediate stop; rm -rf %3")
@@ -69,40 +72,47 @@ QString PostgresServer::Psql(const QString& account, const QString& database, co
   return QString::fromUtf8(psql.readAll()).trimmed();
 }
 
+void PostgresServer::AddSettings(const QString& lines) {
+  QFile file(folder_.filePath("data/postgresql.conf"));
+  if (!file.open(QIODevice::Append)) throw std::runtime_error("the settings cannot be written");
+  file.write(lines.toUtf8());
+}
+
+void PostgresServer::AddAdmissions(const QString& lines) {
+  QFile file(folder_.filePath("data/pg_hba.conf"));
+  if (!file.open(QIODevice::ReadWrite)) throw std::runtime_error("who is let in cannot be written");
+  const QByteArray there = file.readAll();
+  file.seek(0);
+  file.write(lines.toUtf8() + there);
+}
+
+void PostgresServer::HandOver(const QString& path) const {
+  QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+  if (geteuid() == 0) QProcess::execute("chown", {QLatin1String(kAccount), path});
+}
+
 void PostgresServer::Start() {
-  QString options =
-      QString("-k %1 -c listen_addresses= -c max_connections=120 -c log_min_messages=fatal").arg(folder_.path());
-  if (disk_ == Disk::DoesNotWait) options += " -c fsync=off -c full_page_writes=off";
-  bool failed = false;
-  const QString said =
-      Run(QLatin1String(kPrograms) + "pg_ctl",
-          {"-D", folder_.filePath("data"), "-l", folder_.filePath("log"), "-w", "-o", options, "start"}, &failed);
-  if (failed) throw std::runtime_error(said.toStdString());
+  if (!Tool("pg_ctl", {"-D", folder_.filePath("data"), "-l", folder_.filePath("log"), "-w", "start"}))
+    throw std::runtime_error("the server does not start");
 }
 
 void PostgresServer::Stop(const QString& how) {
-  Run(QLatin1String(kPrograms) + "pg_ctl", {"-D", folder_.filePath("data"), "-w", "-m", how, "stop"}, nullptr);
+  static_cast<void>(Tool("pg_ctl", {"-D", folder_.filePath("data"), "-w", "-m", how, "stop"}));
 }
 
-bool PostgresServer::IsRunning() const {
-  bool failed = false;
-  Run(QLatin1String(kPrograms) + "pg_ctl", {"-D", folder_.filePath("data"), "status"}, &failed);
-  return !failed;
-}
-
-QString PostgresServer::Run(const QString& program, const QStringList& arguments, bool* failed) const {
+bool PostgresServer::Tool(const QString& program, const QStringList& arguments) const {
   QProcess process;
-  process.setProcessChannelMode(QProcess::MergedChannels);
   // A server that goes on keeps what it inherited open.
   process.setStandardOutputFile(QProcess::nullDevice());
+  process.setStandardErrorFile(QProcess::nullDevice());
   process.setWorkingDirectory("/");
+  const QString path = QLatin1String(kPrograms) + program;
   if (geteuid() == 0)
-    process.start("runuser", QStringList{"-u", kAccount, "--", program} + arguments);
+    process.start("runuser", QStringList{"-u", kAccount, "--", path} + arguments);
   else
-    process.start(program, arguments);
+    process.start(path, arguments);
   process.waitForFinished(kLongest);
-  if (failed != nullptr) *failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
-  return program + ": " + QString::number(process.exitCode());
+  return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
 }
 
 }  // namespace brivane::test

@@ -31,19 +31,22 @@ class PostgresServer {
   /// nothing.
   QString Psql(const QString& account, const QString& database, const QString& sql, bool* failed = nullptr);
 
+  /// Adds lines to the settings, or before those that say who is let in; they count from the next start.
+  void AddSettings(const QString& lines);
+  void AddAdmissions(const QString& lines);
+  /// Gives a file to the account of the server, for it alone.
+  void HandOver(const QString& path) const;
+  /// Runs a program of PostgreSQL's as the account of the server; answers whether it ended well.
+  [[nodiscard]] bool Tool(const QString& program, const QStringList& arguments) const;
   void Start();
   /// How a server ends: "fast" or "immediate".
   void Stop(const QString& how);
-  [[nodiscard]] bool IsRunning() const;
   [[nodiscard]] QString Folder() const { return folder_.path(); }
 
  private:
-  QString Run(const QString& program, const QStringList& arguments, bool* failed) const;
-
   QTemporaryDir folder_;
   /// Waits for the end of this process.
   QProcess guard_;
-  Disk disk_;
   int databases_ = 0;
 };
 

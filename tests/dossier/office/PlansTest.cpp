@@ -1,0 +1,55 @@
+#include <gtest/gtest.h>
+
+#include <QMap>
+
+#include "tests/dossier/office/ManyClients.h"
+
+// What an adviser waits for goes by an index, however large the office: a lost index shows here.
+namespace brivane::dossier {
+namespace {
+
+class PlansTest : public testing::Test {
+ protected:
+  /// How often each table was read from end to end. A session's figures are there once it has ended.
+  QMap<QString, int> WholeReadings() {
+    QMap<QString, int> readings;
+    const QString said = office_.Psql(
+        "postgres",
+        "SELECT relname || ' ' || seq_scan FROM pg_stat_user_tables WHERE schemaname = 'kantoor' AND relname IN "
+        "('client', 'zoek', 'dossier', 'persoon', 'maatschappij_type', 'lening', 'vrijekolom', 'periode', "
+        "'voorstel', 'naam', 'stap', 'wijziging')");
+    for (const QString& line : said.split('\n')) readings[line.section(' ', 0, 0)] = line.section(' ', 1).toInt();
+    return readings;
+  }
+
+  TrialOffice office_;
+  int client_ = office_.Add();
+};
+
+TEST_F(PlansTest, NothingThatAnAdviserDoesReadsATableFromEndToEnd) {
+  MakeClients(office_, client_, 5000, 4);
+  const auto doing = [&](const char* what, const std::function<void(OfficeConnection&)>& act) {
+    SCOPED_TRACE(what);
+    const QMap<QString, int> before = WholeReadings();
+    ASSERT_EQ(before.size(), 12);
+    act(*office_.Enter());
+    EXPECT_EQ(WholeReadings(), before);
+  };
+  doing("the list", [](OfficeConnection& office) { EXPECT_EQ(SearchClients(office, "", 50).size(), 50U); });
+  doing("a name", [](OfficeConnection& office) { EXPECT_EQ(SearchClients(office, "dijkstra 431", 50).size(), 1U); });
+  doing("a day of birth",
+        [](OfficeConnection& office) { EXPECT_GE(SearchClients(office, "21-11-1930", 50).size(), 1U); });
+  for (int again = 0; again < 7; ++again) {
+    // A prepared statement may get another plan after the fifth time.
+    doing("opening, editing, undoing, the history", [&](OfficeConnection&) {
+      const auto store = office_.Open(client_ + 100 + again);
+      for (int n = 0; n < 7; ++n) store->Dossier()->FindKolom(0, 1)->SetLooptijd(10 + n);
+      ASSERT_TRUE(store->Take(StepKind::Undo));
+      store->Dossier()->Verwijder(0, 2);
+      EXPECT_GE(store->Geschiedenis()->Find({}).size(), 8U);
+    });
+  }
+}
+
+}  // namespace
+}  // namespace brivane::dossier

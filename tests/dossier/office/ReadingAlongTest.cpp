@@ -1,0 +1,131 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <functional>
+
+#include "dossier/store/StoreErrors.h"
+#include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/postgres/SocketProxy.h"
+
+// Two advisers at one client: with an event loop each window looks after itself.
+namespace brivane::dossier {
+namespace {
+
+using State = OfficeStore::State;
+
+class ReadingAlongTest : public testing::Test {
+ protected:
+  /// Lets events be handled until something is so; answers after how many milliseconds, -1 where it is not within ten
+  /// seconds.
+  static qint64 Until(const std::function<bool()>& is_so) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!is_so()) {
+      if (timer.hasExpired(10000)) return -1;
+      QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 10);
+    }
+    return timer.elapsed();
+  }
+  static std::int32_t Duration(OfficeStore& store) { return store.Dossier()->FindKolom(0, 1)->Looptijd(); }
+
+  int argc_ = 1;
+  char name_[5] = "test";
+  char* argv_[1] = {static_cast<char*>(name_)};
+  QCoreApplication application_{argc_, static_cast<char**>(argv_)};
+  TrialOffice office_;
+  int client_ = office_.Add();
+};
+
+TEST_F(ReadingAlongTest, AnAcceptedEditShowsWithinASecond) {
+  const auto editor = office_.Open(client_);
+  const auto reader = office_.Open(client_, "bert");
+  int reloads = 0;
+  const auto reloaded = reader->Herladen.Connect([&] { ++reloads; });
+  const auto column = reader->Dossier()->FindKolom(0, 1);
+  for (const int months : {11, 12, 13}) {
+    editor->Dossier()->FindKolom(0, 1)->SetLooptijd(months);
+    const qint64 took = Until([&] { return Duration(*reader) == months; });
+    EXPECT_GE(took, 0);
+    EXPECT_LT(took, 1000);
+  }
+  EXPECT_EQ(reloads, 3);
+  // The objects stay, so that a window need not look for them anew.
+  EXPECT_EQ(reader->Dossier()->FindKolom(0, 1), column);
+}
+
+TEST_F(ReadingAlongTest, WhoAsksIsHeardAndTakesOverWhatIsLetGo) {
+  const auto editor = office_.Open(client_);
+  const auto reader = office_.Open(client_, "bert");
+  QString asked;
+  const auto asks = editor->Asked.Connect([&](const QString& who) { asked = who; });
+  reader->Ask();
+  EXPECT_GE(Until([&] { return !asked.isEmpty(); }), 0);
+  EXPECT_EQ(asked, "Bert Bakker");
+  int changes = 0;
+  const auto changed = reader->Changed.Connect([&] { ++changes; });
+  editor->Dossier()->FindKolom(0, 1)->SetLooptijd(44);
+  editor->LetGo();
+  EXPECT_EQ(editor->Now(), State::Reading);
+  EXPECT_GE(Until([&] { return changes > 0; }), 0);
+  EXPECT_TRUE(reader->HeldBy().naam.isEmpty());
+  EXPECT_TRUE(reader->TakeOver());
+  EXPECT_EQ(Duration(*reader), 44);
+  // The roles have changed.
+  reader->Dossier()->FindKolom(0, 1)->SetLooptijd(45);
+  EXPECT_GE(Until([&] { return Duration(*editor) == 45 && editor->HeldBy().naam == "Bert Bakker"; }), 0);
+  try {
+    editor->Dossier()->FindKolom(0, 1)->SetLooptijd(46);
+    ADD_FAILURE() << "stored";
+  } catch (const host::Error& error) {
+    EXPECT_EQ(error.Number(), kLeaseError);
+  }
+}
+
+TEST_F(ReadingAlongTest, AHolderThatIsGoneIsSeenWithoutBeingTold) {
+  auto editor = office_.Open(client_);
+  const auto reader = office_.Open(client_, "bert");
+  office_.Psql("postgres",
+               QString("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE usename = 'anna' AND "
+                       "datname = '%1'")
+                   .arg(office_.Name()));
+  EXPECT_GE(Until([&] { return reader->HeldBy().naam.isEmpty(); }), 0);
+  EXPECT_TRUE(reader->TakeOver());
+}
+
+TEST_F(ReadingAlongTest, AConnectionThatComesBackIsTakenUpByItself) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  const auto editor = OfficeStore::Open(office_.Enter("anna", proxy.Folder()), client_);
+  const auto reader = OfficeStore::Open(office_.Enter("rob", proxy.Folder()), client_);
+  std::vector<State> states;
+  const auto changed = editor->Changed.Connect([&] { states.push_back(editor->Now()); });
+  proxy.Cut();
+  EXPECT_THROW(editor->Dossier()->FindKolom(0, 1)->SetLooptijd(10), host::Error);
+  EXPECT_GE(
+      Until([&] { return editor->Now() == State::Broken && reader->Now() == State::Broken && editor->Tries() > 1; }),
+      0);
+  EXPECT_FALSE(editor->InPlace());
+  proxy.Mend();
+  EXPECT_GE(Until([&] { return editor->Now() == State::Editing && reader->Now() == State::Reading; }), 0);
+  editor->Dossier()->FindKolom(0, 1)->SetLooptijd(20);
+  EXPECT_GE(Until([&] { return Duration(*reader) == 20; }), 0);
+  EXPECT_EQ(states, (std::vector{State::Broken, State::Editing}));
+}
+
+TEST_F(ReadingAlongTest, WhoForgesAMessageShowsNothing) {
+  const auto reader = office_.Open(client_, "bert");
+  const auto editor = office_.Open(office_.Add());
+  int asked = 0;
+  const auto asks = reader->Asked.Connect([&](const QString&) { ++asked; });
+  office_.Psql("rob", QString("NOTIFY kantoor_%1, 'stap 999 Iemand'; NOTIFY kantoor_%1, 'onzin'").arg(client_));
+  Until([timer = [] {
+    QElapsedTimer t;
+    t.start();
+    return t;
+  }()] { return timer.hasExpired(300); });
+  EXPECT_EQ(Duration(*reader), 96);
+  EXPECT_EQ(asked, 0);
+}
+
+}  // namespace
+}  // namespace brivane::dossier
