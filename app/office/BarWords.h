@@ -10,16 +10,16 @@ namespace brivane::app {
 struct BarFacts {
   dossier::ClientSession::State state = dossier::ClientSession::State::Editing;
   bool writes = true;  ///< this account may edit
-  QString holder;      ///< who else edits it; empty for nobody
-  QString since;
+  QString holder{};      ///< who else edits it; empty for nobody
+  QString since{};
   bool asked = false;  ///< it was asked for here
-  QString asker;       ///< who asks for it; empty for nobody
+  QString asker{};       ///< who asks for it; empty for nobody
   int tries = 0;       ///< to reach the office
   bool unknown = false;  ///< the outcome of an edit is not known
 };
 
 struct BarWords {
-  QString text;  ///< empty where there is nothing to be said
+  QString text{};  ///< empty where there is nothing to be said
   bool ask = false;
   bool takeOver = false;
   bool handOver = false;

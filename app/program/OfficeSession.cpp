@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <functional>
 #include <stdexcept>
 
@@ -24,6 +26,7 @@ namespace brivane::app {
 namespace {
 
 constexpr int kPatience = 20000;  ///< milliseconds
+constexpr int kLook = 20;         ///< milliseconds
 constexpr int kGap = 8;           ///< pixels between the windows
 
 void Need(bool done, const char* what) {
@@ -35,7 +38,9 @@ bool Soon(const std::function<bool()>& comes) {
   clock.start();
   while (!comes()) {
     if (clock.hasExpired(kPatience)) return false;
-    QApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+    QEventLoop loop;
+    QTimer::singleShot(kLook, &loop, &QEventLoop::quit);
+    loop.exec();
   }
   return true;
 }

@@ -109,8 +109,11 @@ void ClientOnScreen::OnChanged() {
     const QString holder = store_.HeldBy().naam;
     const QString who = holder.isEmpty() ? QStringLiteral("Een ander") : holder;
     if (state_ == State::Broken) {
+      settled_ = false;
       Notice({});
       eventLog_.Write(QStringLiteral("Kantoor: geen verbinding."));
+    } else if (before == State::Broken && settled_) {
+      // It was told already, with what became of the last edit.
     } else if (before == State::Broken) {
       Notice(state_ == State::Editing || !writes_ || holder.isEmpty()
                  ? QStringLiteral("De verbinding met het kantoor is er weer.")
@@ -147,6 +150,7 @@ void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
 
 void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
   unknown_ = false;
+  settled_ = outcome != dossier::Outcome::NoneAsked;
   if (outcome == dossier::Outcome::WasStored) {
     ForgetUnstored();
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));

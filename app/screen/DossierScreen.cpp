@@ -12,7 +12,6 @@
 #include "app/screen/BoxAtWork.h"
 #include "app/screen/CaseCheck.h"
 #include "app/screen/ListRoom.h"
-#include "dossier/store/DossierFile.h"
 #include <brivane/frame/ErrorReport.h>
 
 namespace brivane::app {

@@ -11,7 +11,7 @@
 #include "app/screen/ListPanel.h"
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
-#include "dossier/store/DossierStore.h"
+#include "dossier/store/DossierFile.h"
 #include "dossier/store/ScenarioTransaction.h"
 
 namespace brivane::app {

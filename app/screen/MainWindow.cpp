@@ -10,7 +10,6 @@
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
 #include "app/desk/Messages.h"
 #include "app/desk/RecentFiles.h"
@@ -18,7 +17,6 @@
 #include "app/screen/FindingsList.h"
 #include "app/screen/Greying.h"
 #include "app/screen/StartPage.h"
-#include "dossier/store/DossierFile.h"
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
@@ -41,12 +39,7 @@ MainWindow::MainWindow(EventLog& eventLog)
       fileName_(new QLabel) {
   setObjectName(QStringLiteral("hoofdvenster"));
   stack_->addWidget(start_);
-  auto* middle = new QWidget;
-  middle_ = new QVBoxLayout(middle);
-  middle_->setContentsMargins(0, 0, 0, 0);
-  middle_->setSpacing(0);
-  middle_->addWidget(stack_);
-  setCentralWidget(middle);
+  setCentralWidget(stack_);
   addDockWidget(Qt::BottomDockWidgetArea, findings_);
   findings_->hide();
   attention_->setObjectName(QStringLiteral("aandachtspunten"));
@@ -126,6 +119,7 @@ void MainWindow::LetGoOfFile() {
   recording_.LetGo();
   client_.reset();
   delete screen_;
+  delete page_;
   findings_->Clear();
   fileName_->clear();
   ShowAttention(0);

@@ -16,11 +16,6 @@
 
 class QLabel;
 class QStackedWidget;
-class QVBoxLayout;
-
-namespace brivane::dossier {
-class DossierFile;
-}
 
 namespace brivane::app {
 
@@ -147,7 +142,6 @@ class MainWindow final : public QMainWindow {
   app::Actions actions_;
   HelpDesk help_;
   std::shared_ptr<host::Hoofdvenster> owner_;
-  QVBoxLayout* middle_;
   QStackedWidget* stack_;
   StartPage* start_;
   FindingsList* findings_;
@@ -157,7 +151,8 @@ class MainWindow final : public QMainWindow {
   OverviewWindows overviews_{*this};
   QPointer<DossierScreen> screen_;
   std::optional<Entrance> entrance_;
-  ClientAddress address_;  ///< of the open client
+  ClientAddress address_;   ///< of the open client
+  QPointer<QWidget> page_;  ///< of the open client: its bar above its screen
   std::unique_ptr<ClientOnScreen> client_;
   bool ending_ = false;
   bool finishing_ = false;

@@ -16,7 +16,6 @@
 #include "app/screen/FilledIn.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/UnfinishedDialog.h"
-#include "dossier/store/DossierFile.h"
 #include <brivane/toolkits/qt/VrijeKolomWidget.h>
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 #include <brivane/toolkits/qt/widgets/FormWindow.h>

@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -12,7 +13,6 @@
 #include "app/screen/Greying.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/office/Office.h"
-#include "dossier/store/DossierFile.h"
 #include "dossier/store/OpeningError.h"
 
 namespace brivane::app {
@@ -92,7 +92,16 @@ void MainWindow::FollowClient() {
                              .tell = [this](const QString& text) { statusBar()->showMessage(text, kTold); },
                              .here = [this] { return Here(); },
                              .goOn = [this](const UnfinishedText& text) { return GoOnWith(text); }});
-  middle_->insertWidget(0, client_->Bar());
+  page_ = new QWidget;
+  auto* layout = new QVBoxLayout(page_);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  stack_->removeWidget(screen_);
+  layout->addWidget(client_->Bar());
+  layout->addWidget(screen_, 1);
+  stack_->addWidget(page_);
+  stack_->setCurrentWidget(page_);
+  screen_->show();
 }
 
 void MainWindow::UpdateOffice(const QString& noFile) {

@@ -1,4 +1,5 @@
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
 
@@ -90,7 +91,7 @@ TEST_F(ClientWindowTest, ASecondAdviserReadsAlongWithFocusAndPlaceKept) {
   ASSERT_TRUE(focus);
 
   window_->Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(second) == "Avondkrant"; }, 1000)) << Omschrijving(second);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(second) == "Avondkrant"; }, 3000)) << Omschrijving(second);
   EXPECT_EQ(second.Screen()->Shown(), kKrant);
   EXPECT_EQ(second.focusWidget(), focus);
 }
@@ -128,7 +129,7 @@ TEST_F(ClientWindowTest, AskingHandsTheClientOver) {
   EXPECT_TRUE(second.Actions().add->isEnabled());
   EXPECT_FALSE(window_->Actions().add->isEnabled());
   second.Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Van Bert");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 1000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 3000));
 }
 
 TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {

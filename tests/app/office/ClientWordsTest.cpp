@@ -20,7 +20,11 @@ TEST(ClientWordsTest, TellAClientInALine) {
   EXPECT_EQ(MomentText(At(2026, 11, 22, 9, 5), now), "09:05");
   EXPECT_EQ(MomentText(At(2026, 11, 21, 9, 5), now), "21 november 09:05");
   EXPECT_EQ(MomentText(At(2025, 3, 1, 9, 5), now), "1 maart 2025 09:05");
-  dossier::ClientLine line{.nummer = 3, .naam = "A. de Boer", .geboortedatum = 29358, .team = "Noord"};
+  dossier::ClientLine line;
+  line.nummer = 3;
+  line.naam = "A. de Boer";
+  line.geboortedatum = 29358;
+  line.team = "Noord";
   EXPECT_EQ(LineText(line, now), "A. de Boer, geboren 17-5-1980, team Noord");
   line.gewijzigd = At(2026, 11, 22, 10, 30);
   line.gewijzigd_door = "Bert Bakker";
@@ -41,8 +45,8 @@ TEST(TrialClientTest, IsPossibleAndTheSameEachTime) {
     ASSERT_NE(client.Personen, TrialClient(number + 1).Personen) << number;
     ASSERT_GE(client.HuidigeLening.VrijeKolommen.size(), 2U) << number;
     // Refused where a loan file could not hold it.
-    if (number % 20 == 0)
-      ASSERT_NO_THROW(dossier::DossierFile::Maak(folder.filePath(QString("%1.dossier").arg(number)), client)) << number;
+    if (number % 20 != 0) continue;
+    EXPECT_NO_THROW(dossier::DossierFile::Maak(folder.filePath(QString("%1.dossier").arg(number)), client)) << number;
   }
 }
 
