@@ -24,7 +24,7 @@ CREATE TABLE kantoor.client (nummer integer GENERATED ALWAYS AS IDENTITY PRIMARY
   team integer NOT NULL REFERENCES kantoor.team, laatste bigint NOT NULL DEFAULT 0,
   gewijzigd timestamptz NOT NULL DEFAULT clock_timestamp(), gewijzigd_door name NOT NULL DEFAULT session_user,
   naam text NOT NULL, geboortedatum bigint NOT NULL);
-CREATE INDEX client_recent ON kantoor.client (gewijzigd DESC, nummer DESC);
+CREATE INDEX client_team ON kantoor.client (team, gewijzigd DESC);
 CREATE INDEX client_eigen ON kantoor.client (gewijzigd_door, gewijzigd DESC);
 
 -- What a client is found by: folded words, each behind a space.
