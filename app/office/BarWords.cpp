@@ -14,9 +14,8 @@ BarWords OfBroken(const BarFacts& facts) {
 }
 
 BarWords OfReading(const BarFacts& facts) {
-  const QString works = facts.holder.isEmpty()
-                            ? QString()
-                            : QStringLiteral("%1 werkt hierin sinds %2.").arg(facts.holder, facts.since);
+  const QString works =
+      facts.holder.isEmpty() ? QString() : QStringLiteral("%1 werkt hierin sinds %2.").arg(facts.holder, facts.since);
   if (!facts.writes) {
     const QString text = QStringLiteral("Alleen lezen: u mag in dit kantoor niets wijzigen.");
     return {.text = works.isEmpty() ? text : text + u' ' + works};

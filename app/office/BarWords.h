@@ -10,11 +10,11 @@ namespace brivane::app {
 struct BarFacts {
   dossier::ClientSession::State state = dossier::ClientSession::State::Editing;
   bool writes = true;  ///< this account may edit
-  QString holder{};      ///< who else edits it; empty for nobody
+  QString holder{};    ///< who else edits it; empty for nobody
   QString since{};
-  bool asked = false;  ///< it was asked for here
+  bool asked = false;    ///< it was asked for here
   QString asker{};       ///< who asks for it; empty for nobody
-  int tries = 0;       ///< to reach the office
+  int tries = 0;         ///< to reach the office
   bool unknown = false;  ///< the outcome of an edit is not known
 };
 

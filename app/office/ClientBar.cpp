@@ -46,7 +46,10 @@ QPushButton* ButtonFor(QAction* action) {
 }  // namespace
 
 ClientBar::ClientBar(const QList<QAction*>& actions, QWidget* parent)
-    : QFrame(parent), state_(MakeLabel("stand")), notice_(MakeLabel("bericht")), unstored_(MakeLabel("nietOpgeslagen")) {
+    : QFrame(parent),
+      state_(MakeLabel("stand")),
+      notice_(MakeLabel("bericht")),
+      unstored_(MakeLabel("nietOpgeslagen")) {
   setObjectName(QStringLiteral("kantoorbalk"));
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);

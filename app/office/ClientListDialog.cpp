@@ -19,7 +19,7 @@ namespace brivane::app {
 namespace {
 
 constexpr int kClient = Qt::UserRole;
-constexpr int kMost = 50;  ///< lines that the office answers with
+constexpr int kMost = 50;     ///< lines that the office answers with
 constexpr int kAgain = 3000;  ///< milliseconds
 constexpr int kLines = 16;
 constexpr int kWidths[] = {30, 12, 12, 28, 32};  ///< characters
@@ -123,8 +123,7 @@ void ClientListDialog::Fill(const QString& typed, const std::vector<dossier::Cli
   QTreeWidgetItem* current = nullptr;
   for (int row = 0; row < static_cast<int>(lines.size()); ++row) {
     const dossier::ClientLine& line = lines[static_cast<std::size_t>(row)];
-    QTreeWidgetItem* item =
-        row < list_->topLevelItemCount() ? list_->topLevelItem(row) : new QTreeWidgetItem(list_);
+    QTreeWidgetItem* item = row < list_->topLevelItemCount() ? list_->topLevelItem(row) : new QTreeWidgetItem(list_);
     const QString cells[] = {line.naam, BirthText(line.geboortedatum), line.team, EditorText(line, now),
                              ChangeText(line, now)};
     for (int column = 0; column < static_cast<int>(std::size(cells)); ++column) item->setText(column, cells[column]);

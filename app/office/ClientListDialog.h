@@ -14,9 +14,9 @@ class QTreeWidget;
 
 namespace brivane::app {
 
-/// The clients of an office below the box that looks them up: what this account changed last comes first. Down goes from
-/// the box into the list and Up back, Enter opens the client that is chosen, and what is typed in the list goes to the
-/// box. Who works in which is looked at again every few seconds.
+/// The clients of an office below the box that looks them up: what this account changed last comes first. Down goes
+/// from the box into the list and Up back, Enter opens the client that is chosen, and what is typed in the list goes to
+/// the box. Who works in which is looked at again every few seconds.
 class ClientListDialog final : public QDialog {
  public:
   ClientListDialog(const Entrance& entrance, QWidget* above);

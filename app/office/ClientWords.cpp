@@ -38,7 +38,8 @@ QString LineText(const dossier::ClientLine& line, const QDateTime& now) {
   parts << QStringLiteral("team %1").arg(line.team);
   if (const QString editor = EditorText(line, now); !editor.isEmpty())
     parts << QStringLiteral("in bewerking bij %1").arg(editor);
-  if (const QString change = ChangeText(line, now); !change.isEmpty()) parts << QStringLiteral("gewijzigd %1").arg(change);
+  if (const QString change = ChangeText(line, now); !change.isEmpty())
+    parts << QStringLiteral("gewijzigd %1").arg(change);
   return parts.join(QStringLiteral(", "));
 }
 

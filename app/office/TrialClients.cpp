@@ -38,13 +38,15 @@ struct Surname {
 };
 
 constexpr Surname kSurnames[] = {
-    {"de", "Jong"},      {"", "Jansen"},    {"de", "Vries"},   {"van den", "Berg"}, {"van", "Dijk"},    {"", "Bakker"},
-    {"", "Janssen"},     {"", "Visser"},    {"", "Smit"},      {"", "Meijer"},      {"de", "Boer"},     {"", "Mulder"},
-    {"de", "Groot"},     {"", "Bos"},       {"", "Vos"},       {"", "Peters"},      {"", "Hendriks"},   {"van", "Leeuwen"},
-    {"", "Dekker"},      {"", "Brouwer"},   {"de", "Wit"},     {"", "Dijkstra"},    {"", "Smits"},      {"de", "Graaf"},
-    {"van der", "Meer"}, {"van der", "Linden"}, {"", "Kok"},   {"", "Jacobs"},      {"de", "Haan"},     {"", "Vermeulen"},
-    {"van den", "Heuvel"}, {"van der", "Veen"}, {"van den", "Broek"}, {"", "Schouten"}, {"van", "Beek"}, {"", "Willems"},
-    {"", "Hoekstra"},    {"", "Koster"},    {"", "Prins"},     {"", "Postma"},      {"", "Öztürk"},     {"el", "Idrissi"}};
+    {"de", "Jong"},        {"", "Jansen"},      {"de", "Vries"},      {"van den", "Berg"}, {"van", "Dijk"},
+    {"", "Bakker"},        {"", "Janssen"},     {"", "Visser"},       {"", "Smit"},        {"", "Meijer"},
+    {"de", "Boer"},        {"", "Mulder"},      {"de", "Groot"},      {"", "Bos"},         {"", "Vos"},
+    {"", "Peters"},        {"", "Hendriks"},    {"van", "Leeuwen"},   {"", "Dekker"},      {"", "Brouwer"},
+    {"de", "Wit"},         {"", "Dijkstra"},    {"", "Smits"},        {"de", "Graaf"},     {"van der", "Meer"},
+    {"van der", "Linden"}, {"", "Kok"},         {"", "Jacobs"},       {"de", "Haan"},      {"", "Vermeulen"},
+    {"van den", "Heuvel"}, {"van der", "Veen"}, {"van den", "Broek"}, {"", "Schouten"},    {"van", "Beek"},
+    {"", "Willems"},       {"", "Hoekstra"},    {"", "Koster"},       {"", "Prins"},       {"", "Postma"},
+    {"", "Öztürk"},        {"el", "Idrissi"}};
 
 constexpr char kInitials[] = "ABCDEFGHIJKLMNPRSTW";
 
@@ -73,7 +75,8 @@ constexpr Kind kKinds[] = {{"Kinderopvang", 180, 1150, kLast, kFiscaalNeutraal, 
 dossier::PersoonGegevens Person(Draw& draw) {
   const std::string initials =
       std::string(1, kInitials[draw.Below(static_cast<int>(std::size(kInitials)) - 1)]) + "." +
-      (draw.Below(2) == 0 ? std::string() : std::string(1, kInitials[draw.Below(static_cast<int>(std::size(kInitials)) - 1)]) + ".");
+      (draw.Below(2) == 0 ? std::string()
+                          : std::string(1, kInitials[draw.Below(static_cast<int>(std::size(kInitials)) - 1)]) + ".");
   const Surname& name = draw.Of(kSurnames);
   const host::Date born =
       frame::MakeDate({.year = 1951 + draw.Below(50), .month = 1 + draw.Below(12), .day = 1 + draw.Below(28)});
@@ -93,7 +96,8 @@ dossier::KolomGegevens Column(Draw& draw, std::int16_t Vrij_Id, const std::vecto
   kolom.Bedrag.Bedrag = kind.least + draw.Below(4 * (kind.most - kind.least)) / 4.0;
   if (kind.contract) {
     // The last is the one that is none of the list.
-    const dossier::Code& company = companies[static_cast<std::size_t>(draw.Below(static_cast<int>(companies.size()) - 1))];
+    const dossier::Code& company =
+        companies[static_cast<std::size_t>(draw.Below(static_cast<int>(companies.size()) - 1))];
     kolom.IsProduct = true;
     kolom.Maatschappij = company.code;
     kolom.MaatschappijNaam = company.tekst;

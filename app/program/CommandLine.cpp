@@ -14,10 +14,14 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {"--voorbeeld", Command::Sample, 1}, {"--sessie", Command::Session, 2},
-    {"--kantoor", Command::Office, 1},   {"--kantoor-inrichten", Command::OfficeSetUp, 1},
-    {"--kantoor-proef", Command::OfficeTrial, 1}, {"--kantoor-sessie", Command::OfficeSession, 4},
-    {"--help", Command::Help, 0},        {"-h", Command::Help, 0},
+    {"--voorbeeld", Command::Sample, 1},
+    {"--sessie", Command::Session, 2},
+    {"--kantoor", Command::Office, 1},
+    {"--kantoor-inrichten", Command::OfficeSetUp, 1},
+    {"--kantoor-proef", Command::OfficeTrial, 1},
+    {"--kantoor-sessie", Command::OfficeSession, 4},
+    {"--help", Command::Help, 0},
+    {"-h", Command::Help, 0},
     {"--version", Command::Version, 0},
 };
 

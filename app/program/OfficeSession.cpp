@@ -48,7 +48,12 @@ bool Soon(const std::function<bool()>& comes) {
 class OfficeShow {
  public:
   OfficeShow(QDir folder, const QString& log, OfficeSessionWords words)
-      : folder_(std::move(folder)), log_(log), words_(std::move(words)), manager_(words_.manager), first_(log_), second_(log_) {
+      : folder_(std::move(folder)),
+        log_(log),
+        words_(std::move(words)),
+        manager_(words_.manager),
+        first_(log_),
+        second_(log_) {
     manager_.Open();
     for (MainWindow* window : {&first_, &second_}) {
       window->resize(MainWindow::kFirstSize);
@@ -82,7 +87,8 @@ class OfficeShow {
     Shut(true);
     Type(second_, QStringLiteral("Naschoolse opvang"));
     Need(Soon([&] { return Bar(second_).startsWith(QStringLiteral("Geen verbinding")); }), "losing the connection");
-    Need(Label(second_, "nietOpgeslagen")->text().endsWith(QStringLiteral("Naschoolse opvang")), "keeping what was typed");
+    Need(Label(second_, "nietOpgeslagen")->text().endsWith(QStringLiteral("Naschoolse opvang")),
+         "keeping what was typed");
     Picture("kantoor-5-verbroken");
 
     Shut(false);
@@ -129,11 +135,11 @@ class OfficeShow {
   /// Ends the connections of the office and lets nobody in, or everybody again.
   void Shut(bool shut) {
     const QString name = QString(database_).replace(u'"', QStringLiteral("\"\""));
-    manager_.RunScript(
-        QStringLiteral("ALTER DATABASE \"%1\" ALLOW_CONNECTIONS %2").arg(name, shut ? "false" : "true"));
+    manager_.RunScript(QStringLiteral("ALTER DATABASE \"%1\" ALLOW_CONNECTIONS %2").arg(name, shut ? "false" : "true"));
     if (shut)
-      manager_.Run(QStringLiteral("SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = ?::text"),
-                   {database_});
+      manager_.Run(
+          QStringLiteral("SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = ?::text"),
+          {database_});
   }
 
   void Picture(const char* name) {

@@ -12,9 +12,9 @@ struct OfficeSessionWords {
   QString manager;
 };
 
-/// Plays two advisers at one client of a trial office in two windows side by side: lease, reading along, asking, handing
-/// over, the connection lost and back. Leaves a picture of each, light and dark. Answers what was not done as it should;
-/// empty where all was.
+/// Plays two advisers at one client of a trial office in two windows side by side: lease, reading along, asking,
+/// handing over, the connection lost and back. Leaves a picture of each, light and dark. Answers what was not done as
+/// it should; empty where all was.
 [[nodiscard]] QString PlayOfficeSession(const QString& outputFolder, const OfficeSessionWords& words);
 
 }  // namespace brivane::app

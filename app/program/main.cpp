@@ -104,7 +104,8 @@ int main(int argc, char** argv) {
     return line.command == Command::OfficeSetUp ? SetUpOfficeOf(line.offices.first())
                                                 : AddTrialClients(line.offices.first());
   }
-  if (line.command == Command::Session || line.command == Command::OfficeSession) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (line.command == Command::Session || line.command == Command::OfficeSession)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication program(argc, argv);
   SetUpProgram(program);
   if (line.command == Command::Session) return PlaySession(line);

@@ -212,8 +212,7 @@ void ClientOnScreen::Ask() {
 void ClientOnScreen::TakeOver() {
   if (store_.Now() != State::Reading) return;
   Try([this] {
-    if (!store_.TakeOver())
-      window_.tell(QStringLiteral("%1 was u voor.").arg(store_.HeldBy().naam));
+    if (!store_.TakeOver()) window_.tell(QStringLiteral("%1 was u voor.").arg(store_.HeldBy().naam));
   });
 }
 

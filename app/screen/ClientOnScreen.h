@@ -16,8 +16,8 @@
 
 namespace brivane::app {
 
-/// What the window does for an open client of an office beyond what it does for a file: the bar above it, the lease, the
-/// connection, and a text that could not be stored.
+/// What the window does for an open client of an office beyond what it does for a file: the bar above it, the lease,
+/// the connection, and a text that could not be stored.
 class ClientOnScreen final : public QObject {
  public:
   struct Window {

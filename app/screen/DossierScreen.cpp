@@ -18,7 +18,7 @@ namespace brivane::app {
 namespace {
 
 constexpr int kTreeCharacters = 72;  ///< width of the list at first, in characters
-constexpr int kUnderBox = 50;     ///< milliseconds until it is looked again whether a box still stands in front
+constexpr int kUnderBox = 50;        ///< milliseconds until it is looked again whether a box still stands in front
 constexpr char kObjectName[] = "Dossier";
 constexpr char kObjectDescription[] = "Dossier";
 

@@ -81,7 +81,8 @@ class DossierScreen final : public QSplitter {
   void SetAuthor(const QString& name) { store_->SetAuthor(name.toStdString()); }
   /// Has the file alone hold everything now, and not within a second.
   void WorkOff() { store_->WorkOff(); }
-  /// Others stored something, and the memory has it: shows that, with the place, the focus and what is being typed kept.
+  /// Others stored something, and the memory has it: shows that, with the place, the focus and what is being typed
+  /// kept.
   void Reread();
   /// It may be edited now, or may no longer be.
   void FollowRights();

@@ -1,6 +1,6 @@
-#include "app/office/BarWords.h"
-
 #include <gtest/gtest.h>
+
+#include "app/office/BarWords.h"
 
 namespace brivane::app {
 namespace {
@@ -30,8 +30,7 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
        {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht (poging 3). Dan blijkt "
                 "ook of de laatste wijziging is opgeslagen."}},
   };
-  for (const BarCase& one : cases)
-    EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
+  for (const BarCase& one : cases) EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
 }
 
 }  // namespace

@@ -127,7 +127,8 @@ TEST_F(ClientListTest, AServerThatIsGoneIsToldAndTypingGoesOn) {
   server.Stop("immediate");
   Type("bo");
   EXPECT_EQ(box_->text(), "bo");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return told_->text().startsWith("Er is geen verbinding met het kantoor"); }, 10000));
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return told_->text().startsWith("Er is geen verbinding met het kantoor"); }, 10000));
   server.Start();
   EXPECT_TRUE(QTest::qWaitFor([&] { return told_->text() == "1 cliënt"; }, 15000)) << qPrintable(told_->text());
 }

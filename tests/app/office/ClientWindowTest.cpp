@@ -149,8 +149,8 @@ TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {
 TEST_F(ClientWindowTest, AReaderByRightsIsOfferedNothing) {
   OpenAs(*window_, "rob");
   EXPECT_EQ(Bar(*window_), "Alleen lezen: u mag in dit kantoor niets wijzigen.");
-  for (const QAction* action : {window_->Actions().office.ask, window_->Actions().office.takeOver,
-                                window_->Actions().office.handOver})
+  for (const QAction* action :
+       {window_->Actions().office.ask, window_->Actions().office.takeOver, window_->Actions().office.handOver})
     EXPECT_FALSE(action->isEnabled());
 }
 
@@ -173,7 +173,8 @@ TEST_F(ClientWindowTest, AHolderWhoseClientWasTakenStoresNothingAndKeepsWhatHeTy
   ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, 10000))
       << qPrintable(Bar(*window_));
   EXPECT_EQ(Stored(), "Weekendabonnement");
-  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Ochtendkrant")) << qPrintable(Text(*window_, "nietOpgeslagen"));
+  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Ochtendkrant"))
+      << qPrintable(Text(*window_, "nietOpgeslagen"));
   EXPECT_TRUE(Text(*window_, "bericht").contains("Bert Bakker")) << qPrintable(Text(*window_, "bericht"));
   // It is there at the next start too.
   ASSERT_EQ(UnfinishedText::All().size(), 1U);
@@ -187,7 +188,7 @@ TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack)
   dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
   Describe("Avondkrant");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding met het kantoor."); }, 5000));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("(poging 2)"); }, 5000)) << qPrintable(Bar(*window_));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("(poging "); }, 5000)) << qPrintable(Bar(*window_));
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
   proxy.Mend();
   ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 15000)) << qPrintable(Bar(*window_));
@@ -211,8 +212,8 @@ TEST_F(ClientWindowTest, AnEditWhoseAnswerWasLostIsToldAsStored) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("blijkt ook of de laatste wijziging"); }, 5000))
       << qPrintable(Bar(*window_));
   proxy.Mend();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); },
-                              15000))
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); }, 15000))
       << qPrintable(Text(*window_, "bericht"));
   EXPECT_EQ(Text(*window_, "nietOpgeslagen"), "");
   EXPECT_EQ(Omschrijving(*window_), "Avondkrant");

@@ -1,16 +1,17 @@
-#include "app/office/ClientWords.h"
-
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
+#include "app/office/ClientWords.h"
 #include "app/office/TrialClients.h"
 #include "dossier/store/DossierFile.h"
 
 namespace brivane::app {
 namespace {
 
-QDateTime At(int year, int month, int day, int hour, int minute) { return {QDate(year, month, day), QTime(hour, minute)}; }
+QDateTime At(int year, int month, int day, int hour, int minute) {
+  return {QDate(year, month, day), QTime(hour, minute)};
+}
 
 TEST(ClientWordsTest, TellAClientInALine) {
   const QDateTime now = At(2026, 11, 22, 11, 0);
@@ -30,9 +31,10 @@ TEST(ClientWordsTest, TellAClientInALine) {
   line.gewijzigd_door = "Bert Bakker";
   line.bewerker = "Bert Bakker";
   line.bewerkt_sinds = At(2026, 11, 22, 10, 12);
-  EXPECT_EQ(LineText(line, now),
-            "A. de Boer, geboren 17-5-1980, team Noord, in bewerking bij Bert Bakker, sinds 10:12, gewijzigd 10:30 door "
-            "Bert Bakker");
+  EXPECT_EQ(
+      LineText(line, now),
+      "A. de Boer, geboren 17-5-1980, team Noord, in bewerking bij Bert Bakker, sinds 10:12, gewijzigd 10:30 door "
+      "Bert Bakker");
   line.eigen = true;
   EXPECT_EQ(ChangeText(line, now), "10:30 door uzelf");
 }

@@ -67,7 +67,8 @@ TEST(OfficeCommandsTest, TheTrialOfficeHasTwoHundredClientsAndItsSessionLeavesPi
   EXPECT_EQ(output.code, 0) << qPrintable(output.error);
   const QStringList pictures = QDir(folder.path()).entryList({"*.png"});
   EXPECT_EQ(pictures.size(), 14) << qPrintable(pictures.join(' '));
-  for (const QString& picture : pictures) EXPECT_FALSE(QImage(folder.filePath(picture)).isNull()) << qPrintable(picture);
+  for (const QString& picture : pictures)
+    EXPECT_FALSE(QImage(folder.filePath(picture)).isNull()) << qPrintable(picture);
 }
 
 }  // namespace

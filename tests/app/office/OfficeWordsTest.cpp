@@ -1,10 +1,9 @@
-#include "app/office/OfficeWords.h"
-
 #include <gtest/gtest.h>
 
 #include <QSettings>
 
 #include "app/office/ClientAddress.h"
+#include "app/office/OfficeWords.h"
 #include "app/office/RecentOffices.h"
 
 namespace brivane::app {
