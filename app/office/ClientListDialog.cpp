@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "app/office/ClientWords.h"
 #include "app/office/OfficeWords.h"
@@ -85,7 +86,10 @@ ClientListDialog::ClientListDialog(const Entrance& entrance, QWidget* above)
 
   search_.found = [this](const QString& typed, const std::vector<dossier::ClientLine>& lines) { Fill(typed, lines); };
   search_.failed = [this](const QString& reason) { Tell(reason); };
-  connect(box_, &QLineEdit::textChanged, this, [this] { search_.Want(box_->text()); });
+  connect(box_, &QLineEdit::textChanged, this, [this] {
+    enter_ = false;
+    search_.Want(box_->text());
+  });
   connect(&again_, &QTimer::timeout, this, [this] {
     if (search_.IsQuiet()) search_.Want(box_->text());
   });
@@ -101,8 +105,9 @@ int ClientListDialog::Current() const {
 }
 
 void ClientListDialog::accept() {
-  // What is still being looked up is not what the list shows.
-  if (Current() == 0 || shown_ != box_->text()) return;
+  // What is still being looked up is not what the list shows: it opens once it is found, where it is the only one.
+  enter_ = shown_ != box_->text();
+  if (enter_ || Current() == 0) return;
   chosen_ = Current();
   QDialog::accept();
 }
@@ -135,6 +140,7 @@ void ClientListDialog::Fill(const QString& typed, const std::vector<dossier::Cli
   list_->setCurrentItem(current);
   open_->setEnabled(current != nullptr);
   const auto count = static_cast<int>(lines.size());
+  if (typed == box_->text() && std::exchange(enter_, false) && count == 1) return accept();
   Tell(count == 0       ? (typed.trimmed().isEmpty() ? QStringLiteral("Uw teams hebben nog geen cliënten.")
                                                      : QStringLiteral("Geen cliënt gevonden."))
        : count == 1     ? QStringLiteral("1 cliënt")
@@ -147,6 +153,8 @@ bool ClientListDialog::eventFilter(QObject* watched, QEvent* event) {
   auto* key = static_cast<QKeyEvent*>(event);
   if (watched == box_) {
     switch (key->key()) {
+      case Qt::Key_Return:
+      case Qt::Key_Enter: accept(); return true;
       case Qt::Key_Down:
       case Qt::Key_Up:
       case Qt::Key_PageDown:

@@ -15,8 +15,9 @@ class QTreeWidget;
 namespace brivane::app {
 
 /// The clients of an office below the box that looks them up: what this account changed last comes first. Down goes
-/// from the box into the list and Up back, Enter opens the client that is chosen, and what is typed in the list goes to
-/// the box. Who works in which is looked at again every few seconds.
+/// from the box into the list and Up back, Enter opens the client that is chosen, also before it is found where it is
+/// the only one, and what is typed in the list goes to the box. Who works in which is looked at again every few
+/// seconds.
 class ClientListDialog final : public QDialog {
  public:
   ClientListDialog(const Entrance& entrance, QWidget* above);
@@ -42,7 +43,8 @@ class ClientListDialog final : public QDialog {
   QLabel* tells_;
   QPushButton* open_;
   QTimer again_;
-  QString shown_;  ///< what the list answers to
+  QString shown_;       ///< what the list answers to
+  bool enter_ = false;  ///< Enter was pressed before the office had answered
   int chosen_ = 0;
   bool other_ = false;
 };

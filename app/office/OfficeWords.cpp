@@ -1,5 +1,6 @@
 #include "app/office/OfficeWords.h"
 
+#include <algorithm>
 #include <map>
 #include <optional>
 
@@ -7,6 +8,12 @@ namespace brivane::app {
 namespace {
 
 using Words = std::map<QString, QString>;
+
+bool IsKeyword(const QString& text) {
+  return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar one) {
+    return one == u'_' || (one.unicode() < 0x80 && one.isLetterOrNumber());
+  });
+}
 
 /// Reads keyword = value pairs as libpq does, a value in quotes too; nothing where they cannot be read so. The driver
 /// takes a semicolon for a space, wherever it stands.
@@ -22,7 +29,7 @@ std::optional<Words> Read(QString text) {
     while (at < text.size() && text[at] != u'=' && !text[at].isSpace()) ++at;
     const QString keyword = text.mid(from, at - from).toLower();
     skip();
-    if (keyword.isEmpty() || at == text.size() || text[at] != u'=') return std::nullopt;
+    if (!IsKeyword(keyword) || at == text.size() || text[at] != u'=') return std::nullopt;
     ++at;
     skip();
     const bool quoted = at < text.size() && text[at] == u'\'';

@@ -13,12 +13,15 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeWidget>
 #include <functional>
 #include <stdexcept>
 
 #include "app/office/ClientAddress.h"
+#include "app/office/ClientListDialog.h"
 #include "app/program/DarkPalette.h"
 #include "app/program/MessageBoxes.h"
+#include "app/program/Pictures.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/office/Office.h"
 
@@ -76,6 +79,8 @@ class OfficeShow {
     Need(Soon([&] { return Box(second_)->text() == QStringLiteral("Kinderopvang na school"); }), "reading along");
     Picture("kantoor-2-meelezen");
 
+    ShowList();
+
     second_.Actions().office.ask->trigger();
     Need(Soon([&] { return Bar(first_).contains(QStringLiteral("vraagt om deze cliënt")); }), "asking");
     Picture("kantoor-3-vragen");
@@ -89,6 +94,7 @@ class OfficeShow {
     Need(Soon([&] { return Bar(second_).startsWith(QStringLiteral("Geen verbinding")); }), "losing the connection");
     Need(Label(second_, "nietOpgeslagen")->text().endsWith(QStringLiteral("Naschoolse opvang")),
          "keeping what was typed");
+    Need(Soon([&] { return Bar(first_).startsWith(QStringLiteral("Geen verbinding")); }), "telling who reads along");
     Picture("kantoor-5-verbroken");
 
     Shut(false);
@@ -104,6 +110,17 @@ class OfficeShow {
   }
 
  private:
+  /// The list of clients as the second adviser sees it.
+  void ShowList() {
+    ClientListDialog list({words_.second, {}, nullptr}, nullptr);
+    list.show();
+    auto* lines = list.findChild<QTreeWidget*>(QStringLiteral("clienten"));
+    list.findChild<QLineEdit*>(QStringLiteral("zoeken"))->setText(QStringLiteral("school"));
+    Need(Soon([&] { return lines->topLevelItemCount() == 1; }), "looking up what was just stored");
+    list.findChild<QLineEdit*>(QStringLiteral("zoeken"))->setText(QStringLiteral("van"));
+    Need(Soon([&] { return lines->topLevelItemCount() > 1; }), "looking up a name");
+    Need(TakePictures(list, folder_, QStringLiteral("kantoor-0-clienten")), "writing the picture of the list");
+  }
   static QLabel* Label(MainWindow& window, const char* name) {
     return window.findChild<QLabel*>(QString::fromLatin1(name));
   }

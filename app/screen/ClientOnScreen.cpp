@@ -111,6 +111,7 @@ void ClientOnScreen::OnChanged() {
     if (state_ == State::Broken) {
       settled_ = false;
       Notice({});
+      window_.tell({});
       eventLog_.Write(QStringLiteral("Kantoor: geen verbinding."));
     } else if (before == State::Broken && settled_) {
       // It was told already, with what became of the last edit.

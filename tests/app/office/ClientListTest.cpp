@@ -74,8 +74,11 @@ TEST_F(ClientListTest, FindsWhileTypingAndOpensWithEnter) {
   // A company, from the middle of a text.
   Type("zeeland");
   ASSERT_TRUE(Lists({"A. de Bakker"})) << qPrintable(Names().join(", "));
+  box_->selectAll();
+  // Enter before the office has answered: it opens once it is found.
+  Type("boer");
   QTest::keyClick(list_->windowHandle(), Qt::Key_Return);
-  EXPECT_EQ(list_->Chosen(), bakker_);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list_->Chosen() == boer_; }, 10000));
   EXPECT_EQ(list_->result(), QDialog::Accepted);
 }
 

@@ -66,7 +66,7 @@ TEST(OfficeCommandsTest, TheTrialOfficeHasTwoHundredClientsAndItsSessionLeavesPi
                                     office.Server().Words("postgres", "postgres")});
   EXPECT_EQ(output.code, 0) << qPrintable(output.error);
   const QStringList pictures = QDir(folder.path()).entryList({"*.png"});
-  EXPECT_EQ(pictures.size(), 14) << qPrintable(pictures.join(' '));
+  EXPECT_EQ(pictures.size(), 16) << qPrintable(pictures.join(' '));
   for (const QString& picture : pictures)
     EXPECT_FALSE(QImage(folder.filePath(picture)).isNull()) << qPrintable(picture);
 }
