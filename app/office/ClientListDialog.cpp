@@ -23,7 +23,7 @@ constexpr int kClient = Qt::UserRole;
 constexpr int kMost = 50;     ///< lines that the office answers with
 constexpr int kAgain = 3000;  ///< milliseconds
 constexpr int kLines = 16;
-constexpr int kWidths[] = {30, 12, 12, 28, 32};  ///< characters
+constexpr int kWidths[] = {30, 15, 12, 30, 36};  ///< characters
 
 }  // namespace
 
@@ -49,7 +49,7 @@ ClientListDialog::ClientListDialog(const Entrance& entrance, QWidget* above)
   list_->setHeaderLabels({QStringLiteral("Naam"), QStringLiteral("Geboren"), QStringLiteral("Team"),
                           QStringLiteral("In bewerking bij"), QStringLiteral("Gewijzigd")});
   const int character = fontMetrics().averageCharWidth();
-  int width = 4 * character;
+  int width = 10 * character;  // margins and a bar to scroll
   for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
     list_->header()->resizeSection(column, kWidths[column] * character);
     width += kWidths[column] * character;
