@@ -97,6 +97,14 @@ QString AskFileToOpen(QWidget* above, const FileQuestion& question) {
   return dialog.Ask();
 }
 
+QString NameForFile(const QString& name) {
+  QString text = name;
+  for (QChar& one : text) {
+    if (one.unicode() < 0x20 || QStringLiteral("/\\:*?\"<>|").contains(one)) one = u'-';
+  }
+  return text;
+}
+
 QString AskNewFile(QWidget* above, const FileQuestion& question, const QString& suffix, const QString& name) {
   const NothingKept nothingKept;
   Dialog dialog(above, question, nothingKept.EmptyFolder());

@@ -14,6 +14,9 @@ struct FileQuestion {
   QString filter;
 };
 
+/// A name of something as the name of a file, without a folder or an ending.
+[[nodiscard]] QString NameForFile(const QString& name);
+
 /// The file that was chosen, or nothing.
 [[nodiscard]] QString AskFileToOpen(QWidget* above, const FileQuestion& question);
 

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "app/office/OfficeWords.h"
+
 namespace brivane::app {
 namespace {
 
@@ -12,8 +14,14 @@ struct Option {
 };
 
 constexpr Option kOptions[] = {
-    {"--voorbeeld", Command::Sample, 1}, {"--sessie", Command::Session, 2},
-    {"--help", Command::Help, 0},        {"-h", Command::Help, 0},
+    {"--voorbeeld", Command::Sample, 1},
+    {"--sessie", Command::Session, 2},
+    {"--kantoor", Command::Office, 1},
+    {"--kantoor-inrichten", Command::OfficeSetUp, 1},
+    {"--kantoor-proef", Command::OfficeTrial, 1},
+    {"--kantoor-sessie", Command::OfficeSession, 4},
+    {"--help", Command::Help, 0},
+    {"-h", Command::Help, 0},
     {"--version", Command::Version, 0},
 };
 
@@ -21,6 +29,16 @@ CommandLine Refusal(const QString& message) {
   CommandLine line;
   line.command = Command::Error;
   line.message = QStringLiteral("dossier: ") + message + QStringLiteral(" (see dossier --help)");
+  return line;
+}
+
+/// The folder of the pictures, where the command takes one, and offices.
+CommandLine ReadOffices(CommandLine line, QStringList arguments) {
+  if (line.command == Command::OfficeSession) line.outputFolder = arguments.takeFirst();
+  for (const QString& words : arguments) {
+    if (const WordsFault fault = FaultOf(words); fault != WordsFault::None) return Refusal(FaultLine(fault));
+  }
+  line.offices = arguments;
   return line;
 }
 
@@ -52,6 +70,7 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
       return Refusal(QStringLiteral("%1 takes %2 argument(s)").arg(first).arg(option.arguments));
     }
     line.command = option.command;
+    if (first.startsWith(QLatin1String("--kantoor"))) return ReadOffices(line, arguments.mid(1));
     if (option.arguments > 0) line.file = arguments.last();
     if (option.arguments == 2) line.outputFolder = arguments.at(1);
     return line;
@@ -65,8 +84,16 @@ QString HelpText() {
       "       dossier --voorbeeld FILE        write the sample loan file to FILE\n"
       "       dossier --sessie OUTDIR FILE    play the sample session on FILE without a screen;\n"
       "                                       leaves OUTDIR/*.png and OUTDIR/transcript.jsonl\n"
+      "       dossier --kantoor OFFICE        open the window on the clients of an office\n"
+      "       dossier --kantoor-inrichten OFFICE\n"
+      "                                       make the schema and the roles of an office, or bring them up to date\n"
+      "       dossier --kantoor-proef OFFICE  add 200 made-up clients\n"
+      "       dossier --kantoor-sessie OUTDIR OFFICE OFFICE MANAGER\n"
+      "                                       play two advisers at one client without a screen; leaves OUTDIR/*.png\n"
       "       dossier --help | --version\n"
       "\n"
+      "OFFICE is the name of a libpq service, or connection words: \"host=db dbname=kantoor sslmode=verify-full\".\n"
+      "A password never stands in it: it comes from where libpq looks for it, or is asked for.\n"
       "A loan file is one .dossier file. Exit code: 0 done, 1 failed, 2 wrong arguments.\n");
 }
 

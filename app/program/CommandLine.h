@@ -9,9 +9,13 @@ namespace brivane::app {
 
 /// What the program was asked to do.
 enum class Command : std::uint8_t {
-  Window,   ///< open the window, on `file` where one was named
-  Sample,   ///< write the sample loan file to `file`
-  Session,  ///< play the sample session on `file`, pictures and transcript into `outputFolder`
+  Window,         ///< open the window, on `file` where one was named
+  Sample,         ///< write the sample loan file to `file`
+  Office,         ///< open the window, on the clients of the office `offices[0]`
+  OfficeSetUp,    ///< set up the office
+  OfficeTrial,    ///< add the clients of a trial office
+  OfficeSession,  ///< play two advisers, the pictures into `outputFolder`
+  Session,        ///< play the sample session on `file`, pictures and transcript into `outputFolder`
   Help,
   Version,
   Error,  ///< `message` tells what is wrong, in one line
@@ -21,6 +25,7 @@ struct CommandLine {
   Command command = Command::Window;
   QString file;
   QString outputFolder;
+  QStringList offices;  ///< service names or connection words without a password
   QString message;
 };
 

@@ -6,6 +6,8 @@
 
 #include "app/desk/Settings.h"
 #include "app/program/CommandLine.h"
+#include "app/program/OfficeCommands.h"
+#include "app/program/OfficeSession.h"
 #include "app/program/PrivateFiles.h"
 #include "app/program/Program.h"
 #include "app/program/SampleSession.h"
@@ -43,7 +45,16 @@ int PlaySession(const CommandLine& line) {
   return kFailed;
 }
 
-int ShowWindow(const QString& file) {
+int PlayOffice(const CommandLine& line) {
+  const QString error = PlayOfficeSession(
+      line.outputFolder, {.first = line.offices[0], .second = line.offices[1], .manager = line.offices[2]});
+  if (error.isEmpty()) return 0;
+  std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(error));
+  return kFailed;
+}
+
+int ShowWindow(const CommandLine& line) {
+  const QString& file = line.file;
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
   MakePrivate(folder);
   MakePrivate(QFileInfo(QSettings().fileName()).absolutePath());
@@ -51,7 +62,9 @@ int ShowWindow(const QString& file) {
   MainWindow window(eventLog);
   const SessionEnd end(window);
   window.show();
-  if (!file.isEmpty()) {
+  if (!line.offices.isEmpty()) {
+    window.OpenOffice(line.offices.first());
+  } else if (!file.isEmpty()) {
     window.Open(file);
   } else if (const QString last = Settings::LastFile(); QFile::exists(last)) {
     window.Open(last);
@@ -76,15 +89,26 @@ int main(int argc, char** argv) {
     case Command::Error: std::fprintf(stderr, "%s\n", qUtf8Printable(line.message)); return kWrongArguments;
     case Command::Sample:
     case Command::Session:
+    case Command::Office:
+    case Command::OfficeSetUp:
+    case Command::OfficeTrial:
+    case Command::OfficeSession:
     case Command::Window: break;
   }
   if (line.command == Command::Sample) {
     QCoreApplication program(argc, argv);
     return MakeSample(line.file);
   }
-  if (line.command == Command::Session) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (line.command == Command::OfficeSetUp || line.command == Command::OfficeTrial) {
+    QCoreApplication program(argc, argv);
+    return line.command == Command::OfficeSetUp ? SetUpOfficeOf(line.offices.first())
+                                                : AddTrialClients(line.offices.first());
+  }
+  if (line.command == Command::Session || line.command == Command::OfficeSession)
+    qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication program(argc, argv);
   SetUpProgram(program);
   if (line.command == Command::Session) return PlaySession(line);
-  return ShowWindow(line.file);
+  if (line.command == Command::OfficeSession) return PlayOffice(line);
+  return ShowWindow(line);
 }

@@ -54,6 +54,7 @@ Actions::Actions(QMainWindow& window)
       exportPerioden(MakeAction(window, "&Perioden…")),
       close(MakeAction(window, "&Sluiten", QKeySequence(Qt::CTRL | Qt::Key_W))),
       quit(MakeAction(window, "&Afsluiten", QKeySequence(Qt::CTRL | Qt::Key_Q))),
+      office(window),
       undo(MakeAction(window, "&Ongedaan maken", QKeySequence(Qt::CTRL | Qt::Key_Z))),
       redo(MakeAction(window, "Opn&ieuw")),
       author(MakeAction(window, "&Naam van de adviseur…")),
@@ -110,6 +111,7 @@ Actions::Actions(QMainWindow& window)
   QMenu* fileMenu = window.menuBar()->addMenu(QStringLiteral("Bes&tand"));
   fileMenu->addActions({create, open});
   fileMenu->addMenu(recent);
+  fileMenu->addMenu(office.menu);
   fileMenu->addAction(sample);
   fileMenu->addSeparator();
   fileMenu->addAction(saveCopy);

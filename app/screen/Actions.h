@@ -2,6 +2,8 @@
 
 #include <QList>
 
+#include "app/screen/OfficeActions.h"
+
 class QAction;
 class QMenu;
 class QMainWindow;
@@ -25,6 +27,8 @@ struct Actions {
   QAction* exportPerioden;
   QAction* close;
   QAction* quit;
+
+  OfficeActions office;
 
   QAction* undo;
   QAction* redo;

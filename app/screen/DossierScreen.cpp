@@ -9,6 +9,7 @@
 #include "app/desk/Settings.h"
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
+#include "app/screen/BoxAtWork.h"
 #include "app/screen/CaseCheck.h"
 #include "app/screen/ListRoom.h"
 #include <brivane/frame/ErrorReport.h>
@@ -17,6 +18,7 @@ namespace brivane::app {
 namespace {
 
 constexpr int kTreeCharacters = 72;  ///< width of the list at first, in characters
+constexpr int kUnderBox = 50;        ///< milliseconds until it is looked again whether a box still stands in front
 constexpr char kObjectName[] = "Dossier";
 constexpr char kObjectDescription[] = "Dossier";
 
@@ -33,18 +35,18 @@ host::ErrorRecord RecordOf(const host::Error& error) {
 
 }  // namespace
 
-DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
+DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierStore> store,
                              std::shared_ptr<host::Hoofdvenster> hoofdvenster, EventLog& eventLog, Recording& recording,
                              const Instrument& instrument, QWidget* parent)
     : QSplitter(parent),
       eventLog_(eventLog),
       recording_(recording),
       traceLog_(std::make_shared<TraceLog>(eventLog)),
-      file_(std::move(file)),
-      application_(std::make_shared<dossier::Application>(file_->Dossier(), std::move(hoofdvenster))),
-      list_(new ListPanel(file_->Dossier())),
+      store_(std::move(store)),
+      application_(std::make_shared<dossier::Application>(store_->Dossier(), std::move(hoofdvenster))),
+      list_(new ListPanel(store_->Dossier())),
       tree_(&list_->Tree()),
-      kolom_(new KolomScreen(file_->Dossier(), MakeEditorHost(instrument), recording)) {
+      kolom_(new KolomScreen(store_->Dossier(), MakeEditorHost(instrument), recording)) {
   addWidget(list_);
   addWidget(kolom_);
   kolom_->raise();  // a screen reader goes through the list first
@@ -54,10 +56,10 @@ DossierScreen::DossierScreen(std::unique_ptr<dossier::DossierFile> file,
   wantedWidth_ = kTreeCharacters * tree_->fontMetrics().averageCharWidth();
   connect(this, &QSplitter::splitterMoved, this, [this] { wantedWidth_ = sizes().front(); });
   connect(qApp, &QApplication::focusChanged, this, &DossierScreen::GiveWay);
-  kolom_->SetRemovable(!file_->IsReadOnly());
+  FollowRights();
 
-  file_->SetAuthor(Settings::Author().toStdString());
-  scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), file_->Bewerkingen());
+  store_->SetAuthor(Settings::Author().toStdString());
+  scenario_ = std::make_unique<dossier::ScenarioTransaction>(*kolom_->Editor().Control(), store_->Bewerkingen());
   Connect(recording);
   const std::vector<Place> kolommen = tree_->Kolommen();
   Show(kolommen.empty() ? Place{} : kolommen.front());
@@ -78,7 +80,7 @@ EditorHost DossierScreen::MakeEditorHost(const Instrument& instrument) {
 }
 
 host::HostFactories DossierScreen::Factories() {
-  return {.MaakProcedureTrace = [this](std::string_view control) { return file_->MakeTrace(control, traceLog_); },
+  return {.MaakProcedureTrace = [this](std::string_view control) { return store_->MakeTrace(control, traceLog_); },
           .MaakDossierControle =
               [this](std::string_view) {
                 auto check = std::make_shared<dossier::DossierControle>([] { return Today(); });
@@ -112,7 +114,7 @@ void DossierScreen::Connect(Recording& recording) {
         RecordOf(own ? *own : host::Error(static_cast<int>(host::ErrorNumber::Foreign), error.what(), kObjectName)));
   });
   subscriptions_ += application_->FoutGemeld.Connect([this](const host::ErrorRecord& error) { TellFailure(error); });
-  subscriptions_ += file_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
+  subscriptions_ += store_->Bewerkingen().Failed.Connect([this, &recording](const dossier::StoreFailure& failed) {
     // The edit is undone, as no replay would do.
     recording.Break();
     PlanRebind();
@@ -120,7 +122,7 @@ void DossierScreen::Connect(Recording& recording) {
     QMetaObject::invokeMethod(
         this, [this, record = RecordOf(failed.error)] { TellFailure(record); }, Qt::QueuedConnection);
   });
-  subscriptions_ += file_->Bewerkingen().Stored.Connect([this] {
+  subscriptions_ += store_->Bewerkingen().Stored.Connect([this] {
     // The memory follows the file: only then do the texts show the change.
     QMetaObject::invokeMethod(
         this,
@@ -135,10 +137,15 @@ void DossierScreen::Connect(Recording& recording) {
   });
 }
 
+QString DossierScreen::Path() const {
+  const auto* file = dynamic_cast<const dossier::DossierFile*>(store_.get());
+  return file != nullptr ? file->Pad() : QString();
+}
+
 bool DossierScreen::MayLeave() {
   if (leaving_) return false;
   // Nothing can be mended in a file that is only read.
-  if (file_->IsReadOnly()) return true;
+  if (store_->IsReadOnly()) return true;
   leaving_ = true;
   const Leaving leaving = kolom_->Leave();
   leaving_ = false;
@@ -303,6 +310,27 @@ void DossierScreen::TellFailure(const host::ErrorRecord& error) {
   ShowFailure(window(), error, rebind_ ? Consequence::Reloaded : Consequence::None);
 }
 
+void DossierScreen::FollowRights() { kolom_->SetRemovable(!store_->IsReadOnly()); }
+
+void DossierScreen::Reread() {
+  // Not under an open box or form: the procedure that opened it has not ended.
+  if (QApplication::activeModalWidget()) {
+    QTimer::singleShot(kUnderBox, this, &DossierScreen::Reread);
+    return;
+  }
+  Refresh();
+  const Place place = Shown();
+  if (Exists(place)) {
+    const BoxAtWork work(kolom_->Editor());
+    kolom_->Rebind();
+    work.GoOn();
+  } else {
+    kolom_->Show({place.Len_Id, std::nullopt});
+  }
+  tree_->RedrawText(Shown());
+  emit reread();
+}
+
 void DossierScreen::PlanRebind() {
   if (std::exchange(rebind_, true)) return;
   QTimer::singleShot(0, this, &DossierScreen::Rebind);
@@ -311,7 +339,7 @@ void DossierScreen::PlanRebind() {
 void DossierScreen::Rebind() {
   // Not under an open box or form: the procedure that opened it has not ended.
   if (QApplication::activeModalWidget()) {
-    QTimer::singleShot(50, this, &DossierScreen::Rebind);
+    QTimer::singleShot(kUnderBox, this, &DossierScreen::Rebind);
     return;
   }
   Refresh();

@@ -18,7 +18,7 @@ namespace brivane::app {
 
 class Recording;
 
-/// An open loan file on the screen: its loans and columns on the left, the column on the right.
+/// An open case on the screen: its loans and columns on the left, the column on the right.
 ///
 /// A column is left only when its editor lets go. Every operation that leaves one asks first and answers
 /// whether it was done.
@@ -28,13 +28,16 @@ class DossierScreen final : public QSplitter {
  public:
   /// `hoofdvenster` owns the editor's modal forms; `eventLog` and `recording` outlive the screen. `instrument` may be
   /// nothing.
-  DossierScreen(std::unique_ptr<dossier::DossierFile> file, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
+  DossierScreen(std::unique_ptr<dossier::DossierStore> store, std::shared_ptr<host::Hoofdvenster> hoofdvenster,
                 EventLog& eventLog, Recording& recording, const Instrument& instrument = nullptr,
                 QWidget* parent = nullptr);
   ~DossierScreen() override;
 
-  [[nodiscard]] const dossier::DossierFile& File() const { return *file_; }
-  [[nodiscard]] dossier::Dossier& Dossier() { return *file_->Dossier(); }
+  [[nodiscard]] dossier::DossierStore& Store() { return *store_; }
+  [[nodiscard]] const dossier::DossierStore& Store() const { return *store_; }
+  /// Where the open loan file stands; empty where it is no file.
+  [[nodiscard]] QString Path() const;
+  [[nodiscard]] dossier::Dossier& Dossier() { return *store_->Dossier(); }
   [[nodiscard]] KolomScreen& Kolom() { return *kolom_; }
   [[nodiscard]] KolommenTree& Tree() { return *tree_; }
   [[nodiscard]] dossier::ScenarioTransaction& Scenario() { return *scenario_; }
@@ -75,9 +78,14 @@ class DossierScreen final : public QSplitter {
   bool AddLening(const QString& name);
   bool SetClient(const std::vector<dossier::PersoonGegevens>& personen, std::int16_t leeftijd);
   /// Who works in the file from now on.
-  void SetAuthor(const QString& name) { file_->SetAuthor(name.toStdString()); }
+  void SetAuthor(const QString& name) { store_->SetAuthor(name.toStdString()); }
   /// Has the file alone hold everything now, and not within a second.
-  void WorkOff() { file_->WorkOff(); }
+  void WorkOff() { store_->WorkOff(); }
+  /// Others stored something, and the memory has it: shows that, with the place, the focus and what is being typed
+  /// kept.
+  void Reread();
+  /// It may be edited now, or may no longer be.
+  void FollowRights();
   /// The complete check of every column, after the box that is being edited was handed over; nothing where
   /// that was refused.
   [[nodiscard]] std::optional<std::vector<dossier::Finding>> Check();
@@ -87,6 +95,8 @@ class DossierScreen final : public QSplitter {
   void placeChanged();
   /// A change is in the file.
   void stored();
+  /// What others stored stands on the screen.
+  void reread();
   /// The host's check after a column was left: how many things there are to look at.
   void findingsCounted(std::size_t count);
 
@@ -119,7 +129,7 @@ class DossierScreen final : public QSplitter {
   Recording& recording_;
   std::shared_ptr<TraceLog> traceLog_;
   host::Subscriptions subscriptions_;
-  std::unique_ptr<dossier::DossierFile> file_;
+  std::unique_ptr<dossier::DossierStore> store_;
   std::shared_ptr<dossier::Application> application_;
   ListPanel* list_;
   KolommenTree* tree_;

@@ -9,7 +9,7 @@ namespace brivane::app {
 
 std::vector<dossier::Entry> DossierScreen::Next(dossier::StepKind kind) {
   try {
-    return file_->Next(kind);
+    return store_->Next(kind);
   } catch (const host::Error&) {
     // A history that cannot be read: Take says so.
     return {};
@@ -32,7 +32,7 @@ std::optional<Place> DossierScreen::PlaceOf(const dossier::Entry& entry) {
 }
 
 bool DossierScreen::Take(dossier::StepKind kind) {
-  if (leaving_ || file_->IsReadOnly() || !kolom_->Editor().CommitPending()) return false;
+  if (leaving_ || store_->IsReadOnly() || !kolom_->Editor().CommitPending()) return false;
   const std::vector<dossier::Entry> step = Next(kind);
   if (!step.empty() && PlaceOf(step.front()) != Shown() && Exists(Shown())) {
     // A new column is not complete yet, and goes again with the step that made it.
@@ -47,7 +47,7 @@ bool DossierScreen::Take(dossier::StepKind kind) {
   // The case is changed as no step of a document does.
   recording_.Break();
   std::optional<dossier::Done> done;
-  if (!Try([&] { done = file_->Take(kind); }) || !done) return false;
+  if (!Try([&] { done = store_->Take(kind); }) || !done) return false;
   ShowStep(*done);
   return true;
 }

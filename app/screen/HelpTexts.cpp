@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::array kKeysEverywhere = std::to_array<HelpKey>({
     {"Ctrl+N, Ctrl+O, Ctrl+W", "nieuw dossier, openen, sluiten"},
+    {"Ctrl+Shift+O", "een kantoor openen: de lijst van zijn cliënten"},
     {"Ctrl+Shift+S", "een kopie onder een andere naam, waarin u verdergaat"},
     {"Ctrl+P, Ctrl+Shift+P", "afdrukken, opslaan als PDF"},
     {"Ctrl+Z; Ctrl+Y of Ctrl+Shift+Z", "ongedaan maken; opnieuw"},

@@ -33,7 +33,7 @@ MainWindow::MainWindow(EventLog& eventLog)
       help_(*this),
       owner_(std::make_shared<qt::Hoofdvenster>(this)),
       stack_(new QStackedWidget),
-      start_(new StartPage({actions_.create, actions_.open, actions_.sample})),
+      start_(new StartPage({actions_.create, actions_.open, actions_.office.open, actions_.sample})),
       findings_(new FindingsList(this)),
       attention_(new QLabel),
       fileName_(new QLabel) {
@@ -60,7 +60,7 @@ MainWindow::~MainWindow() = default;
 
 bool MainWindow::Open(const QString& file) {
   if (screen_ && !screen_->MayLeave()) return false;
-  if (screen_ && QFileInfo(screen_->File().Pad()) == QFileInfo(file)) return true;
+  if (screen_ && !screen_->Path().isEmpty() && QFileInfo(screen_->Path()) == QFileInfo(file)) return true;
   try {
     std::unique_ptr<dossier::DossierFile> opened = dossier::DossierFile::Open(file);
     if (!CloseDossier()) return false;
@@ -75,7 +75,11 @@ bool MainWindow::Open(const QString& file) {
 void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   Settings::SetLastFile(file->Pad());
   RecentFiles::Add(file->Pad());
-  screen_ = new DossierScreen(std::move(file), owner_, eventLog_, recording_, instrument);
+  Put(std::move(file));
+}
+
+void MainWindow::Put(std::unique_ptr<dossier::DossierStore> store) {
+  screen_ = new DossierScreen(std::move(store), owner_, eventLog_, recording_, instrument);
   stack_->addWidget(screen_);
   stack_->setCurrentWidget(screen_);
   if (const int width = Settings::ListWidth(); width > 0) screen_->SetWantedListWidth(width);
@@ -86,9 +90,7 @@ void MainWindow::Show(std::unique_ptr<dossier::DossierFile> file) {
   connect(screen_, &DossierScreen::findingsCounted, this, &MainWindow::ShowAttention);
   overviews_.Follow(*screen_);
   screen_->Tree().SetActions(actions_);
-  const QString kind = screen_->File().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
-  fileName_->setText(QDir::toNativeSeparators(screen_->File().Pad()) + kind);
-  setWindowTitle(QFileInfo(screen_->File().Pad()).completeBaseName() + kind);
+  FollowClient();
   UpdateActions();
   screen_->SwitchFocus();
 }
@@ -115,7 +117,9 @@ void MainWindow::LetGoOfFile() {
   Settings::SetListWidth(screen_->WantedListWidth());
   StopRecording();
   recording_.LetGo();
+  client_.reset();
   delete screen_;
+  delete page_;
   findings_->Clear();
   fileName_->clear();
   ShowAttention(0);
@@ -140,15 +144,23 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->accept();
 }
 
+void MainWindow::ShowName() {
+  const QString kind = screen_->Store().IsReadOnly() ? QStringLiteral(" (alleen lezen)") : QString();
+  fileName_->setText(Whereabouts() + kind);
+  setWindowTitle(screen_->Store().Naam() + kind);
+}
+
 void MainWindow::UpdateActions() {
   const QString noFile = screen_ ? QString() : QStringLiteral("Open eerst een dossier.");
   const QString readOnly =
-      screen_ && screen_->File().IsReadOnly() ? QStringLiteral("Dit dossier is alleen te lezen.") : noFile;
+      screen_ && screen_->Store().IsReadOnly() ? QStringLiteral("Dit dossier is alleen te lezen.") : noFile;
   const bool kolom = screen_ && screen_->Shown().Vrij_Id;
   const QString noKolom = kolom || !readOnly.isEmpty() ? readOnly : QStringLiteral("Kies eerst een vrije kolom.");
   for (QAction* action : actions_.ForDossier()) SetGrey(*action, noFile);
   for (QAction* action : actions_.ForEditing()) SetGrey(*action, readOnly);
   for (QAction* action : actions_.ForKolom()) SetGrey(*action, noKolom);
+  UpdateOffice(noFile);
+  if (screen_) ShowName();
   if (screen_) FillLeningMenus(noKolom);
   NameSteps();
 }

@@ -5,8 +5,11 @@
 #include <QStringList>
 #include <memory>
 
+#include "app/office/ClientAddress.h"
+#include "app/office/Entrance.h"
 #include "app/recording/Recording.h"
 #include "app/screen/Actions.h"
+#include "app/screen/ClientOnScreen.h"
 #include "app/screen/DossierScreen.h"
 #include "app/screen/HelpDesk.h"
 #include "app/screen/OverviewWindows.h"
@@ -20,7 +23,7 @@ class FindingsList;
 class StartPage;
 struct UnfinishedText;
 
-/// The program's window: one loan file at a time, or the page that offers to open one.
+/// The program's window: one loan file or client of an office at a time, or the page that offers to open one.
 ///
 /// Closing it, or the file, asks the open column first; refused, everything stays.
 class MainWindow final : public QMainWindow {
@@ -41,6 +44,10 @@ class MainWindow final : public QMainWindow {
   void Show(std::unique_ptr<dossier::DossierFile> file);
   /// Makes a loan file and opens it; the same holds.
   bool Make(const QString& file, const dossier::DossierGegevens& gegevens);
+  /// Enters an office and offers its clients.
+  void OpenOffice(const QString& words);
+  /// Opens a client in place of what is open; where that cannot be it says why, and all stays as it was.
+  bool OpenClient(const ClientAddress& address);
   /// Closes the open file. False when its column must be mended first.
   bool CloseDossier();
 
@@ -79,6 +86,8 @@ class MainWindow final : public QMainWindow {
 
  private:
   void Connect();
+  void Put(std::unique_ptr<dossier::DossierStore> store);
+  void ShowName();
   void AskNew();
   void AskOpen();
   void OpenRecent(const QString& file);
@@ -95,6 +104,21 @@ class MainWindow final : public QMainWindow {
   void AskLeningName();
   void NameSteps();
   void RecordingBroken();
+  // Of an office.
+  void ConnectOffice();
+  /// Is in an office, this one where words are given; false where it cannot be or was put away.
+  [[nodiscard]] bool IsInOffice(const QString& words);
+  void AskClientOfOffice();
+  void BringToOffice();
+  void SaveAsFile();
+  /// What is open is given what a client has beyond a file, where it is one.
+  void FollowClient();
+  void UpdateOffice(const QString& noFile);
+  [[nodiscard]] bool MayLoseConnection();
+  /// Where what is open is, to be kept and opened again; and the same to be shown.
+  [[nodiscard]] QString Address() const;
+  [[nodiscard]] QString Whereabouts() const;
+  bool OpenAt(const QString& address);
   [[nodiscard]] QString AskNewFile(const QString& title, const QString& name);
   /// The file stands where it was, or the person gives it up.
   [[nodiscard]] bool MayLoseFile();
@@ -126,6 +150,10 @@ class MainWindow final : public QMainWindow {
   Recording recording_;
   OverviewWindows overviews_{*this};
   QPointer<DossierScreen> screen_;
+  std::optional<Entrance> entrance_;
+  ClientAddress address_;   ///< of the open client
+  QPointer<QWidget> page_;  ///< of the open client: its bar above its screen
+  std::unique_ptr<ClientOnScreen> client_;
   bool ending_ = false;
   bool finishing_ = false;
   QStringList kept_;  ///< names of what this window kept for the next start

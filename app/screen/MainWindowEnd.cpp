@@ -12,6 +12,7 @@
 #include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/desk/UnfinishedText.h"
+#include "app/office/LastTyped.h"
 #include "app/screen/FilledIn.h"
 #include "app/screen/MainWindow.h"
 #include "app/screen/UnfinishedDialog.h"
@@ -40,16 +41,10 @@ bool DismissInFront() {
   return true;
 }
 
-/// A box, or the control around it, has the name by which its surface knows it.
-QString NameOf(const QWidget* box) {
-  while (box != nullptr && box->objectName().isEmpty()) box = box->parentWidget();
-  return box ? box->objectName() : QString();
-}
-
 qt::EntryBox* BoxOf(const QWidget& area, const QString& name) {
   for (QLineEdit* line : area.findChildren<QLineEdit*>()) {
     auto* box = dynamic_cast<qt::EntryBox*>(line);
-    if (box != nullptr && NameOf(box) == name) return box;
+    if (box != nullptr && NameOfBox(box) == name) return box;
   }
   return nullptr;
 }
@@ -59,7 +54,7 @@ qt::EntryBox* BoxOf(const QWidget& area, const QString& name) {
 UnfinishedText MainWindow::Here() const {
   UnfinishedText here;
   if (!screen_) return here;
-  here.file = screen_->File().Pad();
+  here.file = Address();
   here.lening = screen_->Shown().Len_Id;
   here.kolom = screen_->Shown().Vrij_Id.value_or(0);
   return here;
@@ -85,7 +80,7 @@ void MainWindow::HandOverTyped() {
   std::vector<std::pair<QPointer<qt::EntryBox>, QString>> kept;
   for (qt::EntryBox* const box : qt::EntryBox::AllPendingWithin(editor)) {
     UnfinishedText typed = Here();
-    typed.box = NameOf(box);
+    typed.box = NameOfBox(box);
     typed.text = box->text();
     if (!typed.text.isEmpty()) kept.emplace_back(box, typed.Keep());
   }
@@ -162,7 +157,7 @@ void MainWindow::OfferUnfinished() {
 bool MainWindow::GoOnWith(const UnfinishedText& unfinished) {
   if (unfinished.box.isEmpty()) QGuiApplication::clipboard()->setText(unfinished.text);
   if (unfinished.file.isEmpty()) return true;
-  if (!Open(unfinished.file)) return false;
+  if (!OpenAt(unfinished.file)) return false;
   if (unfinished.kolom == 0) return true;
   const bool shown = screen_->GoTo({unfinished.lening, unfinished.kolom});
   if (unfinished.box.isEmpty()) return true;
@@ -186,12 +181,12 @@ bool MainWindow::GoOnWith(const UnfinishedText& unfinished) {
 
 void MainWindow::SaveCopy() {
   if (!screen_) return;
-  const QString name = QFileInfo(screen_->File().Pad()).completeBaseName() + QStringLiteral(" kopie");
+  const QString name = screen_->Store().Naam() + QStringLiteral(" kopie");
   for (;;) {
     const QString file = AskNewFile(QStringLiteral("Kopie opslaan als"), name);
     if (file.isEmpty()) return;
     try {
-      screen_->File().Kopieer(file);
+      screen_->Store().Kopieer(file);
       std::unique_ptr<dossier::DossierFile> copy = dossier::DossierFile::Open(file);
       const Place place = screen_->Shown();
       LetGoOfFile();
@@ -205,12 +200,13 @@ void MainWindow::SaveCopy() {
 }
 
 bool MainWindow::MayLoseFile() {
-  if (screen_->File().IsReadOnly() || screen_->File().InPlace()) return true;
+  if (screen_->Store().IsReadOnly() || screen_->Store().InPlace()) return true;
+  if (client_) return MayLoseConnection();
   return Ask(this, QStringLiteral("Dossier sluiten"),
              QStringLiteral("Het dossier \"%1\" staat niet meer waar het stond. Het is verplaatst, vervangen of "
                             "verwijderd terwijl het open was.\n\nBewaar het met Bestand > Kopie opslaan als, of sluit "
                             "het toch.")
-                 .arg(QFileInfo(screen_->File().Pad()).fileName()),
+                 .arg(QFileInfo(screen_->Path()).fileName()),
              QStringLiteral("Toch &sluiten")) == Answer::Yes;
 }
 

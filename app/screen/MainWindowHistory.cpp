@@ -1,12 +1,12 @@
 // How the window goes back and forth, and shows what was changed.
 #include <QAction>
 #include <QApplication>
-#include <QFileInfo>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStatusBar>
 
+#include "app/desk/FileDialogs.h"
 #include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/history/HistoryWindow.h"
@@ -83,8 +83,7 @@ void MainWindow::Take(dossier::StepKind kind) {
 void MainWindow::ShowHistory() {
   if (!screen_->Kolom().Editor().CommitPending()) return;
   try {
-    HistoryWindow(screen_->File().Geschiedenis(), QFileInfo(screen_->File().Pad()).completeBaseName(),
-                  Settings::Folder(), this)
+    HistoryWindow(screen_->Store().Geschiedenis(), NameForFile(screen_->Store().Naam()), Settings::Folder(), this)
         .exec();
   } catch (const host::Error& error) {
     ShowMessage(this, QStringLiteral("Wijzigingen"), QString::fromStdString(error.Description()));

@@ -73,6 +73,7 @@ void MainWindow::Connect() {
   on(actions_.record, [this] { actions_.record->isChecked() ? AskRecording() : StopRecording(); });
   on(actions_.eventLog, [this] { EventLogWindow(eventLog_, this).exec(); });
   on(actions_.about, [this] { ShowAbout(); });
+  ConnectOffice();
   findings_->chosen = [this](const Place& place) {
     if (screen_ && screen_->GoTo(place)) screen_->SwitchFocus();
   };

@@ -35,12 +35,12 @@ bool MainWindow::Record(const QString& file) {
     return false;
   }
   const Place place = screen_->Shown();
-  const QString dossier = screen_->File().Pad();
+  const QString dossier = Address();
   // A replay starts from the file and a new editor, and so does the recording.
   if (!CloseDossier()) return false;
   recording_.broken = [this] { QMetaObject::invokeMethod(this, &MainWindow::RecordingBroken, Qt::QueuedConnection); };
   recording_.Choose(file);
-  if (!Open(dossier)) {
+  if (!OpenAt(dossier)) {
     recording_.Forget();
     return false;
   }

@@ -11,6 +11,7 @@ void OverviewWindows::Follow(DossierScreen& screen) {
   PutAway();
   screen_ = &screen;
   connect(&screen, &DossierScreen::stored, this, &OverviewWindows::Refresh);
+  connect(&screen, &DossierScreen::reread, this, &OverviewWindows::Refresh);
   connect(&screen, &DossierScreen::placeChanged, this, &OverviewWindows::Refresh);
   connect(&screen, &QObject::destroyed, this, &OverviewWindows::PutAway);
 }

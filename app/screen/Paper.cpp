@@ -1,7 +1,6 @@
 #include "app/screen/Paper.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMainWindow>
 #include <QStatusBar>
@@ -57,7 +56,7 @@ void Save(QMainWindow& window, DossierScreen& screen, const Export& what) {
   const auto source = SourceOf(screen);
   if (!source) return;
   const QString folder = Settings::Folder();
-  const QString name = QFileInfo(screen.File().Pad()).completeBaseName() + what.addition;
+  const QString name = NameForFile(screen.Store().Naam()) + what.addition;
   for (;;) {
     const QString file = AskNewFile(&window, {.title = what.title, .folder = folder, .filter = what.filter},
                                     what.suffix, FreeName(folder, name, what.suffix));

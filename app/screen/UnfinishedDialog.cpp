@@ -7,11 +7,20 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/office/ClientAddress.h"
+#include "app/office/OfficeWords.h"
+
 namespace brivane::app {
 namespace {
 
 constexpr int kMostLines = 14;  ///< of the text that are shown at once
 constexpr int kCharacters = 60;
+
+QString NameOf(const QString& address) {
+  if (const auto client = ClientAddress::Of(address))
+    return QStringLiteral("cliënt %1 van kantoor %2").arg(client->client).arg(OfficeTitle(client->words));
+  return QFileInfo(address).fileName();
+}
 
 QString Introduction(const UnfinishedText& unfinished) {
   QString text =
@@ -20,7 +29,7 @@ QString Introduction(const UnfinishedText& unfinished) {
           : QStringLiteral("Bij het afsluiten was dit ingevuld in het venster \"%1\", en is niet opgeslagen.")
                 .arg(unfinished.title);
   if (!unfinished.file.isEmpty()) {
-    text += QStringLiteral("\n\nDossier: %1").arg(QFileInfo(unfinished.file).fileName());
+    text += QStringLiteral("\n\nDossier: %1").arg(NameOf(unfinished.file));
   }
   return text;
 }

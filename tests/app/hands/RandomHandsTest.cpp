@@ -165,7 +165,7 @@ class Session {
   /// What is on the disk now, should the machine stop.
   void TheFileHasWhatWasAccepted() {
     const QTemporaryDir aside;
-    const QString file = window_->Screen()->File().Pad();
+    const QString file = window_->Screen()->Path();
     const QString copy = aside.filePath(QStringLiteral("k.dossier"));
     ASSERT_TRUE(QFile::copy(file, copy));
     if (QFile::exists(file + "-wal")) {
@@ -190,8 +190,8 @@ class Session {
     std::shared_ptr<const dossier::Dossier> dossier;
     QString file;
     if (window_->Screen() != nullptr) {
-      file = window_->Screen()->File().Pad();
-      dossier = window_->Screen()->File().Dossier();
+      file = window_->Screen()->Path();
+      dossier = window_->Screen()->Store().Dossier();
     }
     window_->EndInOrder();
     ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }, 20000));

@@ -211,7 +211,7 @@ TEST_F(ColumnManagementTest, AFileToBeReadIsClosedAlsoOnAColumnThatIsNotComplete
   }
   ASSERT_TRUE(QFile::setPermissions(file_, QFile::ReadOwner));
   Open();
-  ASSERT_TRUE(Screen().File().IsReadOnly());
+  ASSERT_TRUE(Screen().Store().IsReadOnly());
   EXPECT_TRUE(window_->CloseDossier());
 }
 

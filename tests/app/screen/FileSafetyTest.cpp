@@ -101,7 +101,7 @@ TEST_F(FileSafetyTest, NoFileDialogRenamesOrDeletesAFile) {
     });
     action->trigger();
   }
-  EXPECT_TRUE(Screen().File().InPlace());
+  EXPECT_TRUE(Screen().Store().InPlace());
 }
 
 TEST_F(FileSafetyTest, NothingOfAFolderIsKeptForOtherPrograms) {
@@ -140,7 +140,7 @@ TEST_F(FileSafetyTest, WhatWasStoredOfADeletedFileIsKeptElsewhere) {
     QTest::keyClick(name, Qt::Key_Return);
   });
   window_->Actions().saveCopy->trigger();
-  EXPECT_EQ(Screen().File().Pad(), copy);
+  EXPECT_EQ(Screen().Path(), copy);
   EXPECT_EQ(Kolom(0, 1).Omschrijving, "aanvaard");
   Screen().Dossier().FindKolom(0, 1)->SetLooptijd(17);
   ASSERT_TRUE(window_->CloseDossier());

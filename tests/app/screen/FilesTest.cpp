@@ -38,7 +38,7 @@ TEST_F(FilesTest, ARefusedFileLeavesTheOpenCase) {
   dialogs_.ExpectMessage("bestaat niet (meer)", Pressing(Qt::Key_Return));
   EXPECT_FALSE(window_->Open(folder_.filePath("weg.dossier")));
   ASSERT_NE(window_->Screen(), nullptr);
-  EXPECT_EQ(Screen().File().Pad(), file_);
+  EXPECT_EQ(Screen().Path(), file_);
 }
 
 TEST_F(FilesTest, TheSameFileStaysOpen) {
@@ -73,7 +73,7 @@ TEST_F(FilesTest, ANewCaseAsksForTheApplicantAndThePlace) {
   });
   PressKey(Qt::Key_N, Qt::ControlModifier);
   ASSERT_NE(window_->Screen(), nullptr);
-  EXPECT_EQ(Screen().File().Pad(), created);
+  EXPECT_EQ(Screen().Path(), created);
   const std::vector<dossier::PersoonGegevens> personen = Screen().Dossier().Personen();
   ASSERT_EQ(personen.size(), 1U);
   EXPECT_EQ(personen[0].Naam[0], "J.");

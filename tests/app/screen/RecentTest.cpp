@@ -54,7 +54,7 @@ TEST_F(RecentTest, AreInTheMenuAndOnTheStartPage) {
   PressKey(Qt::Key_Down);
   PressKey(Qt::Key_Return);
   ASSERT_NE(window_->Screen(), nullptr);
-  EXPECT_EQ(Screen().File().Pad(), file_);
+  EXPECT_EQ(Screen().Path(), file_);
 }
 
 TEST_F(RecentTest, OneThatIsGoneIsToldAndTakenOutOfTheList) {

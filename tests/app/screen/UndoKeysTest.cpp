@@ -209,7 +209,7 @@ TEST_F(UndoKeysTest, AYesToTheCarryOverIsAStepOfItsOwn) {
   Redo();
   EXPECT_EQ(Case(), after);
   // The history tells the removal of the version by its reason.
-  const auto view = Screen().File().Geschiedenis();
+  const auto view = Screen().Store().Geschiedenis();
   HistoryModel history(*view, nullptr);
   history.Show({});
   QStringList kinds;

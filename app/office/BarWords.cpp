@@ -1,0 +1,42 @@
+#include "app/office/BarWords.h"
+
+namespace brivane::app {
+namespace {
+
+using State = dossier::ClientSession::State;
+
+BarWords OfBroken(const BarFacts& facts) {
+  QString text = QStringLiteral("Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht");
+  if (facts.tries > 0) text += QStringLiteral(" (poging %1)").arg(facts.tries + 1);
+  text += u'.';
+  if (facts.unknown) text += QStringLiteral(" Dan blijkt ook of de laatste wijziging is opgeslagen.");
+  return {.text = text};
+}
+
+BarWords OfReading(const BarFacts& facts) {
+  const QString works =
+      facts.holder.isEmpty() ? QString() : QStringLiteral("%1 werkt hierin sinds %2.").arg(facts.holder, facts.since);
+  if (!facts.writes) {
+    const QString text = QStringLiteral("Alleen lezen: u mag in dit kantoor niets wijzigen.");
+    return {.text = works.isEmpty() ? text : text + u' ' + works};
+  }
+  if (facts.holder.isEmpty())
+    return {.text = QStringLiteral("Alleen lezen: niemand werkt hier nu in."), .takeOver = true};
+  const QString text = QStringLiteral("Alleen lezen: %1").arg(works);
+  if (facts.asked) return {.text = text + QStringLiteral(" U hebt erom gevraagd.")};
+  return {.text = text, .ask = true};
+}
+
+}  // namespace
+
+BarWords WordsFor(const BarFacts& facts) {
+  switch (facts.state) {
+    case State::Broken: return OfBroken(facts);
+    case State::Reading: return OfReading(facts);
+    case State::Editing: break;
+  }
+  if (facts.asker.isEmpty()) return {.handOver = true};
+  return {.text = QStringLiteral("%1 vraagt om deze cliënt.").arg(facts.asker), .handOver = true};
+}
+
+}  // namespace brivane::app

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "dossier/office/OfficeConnection.h"
+
+class QWidget;
+
+namespace brivane::app {
+
+/// An office that this program is in.
+struct Entrance {
+  QString words;
+  /// What was asked for; it stands nowhere else and goes with the program.
+  QString password;
+  std::shared_ptr<dossier::OfficeConnection> office;
+};
+
+/// Enters an office: where it wants a password that libpq does not find, that is asked for. Tells why it cannot be;
+/// nothing then, or where the question was put away.
+[[nodiscard]] std::optional<Entrance> EnterOffice(QWidget* above, const QString& words);
+
+/// Asks which office, those of late first, and enters it.
+[[nodiscard]] std::optional<Entrance> AskOffice(QWidget* above);
+
+/// Whether a server lets nobody in without a password, or not with this one.
+[[nodiscard]] bool WantsPassword(const dossier::OfficeError& error);
+
+}  // namespace brivane::app

@@ -1,0 +1,230 @@
+#include "app/screen/ClientOnScreen.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QScopedValueRollback>
+#include <utility>
+
+#include "app/desk/Messages.h"
+#include "app/office/ClientWords.h"
+#include "app/screen/FilledIn.h"
+#include "app/screen/Greying.h"
+#include "dossier/store/StoreErrors.h"
+
+namespace brivane::app {
+namespace {
+
+using State = dossier::OfficeStore::State;
+
+constexpr int kLook = 500;  ///< milliseconds
+constexpr int kMost = 60;   ///< characters of a text that are shown
+
+QString Short(QString text) {
+  text.replace(u'\n', u' ').replace(u'\t', u' ');
+  return text.size() <= kMost ? text : text.left(kMost - 1) + u'…';
+}
+
+}  // namespace
+
+ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes,
+                               const OfficeActions& actions, EventLog& eventLog, Window window)
+    : screen_(screen),
+      store_(store),
+      writes_(writes),
+      actions_(actions),
+      eventLog_(eventLog),
+      window_(std::move(window)),
+      bar_(new ClientBar({actions.ask, actions.takeOver, actions.handOver})),
+      typed_(screen.Kolom().Editor()),
+      state_(store.Now()) {
+  subscriptions_ += store_.Changed.Connect([this] { OnChanged(); });
+  subscriptions_ += store_.Herladen.Connect([this] { OnReread(); });
+  subscriptions_ += store_.Asked.Connect([this](const QString& name) {
+    asker_ = name;
+    Refresh();
+  });
+  subscriptions_ += store_.Settled.Connect([this](dossier::Outcome outcome) { OnSettled(outcome); });
+  subscriptions_ += store_.Bewerkingen().Stored.Connect([this] { typed_.Forget(); });
+  subscriptions_ +=
+      store_.Bewerkingen().Failed.Connect([this](const dossier::StoreFailure& failure) { OnFailed(failure); });
+  bar_->noticePutAway = [this] {
+    asker_.clear();
+    bar_->ShowNotice({});
+    Refresh();
+  };
+  bar_->putBack = [this] { PutBack(); };
+  bar_->copied = [this] {
+    if (unstored_) QGuiApplication::clipboard()->setText(unstored_->what.text);
+  };
+  bar_->thrownAway = [this] { ForgetUnstored(); };
+  // How often it was tried is told by nobody.
+  connect(&look_, &QTimer::timeout, this, &ClientOnScreen::Refresh);
+  look_.start(kLook);
+  Refresh();
+}
+
+ClientOnScreen::~ClientOnScreen() { delete bar_; }
+
+BarFacts ClientOnScreen::Facts() const {
+  const dossier::Holder& holder = store_.HeldBy();
+  return {.state = store_.Now(),
+          .writes = writes_,
+          .holder = holder.naam,
+          .since = MomentText(holder.sinds, QDateTime::currentDateTime()),
+          .asked = asked_,
+          .asker = asker_,
+          .tries = store_.Tries(),
+          .unknown = unknown_};
+}
+
+void ClientOnScreen::UpdateActions() {
+  const BarWords words = WordsFor(Facts());
+  const QString not_now = QStringLiteral("Dat kan nu niet.");
+  SetGrey(*actions_.ask, words.ask ? QString() : not_now);
+  SetGrey(*actions_.takeOver, words.takeOver ? QString() : not_now);
+  SetGrey(*actions_.handOver, words.handOver ? QString() : not_now);
+}
+
+void ClientOnScreen::Refresh() {
+  UpdateActions();
+  bar_->ShowState(WordsFor(Facts()).text);
+  if (!unstored_) return bar_->ShowUnstored({}, false);
+  const QString where = label_.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(label_);
+  bar_->ShowUnstored(QStringLiteral("Niet opgeslagen%1: %2").arg(where, Short(unstored_->what.text)),
+                     !unstored_->what.box.isEmpty() && store_.Now() == State::Editing);
+}
+
+void ClientOnScreen::Notice(const QString& text) {
+  bar_->ShowNotice(text);
+  if (!text.isEmpty()) eventLog_.Write(QStringLiteral("Kantoor: %1").arg(text));
+}
+
+void ClientOnScreen::OnChanged() {
+  const State before = std::exchange(state_, store_.Now());
+  if (state_ == State::Editing) asked_ = false;
+  if (state_ != State::Editing) asker_.clear();
+  if (before != state_) {
+    const QString holder = store_.HeldBy().naam;
+    const QString who = holder.isEmpty() ? QStringLiteral("Een ander") : holder;
+    if (state_ == State::Broken) {
+      settled_ = false;
+      Notice({});
+      window_.tell({});
+      eventLog_.Write(QStringLiteral("Kantoor: geen verbinding."));
+    } else if (before == State::Broken && settled_) {
+      // It was told already, with what became of the last edit.
+    } else if (before == State::Broken) {
+      Notice(state_ == State::Editing || !writes_ || holder.isEmpty()
+                 ? QStringLiteral("De verbinding met het kantoor is er weer.")
+                 : QStringLiteral("De verbinding met het kantoor is er weer, maar intussen werkt %1 in dit dossier.")
+                       .arg(holder));
+    } else if (before == State::Editing && !lettingGo_) {
+      Notice(QStringLiteral("%1 heeft dit dossier overgenomen. Wat u nog wijzigt, wordt niet opgeslagen.").arg(who));
+    } else if (state_ == State::Editing) {
+      Notice({});
+      window_.tell(QStringLiteral("U kunt dit dossier nu bewerken."));
+    }
+    screen_.FollowRights();
+    window_.changed();
+  }
+  // Who asked for it gets it.
+  if (state_ == State::Reading && asked_ && store_.HeldBy().naam.isEmpty())
+    QMetaObject::invokeMethod(this, &ClientOnScreen::TakeOver, Qt::QueuedConnection);
+  Refresh();
+}
+
+void ClientOnScreen::OnReread() {
+  screen_.Reread();
+  const QString holder = store_.HeldBy().naam;
+  if (store_.Now() == State::Reading && !holder.isEmpty())
+    window_.tell(QStringLiteral("Bijgewerkt: %1 heeft iets gewijzigd.").arg(holder));
+}
+
+void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
+  unknown_ = failure.error.Number() == dossier::kUnknownError;
+  KeepUnstored();
+  // The procedure that failed has not ended yet.
+  QMetaObject::invokeMethod(this, &ClientOnScreen::Refresh, Qt::QueuedConnection);
+}
+
+void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
+  unknown_ = false;
+  settled_ = outcome != dossier::Outcome::NoneAsked;
+  if (outcome == dossier::Outcome::WasStored) {
+    ForgetUnstored();
+    Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));
+  } else if (outcome == dossier::Outcome::WasNotStored) {
+    Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is niet opgeslagen."));
+  }
+  Refresh();
+}
+
+void ClientOnScreen::KeepUnstored() {
+  UnfinishedText unstored = window_.here();
+  QString label;
+  if (const auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+    unstored.title = form->windowTitle();
+    unstored.text = FilledIn(*form);
+    label = unstored.title;
+  } else if (typed_.Now()) {
+    unstored.box = typed_.Now()->box;
+    unstored.text = typed_.Now()->text;
+    label = typed_.Now()->label;
+  }
+  typed_.Forget();
+  if (unstored.text.isEmpty()) return;
+  // Of one box the last text counts; what stood in another is offered at the next start.
+  if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) ForgetUnstored();
+  unstored_ = {unstored.Keep(), unstored};
+  label_ = label;
+}
+
+void ClientOnScreen::ForgetUnstored() {
+  if (unstored_) UnfinishedText::Forget(unstored_->name);
+  unstored_.reset();
+  Refresh();
+}
+
+void ClientOnScreen::PutBack() {
+  if (!unstored_ || store_.Now() != State::Editing) return;
+  const UnfinishedText::Kept kept = *unstored_;
+  if (!window_.goOn(kept.what)) return;
+  ForgetUnstored();
+}
+
+template <class Task> void ClientOnScreen::Try(Task&& task) {
+  try {
+    task();
+  } catch (const dossier::OfficeError& error) {
+    ShowMessage(screen_.window(), QStringLiteral("Kantoor"), error.Melding());
+  }
+  Refresh();
+}
+
+void ClientOnScreen::Ask() {
+  Try([this] {
+    store_.Ask();
+    asked_ = true;
+  });
+}
+
+void ClientOnScreen::TakeOver() {
+  if (store_.Now() != State::Reading) return;
+  Try([this] {
+    if (!store_.TakeOver()) window_.tell(QStringLiteral("%1 was u voor.").arg(store_.HeldBy().naam));
+  });
+}
+
+void ClientOnScreen::HandOver() {
+  // What is being typed goes along.
+  if (store_.Now() != State::Editing || !screen_.Kolom().Editor().CommitPending()) return;
+  if (store_.Now() != State::Editing) return;
+  const QScopedValueRollback own(lettingGo_, true);
+  Notice({});
+  store_.LetGo();
+  Refresh();
+}
+
+}  // namespace brivane::app

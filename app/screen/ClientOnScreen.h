@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <functional>
+#include <optional>
+
+#include "app/desk/UnfinishedText.h"
+#include "app/office/BarWords.h"
+#include "app/office/ClientBar.h"
+#include "app/office/LastTyped.h"
+#include "app/screen/DossierScreen.h"
+#include "app/screen/OfficeActions.h"
+#include "dossier/office/OfficeStore.h"
+
+namespace brivane::app {
+
+/// What the window does for an open client of an office beyond what it does for a file: the bar above it, the lease,
+/// the connection, and a text that could not be stored.
+class ClientOnScreen final : public QObject {
+ public:
+  struct Window {
+    std::function<void()> changed;  ///< it may be edited, or may no longer be
+    std::function<void(const QString&)> tell;
+    std::function<UnfinishedText()> here;
+    std::function<bool(const UnfinishedText&)> goOn;
+  };
+
+  /// Everything handed over outlives this object, the screen as what stores it too.
+  ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes, const OfficeActions& actions,
+                 EventLog& eventLog, Window window);
+  ~ClientOnScreen() override;
+
+  [[nodiscard]] QWidget* Bar() { return bar_; }
+  /// What the actions do.
+  void Ask();
+  void TakeOver();
+  void HandOver();
+  /// Which of them can be done now.
+  void UpdateActions();
+
+ private:
+  [[nodiscard]] BarFacts Facts() const;
+  void Refresh();
+  void OnChanged();
+  void OnFailed(const dossier::StoreFailure& failure);
+  void OnSettled(dossier::Outcome outcome);
+  void OnReread();
+  void KeepUnstored();
+  void ForgetUnstored();
+  void PutBack();
+  void Notice(const QString& text);
+  template <class Task> void Try(Task&& task);
+
+  DossierScreen& screen_;
+  dossier::OfficeStore& store_;
+  bool writes_;
+  OfficeActions actions_;
+  EventLog& eventLog_;
+  Window window_;
+  QPointer<ClientBar> bar_;
+  LastTyped typed_;
+  QTimer look_;
+  dossier::OfficeStore::State state_;
+  bool asked_ = false;
+  bool lettingGo_ = false;
+  bool unknown_ = false;
+  bool settled_ = false;  ///< what became of an edit was told since the connection broke
+  QString asker_;
+  std::optional<UnfinishedText::Kept> unstored_;
+  QString label_;  ///< of its box
+  host::Subscriptions subscriptions_;
+};
+
+}  // namespace brivane::app

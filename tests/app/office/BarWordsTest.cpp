@@ -1,0 +1,37 @@
+#include <gtest/gtest.h>
+
+#include "app/office/BarWords.h"
+
+namespace brivane::app {
+namespace {
+
+using State = dossier::ClientSession::State;
+
+TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
+  struct BarCase {
+    BarFacts facts;
+    BarWords words;
+  };
+  const BarCase cases[] = {
+      {{.state = State::Editing}, {.text = "", .handOver = true}},
+      {{.state = State::Editing, .asker = "Bert Bakker"},
+       {.text = "Bert Bakker vraagt om deze cliënt.", .handOver = true}},
+      {{.state = State::Reading, .holder = "Anna Aalders", .since = "10:32"},
+       {.text = "Alleen lezen: Anna Aalders werkt hierin sinds 10:32.", .ask = true}},
+      {{.state = State::Reading, .holder = "Anna Aalders", .since = "10:32", .asked = true},
+       {.text = "Alleen lezen: Anna Aalders werkt hierin sinds 10:32. U hebt erom gevraagd."}},
+      {{.state = State::Reading}, {.text = "Alleen lezen: niemand werkt hier nu in.", .takeOver = true}},
+      {{.state = State::Reading, .writes = false}, {.text = "Alleen lezen: u mag in dit kantoor niets wijzigen."}},
+      {{.state = State::Reading, .writes = false, .holder = "Anna Aalders", .since = "10:32"},
+       {.text = "Alleen lezen: u mag in dit kantoor niets wijzigen. Anna Aalders werkt hierin sinds 10:32."}},
+      {{.state = State::Broken},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht."}},
+      {{.state = State::Broken, .tries = 2, .unknown = true},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht (poging 3). Dan blijkt "
+                "ook of de laatste wijziging is opgeslagen."}},
+  };
+  for (const BarCase& one : cases) EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
+}
+
+}  // namespace
+}  // namespace brivane::app

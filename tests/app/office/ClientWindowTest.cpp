@@ -1,0 +1,245 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+
+#include "app/desk/UnfinishedText.h"
+#include "app/office/RecentOffices.h"
+#include "dossier/office/OfficeStore.h"
+#include "tests/app/screen/WindowTest.h"
+#include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/postgres/SocketProxy.h"
+#include <brivane/frame/Handle.h>
+#include <brivane/vrijekolom/Ontwerp.h>
+
+// A client of an office in the real window: anna works at it, and bert in a second window.
+namespace brivane::app {
+namespace {
+
+constexpr char kFailed[] = "Er is een fout opgetreden.";
+/// The column with a newspaper.
+constexpr Place kKrant{0, 2};
+
+class ClientWindowTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    for (const UnfinishedText::Kept& kept : UnfinishedText::All()) UnfinishedText::Forget(kept.name);
+    client_ = office_.Add();
+  }
+  void TearDown() override {
+    for (const UnfinishedText::Kept& kept : UnfinishedText::All()) UnfinishedText::Forget(kept.name);
+  }
+
+  void OpenAs(MainWindow& window, const QString& account, const QString& by = {}) {
+    ASSERT_TRUE(window.OpenClient({office_.Words(account) + (by.isEmpty() ? QString() : " host=" + by), client_}));
+    ASSERT_TRUE(window.Screen()->GoTo(kKrant));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.Screen()->Kolom().FocusOmschrijving();
+  }
+  static QString Text(MainWindow& window, const char* label) {
+    const auto* found = window.findChild<QLabel*>(label);
+    return found ? found->text() : QString();
+  }
+  static QString Bar(MainWindow& window) { return Text(window, "stand"); }
+  static std::string Omschrijving(MainWindow& window) {
+    return frame::Controls(window.Screen()->Kolom().Editor().Surface())[vrijekolom::TxtOm].Text();
+  }
+  static void Click(MainWindow& window, const char* text) {
+    for (QPushButton* button : window.findChildren<QPushButton*>()) {
+      if (button->text() == text && button->isVisible()) return button->click();
+    }
+    FAIL() << "no button " << text;
+  }
+  [[nodiscard]] std::string Stored() {
+    auto reader = office_.Open(client_, "rob");
+    return reader->Dossier()->FindKolom(0, 2)->Gegevens().Omschrijving;
+  }
+  /// Types a description in the window that is in front, and leaves the box.
+  static void Describe(const char* text) {
+    PressKey(Qt::Key_O, Qt::AltModifier);
+    Type(text);
+    PressKey(Qt::Key_Tab);
+  }
+
+  dossier::TrialOffice office_;
+  int client_ = 0;
+};
+
+TEST_F(ClientWindowTest, AClientOpensLikeAFile) {
+  OpenAs(*window_, "anna");
+  EXPECT_EQ(Bar(*window_), "");
+  Describe("Avondkrant");
+  EXPECT_EQ(Stored(), "Avondkrant");
+  EXPECT_TRUE(window_->Actions().undo->isEnabled());
+  PressKey(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Stored(), "Weekendabonnement");
+  // The office is remembered as it was written.
+  EXPECT_EQ(RecentOffices::All().value(0), office_.Words("anna"));
+}
+
+TEST_F(ClientWindowTest, ASecondAdviserReadsAlongWithFocusAndPlaceKept) {
+  OpenAs(*window_, "anna");
+  MainWindow second(eventLog_);
+  second.show();
+  OpenAs(second, "bert");
+  EXPECT_TRUE(Bar(second).startsWith("Alleen lezen: Anna Aalders werkt hierin sinds ")) << qPrintable(Bar(second));
+  EXPECT_TRUE(second.windowTitle().contains("(alleen lezen)"));
+  EXPECT_FALSE(second.Actions().add->isEnabled());
+  const QWidget* focus = second.focusWidget();
+  ASSERT_TRUE(focus);
+
+  window_->Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(second) == "Avondkrant"; }, 3000)) << Omschrijving(second);
+  EXPECT_EQ(second.Screen()->Shown(), kKrant);
+  EXPECT_EQ(second.focusWidget(), focus);
+}
+
+TEST_F(ClientWindowTest, WhatAReaderTypesStandsAfterReadingAlong) {
+  OpenAs(*window_, "anna");
+  MainWindow second(eventLog_);
+  second.show();
+  OpenAs(second, "bert");
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Mijn idee");
+  window_->Screen()->Dossier().FindKolom(0, 2)->SetProductnaam("Avondkrant");
+  const auto* line = qobject_cast<QLineEdit*>(second.focusWidget());
+  ASSERT_TRUE(line);
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return second.Screen()->Dossier().FindKolom(0, 2)->Gegevens().Productnaam == "Avondkrant"; }, 2000));
+  EXPECT_EQ(line->text(), "Mijn idee");
+  PressKey(Qt::Key_Escape);
+}
+
+TEST_F(ClientWindowTest, AskingHandsTheClientOver) {
+  OpenAs(*window_, "anna");
+  MainWindow second(eventLog_);
+  second.show();
+  OpenAs(second, "bert");
+  Click(second, "Vragen");
+  EXPECT_TRUE(Bar(second).endsWith("U hebt erom gevraagd."));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == "Bert Bakker vraagt om deze cliënt."; }, 2000))
+      << qPrintable(Bar(*window_));
+  Click(*window_, "Overdragen");
+  // Who asked has it without another key.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(second).isEmpty(); }, 3000)) << qPrintable(Bar(second));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, 3000))
+      << qPrintable(Bar(*window_));
+  EXPECT_TRUE(second.Actions().add->isEnabled());
+  EXPECT_FALSE(window_->Actions().add->isEnabled());
+  second.Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Van Bert");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 3000));
+}
+
+TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {
+  OpenAs(*window_, "anna");
+  MainWindow second(eventLog_);
+  second.show();
+  OpenAs(second, "bert");
+  ASSERT_TRUE(window_->CloseDossier());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(second) == "Alleen lezen: niemand werkt hier nu in."; }, 5000))
+      << qPrintable(Bar(second));
+  Click(second, "Overnemen");
+  EXPECT_EQ(Bar(second), "");
+  second.Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Van Bert");
+  EXPECT_EQ(Stored(), "Van Bert");
+}
+
+TEST_F(ClientWindowTest, AReaderByRightsIsOfferedNothing) {
+  OpenAs(*window_, "rob");
+  EXPECT_EQ(Bar(*window_), "Alleen lezen: u mag in dit kantoor niets wijzigen.");
+  for (const QAction* action :
+       {window_->Actions().office.ask, window_->Actions().office.takeOver, window_->Actions().office.handOver})
+    EXPECT_FALSE(action->isEnabled());
+}
+
+TEST_F(ClientWindowTest, AHolderWhoseClientWasTakenStoresNothingAndKeepsWhatHeTyped) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  OpenAs(*window_, "anna", proxy.Folder());
+  MainWindow second(eventLog_);
+  second.show();
+  OpenAs(second, "bert");
+  proxy.Cut();
+  // The server has noticed, and bert is quicker.
+  ASSERT_TRUE(QTest::qWaitFor([&] { return second.Actions().office.takeOver->isEnabled(); }, 10000));
+  Click(second, "Overnemen");
+  ASSERT_EQ(Bar(second), "");
+  window_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  proxy.Mend();
+  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  Describe("Ochtendkrant");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, 10000))
+      << qPrintable(Bar(*window_));
+  EXPECT_EQ(Stored(), "Weekendabonnement");
+  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Ochtendkrant"))
+      << qPrintable(Text(*window_, "nietOpgeslagen"));
+  EXPECT_TRUE(Text(*window_, "bericht").contains("Bert Bakker")) << qPrintable(Text(*window_, "bericht"));
+  // It is there at the next start too.
+  ASSERT_EQ(UnfinishedText::All().size(), 1U);
+  EXPECT_EQ(UnfinishedText::All().front().what.text, "Ochtendkrant");
+}
+
+TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  OpenAs(*window_, "anna", proxy.Folder());
+  proxy.Cut();
+  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  Describe("Avondkrant");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding met het kantoor."); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("(poging "); }, 5000)) << qPrintable(Bar(*window_));
+  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
+  proxy.Mend();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 15000)) << qPrintable(Bar(*window_));
+  EXPECT_EQ(Text(*window_, "bericht").section('.', 0, 0), "De verbinding met het kantoor is er weer");
+  EXPECT_EQ(Stored(), "Weekendabonnement");
+  Click(*window_, "Terugzetten");
+  EXPECT_EQ(Text(*window_, "nietOpgeslagen"), "");
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(Stored(), "Avondkrant");
+  EXPECT_TRUE(UnfinishedText::All().empty());
+}
+
+TEST_F(ClientWindowTest, AnEditWhoseAnswerWasLostIsToldAsStored) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  OpenAs(*window_, "anna", proxy.Folder());
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  proxy.NextMeets(test::SocketProxy::Fate::DeadAfter);
+  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  PressKey(Qt::Key_Tab);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("blijkt ook of de laatste wijziging"); }, 5000))
+      << qPrintable(Bar(*window_));
+  proxy.Mend();
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); }, 15000))
+      << qPrintable(Text(*window_, "bericht"));
+  EXPECT_EQ(Text(*window_, "nietOpgeslagen"), "");
+  EXPECT_EQ(Omschrijving(*window_), "Avondkrant");
+  EXPECT_EQ(Stored(), "Avondkrant");
+}
+
+TEST_F(ClientWindowTest, AFileGoesToTheOfficeAndBack) {
+  Open();
+  Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+  // The window is in the office already.
+  OpenAs(*window_, "anna");
+  Open();
+  window_->Actions().office.toOffice->trigger();
+  ASSERT_TRUE(window_->Screen() && window_->Screen()->Path().isEmpty());
+  EXPECT_EQ(Screen().Dossier().FindKolom(0, 2)->Gegevens().Omschrijving, "Avondkrant");
+  const QString copy = folder_.filePath("terug.dossier");
+  dialogs_.Expect([&](QWidget& window) {
+    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
+    ASSERT_TRUE(box);
+    box->setText(copy);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+  });
+  window_->Actions().office.toFile->trigger();
+  ASSERT_TRUE(window_->CloseDossier());
+  EXPECT_EQ(ReadInSecondProcess(copy), ReadInSecondProcess(file_));
+}
+
+}  // namespace
+}  // namespace brivane::app
