@@ -1,5 +1,5 @@
-// web_sessions FILE COUNT: writes random sessions, one a line, each with the transcript that the toolkit in memory gives,
-// every read of the host included. Those that the tool refuses on the way are left out.
+// web_sessions FILE COUNT: writes random sessions, one a line, each with the transcript that the toolkit in memory
+// gives, every read of the host included. Those that the tool refuses on the way are left out.
 
 #include <cstdint>
 #include <cstdlib>
@@ -50,6 +50,4 @@ int Write(const char* path, int count) {
 }  // namespace
 }  // namespace brivane
 
-int main(int count, char** arguments) {
-  return count == 3 ? brivane::Write(arguments[1], std::atoi(arguments[2])) : 2;
-}
+int main(int count, char** arguments) { return count == 3 ? brivane::Write(arguments[1], std::atoi(arguments[2])) : 2; }
