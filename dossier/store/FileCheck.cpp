@@ -54,7 +54,7 @@ QByteArray ControleerHeader(const QString& pad) {
     const bool allowed = eaccess(QFile::encodeName(pad).constData(), R_OK) == 0;
     throw OpeningError(allowed ? OpeningProblem::DiskError : OpeningProblem::Unreadable, pad);
   }
-  const QByteArray header = bestand.read(kHeaderSize);
+  QByteArray header = bestand.read(kHeaderSize);
   if (bestand.error() != QFileDevice::NoError) throw OpeningError(OpeningProblem::DiskError, pad);
   if (header.isEmpty()) throw OpeningError(OpeningProblem::Empty, pad);
   if (!BeginsAsALoanFile(header)) {
