@@ -20,7 +20,7 @@ constexpr int kMostNames = 99;
 QByteArray BytesOf(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) throw OpeningError(OpeningProblem::DiskError, path);
-  const QByteArray bytes = file.readAll();
+  QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) throw OpeningError(OpeningProblem::DiskError, path);
   return bytes;
 }
@@ -50,8 +50,7 @@ QString KeepEarlierVersion(const QString& path) {
   };
   if (!MakePrivateFile(unfinished) || !Write(unfinished, bytes)) giveUp();
   for (int number = 1; number <= kMostNames; ++number) {
-    const QString name =
-        number == 1 ? EarlierVersionOf(path) : EarlierVersionOf(path) + QStringLiteral("-%1").arg(number);
+    QString name = number == 1 ? EarlierVersionOf(path) : EarlierVersionOf(path) + QStringLiteral("-%1").arg(number);
     switch (RenameToNew(unfinished, name)) {
       case Renamed::Done: return name;
       case Renamed::Failed: giveUp(); break;

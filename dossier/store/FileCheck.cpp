@@ -24,6 +24,7 @@ constexpr qsizetype kPageSize = 16;
 constexpr qsizetype kWriteFormat = 18;
 constexpr qsizetype kReadFormat = 19;
 constexpr qsizetype kPageCount = 28;
+constexpr qsizetype kEncoding = 56;
 constexpr qsizetype kUserVersion = 60;
 constexpr qsizetype kApplication = 68;
 constexpr char kMagic[] = "SQLite format 3";
@@ -32,6 +33,13 @@ constexpr char kMagic[] = "SQLite format 3";
 bool IsSchrijfbaarFormaat(const QByteArray& header) {
   const char formaat = header[kWriteFormat];
   return (formaat == 1 || formaat == 2) && header[kReadFormat] == formaat;
+}
+
+/// SQLite looks at the last two bits of the encoding alone. Where they are zero it reads the texts as UTF-8, and
+/// refuses to go on as soon as the layout changes: halfway through bringing the file up to date.
+bool IsUtf8(const QByteArray& header) {
+  constexpr quint32 kUtf8 = 1;
+  return (qFromBigEndian<quint32>(header.constData() + kEncoding) & 3U) == kUtf8;
 }
 
 bool BeginsAsALoanFile(const QByteArray& header) {
@@ -46,7 +54,7 @@ QByteArray ControleerHeader(const QString& pad) {
     const bool allowed = eaccess(QFile::encodeName(pad).constData(), R_OK) == 0;
     throw OpeningError(allowed ? OpeningProblem::DiskError : OpeningProblem::Unreadable, pad);
   }
-  const QByteArray header = bestand.read(kHeaderSize);
+  QByteArray header = bestand.read(kHeaderSize);
   if (bestand.error() != QFileDevice::NoError) throw OpeningError(OpeningProblem::DiskError, pad);
   if (header.isEmpty()) throw OpeningError(OpeningProblem::Empty, pad);
   if (!BeginsAsALoanFile(header)) {
@@ -54,7 +62,9 @@ QByteArray ControleerHeader(const QString& pad) {
   }
   const auto versie = qFromBigEndian<qint32>(header.constData() + kUserVersion);
   if (versie > kSchemaVersion) throw OpeningError(OpeningProblem::Newer, pad);
-  if (versie < 1 || !IsSchrijfbaarFormaat(header)) throw OpeningError(OpeningProblem::Damaged, pad);
+  if (versie < 1 || !IsSchrijfbaarFormaat(header) || !IsUtf8(header)) {
+    throw OpeningError(OpeningProblem::Damaged, pad);
+  }
   return header;
 }
 

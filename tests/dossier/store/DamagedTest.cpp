@@ -294,6 +294,31 @@ TEST(DamagedTest, AFormatThatCannotBeWritten) {
   }
 }
 
+TEST(DamagedTest, ATextEncodingOtherThanUtf8) {
+  constexpr qsizetype kEncoding = 56;
+  const Folder folder;
+  const QString path = folder.Make();
+  const QByteArray whole = Bytes(path);
+  ASSERT_EQ(whole.mid(kEncoding, 4), QByteArray("\0\0\0\x01", 4));
+  const auto write = [&](char third, char last) {
+    QByteArray piece = whole;
+    piece[kEncoding + 2] = third;
+    piece[kEncoding + 3] = last;
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(piece);
+  };
+  for (const char last : {0, 2, 3, 4}) {
+    write(0, last);
+    ExpectDamaged(folder);
+  }
+  // The last two bits alone count.
+  for (const auto& [third, last] : {std::pair{0x0d, 1}, {0, 5}}) {
+    write(static_cast<char>(third), static_cast<char>(last));
+    EXPECT_EQ(ProblemAtOpening(path), std::nullopt);
+  }
+}
+
 TEST(DamagedTest, AVersionBelowTheFirst) {
   for (const char* sql : {"PRAGMA user_version = 0", "PRAGMA user_version = -5", "PRAGMA user_version = -2147483648"}) {
     ExpectDamagedAfter({sql});

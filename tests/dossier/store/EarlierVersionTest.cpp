@@ -85,6 +85,19 @@ TEST_P(EarlierVersionTest, AFileThatHasTheNameOfTheCopyStays) {
   EXPECT_FALSE(QFile::exists(copy_ + "-2"));
 }
 
+TEST_P(EarlierVersionTest, WhoseLayoutCannotBeChangedIsRefusedWithNothingLeftBesideIt) {
+  QByteArray bytes = Bytes(path_);
+  // The text encoding, without which SQLite changes no layout.
+  bytes.replace(56, 4, QByteArray(4, '\0'));
+  QFile file(path_);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(bytes);
+  file.close();
+  EXPECT_EQ(ProblemAtOpening(path_), OpeningProblem::Damaged);
+  EXPECT_EQ(Bytes(path_), bytes);
+  EXPECT_EQ(folder_.Contents(), QStringList("test.dossier"));
+}
+
 TEST_P(EarlierVersionTest, ToBeReadItIsLeftAsItIs) {
   QFile::setPermissions(path_, QFile::ReadOwner);
   const QByteArray before = Bytes(path_);
