@@ -26,7 +26,7 @@ fi
 
 for library in brivane-vrijekolom brivane-vrijekolom-qt; do
   so=$lib/lib$library.so
-  readelf -d "$so" | grep -q "SONAME.*\[lib$library\.so\.1\]" || { echo "$so has no SONAME of version 1" && exit 1; }
+  readelf -d "$so" | grep "SONAME.*\[lib$library\.so\.1\]" || { echo "$so has no SONAME of version 1" && exit 1; }
   # What a name that is seen belongs to: the classes and functions of the public headers, and what they are made of.
   mapfile -t hidden < <(nm -DC --defined-only "$so" | cut -d' ' -f3- |
     grep -E '^brivane::(scenario|toelichting|vrijekolom|[a-z0-9]+::detail)::' || true)
@@ -40,7 +40,7 @@ done
 "$cmake" -G Ninja -S "$root/examples" -B "$work/examples" -DCMAKE_PREFIX_PATH="$work/prefix" >"$work/examples.log"
 "$cmake" --build "$work/examples" >>"$work/examples.log" || { cat "$work/examples.log" && exit 1; }
 for example in "$work"/examples/*_example; do
-  ldd "$example" | grep -q 'libbrivane-vrijekolom\.so\.1' || { echo "$example is not linked to the shared library" && exit 1; }
+  ldd "$example" | grep 'libbrivane-vrijekolom\.so\.1' || { echo "$example is not linked to the shared library" && exit 1; }
   QT_QPA_PLATFORM=offscreen "$example" --quit
 done
 rm -rf "$work"

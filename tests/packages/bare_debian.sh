@@ -98,7 +98,7 @@ echo "== the reference host"
   apt-get -q -y install --no-install-recommends shared-mime-info desktop-file-utils libglib2.0-bin >/dev/null
   desktop-file-validate /usr/share/applications/dossier.desktop
   mv /root/voorbeeld.dossier /root/zonder-naam
-  gio info -a standard::content-type /root/zonder-naam | grep -q application/x-brivane-dossier
+  gio info -a standard::content-type /root/zonder-naam | grep application/x-brivane-dossier
   test "$(gio mime application/x-brivane-dossier | grep -c dossier.desktop)" -ge 1')
 
 echo "== removed"

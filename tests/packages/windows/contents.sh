@@ -13,7 +13,7 @@ grep -q "have not chosen a licence yet" "$folder/COPYRIGHT.txt"
 for pair in x64:amd64 x86:x86; do
   wanted="name=\"Brivane.VrijeKolom\" version=\"$version.0\" processorArchitecture=\"${pair#*:}\""
   for manifest in "$folder/${pair%:*}"/*.manifest; do
-    tr -s ' \r\n' ' ' <"$manifest" | grep -qF "$wanted" || { echo "$manifest does not say $wanted" && exit 1; }
+    tr -s ' \r\n' ' ' <"$manifest" | grep -F "$wanted" || { echo "$manifest does not say $wanted" && exit 1; }
   done
 done
 # The README names what is there, and nothing else.
