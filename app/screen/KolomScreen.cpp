@@ -1,5 +1,6 @@
 #include "app/screen/KolomScreen.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
@@ -68,6 +69,12 @@ KolomScreen::KolomScreen(std::shared_ptr<dossier::Dossier> dossier, EditorHost h
   scroller_->setWidgetResizable(true);
   scroller_->setFocusPolicy(Qt::NoFocus);
   scroller_->setWidget(area);
+  // Qt brings into view what Tab reaches; a letter with Alt and a refusal give the focus as well. Under a mouse button
+  // nothing moves, or the click would land elsewhere.
+  connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+    const bool inside = now != nullptr && editor_->isAncestorOf(now);
+    if (inside && QGuiApplication::mouseButtons() == Qt::NoButton) scroller_->ensureWidgetVisible(now);
+  });
 
   header_ = new KopregelLabel;
   header_->setObjectName(QStringLiteral("kopregel"));

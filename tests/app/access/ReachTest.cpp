@@ -105,6 +105,25 @@ TEST_P(Reach, NothingLiesOutsideASmallScreenAndNothingIsCutOff) {
   });
 }
 
+TEST(ReachOfTheFocus, WhatIsGivenTheFocusComesIntoView) {
+  const QTemporaryDir folder;
+  Stage stage{QDir(folder.path())};
+  Play(AllScenes()[1], stage, [&](QWidget*) {
+    stage.Window().resize(640, 360);
+    QApplication::processEvents();
+    int given = 0;
+    for (const QWidget* control : ControlsIn(controls::Surface::Of(stage.Screen().Kolom().Editor().Surface()))) {
+      auto* const widget = const_cast<QWidget*>(control);
+      widget->setFocus(Qt::ShortcutFocusReason);
+      QApplication::processEvents();
+      if (!widget->hasFocus()) continue;
+      ++given;
+      EXPECT_FALSE(widget->visibleRegion().isEmpty()) << widget->objectName().toStdString();
+    }
+    EXPECT_GT(given, 10);
+  });
+}
+
 std::vector<int> Numbers() {
   std::vector<int> numbers(AllScenes().size());
   for (std::size_t i = 0; i < numbers.size(); ++i) numbers[i] = static_cast<int>(i);
