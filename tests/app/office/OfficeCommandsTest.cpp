@@ -2,30 +2,15 @@
 
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "dossier/office/Office.h"
+#include "tests/app/screen/ProgramRun.h"
 #include "tests/dossier/office/TrialOffice.h"
 
 // The program's commands for an office.
 namespace brivane::app {
 namespace {
-
-struct Output {
-  int code = -1;
-  QString out;
-  QString error;
-};
-
-Output RunProgram(const QStringList& arguments) {
-  QProcess process;
-  process.start(QStringLiteral(DOSSIER), arguments);
-  process.closeWriteChannel();
-  EXPECT_TRUE(process.waitForFinished(120000)) << qPrintable(arguments.join(' '));
-  return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-          QString::fromUtf8(process.readAllStandardError())};
-}
 
 TEST(OfficeCommandsTest, APasswordInTheWordsIsRefusedInOneLine) {
   for (const char* command : {"--kantoor", "--kantoor-inrichten", "--kantoor-proef"}) {

@@ -4,31 +4,17 @@
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "app/program/CommandLine.h"
 #include "app/program/SampleSession.h"
 #include "replay/play/Session.h"
+#include "tests/app/screen/ProgramRun.h"
 #include "tests/app/screen/WindowTest.h"
 
 // The program from its command line.
 namespace brivane::app {
 namespace {
-
-struct Output {
-  int code = -1;
-  QString out;
-  QString error;
-};
-
-Output RunProgram(const QStringList& arguments) {
-  QProcess process;
-  process.start(QStringLiteral(DOSSIER), arguments);
-  EXPECT_TRUE(process.waitForFinished(60000)) << "dossier " << qPrintable(arguments.join(' '));
-  return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-          QString::fromUtf8(process.readAllStandardError())};
-}
 
 TEST(CommandLineTest, WrongArgumentsGiveOneLineAndCodeTwo) {
   for (const QStringList& arguments :
