@@ -113,8 +113,11 @@ const DEEDS = {
     const kolom = lening().VrijeKolom(at.id);
     if (!(await ask(`"${kopregel(kolom)}" verwijderen?`))) return;
     await editor.unbind();
-    lening().VerwijderVrijeKolom(lening().kolommen.findIndex(({ Id }) => Id === at.id) + 1);
-    await goTo(at.lening, firstOf(at.lening));
+    const place = lening().kolommen.findIndex(({ Id }) => Id === at.id);
+    lening().VerwijderVrijeKolom(place + 1);
+    // To what stands in its place now, or to the last.
+    const { kolommen } = lening();
+    await goTo(at.lening, (kolommen[place] ?? kolommen.at(-1))?.Id ?? 0);
     element('posten').focus();
   },
   opnieuw: async () => {
@@ -133,10 +136,18 @@ editor.addEventListener('refreshtopdisplay', (event) => {
 element('posten').addEventListener('change', (event) => goTo(at.lening, Number(event.target.value)));
 element('lening').addEventListener('change', (event) => goTo(Number(event.target.value), firstOf(Number(event.target.value))));
 for (const [id, deed] of Object.entries(DEEDS)) element(id).addEventListener('click', deed);
-// What is on the page already is not taken from the editor's own letters.
+element('posten').addEventListener('keydown', (event) => {
+  const deed = { Insert: () => element('nieuw').click(), Delete: () => element('verwijder').click(), Enter: () => editor.focus() }[event.key];
+  if (deed === undefined) return;
+  event.preventDefault();
+  deed();
+});
+// Letters that the editor does not have, and Escape where the editor had nothing to put back.
 addEventListener('keydown', (event) => {
-  const goal = event.altKey && !event.ctrlKey ? { l: 'lening', p: 'posten' }[event.key.toLowerCase()] : undefined;
-  if (goal === undefined || event.defaultPrevented || document.querySelector('dialog[open]') !== null) return;
+  if (event.defaultPrevented || document.querySelector('dialog[open]') !== null) return;
+  const letter = event.altKey && !event.ctrlKey ? { k: 'lening', t: 'posten' }[event.key.toLowerCase()] : undefined;
+  const goal = event.key === 'Escape' && document.activeElement === editor ? 'posten' : letter;
+  if (goal === undefined) return;
   event.preventDefault();
   element(goal).focus();
 });
