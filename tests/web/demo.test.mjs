@@ -121,4 +121,17 @@ test('demo.FitsAPhoneByScrolling', { skip: name === 'firefox' }, async () => {
   });
   assert.ok(whole <= 0, `the page is ${whole} pixels too wide`);
   assert.ok(editor > 0, 'the editor scrolls');
+
+  // What stands for an editor that stands for nothing is in sight without.
+  const person = new Person(page);
+  await person.press('Alt+k', 'End');
+  await page.waitForFunction(() => document.querySelector('vrije-kolom').state === 'unbound');
+  const [left, right] = await page.evaluate(() => {
+    const words = new Range();
+    const veils = document.querySelector('vrije-kolom').shadowRoot.querySelectorAll('.veil');
+    words.selectNodeContents([...veils].find((veil) => veil.getClientRects().length > 0));
+    const { left, right } = words.getBoundingClientRect();
+    return [left, right];
+  });
+  assert.ok(left >= 0 && left < right && right <= 390, `from ${left} to ${right}`);
 });

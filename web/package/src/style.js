@@ -51,6 +51,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .area, .inside { position: absolute; inset: 0; }
 .inside { position: relative; inset: auto; }
 .area .surface { position: absolute; }
+.surface.empty { max-width: 100%; overflow: hidden; }
 .veiled { visibility: hidden; }
 .veil { position: absolute; inset: 0; margin: 0; display: grid; place-items: center; text-align: center; }
 
