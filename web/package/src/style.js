@@ -112,9 +112,10 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 }
 
 .listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
-table { border-collapse: collapse; table-layout: fixed; width: max-content; }
+table { border-collapse: collapse; table-layout: fixed; width: max-content; min-width: 100%; }
 th { position: sticky; top: 0; background: var(--face); font-weight: normal; border-right: 1px solid var(--line); }
-th, td { text-align: start; padding: 0 .35em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+th:last-child { border-right: 0; }
+th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
 .bold { font-weight: bold; }
 tr[aria-current] td { background: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 
