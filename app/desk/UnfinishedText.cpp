@@ -13,8 +13,8 @@ constexpr char kGroup[] = "onafgemaakt";
 
 QString UnfinishedText::Keep() const {
   // In order of time, and of no other program's.
-  const QString name = QString::number(QDateTime::currentMSecsSinceEpoch()).rightJustified(15, u'0') + u'-' +
-                       QUuid::createUuid().toString(QUuid::Id128);
+  QString name = QString::number(QDateTime::currentMSecsSinceEpoch()).rightJustified(15, u'0') + u'-' +
+                 QUuid::createUuid().toString(QUuid::Id128);
   QSettings settings;
   settings.beginGroup(QLatin1String(kGroup));
   settings.beginGroup(name);

@@ -220,7 +220,7 @@ QString ValueText(Tabel tabel, int field, const Stored& value) {
 
 QString SubjectText(const Entry& entry) {
   const FieldWords* words = entry.field == 0 ? nullptr : WordsOf(entry.tabel, entry.field);
-  const QString field = words ? QString::fromUtf8(words->words) : QString();
+  QString field = words ? QString::fromUtf8(words->words) : QString();
   switch (entry.tabel) {
     case Tabel::Kolom: return words ? field : QStringLiteral("kolom");
     case Tabel::Periode: return words ? field : QStringLiteral("scenario");

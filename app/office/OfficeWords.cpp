@@ -94,13 +94,13 @@ QString FaultLine(WordsFault fault) {
 }
 
 QString OfficeTitle(const QString& words) {
-  const QString text = words.trimmed();
+  QString text = words.trimmed();
   if (!text.contains(u'=')) return text;
   Words read = Read(text).value_or(Words());
-  if (const QString service = read[QStringLiteral("service")]; !service.isEmpty()) return service;
+  if (QString service = read[QStringLiteral("service")]; !service.isEmpty()) return service;
   const QString database = read[QStringLiteral("dbname")];
   const QString host = read[QStringLiteral("host")];
-  const QString name = database.isEmpty() ? QStringLiteral("kantoor") : database;
+  QString name = database.isEmpty() ? QStringLiteral("kantoor") : database;
   // A folder is a socket on this machine.
   if (host.isEmpty() || host.startsWith(u'/')) return name;
   return QStringLiteral("%1 op %2").arg(name, host);

@@ -25,6 +25,7 @@ std::vector<QStringList> AgesIn(const dossier::DossierGegevens& dossier, const s
 /// One figure of each of the years.
 template <class Year> std::vector<std::optional<double>> Values(const std::vector<Year>& years, double Year::*value) {
   std::vector<std::optional<double>> values;
+  values.reserve(years.size());
   for (const Year& year : years) values.emplace_back(year.*value);
   return values;
 }

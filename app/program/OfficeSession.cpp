@@ -50,13 +50,8 @@ bool Soon(const std::function<bool()>& comes) {
 
 class OfficeShow {
  public:
-  OfficeShow(QDir folder, const QString& log, OfficeSessionWords words)
-      : folder_(std::move(folder)),
-        log_(log),
-        words_(std::move(words)),
-        manager_(words_.manager),
-        first_(log_),
-        second_(log_) {
+  OfficeShow(const QDir& folder, const QString& log, OfficeSessionWords words)
+      : folder_(folder), log_(log), words_(std::move(words)), manager_(words_.manager), first_(log_), second_(log_) {
     manager_.Open();
     for (MainWindow* window : {&first_, &second_}) {
       window->resize(MainWindow::kFirstSize);

@@ -23,7 +23,7 @@ void Recording::Begin(std::shared_ptr<const dossier::Dossier> dossier, qt::Vrije
 
 void Recording::Do(HostAct act, const std::function<void()>& body) {
   if (recorder_)
-    recorder_->Do(std::move(act), body);
+    recorder_->Do(act, body);
   else
     body();
 }

@@ -7,6 +7,8 @@ namespace brivane::component {
 /// The counting of references to an object that stands for itself alone: it begins with one, and goes with the last.
 template <class... Interfaces> class Counted : public Interfaces..., private module::LiveObject {
  public:
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
   STDMETHODIMP_(ULONG) AddRef() override { return ++count_; }
   STDMETHODIMP_(ULONG) Release() override {
     const ULONG left = --count_;
@@ -16,8 +18,6 @@ template <class... Interfaces> class Counted : public Interfaces..., private mod
 
  protected:
   Counted() = default;
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
   virtual ~Counted() = default;
 
  private:

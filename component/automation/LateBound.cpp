@@ -72,7 +72,7 @@ void LateBound::Invoke(std::wstring_view name, WORD flags, DISPPARAMS& arguments
   const host::Error failure = ErrorOf(answer, &info);
   // A host that fails after it let go has nobody to fail to.
   if (life) life->Check();
-  throw failure;
+  throw host::Error(failure);
 }
 
 Variant LateBound::Get(std::wstring_view name, std::span<const Variant> arguments) {

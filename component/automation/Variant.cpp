@@ -136,7 +136,7 @@ template <> ComPtr<IDispatch> As<ComPtr<IDispatch>>(const VARIANT& value) {
   const Variant plain = Variant::CopyOf(value);
   if (IsNothing(plain.Raw())) return {};
   if (plain.Type() != VT_DISPATCH && plain.Type() != VT_UNKNOWN) throw host::Error(host::ErrorNumber::TypeMismatch);
-  const ComPtr<IDispatch> object = ComPtr<IUnknown>(plain.Raw().punkVal).As<IDispatch>();
+  ComPtr<IDispatch> object = ComPtr<IUnknown>(plain.Raw().punkVal).As<IDispatch>();
   if (!object) throw host::Error(host::ErrorNumber::TypeMismatch);
   return object;
 }

@@ -42,6 +42,7 @@ void Paper::Round(const RECT& place, COLORREF line, COLORREF inside) const {
 
 void Paper::Lines(const std::vector<POINT>& points, COLORREF color) const {
   std::vector<POINT> there;
+  there.reserve(points.size());
   for (const POINT point : points) there.push_back({X(point.x), Y(point.y)});
   const win32::Owned<HPEN, &::DeleteObject> pen(::CreatePen(PS_SOLID, 0, color));
   const win32::Selected drawn(target_, pen.Get());

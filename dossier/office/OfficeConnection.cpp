@@ -112,9 +112,8 @@ void OfficeConnection::ListenNoMore(const QString& channel) {
 }
 
 void OfficeConnection::Fail(const QSqlError& error) {
-  OfficeError failure(error);
-  if (failure.Problem() == OfficeProblem::Unreachable) broken_ = true;
-  throw failure;
+  if (OfficeError(error).Problem() == OfficeProblem::Unreachable) broken_ = true;
+  throw OfficeError(error);
 }
 
 }  // namespace brivane::dossier

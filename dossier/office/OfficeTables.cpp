@@ -39,6 +39,7 @@ Stored Take(const QVariant& value) {
 std::span<const ClientTable> CaseParts() {
   static const std::vector<ClientTable> parts = [] {
     std::vector<ClientTable> all;
+    all.reserve(std::size(kTabellen) + 1);
     for (const Tabel tabel : kTabellen) all.push_back({TableOf(tabel).name, TableOf(tabel).columns});
     all.push_back({"maatschappij_type", kMaatschappij});
     return all;

@@ -49,10 +49,10 @@ Database::Database(const QString& pad, Access access)
   database_.setConnectOptions(opties);
   database_.setDatabaseName(naam);
   if (database_.open()) return;
-  const DatabaseError error(database_.lastError());
+  const QSqlError error = database_.lastError();
   database_ = {};
   QSqlDatabase::removeDatabase(naam_);
-  throw error;
+  throw DatabaseError(error);
 }
 
 Database::~Database() {

@@ -25,7 +25,7 @@ void CheckWith(const Database& database, const char* what, const QString& pad) {
   const QString found = QString::fromUtf8(first.data(), static_cast<qsizetype>(first.size()));
   if (const QRegularExpressionMatch match = code.match(found); match.hasMatch()) {
     const DatabaseError error(static_cast<SqliteCode>(match.captured(1).toInt() & 0xff), "The check was broken off");
-    if (!error.IsDamage()) throw error;
+    if (!error.IsDamage()) throw DatabaseError(error);
   }
   throw OpeningError(OpeningProblem::Damaged, pad);
 }

@@ -32,7 +32,11 @@ Value Texts(const std::vector<std::wstring>& texts) {
   return array;
 }
 
-void Object::Field(const std::wstring& name, Value value) { members_[name].values = {std::move(value)}; }
+void Object::Field(const std::wstring& name, Value value) {
+  std::vector<Value>& values = members_[name].values;
+  values.clear();
+  values.push_back(std::move(value));
+}
 
 void Object::Fields(const std::wstring& name, std::vector<Value> values) {
   members_[name].values = std::move(values);

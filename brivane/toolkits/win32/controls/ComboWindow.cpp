@@ -69,7 +69,7 @@ void ComboWindow::WidenDropped() const {
   for (const controls::ListBox::Entry& entry : list_.Entries())
     longest = std::max(longest, measuring.Width(Wide(entry.text)));
   const int beside = GetSystemMetrics(SM_CXVSCROLL) + Toolkit().Edge().Designed(kEntryMargin);
-  SendMessageW(Handle(), CB_SETDROPPEDWIDTH, static_cast<WPARAM>(longest + beside), 0);
+  SendMessageW(Handle(), CB_SETDROPPEDWIDTH, static_cast<WPARAM>(longest) + static_cast<WPARAM>(beside), 0);
 }
 
 bool ComboWindow::IsDropped() const { return SendMessageW(Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE; }

@@ -30,9 +30,9 @@ std::wstring TextOf(HWND window) {
 }
 
 std::wstring HeldTextOf(HWND window) {
-  constexpr int kMost = 1024;
-  std::wstring text(kMost, L'\0');
-  text.resize(static_cast<std::size_t>(InternalGetWindowText(window, text.data(), kMost)));
+  constexpr int kEnough = 1024;
+  std::wstring text(kEnough, L'\0');
+  text.resize(static_cast<std::size_t>(InternalGetWindowText(window, text.data(), kEnough)));
   return text;
 }
 
