@@ -26,8 +26,9 @@ namespace brivane::session {
 ///
 /// Throws BadInput at what is wrong with the document: before the host is made, or, at a step that picks an entry or
 /// names a row that is not there, after the lines up to that step. Fails with error 91 on a factory that brings no
-/// application or no tracers, and with whatever the factory or the sink throws. What the controls report, and what the
-/// host throws while they ask it, is part of the transcript and no failure.
+/// application or no tracers, and with whatever the factory throws. What the controls report, and what the host throws
+/// while they ask it, is part of the transcript and no failure. The sink throws nothing: it is called from within the
+/// controls, which would take it for a failure of the host.
 BRIVANE_API void Play(const hostkit::HostFactory& factory, std::string_view document, const LineSink& sink,
                       DescribedCase described = DescribedCase::Refused);
 /// The same; answers the transcript.

@@ -62,7 +62,7 @@ void Session::RunStep(const Step& step, std::string number, FormScreen* on) {
   RunPending(running);
   if (stepped && !stopped_ && !problem_) stopped_ = stepped(running.number, step) == Onward::Stop;
   // The logic above this step would take a problem for its own failure; below the last one it is thrown.
-  if (problem_ && running_.size() == 1) throw *problem_;
+  if (problem_ && running_.size() == 1) throw BadInput(*problem_);
 }
 
 void Session::RunPending(Running& running) {

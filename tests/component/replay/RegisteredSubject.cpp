@@ -5,8 +5,8 @@
 #include "tests/component/replay/Door.h"
 #include "tests/component/replay/HostObjects.h"
 #include "tests/component/replay/Sink.h"
-#include <brivane/frame/GroupedNumber.h>
 #include <brivane/session/document/ControlNames.h>
+#include <brivane/session/play/GroupSeparator.h>
 #include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::latebound {
@@ -123,7 +123,7 @@ void Equip(const Door& door, const replay::Document& document, IDispatch& callba
   door.Set(L"title", ToVariant(document.title));
   door.Set(L"twipsPerPixelX", ToVariant(document.twipsPerPixelX));
   door.Set(L"twipsPerPixelY", ToVariant(document.twipsPerPixelY));
-  door.Set(L"groupSeparator", ToVariant(frame::GroupSeparator(document.locale)));
+  door.Set(L"groupSeparator", ToVariant(session::GroupSeparator(document.locale)));
   door.SetCallback(callback);
 }
 
