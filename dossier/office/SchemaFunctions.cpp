@@ -5,10 +5,12 @@ namespace brivane::dossier {
 // All run as the owner, which no adviser can be, and by the session's user see the rows of his teams alone. Each begins
 // with what it checks. Their failures have codes of their own: OfficeError.h.
 const char* const kFunctionsV1 = R"sql(
-CREATE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE sql STABLE SECURITY DEFINER
+-- Not a function of plain SQL, which is planned anew for each edit.
+CREATE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE plpgsql STABLE SECURITY DEFINER
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
-  SELECT coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text)
-$$;
+BEGIN
+  RETURN coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text);
+END $$;
 
 -- Who the session is, and which version of the schema it meets.
 CREATE FUNCTION kantoor.ik(OUT versie integer, OUT gebruiker name, OUT naam text, OUT schrijft boolean,
@@ -205,9 +207,11 @@ BEGIN
 END $$;
 
 -- Stores one edit: its step, its entries and its rows. Answers the time of the step. Refuses a holder that lost the
--- client (KT001), and an edit that does not follow on what stands there (KT002), so that none is stored twice.
+-- client (KT001), and an edit that does not follow on what stands there (KT002), so that none is stored twice. A statement in
+-- it finds its rows by their keys, whatever the values: one plan is good for all.
 CREATE FUNCTION kantoor.sla_op(p_client integer, p_bewijs uuid, p_bewerking uuid, p json) RETURNS bigint
-  LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp
+  SET plan_cache_mode = force_generic_plan AS $$
 DECLARE
   v_nu timestamptz := clock_timestamp();
   v_tijd bigint := (extract(epoch FROM v_nu) * 1000)::bigint;

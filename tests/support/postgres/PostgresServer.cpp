@@ -15,7 +15,7 @@ constexpr int kLongest = 60000;
 
 }  // namespace
 
-PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")) {
+PostgresServer::PostgresServer(Disk disk, const QString& settings) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")) {
   if (geteuid() == 0 && QProcess::execute("chown", {QLatin1String(kAccount), folder_.path()}) != 0)
     throw std::runtime_error("the folder of the server cannot be given away");
   if (!Tool("initdb", {"-D", folder_.filePath("data"), "-U", kAccount, "-A", "trust", "-E", "UTF8", "--locale=C.UTF-8",
@@ -24,7 +24,8 @@ PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane
   AddSettings(
       QString("unix_socket_directories = '%1'\nlisten_addresses = ''\nmax_connections = 120\nlog_min_messages = "
               "fatal\n")
-          .arg(folder_.path()));
+          .arg(folder_.path()) +
+      settings);
   if (disk == Disk::DoesNotWait) AddSettings("fsync = off\nfull_page_writes = off\n");
   Start();
   // Its input ends with this process, however that ends.
