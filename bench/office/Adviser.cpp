@@ -2,8 +2,8 @@
 
 #include <QEventLoop>
 #include <QTimer>
-#include <ctime>
 #include <cstdio>
+#include <ctime>
 #include <iostream>
 #include <sstream>
 #include <utility>

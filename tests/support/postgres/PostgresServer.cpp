@@ -12,6 +12,8 @@ namespace {
 constexpr char kPrograms[] = "/usr/lib/postgresql/15/bin/";
 constexpr char kAccount[] = "postgres";
 constexpr int kLongest = 60000;
+/// A large office is filled by statements.
+constexpr int kLongestStatement = 1800000;
 
 }  // namespace
 
@@ -68,7 +70,7 @@ QString PostgresServer::Psql(const QString& account, const QString& database, co
   psql.setProcessChannelMode(QProcess::MergedChannels);
   psql.start(QLatin1String(kPrograms) + "psql",
              {"-X", "-q", "-A", "-t", "-v", "ON_ERROR_STOP=1", "-d", Words(account, database), "-c", sql});
-  psql.waitForFinished(kLongest);
+  psql.waitForFinished(kLongestStatement);
   if (failed != nullptr) *failed = psql.exitStatus() != QProcess::NormalExit || psql.exitCode() != 0;
   return QString::fromUtf8(psql.readAll()).trimmed();
 }
