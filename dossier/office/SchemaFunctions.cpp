@@ -5,10 +5,12 @@ namespace brivane::dossier {
 // All run as the owner, which no adviser can be, and by the session's user see the rows of his teams alone. Each begins
 // with what it checks. Their failures have codes of their own: OfficeError.h.
 const char* const kFunctionsV1 = R"sql(
-CREATE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE sql STABLE SECURITY DEFINER
+-- Not a function of plain SQL, which is planned anew for each edit.
+CREATE FUNCTION kantoor.eigen_naam() RETURNS text LANGUAGE plpgsql STABLE SECURITY DEFINER
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
-  SELECT coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text)
-$$;
+BEGIN
+  RETURN coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text);
+END $$;
 
 -- Who the session is, and which version of the schema it meets.
 CREATE FUNCTION kantoor.ik(OUT versie integer, OUT gebruiker name, OUT naam text, OUT schrijft boolean,
@@ -139,8 +141,11 @@ $$;
 -- The rows of an edit, as they stand after it; `p` names the tables that have any.
 CREATE FUNCTION kantoor.schrijf_rijen(p_client integer, p json) RETURNS void LANGUAGE plpgsql
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  -- Asked once: each look into the object reads all of it.
+  v_delen text[] := ARRAY(SELECT json_object_keys(p));
 BEGIN
-  IF p->'weg' IS NOT NULL THEN
+  IF 'weg' = ANY (v_delen) THEN
     DELETE FROM periode t USING json_populate_recordset(NULL::periode_rij, p->'weg'->'periode') r
       WHERE t.client = p_client AND t.sleutel = r.sleutel;
     DELETE FROM vrijekolom t USING json_populate_recordset(NULL::vrijekolom_rij, p->'weg'->'vrijekolom') r
@@ -152,20 +157,20 @@ BEGIN
     DELETE FROM voorstel t USING json_populate_recordset(NULL::voorstel_rij, p->'weg'->'voorstel') r
       WHERE t.client = p_client AND t.voorstel = r.voorstel AND t.vrij_id = r.vrij_id;
   END IF;
-  IF p->'dossier' IS NOT NULL THEN
+  IF 'dossier' = ANY (v_delen) THEN
     INSERT INTO dossier SELECT p_client, r.* FROM json_populate_recordset(NULL::dossier_rij, p->'dossier') r
       ON CONFLICT (client, enig) DO UPDATE SET leeftijd = EXCLUDED.leeftijd;
   END IF;
-  IF p->'persoon' IS NOT NULL THEN
+  IF 'persoon' = ANY (v_delen) THEN
     INSERT INTO persoon SELECT p_client, r.* FROM json_populate_recordset(NULL::persoon_rij, p->'persoon') r
       ON CONFLICT (client, nummer) DO UPDATE SET naam_1 = EXCLUDED.naam_1, naam_2 = EXCLUDED.naam_2,
         naam_3 = EXCLUDED.naam_3, geboortedatum = EXCLUDED.geboortedatum, belastingtarief = EXCLUDED.belastingtarief;
   END IF;
-  IF p->'lening' IS NOT NULL THEN
+  IF 'lening' = ANY (v_delen) THEN
     INSERT INTO lening SELECT p_client, r.* FROM json_populate_recordset(NULL::lening_rij, p->'lening') r
       ON CONFLICT (client, sleutel) DO UPDATE SET nummer = EXCLUDED.nummer, naam = EXCLUDED.naam;
   END IF;
-  IF p->'vrijekolom' IS NOT NULL THEN
+  IF 'vrijekolom' = ANY (v_delen) THEN
     INSERT INTO vrijekolom SELECT p_client, r.* FROM json_populate_recordset(NULL::vrijekolom_rij, p->'vrijekolom') r
       ON CONFLICT (client, sleutel) DO UPDATE SET lening = EXCLUDED.lening, volgorde = EXCLUDED.volgorde,
         id = EXCLUDED.id, correctie_last = EXCLUDED.correctie_last, correctie_fiscaal = EXCLUDED.correctie_fiscaal,
@@ -182,20 +187,20 @@ BEGIN
         einddatum_overgang = EXCLUDED.einddatum_overgang, eindleeftijd_overgang = EXCLUDED.eindleeftijd_overgang,
         bedrag_naam = EXCLUDED.bedrag_naam, invoersoort = EXCLUDED.invoersoort, bedrag = EXCLUDED.bedrag;
   END IF;
-  IF p->'periode' IS NOT NULL THEN
+  IF 'periode' = ANY (v_delen) THEN
     INSERT INTO periode SELECT p_client, r.* FROM json_populate_recordset(NULL::periode_rij, p->'periode') r
       ON CONFLICT (client, sleutel) DO UPDATE SET kolom = EXCLUDED.kolom, maand = EXCLUDED.maand,
         bedrag = EXCLUDED.bedrag, percentage = EXCLUDED.percentage, korting = EXCLUDED.korting,
         eenmalig = EXCLUDED.eenmalig;
   END IF;
-  IF p->'voorstel' IS NOT NULL THEN
+  IF 'voorstel' = ANY (v_delen) THEN
     INSERT INTO voorstel SELECT p_client, r.* FROM json_populate_recordset(NULL::voorstel_rij, p->'voorstel') r
       ON CONFLICT DO NOTHING;
   END IF;
-  IF p->'naam' IS NOT NULL THEN
+  IF 'naam' = ANY (v_delen) THEN
     INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;
   END IF;
-  IF p->'zoek' IS NOT NULL THEN
+  IF 'zoek' = ANY (v_delen) THEN
     UPDATE zoek z SET tekst = p->'zoek'->>'tekst'
       WHERE z.client = p_client AND z.tekst IS DISTINCT FROM p->'zoek'->>'tekst';
     UPDATE client c SET naam = p->'zoek'->>'naam', geboortedatum = (p->'zoek'->>'geboortedatum')::bigint
@@ -212,6 +217,7 @@ DECLARE
   v_nu timestamptz := clock_timestamp();
   v_tijd bigint := (extract(epoch FROM v_nu) * 1000)::bigint;
   v_stap stap_rij;
+  v_naam text := eigen_naam();
 BEGIN
   PERFORM moet_adviseur_zijn();
   -- What is told as stored outlives a power cut, however the server is set.
@@ -237,7 +243,7 @@ BEGIN
   PERFORM schrijf_rijen(p_client, p);
   -- A step names the session's user and nobody else.
   IF NOT EXISTS (SELECT FROM naam n
-                 WHERE n.client = p_client AND n.nummer = v_stap.medewerker AND n.tekst = eigen_naam()) THEN
+                 WHERE n.client = p_client AND n.nummer = v_stap.medewerker AND n.tekst = v_naam) THEN
     RAISE EXCEPTION 'somebody else''s name' USING ERRCODE = 'KT006';
   END IF;
   INSERT INTO stap VALUES (p_client, v_stap.nummer, v_tijd, v_stap.medewerker, v_stap.soort, v_stap.van, v_stap.terug,
@@ -245,7 +251,7 @@ BEGIN
   INSERT INTO wijziging SELECT p_client, r.nummer, v_stap.nummer, r.tabel, r.sleutel, r.lening, r.lening_naam, r.kolom,
       r.kolom_naam, r.veld, r.oud, r.nieuw
     FROM json_populate_recordset(NULL::wijziging_rij, p->'wijziging') r;
-  PERFORM meld(p_client, 'stap ' || v_stap.nummer || ' ' || eigen_naam());
+  PERFORM meld(p_client, 'stap ' || v_stap.nummer || ' ' || v_naam);
   RETURN v_tijd;
 END $$;
 
@@ -268,7 +274,7 @@ BEGIN
   END IF;
   INSERT INTO client (team, naam, geboortedatum)
     VALUES (p_team, p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint) RETURNING nummer INTO v_client;
-  INSERT INTO zoek VALUES (v_client, p->'zoek'->>'tekst');
+  INSERT INTO zoek (client, team, tekst) VALUES (v_client, p_team, p->'zoek'->>'tekst');
   INSERT INTO maatschappij_type SELECT v_client, r.*
     FROM json_populate_recordset(NULL::maatschappij_type_rij, p->'maatschappij_type') r;
   PERFORM schrijf_rijen(v_client, p);
@@ -293,22 +299,26 @@ BEGIN
 END $$;
 
 -- Clients by words, each the beginning of a word of theirs; what the session changed last comes first, then the newest.
--- A word that many have is soon found among the newest of each team, a word that few have goes by the index of the words:
--- neither way alone is quick for both.
+-- A word that many have is soon found among the newest; one that is not found often enough there is had by few, and goes by
+-- the index of the words. How many of the newest are looked at balances the two: with the root of fifty times the clients
+-- both look at as many at worst. Compiling such a statement would take longer than running it.
 CREATE FUNCTION kantoor.zoek_clienten(p_woorden text[], p_hoogstens integer)
   RETURNS TABLE (nummer integer, naam text, geboortedatum bigint, team text, gewijzigd timestamptz, gewijzigd_door text,
     eigen boolean, bewerker text, sinds timestamptz)
-  LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+  LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp SET jit = off AS $$
 DECLARE
   v_voorwaarden text;
   v_teams integer[];
+  v_deel double precision;
+  v_diep integer;
   v_gevonden integer[];
 BEGIN
   SELECT string_agg(format('z.tekst LIKE %L', '% ' || regexp_replace(w, '([\\%_])', '\\\1', 'g') || '%'), ' AND ')
     INTO v_voorwaarden FROM unnest(p_woorden) w WHERE w <> '';
-  SELECT array_agg(t.nummer) INTO v_teams FROM kantoor.team t
-    WHERE pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER')
-      OR EXISTS (SELECT FROM lid l WHERE l.team = t.nummer AND l.gebruiker = session_user);
+  SELECT array_agg(t.nummer) FILTER (WHERE t.eigen), avg(t.eigen::integer) INTO v_teams, v_deel
+    FROM (SELECT a.nummer, pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER')
+        OR EXISTS (SELECT FROM lid l WHERE l.team = a.nummer AND l.gebruiker = session_user) AS eigen FROM kantoor.team a) t;
+  SELECT sqrt(50 * greatest(v_deel * c.reltuples, 0)) INTO v_diep FROM pg_class c WHERE c.oid = 'client'::regclass;
   EXECUTE format($q$
     SELECT array_agg(n.nummer) FROM (
       SELECT g.nummer FROM unnest($1) t(team), LATERAL (SELECT k.nummer FROM (SELECT c.nummer, c.gewijzigd FROM client c
@@ -316,15 +326,19 @@ BEGIN
       UNION
       (SELECT k.nummer FROM (SELECT c.nummer, c.gewijzigd FROM client c WHERE c.gewijzigd_door = session_user
           ORDER BY c.gewijzigd DESC LIMIT $2) k %1$s ORDER BY k.gewijzigd DESC LIMIT $3)) n$q$,
-    coalesce('JOIN zoek z ON z.client = k.nummer WHERE ' || v_voorwaarden, ''))
-    INTO v_gevonden
-    USING v_teams, p_hoogstens + 2000 / greatest(cardinality(v_teams), 1), p_hoogstens;
+    coalesce(', LATERAL (SELECT FROM zoek z WHERE z.client = k.nummer AND ' || v_voorwaarden || ' OFFSET 0) z', ''))
+    INTO v_gevonden USING v_teams, greatest(p_hoogstens, v_diep / greatest(cardinality(v_teams), 1)), p_hoogstens;
   IF v_voorwaarden IS NOT NULL AND coalesce(cardinality(v_gevonden), 0) < p_hoogstens THEN
+    -- Who is in few teams has the index look at those alone: a word may be one that all the others have.
     EXECUTE format($q$
-      WITH raak AS MATERIALIZED (SELECT z.client FROM zoek z WHERE %s)
+      WITH raak AS MATERIALIZED (%s)
       SELECT array_agg(n.nummer) FROM (SELECT c.nummer FROM raak r JOIN client c ON c.nummer = r.client
-        ORDER BY (c.gewijzigd_door = session_user) DESC, c.gewijzigd DESC LIMIT $1) n$q$, v_voorwaarden)
-      INTO v_gevonden USING p_hoogstens;
+        ORDER BY (c.gewijzigd_door = session_user) DESC, c.gewijzigd DESC LIMIT $2) n$q$,
+      CASE WHEN cardinality(v_teams) <= 4
+        THEN 'SELECT z.client FROM unnest($1) t(team), LATERAL (SELECT z.client FROM zoek z WHERE z.team = t.team AND '
+          || v_voorwaarden || ' OFFSET 0) z'
+        ELSE 'SELECT z.client FROM zoek z WHERE ' || v_voorwaarden END)
+      INTO v_gevonden USING v_teams, p_hoogstens;
   END IF;
   RETURN QUERY SELECT c.nummer, c.naam, c.geboortedatum, t.naam, c.gewijzigd, coalesce(m.naam, c.gewijzigd_door::text),
       c.gewijzigd_door = session_user, coalesce(w.naam, b.gebruiker::text), b.sinds
@@ -345,6 +359,7 @@ BEGIN
   IF NOT FOUND THEN
     RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
   END IF;
+  UPDATE zoek z SET team = p_team WHERE z.client = p_client;
 END $$;
 )sql";
 

@@ -27,11 +27,12 @@ CREATE TABLE kantoor.client (nummer integer GENERATED ALWAYS AS IDENTITY PRIMARY
 CREATE INDEX client_team ON kantoor.client (team, gewijzigd DESC);
 CREATE INDEX client_eigen ON kantoor.client (gewijzigd_door, gewijzigd DESC);
 
--- What a client is found by: folded words, each behind a space.
-CREATE TABLE kantoor.zoek (client integer PRIMARY KEY REFERENCES kantoor.client ON DELETE CASCADE, tekst text NOT NULL);
+-- What a client is found by: folded words, each behind a space. Its team stands here too, for the index.
+CREATE TABLE kantoor.zoek (client integer PRIMARY KEY REFERENCES kantoor.client ON DELETE CASCADE, team integer NOT NULL,
+  tekst text NOT NULL);
 DO $$
 BEGIN
-  EXECUTE format('CREATE INDEX zoek_tekst ON kantoor.zoek USING gin (tekst %I.gin_trgm_ops)',
+  EXECUTE format('CREATE INDEX zoek_tekst ON kantoor.zoek USING gin (team, tekst %I.gin_trgm_ops)',
     (SELECT n.nspname FROM pg_extension e JOIN pg_namespace n ON n.oid = e.extnamespace WHERE e.extname = 'pg_trgm'));
 END $$;
 

@@ -27,7 +27,7 @@ class PlansTest : public testing::Test {
 };
 
 TEST_F(PlansTest, NothingThatAnAdviserDoesReadsATableFromEndToEnd) {
-  MakeClients(office_, client_, 5000, 4);
+  MakeClients(office_, client_, {.clients = 5000, .steps = 4});
   const auto doing = [&](const char* what, const std::function<void(OfficeConnection&)>& act) {
     SCOPED_TRACE(what);
     const QMap<QString, int> before = WholeReadings();

@@ -12,10 +12,12 @@ namespace {
 constexpr char kPrograms[] = "/usr/lib/postgresql/15/bin/";
 constexpr char kAccount[] = "postgres";
 constexpr int kLongest = 60000;
+/// A large office is filled by statements.
+constexpr int kLongestStatement = 1800000;
 
 }  // namespace
 
-PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")) {
+PostgresServer::PostgresServer(Disk disk, const QString& settings) : folder_(QStringLiteral("/tmp/brivane-pg-XXXXXX")) {
   if (geteuid() == 0 && QProcess::execute("chown", {QLatin1String(kAccount), folder_.path()}) != 0)
     throw std::runtime_error("the folder of the server cannot be given away");
   if (!Tool("initdb", {"-D", folder_.filePath("data"), "-U", kAccount, "-A", "trust", "-E", "UTF8", "--locale=C.UTF-8",
@@ -24,7 +26,8 @@ PostgresServer::PostgresServer(Disk disk) : folder_(QStringLiteral("/tmp/brivane
   AddSettings(
       QString("unix_socket_directories = '%1'\nlisten_addresses = ''\nmax_connections = 120\nlog_min_messages = "
               "fatal\n")
-          .arg(folder_.path()));
+          .arg(folder_.path()) +
+      settings);
   if (disk == Disk::DoesNotWait) AddSettings("fsync = off\nfull_page_writes = off\n");
   Start();
   // Its input ends with this process, however that ends.
@@ -67,7 +70,7 @@ QString PostgresServer::Psql(const QString& account, const QString& database, co
   psql.setProcessChannelMode(QProcess::MergedChannels);
   psql.start(QLatin1String(kPrograms) + "psql",
              {"-X", "-q", "-A", "-t", "-v", "ON_ERROR_STOP=1", "-d", Words(account, database), "-c", sql});
-  psql.waitForFinished(kLongest);
+  psql.waitForFinished(kLongestStatement);
   if (failed != nullptr) *failed = psql.exitStatus() != QProcess::NormalExit || psql.exitCode() != 0;
   return QString::fromUtf8(psql.readAll()).trimmed();
 }

@@ -15,7 +15,8 @@ class PostgresServer {
   /// Whether writing waits for the disk, as it does in an office; a test that breaks nothing need not wait.
   enum class Disk { Waits, DoesNotWait };
 
-  explicit PostgresServer(Disk disk = Disk::DoesNotWait);
+  /// `settings`: lines for its settings beside those.
+  explicit PostgresServer(Disk disk = Disk::DoesNotWait, const QString& settings = {});
   PostgresServer(const PostgresServer&) = delete;
   PostgresServer& operator=(const PostgresServer&) = delete;
   ~PostgresServer();
