@@ -110,6 +110,7 @@ constexpr std::array<Entry, kTextCount> kEntries{{
     {BRIVANE_TEXT(Yes), "&Ja", "&Yes"},
     {BRIVANE_TEXT(No), "&Nee", "&No"},
     {BRIVANE_TEXT(Ok), "OK", "OK"},
+    {BRIVANE_TEXT(Close), "Sluiten", "Close"},
 }};
 
 #undef BRIVANE_TEXT

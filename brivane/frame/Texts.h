@@ -137,9 +137,12 @@ enum class TextId : std::uint8_t {
   No,
   Ok,
   /// @}
+
+  /// What a sign that closes a form is called.
+  Close,
 };
 /// How many there are.
-inline constexpr int kTextCount = static_cast<int>(TextId::Ok) + 1;
+inline constexpr int kTextCount = static_cast<int>(TextId::Close) + 1;
 
 /// The texts in one language, UTF-8. "%1" to "%9" stand where something is filled in; "&" stands before a mnemonic.
 ///

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Holds what the toolkits say to the catalogue of texts, brivane/frame/Texts.cpp.
 
-    check_texts.py ROOT         every string in the sources that show controls
+    check_texts.py ROOT         every string in the sources and scripts that show controls
     check_texts.py selftest     whether it finds what it is for
 
 A string is a text for a person where it has two words, a capital in front, a mnemonic, or goes on
@@ -12,11 +12,14 @@ import os
 import re
 import sys
 
-ROOMS = ("brivane/controls", "brivane/toolkits/qt", "brivane/toolkits/win32")
+ROOMS = ("brivane/controls", "brivane/toolkits/qt", "brivane/toolkits/win32", "brivane/toolkits/web", "web/element")
+SCRIPTS = "web/package/src"
 FILES = ("brivane/frame/Dates.cpp", "brivane/frame/Dates.h", "brivane/frame/Numbers.cpp", "brivane/frame/Phrase.cpp",
          "brivane/frame/Reading.h", "brivane/vrijekolom/Onderwerp.h")
 # For the engineer who embeds the editor, in English as error descriptions are.
 FOR_ENGINEERS = ("brivane/controls/WhatIsMissing.cpp",)
+# Fonts and colours.
+STYLES = ("web/package/src/style.js",)
 NO_TEXTS = {
     "Ja": "a half of a toggle, which is a caption of the control",
     "Nee": "the other half",
@@ -30,15 +33,25 @@ NO_TEXTS = {
     "dddd d MMMM yyyy": "how Qt writes a day",
     '* { font: %1px \\"%2\\"; }': "a rule of a style sheet",
     "CreateWindowEx": "a function of Windows",
+    "Escape": "a key of a page", "Enter": "a key of a page", "Tab": "a key of a page", "Home": "a key of a page",
+    "End": "a key of a page",
+    "calc(${length} * var(${TWIP}))": "a length of a style sheet",
+    "box number": "classes of a style sheet", "box select": "classes of a style sheet",
+    "message asks": "classes of a style sheet", "label lines": "classes of a style sheet",
+    "dialog form": "parts of an element", "dialog message": "parts of an element",
+    "input, select": "elements of a page", 'input, select, button, [tabindex="0"]': "elements of a page",
+    "input, select, button, label, [tabindex]": "elements of a page",
 }
 
-STRING = re.compile(r'(?:\bu8|\bL|\bu|\bU)?"((?:[^"\\\n]|\\.)*)"')
+DOUBLE, SINGLE, TEMPLATE = (f"{quote}(?:[^{quote}\\\\\\n]|\\\\.)*{quote}" for quote in "\"'`")
+STRINGS = {False: DOUBLE, True: f"{DOUBLE}|{SINGLE}|{TEMPLATE}"}
 LETTERS = "A-Za-zÀ-ÿ"
 
 
-def is_text(string):
-    if string in NO_TEXTS:
+def is_text(string, names=()):
+    if string in NO_TEXTS or string in names:
         return False
+    string = re.sub(r"\$\{.*?\}", "%1", string)
     string = re.sub(r"\\u[0-9A-Fa-f]{4}|\\[nrt]", " ", string)
     words = re.findall(f"[{LETTERS}]{{2,}}", string)
     if not words:
@@ -50,20 +63,21 @@ def is_text(string):
     return bool(joined or alone or re.search(f"&[{LETTERS}]", string))
 
 
-def without_comments(source):
+def without_comments(source, is_script=False):
     """The source with blanks for its comments, line for line, and without what it includes."""
-    found = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:[^"\\\n]|\\.)*"', re.S)
-    source = found.sub(lambda m: m[0] if m[0].startswith('"') else re.sub(r"[^\n]", " ", m[0]), source)
+    found = re.compile(rf"//[^\n]*|/\*.*?\*/|{STRINGS[is_script]}", re.S)
+    source = found.sub(lambda m: re.sub(r"[^\n]", " ", m[0]) if m[0].startswith("/") else m[0], source)
     return re.sub(r"^[ \t]*#[^\n]*", "", source, flags=re.M)
 
 
-def offences(source):
-    for number, line in enumerate(without_comments(source).split("\n"), 1):
+def offences(source, is_script=False, names=()):
+    """A script asks for a text by its name."""
+    for number, line in enumerate(without_comments(source, is_script).split("\n"), 1):
         if "static_assert" in line or re.search(r"\bthrow\b", line):
             continue
-        for string in STRING.finditer(line):
-            if is_text(string[1]):
-                yield number, string[1]
+        for string in re.finditer(STRINGS[is_script], line):
+            if is_text(string[0][1:-1], names if is_script else ()):
+                yield number, string[0][1:-1]
 
 
 def sources(root):
@@ -74,14 +88,19 @@ def sources(root):
                 if name.endswith((".cpp", ".h")) and path not in FOR_ENGINEERS:
                     yield path
     yield from FILES
+    for name in sorted(os.listdir(os.path.join(root, SCRIPTS))):
+        if name.endswith(".js") and f"{SCRIPTS}/{name}" not in STYLES:
+            yield f"{SCRIPTS}/{name}"
 
 
 def check(root):
     count = looked = 0
+    with open(os.path.join(root, "brivane/frame/Texts.cpp"), encoding="utf-8") as catalogue:
+        names = re.findall(r"BRIVANE_TEXT\((\w+)\)", catalogue.read())
     for path in sources(root):
         looked += 1
         with open(os.path.join(root, path), encoding="utf-8") as source:
-            for number, text in offences(source.read()):
+            for number, text in offences(source.read(), path.endswith(".js"), names):
                 print(f'{path}:{number}: "{text}" is no text of the catalogue')
                 count += 1
     print(f"{count} texts outside the catalogue in {looked} files")
@@ -93,8 +112,13 @@ def selftest():
              'x = "a" + "De waarde\\u00A0is";', '/* c */ f("Één kolom"); // d']
     others = ['f("TxtBd");  // "Vrije kolom"', 'f("edit-paste");', '#include "Een bestand.h"', 'f("%1 %2");',
               'f(L"BUTTON");', 'f("= ");', '/* "De\n waarde" */']
+    scripts = ["f('Kalender (F4)');", 'f("Weet u het zeker?");', "f(`Regel ${regel} bestaat niet`);", "f('Hulp'); // 'Help'"]
+    no_scripts = ["f('aria-label');", "f(of('Help'));", "f(`c${id}`);", "throw new HostError(13, 'Type mismatch');", "// f('Hulp')",
+                  "f('Escape'); /* 'Een\n tekst' */"]
     missed = [line for line in texts if not list(offences(line))]
+    missed += [line for line in scripts if not list(offences(line, True, ["Help"]))]
     wrong = [line for line in others if list(offences(line))]
+    wrong += [line for line in no_scripts if list(offences(line, True, ["Help"]))]
     for line in missed:
         print("not found:", line)
     for line in wrong:

@@ -27,7 +27,7 @@ before(() => {
 
 test('package.HoldsTheModuleTheMachineAndTheDeclarations', () => {
   const files = readdirSync(installed, { recursive: true }).map(String);
-  for (const file of ['src/index.js', 'src/index.d.ts', 'src/model.d.ts', 'machine/machine.js', 'machine/machine.wasm', 'README.md'])
+  for (const file of ['src/index.js', 'src/index.d.ts', 'src/model.d.ts', 'machine/machine.js', 'machine/machine.wasm', 'translations/brivane_en.ts', 'README.md'])
     assert.ok(files.includes(file), file);
   assert.deepEqual(files.filter((file) => /test|door/.test(file)), []);
 });
@@ -37,6 +37,13 @@ test('package.NeedsNoOther', () => {
   assert.deepEqual([dependencies, peerDependencies, scripts], [undefined, undefined, undefined]);
   const [, project] = /VERSION (\d+\.\d+\.\d+)/.exec(readFileSync(`${top}CMakeLists.txt`, 'utf8').split('project(')[1]);
   assert.equal(version, project);
+});
+
+test('package.DeclaresEveryTextOfTheCatalogue', () => {
+  const names = (file, found) => [...readFileSync(installed + file, 'utf8').matchAll(found)].map(([, name]) => name);
+  const [declared] = /export type TextName =[^;]*;/.exec(readFileSync(`${installed}src/index.d.ts`, 'utf8'));
+  assert.deepEqual([...declared.matchAll(/'(\w+)'/g)].map(([, name]) => name),
+    names('translations/brivane_en.ts', /<extracomment>(\w+)</g));
 });
 
 test('package.DeclaresWhatAHostInTypeScriptUses', () => {

@@ -24,9 +24,16 @@ export const VOORBEELD = {
         Productnaam: 'De Maasbode op zaterdag', Looptijd: 999, Contractvervaldatum: '2027-12-31', UwBemiddeling: true }),
       kolom(3, 'Muzieklessen aan huis', 350, { CorrectieLast: 2, CorrectieFiscaal: 2, HeffingBij: 2, InkomenUitArbeid: true,
         DatumAanvang: '2025-04-01', Looptijd: 120, UitsluitenAO: true }),
+      kolom(4, 'Gift nieuwbouw kinderhoek', 1500, { Termijn: 99, DatumAanvang: '2026-12-15', IsProduct: true, Maatschappij: 'SK',
+        MaatschappijNaam: 'Stichting Kinderhoek', Productsoort: 43, ProductsoortOmschrijving: 'Goed doel',
+        Contractvervaldatum: '2027-12-31' }),
       kolom(5, 'Lijfrente-uitkering', 6250, { CorrectieLast: 2, CorrectieFiscaal: 2, Termijn: 12, DatumAanvang: '2028-01-31',
         Looptijd: 240, ScenarioOverlijden: true, PercentageOvergang: 70, EinddatumOvergang: '2048-03-12', EindleeftijdOvergang: 70 },
       [{ Maand: 13, Percentage: 2 }], 3),
+      kolom(6, 'Tennislidmaatschap', 240, { CorrectieFiscaal: 3, Termijn: 6, HeffingBij: 2, DatumAanvang: '2023-07-01',
+        IsProduct: true, Maatschappij: 'ZZ', MaatschappijNaam: 'TC De Baseline', Productsoort: 42,
+        ProductsoortOmschrijving: 'Vereniging', Productnaam: 'Seniorlid', Looptijd: 999, Contractvervaldatum: '2028-06-30',
+        Voorstel: ['J', 'N', ''] }),
     ],
   },
   Leningen: [
@@ -36,4 +43,5 @@ export const VOORBEELD = {
     ] },
     { Naam: 'Nieuwe lening 2', VrijeKolommen: [] },
   ],
+  Voorstellen: [[6], [], []],
 };

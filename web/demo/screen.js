@@ -38,6 +38,7 @@ let again = false;
 /** Writes the case; what changes meanwhile is written after it. */
 function save() {
   if (saving !== null) return void (again = true);
+  document.body.dataset.saving = '';
   saving = Promise.resolve().then(async () => {
     do {
       again = false;
@@ -47,7 +48,10 @@ function save() {
   }).then(
     () => (element('bewaard').textContent = `Bewaard om ${new Date().toLocaleTimeString('nl-NL')}`),
     (problem) => complain(`Niet bewaard: ${problem.message}`),
-  ).finally(() => (saving = null));
+  ).finally(() => {
+    saving = null;
+    delete document.body.dataset.saving;
+  });
 }
 
 function complain(text) {
@@ -94,11 +98,12 @@ async function add(fields) {
 }
 
 async function ask(text) {
-  const box = element('vraag');
-  element('vraagtekst').textContent = text;
-  box.returnValue = 'nee';
+  const box = element('vraag').content.firstElementChild.cloneNode(true);
+  box.querySelector('p').textContent = text;
+  document.body.append(box);
   box.showModal();
-  await new Promise((closed) => box.addEventListener('close', closed, { once: true }));
+  await new Promise((closed) => box.addEventListener('close', closed));
+  box.remove();
   return box.returnValue === 'ja';
 }
 
@@ -113,8 +118,11 @@ const DEEDS = {
     const kolom = lening().VrijeKolom(at.id);
     if (!(await ask(`"${kopregel(kolom)}" verwijderen?`))) return;
     await editor.unbind();
-    lening().VerwijderVrijeKolom(lening().kolommen.findIndex(({ Id }) => Id === at.id) + 1);
-    await goTo(at.lening, firstOf(at.lening));
+    const place = lening().kolommen.findIndex(({ Id }) => Id === at.id);
+    lening().VerwijderVrijeKolom(place + 1);
+    // To what stands in its place now, or to the last.
+    const { kolommen } = lening();
+    await goTo(at.lening, (kolommen[place] ?? kolommen.at(-1))?.Id ?? 0);
     element('posten').focus();
   },
   opnieuw: async () => {
@@ -133,10 +141,17 @@ editor.addEventListener('refreshtopdisplay', (event) => {
 element('posten').addEventListener('change', (event) => goTo(at.lening, Number(event.target.value)));
 element('lening').addEventListener('change', (event) => goTo(Number(event.target.value), firstOf(Number(event.target.value))));
 for (const [id, deed] of Object.entries(DEEDS)) element(id).addEventListener('click', deed);
-// What is on the page already is not taken from the editor's own letters.
+element('posten').addEventListener('keydown', (event) => {
+  const deed = { Insert: () => element('nieuw').click(), Delete: () => element('verwijder').click(), Enter: () => editor.focus() }[event.key];
+  if (deed === undefined) return;
+  event.preventDefault();
+  deed();
+});
+// Letters that the editor does not have.
 addEventListener('keydown', (event) => {
-  const goal = event.altKey && !event.ctrlKey ? { l: 'lening', p: 'posten' }[event.key.toLowerCase()] : undefined;
-  if (goal === undefined || event.defaultPrevented || document.querySelector('dialog[open]') !== null) return;
+  if (event.defaultPrevented || document.querySelector('dialog[open]') !== null) return;
+  const goal = event.altKey && !event.ctrlKey ? { k: 'lening', t: 'posten' }[event.key.toLowerCase()] : undefined;
+  if (goal === undefined) return;
   event.preventDefault();
   element(goal).focus();
 });

@@ -3,12 +3,14 @@
 
 #include <emscripten.h>
 
+#include <cstring>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "web/element/Element.h"
 #include <brivane/frame/ErrorReport.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/toolkits/web/Turns.h>
 #include <brivane/toolkits/web/peers/FormDialog.h>
 #include <brivane/toolkits/web/peers/NodePeer.h>
@@ -162,6 +164,21 @@ EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
   if (Element* const element = Element::Find(page)) element->Toolkit().Desktop().CameBack(waiting);
+}
+
+/// As in PageTexts.h. For what is shown from now on.
+EMSCRIPTEN_KEEPALIVE void brivane_speak(int page, int language) {
+  if (Element* const element = Element::Find(page)) element->Toolkit().Speak(static_cast<web::Spoken>(language));
+}
+
+/// A text of the catalogue by its name there, for the script to free; nothing where there is none.
+EMSCRIPTEN_KEEPALIVE char* brivane_text(int english, const char* name) {
+  for (int i = 0; i < frame::kTextCount; ++i) {
+    const auto text = static_cast<frame::TextId>(i);
+    if (frame::NameOf(text) != name) continue;
+    return strdup(frame::Texts::In(english != 0 ? frame::Language::English : frame::Language::Dutch).Of(text).c_str());
+  }
+  return nullptr;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {

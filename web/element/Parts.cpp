@@ -13,9 +13,11 @@ class EditorPart final : public Part {
  public:
   EditorPart(host::Surface& surface, web::Toolkit& toolkit, const host::HostFactories& factories, const Tell& tell)
       : editor_(surface, toolkit, factories) {
-    toolkit.SetSubjectTeller([&surface] {
+    toolkit.SetSubjectTeller([&surface, &toolkit] {
       const vrijekolom::Onderwerp onderwerp = vrijekolom::LeesOnderwerp(surface);
-      const auto row = [aanvang = onderwerp.aanvang](int rij) { return vrijekolom::Rijuitleg(rij, aanvang, {}); };
+      const auto row = [aanvang = onderwerp.aanvang, &teksten = toolkit.Texts()](int rij) {
+        return vrijekolom::Rijuitleg(rij, aanvang, {}, teksten);
+      };
       return controls::FormSubject{.title = vrijekolom::Titel(onderwerp), .row = row};
     });
     subscriptions_ +=

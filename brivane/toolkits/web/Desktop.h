@@ -9,6 +9,7 @@
 
 #include <brivane/controls/entry/KeysUnderWay.h>
 #include <brivane/controls/life/Life.h>
+#include <brivane/frame/Texts.h>
 #include <brivane/host/controls/Desktop.h>
 #include <brivane/toolkits/web/Page.h>
 #include <brivane/toolkits/web/Turns.h>
@@ -24,6 +25,8 @@ class Desktop final : public host::Desktop {
  public:
   Desktop(Page& page, std::shared_ptr<controls::Life> life) : page_(page), life_(std::move(life)) {}
 
+  /// What is added to the controls is said in these. They outlive the controls.
+  const frame::Texts* texts = &frame::Texts::In(frame::Language::Dutch);
   /// Answered in place of the browser, when set.
   std::optional<host::Date> today;
   std::optional<std::string> title;

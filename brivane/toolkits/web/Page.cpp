@@ -26,6 +26,7 @@ EM_JS(int, brivane_open_box, (int page, int box, int style, const char* title, c
   return Module["page"]["openBox"](page, box, style, UTF8ToString(title), UTF8ToString(text));
 })
 EM_JS(void, brivane_close_box, (int page, int box), { Module["page"]["closeBox"](page, box); })
+EM_JS(char*, brivane_text_of, (int page, const char* name), { return Module["page"]["textOf"](page, UTF8ToString(name)); })
 EM_JS(void, brivane_come_back, (int page, int waiting), { Module["page"]["comeBack"](page, waiting); })
 EM_JS(int, brivane_today, (), { return Module["page"]["today"](); })
 EM_JS(char*, brivane_title, (), { return Module["page"]["title"](); })
@@ -91,6 +92,7 @@ bool Page::OpenBox(int box, int style, const std::string& title, const std::stri
 }
 
 void Page::CloseBox(int box) const { brivane_close_box(id_, box); }
+std::string Page::TextOf(std::string_view name) const { return Taken(brivane_text_of(id_, std::string(name).c_str())); }
 void Page::ComeBack(int waiting) const { brivane_come_back(id_, waiting); }
 
 host::Date Page::Today() { return host::Date(brivane_today()); }

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include <brivane/controls/Peer.h>
 #include <brivane/host/Date.h>
@@ -73,6 +74,8 @@ class Page {
   /// Opens a message box, known by a number; false where the page shows nothing.
   [[nodiscard]] bool OpenBox(int box, int style, const std::string& title, const std::string& text) const;
   void CloseBox(int box) const;
+  /// A text of the catalogue, by its name there, in a language that the page adds; empty where that leaves it.
+  [[nodiscard]] std::string TextOf(std::string_view name) const;
   /// Comes back to this waiting, known by a number, when the page has done what it has to do.
   void ComeBack(int waiting) const;
 

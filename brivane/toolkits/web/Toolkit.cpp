@@ -34,6 +34,13 @@ host::Twips Toolkit::MeasureText(const frame::Design& design, std::string_view t
   return memory::TextWidth(text, design.fontSize, bold);
 }
 
+void Toolkit::Speak(Spoken language) {
+  using frame::Language;
+  desktop_.texts = language == Spoken::PagesOwn
+                       ? &pageTexts_
+                       : &frame::Texts::In(language == Spoken::English ? Language::English : Language::Dutch);
+}
+
 bool Toolkit::Act(controls::AnyControl& control, const controls::Action& action) {
   const std::shared_ptr<const controls::Life> life = Life();
   const auto* const peer = static_cast<const NodePeer*>(control.GetPeer());

@@ -9,6 +9,7 @@
 #include <brivane/controls/DrawnToolkit.h>
 #include <brivane/toolkits/web/Desktop.h>
 #include <brivane/toolkits/web/Page.h>
+#include <brivane/toolkits/web/PageTexts.h>
 
 namespace brivane::web {
 
@@ -44,6 +45,9 @@ class Toolkit final : public controls::DrawnToolkit {
                                         host::MessageStyle style) override {
     return desktop_.Ask(caption, text, style);
   }
+  [[nodiscard]] const frame::Texts& Texts() const override { return *desktop_.texts; }
+  /// Says what is shown from now on in another language.
+  void Speak(Spoken language);
   /// As the toolkit in memory measures: the same on every machine.
   [[nodiscard]] host::Twips MeasureText(const frame::Design& design, std::string_view text, bool bold) const override;
 
@@ -77,6 +81,7 @@ class Toolkit final : public controls::DrawnToolkit {
  private:
   web::Page page_;
   web::Desktop desktop_;
+  PageTexts pageTexts_{page_};
   std::map<NodeId, NodePeer*> peers_;
   std::map<NodeId, FormDialog*> forms_;
   ListPeer* underWay_ = nullptr;

@@ -7,7 +7,11 @@ import { serve } from '../../../web/demo/server.mjs';
 
 const PROGRAMS = { chrome: '/usr/bin/chromium', firefox: '/usr/bin/firefox-esr' };
 
-async function launch(name, options) {
+/** What a browser is served, by the beginning of its path. */
+export const FOLDERS = [['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
+  ['/tests/', `${top}tests/web/`], ['/examples/', `${top}examples/web/`], ['/made/', `${built}made/`]];
+
+export async function launch(name, options = {}) {
   const program = PROGRAMS[name];
   if (!existsSync(program)) throw new Error(`${program} is not there: it stands in packages.txt`);
   const chrome = name === 'chrome';
@@ -34,8 +38,7 @@ export function useBrowser(name = 'chrome', options = {}) {
       return server.origin;
     },
     async open(path, viewport) {
-      server ??= await serve([['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
-        ['/tests/', `${top}tests/web/`], ['/examples/', `${top}examples/web/`], ['/made/', `${built}made/`]]);
+      server ??= await serve(FOLDERS);
       browser ??= await launch(name, options);
       const page = await browser.newPage();
       page.faults = [];

@@ -1,9 +1,12 @@
 // A host in TypeScript: what the declarations let it do, and what they do not. Compiled and not run.
-import { HostError, ready, VrijeKolomElement } from 'brivane-vrije-kolom';
+import { addLanguage, HostError, ready, VrijeKolomElement } from 'brivane-vrije-kolom';
 import type { Application, Lening, VrijeKolomItem } from 'brivane-vrije-kolom';
 
 export async function embed(application: Application, lening: Lening): Promise<string> {
   await ready;
+  addLanguage('fy', { Help: 'Help' });
+  // @ts-expect-error a text that nobody knows
+  addLanguage('fy', { Hulp: 'Help' });
   const editor = document.createElement('vrije-kolom');
   const made: VrijeKolomElement = editor;
   made.addEventListener('refreshtopdisplay', (event) => console.log(event.detail.text.length));

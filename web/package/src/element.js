@@ -1,6 +1,7 @@
 import { HostError } from './errors.js';
+import { stopsIn } from './events.js';
 import { Job } from './jobs.js';
-import { backColorOf, dropView, isLoaded, load, newView, runJob, stateOf } from './machine.js';
+import { backColorOf, dropView, follow, isLoaded, load, newView, runJob, stateOf } from './machine.js';
 import { sheet, TWIPS_AN_EM } from './style.js';
 import { DossierControle, ProcedureTrace } from './trace.js';
 import { View } from './view.js';
@@ -26,6 +27,9 @@ class ControlElement extends HTMLElement {
   #bound = null;
   #factories = {};
   #backColor = null;
+  #internals = this.attachInternals();
+
+  static observedAttributes = ['lang'];
 
   constructor() {
     super();
@@ -42,6 +46,10 @@ class ControlElement extends HTMLElement {
     queueMicrotask(() => {
       if (!this.isConnected) this.#end();
     });
+  }
+
+  attributeChangedCallback() {
+    if (this.#view !== null) follow(this.#view);
   }
 
   /** What the host makes where a control needs an object of its classes, told the name of the control. */
@@ -63,6 +71,11 @@ class ControlElement extends HTMLElement {
     if (!Number.isInteger(color)) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
     this.#backColor = color;
     this.#use(() => this.#job(Job.backColor, { number: color | 0 }));
+  }
+
+  /** To the first control that takes the focus, or to what is asked. */
+  focus(options) {
+    stopsIn(this.#view?.dialog ?? this.shadowRoot)[0]?.focus(options);
   }
 
   async validation(controleNr = 0, cancel = false) {
@@ -104,8 +117,10 @@ class ControlElement extends HTMLElement {
     const view = new View(this.shadowRoot, {
       makeForHost: (what, control) => this.#make(what, control),
       tell: (what, text) => this.#tell(what, text),
+      spoken: (language) => this.#speak(language),
     });
     newView(view, this._kind);
+    this.#speak(view.language);
     this.#view = view;
     return view;
   }
@@ -117,6 +132,13 @@ class ControlElement extends HTMLElement {
     if (this.#bound !== null && this.state === 'never') this.#job(Job.bind, this.#bound);
   }
   _again() {}
+
+  /** What screen readers call it, unless its page says otherwise. */
+  #speak(language) {
+    if (this._name === null) return;
+    this.#internals.role = 'group';
+    this.#internals.ariaLabel = language.of(this._name);
+  }
 
   #end() {
     if (this.#view === null) return;
@@ -144,6 +166,9 @@ export class VrijeKolomElement extends ControlElement {
 
   get _kind() {
     return 0;
+  }
+  get _name() {
+    return 'FreeColumn';
   }
 
   /** Binds the editor to a column of a loan (0: the loan of the current situation) and fills it. */
@@ -181,6 +206,9 @@ export class ToelichtingElement extends ControlElement {
   }
   get _kind() {
     return 1;
+  }
+  get _name() {
+    return null;
   }
 
   async setApplication(application, lening, vrijId) {

@@ -32,6 +32,14 @@ function nodeOf(event) {
   return null;
 }
 
+/** What takes the focus in a part of a view, in the order of Tab: of options the one that is chosen. */
+export function stopsIn(area) {
+  const stops = [...area.querySelectorAll('input, select, button, [tabindex="0"]')].filter(
+    (stop) => stop.tabIndex >= 0 && !stop.matches(':disabled') && stop.getClientRects().length > 0);
+  const chosen = new Set(stops.filter((stop) => stop.type === 'radio' && stop.checked).map(({ name }) => name));
+  return stops.filter((stop) => stop.type !== 'radio' || stop.checked || !chosen.has(stop.name));
+}
+
 export function listen(view) {
   const run = (job, node, order = {}) => runJob(view, job, { node: node?.id ?? 0, ...order });
   const stop = (event) => {
@@ -64,8 +72,7 @@ export function listen(view) {
   }
 
   function step(from, back) {
-    const stops = [...(view.dialog ?? view.root).querySelectorAll('input, select, button, [tabindex="0"]')].filter(
-      (stop) => stop.tabIndex >= 0 && !stop.matches(':disabled') && stop.getClientRects().length > 0);
+    const stops = stopsIn(view.dialog ?? view.root);
     stops[stops.indexOf(from) + (back ? -1 : 1)]?.focus();
   }
 

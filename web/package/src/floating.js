@@ -16,10 +16,11 @@ class Floating {
     return this.#anchor;
   }
 
-  put(anchor, text) {
+  put(anchor, text, lang) {
     this.take();
     this.#anchor = anchor;
     this.element.textContent = text;
+    this.element.lang = lang;
     // What stands outside a modal dialog is out of reach while that is open.
     (anchor.closest('dialog') ?? anchor.getRootNode()).append(this.element);
     if (!this.element.isConnected) return;
@@ -54,11 +55,11 @@ export class Bubble extends Floating {
     this.element.id = 'bubble';
   }
 
-  show({ input, outer }, text, isReason) {
+  show({ input, outer, view }, text, isReason) {
     this.#leave();
     this.element.part = isReason ? 'reason' : 'note';
     this.element.setAttribute('role', isReason ? 'alert' : 'status');
-    this.put(outer, text);
+    this.put(outer, text, view.language.tag);
     this.input = input;
     input.setAttribute('aria-describedby', this.element.id);
     if (isReason) input.setAttribute('aria-invalid', 'true');
@@ -86,6 +87,6 @@ export class Tip extends Floating {
   }
 
   show({ outer, design }) {
-    this.put(outer, design.caption);
+    this.put(outer, design.caption, 'nl');
   }
 }

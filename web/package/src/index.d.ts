@@ -18,6 +18,25 @@ export class HostError extends Error {
   readonly source: string;
 }
 
+/** What the texts are called that the elements add to the controls; `translations/brivane_en.ts` has each in Dutch and English. */
+export type TextName =
+  | 'ExpectAmount' | 'AmountDecimals' | 'ExpectNumber' | 'NumberDecimals' | 'ExpectWhole' | 'NumberTooLarge'
+  | 'PointMisplaced' | 'PointOrComma' | 'ExpectDate' | 'EarliestYear' | 'NoSuchMonth' | 'NoSuchDay' | 'Day'
+  | 'DayOfWeek' | 'January' | 'February' | 'March' | 'April' | 'May' | 'June' | 'July' | 'August' | 'September'
+  | 'October' | 'November' | 'December' | 'Monday' | 'Tuesday' | 'Wednesday' | 'Thursday' | 'Friday' | 'Saturday'
+  | 'Sunday' | 'DivideByZero' | 'NumberAfterSign' | 'UnreadableSum' | 'DateForNumber' | 'SumTooLarge' | 'NoStart'
+  | 'PastCalendar' | 'OneColumn' | 'InLine' | 'LineLeftOver' | 'LinesLeftOver' | 'NotStored' | 'NotTaken'
+  | 'LeftInBox' | 'LeftInSomeBox' | 'DropQuestion' | 'RowsNotStored' | 'AmountStays' | 'ValueStays' | 'TypingToo'
+  | 'CloseQuestion' | 'RowPeriod' | 'TurnsAge' | 'NothingOpen' | 'FreeColumn' | 'Calendar' | 'CalendarKey' | 'Today'
+  | 'CalendarLocale' | 'Help' | 'HelpOn' | 'Yes' | 'No' | 'Ok' | 'Close';
+
+/**
+ * Adds a language for what the elements add to the controls, by its tag ("fy", "de-AT"). A text that is left out is Dutch.
+ * "%1" to "%9" stand where something is filled in, "&" before the letter that goes with Alt. To be called before the elements
+ * are used.
+ */
+export function addLanguage(tag: string, texts: Partial<Record<TextName, string>>): void;
+
 /** What the host makes where a control needs an object of its classes. To be set before the element is used. */
 export interface HostFactories {
   /** Told "VrijeKolom" or "Toelichting". Without it failures are reported by a plain tracer. */
@@ -36,10 +55,17 @@ export interface ControlEventMap extends HTMLElementEventMap {
 }
 
 declare class ControlElement extends HTMLElement {
+  /**
+   * The language of what is added to the controls: "nl", "en", or one of `addLanguage`. Where the element has none of its own,
+   * that of the nearest element around it that has one; Dutch where that is unknown. The captions of the controls stay Dutch.
+   */
+  lang: string;
   hostFactories: HostFactories;
   /** A colour as the component has it: 0x00BBGGRR, or below 0 for one of the system, which is the page's. */
   backColor: number;
   readonly state: BindingState;
+  /** Goes to the first control that takes the focus; where something is asked or the form is open, in there. */
+  focus(options?: FocusOptions): void;
 
   /**
    * The host's check before it leaves the column: whether to stay. What is being typed is handed over first. A question may

@@ -2,6 +2,7 @@ import { ToelichtingElement, VrijeKolomElement } from './element.js';
 import { load } from './machine.js';
 
 export { HostError } from './errors.js';
+export { addLanguage } from './languages.js';
 export { ToelichtingElement, VrijeKolomElement };
 
 /** Resolves when the machine behind the elements has been started; nobody needs to wait for it. */

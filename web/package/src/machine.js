@@ -24,6 +24,7 @@ function calls(of) {
     today: () => dayOf(new Date()),
     title: () => memory.give(document.title),
     groupSeparator: () => memory.give(groupSeparator()),
+    textOf: (number, name) => memory.give(viewOf(number)?.language.own(name) ?? ''),
     insert: (number, node, text) => memory.give(viewOf(number)?.insert(node, text) ?? ''),
     comeBack: (number, waiting) => {
       setTimeout(() => {
@@ -70,6 +71,7 @@ export function newView(view, kind) {
   gone.register(view, number, view);
   view.number = number;
   machine._brivane_new(number, kind);
+  machine._brivane_speak(number, view.language.number);
 }
 
 function endView(number) {
@@ -84,9 +86,18 @@ export function dropView(view) {
   endView(view.number);
 }
 
+/** A view speaks the language of its place in the page, which may have become another one. */
+export function follow(view) {
+  if (view.follow()) machine._brivane_speak(view.number, view.language.number);
+}
+
+/** A text of the catalogue, in Dutch or in English. */
+export const textIn = (english, name) => memory.take(memory.lend(name, (lent) => machine._brivane_text(english ? 1 : 0, lent)));
+
 /** Has the machine do something for a view; see jobs.js. */
 export function runJob(view, job, { node = 0, number = 0, more = 0, text = '', first = null, second = null } = {}) {
   return run((given) => {
+    follow(view);
     const objects = [view.objects.keep(first), view.objects.keep(second)];
     memory.lend(text, (lent) => machine._brivane_run(given, view.number, job, node, number, more, lent, ...objects));
   });

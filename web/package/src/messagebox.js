@@ -1,6 +1,7 @@
 // A message box: modal, answered on purpose. No bare letter answers it, and a key counts only after a pause in the typing.
 
 import { answerBox, isMeant } from './machine.js';
+import { writeCaption } from './nodes.js';
 
 const QUESTION = 36;
 const Answer = Object.freeze({ ok: 1, yes: 6, no: 7 });
@@ -9,6 +10,8 @@ export class MessageBox {
   #view;
   #number;
   #unanswered;
+  /** What each letter answers, with Alt. */
+  #letters = new Map();
   /** Keys that went down before somebody had seen the box. */
   #passed = new Set();
 
@@ -18,7 +21,7 @@ export class MessageBox {
     const question = style === QUESTION;
     this.#unanswered = question ? Answer.no : Answer.ok;
     const dialog = (this.dialog = document.createElement('dialog'));
-    dialog.className = 'message';
+    dialog.className = question ? 'message asks' : 'message';
     dialog.part = 'dialog message';
     dialog.setAttribute('role', 'alertdialog');
     dialog.setAttribute('aria-labelledby', `title${number}`);
@@ -27,19 +30,22 @@ export class MessageBox {
       element('div', { id: `title${number}`, className: 'title', textContent: title }),
       element('div', { id: `text${number}`, className: 'text', textContent: text.replaceAll('\r\n', '\n') }),
       element('div', { className: 'buttons' }, question
-        ? [this.#button('J', 'a', Answer.yes), this.#button('N', 'ee', Answer.no, true)]
-        : [this.#button('', 'OK', Answer.ok, true)]),
+        ? [this.#button('Yes', Answer.yes), this.#button('No', Answer.no, true)]
+        : [this.#button('Ok', Answer.ok, true)]),
     );
     dialog.addEventListener('keydown', (event) => this.#keyDown(event), true);
     dialog.addEventListener('keyup', (event) => this.#keyUp(event), true);
     dialog.addEventListener('cancel', (event) => event.preventDefault());
   }
 
-  #button(letter, rest, answer, first = false) {
-    const button = element('button', { type: 'button', autofocus: first });
+  #button(text, answer, first = false) {
+    const { language } = this.#view;
+    const button = element('button', { type: 'button', autofocus: first, lang: language.tag });
     button.part = 'button';
-    if (letter !== '') button.append(element('u', { textContent: letter }));
-    button.append(rest);
+    const caption = language.of(text);
+    writeCaption(button, caption);
+    const [, letter] = /&(.)/s.exec(caption) ?? [];
+    if (letter !== undefined) this.#letters.set(letter.toLowerCase(), answer);
     button.addEventListener('click', () => this.#answer(answer));
     return button;
   }
@@ -56,11 +62,9 @@ export class MessageBox {
       return;
     }
     this.#passed.delete(event.code);
-    const letter = event.altKey ? event.key.toLowerCase() : '';
-    const question = this.#unanswered === Answer.no;
-    if (event.key === 'Escape') this.#answer(this.#unanswered);
-    else if (question && (letter === 'j' || letter === 'n')) this.#answer(letter === 'j' ? Answer.yes : Answer.no);
-    else return;
+    const answer = event.key === 'Escape' ? this.#unanswered : event.altKey ? this.#letters.get(event.key.toLowerCase()) : undefined;
+    if (answer === undefined) return;
+    this.#answer(answer);
     event.preventDefault();
     event.stopPropagation();
   }

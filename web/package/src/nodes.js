@@ -23,8 +23,11 @@ const TWIPS_A_POINT = 20;
 const make = (name, className, properties = {}) => Object.assign(document.createElement(name), { className }, properties);
 const twips = (length) => `calc(${length} * var(${TWIP}))`;
 
+/** What the controls say themselves is Dutch, whatever is spoken around them. */
+const OWN_LANGUAGE = 'nl';
+
 /** A caption with an "&" before the letter to underline, and "&&" for one to show. */
-function writeCaption(element, marked) {
+export function writeCaption(element, marked) {
   const parts = marked.split(/&(.)/s);
   const texts = parts.map((part, i) => {
     if (i % 2 === 0 || part === '&') return part;
@@ -133,12 +136,18 @@ class TextBox extends Node {
     // The browser's own calendar; what is picked there is typed over by the machine.
     this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
     this.picker.node = this;
-    const button = make('button', 'calendar', { type: 'button', tabIndex: -1, title: 'Kalender (F4)' });
+    const button = make('button', 'calendar', { type: 'button', tabIndex: -1 });
     button.ariaHidden = 'true';
     button.part = 'calendar';
     button.node = this;
     this.button = button;
     this.outer.append(this.input, this.picker, button);
+    this.speak();
+  }
+  speak() {
+    if (this.button === undefined) return;
+    this.button.title = this.view.language.of('CalendarKey');
+    this.button.lang = this.view.language.tag;
   }
 
   openCalendar() {
@@ -192,8 +201,12 @@ class Hint extends Node {
     input.part = 'hint';
     const text = make('span', 'spoken', { id: `t${id}`, textContent: design.caption });
     outer.append(input, text);
-    super(view, id, { ...design, label: design.label === '' ? 'Hulp' : design.label }, outer, { input });
+    super(view, id, design, outer, { input });
     input.setAttribute('aria-describedby', text.id);
+    this.speak();
+  }
+  speak() {
+    if (this.design.label === '') this.input.setAttribute('aria-label', this.view.language.of('Help'));
   }
 }
 
@@ -298,14 +311,20 @@ class Surface extends Node {
     outer.append(area, veil);
     super(view, id, design, outer, { area });
     this.veil = veil;
+    area.lang = OWN_LANGUAGE;
+    this.speak();
+  }
+  speak() {
+    this.veil.textContent = this.view.language.of('NothingOpen');
+    this.veil.lang = this.view.language.tag;
   }
   show(what, number, text) {
     if (what !== Shows.veil) return super.show(what, number, text);
     const veiled = number !== 0;
     this.area.inert = veiled;
     this.area.classList.toggle('veiled', veiled);
+    this.outer.classList.toggle('empty', veiled);
     this.veil.hidden = !veiled;
-    this.veil.textContent = text;
   }
   enable(enabled) {
     this.area.inert = !enabled;
@@ -320,7 +339,7 @@ class Form extends Node {
     const head = make('div', 'head');
     head.part = 'head';
     const title = make('div', 'title', { id: `f${id}` });
-    const close = make('button', 'close', { type: 'button', textContent: '×', ariaLabel: 'Sluiten' });
+    const close = make('button', 'close', { type: 'button', textContent: '×' });
     const scroll = make('div', 'scroll');
     const area = make('div', 'inside');
     head.append(title, close);
@@ -329,6 +348,12 @@ class Form extends Node {
     super(view, id, design, outer, { area, caption: title });
     close.node = outer.node = this;
     this.closeButton = close;
+    outer.lang = OWN_LANGUAGE;
+    this.speak();
+  }
+  speak() {
+    this.closeButton.ariaLabel = this.view.language.of('Close');
+    this.closeButton.lang = this.view.language.tag;
   }
   place(left, top, width, height) {
     this.twips = [left, top, width, height];

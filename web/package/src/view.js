@@ -4,6 +4,7 @@
 import { listen } from './events.js';
 import { Bubble, Tip } from './floating.js';
 import { HostObjects } from './host.js';
+import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
 import { makeNode } from './nodes.js';
 
@@ -35,16 +36,29 @@ export class View {
   nodes = new Map();
   bubble = new Bubble();
   tip = new Tip();
+  /** What is added to the controls is said in it. */
+  language;
   #owner;
   #label = null;
   #dialogs = [];
   #boxes = new Map();
 
-  /** `owner` makes objects for the host and tells its page: makeForHost(what, control), tell(what, text). */
+  /** `owner` makes objects for the host and tells its page: makeForHost(what, control), tell(what, text), spoken(language). */
   constructor(root, owner) {
     this.root = root;
     this.#owner = owner;
+    this.language = languageAt(root.host);
     this.stopListening = listen(this);
+  }
+
+  /** Looks again what language is spoken where it stands; whether that is another one, which is shown then. */
+  follow() {
+    const language = languageAt(this.root.host);
+    if (language === this.language) return false;
+    this.language = language;
+    for (const node of this.nodes.values()) node.speak?.();
+    this.#owner.spoken(language);
+    return true;
   }
 
   makeForHost(what, control) {

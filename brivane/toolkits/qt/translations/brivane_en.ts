@@ -338,5 +338,10 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <extracomment>Close</extracomment>
+        <source>Sluiten</source>
+        <translation>Close</translation>
+    </message>
 </context>
 </TS>

@@ -27,6 +27,7 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   void InsertText(const std::string& text) override;
   void SelectAll() override { Page().Show(Node(), Shows::Selected); }
   [[nodiscard]] bool HasFocus() const override { return Page().Ask(Node(), Asked::HasFocus); }
+  [[nodiscard]] const frame::Texts& Texts() const override { return Toolkit().Texts(); }
   [[nodiscard]] bool ReadOnly() const override { return box_.Locked(); }
   [[nodiscard]] bool IsAtHand() const override { return Page().Ask(Node(), Asked::IsAtHand); }
   void ShowReason(const std::string& reason) override { Page().Show(Node(), Shows::Reason, 0, reason); }
