@@ -8,7 +8,8 @@
 namespace brivane::dossier {
 
 /// Table `stand` names states of a file, each by a random number, the newest last. The file alone names the one that it
-/// stands in; with a log it must be among those that the log knows, or the log is of another file or of an earlier copy.
+/// stands in; with a log it must be among those that the log knows, or the log is of another file or of an earlier
+/// copy.
 ///
 /// The log knows its newest state and those that the file itself may stand in: the one in which the log was last worked
 /// off, and each in which that was tried since. The few rows stay on one page, so that they can be read in whatever

@@ -71,6 +71,14 @@ TEST(Graphemes, AnAccentedLetterIsOneComposedOrNot) {
   EXPECT_EQ(Split("\u20AC5"), (Characters{"\u20AC", "5"}));
 }
 
+TEST(Graphemes, EachLetterTakesAnAccentAndStandsBeforeAnEndOfLine) {
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const std::string accented = letter + std::string("\u0301");
+    EXPECT_EQ(Split(accented + "x"), (Characters{accented, "x"})) << letter;
+    EXPECT_EQ(Split(std::string{letter, '\n'}), (Characters{std::string{letter}, "\n"})) << letter;
+  }
+}
+
 TEST(Graphemes, AVowelSignStaysWithItsLetterInEveryScript) {
   struct Case {
     const char* script;
@@ -105,6 +113,7 @@ TEST(Graphemes, ASignBeforeItsCharacterIsPartOfIt) {
   EXPECT_EQ(Split("a\u0600\u0661"), (Characters{"a", "\u0600\u0661"}));
   EXPECT_EQ(Split("a\u0600"), (Characters{"a", "\u0600"}));
   EXPECT_EQ(Split("\u0600\n"), (Characters{"\u0600", "\n"}));
+  EXPECT_EQ(Split("\u0600A"), Characters{"\u0600A"});
 }
 
 TEST(Graphemes, ALineEndIsOneAndTakesNoMarks) {

@@ -89,8 +89,9 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
 
 TEST(Amount, RefusesMalformedTextAndSaysWhatIsExpected) {
   const std::string expected = "Vul een bedrag in, bijvoorbeeld 1.234,56.";
-  for (const char* typed : {"abc", "12a",     "1,2,3", "12,", ",",      ".",     "-",    "€",   "1 500", "1,234.56",
-                            "--5", "1.23,45", "5-",    "1e3", "€ 12 €", "€ - €", "-€ -", ".,5", "..",    "1.2345,5"})
+  for (const char* typed :
+       {"abc",     "12a", "1,2,3", "12,",    ",",     ".",    "-",   "€",   "1 500", "1,234.56", "--5",
+        "1.23,45", "5-",  "1e3",   "€ 12 €", "€ - €", "-€ -", "12:", "1/2", ".,5",   "..",       "1.2345,5"})
     EXPECT_EQ(ReadAmount(typed).Reason(), expected) << typed;
   EXPECT_EQ(ReadAmount("12,345").Reason(), "Een bedrag heeft ten hoogste twee cijfers achter de komma.");
   EXPECT_EQ(ReadAmount("1000000000000").Reason(), "Dit getal is te groot.");

@@ -38,7 +38,11 @@ TEST(Texts, StandInEachLanguageWithTheSamePlacesAndMnemonics) {
     // A translator knows a text by its Dutch.
     EXPECT_TRUE(known.emplace(dutch, english).second) << name << ": \"" << dutch << "\" stands there twice";
     EXPECT_TRUE(names.insert(name).second) << name;
+    // A name in the sources and in the files of translators.
+    EXPECT_EQ(name.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"), std::string_view::npos)
+        << name;
   }
+  EXPECT_EQ(NameOf(TextId::ExpectAmount), "ExpectAmount");
   EXPECT_EQ(Texts::In(Language::Dutch).Of(TextId::Ok), "OK");
   EXPECT_EQ(Texts::In(Language::English).Of(TextId::ExpectAmount), "Enter an amount, for example 1.234,56.");
 }
@@ -50,6 +54,7 @@ class Numbered final : public Texts {
     switch (text) {
       case TextId::NoStart: return "<%2|%1|%3|%%|%";
       case TextId::InLine: return "%1>%2";
+      case TextId::Day: return "%9%:%0%";
       default: return std::to_string(static_cast<int>(text));
     }
   }
@@ -61,6 +66,8 @@ TEST(APhrase, IsFilledInInTheOrderOfTheLanguage) {
   // What is filled in is left as it is, and a phrase in a phrase speaks the same language.
   EXPECT_EQ(Phrase(TextId::InLine, {"%2", Phrase(TextId::InLine, {"1", TextId::ExpectAmount})}).In(texts), "%2>1>0");
   EXPECT_EQ(Phrase("a word of %1").In(texts), "a word of %1");
+  // Nine can be filled in, and no more.
+  EXPECT_EQ(Phrase(TextId::Day, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}).In(texts), "9%:%0%");
 }
 
 TEST(APhrase, IsEmptyWhereThereIsNothingToTell) {

@@ -43,7 +43,11 @@ def leaves(kind, text, path, row):
             yield from value(element, item, f"{path}[{i}]", row or item)
         return
     fields = [field for field in kind.get_canonical().get_declaration().type.get_fields()]
-    for i, item in enumerate(parts(text)):
+    items = parts(text)
+    # A macro at the front stands for as many fields as would be left over.
+    if items and re.match(r"[A-Z_]+\(", items[0]):
+        items = items[:1] * (len(fields) - len(items)) + items
+    for i, item in enumerate(items):
         named = re.match(r"\.(\w+)\s*=\s*", item)
         if named:
             field = next(f for f in fields if f.spelling == named[1])
