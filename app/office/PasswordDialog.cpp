@@ -13,7 +13,7 @@
 namespace brivane::app {
 namespace {
 
-constexpr int kCharacters = 40;
+constexpr int kBoxCharacters = 40;
 
 QString Question(const QString& words) {
   const QString account = OfficeAccount(words);
@@ -35,7 +35,7 @@ PasswordDialog::PasswordDialog(const QString& words, Because because, QWidget* a
   question->setWordWrap(true);
   box_->setObjectName(QStringLiteral("wachtwoord"));
   box_->setEchoMode(QLineEdit::Password);
-  box_->setMinimumWidth(fontMetrics().averageCharWidth() * kCharacters);
+  box_->setMinimumWidth(fontMetrics().averageCharWidth() * kBoxCharacters);
   qt::TypesNothingWithAlt(*box_);
   auto* label = new QLabel(QStringLiteral("&Wachtwoord"));
   label->setBuddy(box_);

@@ -17,7 +17,7 @@ namespace {
 
 /// A server at hand has answered by then, and no window flashes up.
 constexpr std::chrono::milliseconds kMoment{250};
-constexpr int kCharacters = 44;
+constexpr int kTextCharacters = 44;
 
 /// While it lives the pointer says that the program waits for the server.
 class Waiting {
@@ -39,7 +39,7 @@ class ReachDialog final : public PassingDialog {
     // A name is no mark-up.
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
-    text->setMinimumWidth(fontMetrics().averageCharWidth() * kCharacters);
+    text->setMinimumWidth(fontMetrics().averageCharWidth() * kTextCharacters);
     auto* bar = new QProgressBar;
     bar->setRange(0, 0);
     bar->setTextVisible(false);

@@ -13,8 +13,8 @@
 namespace brivane::app {
 namespace {
 
-constexpr int kLines = 8;
-constexpr int kCharacters = 40;
+constexpr int kListLines = 8;
+constexpr int kListCharacters = 40;
 
 class TeamDialog final : public PassingDialog {
  public:
@@ -31,7 +31,7 @@ class TeamDialog final : public PassingDialog {
     for (const dossier::Team& team : teams)
       list_->addItem(team.eigen ? team.naam : QStringLiteral("%1 (niet uw team)").arg(team.naam));
     list_->setCurrentRow(static_cast<int>(first));
-    list_->setMinimumSize(fontMetrics().averageCharWidth() * kCharacters, fontMetrics().lineSpacing() * kLines);
+    list_->setMinimumSize(fontMetrics().averageCharWidth() * kListCharacters, fontMetrics().lineSpacing() * kListLines);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
     buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Annuleren"));

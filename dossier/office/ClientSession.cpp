@@ -21,7 +21,7 @@ namespace {
 constexpr char kBron[] = "Dossier";
 /// How often, and how far apart, it is looked whether a session that was ended is gone.
 constexpr int kLooks = 20;
-constexpr std::chrono::milliseconds kSoon{1000};
+constexpr std::chrono::milliseconds kAnswersWithin{1000};
 constexpr unsigned long kBetweenLooks = 50;
 
 [[noreturn]] void Refuse(std::int32_t number, const std::string& reason) {
@@ -33,7 +33,7 @@ bool AnswersSoon(const OfficeConnection& office) {
   bool answers = false;
   Aside aside;
   Knock(aside, office.Another(), [&](const std::optional<OfficeError>& failure) { answers = !failure; });
-  static_cast<void>(aside.Settle(kSoon));
+  static_cast<void>(aside.Settle(kAnswersWithin));
   return answers;
 }
 
