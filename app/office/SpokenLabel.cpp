@@ -21,7 +21,7 @@ QAccessibleInterface* MakeSpoken(const QString&, QObject* object) {
 
 }  // namespace
 
-SpokenLabel::SpokenLabel(const QString& text) : QLabel(text) {
+SpokenLabel::SpokenLabel(const QString& text) {
   static const bool installed = [] {
     QAccessible::installFactory(MakeSpoken);
     return true;
@@ -30,6 +30,8 @@ SpokenLabel::SpokenLabel(const QString& text) : QLabel(text) {
   // A name is no mark-up.
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
+  // A base that is given its text is read before this is what it is.
+  setText(text);
 }
 
 void SpokenLabel::Say(const QString& text) {
