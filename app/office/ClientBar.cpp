@@ -1,21 +1,25 @@
 #include "app/office/ClientBar.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QAction>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include "app/office/SpokenLabel.h"
 
 namespace brivane::app {
 namespace {
 
-QLabel* MakeLabel(const char* name) {
-  auto* label = new QLabel;
+/// A group, and not a window as other frames are.
+QAccessibleInterface* MakeGroup(const QString&, QObject* object) {
+  auto* bar = dynamic_cast<ClientBar*>(object);
+  return bar != nullptr ? new QAccessibleWidget(bar, QAccessible::Grouping) : nullptr;
+}
+
+SpokenLabel* MakeLabel(const char* name) {
+  auto* label = new SpokenLabel;
   label->setObjectName(QString::fromLatin1(name));
-  // A name is no mark-up.
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
   return label;
 }
 
@@ -50,12 +54,18 @@ ClientBar::ClientBar(const QList<QAction*>& actions, QWidget* parent)
       state_(MakeLabel("stand")),
       notice_(MakeLabel("bericht")),
       unstored_(MakeLabel("nietOpgeslagen")) {
+  static const bool installed = [] {
+    QAccessible::installFactory(MakeGroup);
+    return true;
+  }();
+  static_cast<void>(installed);
   setObjectName(QStringLiteral("kantoorbalk"));
+  setAccessibleName(QStringLiteral("Kantoor"));
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::ToolTipBase);
   setForegroundRole(QPalette::ToolTipText);
-  for (QLabel* label : {state_, notice_, unstored_}) label->setForegroundRole(QPalette::ToolTipText);
+  for (SpokenLabel* label : {state_, notice_, unstored_}) label->setForegroundRole(QPalette::ToolTipText);
   QList<QPushButton*> tasks;
   for (QAction* action : actions) tasks << ButtonFor(action);
   again_ = MakeButton(QStringLiteral("Terugzetten"), putBack);
@@ -73,7 +83,7 @@ ClientBar::ClientBar(const QList<QAction*>& actions, QWidget* parent)
   hide();
 }
 
-QWidget* ClientBar::MakeLine(QLabel* label, const QList<QPushButton*>& buttons) {
+QWidget* ClientBar::MakeLine(SpokenLabel* label, const QList<QPushButton*>& buttons) {
   auto* line = new QWidget;
   auto* layout = new QHBoxLayout(line);
   layout->setContentsMargins(0, 2, 0, 2);
@@ -82,14 +92,10 @@ QWidget* ClientBar::MakeLine(QLabel* label, const QList<QPushButton*>& buttons) 
   return line;
 }
 
-void ClientBar::Show(QLabel* label, QWidget* line, const QString& text) {
-  const bool other = label->text() != text;
-  label->setText(text);
+void ClientBar::Show(SpokenLabel* label, QWidget* line, const QString& text) {
+  label->Say(text);
   line->setVisible(!text.isEmpty());
   setVisible(!state_->text().isEmpty() || !notice_->text().isEmpty() || !unstored_->text().isEmpty());
-  if (!other || text.isEmpty()) return;
-  QAccessibleEvent alert(label, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
 }
 
 void ClientBar::ShowState(const QString& text) { Show(state_, stateLine_, text); }

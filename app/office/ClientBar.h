@@ -4,10 +4,11 @@
 #include <functional>
 
 class QAction;
-class QLabel;
 class QPushButton;
 
 namespace brivane::app {
+
+class SpokenLabel;
 
 /// The bar above a client of an office: who works in it or that there is no connection, what came about, and what could
 /// not be stored. Where there is nothing to be said there is no bar. What it says is told to a screen reader at once.
@@ -29,12 +30,12 @@ class ClientBar final : public QFrame {
   std::function<void()> thrownAway;
 
  private:
-  QWidget* MakeLine(QLabel* label, const QList<QPushButton*>& buttons);
-  void Show(QLabel* label, QWidget* line, const QString& text);
+  QWidget* MakeLine(SpokenLabel* label, const QList<QPushButton*>& buttons);
+  void Show(SpokenLabel* label, QWidget* line, const QString& text);
 
-  QLabel* state_;
-  QLabel* notice_;
-  QLabel* unstored_;
+  SpokenLabel* state_;
+  SpokenLabel* notice_;
+  SpokenLabel* unstored_;
   QWidget* stateLine_;
   QWidget* noticeLine_;
   QWidget* unstoredLine_;

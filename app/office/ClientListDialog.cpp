@@ -28,7 +28,7 @@ constexpr int kWidths[] = {30, 15, 12, 30, 36};  ///< characters
 }  // namespace
 
 ClientListDialog::ClientListDialog(const Entrance& entrance, QWidget* above)
-    : QDialog(above),
+    : PassingDialog(above),
       search_(entrance.words, entrance.password),
       box_(new QLineEdit),
       list_(new QTreeWidget),
@@ -149,7 +149,7 @@ void ClientListDialog::Fill(const QString& typed, const std::vector<dossier::Cli
 }
 
 bool ClientListDialog::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  if (event->type() != QEvent::KeyPress) return PassingDialog::eventFilter(watched, event);
   auto* key = static_cast<QKeyEvent*>(event);
   if (watched == box_) {
     switch (key->key()) {
@@ -166,7 +166,7 @@ bool ClientListDialog::eventFilter(QObject* watched, QEvent* event) {
       default: return false;
     }
   }
-  if (watched != list_) return QDialog::eventFilter(watched, event);
+  if (watched != list_) return PassingDialog::eventFilter(watched, event);
   if (key->key() == Qt::Key_Up && list_->currentItem() == list_->topLevelItem(0)) {
     box_->setFocus(Qt::OtherFocusReason);
     return true;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QDialog>
 #include <QTimer>
 #include <vector>
 
+#include "app/desk/PassingDialog.h"
 #include "app/office/ClientSearch.h"
 #include "app/office/Entrance.h"
 
@@ -18,7 +18,7 @@ namespace brivane::app {
 /// from the box into the list and Up back, Enter opens the client that is chosen, also before it is found where it is
 /// the only one, and what is typed in the list goes to the box. Who works in which is looked at again every few
 /// seconds.
-class ClientListDialog final : public QDialog {
+class ClientListDialog final : public PassingDialog {
  public:
   ClientListDialog(const Entrance& entrance, QWidget* above);
 

@@ -18,20 +18,17 @@ struct ClientSearch::Session {
   }
 };
 
-ClientSearch::ClientSearch(const QString& words, const QString& password, QObject* parent)
-    : QObject(parent), there_(new QObject), session_(std::make_shared<Session>()) {
+ClientSearch::ClientSearch(const QString& words, const QString& password) : session_(std::make_shared<Session>()) {
   session_->words = words;
   session_->password = password;
-  there_->moveToThread(&thread_);
-  connect(&thread_, &QThread::finished, there_, &QObject::deleteLater);
-  thread_.start();
 }
 
 ClientSearch::~ClientSearch() {
-  // A session belongs to the thread that began it.
-  QMetaObject::invokeMethod(there_, [session = session_] { session->office.reset(); });
-  thread_.quit();
-  thread_.wait();
+  // A session ends on the thread that began it.
+  aside_.Run([session = session_]() -> dossier::Aside::Rest {
+    session->office.reset();
+    return {};
+  });
 }
 
 void ClientSearch::Want(const QString& typed) {
@@ -46,19 +43,18 @@ void ClientSearch::Done() {
 
 void ClientSearch::Ask(const QString& typed) {
   busy_ = true;
-  QMetaObject::invokeMethod(there_, [this, session = session_, typed] {
-    // This object waits for the thread before it goes, and what is posted to it goes with it.
+  aside_.Run([this, session = session_, typed]() -> dossier::Aside::Rest {
+    // What is left to be done is done here, and only while this object is there.
     try {
-      auto lines = session->Find(typed);
-      QMetaObject::invokeMethod(this, [this, typed, lines = std::move(lines)] {
+      return [this, typed, lines = session->Find(typed)] {
         if (found) found(typed, lines);
         Done();
-      });
+      };
     } catch (const dossier::OfficeError& error) {
-      QMetaObject::invokeMethod(this, [this, reason = error.Melding()] {
+      return [this, reason = error.Melding()] {
         if (failed) failed(reason);
         Done();
-      });
+      };
     }
   });
 }

@@ -1,23 +1,24 @@
 #pragma once
 
-#include <QObject>
 #include <QString>
-#include <QThread>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
+#include "dossier/office/Aside.h"
 #include "dossier/office/Office.h"
 
 namespace brivane::app {
 
-/// Looks clients up on a session and a thread of its own, so that nobody waits for the server while typing. Of what is
-/// wanted while an answer is under way the last counts. Lives as long as a question is under way at least.
-class ClientSearch final : public QObject {
+/// Looks clients up on a session and a thread of its own, so that nobody waits for the server while typing, nor when
+/// this goes. Of what is wanted while an answer is under way the last counts.
+class ClientSearch final {
  public:
-  ClientSearch(const QString& words, const QString& password, QObject* parent = nullptr);
-  ~ClientSearch() override;
+  ClientSearch(const QString& words, const QString& password);
+  ClientSearch(const ClientSearch&) = delete;
+  ClientSearch& operator=(const ClientSearch&) = delete;
+  ~ClientSearch();
 
   void Want(const QString& typed);
   /// No answer is under way.
@@ -34,9 +35,8 @@ class ClientSearch final : public QObject {
   void Ask(const QString& typed);
   void Done();
 
-  QThread thread_;
-  QObject* there_;  ///< an object of the thread
   std::shared_ptr<Session> session_;
+  dossier::Aside aside_;
   bool busy_ = false;
   std::optional<QString> wanted_;
 };

@@ -1,17 +1,18 @@
 #include "app/office/Entrance.h"
 
 #include <QComboBox>
-#include <QDialog>
 #include <QDialogButtonBox>
-#include <QGuiApplication>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <iterator>
 
 #include "app/desk/Messages.h"
 #include "app/office/OfficeWords.h"
+#include "app/office/PasswordDialog.h"
+#include "app/office/Reach.h"
 #include "app/office/RecentOffices.h"
 #include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
@@ -22,32 +23,20 @@ constexpr int kCharacters = 56;
 
 QString Title() { return QStringLiteral("Kantoor openen"); }
 
-/// While it lives the pointer says that the program waits for the server.
-class Waiting {
- public:
-  Waiting() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  Waiting(const Waiting&) = delete;
-  Waiting& operator=(const Waiting&) = delete;
-  ~Waiting() { QGuiApplication::restoreOverrideCursor(); }
-};
+/// The words by which libpq or a server asks for a password, or refuses one, in the languages that it speaks here.
+constexpr const char* kPasswordWords[] = {"password", "wachtwoord", "passwort", "mot de passe"};
 
 /// Nothing where it was put away.
-std::optional<QString> AskPassword(QWidget* above, const QString& words, bool again) {
-  QInputDialog question(above);
-  question.setWindowTitle(Title());
-  const QString why = again ? QStringLiteral("Dit wachtwoord is niet goed.\n") : QString();
-  question.setLabelText(why + QStringLiteral("Wachtwoord voor %1").arg(OfficeTitle(words)));
-  question.setTextEchoMode(QLineEdit::Password);
-  question.setOkButtonText(QStringLiteral("OK"));
-  question.setCancelButtonText(QStringLiteral("Annuleren"));
+std::optional<QString> AskPassword(QWidget* above, const QString& words, PasswordDialog::Because because) {
+  PasswordDialog question(words, because, above);
   if (question.exec() != QDialog::Accepted) return std::nullopt;
-  return question.textValue();
+  return question.Typed();
 }
 
 /// Asks for words until there are some that lead somewhere.
-class OfficeDialog final : public QDialog {
+class OfficeDialog final : public PassingDialog {
  public:
-  explicit OfficeDialog(QWidget* above) : QDialog(above), words_(new QComboBox), reason_(new QLabel) {
+  explicit OfficeDialog(QWidget* above) : PassingDialog(above), words_(new QComboBox), reason_(new QLabel) {
     setWindowTitle(Title());
     words_->setEditable(true);
     words_->setObjectName(QStringLiteral("kantoor"));
@@ -104,33 +93,39 @@ class OfficeDialog final : public QDialog {
 
 bool WantsPassword(const dossier::OfficeError& error) {
   if (error.Problem() == dossier::OfficeProblem::NotAdmitted) return true;
-  // A session that never began has no code; libpq's words are English, or in the language of the machine.
+  // A session that never began has no code.
   const QString said = QString::fromUtf8(error.what());
   return error.Problem() == dossier::OfficeProblem::Unreachable &&
-         (said.contains(QLatin1String("password"), Qt::CaseInsensitive) ||
-          said.contains(QLatin1String("wachtwoord"), Qt::CaseInsensitive));
+         std::any_of(std::begin(kPasswordWords), std::end(kPasswordWords),
+                     [&](const char* word) { return said.contains(QLatin1String(word), Qt::CaseInsensitive); });
 }
 
-std::optional<Entrance> EnterOffice(QWidget* above, const QString& words) {
+std::optional<Entrance> EnterOffice(QWidget* above, const QString& words, QString password) {
   if (const QString fault = FaultText(FaultOf(words)); !fault.isEmpty()) {
     ShowMessage(above, Title(), fault);
     return std::nullopt;
   }
-  QString password;
   for (;;) {
-    try {
-      const Waiting waiting;
-      auto office = std::make_shared<dossier::OfficeConnection>(words, password);
-      office->OpenOffice();
-      RecentOffices::Add(words);
-      return Entrance{words, password, std::move(office)};
-    } catch (const dossier::OfficeError& error) {
-      if (!WantsPassword(error)) {
-        ShowMessage(above, Title(), error.Melding());
-        return std::nullopt;
+    const Reached reached = Reach(above, words, password);
+    if (reached.put_away) return std::nullopt;
+    std::optional<dossier::OfficeError> failure = reached.failure;
+    if (!failure) {
+      try {
+        // It answered just now.
+        auto office = std::make_shared<dossier::OfficeConnection>(words, password);
+        office->OpenOffice(dossier::OfficeConnection::Patience::Short);
+        RecentOffices::Add(words);
+        return Entrance{words, password, std::move(office)};
+      } catch (const dossier::OfficeError& error) {
+        failure = error;
       }
     }
-    const auto typed = AskPassword(above, words, !password.isEmpty());
+    if (!WantsPassword(*failure)) {
+      ShowMessage(above, Title(), failure->Melding());
+      return std::nullopt;
+    }
+    const auto typed = AskPassword(
+        above, words, password.isEmpty() ? PasswordDialog::Because::Wanted : PasswordDialog::Because::Wrong);
     if (!typed) return std::nullopt;
     password = *typed;
   }

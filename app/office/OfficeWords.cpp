@@ -106,4 +106,8 @@ QString OfficeTitle(const QString& words) {
   return QStringLiteral("%1 op %2").arg(name, host);
 }
 
+QString OfficeAccount(const QString& words) {
+  return words.contains(u'=') ? Read(words.trimmed()).value_or(Words())[QStringLiteral("user")] : QString();
+}
+
 }  // namespace brivane::app

@@ -22,4 +22,7 @@ enum class WordsFault {
 /// What an office is called on the screen: the service, or "database op host".
 [[nodiscard]] QString OfficeTitle(const QString& words);
 
+/// The account that stands in the words; empty where none does.
+[[nodiscard]] QString OfficeAccount(const QString& words);
+
 }  // namespace brivane::app

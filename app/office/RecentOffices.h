@@ -9,6 +9,10 @@ class RecentOffices {
  public:
   [[nodiscard]] static QStringList All();
   static void Add(const QString& words);
+
+  /// The team of that office that a client was brought into last; 0 for none.
+  [[nodiscard]] static int Team(const QString& words);
+  static void SetTeam(const QString& words, int team);
 };
 
 }  // namespace brivane::app

@@ -2,7 +2,10 @@
 #include <QDir>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
+#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 
 #include "app/desk/Settings.h"
 #include "app/program/CommandLine.h"
@@ -14,6 +17,7 @@
 #include "app/program/SessionEnd.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
+#include "dossier/office/Aside.h"
 
 namespace {
 
@@ -21,6 +25,8 @@ using namespace brivane::app;
 namespace dossier = brivane::dossier;
 
 constexpr int kFailed = 1;
+/// For what is still under way when the window is gone.
+constexpr std::chrono::milliseconds kLastWord{200};
 
 int MakeSample(const QString& file) {
   try {
@@ -53,8 +59,18 @@ int PlayOffice(const CommandLine& line) {
   return kFailed;
 }
 
+void Begin(MainWindow& window, const CommandLine& line) {
+  if (!line.offices.isEmpty()) {
+    window.OpenOffice(line.offices.first());
+  } else if (!line.file.isEmpty()) {
+    window.Open(line.file);
+  } else if (const QString last = Settings::LastFile(); QFile::exists(last)) {
+    window.Open(last);
+  }
+  window.OfferUnfinished();
+}
+
 int ShowWindow(const CommandLine& line) {
-  const QString& file = line.file;
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
   MakePrivate(folder);
   MakePrivate(QFileInfo(QSettings().fileName()).absolutePath());
@@ -62,14 +78,8 @@ int ShowWindow(const CommandLine& line) {
   MainWindow window(eventLog);
   const SessionEnd end(window);
   window.show();
-  if (!line.offices.isEmpty()) {
-    window.OpenOffice(line.offices.first());
-  } else if (!file.isEmpty()) {
-    window.Open(file);
-  } else if (const QString last = Settings::LastFile(); QFile::exists(last)) {
-    window.Open(last);
-  }
-  window.OfferUnfinished();
+  // In the program's event loop: what that asks or shows may be ended from outside, and the program with it.
+  QTimer::singleShot(0, &window, [&] { Begin(window, line); });
   return QApplication::exec();
 }
 
@@ -110,5 +120,8 @@ int main(int argc, char** argv) {
   SetUpProgram(program);
   if (line.command == Command::Session) return PlaySession(line);
   if (line.command == Command::OfficeSession) return PlayOffice(line);
-  return ShowWindow(line);
+  const int code = ShowWindow(line);
+  // A server that does not answer is not waited for.
+  if (!dossier::Aside::AllEnd(kLastWord)) std::_Exit(code);
+  return code;
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <vector>
 
+#include "app/desk/PassingDialog.h"
 #include "app/history/HistoryWindow.h"
 #include <brivane/toolkits/qt/Text.h>
 #include <brivane/toolkits/qt/rows/CellPeer.h>
@@ -99,6 +100,8 @@ QString Answers(const QDialog& dialog) {
   bool changed = false;
   for (const QLineEdit* line : dialog.findChildren<QLineEdit*>()) {
     if (!line->isVisible() || line->isReadOnly() || line->text().isEmpty()) continue;
+    // What is not shown is not kept either.
+    if (line->echoMode() != QLineEdit::Normal) continue;
     changed = changed || line->isModified();
     const QString name = NameOf(dialog, *line);
     lines << (name.isEmpty() ? line->text() : name + QStringLiteral(": ") + line->text());
@@ -114,7 +117,8 @@ QString FilledIn(const QDialog& dialog) {
     return changed ? Rows(window->Form()).Text() : QString();
   }
   // Where a file is chosen a name is typed, and in a filter what is looked for: nothing of a case.
-  const bool ofACase = !qobject_cast<const QFileDialog*>(&dialog) && !dynamic_cast<const HistoryWindow*>(&dialog);
+  const bool ofACase = !qobject_cast<const QFileDialog*>(&dialog) && !dynamic_cast<const HistoryWindow*>(&dialog) &&
+                       !dynamic_cast<const PassingDialog*>(&dialog);
   return ofACase ? Answers(dialog) : QString();
 }
 

@@ -10,6 +10,7 @@
 #include "app/desk/Messages.h"
 #include "app/office/ClientListDialog.h"
 #include "app/office/OfficeWords.h"
+#include "app/office/TeamDialog.h"
 #include "app/screen/Greying.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/office/Office.h"
@@ -41,7 +42,8 @@ bool MainWindow::IsInOffice(const QString& words) {
   if (entrance_ && !entrance_->office->IsBroken() && (words.isEmpty() || words == entrance_->words)) return true;
   // The one that broke is tried first.
   const QString which = words.isEmpty() && entrance_ ? entrance_->words : words;
-  std::optional<Entrance> entered = which.isEmpty() ? AskOffice(this) : EnterOffice(this, which);
+  const QString password = entrance_ && which == entrance_->words ? entrance_->password : QString();
+  std::optional<Entrance> entered = which.isEmpty() ? AskOffice(this) : EnterOffice(this, which, password);
   if (!entered) return false;
   entrance_ = std::move(entered);
   return true;
@@ -119,16 +121,22 @@ void MainWindow::UpdateOffice(const QString& noFile) {
 
 void MainWindow::BringToOffice() {
   if (!screen_->MayLeave() || !IsInOffice({})) return;
-  const auto& file = dynamic_cast<const dossier::DossierFile&>(screen_->Store());
-  const int team = entrance_->office->User().team;
-  if (team == 0) {
-    return ShowMessage(this, KantoorTitle(),
-                       QStringLiteral("U zit in dit kantoor in geen team: een cliënt hoort bij een team."));
+  if (!entrance_->office->User().writes) {
+    return ShowMessage(this, KantoorTitle(), QStringLiteral("U mag in dit kantoor geen cliënten toevoegen."));
   }
+  const auto& file = dynamic_cast<const dossier::DossierFile&>(screen_->Store());
   const QString name = file.Naam();
+  std::optional<dossier::Team> team;
   int client = 0;
   try {
-    client = dossier::AddClient(*entrance_->office, team, file);
+    const std::vector<dossier::Team> teams = dossier::TeamsFor(*entrance_->office);
+    if (teams.empty()) {
+      return ShowMessage(this, KantoorTitle(),
+                         QStringLiteral("U zit in dit kantoor in geen team: een cliënt hoort bij een team."));
+    }
+    team = AskTeam(this, entrance_->words, teams, name);
+    if (!team) return;
+    client = dossier::AddClient(*entrance_->office, team->nummer, file);
   } catch (const dossier::OfficeError& error) {
     return ShowMessage(this, KantoorTitle(), error.Melding());
   } catch (const dossier::OpeningError& error) {
@@ -136,7 +144,9 @@ void MainWindow::BringToOffice() {
   }
   if (OpenClient({entrance_->words, client})) {
     statusBar()->showMessage(
-        QStringLiteral("\"%1\" staat nu in het kantoor; het bestand blijft zoals het was.").arg(name), kTold);
+        QStringLiteral("\"%1\" staat nu in het kantoor, in team %2; het bestand blijft zoals het was.")
+            .arg(name, team->naam),
+        kTold);
   }
 }
 

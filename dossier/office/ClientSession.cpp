@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "dossier/office/FoundBy.h"
+#include "dossier/office/Knock.h"
 #include "dossier/office/OfficeTables.h"
 #include "dossier/office/RowsJson.h"
 #include "dossier/store/StoreErrors.h"
@@ -20,10 +21,20 @@ namespace {
 constexpr char kBron[] = "Dossier";
 /// How often, and how far apart, it is looked whether a session that was ended is gone.
 constexpr int kLooks = 20;
+constexpr std::chrono::milliseconds kAnswersWithin{1000};
 constexpr unsigned long kBetweenLooks = 50;
 
 [[noreturn]] void Refuse(std::int32_t number, const std::string& reason) {
   throw host::Error(number, "De wijziging is niet opgeslagen: " + reason + ".", kBron);
+}
+
+/// Whether the office lets one in again. A window waits for it: one that does not answer is left to later.
+bool AnswersSoon(const OfficeConnection& office) {
+  bool answers = false;
+  Aside aside;
+  Knock(aside, office.Another(), [&](const std::optional<OfficeError>& failure) { answers = !failure; });
+  static_cast<void>(aside.Settle(kAnswersWithin));
+  return answers;
 }
 
 QString SendSql() { return QStringLiteral("SELECT kantoor.sla_op(?::integer, ?::uuid, ?::uuid, ?::json)"); }
@@ -236,7 +247,7 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const Q
   pending_ = Pending{edit, step};
   Broke();
   // Where the server is there again at once, the adviser notices nothing.
-  const std::optional<Verdict> verdict = Reconnect();
+  const std::optional<Verdict> verdict = AnswersSoon(*office_) ? Reconnect() : std::nullopt;
   if (!verdict || verdict->role == Role::TryAgain) {
     throw host::Error(
         kUnknownError,
@@ -260,8 +271,9 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                       .pid = pid_,
                       .edit = pending_ ? std::optional(pending_->step) : std::nullopt};
   try {
-    // Another client of the same window may have begun the new session already.
-    if (office_->IsBroken()) office_->OpenOffice();
+    // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
+    // edit, or knows that the server answers.
+    if (office_->IsBroken()) office_->OpenOffice(OfficeConnection::Patience::Short);
     for (int look = 0; look < kLooks; ++look) {
       Found found;
       QSqlQuery& row = office_->Run(

@@ -62,6 +62,8 @@ class ClientSession final : public EditKeeper {
   std::optional<Verdict> Reconnect() noexcept;
   /// A statement met a connection that is gone.
   void Broke();
+  /// It was found out otherwise that the office cannot be reached yet: one more try has failed.
+  void NotReached() { ++tries_; }
   [[nodiscard]] int Tries() const { return tries_; }
   /// What holds of the connection, this client and nobody else's.
   [[nodiscard]] QString Channel() const { return QStringLiteral("kantoor_%1").arg(client_); }

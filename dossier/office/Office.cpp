@@ -58,11 +58,22 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
   payload += "\"zoek\":" + JsonOf(FoundByOf(tables)) + '}';
   office.RunScript(QStringLiteral("BEGIN"));
   try {
+    // Who manages brings clients into every team: a member of it until the transaction ends, which nobody else sees.
+    const bool guest =
+        office.User().manages &&
+        office
+            .Run(QStringLiteral("INSERT INTO kantoor.lid VALUES (session_user, ?::integer) ON CONFLICT DO NOTHING "
+                                "RETURNING team"),
+                 {team})
+            .isValid();
     const int client =
         office.Run(QStringLiteral("SELECT kantoor.nieuw(?::integer, ?::json)"), {team, QString::fromStdString(payload)})
             .value(0)
             .toInt();
     for (const ClientTable& table : {Names(), Steps(), Entries()}) SendHistory(office, client, tables, table);
+    if (guest)
+      office.Run(QStringLiteral("DELETE FROM kantoor.lid WHERE gebruiker = session_user AND team = ?::integer"),
+                 {team});
     office.RunScript(QStringLiteral("COMMIT"));
     return client;
   } catch (const OfficeError& error) {
@@ -91,6 +102,17 @@ std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& t
                      .bewerkt_sinds = row.value(8).toDateTime()});
   }
   return lines;
+}
+
+std::vector<Team> TeamsFor(OfficeConnection& office) {
+  QSqlQuery& row = office.Run(
+      QStringLiteral("SELECT t.nummer, t.naam, l.team IS NOT NULL AS eigen FROM kantoor.team t LEFT JOIN kantoor.lid l "
+                     "ON l.team = t.nummer AND l.gebruiker = session_user WHERE l.team IS NOT NULL OR "
+                     "pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER') ORDER BY eigen DESC, lower(t.naam)"));
+  std::vector<Team> teams;
+  for (; row.isValid(); row.next())
+    teams.push_back({.nummer = row.value(0).toInt(), .naam = row.value(1).toString(), .eigen = row.value(2).toBool()});
+  return teams;
 }
 
 int AddClient(OfficeConnection& office, int team, const DossierGegevens& contents) {

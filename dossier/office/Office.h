@@ -29,6 +29,17 @@ struct ClientLine {
 /// than `most`. One round trip. Throws OfficeError.
 [[nodiscard]] std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& typed, int most = 50);
 
+/// A team of an office.
+struct Team {
+  int nummer = 0;
+  QString naam;
+  bool eigen = false;  ///< this account is in it
+};
+
+/// The teams that this account brings clients into: those that it is in by name, and for a manager all others after
+/// them. Throws OfficeError.
+[[nodiscard]] std::vector<Team> TeamsFor(OfficeConnection& office);
+
 /// Adds a client to a team and answers its number, whole or not at all. Throws OfficeError, and OpeningError where the
 /// contents are not possible.
 int AddClient(OfficeConnection& office, int team, const DossierGegevens& contents);

@@ -22,15 +22,18 @@ QString NewName() {
 constexpr char kUnlessSaid[] =
     "connect_timeout=10 tcp_user_timeout=15000 keepalives_idle=20 keepalives_interval=5 keepalives_count=3 "
     "fallback_application_name=dossier options='-c plan_cache_mode=force_generic_plan' ";
+/// Of two the last counts.
+constexpr char kShort[] = " connect_timeout=3";
 
 }  // namespace
 
-OfficeConnection::OfficeConnection(const QString& words, const QString& password) : name_(NewName()) {
+OfficeConnection::OfficeConnection(const QString& words, const QString& password)
+    : name_(NewName()),
+      options_(words.contains(u'=') ? words : QStringLiteral("service=") + words),
+      password_(password) {
   if (words.contains(QLatin1String("password=")))
     throw OfficeError(OfficeProblem::Refused, "a password does not stand among the words of a connection");
   database_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_);
-  const QString all = words.contains(u'=') ? words : QStringLiteral("service=") + words;
-  database_.setConnectOptions(QLatin1String(kUnlessSaid) + all);
   if (!password.isEmpty()) database_.setPassword(password);
 }
 
@@ -42,11 +45,17 @@ OfficeConnection::~OfficeConnection() {
   QSqlDatabase::removeDatabase(name_);
 }
 
-void OfficeConnection::Open() {
+std::function<std::unique_ptr<OfficeConnection>()> OfficeConnection::Another() const {
+  return [words = options_, password = password_] { return std::make_unique<OfficeConnection>(words, password); };
+}
+
+void OfficeConnection::Open(Patience patience) {
   statements_.clear();
   database_.close();
   broken_ = true;
   if (!database_.isValid()) throw OfficeError(OfficeProblem::Refused, "The driver for PostgreSQL is missing");
+  database_.setConnectOptions(QLatin1String(kUnlessSaid) + options_ +
+                              QLatin1String(patience == Patience::Short ? kShort : ""));
   if (!database_.open()) Fail(database_.lastError());
   broken_ = false;
   if (!told_) {
@@ -58,8 +67,8 @@ void OfficeConnection::Open() {
   }
 }
 
-void OfficeConnection::OpenOffice() {
-  Open();
+void OfficeConnection::OpenOffice(Patience patience) {
+  Open(patience);
   const QSqlQuery& query =
       Run(QStringLiteral("SELECT versie, gebruiker, naam, schrijft, beheert, pid, team FROM kantoor.ik()"));
   const int version = query.value(0).toInt();

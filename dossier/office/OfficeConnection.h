@@ -4,8 +4,10 @@
 #include <QSqlQuery>
 #include <QString>
 #include <QVariant>
+#include <functional>
 #include <initializer_list>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "dossier/office/OfficeError.h"
@@ -38,10 +40,15 @@ class OfficeConnection {
   OfficeConnection& operator=(const OfficeConnection&) = delete;
   ~OfficeConnection();
 
+  /// How long a server may take to answer: one that answered just now answers soon.
+  enum class Patience { Long, Short };
+
   /// Begins a session, also after the one before broke.
-  void Open();
+  void Open(Patience patience = Patience::Long);
   /// The same, and asks who the session is: throws where there is no office of this version.
-  void OpenOffice();
+  void OpenOffice(Patience patience = Patience::Long);
+  /// Makes a further session of the same words and password, which is not begun yet; on any thread, also without this.
+  [[nodiscard]] std::function<std::unique_ptr<OfficeConnection>()> Another() const;
   /// There is no session, or it turned out to be gone.
   [[nodiscard]] bool IsBroken() const { return broken_; }
   [[nodiscard]] const OfficeUser& User() const { return user_; }
@@ -63,6 +70,8 @@ class OfficeConnection {
   [[noreturn]] void Fail(const QSqlError& error);
 
   QString name_;
+  QString options_;
+  QString password_;
   QSqlDatabase database_;
   QMetaObject::Connection told_;
   std::map<QString, QSqlQuery> statements_;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "dossier/office/Knock.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Reader.h"
@@ -52,13 +53,14 @@ OfficeStore::OfficeStore(std::shared_ptr<OfficeConnection> office, int client)
   if (QCoreApplication::instance() == nullptr) return;
   timer_ = std::make_unique<QTimer>();
   timer_->setSingleShot(true);
-  QObject::connect(timer_.get(), &QTimer::timeout, [this] { Attend(); });
+  QObject::connect(timer_.get(), &QTimer::timeout, [this] { Due(); });
   Plan();
 }
 
 OfficeStore::~OfficeStore() {
   subscriptions_ = {};
   timer_.reset();
+  aside_.reset();
   journal_->Sluit();
   session_->LetGo();
 }
@@ -128,6 +130,20 @@ void OfficeStore::LetGo() {
 
 void OfficeStore::Ask() { session_->Ask(); }
 
+void OfficeStore::Due() {
+  if (Now() != State::Broken || !session_->Office().IsBroken()) return Attend();
+  if (std::exchange(knocking_, true)) return;
+  if (!aside_) aside_ = std::make_unique<Aside>();
+  Knock(*aside_, session_->Office().Another(), [this](const std::optional<OfficeError>& failure) {
+    knocking_ = false;
+    if (Now() != State::Broken || !failure) return Attend();
+    session_->NotReached();
+    Plan();
+  });
+  // A window shows at once that the connection is gone.
+  TellIfChanged();
+}
+
 void OfficeStore::Attend() {
   if (Now() == State::Broken) {
     const bool unknown = session_->HasUnknownEdit();
@@ -185,8 +201,10 @@ void OfficeStore::TellIfChanged() {
 
 void OfficeStore::Plan() {
   if (!timer_) return;
-  if (Now() == State::Broken) {
-    // A window shows it at once.
+  if (Now() == State::Broken && knocking_) {
+    // What comes of that plans what comes next.
+    timer_->stop();
+  } else if (Now() == State::Broken) {
     timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
   } else if (told_state_ != Now()) {
     timer_->start(0);

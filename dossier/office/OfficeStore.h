@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "dossier/office/Aside.h"
 #include "dossier/office/ClientSession.h"
 #include "dossier/store/DossierStore.h"
 
@@ -24,7 +25,7 @@ class FileJournal;
 ///
 /// It is taken up to be edited where nobody else has it; else it opens to be read, and follows what the other stores.
 /// With an event loop it looks after itself: it is told of edits, looks whether the other is gone, and tries again
-/// where the connection broke. A program without one calls Attend.
+/// where the connection broke, without waiting for a server that does not answer. A program without one calls Attend.
 class OfficeStore final : public DossierStore {
  public:
   using State = ClientSession::State;
@@ -86,11 +87,15 @@ class OfficeStore final : public DossierStore {
   void Reload();
   void TellIfChanged();
   void Plan();
+  /// It is time for Attend, or to find out first whether the office is there.
+  void Due();
 
   std::shared_ptr<ClientSession> session_;
   std::shared_ptr<FileJournal> journal_;
   std::shared_ptr<dossier::Dossier> dossier_;
   std::unique_ptr<QTimer> timer_;
+  std::unique_ptr<Aside> aside_;
+  bool knocking_ = false;
   host::Subscriptions subscriptions_;
   /// What Settled is to tell.
   std::optional<Outcome> settled_;

@@ -1,13 +1,21 @@
 #include "tests/app/access/Scenes.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include "app/desk/Today.h"
+#include "app/office/ClientListDialog.h"
+#include "app/office/PasswordDialog.h"
+#include "app/office/Reach.h"
+#include "app/office/TeamDialog.h"
 #include "dossier/model/Gegevens.h"
+#include "dossier/office/Aside.h"
 #include <brivane/controls/Surface.h>
 #include <brivane/frame/Calendar.h>
 
@@ -91,6 +99,25 @@ void OpenBeside(Stage& stage, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt:
   Stage::Press(key, modifiers);
 }
 
+/// The list of clients, once the office has answered.
+void ShowClients(Stage& stage) {
+  ClientListDialog list({stage.Office().Words("bert"), {}, nullptr}, &stage.Window());
+  const auto* lines = list.findChild<QTreeWidget*>("clienten");
+  if (!QTest::qWaitFor([&] { return lines->topLevelItemCount() == 2; }, kPatience)) qFatal("there are no clients");
+  list.exec();
+}
+
+/// Somebody reads a client along, and asks for it.
+void BeAsked(Stage& stage) {
+  const int client = stage.Anna().Client();
+  stage.Anna().LetGo();
+  stage.OpenClient("bert");
+  const auto reader = stage.Office().Open(client);
+  reader->Ask();
+  const auto* state = stage.Window().findChild<QLabel*>("stand");
+  if (!QTest::qWaitFor([&] { return !state->text().isEmpty(); }, kPatience)) qFatal("nobody asks");
+}
+
 }  // namespace
 
 Stage::Stage(const QDir& folder)
@@ -98,6 +125,12 @@ Stage::Stage(const QDir& folder)
   PinToday(kDay);
   dossier::DossierFile::Maak(file_, Case());
   window_ = std::make_unique<MainWindow>(eventLog_);
+}
+
+Stage::~Stage() {
+  window_.reset();
+  nobody_.reset();
+  static_cast<void>(dossier::Aside::AllEnd(std::chrono::seconds(20)));
 }
 
 MainWindow& Stage::Window() { return *window_; }
@@ -108,6 +141,39 @@ DossierScreen& Stage::Screen() {
     window_->Screen()->Kolom().Editor().Toolkit().Desktop().clock = [] { return kDay; };
   }
   return *window_->Screen();
+}
+
+dossier::TrialOffice& Stage::Office() {
+  if (office_) return *office_;
+  office_ = std::make_unique<dossier::TrialOffice>();
+  dossier::DossierGegevens other = Case();
+  other.Personen.resize(1);
+  other.Personen.front().Naam = {"F.", "", "Öztürk"};
+  static_cast<void>(office_->Add(other));
+  anna_ = office_->Open(office_->Add(Case()));
+  // By the clock of the machine that shows it, of a year that is past.
+  const QString moment = QDateTime(QDate(2025, 11, 21), QTime(10, 32)).toUTC().toString(Qt::ISODate);
+  office_->Psql("postgres", QString("UPDATE kantoor.bewerker SET sinds = '%1'; UPDATE kantoor.client SET gewijzigd = "
+                                    "timestamptz '%1' + nummer * interval '1 hour'")
+                                .arg(moment));
+  return *office_;
+}
+
+dossier::OfficeStore& Stage::Anna() {
+  static_cast<void>(Office());
+  return *anna_;
+}
+
+void Stage::OpenClient(const char* account) {
+  if (!window_->OpenClient({Office().Words(account), Anna().Client()})) qFatal("the client cannot be opened");
+  window_->Screen()->Kolom().Editor().Toolkit().Desktop().clock = [] { return kDay; };
+  GoTo(kAmount);
+}
+
+QString Stage::NobodyAnswers() {
+  nobody_ = std::make_unique<test::SocketProxy>(QString());
+  nobody_->FallSilent();
+  return "dbname=kantoor user=anna host=" + nobody_->Folder();
 }
 
 void Stage::GoTo(std::int16_t Vrij_Id) {
@@ -192,6 +258,26 @@ const std::vector<Scene>& AllScenes() {
          Stage::Press(Qt::Key_Tab);
        },
        kWhole, true},
+      {"office-connecting", [](Stage& stage) { (void)Reach(&stage.Window(), stage.NobodyAnswers(), {}); }, kWhole,
+       true},
+      {"office-password",
+       [](Stage& stage) {
+         PasswordDialog(QStringLiteral("host=db.noord dbname=kantoor user=anna"), PasswordDialog::Because::Wrong,
+                        &stage.Window())
+             .exec();
+       },
+       kWhole, true},
+      {"office-team",
+       [](Stage& stage) {
+         const std::vector<dossier::Team> teams = {{.nummer = 1, .naam = QStringLiteral("Noord"), .eigen = true},
+                                                   {.nummer = 2, .naam = QStringLiteral("Oost"), .eigen = true},
+                                                   {.nummer = 3, .naam = QStringLiteral("Zuid"), .eigen = false}};
+         (void)AskTeam(&stage.Window(), QStringLiteral("noord"), teams, QStringLiteral("A. de Boer"));
+       },
+       kWhole, true},
+      {"office-clients", ShowClients, kWhole, true},
+      {"office-read", [](Stage& stage) { stage.OpenClient("bert"); }, kWhole},
+      {"office-asked", BeAsked, "frame"},
       {"print-preview", [](Stage& stage) { OpenBeside(stage, Qt::Key_P, Qt::ControlModifier); }, kWhole, true},
   };
   return scenes;

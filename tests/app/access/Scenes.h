@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "app/screen/MainWindow.h"
+#include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/postgres/SocketProxy.h"
 
 /// The windows of the program as a person meets them, each brought about on one fixed case. A further window is one
 /// more entry in AllScenes().
@@ -16,6 +18,7 @@ class Stage {
  public:
   /// Its files go into the folder.
   explicit Stage(const QDir& folder);
+  ~Stage();
 
   [[nodiscard]] MainWindow& Window();
   /// The case, opened.
@@ -24,6 +27,14 @@ class Stage {
   void GoTo(std::int16_t Vrij_Id);
   /// Puts the focus in a control of the editor.
   void Focus(const char* control);
+  /// An office with two clients, the second of which anna edits since a fixed moment of a past year.
+  [[nodiscard]] dossier::TrialOffice& Office();
+  /// Her session.
+  [[nodiscard]] dossier::OfficeStore& Anna();
+  /// Shows that client as an account of the office sees it.
+  void OpenClient(const char* account);
+  /// Where a server lets everybody in and answers nobody.
+  [[nodiscard]] QString NobodyAnswers();
   /// Presses a key, or types a text, in the window that has the focus.
   static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   static void Type(const char* text);
@@ -31,6 +42,9 @@ class Stage {
  private:
   QString file_;
   EventLog eventLog_;
+  std::unique_ptr<dossier::TrialOffice> office_;
+  std::unique_ptr<dossier::OfficeStore> anna_;
+  std::unique_ptr<test::SocketProxy> nobody_;
   std::unique_ptr<MainWindow> window_;
 };
 

@@ -1,5 +1,5 @@
-// Random keys and clicks in the real window: it neither falls over nor stands still, what it accepted is in the file,
-// and what it shows is what the file has.
+// Random keys and clicks in the real window: it neither falls over nor stands still, what it accepted is in the file or
+// the office, and what it shows is what is stored there.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
@@ -23,7 +24,9 @@
 #include "app/desk/UnfinishedText.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/model/SampleCase.h"
+#include "dossier/office/Aside.h"
 #include "tests/app/hands/RandomHands.h"
+#include "tests/dossier/office/TrialOffice.h"
 #include <brivane/frame/Dates.h>
 #include <brivane/toolkits/qt/VrijeKolomWidget.h>
 #include <brivane/toolkits/qt/widgets/ChoiceBox.h>
@@ -51,13 +54,19 @@ void TellHang(int) {
   std::abort();
 }
 
+enum class Work { InAFile, InAnOffice };
+
 class Session {
  public:
-  explicit Session(unsigned seed) : hands_(seed, folder_.path()), actions_(Actions()) {
+  Session(unsigned seed, Work work) : hands_(seed, folder_.path()), actions_(Actions()) {
     dossier::DossierFile::Maak(File(), dossier::VoorbeeldDossier());
+    if (work == Work::InAnOffice) {
+      office_ = std::make_unique<dossier::TrialOffice>();
+      client_ = office_->Add();
+    }
     QApplication::clipboard()->setText(QStringLiteral("1\n2,5\n300\n"));
     NewWindow();
-    window_->Open(File());
+    OpenAgain();
   }
   ~Session() {
     for (const auto& kept : UnfinishedText::All()) UnfinishedText::Forget(kept.name);
@@ -76,6 +85,12 @@ class Session {
   }
 
  private:
+  void OpenAgain() {
+    if (office_)
+      window_->OpenClient({office_->Words("anna"), client_});
+    else
+      window_->Open(File());
+  }
   [[nodiscard]] QString File() const { return folder_.filePath(QStringLiteral("k.dossier")); }
 
   void NewWindow() {
@@ -128,7 +143,7 @@ class Session {
     if (window_->Screen() == nullptr) {
       if (++onStartPage_ < kOnStartPage) return;
       onStartPage_ = 0;
-      window_->Open(File());
+      OpenAgain();
       return;
     }
     if (done_ % 10 == 0) TheScreenShowsWhatIsStored();
@@ -164,6 +179,7 @@ class Session {
 
   /// What is on the disk now, should the machine stop.
   void TheFileHasWhatWasAccepted() {
+    if (window_->Screen()->Path().isEmpty()) return TheOfficeHas(Client(), window_->Screen()->Dossier());
     const QTemporaryDir aside;
     const QString file = window_->Screen()->Path();
     const QString copy = aside.filePath(QStringLiteral("k.dossier"));
@@ -173,6 +189,17 @@ class Session {
     }
     Compare(copy, window_->Screen()->Dossier());
     ++files_;
+  }
+
+  /// The client that is open.
+  [[nodiscard]] int Client() const {
+    return dynamic_cast<const dossier::OfficeStore&>(window_->Screen()->Store()).Client();
+  }
+  /// For somebody else who looks at it now.
+  void TheOfficeHas(int client, const dossier::Dossier& dossier) {
+    const auto reader = office_->Open(client, "rob");
+    EXPECT_TRUE(reader->Dossier()->Gegevens() == dossier.Gegevens()) << "the office has not what was accepted";
+    ++clients_;
   }
 
   static void Compare(const QString& file, const dossier::Dossier& dossier) {
@@ -191,13 +218,26 @@ class Session {
     QString file;
     if (window_->Screen() != nullptr) {
       file = window_->Screen()->Path();
+      if (file.isEmpty()) client_ = Client();
       dossier = window_->Screen()->Store().Dossier();
     }
     window_->EndInOrder();
     ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }, 20000));
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    if (dossier) Compare(file, *dossier);
+    if (dossier && file.isEmpty())
+      TheOfficeHas(client_, *dossier);
+    else if (dossier)
+      Compare(file, *dossier);
     window_.reset();
+    EXPECT_TRUE(dossier::Aside::AllEnd(std::chrono::seconds(20)));
+    if (office_) {
+      EXPECT_GT(clients_, 0) << "it was never in the office";
+      EXPECT_EQ(office_->Psql("postgres",
+                              "SELECT count(*) FROM kantoor.bewerker b JOIN pg_stat_activity a USING (pid) "
+                              "WHERE a.datname = current_database() AND a.pid <> pg_backend_pid()"),
+                "0")
+          << "a client is still held";
+    }
     for (const QString& name : QDir(folder_.path()).entryList(QDir::Files)) {
       EXPECT_FALSE(name.contains("-wal") || name.contains("-journal") || name.contains("-shm")) << name.toStdString();
       if (!name.endsWith(QStringLiteral(".dossier"))) continue;
@@ -213,8 +253,8 @@ class Session {
   void Tell() const {
     std::cout << done_ << " actions:";
     for (const auto& [kind, times] : hands_.Counts()) std::cout << ' ' << times << ' ' << kind << ',';
-    std::cout << " looked " << looks_ << " times at the screen and " << files_
-              << " times at the file; saw a box that is edited without the focus " << withoutFocus_
+    std::cout << " looked " << looks_ << " times at the screen and " << files_ << " times at the file, " << clients_
+              << " times at the office; saw a box that is edited without the focus " << withoutFocus_
               << " times; closed the window " << quits_ << " times; " << made_
               << " loan files in the end; error reports: " << eventLog_.Read().count(QStringLiteral("FOUT")) << '\n';
     for (const QString& line : eventLog_.Read().split(u'\n')) {
@@ -225,6 +265,9 @@ class Session {
     }
   }
 
+  std::unique_ptr<dossier::TrialOffice> office_;
+  int client_ = 0;
+  int clients_ = 0;  ///< looks at what the office has
   QTemporaryDir folder_;
   EventLog eventLog_{folder_.filePath(QStringLiteral("log"))};
   RandomHands hands_;
@@ -243,7 +286,8 @@ class Session {
 
 class RandomHandsTest : public testing::TestWithParam<unsigned> {};
 
-TEST_P(RandomHandsTest, LoseNothing) { Session(GetParam()).Run(); }
+TEST_P(RandomHandsTest, LoseNothing) { Session(GetParam(), Work::InAFile).Run(); }
+TEST_P(RandomHandsTest, LoseNothingInAnOffice) { Session(GetParam(), Work::InAnOffice).Run(); }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomHandsTest, testing::Values(1u, 2u, 3u));
 

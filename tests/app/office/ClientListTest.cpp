@@ -8,6 +8,7 @@
 
 #include "app/office/ClientListDialog.h"
 #include "app/office/RecentOffices.h"
+#include "dossier/office/Aside.h"
 #include "tests/app/screen/WindowTest.h"
 #include "tests/dossier/office/TrialOffice.h"
 
@@ -28,6 +29,12 @@ class ClientListTest : public testing::Test {
     boer_ = office_.Add(Named("Boer"));
     bakker_ = office_.Add(Named("Bakker", "Courant van Zeeland"));
     entrance_ = {office_.Words("bert"), {}, office_.Enter("bert")};
+  }
+
+  void TearDown() override {
+    list_.reset();
+    // Nobody waits for its session but this test.
+    EXPECT_TRUE(dossier::Aside::AllEnd(std::chrono::seconds(20)));
   }
 
   void Show() {

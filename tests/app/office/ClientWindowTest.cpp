@@ -24,6 +24,7 @@ class ClientWindowTest : public WindowTest {
  protected:
   void SetUp() override {
     WindowTest::SetUp();
+    dialogs_.LetPass("verbinden");
     for (const UnfinishedText::Kept& kept : UnfinishedText::All()) UnfinishedText::Forget(kept.name);
     client_ = office_.Add();
   }
@@ -130,6 +131,26 @@ TEST_F(ClientWindowTest, AskingHandsTheClientOver) {
   EXPECT_FALSE(window_->Actions().add->isEnabled());
   second.Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Van Bert");
   EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 3000));
+}
+
+TEST_F(ClientWindowTest, TheBarIsReachedAndUsedByKeysAlone) {
+  const auto anna = office_.Open(client_);
+  QString asked;
+  const auto asks = anna->Asked.Connect([&](const QString& who) { asked = who; });
+  OpenAs(*window_, "bert");
+  TabTo("Vragen");
+  PressKey(Qt::Key_Space);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return asked == "Bert Bakker"; }, 5000));
+  EXPECT_TRUE(Bar(*window_).endsWith("U hebt erom gevraagd."));
+  // The button is gone with what it did; the focus is somewhere that a key can leave.
+  ASSERT_TRUE(window_->focusWidget() && window_->focusWidget()->isVisible());
+  anna->LetGo();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 5000));
+  anna->Ask();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("vraagt om"); }, 5000));
+  TabTo("Overdragen");
+  PressKey(Qt::Key_Space);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Alleen lezen"); }, 5000));
 }
 
 TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {

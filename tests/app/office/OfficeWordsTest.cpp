@@ -52,6 +52,13 @@ TEST(OfficeWords, NameTheOffice) {
   EXPECT_EQ(OfficeTitle("user=anna"), "kantoor");
 }
 
+TEST(OfficeWords, NameTheAccountWhereOneStandsInThem) {
+  EXPECT_EQ(OfficeAccount("host=db user=anna dbname=kantoor"), "anna");
+  EXPECT_EQ(OfficeAccount("host=db user = 'anna b' dbname=kantoor"), "anna b");
+  EXPECT_EQ(OfficeAccount("host=db dbname=user"), "");
+  EXPECT_EQ(OfficeAccount("noord"), "");
+}
+
 TEST(ClientAddressTest, ComesBackFromItsText) {
   const ClientAddress address{"host=db dbname=a:b", 17};
   EXPECT_EQ(address.Text(), "kantoor:17:host=db dbname=a:b");
@@ -67,7 +74,16 @@ TEST(RecentOfficesTest, KeepWhatWasWrittenLastAndNoSecret) {
   RecentOffices::Add(" noord ");
   RecentOffices::Add("host=db password=geheim");
   EXPECT_EQ(RecentOffices::All(), QStringList({"noord", "host=db dbname=zuid"}));
+  // Of an office that is forgotten the team is too, once another is remembered.
+  RecentOffices::SetTeam("host=db dbname=zuid", 4);
+  RecentOffices::SetTeam("weg", 5);
+  EXPECT_EQ(RecentOffices::Team("weg"), 5);
+  RecentOffices::SetTeam(" noord", 7);
+  EXPECT_EQ(RecentOffices::Team("noord"), 7);
+  EXPECT_EQ(RecentOffices::Team("host=db dbname=zuid"), 4);
+  EXPECT_EQ(RecentOffices::Team("weg"), 0);
   QSettings().remove("kantoren");
+  QSettings().remove("kantoorteams");
 }
 
 }  // namespace

@@ -54,6 +54,7 @@ SocketProxy::~SocketProxy() {
   ends_ = true;
   acceptor_.join();
   for (std::thread& carrier : carriers_) carrier.join();
+  Mend();
   close(listener_);
 }
 
@@ -62,18 +63,45 @@ void SocketProxy::Cut() {
   std::this_thread::sleep_for(std::chrono::milliseconds(4 * kLook));
 }
 
+void SocketProxy::FallSilent() {
+  silent_ = true;
+  Cut();
+}
+
+std::size_t SocketProxy::Unanswered() {
+  const std::lock_guard lock(guard_);
+  return unanswered_.size();
+}
+
+void SocketProxy::Mend() {
+  const std::lock_guard lock(guard_);
+  silent_ = false;
+  cut_ = false;
+  for (const int client : unanswered_) close(client);
+  unanswered_.clear();
+}
+
 void SocketProxy::Accept() {
   while (!ends_) {
     if (!IsReadable(listener_, kLook)) continue;
     const int client = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC);
     if (client < 0) continue;
+    const std::lock_guard lock(guard_);
+    if (silent_) {
+      unanswered_.push_back(client);
+      continue;
+    }
     if (cut_) {
       close(client);
       continue;
     }
-    const std::lock_guard lock(guard_);
     carriers_.emplace_back([this, client] { Carry(client); });
   }
+}
+
+SocketProxy::Fate SocketProxy::Next() {
+  if (!Awaits()) return Fate::Answered;
+  return others_-- > 0 ? Fate::Answered : fate_.exchange(Fate::Answered);
 }
 
 void SocketProxy::Carry(int client) {
@@ -88,7 +116,7 @@ void SocketProxy::Carry(int client) {
     if (poll(look.data(), look.size(), kLook) <= 0) continue;
     if (look[0].revents != 0) {
       const ssize_t count = recv(client, bytes.data(), bytes.size(), 0);
-      const Fate fate = count > 0 ? fate_.exchange(Fate::Answered) : Fate::Answered;
+      const Fate fate = count > 0 ? Next() : Fate::Answered;
       if (fate == Fate::DeadBefore || fate == Fate::DeadAfter) cut_ = true;
       if (count <= 0 || fate == Fate::LostBefore || fate == Fate::DeadBefore) break;
       open = SendAll(server, bytes.data(), count);

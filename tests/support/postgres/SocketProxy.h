@@ -32,14 +32,25 @@ class SocketProxy {
     DeadBefore,  ///< as the two before, and nobody gets through any more until Mend
     DeadAfter
   };
-  void NextMeets(Fate fate) { fate_ = fate; }
+  /// The same for one that so many others come before.
+  void NextMeets(Fate fate, int others = 0) {
+    others_ = others;
+    fate_ = fate;
+  }
+  /// Nothing has met its fate yet.
+  [[nodiscard]] bool Awaits() const { return fate_ != Fate::Answered; }
   /// Nobody gets through from now on, or everybody again. What is open ends.
   void Cut();
-  void Mend() { cut_ = false; }
+  void Mend();
+  /// The same, but who comes meanwhile is let in and never answered.
+  void FallSilent();
+  /// How many were let in so.
+  [[nodiscard]] std::size_t Unanswered();
 
  private:
   void Accept();
   void Carry(int client);
+  [[nodiscard]] Fate Next();
 
   QString server_;
   std::chrono::milliseconds delay_;
@@ -47,10 +58,13 @@ class SocketProxy {
   int listener_ = -1;
   std::atomic<bool> ends_ = false;
   std::atomic<bool> cut_ = false;
+  std::atomic<bool> silent_ = false;
   std::atomic<int> round_trips_ = 0;
+  std::atomic<int> others_ = 0;
   std::atomic<Fate> fate_ = Fate::Answered;
   std::mutex guard_;
   std::vector<std::thread> carriers_;
+  std::vector<int> unanswered_;
   std::thread acceptor_;
 };
 

@@ -1,0 +1,67 @@
+#include "app/office/PasswordDialog.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "app/office/OfficeWords.h"
+#include "app/office/SpokenLabel.h"
+#include <brivane/toolkits/qt/widgets/Mnemonics.h>
+
+namespace brivane::app {
+namespace {
+
+constexpr int kBoxCharacters = 40;
+
+QString Question(const QString& words) {
+  const QString account = OfficeAccount(words);
+  const QString office = OfficeTitle(words);
+  return account.isEmpty()
+             ? QStringLiteral("Het kantoor \"%1\" vraagt om uw wachtwoord. Het wordt niet bewaard.").arg(office)
+             : QStringLiteral("Het kantoor \"%1\" vraagt om het wachtwoord van %2. Het wordt niet bewaard.")
+                   .arg(office, account);
+}
+
+}  // namespace
+
+PasswordDialog::PasswordDialog(const QString& words, Because because, QWidget* above)
+    : PassingDialog(above), box_(new QLineEdit) {
+  setWindowTitle(QStringLiteral("Kantoor openen"));
+  auto* question = new QLabel(Question(words));
+  // A name is no mark-up.
+  question->setTextFormat(Qt::PlainText);
+  question->setWordWrap(true);
+  box_->setObjectName(QStringLiteral("wachtwoord"));
+  box_->setEchoMode(QLineEdit::Password);
+  box_->setMinimumWidth(fontMetrics().averageCharWidth() * kBoxCharacters);
+  qt::TypesNothingWithAlt(*box_);
+  auto* label = new QLabel(QStringLiteral("&Wachtwoord"));
+  label->setBuddy(box_);
+  const bool wrong = because == Because::Wrong;
+  auto* reason =
+      new SpokenLabel(wrong ? QStringLiteral("Dit wachtwoord is niet goed. Probeer het opnieuw.") : QString());
+  reason->setObjectName(QStringLiteral("reden"));
+  reason->setVisible(wrong);
+  box_->setAccessibleDescription((reason->text() + u' ' + question->text()).trimmed());
+
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+  QPushButton* open = buttons->button(QDialogButtonBox::Ok);
+  open->setText(QStringLiteral("&Openen"));
+  open->setEnabled(false);
+  buttons->button(QDialogButtonBox::Cancel)->setText(QStringLiteral("Annuleren"));
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+  connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  connect(box_, &QLineEdit::textChanged, open, [open](const QString& text) { open->setEnabled(!text.isEmpty()); });
+
+  auto* layout = new QVBoxLayout(this);
+  for (QWidget* widget : std::initializer_list<QWidget*>{question, reason, label, box_}) layout->addWidget(widget);
+  layout->addStretch();
+  layout->addWidget(buttons);
+  box_->setFocus();
+}
+
+QString PasswordDialog::Typed() const { return box_->text(); }
+
+}  // namespace brivane::app

@@ -1,0 +1,234 @@
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+
+#include "app/desk/UnfinishedText.h"
+#include "app/office/ClientListDialog.h"
+#include "app/office/PasswordDialog.h"
+#include "app/office/RecentOffices.h"
+#include "dossier/office/Aside.h"
+#include "tests/app/screen/WindowTest.h"
+#include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/postgres/SocketProxy.h"
+
+// The way into an office: a server that does not answer, and one that wants a password.
+namespace brivane::app {
+namespace {
+
+class EntranceTest : public WindowTest {
+ protected:
+  void SetUp() override {
+    WindowTest::SetUp();
+    QSettings().remove("kantoren");
+  }
+  void TearDown() override {
+    for (const UnfinishedText::Kept& kept : UnfinishedText::All()) UnfinishedText::Forget(kept.name);
+    QSettings().remove("kantoren");
+    window_.reset();
+    EXPECT_TRUE(dossier::Aside::AllEnd(std::chrono::seconds(20)));
+  }
+};
+
+/// The longest time in which the event loop did nothing.
+class Stillness final : public QObject {
+ public:
+  Stillness() {
+    connect(&tick_, &QTimer::timeout, this, [this] { longest_ = std::max(longest_, since_.restart()); });
+    since_.start();
+    tick_.start(10);
+  }
+  [[nodiscard]] qint64 Longest() const { return std::max(longest_, since_.elapsed()); }
+
+ private:
+  QTimer tick_;
+  QElapsedTimer since_;
+  qint64 longest_ = 0;
+};
+
+TEST_F(EntranceTest, AServerThatNeverAnswersIsLeftAtOnce) {
+  test::SocketProxy nobody("/tmp/daar-is-niets");
+  nobody.FallSilent();
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    QElapsedTimer time;
+    qint64 shown = 0;
+    dialogs_.Expect([&](QWidget& window) {
+      shown = time.elapsed();
+      const auto* text = window.findChild<QLabel*>("waarmee");
+      ASSERT_TRUE(text);
+      EXPECT_EQ(text->text(), "Er wordt verbinding gemaakt met het kantoor \"kantoor\"…");
+      auto* cancel = qobject_cast<QPushButton*>(window.focusWidget());
+      ASSERT_TRUE(cancel);
+      EXPECT_EQ(cancel->text(), "Annuleren");
+      EXPECT_EQ(cancel->accessibleDescription(), text->text());
+      // It goes on painting and hearing keys.
+      const Stillness still;
+      QTest::qWait(1500);
+      EXPECT_LT(still.Longest(), 1000);
+      time.restart();
+      QTest::keyClick(window.windowHandle(), key);
+    });
+    time.start();
+    window_->OpenOffice("dbname=kantoor user=anna host=" + nobody.Folder());
+    EXPECT_LT(time.elapsed(), 1000) << "after the key";
+    EXPECT_GE(shown, 200) << "a window that flashes up";
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(RecentOffices::All().isEmpty());
+  }
+}
+
+TEST_F(EntranceTest, AServerThatIsSlowIsWaitedFor) {
+  dossier::TrialOffice office;
+  test::SocketProxy slow(office.Server().Folder());
+  slow.FallSilent();
+  dialogs_.Expect([&](QWidget& window) {
+    ASSERT_TRUE(window.findChild<QLabel*>("waarmee"));
+    // Who was not answered is sent away, and told so.
+    dialogs_.ExpectMessage("Er is geen verbinding met het kantoor", Pressing(Qt::Key_Return));
+    slow.Mend();
+  });
+  const QString words = office.Words("anna") + " host=" + slow.Folder();
+  window_->OpenOffice(words);
+  dialogs_.LetPass("verbinden");
+  dialogs_.Expect([&](QWidget& window) {
+    EXPECT_TRUE(dynamic_cast<ClientListDialog*>(&window));
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+  });
+  window_->OpenOffice(words);
+  EXPECT_EQ(RecentOffices::All(), QStringList(words));
+}
+
+TEST_F(EntranceTest, AConnectionThatIsLostAndNotAnsweredLetsTheWindowGoOn) {
+  dossier::TrialOffice office;
+  const int client = office.Add();
+  dialogs_.LetPass("verbinden");
+  test::SocketProxy proxy(office.Server().Folder());
+  ASSERT_TRUE(window_->OpenClient({office.Words("rob") + " host=" + proxy.Folder(), client}));
+  const auto* bar = window_->findChild<QLabel*>("stand");
+  ASSERT_TRUE(bar);
+  proxy.FallSilent();
+  const Stillness still;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bar->text().startsWith("Geen verbinding"); }, 10000));
+  QTest::qWait(3000);
+  EXPECT_LT(still.Longest(), 1000);
+  proxy.Mend();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bar->text().startsWith("Alleen lezen"); }, 15000))
+      << qPrintable(bar->text());
+}
+
+TEST_F(EntranceTest, WhatIsTypedWhileNothingAnswersIsToldWithinSeconds) {
+  dossier::TrialOffice office;
+  const int client = office.Add();
+  dialogs_.LetPass("verbinden");
+  test::SocketProxy proxy(office.Server().Folder());
+  ASSERT_TRUE(window_->OpenClient({office.Words("anna") + " host=" + proxy.Folder(), client}));
+  proxy.FallSilent();
+  QElapsedTimer time;
+  time.start();
+  EXPECT_THROW(Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant"), host::Error);
+  EXPECT_LT(time.elapsed(), 3000);
+  proxy.Mend();
+  dialogs_.LookAway();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window_->Actions().office.handOver->isEnabled(); }, 15000));
+}
+
+class PasswordTest : public EntranceTest {
+ protected:
+  void SetUp() override {
+    EntranceTest::SetUp();
+    dialogs_.LetPass("verbinden");
+    client_ = office_.Add();
+    office_.Psql("postgres", QString("SET password_encryption = 'scram-sha-256'; ALTER ROLE anna PASSWORD '%1'")
+                                 .arg(QString(kRight).replace("'", "''")));
+    server_.Stop("fast");
+    server_.AddAdmissions("local all anna scram-sha-256\n");
+    server_.Start();
+  }
+
+  [[nodiscard]] QString Words() const { return office_.Words("anna") + " passfile=/dev/null"; }
+  /// Expects the question, types an answer and presses a key.
+  void ExpectQuestion(bool again, const QString& typed, Qt::Key key = Qt::Key_Return) {
+    dialogs_.Expect([=, this](QWidget& window) {
+      ASSERT_TRUE(dynamic_cast<PasswordDialog*>(&window)) << qPrintable(window.windowTitle());
+      auto* box = window.findChild<QLineEdit*>("wachtwoord");
+      ASSERT_TRUE(box && box->hasFocus());
+      EXPECT_EQ(box->echoMode(), QLineEdit::Password);
+      EXPECT_TRUE(box->text().isEmpty());
+      EXPECT_TRUE(box->accessibleDescription().contains("vraagt om het wachtwoord van anna"));
+      const auto* reason = window.findChild<QLabel*>("reden");
+      EXPECT_EQ(reason->isVisible(), again);
+      EXPECT_EQ(reason->text(), again ? "Dit wachtwoord is niet goed. Probeer het opnieuw." : "");
+      EXPECT_EQ(box->accessibleDescription().startsWith("Dit wachtwoord is niet goed."), again);
+      // An empty one is no answer.
+      QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+      EXPECT_TRUE(window.isVisible());
+      box->setFocus();
+      for (const QChar letter : typed) QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, letter, Qt::NoModifier);
+      EXPECT_EQ(box->text(), typed);
+      if (key != Qt::Key_unknown) return QTest::keyClick(window.windowHandle(), key);
+      window_->EndInOrder();
+    });
+  }
+  void ExpectListOfClients() {
+    dialogs_.Expect([](QWidget& window) {
+      EXPECT_TRUE(dynamic_cast<ClientListDialog*>(&window));
+      QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
+    });
+  }
+  /// In no file of the settings, the log or what was kept.
+  void ExpectStoredNowhere(const QString& secret) {
+    QSettings().sync();
+    for (const QString& path : {QSettings().fileName(), eventLog_.Folder() + "/logboek.txt"}) {
+      QFile file(path);
+      if (!file.open(QIODevice::ReadOnly)) continue;
+      EXPECT_FALSE(file.readAll().contains(secret.toUtf8())) << qPrintable(path);
+    }
+    EXPECT_TRUE(UnfinishedText::All().empty());
+  }
+
+  /// With everything that has a meaning among the words of a connection.
+  static constexpr char kRight[] = "ge'heim\\ ;é= x";
+  test::PostgresServer server_;
+  dossier::TrialOffice office_{server_};
+  int client_ = 0;
+};
+
+TEST_F(PasswordTest, IsAskedForUntilItIsRightAndNeverKept) {
+  ExpectQuestion(false, "foutwoord");
+  ExpectQuestion(true, QString::fromUtf8(kRight));
+  ExpectListOfClients();
+  window_->OpenOffice(Words());
+  EXPECT_EQ(RecentOffices::All(), QStringList(Words()));
+  ExpectStoredNowhere("foutwoord");
+  ExpectStoredNowhere("ge'heim");
+  // The window is in the office: nothing is asked, and a session that was ended is begun anew without asking.
+  ExpectListOfClients();
+  window_->OpenOffice(Words());
+  ASSERT_TRUE(window_->OpenClient({Words(), client_}));
+  office_.Psql("postgres", "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE usename = 'anna'");
+  dialogs_.LookAway();
+  EXPECT_THROW(Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("weg"), host::Error);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window_->Actions().office.handOver->isEnabled(); }, 15000));
+  Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+  EXPECT_EQ(office_.Open(client_, "rob")->Dossier()->FindKolom(0, 2)->Gegevens().Omschrijving, "Avondkrant");
+}
+
+TEST_F(PasswordTest, PutAwayNothingIsOpened) {
+  ExpectQuestion(false, "x", Qt::Key_Escape);
+  window_->OpenOffice(Words());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(RecentOffices::All().isEmpty());
+}
+
+TEST_F(PasswordTest, IsNotKeptWhereTheProgramHasToEnd) {
+  ExpectQuestion(false, "halverwege", Qt::Key_unknown);
+  window_->OpenOffice(Words());
+  QTest::qWait(200);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  ExpectStoredNowhere("halverwege");
+}
+
+}  // namespace
+}  // namespace brivane::app
