@@ -101,7 +101,8 @@ function takeDesktop(scale) {
 }
 
 const server = await serve([...FOLDERS, ['/pictures/', `${pictures}/`]]);
-const browser = await launch('chrome');
+// With the bars that a person has.
+const browser = await launch('chrome', { ignoreDefaultArgs: ['--hide-scrollbars'] });
 
 async function open(viewport, scheme) {
   const page = await browser.newPage();
