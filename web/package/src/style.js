@@ -31,6 +31,7 @@ const CSS_TEXT = `
   font-size: var(--vrije-kolom-font-size, inherit);
   line-height: 1.25;
   text-align: start;
+  direction: ltr;
   color: var(--vrije-kolom-color, CanvasText);
   background: var(--vrije-kolom-background, transparent);
   --accent: var(--vrije-kolom-accent, light-dark(#0a58a8, #8ab8f5));
