@@ -5,7 +5,7 @@ import { serve } from '../../../web/demo/server.mjs';
 import { FOLDERS, launch } from '../harness/browser.mjs';
 import { Person } from '../harness/person.mjs';
 
-const PATIENCE = 15000;
+const PATIENCE = 60000;
 /** What these keys drop down is the browser's: it comes up, and tells what was picked, on its own time. */
 const DROPS = new Set(['F4', 'Alt+ArrowDown']);
 const CLOSES = new Set(['Enter', 'Escape', 'Tab']);
