@@ -1,9 +1,7 @@
 // How the controls look. Lengths of the design are twips, of which a text of the page's size has as many as the design's
 // font of 9 points; colours are those of the page's scheme.
 
-/** The length that all others are made of. */
-export const TWIP = '--vrije-kolom-twip';
-/** As many are as long as the text around the element is high: the design's font of 9 points. */
+/** As many twips are as long as the text around the element is high: the design's font of 9 points. */
 export const TWIPS_AN_EM = 180;
 
 let made = null;
@@ -11,12 +9,6 @@ let made = null;
 /** The style of every element, made once. */
 export function sheet() {
   if (made === null) {
-    // A length of the element's own text, whatever the text around what it is used for.
-    try {
-      CSS.registerProperty({ name: TWIP, syntax: '<length>', inherits: true, initialValue: '1px' });
-    } catch {
-      // Another copy of this module on the page was first.
-    }
     made = new CSSStyleSheet();
     made.replaceSync(CSS_TEXT);
   }
@@ -39,10 +31,9 @@ const CSS_TEXT = `
   --field: var(--vrije-kolom-field, light-dark(#fff, #1f2329));
   --face: var(--vrije-kolom-face, light-dark(#f1f3f5, #343a42));
   --faint: light-dark(#5c6168, #a4abb4);
-  ${TWIP}: calc(1em / ${TWIPS_AN_EM});
 }
 :host([hidden]), [hidden] { display: none !important; }
-*, *::before { box-sizing: border-box; }
+*, .frame::before, .calendar::before { box-sizing: border-box; }
 input, select, button { font: inherit; color: inherit; margin: 0; }
 fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .control { position: absolute; }
