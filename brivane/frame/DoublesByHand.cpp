@@ -26,12 +26,12 @@ constexpr auto kTens = [] {
   return tens;
 }();
 
-/// A whole number without an end.
+/// A whole number without an end. Where there is no room for it, nothing else has room either.
 class Whole {
  public:
-  explicit Whole(std::uint64_t number) { MultiplyAndAdd(1, number); }
+  explicit Whole(std::uint64_t number) noexcept { MultiplyAndAdd(1, number); }
 
-  void MultiplyAndAdd(std::uint32_t factor, std::uint64_t more) {
+  void MultiplyAndAdd(std::uint32_t factor, std::uint64_t more) noexcept {
     std::uint64_t carry = more;
     for (std::uint32_t& part : parts_) {
       carry += std::uint64_t{part} * factor;
@@ -40,20 +40,20 @@ class Whole {
     }
     for (; carry != 0; carry >>= kPart) parts_.push_back(static_cast<std::uint32_t>(carry));
   }
-  void MultiplyByTens(int times) {
+  void MultiplyByTens(std::size_t times) noexcept {
     for (; times > 0; --times) MultiplyAndAdd(10, 0);
   }
-  void Double(int times) {
+  void Double(int times) noexcept {
     parts_.insert(parts_.begin(), static_cast<std::size_t>(times / kPart), 0);
     MultiplyAndAdd(std::uint32_t{1} << times % kPart, 0);
     Trim();
   }
-  void Halve() {
+  void Halve() noexcept {
     for (std::size_t i = 0; i < parts_.size(); ++i)
       parts_[i] = parts_[i] >> 1 | (i + 1 < parts_.size() ? parts_[i + 1] << (kPart - 1) : 0);
     Trim();
   }
-  void Subtract(const Whole& other) {
+  void Subtract(const Whole& other) noexcept {
     std::int64_t borrow = 0;
     for (std::size_t i = 0; i < parts_.size(); ++i) {
       borrow += std::int64_t{parts_[i]} - (i < other.parts_.size() ? other.parts_[i] : 0);
@@ -63,7 +63,7 @@ class Whole {
     Trim();
   }
   /// Leaves the quotient and answers the rest.
-  std::uint32_t DivideBy(std::uint32_t divisor) {
+  std::uint32_t DivideBy(std::uint32_t divisor) noexcept {
     std::uint64_t rest = 0;
     for (auto part = parts_.rbegin(); part != parts_.rend(); ++part) {
       rest = rest << kPart | *part;
@@ -116,7 +116,7 @@ struct Quotient {
   }
 };
 
-Quotient Divide(Whole number, Whole divisor) {
+Quotient Divide(Whole number, Whole divisor) noexcept {
   constexpr int kMost = 60;
   Quotient quotient;
   const Whole once = divisor;
@@ -136,7 +136,7 @@ Quotient Divide(Whole number, Whole divisor) {
 }
 
 /// The number that stands nearest to a quotient.
-double Nearest(Whole number, Whole divisor) {
+double Nearest(Whole number, Whole divisor) noexcept {
   // Two bits more than a double has, of which the last is set where there is a rest, round as the whole of it does;
   // those that are smaller than a double can be have fewer.
   const int shift = std::min(kMantissa + 2 + divisor.Bits() - number.Bits(), -kLeast);
@@ -150,12 +150,12 @@ double Nearest(Whole number, Whole divisor) {
   return std::ldexp(static_cast<double>(rounded), -shift);
 }
 
-/// Digits, with a point where so many of them are decimals.
-std::string WithPoint(std::string digits, int decimals) {
-  if (decimals <= 0) return digits.append(static_cast<std::size_t>(-decimals), '0');
-  const auto behind = static_cast<std::size_t>(decimals);
-  if (digits.size() <= behind) digits.insert(0, behind + 1 - digits.size(), '0');
-  return digits.insert(digits.size() - behind, ".");
+/// A whole number of which so many digits are decimals.
+std::string WithPoint(std::uint64_t number, std::size_t decimals) {
+  std::string digits = std::to_string(number);
+  if (decimals == 0) return digits;
+  if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+  return digits.insert(digits.size() - decimals, ".");
 }
 
 /// A number as a whole one times a power of 2.
@@ -181,12 +181,12 @@ std::string WrittenOut(double whole) {
   return digits;
 }
 
-/// A number with so many decimals as a whole one; of decimals below 0, without so many of its last digits.
-std::uint64_t Scaled(double number, int decimals) {
+/// A number with so many decimals, rounded, as a whole one.
+std::uint64_t Scaled(double number, std::size_t decimals) noexcept {
   const Binary binary = TakeApart(number);
   Whole scaled(binary.mantissa);
   Whole divisor(1);
-  (decimals >= 0 ? scaled : divisor).MultiplyByTens(std::abs(decimals));
+  scaled.MultiplyByTens(decimals);
   (binary.power >= 0 ? scaled : divisor).Double(std::abs(binary.power));
   return Divide(std::move(scaled), std::move(divisor)).Rounded();
 }
@@ -197,13 +197,12 @@ double NearestDoubleByHand(std::string_view digits) {
   const std::size_t point = digits.find('.');
   std::string all(digits.substr(0, point));
   if (point != std::string_view::npos) all += digits.substr(point + 1);
-  int decimals = static_cast<int>(all.size() - std::min(point, all.size()));
+  std::size_t decimals = all.size() - std::min(point, all.size());
   for (; decimals > 0 && all.back() == '0'; --decimals) all.pop_back();
   Whole number(0);
   for (const char digit : all) number.MultiplyAndAdd(10, static_cast<std::uint64_t>(digit - '0'));
   if (number.IsZero()) return 0;
-  if (number.Bits() <= kMantissa && decimals < static_cast<int>(kTens.size()))
-    return static_cast<double>(number.Low()) / kTens[static_cast<std::size_t>(decimals)];
+  if (number.Bits() <= kMantissa && decimals < kTens.size()) return static_cast<double>(number.Low()) / kTens[decimals];
   Whole divisor(1);
   divisor.MultiplyByTens(decimals);
   return Nearest(std::move(number), std::move(divisor));
@@ -214,15 +213,14 @@ std::string ShortestDigitsByHand(double number) {
   if (number >= kWholeFrom) return WrittenOut(number);
   // Up to so many digits a product is near enough to tell which it is.
   constexpr double kCertain = 1e15;
-  for (std::size_t decimals = 0; decimals < kTens.size() && number * kTens[decimals] < kCertain; ++decimals) {
+  std::size_t decimals = 0;
+  for (; decimals < kTens.size() && number * kTens[decimals] < kCertain; ++decimals) {
     const double scaled = std::round(number * kTens[decimals]);
-    if (scaled / kTens[decimals] == number)
-      return WithPoint(std::to_string(static_cast<std::uint64_t>(scaled)), static_cast<int>(decimals));
+    if (scaled / kTens[decimals] == number) return WithPoint(static_cast<std::uint64_t>(scaled), decimals);
   }
-  // With one digit more until it reads back.
-  int decimals = -static_cast<int>(std::ceil(std::log10(number)));
+  // From there on with one digit more until it reads back.
   for (;; ++decimals) {
-    const std::string text = WithPoint(std::to_string(Scaled(number, decimals)), decimals);
+    const std::string text = WithPoint(Scaled(number, decimals), decimals);
     if (NearestDoubleByHand(text) == number) return text;
   }
 }

@@ -106,7 +106,7 @@ export class View {
     const input = this.nodes.get(id)?.input;
     if (!input) return 0;
     if (what === Asked.hasFocus) return this.root.activeElement === input ? 1 : 0;
-    return input.isConnected && !input.matches(':disabled') && input.getClientRects().length > 0 ? 1 : 0;
+    return input.isConnected && !input.matches(':disabled') && input.checkVisibility() ? 1 : 0;
   }
 
   insert(id, text) {
