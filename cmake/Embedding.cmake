@@ -1,11 +1,12 @@
 # What an embedding project links: the logic and the toolkit in memory as Brivane::VrijeKolom, the Qt toolkit as
-# Brivane::Qt, the kit that checks a host as Brivane::HostKit. Each is one library, made of what its rooms were compiled
+# Brivane::Qt, the kit that checks a host as Brivane::HostKit, what plays sessions on a host as Brivane::Session. Each is one library, made of what its rooms were compiled
 # to; BUILD_SHARED_LIBS makes shared ones of the first two, of which only the public names are seen. The programs and
 # tests of the tree use the rooms themselves.
 set(core_rooms brivane_host brivane_frame brivane_toelichting brivane_scenario brivane_vrijekolom brivane_controls
     brivane_memory)
 set(qt_rooms brivane_qt)
 set(hostkit_rooms brivane_instrument brivane_hostkit)
+set(session_rooms brivane_session)
 
 # brivane_embedding(NAME EXPORT_NAME FILE_NAME [STATIC] rooms...): STATIC whatever BUILD_SHARED_LIBS says.
 function(brivane_embedding name export_name file_name)
@@ -40,6 +41,10 @@ endif()
 brivane_embedding(brivane_embedding VrijeKolom brivane-vrijekolom ${core_rooms})
 brivane_embedding(brivane_embedding_hostkit HostKit brivane-vrijekolom-hostkit STATIC ${hostkit_rooms})
 target_link_libraries(brivane_embedding_hostkit PUBLIC brivane_embedding)
+if(BRIVANE_SESSION)
+  brivane_embedding(brivane_embedding_session Session brivane-vrijekolom-session STATIC ${session_rooms})
+  target_link_libraries(brivane_embedding_session PUBLIC brivane_embedding_hostkit)
+endif()
 if(BRIVANE_QT)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
   brivane_embedding(brivane_embedding_qt Qt brivane-vrijekolom-qt ${qt_rooms})

@@ -26,6 +26,11 @@ endfunction()
 brivane_install_part(VrijeKolom brivane_embedding runtime "${PROJECT_DESCRIPTION}" "")
 brivane_install_part(HostKit brivane_embedding_hostkit development "${PROJECT_DESCRIPTION}, checks for a host of one's own"
                      "brivane-vrijekolom = ${PROJECT_VERSION}")
+if(BRIVANE_SESSION)
+  brivane_install_part(Session brivane_embedding_session development
+                       "${PROJECT_DESCRIPTION}, sessions on a host of one's own from a file"
+                       "brivane-vrijekolom-hostkit = ${PROJECT_VERSION}")
+endif()
 if(BRIVANE_QT)
   brivane_install_part(Qt brivane_embedding_qt runtime_qt "${PROJECT_DESCRIPTION}, as Qt widgets"
                        "brivane-vrijekolom = ${PROJECT_VERSION}, Qt6Widgets >= 6.4")

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "replay/document/ControlNames.h"
 #include <brivane/frame/Design.h>
 #include <brivane/scenario/Ontwerp.h>
+#include <brivane/session/document/ControlNames.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::fuzz {
@@ -14,7 +14,7 @@ namespace brivane::fuzz {
 namespace {
 
 using host::Kind;
-using replay::Json;
+using session::Json;
 
 constexpr int kMostSteps = 40;
 constexpr int kMostInner = 12;
@@ -228,7 +228,7 @@ Json Step(Bytes& bytes) {
 
 }  // namespace
 
-replay::Json SessionFromBytes(Bytes bytes) {
+session::Json SessionFromBytes(Bytes bytes) {
   Json document = {{"today", "2026-11-21"}};
   if (bytes.Below(8) == 0) document["screen"] = {{"TwipsPerPixelX", 12}, {"TwipsPerPixelY", 12}};
   if (bytes.Flip())

@@ -12,7 +12,7 @@ constexpr std::chrono::sys_days kZeroDate = std::chrono::year{1899} / 12 / 30;
 constexpr int kFirstCalendarYear = 100;
 constexpr int kLastCalendarYear = 9999;
 constexpr std::int64_t kMonthsPerYear = 12;
-/// No two dates are further apart.
+/// Further than any two dates are apart: what goes so far leaves the calendar from every date of it.
 constexpr std::int64_t kMostYears = 10000;
 
 std::chrono::year_month_day ToCivil(YearMonthDay date) {
@@ -46,20 +46,17 @@ host::Date MakeDate(YearMonthDay date) {
 
 host::Date AddMonths(host::Date date, std::int64_t months) {
   if (date.IsNone()) return date;
-  // So many months that the sum below would not fit are out of the years as well.
-  if (months > kMostYears * kMonthsPerYear || months < -kMostYears * kMonthsPerYear)
-    throw host::Error(host::ErrorNumber::Overflow);
+  constexpr std::int64_t kMost = kMostYears * kMonthsPerYear;
   const YearMonthDay start = Split(date);
-  const std::int64_t month = start.year * kMonthsPerYear + (start.month - 1) + months;
-  if (month < kFirstCalendarYear * kMonthsPerYear || month >= (kLastCalendarYear + 1) * kMonthsPerYear)
-    throw host::Error(host::ErrorNumber::Overflow);
-  YearMonthDay end{static_cast<int>(month / kMonthsPerYear), static_cast<int>(month % kMonthsPerYear) + 1, start.day};
-  end.day = std::min(end.day, LastDayOf(end.year, end.month));
-  return MakeDate(end);
+  const std::chrono::year_month end =
+      std::chrono::year{start.year} / start.month + std::chrono::months{std::clamp(months, -kMost, kMost)};
+  const int year = static_cast<int>(end.year());
+  const int month = static_cast<int>(static_cast<unsigned>(end.month()));
+  return MakeDate({year, month, std::min(start.day, LastDayOf(year, month))});
 }
 
 host::Date AddYears(host::Date date, std::int64_t years) {
-  return AddMonths(date, std::clamp(years, -kMostYears - 1, kMostYears + 1) * kMonthsPerYear);
+  return AddMonths(date, std::clamp(years, -kMostYears, kMostYears) * kMonthsPerYear);
 }
 
 std::int32_t MonthsBetween(host::Date from, host::Date to) {

@@ -171,7 +171,7 @@ constexpr Fault CheckName(const Design& design, std::size_t i) {
   if (row.name.empty()) return Fault::NoName;
   for (std::size_t j = 0; j < i; ++j) {
     if (design.rows[j].name != row.name) continue;
-    if (row.index == kNoIndex || design.rows[j].index >= row.index) return Fault::NameTwice;
+    if (design.rows[j].index == kNoIndex || design.rows[j].index >= row.index) return Fault::NameTwice;
     if (design.rows[i - 1].name != row.name) return Fault::ArrayScattered;
   }
   return Fault::None;

@@ -28,10 +28,10 @@ bool OpensCharacter(char32_t c) { return In(kGraphemeOpeners, c); }
 
 bool IsRegionalIndicator(char32_t c) { return c >= 0x1F1E6 && c <= 0x1F1FF; }
 
-/// What a joiner may join: the pictographs.
+/// What a joiner may join: the pictographs. Of marks nobody asks.
 bool IsPictograph(char32_t c) {
-  return (c >= 0x1F000 && c <= 0x1FAFF && !IsRegionalIndicator(c) && !Extends(c)) || (c >= 0x2190 && c <= 0x2BFF) ||
-         c == 0x00A9 || c == 0x00AE || c == 0x203C || c == 0x2049 || c == 0x2122 || c == 0x2139;
+  return (c >= 0x1F000 && c <= 0x1FAFF && !IsRegionalIndicator(c)) || (c >= 0x2190 && c <= 0x2BFF) || c == 0x00A9 ||
+         c == 0x00AE || c == 0x203C || c == 0x2049 || c == 0x2122 || c == 0x2139;
 }
 
 bool IsHangulVowel(char32_t c) { return (c >= 0x1160 && c <= 0x11A7) || (c >= 0xD7B0 && c <= 0xD7C6); }

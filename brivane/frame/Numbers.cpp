@@ -122,7 +122,6 @@ Reading<double> Read(std::string_view text, const Style& style) {
   const Parts parts = Take(text, style);
   const std::string digits = WithoutPoints(parts.whole);
   if (!IsDigits(digits) || (digits.empty() && !parts.comma)) return refuse(style.expected);
-  if (parts.whole.find('.') != std::string_view::npos && digits.empty()) return refuse(style.expected);
   if (parts.comma && (parts.decimals.empty() || !IsDigits(parts.decimals))) return refuse(style.expected);
   if (!IsGrouped(parts.whole)) return refuse(parts.comma ? Phrase(style.expected) : BothReadings(parts.whole, style));
   if (parts.decimals.size() > style.decimals) return refuse(style.tooManyDecimals);

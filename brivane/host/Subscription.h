@@ -21,7 +21,7 @@ struct Link {
     if (--kept == 0) delete this;
   }
 
-  Listeners* listeners = nullptr;  ///< nothing once the subscription or the event has ended
+  Listeners* listeners = nullptr;  ///< asked by the subscription alone; nothing once the event has ended
   Link* previous = nullptr;
   Link* next = nullptr;
   int kept = 1;
@@ -105,7 +105,6 @@ class Listeners {
     for (Raising* raising = raising_; raising != nullptr; raising = raising->outer_) raising->PassOver(link);
     (link.previous != nullptr ? link.previous->next : first_) = link.next;
     (link.next != nullptr ? link.next->previous : last_) = link.previous;
-    link.listeners = nullptr;
   }
 
  private:

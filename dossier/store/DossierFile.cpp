@@ -163,7 +163,7 @@ void CopyInto(Database& database, const QString& voorlopig) {
   Database copy(voorlopig, Access::ReadWrite);
   // A log that leads on from the file that was copied is not the copy's.
   copy.Run(QStringLiteral("BEGIN IMMEDIATE"));
-  AddState(copy, LogState::WorkedOff);
+  AddState(copy, FileStandsIn::Newest);
   copy.Run(QStringLiteral("COMMIT"));
   copy.Run(QStringLiteral("PRAGMA journal_mode = WAL"));
 }

@@ -20,7 +20,7 @@ namespace {
 
 // Where an SQLite file's first page tells what it is.
 constexpr qsizetype kHeaderSize = 100;
-constexpr qsizetype kPageSize = 16;
+constexpr qsizetype kPageSizeAt = 16;
 constexpr qsizetype kWriteFormat = 18;
 constexpr qsizetype kReadFormat = 19;
 constexpr qsizetype kPageCount = 28;
@@ -76,11 +76,19 @@ bool Schrijfbaar(const QString& pad) {
   return stat(name.constData(), &file) == 0 && (file.st_mode & kAnybody) != 0 && eaccess(name.constData(), W_OK) == 0;
 }
 
-/// All pages that the header speaks of are there. SQLite reads what was cut off as zeros.
+qint64 PageSizeOf(const QByteArray& header) {
+  const qint64 bytes = qFromBigEndian<quint16>(header.constData() + kPageSizeAt);
+  return bytes == 1 ? 65536 : bytes;
+}
+
+/// The bytes of all pages that the header speaks of.
+qint64 WholeLength(const QByteArray& header) {
+  return PageSizeOf(header) * qFromBigEndian<quint32>(header.constData() + kPageCount);
+}
+
+/// SQLite reads what was cut off as zeros.
 bool IsVolledig(const QByteArray& header, qint64 lengte) {
-  const qint64 bytes = qFromBigEndian<quint16>(header.constData() + kPageSize);
-  const qint64 pagina = bytes == 1 ? 65536 : bytes;
-  return pagina > 0 && lengte >= pagina * qFromBigEndian<quint32>(header.constData() + kPageCount);
+  return PageSizeOf(header) > 0 && lengte >= WholeLength(header);
 }
 
 }  // namespace
@@ -119,6 +127,16 @@ void CheckHeader(const QString& pad) {
   if (QFileInfo(LogOf(pad)).size() == 0 && !IsVolledig(header, QFileInfo(pad).size())) {
     throw OpeningError(OpeningProblem::Damaged, pad);
   }
+}
+
+qint64 PageSize(const QString& pad) { return PageSizeOf(ControleerHeader(pad)); }
+
+void LengthenAsItsHeaderSays(const QString& copy) {
+  const QByteArray header = ControleerHeader(copy);
+  if (IsVolledig(header, QFileInfo(copy).size()) || WholeLength(header) > kMostFile) return;
+  const bool lengthened =
+      QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner) && QFile::resize(copy, WholeLength(header));
+  if (!lengthened) throw OpeningError(OpeningProblem::CannotCopy, copy);
 }
 
 void CheckPossible(const DossierGegevens& contents, const QString& pad) {

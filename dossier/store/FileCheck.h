@@ -25,6 +25,14 @@ void CheckName(const QString& pad);
 /// no loan file that this program can work in. The caller holds the file.
 void CheckHeader(const QString& pad);
 
+/// The bytes of a page of a loan file; 0 where it names none.
+[[nodiscard]] qint64 PageSize(const QString& pad);
+
+/// Gives the copy of a file the length that its first page speaks of. Where a program was killed at working off its
+/// log, the pages after it may not have come into the file, and SQLite reads none of one that is too short. Throws
+/// OpeningError where there is no room.
+void LengthenAsItsHeaderSays(const QString& copy);
+
 /// Throws OpeningError with the place of a value that no edit writes.
 void CheckPossible(const DossierGegevens& contents, const QString& pad);
 

@@ -6,7 +6,6 @@
 #include "dossier/store/CaseWeight.h"
 #include "dossier/store/Fields.h"
 #include "dossier/store/Possible.h"
-#include "dossier/store/StateChain.h"
 #include <brivane/host/Error.h>
 
 namespace brivane::dossier {
@@ -105,6 +104,7 @@ void FileJournal::Sluit() {
 void FileJournal::WorkOff() noexcept {
   // A log that holds nothing of this connection's is not touched: where the file was replaced it may be another's.
   if (!database_ || edits_in_log_ == 0) return;
+  newest_may_be_in_file_ = true;
   try {
     QSqlQuery query = database_->Prepare(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
     Database::Run(query);
@@ -113,6 +113,11 @@ void FileJournal::WorkOff() noexcept {
   } catch (...) {
     // The log still holds what it held.
   }
+}
+
+FileStandsIn FileJournal::FileBefore() const {
+  if (AtRest()) return FileStandsIn::Newest;
+  return newest_may_be_in_file_ ? FileStandsIn::NewestMaybe : FileStandsIn::Earlier;
 }
 
 Database& FileJournal::Open() {
@@ -173,7 +178,7 @@ void FileJournal::Commit() {
     log_.Store(writer_.Hoogste(), edits_.MadeBy());
     if (weight_ + log_.Growth() > kMostWeight)
       throw DatabaseError(SqliteCode::Full, "The case is as large as it may be");
-    AddState(*database_, AtRest() ? LogState::WorkedOff : LogState::Holds);
+    AddState(*database_, FileBefore());
     if (keeper_) keeper_->Keep(*database_);
     Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
   } catch (const DatabaseError& error) {
@@ -181,6 +186,7 @@ void FileJournal::Commit() {
   }
   weight_ += log_.Growth();
   log_.Committed();
+  newest_may_be_in_file_ = false;
   // Where nobody works it off at rest it does not grow for ever.
   if (++edits_in_log_ >= kMostEditsInLog) WorkOff();
   if (!AtRest()) InLog.Raise();

@@ -14,6 +14,7 @@
 #include "dossier/store/Edits.h"
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/Reader.h"
+#include "dossier/store/StateChain.h"
 #include "dossier/store/StoreErrors.h"
 #include "dossier/store/Writer.h"
 
@@ -88,6 +89,7 @@ class FileJournal : public Journal, private Edits::Transactions {
   /// Runs a statement that is to change exactly one row.
   static void RunForOne(QSqlQuery& query);
   template <class Change> void Write(Change&& change);
+  [[nodiscard]] FileStandsIn FileBefore() const;
   /// What is told of a failure to store.
   [[nodiscard]] host::Error StoringFailed(const DatabaseError& error);
 
@@ -102,6 +104,8 @@ class FileJournal : public Journal, private Edits::Transactions {
   bool unreadable_ = false;
   /// Edits since the log was last worked off; what a killed program left counts as one.
   int edits_in_log_ = 1;
+  /// Working off was tried since the newest edit, here or by a program that was killed.
+  bool newest_may_be_in_file_ = true;
   std::optional<QSqlQuery> begin_;
   std::optional<QSqlQuery> commit_;
   /// By the name of the field.

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
+#include "dossier/store/EarlierVersion.h"
 #include "dossier/store/FileCheck.h"
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/OpeningError.h"
@@ -17,9 +18,10 @@ namespace {
 /// A copy of a file and its log in a folder of the user's alone: reading a file with its log works the log into it.
 class Copy {
  public:
-  explicit Copy(const QString& path) {
-    Take(path, Path());
-    Take(LogOf(path), LogOf(Path()));
+  Copy(const QString& file, const QString& log) {
+    Take(file, Path());
+    Take(log, LogOf(Path()));
+    LengthenAsItsHeaderSays(Path());
   }
   [[nodiscard]] QString Path() const { return folder_.filePath(QStringLiteral("kopie")); }
 
@@ -52,11 +54,42 @@ bool IsProved(const QString& copy, Database& together) {
   }
 }
 
+/// Whether each page of a file is that page of one of two others.
+bool IsMadeOf(const QString& path, const QString& one, const QString& other) {
+  QFile files[] = {QFile(path), QFile(one), QFile(other)};
+  for (QFile& file : files) {
+    if (!file.open(QIODevice::ReadOnly)) throw OpeningError(OpeningProblem::DiskError, path);
+  }
+  const qint64 page = PageSize(path);
+  while (!files[0].atEnd()) {
+    const QByteArray mixed = files[0].read(page);
+    if (const QByteArray first = files[1].read(page), second = files[2].read(page); mixed != first && mixed != second) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// Whether the log brings up to date the file of an earlier layout whose copy stands beside it, and the file is what a
+/// program leaves that is killed while it works that log off: each page stands as it was or as the log has it.
+bool BringsUpToDate(const QString& path) {
+  const QString earlier = EarlierVersionOf(path);
+  if (!IsEarlierVersion(earlier)) return false;
+  const Copy copy(earlier, LogOf(path));
+  {
+    Database before(earlier, Access::Immutable);
+    Database after(copy.Path(), Access::ReadWrite);
+    if (ReadDossier(before).gegevens != ReadDossier(after).gegevens) return false;
+    after.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+  }
+  return IsMadeOf(path, earlier, copy.Path());
+}
+
 /// The file with its log, in a copy.
 DossierGegevens ReadCopy(const QString& path, const std::function<void(const QString&)>& look = nullptr) {
-  const Copy copy(path);
+  const Copy copy(path, LogOf(path));
   Database together(copy.Path(), Access::ReadWrite);
-  if (!IsProved(copy.Path(), together)) throw OpeningError(OpeningProblem::StrangeLog, path);
+  if (!IsProved(copy.Path(), together) && !BringsUpToDate(path)) throw OpeningError(OpeningProblem::StrangeLog, path);
   DossierGegevens contents = ReadChecked(together, path).gegevens;
   if (look) {
     together.Run(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));

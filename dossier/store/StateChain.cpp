@@ -16,9 +16,15 @@ std::vector<qint64> ReadStates(Database& database) {
   return states;
 }
 
-void AddState(Database& database, LogState log) {
-  if (log == LogState::WorkedOff) {
-    database.RunAgain(QStringLiteral("DELETE FROM stand WHERE nummer < (SELECT max(nummer) FROM stand)"));
+void AddState(Database& database, FileStandsIn before) {
+  switch (before) {
+    case FileStandsIn::Newest:
+      database.RunAgain(QStringLiteral("DELETE FROM stand WHERE nummer < (SELECT max(nummer) FROM stand)"));
+      break;
+    case FileStandsIn::NewestMaybe: break;
+    case FileStandsIn::Earlier:
+      database.RunAgain(QStringLiteral("DELETE FROM stand WHERE nummer = (SELECT max(nummer) FROM stand)"));
+      break;
   }
   database.RunAgain(QStringLiteral("INSERT INTO stand (kenmerk) VALUES (random())"));
 }

@@ -1,100 +1,18 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <set>
 #include <string>
 #include <string_view>
-#include <variant>
-#include <vector>
 
 #include "dossier/model/Gegevens.h"
-#include "replay/document/Json.h"
-#include <brivane/controls/Action.h>
-#include <brivane/host/Color.h>
-#include <brivane/host/Date.h>
-#include <brivane/host/Twips.h>
-#include <brivane/host/controls/Desktop.h>
-#include <brivane/hostkit/instrument/Members.h>
+#include <brivane/session/document/Document.h>
+#include <brivane/session/document/FieldJson.h>
 
-/// A session of edits as data: the case that it starts from, the faults of the host, and the steps.
+/// A session of edits as data, with the case that it starts from.
 namespace brivane::replay {
 
-// The members of a host, and the host that watches, are the kit's.
-using namespace hostkit;
-
-/// The lines that a transcript can hold besides steps and dumps.
-enum class Log : std::uint8_t { Trace, Writes, Calls, Events, Messages, Results, Reads };
-
-struct FaultPlan {
-  Member member;
-  Op op;
-  std::uint32_t nth;  ///< from 1, counted from the start of the session
-  std::int32_t number;
-  std::string description;
-  std::string source;
-};
-
-/// Where an action or a check goes.
-enum class Target : std::uint8_t { Editor, Toelichting };
-
-/// Binds the editor.
-struct BindStep {
-  std::int16_t Len_Id;
-  std::int16_t Vrij_Id;
-};
-/// The host's check.
-struct ValidationStep {
-  Target target;
-  std::int32_t ControleNr;
-  bool Cancel;
-};
-struct BackColorStep {
-  host::Color color;
-};
-/// The host shows or hides the proposals frame.
-struct BeeindigenStep {
-  bool visible;
-};
-/// The container sizes the editor or the embedded control; twips.
-struct ResizeStep {
-  Target target;
-  float width;
-  float height;
-};
-/// A person acts on a control. A list's entry may be picked by its text, which is looked up when the step runs.
-struct ActStep {
-  std::string control;
-  std::optional<int> index;
-  std::variant<controls::Action, std::string> action;
-};
-/// Opens the year-by-year form by itself on a column's amount.
-struct ScenarioStep {
-  std::int16_t Len_Id;
-  std::int16_t Vrij_Id;
-  std::int16_t AantalJaar;
-  std::int32_t Labeltype;
-  std::int32_t Anv_Leeftijd;
-  bool LooptijdExtra;
-  bool In_RenteKorting;
-  double Bd_MaxOpname;
-  std::int16_t SoortScenario;
-  std::vector<std::int16_t> DisableJaar;
-};
-/// The form's close box.
-struct CloseStep {};
-struct DumpStep {};
-
-struct Step {
-  std::string place;  ///< in the document: `steps[3].modal[0]`
-  std::string name;   ///< as written under `do`
-  std::variant<BindStep, ValidationStep, BackColorStep, BeeindigenStep, ResizeStep, ActStep, ScenarioStep, CloseStep,
-               DumpStep>
-      what;
-  std::vector<host::MessageAnswer> answers;
-  std::vector<Step> pending;
-  std::vector<Step> modal;
-};
+// What a session is on any host is the library's.
+using namespace session;
 
 /// Where the host takes the header texts of a column from.
 enum class Headers : std::uint8_t {
@@ -102,17 +20,9 @@ enum class Headers : std::uint8_t {
   Computed,  ///< worded from the column, as the reference host does it
 };
 
-struct Document {
-  host::Date today;  ///< no date: the system's
-  std::string title = "Dossier";
-  std::string locale = "nl_NL";
-  float twipsPerPixelX = host::kTwipsPerPixel;
-  float twipsPerPixelY = host::kTwipsPerPixel;
+struct Document : session::Document {
   Headers headers = Headers::Record;
-  std::set<Log> log = {Log::Trace, Log::Writes, Log::Calls, Log::Events, Log::Messages, Log::Results};
   dossier::DossierGegevens dossier;
-  std::vector<FaultPlan> faults;
-  std::vector<Step> steps;
 };
 
 /// Reads and checks a document, all of it but what only a running session can tell: whether a list has the
@@ -123,12 +33,11 @@ struct Document {
 /// name: `Step::name` and `Step::place` may be left empty.
 [[nodiscard]] std::string WriteDocument(const Document& document);
 
+using session::ToJson;
 /// The records of a document as JSON, every field written out. Of a column, the host's keys and the
 /// members of its proposals are no part of a document.
 [[nodiscard]] Json ToJson(const dossier::BedragGegevens& bedrag);
 [[nodiscard]] Json ToJson(const dossier::KolomGegevens& kolom);
 [[nodiscard]] Json ToJson(const dossier::DossierGegevens& dossier);
-/// "YYYY-MM-DD", or 0 for none.
-[[nodiscard]] Json ToJson(host::Date date);
 
 }  // namespace brivane::replay

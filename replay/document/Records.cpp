@@ -3,9 +3,7 @@
 #include "replay/document/Records.h"
 
 #include <array>
-#include <cstdio>
 
-#include "replay/document/Document.h"
 #include <brivane/frame/Calendar.h>
 #include <brivane/host/model/Codes.h>
 
@@ -40,9 +38,7 @@ void Read(const Value& value, BedragGegevens& bedrag);
 void Read(const Value& value, KolomGegevens& kolom);
 void Read(const Value& value, LeningGegevens& lening);
 
-template <class Scalar> Json Write(const Scalar& field) { return field; }
-Json Write(float field) { return static_cast<double>(field); }
-Json Write(host::Date field) { return ToJson(field); }
+template <class Scalar> Json Write(const Scalar& field) { return FieldJson(field); }
 Json Write(const BedragGegevens& bedrag) { return ToJson(bedrag); }
 template <class Record> Json Write(const std::vector<Record>& records);
 
@@ -162,14 +158,6 @@ DossierGegevens ReadDossier(const Value& value) {
   if (const auto member = value.Find("HuidigeLening")) Read(*member, dossier.HuidigeLening);
   if (const auto member = value.Find("Leningen")) Read(*member, dossier.Leningen);
   return dossier;
-}
-
-Json ToJson(host::Date date) {
-  if (date.IsNone()) return 0;
-  const frame::YearMonthDay parts = frame::Split(date);
-  std::array<char, 32> text;
-  const int size = std::snprintf(text.data(), text.size(), "%04d-%02d-%02d", parts.year, parts.month, parts.day);
-  return std::string(text.data(), static_cast<std::size_t>(size));
 }
 
 Json ToJson(const BedragGegevens& bedrag) {

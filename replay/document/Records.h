@@ -1,7 +1,6 @@
 #pragma once
 
-#include "dossier/model/Gegevens.h"
-#include "replay/document/Reading.h"
+#include "replay/document/Document.h"
 
 namespace brivane::replay {
 

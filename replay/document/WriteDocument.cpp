@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "replay/document/Document.h"
-#include "replay/document/LogNames.h"
+#include <brivane/session/document/LogNames.h>
 
 namespace brivane::replay {
 

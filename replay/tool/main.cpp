@@ -1,110 +1,28 @@
-// vrijekolom-replay: runs a scripted session and prints its transcript.
-
-#include <cstdio>
-#include <exception>
-#include <new>
-#include <string>
-#include <string_view>
-#include <vector>
+// vrijekolom-replay: runs a scripted session on the reference host and prints its transcript.
 
 #include "replay/document/Document.h"
 #include "replay/play/Session.h"
 #include "replay/tool/Help.h"
+#include <brivane/session/CommandLine.h>
 
 namespace {
 
-using namespace brivane::replay;
+using namespace brivane;
 
-/// The exit codes of the program.
-enum Exit { kDone = 0, kCannotPrint = 1, kRefused = 2 };
+void Check(const std::string& document, const session::Request&) { (void)replay::ReadDocument(document); }
 
-/// What the command line asks for.
-struct Request {
-  enum class What { Replay, Check, Help, Version } what = What::Replay;
-  std::string file;
-};
-
-Request ReadCommandLine(const std::vector<std::string_view>& arguments) {
-  Request request;
-  std::vector<std::string> files;
-  bool options = true;
-  for (const std::string_view argument : arguments) {
-    if (options && (argument == "--help" || argument == "-h"))
-      request.what = Request::What::Help;
-    else if (options && argument == "--version")
-      request.what = Request::What::Version;
-    else if (options && argument == "--check")
-      request.what = Request::What::Check;
-    else if (options && argument == "--")
-      options = false;
-    else if (options && argument.size() > 1 && argument.front() == '-')
-      throw BadInput(std::string(argument), "no such option (--help tells which there are)");
-    else
-      files.emplace_back(argument);
-  }
-  if (request.what == Request::What::Help || request.what == Request::What::Version) return request;
-  if (files.empty()) throw BadInput("command line", "expected a file to replay, or - for standard input");
-  if (files.size() > 1) throw BadInput("command line", "expected one file, not " + std::to_string(files.size()));
-  request.file = files.front();
-  return request;
-}
-
-/// A document is written by hand or recorded in a session; larger is a mistake in the name.
-constexpr std::size_t kMostBytes = std::size_t{64} << 20;
-
-std::string ReadAll(const std::string& name) {
-  const bool standard = name == "-";
-  std::FILE* const file = standard ? stdin : std::fopen(name.c_str(), "rb");
-  if (file == nullptr) throw BadInput(name, "cannot be opened");
-  std::string text;
-  char block[65536];
-  for (std::size_t size; text.size() <= kMostBytes && (size = std::fread(block, 1, sizeof block, file)) > 0;) {
-    text.append(block, size);
-  }
-  const bool failed = std::ferror(file) != 0;
-  if (!standard) std::fclose(file);
-  if (text.size() > kMostBytes) throw BadInput(standard ? "standard input" : name, "is larger than 64 MiB");
-  if (failed) throw BadInput(standard ? "standard input" : name, "cannot be read");
-  return text;
-}
-
-void Print(std::string_view text) { std::fwrite(text.data(), 1, text.size(), stdout); }
-
-void Replay(const Document& document) {
-  // A line is on its way as soon as it is complete, also into a pipe.
-  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-  Session session(document, [line = std::string()](std::string_view text) mutable {
-    line.assign(text) += '\n';
-    Print(line);
-  });
-  session.Run();
-}
-
-void Serve(const Request& request) {
-  switch (request.what) {
-    case Request::What::Help: Print(HelpText()); break;
-    case Request::What::Version: Print("vrijekolom-replay " BRIVANE_VERSION "\n"); break;
-    case Request::What::Check: (void)ReadDocument(ReadAll(request.file)); break;
-    case Request::What::Replay: Replay(ReadDocument(ReadAll(request.file))); break;
-  }
+void Play(const std::string& text, const session::Request&, const session::LineSink& sink) {
+  const replay::Document document = replay::ReadDocument(text);
+  replay::Session(document, sink).Run();
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
-  int code = kDone;
-  try {
-    Serve(ReadCommandLine({arguments + 1, arguments + count}));
-  } catch (const std::bad_alloc&) {
-    std::fprintf(stderr, "the document: there is too little memory to read or replay it\n");
-    code = kRefused;
-  } catch (const std::exception& problem) {
-    std::fprintf(stderr, "%s\n", problem.what());
-    code = kRefused;
-  }
-  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-    std::fprintf(stderr, "standard output: cannot be written\n");
-    return kCannotPrint;
-  }
-  return code;
+  return session::Run({.help = replay::HelpText,
+                       .version = "vrijekolom-replay " BRIVANE_VERSION,
+                       .takesOwnCase = false,
+                       .check = Check,
+                       .play = Play},
+                      count, arguments);
 }

@@ -37,7 +37,7 @@ NO_TEXTS = {
     "End": "a key of a page",
     "calc(${length} * var(${TWIP}))": "a length of a style sheet",
     "box number": "classes of a style sheet", "box select": "classes of a style sheet",
-    "label lines": "classes of a style sheet",
+    "message asks": "classes of a style sheet", "label lines": "classes of a style sheet",
     "dialog form": "parts of an element", "dialog message": "parts of an element",
     "input, select": "elements of a page", 'input, select, button, [tabindex="0"]': "elements of a page",
     "input, select, button, label, [tabindex]": "elements of a page",

@@ -24,6 +24,10 @@ for header in "${headers[@]}"; do echo "#include <${header#./}>"; done |
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -DQT_NO_KEYWORDS "${qt_flags[@]}" -I"$work/prefix/include"
 echo "${#headers[@]} headers"
 
+if grep -rl nlohmann "$work/prefix/include" "$work/prefix"/lib*/cmake; then
+  echo "who plays sessions needs what they were built with" && exit 1
+fi
+
 echo "== the texts of the widgets in another language"
 [[ -z $(find "$work/prefix" -name 'libbrivane-vrijekolom-qt.*') ]] || find "$work/prefix" -name brivane_en.ts | grep .
 lines=$(cat "$root"/examples/qt/*.cpp | wc -l)
@@ -58,6 +62,11 @@ PKG_CONFIG_PATH=$(dirname "$(find "$work/prefix" -name brivane-vrijekolom.pc)")
 read -ra flags <<<"$(pkg-config --cflags --libs brivane-vrijekolom)"
 (cd "$work/examples/memory" && "$cxx" -I.. main.cpp "${flags[@]}" -o "$work/by_pkg_config")
 LD_LIBRARY_PATH=$(dirname "$PKG_CONFIG_PATH") "$work/by_pkg_config" --quit
+if [[ -e $PKG_CONFIG_PATH/brivane-vrijekolom-session.pc ]]; then
+  read -ra flags <<<"$(pkg-config --cflags --libs brivane-vrijekolom-session)"
+  (cd "$work/examples/session" && "$cxx" -I.. main.cpp "${flags[@]}" -o "$work/session_by_pkg_config")
+  LD_LIBRARY_PATH=$(dirname "$PKG_CONFIG_PATH") "$work/session_by_pkg_config" --quit | grep -c '"set"'
+fi
 if [[ -e $PKG_CONFIG_PATH/brivane-vrijekolom-qt.pc ]]; then
   pkg-config --print-requires brivane-vrijekolom-qt | grep '^Qt6Widgets >= 6.4$'
 fi

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "replay/document/Document.h"
-#include "replay/document/Json.h"
 #include "tests/faults/Follower.h"
+#include <brivane/session/document/Json.h>
 
 namespace brivane::faults {
 

@@ -167,5 +167,81 @@ TEST(StoreFaults, ANewFileIsCompleteOrNotThere) {
   std::cout << "faults tried: " << tried << '\n';
 }
 
+/// A program that is killed while it works off its log leaves a file of which some pages are new and others old. The
+/// log beside it holds all of them, and is known to be the file's own after any of the writes.
+TEST(StoreFaults, KilledWhileManyEditsAreWorkedOff) {
+  // More than the names of their states would have room for on one page.
+  constexpr int kMany = 400;
+  int tried = 0;
+  for (int nth = 1;; ++nth) {
+    SCOPED_TRACE("call " + std::to_string(nth));
+    FaultyVfs vfs;
+    const Folder killed;
+    const Folder left;
+    const auto file = DossierFile::Open(killed.Make());
+    const auto column = file->Dossier()->FindKolom(0, 1);
+    for (int n = 1; n <= kMany; ++n) column->SetLooptijd(n);
+    vfs.FullFrom(nth);
+    file->WorkOff();
+    const bool struck = vfs.Struck();
+    // What stands on the disk now.
+    for (const char* name : {"test.dossier", "test.dossier-wal"}) QFile::copy(killed.Path(name), left.Path(name));
+    vfs.FailAt(0);
+    const auto again = DossierFile::Open(left.Path());
+    EXPECT_EQ(again->Dossier()->FindKolom(0, 1)->Looptijd(), kMany);
+    EXPECT_TRUE(again->ControleerHeelheid().isEmpty());
+    ASSERT_FALSE(testing::Test::HasFailure());
+    if (!struck) break;
+    ++tried;
+  }
+  EXPECT_GT(tried, 10);
+  RecordProperty("FaultsTried", std::to_string(tried));
+}
+
+/// The same where a file of an earlier layout is brought up to date: the program that comes after finds the log.
+TEST(StoreFaults, KilledWhileAnEarlierFileIsBroughtUpToDate) {
+  for (const char* kept : {"/versie-1.dossier", "/versie-2.dossier"}) {
+    int tried = 0;
+    int refused = 0;
+    for (int nth = 1;; ++nth) {
+      SCOPED_TRACE(kept + (", call " + std::to_string(nth)));
+      FaultyVfs vfs;
+      const Folder killed;
+      const Folder left;
+      QFile::copy(QLatin1String(EARLIER_FILES) + QLatin1String(kept), killed.Path());
+      QFile::setPermissions(killed.Path(), QFile::ReadOwner | QFile::WriteOwner);
+      vfs.FullFrom(nth);
+      const auto take = [&] {
+        for (const QString& name : killed.Contents()) {
+          QFile::copy(killed.Path(qPrintable(name)), left.Path(qPrintable(name)));
+        }
+      };
+      try {
+        const auto file = DossierFile::Open(killed.Path());
+        take();
+      } catch (const dossier::OpeningError&) {
+        take();
+      }
+      const bool struck = vfs.Struck();
+      vfs.FailAt(0);
+      // A page that neither the file had nor the log has is not theirs.
+      const Folder strange;
+      for (const QString& name : left.Contents()) {
+        QFile::copy(left.Path(qPrintable(name)), strange.Path(qPrintable(name)));
+      }
+      QFile file(strange.Path());
+      EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(file.size() - 1) && file.putChar('x'));
+      file.close();
+      const auto problem = dossier::ProblemAtOpening(strange.Path());
+      if (problem == dossier::OpeningProblem::StrangeLog) ++refused;
+      EXPECT_EQ(dossier::ProblemAtOpening(left.Path()), std::nullopt);
+      if (!struck) break;
+      ++tried;
+    }
+    EXPECT_GT(tried, 10);
+    EXPECT_GT(refused, 0);
+  }
+}
+
 }  // namespace
 }  // namespace brivane::faults

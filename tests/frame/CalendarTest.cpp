@@ -110,6 +110,18 @@ TEST(Calendar, AnyNumberOfMonthsOrYearsIsADateOrAnOverflow) {
   }
 }
 
+TEST(Calendar, ASumFarOutsideTheYearsIsAnOverflowAsWell) {
+  // 10,000 years are more than the calendar has; 13 months before January 100 lie in the year 98.
+  for (const host::Date date : {kFirstDay, MakeDate({2024, 1, 31}), kLastDay})
+    for (const std::int64_t years : {9900, 9999, 10'000, 10'001, 32'767, 65'536, 357'913'942}) {
+      EXPECT_EQ(ErrorOf([&] { (void)AddYears(date, years); }), 6) << years;
+      EXPECT_EQ(ErrorOf([&] { (void)AddYears(date, -years); }), 6) << years;
+      EXPECT_EQ(ErrorOf([&] { (void)AddMonths(date, years * 12 + 1); }), 6) << years;
+      EXPECT_EQ(ErrorOf([&] { (void)AddMonths(date, -years * 12 - 1); }), 6) << years;
+    }
+  EXPECT_EQ(ErrorOf([] { (void)AddMonths(kFirstDay, -13); }), 6);
+}
+
 TEST(Calendar, TheLastMonthOfTheYearsIsTheirLast) {
   // 9900 years and a day less a month: December 9999 has the 31st as January 100 has.
   EXPECT_EQ(AddMonths(MakeDate({100, 1, 31}), 9900 * 12 - 1), MakeDate({9999, 12, 31}));

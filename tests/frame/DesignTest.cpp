@@ -58,6 +58,22 @@ TEST(Design, ANameStandsOnceAndTheElementsOfAnArrayInTheirOrder) {
   EXPECT_EQ(CheckRows({{.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = 2},
                        {.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = 1}}),
             Fault::NameTwice);
+  EXPECT_EQ(CheckRows({{.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = kTemplateIndex},
+                       {.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = 1}}),
+            Fault::None);
+}
+
+TEST(Design, AControlOutsideAnArraySharesItsNameWithNoElement) {
+  for (const int index : {kTemplateIndex, 1}) {
+    EXPECT_EQ(CheckRows({{.name = "lblA", .kind = Kind::Label, .place = kPlace},
+                         {.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = index}}),
+              Fault::NameTwice)
+        << index;
+    EXPECT_EQ(CheckRows({{.name = "lblA", .kind = Kind::Label, .place = kPlace, .index = index},
+                         {.name = "lblA", .kind = Kind::Label, .place = kPlace}}),
+              Fault::NameTwice)
+        << index;
+  }
 }
 
 TEST(Design, TheElementsOfAnArrayStandTogether) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <string>
 
@@ -45,6 +46,9 @@ TEST(Amount, AcceptsWhatHasOneMeaning) {
       {"€ –", 0},
       {"€ --", 0},
       {"- €", 0},
+      {"€ \u2212", 0},
+      {"-0", 0},
+      {"-0,00", 0},
       {"\u22123", -3},
       {"\u00A01.000,00\u00A0", 1000},
       {"007", 7},
@@ -54,6 +58,8 @@ TEST(Amount, AcceptsWhatHasOneMeaning) {
     const Reading<double> reading = ReadAmount(row.typed);
     ASSERT_FALSE(reading.IsRefused() || reading.IsEmpty()) << row.typed << ": " << reading.Reason();
     EXPECT_EQ(*reading, row.value) << row.typed;
+    // What shows as 0 has no sign either.
+    EXPECT_EQ(std::signbit(*reading), row.value < 0) << row.typed;
   }
 }
 
@@ -69,6 +75,10 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
       {"1.234.56", "Bedoelt u 1.234,56 of 123.456? Typ een komma voor de decimalen."},
       {"0.500", "Bedoelt u 0,50 of 500? Typ een komma voor de decimalen."},
       {"12.3456", "De punt staat niet tussen duizendtallen. Bedoelt u 123.456?"},
+      {"1.2.345", "De punt staat niet tussen duizendtallen. Bedoelt u 12.345?"},
+      {"1.234.5678", "De punt staat niet tussen duizendtallen. Bedoelt u 12.345.678?"},
+      {"1.2345.678", "De punt staat niet tussen duizendtallen. Bedoelt u 12.345.678?"},
+      {"1.234.5.678", "De punt staat niet tussen duizendtallen. Bedoelt u 12.345.678?"},
       {"1234.567", "De punt staat niet tussen duizendtallen. Bedoelt u 1.234.567?"},
       {"12.", "De punt staat niet tussen duizendtallen. Bedoelt u 12?"},
       {".50", "De punt staat niet tussen duizendtallen. Bedoelt u 50?"},
@@ -79,8 +89,8 @@ TEST(Amount, NamesBothReadingsOfAPointThatSeparatesNoThousands) {
 
 TEST(Amount, RefusesMalformedTextAndSaysWhatIsExpected) {
   const std::string expected = "Vul een bedrag in, bijvoorbeeld 1.234,56.";
-  for (const char* typed : {"abc", "12a", "1,2,3", "12,", ",", ".", "-", "€", "1 500", "1,234.56", "--5", "1.23,45",
-                            "5-", "1e3", "€ 12 €", "€ - €", "-€ -"})
+  for (const char* typed : {"abc", "12a",     "1,2,3", "12,", ",",      ".",     "-",    "€",   "1 500", "1,234.56",
+                            "--5", "1.23,45", "5-",    "1e3", "€ 12 €", "€ - €", "-€ -", ".,5", "..",    "1.2345,5"})
     EXPECT_EQ(ReadAmount(typed).Reason(), expected) << typed;
   EXPECT_EQ(ReadAmount("12,345").Reason(), "Een bedrag heeft ten hoogste twee cijfers achter de komma.");
   EXPECT_EQ(ReadAmount("1000000000000").Reason(), "Dit getal is te groot.");
@@ -108,6 +118,7 @@ TEST(Number, TakesUpToFourDecimals) {
   EXPECT_EQ(ReadNumber("3.7").Reason(), "Bedoelt u 3,7 of 37? Typ een komma voor de decimalen.");
   EXPECT_EQ(ReadNumber("3.5000").Reason(), "Bedoelt u 3,5000 of 35.000? Typ een komma voor de decimalen.");
   EXPECT_EQ(ReadNumber("3.50000").Reason(), "Bedoelt u 3,5000 of 350.000? Typ een komma voor de decimalen.");
+  EXPECT_EQ(ReadNumber("1.2345.678").Reason(), "Bedoelt u 12.345,678 of 12.345.678? Typ een komma voor de decimalen.");
   EXPECT_EQ(ReadNumber("€ 3").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
   EXPECT_EQ(ReadNumber("3,-").Reason(), "Vul een getal in, bijvoorbeeld 12,5.");
 }

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "replay/document/ControlNames.h"
 #include "replay/document/Document.h"
 #include "replay/play/Session.h"
 #include "tests/replay/Program.h"
 #include <brivane/frame/Calendar.h>
 #include <brivane/scenario/Ontwerp.h>
+#include <brivane/session/document/ControlNames.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
 namespace brivane::replay::test {

@@ -8,8 +8,8 @@
 
 #include "dossier/model/Application.h"
 #include "dossier/model/DossierControle.h"
-#include "replay/play/MemorySubject.h"
 #include "replay/play/Session.h"
+#include <brivane/session/play/MemorySubject.h>
 
 namespace brivane::replay::test {
 namespace {

@@ -23,6 +23,7 @@ TEST(Onderwerp, TellsTheYearOfARow) {
   EXPECT_EQ(Rijuitleg(80, april, {}), "2110: 1 april 2110 tot en met 31 maart 2111");
   // A year from its first day needs no dates.
   EXPECT_EQ(Rijuitleg(2, MakeDate({2031, 1, 1}), {}), "2032");
+  EXPECT_EQ(Rijuitleg(1, MakeDate({2031, 1, 2}), {}), "2031: 2 januari 2031 tot en met 1 januari 2032");
   // From a leap day; the year after begins a day sooner.
   EXPECT_EQ(Rijuitleg(2, MakeDate({2028, 2, 29}), {}), "2029: 28 februari 2029 tot en met 27 februari 2030");
   EXPECT_EQ(Rijuitleg(4, MakeDate({2028, 2, 29}), {}), "2031: 28 februari 2031 tot en met 28 februari 2032");

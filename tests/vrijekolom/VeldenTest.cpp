@@ -192,6 +192,16 @@ TEST_F(NestingTest, IncomeFromWorkEnablesTheDayWage) {
   EXPECT_THAT(Only(Log(), "set"), ElementsAre("set InkomenUitArbeid=true")) << "the day wage stays \"Nee\"";
 }
 
+TEST_F(NestingTest, IncomeFromWorkLeavesADayWageThatTheRecordHad) {
+  kolom_.velden.InkomenUitArbeid = false;
+  kolom_.velden.InDagloon = true;
+  BindEverything();
+  Act(on_[jnInkUitArbeid], controls::Toggle{host::kJa});
+  EXPECT_THAT(Log(), ElementsAre("enter jnInkUitArbeid_Change", "set InkomenUitArbeid=true", "leave"));
+  EXPECT_TRUE(on_[jnInDagloon].Enabled());
+  EXPECT_EQ(on_[jnInDagloon].Value(), host::kJa);
+}
+
 TEST_F(NestingTest, OnlyATaxableContributionKeepsItsIncomeFromWork) {
   kolom_.velden.InkomenUitArbeid = kolom_.velden.InDagloon = true;
   BindEverything();

@@ -36,6 +36,13 @@ for (const state of Object.keys(STATES))
     assert.deepEqual(shown, readFileSync(`${top}tests/toolkits/shown/${state}.txt`, 'utf8').trimEnd().split('\n'));
   });
 
+test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
+  await bind('editor-vaste-last');
+  const [width, height] = await (await person.control('Toelichting.lstToelichting')).evaluate((list) =>
+    [list.scrollWidth - list.clientWidth, list.scrollHeight - list.clientHeight]);
+  assert.deepEqual([width, height], [0, 0]);
+});
+
 /** What a person may come upon, each to be looked at. */
 const SIGHTS = {
   ...Object.fromEntries(Object.keys(STATES).map((state) => [state, () => bind(state)])),

@@ -38,6 +38,7 @@ let again = false;
 /** Writes the case; what changes meanwhile is written after it. */
 function save() {
   if (saving !== null) return void (again = true);
+  document.body.dataset.saving = '';
   saving = Promise.resolve().then(async () => {
     do {
       again = false;
@@ -47,7 +48,10 @@ function save() {
   }).then(
     () => (element('bewaard').textContent = `Bewaard om ${new Date().toLocaleTimeString('nl-NL')}`),
     (problem) => complain(`Niet bewaard: ${problem.message}`),
-  ).finally(() => (saving = null));
+  ).finally(() => {
+    saving = null;
+    delete document.body.dataset.saving;
+  });
 }
 
 function complain(text) {
@@ -94,11 +98,12 @@ async function add(fields) {
 }
 
 async function ask(text) {
-  const box = element('vraag');
-  element('vraagtekst').textContent = text;
-  box.returnValue = 'nee';
+  const box = element('vraag').content.firstElementChild.cloneNode(true);
+  box.querySelector('p').textContent = text;
+  document.body.append(box);
   box.showModal();
-  await new Promise((closed) => box.addEventListener('close', closed, { once: true }));
+  await new Promise((closed) => box.addEventListener('close', closed));
+  box.remove();
   return box.returnValue === 'ja';
 }
 
@@ -142,11 +147,10 @@ element('posten').addEventListener('keydown', (event) => {
   event.preventDefault();
   deed();
 });
-// Letters that the editor does not have, and Escape where the editor had nothing to put back.
+// Letters that the editor does not have.
 addEventListener('keydown', (event) => {
   if (event.defaultPrevented || document.querySelector('dialog[open]') !== null) return;
-  const letter = event.altKey && !event.ctrlKey ? { k: 'lening', t: 'posten' }[event.key.toLowerCase()] : undefined;
-  const goal = event.key === 'Escape' && document.activeElement === editor ? 'posten' : letter;
+  const goal = event.altKey && !event.ctrlKey ? { k: 'lening', t: 'posten' }[event.key.toLowerCase()] : undefined;
   if (goal === undefined) return;
   event.preventDefault();
   element(goal).focus();

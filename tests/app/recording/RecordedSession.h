@@ -9,9 +9,9 @@
 
 #include "app/recording/Recorder.h"
 #include "dossier/model/Application.h"
-#include "replay/play/Transcript.h"
 #include <brivane/hostkit/instrument/InstrumentedHost.h>
 #include <brivane/scenario/frmScenario.h>
+#include <brivane/session/play/Transcript.h>
 #include <brivane/toolkits/memory/Toolkit.h>
 #include <brivane/vrijekolom/VrijeKolom.h>
 

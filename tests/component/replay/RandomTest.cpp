@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "fuzz/SessionFromBytes.h"
-#include "replay/play/MemorySubject.h"
 #include "tests/component/replay/Apartment.h"
 #include "tests/component/replay/RegisteredSubject.h"
 #include "tests/component/replay/Transcripts.h"
+#include <brivane/session/play/MemorySubject.h>
 
 namespace brivane::latebound {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "replay/document/ControlNames.h"
 #include "tests/component/replay/Door.h"
 #include "tests/component/replay/HostObjects.h"
 #include "tests/component/replay/Sink.h"
 #include <brivane/frame/GroupedNumber.h>
+#include <brivane/session/document/ControlNames.h>
 #include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::latebound {

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include <brivane/frame/Calendar.h>
-#include <brivane/frame/GroupedNumber.h>
 #include <brivane/toolkits/memory/Desktop.h>
 
 namespace brivane::memory {
@@ -21,13 +20,13 @@ TEST(MemoryDesktop, AWholeNumberIsGroupedAndHalvesGoAwayFromZero) {
     EXPECT_EQ(desktop.FormatWhole(c.number), c.text) << c.number;
 }
 
-TEST(MemoryDesktop, TheSeparatorIsThatOfTheLocale) {
+TEST(MemoryDesktop, TheSeparatorIsTheOneThatItIsGiven) {
   Desktop desktop;
-  desktop.groupSeparator = frame::GroupSeparator("en_US");
+  desktop.groupSeparator = ",";
   EXPECT_EQ(desktop.FormatWhole(12345), "12,345");
-  desktop.groupSeparator = frame::GroupSeparator("nl_NL");
+  desktop.groupSeparator = ".";
   EXPECT_EQ(desktop.FormatWhole(12345), "12.345");
-  desktop.groupSeparator = frame::GroupSeparator("C");
+  desktop.groupSeparator.clear();
   EXPECT_EQ(desktop.FormatWhole(12345), "12345");
 }
 

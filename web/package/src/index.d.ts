@@ -26,8 +26,9 @@ export type TextName =
   | 'October' | 'November' | 'December' | 'Monday' | 'Tuesday' | 'Wednesday' | 'Thursday' | 'Friday' | 'Saturday'
   | 'Sunday' | 'DivideByZero' | 'NumberAfterSign' | 'UnreadableSum' | 'DateForNumber' | 'SumTooLarge' | 'NoStart'
   | 'PastCalendar' | 'OneColumn' | 'InLine' | 'LineLeftOver' | 'LinesLeftOver' | 'NotStored' | 'NotTaken'
-  | 'DropQuestion' | 'TypingToo' | 'CloseQuestion' | 'RowPeriod' | 'TurnsAge' | 'NothingOpen' | 'FreeColumn'
-  | 'Calendar' | 'CalendarKey' | 'Today' | 'CalendarLocale' | 'Help' | 'HelpOn' | 'Yes' | 'No' | 'Ok' | 'Close';
+  | 'LeftInBox' | 'LeftInSomeBox' | 'DropQuestion' | 'RowsNotStored' | 'AmountStays' | 'ValueStays' | 'TypingToo'
+  | 'CloseQuestion' | 'RowPeriod' | 'TurnsAge' | 'NothingOpen' | 'FreeColumn' | 'Calendar' | 'CalendarKey' | 'Today'
+  | 'CalendarLocale' | 'Help' | 'HelpOn' | 'Yes' | 'No' | 'Ok' | 'Close';
 
 /**
  * Adds a language for what the elements add to the controls, by its tag ("fy", "de-AT"). A text that is left out is Dutch.

@@ -21,7 +21,7 @@ export class MessageBox {
     const question = style === QUESTION;
     this.#unanswered = question ? Answer.no : Answer.ok;
     const dialog = (this.dialog = document.createElement('dialog'));
-    dialog.className = 'message';
+    dialog.className = question ? 'message asks' : 'message';
     dialog.part = 'dialog message';
     dialog.setAttribute('role', 'alertdialog');
     dialog.setAttribute('aria-labelledby', `title${number}`);

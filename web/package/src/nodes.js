@@ -387,6 +387,7 @@ class Surface extends Node {
     const veiled = number !== 0;
     this.area.inert = veiled;
     this.area.classList.toggle('veiled', veiled);
+    this.outer.classList.toggle('empty', veiled);
     this.veil.hidden = !veiled;
   }
   enable(enabled) {

@@ -44,6 +44,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .area, .inside { position: absolute; inset: 0; }
 .inside { position: relative; inset: auto; }
 .area .surface { position: absolute; }
+.surface.empty { max-width: 100%; overflow: hidden; }
 .veiled { visibility: hidden; }
 .veil { position: absolute; inset: 0; margin: 0; display: grid; place-items: center; text-align: center; }
 
@@ -100,13 +101,14 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .tip, .bubble {
   border: 1px solid; border-color: var(--line); border-radius: 3px; background-color: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);
-  position: fixed; inset: auto; margin: 0; width: max-content; max-width: min(26em, 92vw); padding: .3em .5em; pointer-events: none;
+  position: fixed; inset: auto; margin: 0; width: max-content; max-width: min(34em, 92vw); padding: .3em .5em; pointer-events: none;
 }
 
 .listview { overflow: auto; border: 1px solid; border-color: var(--line); background-color: var(--field); color: CanvasText; }
-table { border-collapse: collapse; table-layout: fixed; width: max-content; }
+table { border-collapse: collapse; table-layout: fixed; width: max-content; min-width: 100%; }
 th { position: sticky; top: 0; background-color: var(--face); font-weight: normal; border-right: 1px solid; border-color: var(--line); }
-th, td { text-align: start; padding: 0 .35em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+th:last-child { border-right: 0; }
+th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
 .bold { font-weight: bold; }
 tr[aria-current] td { background-color: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 
@@ -124,10 +126,18 @@ dialog::backdrop { background: rgb(0 0 0 / .3); }
 .title { font-weight: bold; }
 .scroll { overflow: auto; }
 .message { max-width: min(34em, 92vw); padding: .9em 1.1em; }
-.text { margin: .7em 0 1em; white-space: pre-line; }
+.message .text {
+  display: grid; grid-template-columns: auto 1fr; gap: .9em; align-items: center; margin: .7em 0 1em; white-space: pre-line;
+}
+.message .text::before {
+  content: "!" / ""; display: grid; place-items: center; width: 2em; height: 2em; border-radius: 50%; font-weight: bold;
+  background: light-dark(#8a5a00, #ffc24d); color: light-dark(#fff, #10151c); forced-color-adjust: none;
+}
+.message.asks .text::before { content: "?" / ""; background: var(--accent); color: var(--on-accent); }
 .buttons { display: flex; justify-content: flex-end; gap: .6em; }
 .buttons button { min-width: 5em; padding: .3em .8em; }
 @media (forced-colors: active) {
   :host { --accent: Highlight; --on-accent: HighlightText; --line: ButtonBorder; --field: Field; --face: ButtonFace; --faint: GrayText; }
+  .message .text::before { background: Highlight; color: HighlightText; }
 }
 `;

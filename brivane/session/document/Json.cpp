@@ -1,5 +1,3 @@
-#include "replay/document/Json.h"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -8,7 +6,9 @@
 #include <unordered_set>
 #include <vector>
 
-namespace brivane::replay {
+#include <brivane/session/document/Json.h>
+
+namespace brivane::session {
 
 namespace {
 
@@ -196,4 +196,4 @@ std::string Quoted(std::string_view text) {
   return out;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -2,13 +2,13 @@
 
 #include <vector>
 
-#include "replay/document/Json.h"
 #include <brivane/controls/Dump.h>
 #include <brivane/host/model/BedragObject.h>
 #include <brivane/host/model/VrijeKolomItem.h>
+#include <brivane/session/document/Json.h>
 
 /// The state of controls and records as the dumps of a transcript show it.
-namespace brivane::replay {
+namespace brivane::session {
 
 /// Every control on a surface, by name.
 [[nodiscard]] Json DumpControls(const controls::Surface& surface);
@@ -18,4 +18,4 @@ namespace brivane::replay {
 /// An amount object of any host.
 [[nodiscard]] Json DumpRecord(host::BedragObject& bedrag);
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include "replay/document/Document.h"
-#include "replay/document/Reading.h"
+#include <brivane/session/document/Document.h>
+#include <brivane/session/document/Reading.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 /// Where a list of steps stands, which decides what may be in it.
 enum class StepList : std::uint8_t {
@@ -17,4 +17,4 @@ enum class StepList : std::uint8_t {
 /// Reads a list of steps. Throws BadInput.
 [[nodiscard]] std::vector<Step> ReadSteps(const Value& value, StepList list);
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -1,15 +1,14 @@
-#include "replay/document/Steps.h"
-
 #include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
 
-#include "replay/document/ControlNames.h"
 #include <brivane/host/controls/CheckBox.h>
 #include <brivane/host/controls/JaNee.h>
+#include <brivane/session/document/ControlNames.h>
+#include <brivane/session/document/Steps.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 namespace {
 
@@ -280,4 +279,4 @@ std::vector<Step> ReadSteps(const Value& value, StepList list) {
   return steps;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

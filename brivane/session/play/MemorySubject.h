@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "replay/play/Subject.h"
+#include <brivane/session/play/Subject.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 /// The real controls on the toolkit in memory.
 [[nodiscard]] std::unique_ptr<Subject> MakeMemorySubject(const Document& document, InstrumentedHost& host,
                                                          Audience& audience);
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -1,19 +1,16 @@
 #pragma once
 
-#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
 
-#include "replay/document/Document.h"
-#include "replay/document/Json.h"
 #include <brivane/host/controls/Desktop.h>
 #include <brivane/hostkit/instrument/HostListener.h>
+#include <brivane/session/document/Document.h>
+#include <brivane/session/document/Json.h>
+#include <brivane/session/play/LineSink.h>
 
-namespace brivane::replay {
-
-/// Takes a line of a transcript, without its end, as it happens.
-using LineSink = std::function<void(std::string_view line)>;
+namespace brivane::session {
 
 /// Words what happens as lines, and passes on those that the log asks for.
 class Transcript final : public HostListener {
@@ -55,4 +52,4 @@ class Transcript final : public HostListener {
   std::string line_;
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -1,30 +1,16 @@
 #pragma once
 
-#include <exception>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
-#include <utility>
 
-/// JSON as the replay tool reads and writes it.
-namespace brivane::replay {
+#include <brivane/session/document/BadInput.h>
+
+/// JSON as documents and transcripts are written in it.
+namespace brivane::session {
 
 /// A value whose objects keep the order of their keys.
 using Json = nlohmann::ordered_json;
-
-/// Input that is refused: where, and what is wrong there. `what()` is the one line a person reads,
-/// `steps[3].control: no control named "TxtBedrag"`.
-class BadInput : public std::exception {
- public:
-  BadInput(std::string place, const std::string& problem)
-      : place_(place.empty() ? "document" : std::move(place)), line_(place_ + ": " + problem) {}
-  [[nodiscard]] const std::string& Place() const noexcept { return place_; }
-  [[nodiscard]] const char* what() const noexcept override { return line_.c_str(); }
-
- private:
-  std::string place_;
-  std::string line_;
-};
 
 /// The place of a member or an element below another place; the empty place is the document itself.
 [[nodiscard]] std::string Below(const std::string& place, std::string_view key);
@@ -46,4 +32,4 @@ void AppendNumber(std::string& out, double number);
 /// A text in quotes, escaped as in JSON; for lines that quote what a document says.
 [[nodiscard]] std::string Quoted(std::string_view text);
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

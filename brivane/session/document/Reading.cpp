@@ -1,11 +1,10 @@
-#include "replay/document/Reading.h"
-
 #include <algorithm>
 #include <cmath>
 
 #include <brivane/frame/Calendar.h>
+#include <brivane/session/document/Reading.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 namespace {
 
@@ -110,4 +109,4 @@ Value Value::Member(std::string_view key) const {
   return *member;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -1,24 +1,17 @@
-#include "replay/play/Transcript.h"
-
 #include <charconv>
 #include <utility>
 
-namespace brivane::replay {
+#include <brivane/session/document/FieldJson.h>
+#include <brivane/session/play/Transcript.h>
+
+namespace brivane::session {
 
 namespace {
 
 constexpr std::string_view kFormName = "frmScenario";
 
 Json ToJson(const MemberValue& value) {
-  return std::visit(
-      []<class T>(const T& held) -> Json {
-        if constexpr (std::is_same_v<T, host::Date>) {
-          return replay::ToJson(held);
-        } else {
-          return held;
-        }
-      },
-      value);
+  return std::visit([](const auto& held) { return FieldJson(held); }, value);
 }
 
 std::string_view InWords(host::MessageAnswer answer) {
@@ -132,4 +125,4 @@ void Transcript::OnReport(const host::ErrorRecord& record) {
                           {"ErrorSource", record.ErrorSource}}}});
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

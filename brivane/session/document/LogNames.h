@@ -4,9 +4,9 @@
 #include <string_view>
 #include <utility>
 
-#include "replay/document/Document.h"
+#include <brivane/session/document/Document.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 /// How a document names the lines that a transcript can hold.
 inline constexpr std::array<std::pair<std::string_view, Log>, 7> kLogNames{{{"trace", Log::Trace},
@@ -17,4 +17,4 @@ inline constexpr std::array<std::pair<std::string_view, Log>, 7> kLogNames{{{"tr
                                                                             {"results", Log::Results},
                                                                             {"reads", Log::Reads}}};
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

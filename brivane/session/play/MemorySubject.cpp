@@ -1,14 +1,13 @@
-#include "replay/play/MemorySubject.h"
-
 #include <utility>
 
-#include "replay/play/OnSurface.h"
-#include <brivane/frame/GroupedNumber.h>
+#include <brivane/session/play/GroupSeparator.h>
+#include <brivane/session/play/MemorySubject.h>
+#include <brivane/session/play/OnSurface.h>
 #include <brivane/toolkits/memory/Toolkit.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 #include <brivane/vrijekolom/VrijeKolom.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 namespace {
 
@@ -64,7 +63,7 @@ class MemorySubject final : public OnSurface<Subject> {
     desktop.title = document.title;
     desktop.twipsPerPixelX = document.twipsPerPixelX;
     desktop.twipsPerPixelY = document.twipsPerPixelY;
-    desktop.groupSeparator = frame::GroupSeparator(document.locale);
+    desktop.groupSeparator = GroupSeparator(document.locale);
     desktop.answer = [this](const std::string& title, const std::string& text, host::MessageStyle style) {
       return audience_.OnMessage(title, text, style);
     };
@@ -103,4 +102,4 @@ std::unique_ptr<Subject> MakeMemorySubject(const Document& document, Instrumente
   return std::make_unique<MemorySubject>(document, host, audience);
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

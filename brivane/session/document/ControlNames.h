@@ -6,7 +6,7 @@
 
 #include <brivane/frame/Design.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 /// The elements that a control array can have.
 struct ElementRange {
@@ -31,4 +31,4 @@ struct NamedControl {
 /// "optLast(2)", "TxtBd".
 [[nodiscard]] std::string ElementName(std::string_view name, std::optional<int> index);
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -7,9 +7,9 @@
 #include <random>
 #include <string>
 
-#include "replay/document/Json.h"
+#include <brivane/session/document/Json.h>
 
-namespace brivane::replay::test {
+namespace brivane::session {
 namespace {
 
 std::string Line(const Json& value) {
@@ -88,4 +88,4 @@ TEST(Json, NestingIsCountedInArraysAndObjectsAlike) {
 }
 
 }  // namespace
-}  // namespace brivane::replay::test
+}  // namespace brivane::session

@@ -1,21 +1,20 @@
-#include "replay/play/Dump.h"
-
-#include "replay/document/Document.h"
 #include <brivane/host/Error.h>
+#include <brivane/host/model/PeriodeFields.h>
+#include <brivane/host/model/VrijeKolomFields.h>
+#include <brivane/session/document/FieldJson.h>
+#include <brivane/session/play/Dump.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 namespace {
 
 Json ToJson(const controls::DumpValue& value) {
   return std::visit(
       []<class T>(const T& held) -> Json {
-        if constexpr (std::is_same_v<T, host::Date>)
-          return replay::ToJson(held);
-        else if constexpr (std::is_same_v<T, std::monostate>)
+        if constexpr (std::is_same_v<T, std::monostate>)
           return nullptr;
         else
-          return held;
+          return FieldJson(held);
       },
       value);
 }
@@ -60,25 +59,11 @@ Json DumpControl(const controls::ControlDump& control) {
   return json;
 }
 
-dossier::PeriodeGegevens Read(const host::Periode& periode) {
-  dossier::PeriodeGegevens gegevens;
-  host::ForEach(host::kPeriodeFields, [&](const auto& field) { gegevens.*field.value = field.Read(periode); });
-  return gegevens;
-}
-
-dossier::BedragGegevens Read(host::BedragObject& bedrag) {
-  dossier::BedragGegevens gegevens{
-      .Naam = bedrag.Naam(), .Invoersoort = bedrag.Invoersoort(), .Bedrag = bedrag.Bedrag(), .Perioden = {}};
-  for (std::int16_t positie = 1; const auto periode = bedrag.Periode(positie); ++positie)
-    gegevens.Perioden.push_back(Read(*periode));
-  return gegevens;
-}
-
-dossier::KolomGegevens Read(host::VrijeKolomItem& kolom) {
-  dossier::KolomGegevens gegevens;
-  host::ForEach(host::kVrijeKolomFields, [&](const auto& field) { gegevens.*field.value = field.Read(kolom); });
-  gegevens.Bedrag = Read(host::Need(kolom.Bedrag()));
-  return gegevens;
+/// The fields of a record, by name in the order of their table.
+template <class Table, class Record> Json Fields(const Table& table, const Record& record) {
+  Json json = Json::object();
+  host::ForEach(table, [&](const auto& field) { json[std::string(field.name)] = FieldJson(field.Read(record)); });
+  return json;
 }
 
 }  // namespace
@@ -93,8 +78,18 @@ Json DumpControls(const std::vector<controls::ControlDump>& dump) {
   return controls;
 }
 
-Json DumpRecord(host::VrijeKolomItem& kolom) { return replay::ToJson(Read(kolom)); }
+Json DumpRecord(host::VrijeKolomItem& kolom) {
+  Json json = Fields(host::kVrijeKolomFields, kolom);
+  json["Bedrag"] = DumpRecord(host::Need(kolom.Bedrag()));
+  return json;
+}
 
-Json DumpRecord(host::BedragObject& bedrag) { return replay::ToJson(Read(bedrag)); }
+Json DumpRecord(host::BedragObject& bedrag) {
+  Json json{{"Naam", bedrag.Naam()}, {"Invoersoort", bedrag.Invoersoort()}, {"Bedrag", bedrag.Bedrag()}};
+  Json& perioden = json["Perioden"] = Json::array();
+  for (std::int16_t positie = 1; const auto periode = bedrag.Periode(positie); ++positie)
+    perioden.push_back(Fields(host::kPeriodeFields, *periode));
+  return json;
+}
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -9,10 +9,10 @@
 #include <string>
 #include <string_view>
 
-#include "replay/document/Json.h"
 #include <brivane/host/Date.h>
+#include <brivane/session/document/Json.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 /// One value of a document with its place in it. Asking for a type that it does not have throws BadInput.
 class Value {
@@ -59,4 +59,4 @@ class Value {
   std::string place_;
 };
 
-}  // namespace brivane::replay
+}  // namespace brivane::session

@@ -1,10 +1,9 @@
-#include "replay/document/ControlNames.h"
-
 #include <brivane/scenario/Indeling.h>
 #include <brivane/scenario/Ontwerp.h>
+#include <brivane/session/document/ControlNames.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
-namespace brivane::replay {
+namespace brivane::session {
 
 namespace {
 
@@ -60,4 +59,4 @@ std::string ElementName(std::string_view name, std::optional<int> index) {
   return element;
 }
 
-}  // namespace brivane::replay
+}  // namespace brivane::session
