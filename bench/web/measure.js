@@ -19,6 +19,12 @@ export function fill(boxes) {
 /** Milliseconds that a piece of window.work takes. */
 window.timed = async (name) => {
   const from = performance.now();
-  await window.work[name]();
+  await window.work[name]?.();
   return performance.now() - from;
+};
+
+/** How much stands in a part of the page. */
+export const countOf = (root) => {
+  const count = (selector) => root.querySelectorAll(selector).length;
+  return { boxes: count('input[type="text"]:not(:disabled, :read-only)'), controls: count('input, select, button'), elements: count('*') };
 };

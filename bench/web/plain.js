@@ -3,7 +3,7 @@
 // written at once. In the form an amount makes the percentage of the row before it, and those after it grow. Nothing is
 // checked that the language does not check by itself, nothing can be taken back, and nothing follows the size of the
 // page's font.
-import { fill, laidOut } from './measure.js';
+import { countOf, fill, laidOut } from './measure.js';
 
 const ROWS = 80;
 const PER_COLUMN = 20;
@@ -190,4 +190,5 @@ window.work = {
     }),
   fill: () => fill(form.area.querySelectorAll('input')),
 };
+window.counts = () => ({ editor: countOf(document.querySelector('main .area')), form: countOf(form.dialog) });
 window.isReady = true;

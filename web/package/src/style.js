@@ -35,7 +35,7 @@ const CSS_TEXT = `
   --faint: light-dark(#5c6168, #a4abb4);
 }
 :host([hidden]), [hidden] { display: none !important; }
-*, .frame::before, .calendar::before { box-sizing: border-box; }
+*, .frame::before, .calendar::before, .message .text::before { box-sizing: border-box; }
 input, select, button { font: inherit; color: inherit; margin: 0; }
 fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .control { position: absolute; }
