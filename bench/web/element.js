@@ -1,7 +1,7 @@
 // The element, on the machine with the form by itself.
 import { machineSize, openYearForm, ready } from '/bench-package/src/index.js';
 import { makeHost } from '/tests/pages/host.js';
-import { countOf, fill, laidOut } from './measure.js';
+import { boxesOf, countOf, fill, laidOut } from './measure.js';
 
 const YEARS = 80;
 const FIELDS = { Id: 1, Omschrijving: 'Rente', DatumAanvang: '2031-04-01', Looptijd: 960, Bedrag: { Bedrag: 2.5, Invoersoort: 3 } };
@@ -13,7 +13,6 @@ async function addEditor() {
   await editor.setApplication(application, 0, 1);
   return { editor, item };
 }
-const boxes = (root) => [...root.querySelectorAll('input[type="text"]')].filter((box) => !box.disabled && !box.readOnly);
 
 await ready;
 const { editor, item } = await laidOut(addEditor);
@@ -22,7 +21,7 @@ const form = () => editor.shadowRoot.querySelector('dialog.form');
 window.work = {
   editor: () => laidOut(addEditor),
   form: () => laidOut(() => openYearForm(editor, item.Bedrag, YEARS)),
-  fill: () => fill(boxes(form()).slice(0, 3 * YEARS)),
+  fill: () => fill(boxesOf(form())),
 };
 window.counts = () => ({ editor: countOf(editor.shadowRoot.querySelector('.surface')), form: countOf(form()) });
 /** Makes, binds and takes away an editor, so many times. */

@@ -23,8 +23,11 @@ window.timed = async (name) => {
   return performance.now() - from;
 };
 
+/** What can be typed in. */
+export const boxesOf = (root) => [...root.querySelectorAll('input[type="text"]:not(:disabled, :read-only)')].filter((box) => box.checkVisibility());
+
 /** How much stands in a part of the page. */
 export const countOf = (root) => {
   const count = (selector) => root.querySelectorAll(selector).length;
-  return { boxes: count('input[type="text"]:not(:disabled, :read-only)'), controls: count('input, select, button'), elements: count('*') };
+  return { boxes: boxesOf(root).length, controls: count('input, select, button'), elements: count('*') };
 };
