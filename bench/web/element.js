@@ -1,35 +1,35 @@
-import { ready } from '/package/src/index.js';
+// The element, on the machine with the form by itself.
+import { machineSize, openYearForm, ready } from '/bench-package/src/index.js';
 import { makeHost } from '/tests/pages/host.js';
-import { timed } from './measure.js';
+import { boxesOf, countOf, fill, laidOut } from './measure.js';
 
-/** Young enough for eighty years. */
-const SETTINGS = { personen: [{ Naam: ['J.', 'van', 'Dam'], Geboortedatum: '2031-01-01' }], Leeftijd: 120 };
+const YEARS = 80;
 const FIELDS = { Id: 1, Omschrijving: 'Rente', DatumAanvang: '2031-04-01', Looptijd: 960, Bedrag: { Bedrag: 2.5, Invoersoort: 3 } };
 
 async function addEditor() {
   const editor = document.createElement('vrije-kolom');
   document.querySelector('main').append(editor);
-  await editor.setApplication(makeHost([FIELDS], SETTINGS).application, 0, 1);
-  return editor;
+  const { application, item } = makeHost([FIELDS]);
+  await editor.setApplication(application, 0, 1);
+  return { editor, item };
 }
-const boxes = (root) => [...root.querySelectorAll('input[type="text"]')].filter((box) => !box.disabled);
 
 await ready;
-const editor = await addEditor();
-editor.getBoundingClientRect();
+const { editor, item } = await laidOut(addEditor);
 window.started = performance.now();
-window.anotherEditor = () => timed(addEditor);
-const named = (name) => [...editor.shadowRoot.querySelectorAll('button')].find((button) => button.node?.design.name === name);
-window.openForm = () => timed(() => named('cmdScenario').click());
-window.counts = () => ({ editor: boxes(editor.shadowRoot).length, form: editor.shadowRoot.querySelectorAll('dialog input').length,
-  filled: boxes(editor.shadowRoot.querySelector('dialog.form')).length });
-window.fillForm = () =>
-  timed(() => {
-    for (const box of boxes(editor.shadowRoot.querySelector('dialog.form'))) {
-      box.focus();
-      box.value = '12,5';
-      box.dispatchEvent(new Event('input', { bubbles: true }));
-      box.dispatchEvent(new KeyboardEvent('keydown', { key: 'Enter', bubbles: true, cancelable: true }));
-    }
-  });
+const form = () => editor.shadowRoot.querySelector('dialog.form');
+window.work = {
+  editor: () => laidOut(addEditor),
+  form: () => laidOut(() => openYearForm(editor, item.Bedrag, YEARS)),
+  fill: () => fill(boxesOf(form())),
+};
+window.counts = () => ({ editor: countOf(editor.shadowRoot.querySelector('.surface')), form: countOf(form()) });
+/** Makes, binds and takes away an editor, so many times. */
+window.comeAndGo = async (times) => {
+  for (let i = 0; i < times; ++i) {
+    (await addEditor()).editor.remove();
+    await null;
+  }
+};
+window.machineSize = machineSize;
 window.isReady = true;

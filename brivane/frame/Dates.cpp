@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 #include <vector>
 
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Dates.h>
+#include <brivane/frame/Padded.h>
 #include <brivane/frame/Trim.h>
 
 namespace brivane::frame {
@@ -87,9 +87,7 @@ Reading<host::Date> ReadPastDate(std::string_view text, host::Date today) {
 std::string ShowDate(host::Date date) {
   if (date.IsNone()) return {};
   const frame::YearMonthDay parts = frame::Split(date);
-  char text[32];
-  std::snprintf(text, sizeof text, "%02d-%02d-%04d", parts.day, parts.month, parts.year);
-  return text;
+  return Padded(parts.day, kShortYear) + "-" + Padded(parts.month, kShortYear) + "-" + Padded(parts.year, kFullYear);
 }
 
 Phrase LongDate(host::Date date) { return date.IsNone() ? Phrase() : InWords(frame::Split(date)); }

@@ -27,7 +27,7 @@ before(() => {
 
 test('package.HoldsTheModuleTheMachineAndTheDeclarations', () => {
   const files = readdirSync(installed, { recursive: true }).map(String);
-  for (const file of ['src/index.js', 'src/index.d.ts', 'src/model.d.ts', 'machine/machine.js', 'machine/machine.wasm', 'translations/brivane_en.ts', 'README.md'])
+  for (const file of ['src/index.js', 'src/index.d.ts', 'src/model.d.ts', 'src/machine.wasm', 'translations/brivane_en.ts', 'README.md'])
     assert.ok(files.includes(file), file);
   assert.deepEqual(files.filter((file) => /test|door/.test(file)), []);
 });
@@ -74,7 +74,7 @@ test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   mkdirSync(`${made}web/demo`, { recursive: true });
   cpSync(`${top}web/demo/model.js`, `${made}web/demo/model.js`);
   tool('esbuild', `${entry}main.js`, '--bundle', '--format=esm', '--minify', `--outfile=${entry}form.js`);
-  cpSync(`${installed}machine/machine.wasm`, `${entry}machine.wasm`);
+  cpSync(`${installed}src/machine.wasm`, `${entry}machine.wasm`);
   const page = await open('/made/examples/web/form/index.html');
   await page.waitForFunction(() => document.body.dataset.result === 'bound');
   const person = new Person(page);

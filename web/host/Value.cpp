@@ -1,10 +1,10 @@
 #include "web/host/Value.h"
 
 #include <cmath>
-#include <cstdio>
 
 #include <brivane/frame/Calendar.h>
 #include <brivane/frame/Conversions.h>
+#include <brivane/frame/Padded.h>
 #include <brivane/host/Error.h>
 
 namespace brivane::webhost {
@@ -41,10 +41,8 @@ host::Date ReadDate(const std::string& text) {
 Value::Value(host::Date given) : Value() {
   if (given.IsNone()) return;
   const frame::YearMonthDay day = frame::Split(given);
-  char written[40];
-  std::snprintf(written, sizeof written, "%04d-%02d-%02d", day.year, day.month, day.day);
   type = Type::Text;
-  text = written;
+  text = frame::Padded(day.year, 4) + "-" + frame::Padded(day.month, 2) + "-" + frame::Padded(day.day, 2);
 }
 
 template <> bool As<bool>(const Value& value) {

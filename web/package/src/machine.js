@@ -17,7 +17,7 @@ const gone = new FinalizationRegistry((number) => endView(number));
 const viewOf = (number) => views.get(number)?.deref();
 
 /** A member of the view that the machine names first; what is gone answers nothing. */
-const toView = (name) => (number, ...given) => viewOf(number)?.[name](...given) ?? 0;
+const toView = (name) => (number, one, two, three, four, five) => viewOf(number)?.[name](one, two, three, four, five) ?? 0;
 
 function calls(of) {
   const page = {
@@ -52,11 +52,28 @@ function groupSeparator() {
   return parts.find((part) => part.type === 'group')?.value ?? '.';
 }
 
+const place = new URL('machine.wasm', import.meta.url);
+/** Compiled while it comes in, which begins as soon as this module is there. */
+const compiled = WebAssembly.compileStreaming(fetch(place)).catch(async () => {
+  // A server that does not know the type of the file.
+  const answer = await fetch(place);
+  if (!answer.ok) throw new Error(`${place}: ${answer.status}`);
+  return WebAssembly.compile(await answer.arrayBuffer());
+});
+compiled.catch(() => {});
+
 /** Starts the machine, once. */
 export function load() {
   loading ??= (async () => {
     const of = {};
-    const started = await createMachine(calls(of));
+    const module = await compiled;
+    const started = await new Promise((done, failed) => {
+      const instantiateWasm = (imports, receive) => {
+        WebAssembly.instantiate(module, imports).then((instance) => receive(instance), failed);
+        return {};
+      };
+      createMachine({ ...calls(of), instantiateWasm }).then(done, failed);
+    });
     memory = new Memory(started);
     of.host = new Host(started, memory, viewOf);
     machine = started;
@@ -73,6 +90,7 @@ export function newView(view, kind) {
   view.number = number;
   machine._brivane_new(number, kind);
   machine._brivane_speak(number, view.language.number);
+  view.appear();
 }
 
 function endView(number) {

@@ -2,7 +2,7 @@
 // and `area` is where others stand in it.
 
 import { colorsOf } from './colors.js';
-import { TWIP } from './style.js';
+import { TWIPS_AN_EM } from './style.js';
 
 /** As in Control.h. */
 const Kind = Object.freeze({
@@ -21,13 +21,38 @@ export const Shows = Object.freeze({
 const TWIPS_A_POINT = 20;
 
 const make = (name, className, properties = {}) => Object.assign(document.createElement(name), { className }, properties);
-const twips = (length) => `calc(${length} * var(${TWIP}))`;
+/** The same with its name for `::part`. */
+function shown(name, className, part, properties) {
+  const made = make(name, className, properties);
+  made.setAttribute('part', part);
+  return made;
+}
+
+/** Copying an element takes a fraction of what making it takes, so each is made once. */
+const patterns = new Map();
+function copy(key, pattern) {
+  let made = patterns.get(key);
+  if (made === undefined) patterns.set(key, (made = pattern()));
+  return made.cloneNode(true);
+}
+
+/** Lengths as texts; most stand in many rows. */
+const MOST_LENGTHS = 2000;
+const lengths = new Map();
+function ems(length) {
+  let text = lengths.get(length);
+  if (text !== undefined) return text;
+  if (lengths.size === MOST_LENGTHS) lengths.clear();
+  lengths.set(length, (text = `${length}em`));
+  return text;
+}
 
 /** What the controls say themselves is Dutch, whatever is spoken around them. */
 const OWN_LANGUAGE = 'nl';
 
 /** A caption with an "&" before the letter to underline, and "&&" for one to show. */
 export function writeCaption(element, marked) {
+  if (!marked.includes('&')) return void (element.textContent = marked);
   const parts = marked.split(/&(.)/s);
   const texts = parts.map((part, i) => {
     if (i % 2 === 0 || part === '&') return part;
@@ -40,10 +65,13 @@ export function writeCaption(element, marked) {
 
 class Node {
   isLabel = false;
+  /** The node that it stands in, or nothing. */
+  around = null;
+  /** How high its text is where that is not as high as the text around it, in twips. */
+  #font = null;
 
   constructor(view, id, design, outer, { input = null, area = outer, caption = null } = {}) {
     Object.assign(this, { view, id, design, outer, input, area, caption });
-    outer.classList.add('control');
     if (input !== null) {
       input.id = `c${id}`;
       input.node = this;
@@ -53,12 +81,36 @@ class Node {
   }
 
   place(left, top, width, height) {
-    const style = this.outer.style;
     this.twips = [left, top, width, height];
-    style.left = twips(left);
-    style.top = twips(top);
-    style.width = twips(width);
-    style.height = twips(height);
+    this.putInPlace();
+  }
+
+  /** How high its text is, in twips. */
+  get em() {
+    return this.#font ?? this.around?.em ?? TWIPS_AN_EM;
+  }
+  /** A length of the design as one of this element: by its text, which the browser reads faster than what is to be reckoned. */
+  length(twips) {
+    return ems(twips / this.em);
+  }
+  putInPlace() {
+    const style = this.outer.style;
+    const [left, top, width, height] = this.twips;
+    const { em } = this;
+    style.left = ems(left / em);
+    style.top = ems(top / em);
+    style.width = ems(width / em);
+    style.height = ems(height / em);
+  }
+  /** Lengths keep what they are when the text gets another size. */
+  #resize(font) {
+    this.#font = font;
+    this.#putAnew();
+  }
+  #putAnew() {
+    if (this.#font !== null) this.outer.style.fontSize = ems(this.#font / (this.around?.em ?? TWIPS_AN_EM));
+    if (this.twips !== undefined) this.putInPlace();
+    for (const node of this.view.nodes.values()) if (node.around === this) node.#putAnew();
   }
 
   show(what, number, text) {
@@ -66,7 +118,7 @@ class Node {
       case Shows.enabled: return this.enable(number !== 0);
       case Shows.visible: this.outer.hidden = number === 0; return;
       case Shows.caption: if (this.caption !== null) writeCaption(this.caption, text); return;
-      case Shows.fontSize: this.outer.style.fontSize = twips(number * TWIPS_A_POINT); return;
+      case Shows.fontSize: return this.#resize(number * TWIPS_A_POINT);
       case Shows.backColor: return this.color(number);
       case Shows.focus: this.input?.focus(); return;
       case Shows.label: this.input?.setAttribute('aria-label', text); return;
@@ -91,11 +143,9 @@ class Node {
 
 class Frame extends Node {
   constructor(view, id, design) {
-    const outer = make('fieldset', design.bordered ? 'frame' : 'plain');
-    outer.part = 'frame';
-    const legend = design.bordered ? make('legend', 'legend') : null;
+    const outer = shown('fieldset', design.bordered ? 'control frame' : 'control plain', 'frame');
+    const legend = design.bordered ? shown('legend', 'legend', 'legend') : null;
     if (legend !== null) {
-      legend.part = 'legend';
       outer.append(legend);
       legend.order = -1;
     } else if (design.caption !== '') {
@@ -114,34 +164,39 @@ class Label extends Node {
 
   constructor(view, id, design) {
     const leads = design.caption.includes('&');
-    const outer = make(leads ? 'label' : 'span', design.multiline ? 'label lines' : 'label');
-    outer.part = 'label';
+    const name = leads ? 'label' : 'span';
+    const className = design.multiline ? 'control label lines' : 'control label';
+    const outer = copy(name + className, () => shown(name, className, 'label'));
     super(view, id, design, outer, { caption: outer });
   }
 }
 
+function makeBox(format) {
+  const isNumber = [Format.amount, Format.number, Format.whole].includes(format);
+  const className = (isNumber ? 'box number' : 'box') + (format === Format.date ? '' : ' control');
+  const input = shown('input', className, 'box', { type: 'text', autocomplete: 'off' });
+  input.spellcheck = format === Format.text;
+  if (isNumber) input.inputMode = format === Format.whole ? 'numeric' : 'decimal';
+  return input;
+}
+
 class TextBox extends Node {
   constructor(view, id, design) {
-    const number = [Format.amount, Format.number, Format.whole].includes(design.format);
-    const input = make('input', number ? 'box number' : 'box', { type: 'text', autocomplete: 'off' });
-    input.part = 'box';
-    input.spellcheck = design.format === Format.text;
-    if (number) input.inputMode = design.format === Format.whole ? 'numeric' : 'decimal';
-    const date = design.format === Format.date;
-    super(view, id, design, date ? make('span', 'date') : input, { input });
+    const { format } = design;
+    const date = format === Format.date;
+    const input = copy(`box${format}`, () => makeBox(format));
+    super(view, id, design, date ? make('span', 'control date') : input, { input });
     if (date) this.#addCalendar();
   }
 
   #addCalendar() {
-    // The browser's own calendar; what is picked there is typed over by the machine.
-    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
-    this.picker.node = this;
-    const button = make('button', 'calendar', { type: 'button', tabIndex: -1 });
-    button.ariaHidden = 'true';
-    button.part = 'calendar';
-    button.node = this;
-    this.button = button;
-    this.outer.append(this.input, this.picker, button);
+    this.button = copy('calendar', () => {
+      const button = shown('button', 'calendar', 'calendar', { type: 'button', tabIndex: -1 });
+      button.ariaHidden = 'true';
+      return button;
+    });
+    this.button.node = this;
+    this.outer.append(this.input, this.button);
     this.speak();
   }
   speak() {
@@ -151,7 +206,8 @@ class TextBox extends Node {
   }
 
   openCalendar() {
-    if (this.picker === undefined || this.input.disabled || this.input.readOnly) return false;
+    if (this.button === undefined || this.input.disabled || this.input.readOnly) return false;
+    if (this.picker === undefined) this.#addPicker();
     const [day, month, year] = this.input.value.split('-');
     this.picker.value = /^\d\d-\d\d-\d{4}$/.test(this.input.value) ? `${year}-${month}-${day}` : '';
     try {
@@ -160,6 +216,13 @@ class TextBox extends Node {
       // Without a press or a key of a person, and in a frame of another origin, there is none.
     }
     return true;
+  }
+
+  /** The browser's own calendar, which few open; what is picked there is typed over by the machine. */
+  #addPicker() {
+    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
+    this.picker.node = this;
+    this.input.after(this.picker);
   }
 
   show(what, number, text) {
@@ -179,10 +242,12 @@ class TextBox extends Node {
 
 class Toggle extends Node {
   constructor(view, id, design) {
-    const outer = make('button', 'toggle', { type: 'button' });
-    outer.part = 'toggle';
-    outer.setAttribute('role', 'switch');
-    outer.append(...['Ja', 'Nee'].map((answer) => make('span', '', { textContent: answer, ariaHidden: 'true' })));
+    const outer = copy('toggle', () => {
+      const toggle = shown('button', 'control toggle', 'toggle', { type: 'button' });
+      toggle.setAttribute('role', 'switch');
+      toggle.append(...['Ja', 'Nee'].map((answer) => make('span', '', { textContent: answer, ariaHidden: 'true' })));
+      return toggle;
+    });
     super(view, id, design, outer, { input: outer });
   }
   show(what, number, text) {
@@ -196,11 +261,14 @@ class Hint extends Node {
   isHint = true;
 
   constructor(view, id, design) {
-    const outer = make('span', 'hint');
-    const input = make('button', 'help', { type: 'button', textContent: '?' });
-    input.part = 'hint';
-    const text = make('span', 'spoken', { id: `t${id}`, textContent: design.caption });
-    outer.append(input, text);
+    const outer = copy('hint', () => {
+      const hint = make('span', 'control hint');
+      hint.append(shown('button', 'help', 'hint', { type: 'button', textContent: '?' }), make('span', 'spoken'));
+      return hint;
+    });
+    const [input, text] = outer.children;
+    text.id = `t${id}`;
+    text.textContent = design.caption;
     super(view, id, design, outer, { input });
     input.setAttribute('aria-describedby', text.id);
     this.speak();
@@ -212,11 +280,12 @@ class Hint extends Node {
 
 class Choice extends Node {
   constructor(view, id, design, type) {
-    const outer = make('label', 'choice');
-    outer.part = type === 'radio' ? 'option' : 'check';
-    const input = make('input', '', { type });
-    const caption = make('span', 'text');
-    outer.append(input, caption);
+    const outer = copy(type, () => {
+      const choice = shown('label', 'control choice', type === 'radio' ? 'option' : 'check');
+      choice.append(make('input', '', { type }), make('span', 'text'));
+      return choice;
+    });
+    const [input, caption] = outer.children;
     if (type === 'radio') input.name = `${view.number}-${design.group}`;
     super(view, id, design, outer, { input, caption });
   }
@@ -232,8 +301,7 @@ class Choice extends Node {
 
 class List extends Node {
   constructor(view, id, design) {
-    const outer = make('select', 'box select');
-    outer.part = 'list';
+    const outer = shown('select', 'control box select', 'list');
     super(view, id, design, outer, { input: outer });
   }
   show(what, number, text) {
@@ -246,8 +314,7 @@ class List extends Node {
 
 class Button extends Node {
   constructor(view, id, design) {
-    const outer = make('button', 'button', { type: 'button' });
-    outer.part = 'button';
+    const outer = copy('button', () => shown('button', 'control button', 'button', { type: 'button' }));
     super(view, id, design, outer, { input: outer, caption: outer });
   }
   color() {}
@@ -255,8 +322,7 @@ class Button extends Node {
 
 class ListView extends Node {
   constructor(view, id, design) {
-    const outer = make('div', 'listview', { tabIndex: 0 });
-    outer.part = 'table';
+    const outer = shown('div', 'control listview', 'table', { tabIndex: 0 });
     outer.setAttribute('role', 'region');
     const table = make('table', '');
     table.setAttribute('aria-label', design.label);
@@ -273,7 +339,7 @@ class ListView extends Node {
       case Shows.columns: heads.replaceChildren(); return;
       case Shows.heading: {
         const head = make('th', '', { scope: 'col', textContent: text });
-        head.style.width = twips(number);
+        head.style.width = this.length(number);
         head.twips = number;
         heads.append(head);
         return;
@@ -303,11 +369,9 @@ function select(row, selected) {
 
 class Surface extends Node {
   constructor(view, id, design) {
-    const outer = make('div', 'surface');
-    outer.part = 'surface';
+    const outer = shown('div', 'control surface', 'surface');
     const area = make('div', 'area');
-    const veil = make('p', 'veil', { hidden: true });
-    veil.part = 'veil';
+    const veil = shown('p', 'veil', 'veil', { hidden: true });
     outer.append(area, veil);
     super(view, id, design, outer, { area });
     this.veil = veil;
@@ -333,11 +397,9 @@ class Surface extends Node {
 
 class Form extends Node {
   constructor(view, id, design) {
-    const outer = make('dialog', 'form');
-    outer.part = 'dialog form';
+    const outer = shown('dialog', 'control form', 'dialog form');
     outer.setAttribute('aria-labelledby', `f${id}`);
-    const head = make('div', 'head');
-    head.part = 'head';
+    const head = shown('div', 'head', 'head');
     const title = make('div', 'title', { id: `f${id}` });
     const close = make('button', 'close', { type: 'button', textContent: '×' });
     const scroll = make('div', 'scroll');
@@ -355,10 +417,10 @@ class Form extends Node {
     this.closeButton.ariaLabel = this.view.language.of('Close');
     this.closeButton.lang = this.view.language.tag;
   }
-  place(left, top, width, height) {
-    this.twips = [left, top, width, height];
-    this.area.style.width = twips(width);
-    this.area.style.height = twips(height);
+  putInPlace() {
+    const [, , width, height] = this.twips;
+    this.area.style.width = this.length(width);
+    this.area.style.height = this.length(height);
   }
   enable(enabled) {
     this.area.inert = !enabled;

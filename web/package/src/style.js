@@ -1,9 +1,7 @@
 // How the controls look. Lengths of the design are twips, of which a text of the page's size has as many as the design's
 // font of 9 points; colours are those of the page's scheme.
 
-/** The length that all others are made of. */
-export const TWIP = '--vrije-kolom-twip';
-/** As many are as long as the text around the element is high: the design's font of 9 points. */
+/** As many twips are as long as the text around the element is high: the design's font of 9 points. */
 export const TWIPS_AN_EM = 180;
 
 let made = null;
@@ -11,18 +9,14 @@ let made = null;
 /** The style of every element, made once. */
 export function sheet() {
   if (made === null) {
-    // A length of the element's own text, whatever the text around what it is used for.
-    try {
-      CSS.registerProperty({ name: TWIP, syntax: '<length>', inherits: true, initialValue: '1px' });
-    } catch {
-      // Another copy of this module on the page was first.
-    }
     made = new CSSStyleSheet();
     made.replaceSync(CSS_TEXT);
   }
   return made;
 }
 
+// A custom property is put in its place for each element anew, in as many properties as a shorthand has: so none stands in a
+// longer one than it needs.
 const CSS_TEXT = `
 :host {
   display: block;
@@ -40,10 +34,9 @@ const CSS_TEXT = `
   --field: var(--vrije-kolom-field, light-dark(#fff, #1f2329));
   --face: var(--vrije-kolom-face, light-dark(#f1f3f5, #343a42));
   --faint: light-dark(#5c6168, #a4abb4);
-  ${TWIP}: calc(1em / ${TWIPS_AN_EM});
 }
 :host([hidden]), [hidden] { display: none !important; }
-*, *::before { box-sizing: border-box; }
+*, .frame::before, .calendar::before, .message .text::before { box-sizing: border-box; }
 input, select, button { font: inherit; color: inherit; margin: 0; }
 fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .control { position: absolute; }
@@ -57,7 +50,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .veil { position: absolute; inset: 0; margin: 0; display: grid; place-items: center; text-align: center; }
 
 .frame::before {
-  content: ""; position: absolute; inset: .55em 0 0; border: 1px solid var(--line); border-radius: 3px; pointer-events: none;
+  content: ""; position: absolute; inset: .55em 0 0; border: 1px solid; border-color: var(--line); border-radius: 3px; pointer-events: none;
 }
 .legend {
   position: absolute; left: .5em; top: 0; padding: 0 .3em; background: var(--vrije-kolom-background, Canvas); line-height: 1.15;
@@ -68,14 +61,14 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 .disabled, .disabled .label, fieldset:disabled .label, fieldset:disabled .choice { color: GrayText; }
 
 .box {
-  padding: 0 .3em; border: 1px solid var(--line); border-radius: 2px; background: var(--field); color: CanvasText;
+  padding: 0 .3em; border: 1px solid; border-color: var(--line); border-radius: 2px; background-color: var(--field); color: CanvasText;
   min-width: 0; min-height: 0; text-overflow: ellipsis;
 }
 .box:disabled { pointer-events: none; }
 .number { text-align: right; }
 .date .box { position: absolute; inset: 0; width: 100%; height: 100%; padding-right: 1.6em; }
-.box:disabled { color: GrayText; background: var(--face); opacity: 1; }
-.box:read-only:not(select) { background: var(--face); }
+.box:disabled { color: GrayText; background-color: var(--face); opacity: 1; }
+.box:read-only:not(select) { background-color: var(--face); }
 .box[aria-invalid] { border-color: light-dark(#b3140e, #ff8a80); }
 .picker { position: absolute; inset: auto 0 0 0; width: 100%; height: 0; opacity: 0; border: 0; padding: 0; pointer-events: none; }
 .calendar {
@@ -86,53 +79,53 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 }
 .calendar:disabled { color: GrayText; }
 
-.toggle { display: grid; grid-template-columns: 1fr 1fr; padding: 0; border: 1px solid var(--line); border-radius: 2px; background: var(--field); color: CanvasText; overflow: hidden; }
+.toggle { display: grid; grid-template-columns: 1fr 1fr; padding: 0; border: 1px solid; border-color: var(--line); border-radius: 2px; background-color: var(--field); color: CanvasText; overflow: hidden; }
 .toggle span { display: grid; place-items: center; height: 100%; }
 .toggle[aria-checked="true"] span:first-child, .toggle[aria-checked="false"] span:last-child {
-  background: var(--accent); color: var(--on-accent); forced-color-adjust: none;
+  background-color: var(--accent); color: var(--on-accent); forced-color-adjust: none;
 }
 .toggle:disabled { color: GrayText; }
 .toggle:disabled[aria-checked="true"] span:first-child, .toggle:disabled[aria-checked="false"] span:last-child {
-  background: var(--faint); color: Canvas;
+  background-color: var(--faint); color: Canvas;
 }
 .choice { display: flex; align-items: center; gap: .35em; white-space: nowrap; }
 .choice input { width: 1.05em; height: 1.05em; flex: none; accent-color: var(--accent); }
 .button, .buttons button, .close {
-  padding: 0 .6em; border: 1px solid var(--line); border-radius: 3px; background: var(--face); white-space: nowrap;
+  padding: 0 .6em; border: 1px solid; border-color: var(--line); border-radius: 3px; background-color: var(--face); white-space: nowrap;
 }
 .button:disabled { color: GrayText; }
 .hint { display: grid; place-items: center; }
 .help {
-  width: 100%; aspect-ratio: 1; padding: 0; border: 0; border-radius: 50%; background: var(--accent); color: var(--on-accent);
+  width: 100%; aspect-ratio: 1; padding: 0; border: 0; border-radius: 50%; background-color: var(--accent); color: var(--on-accent);
   font-weight: bold; line-height: 1; forced-color-adjust: none;
 }
 .spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
 .tip, .bubble {
-  border: 1px solid var(--line); border-radius: 3px; background: light-dark(#fffbe6, #2b2f36); color: CanvasText;
+  border: 1px solid; border-color: var(--line); border-radius: 3px; background-color: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);
   position: fixed; inset: auto; margin: 0; width: max-content; max-width: min(34em, 92vw); padding: .3em .5em; pointer-events: none;
 }
 
-.listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
+.listview { overflow: auto; border: 1px solid; border-color: var(--line); background-color: var(--field); color: CanvasText; }
 table { border-collapse: collapse; table-layout: fixed; width: 100%; }
-th, thead tr::after { position: sticky; top: 0; background: var(--face); font-weight: normal; border-right: 1px solid var(--line); }
+th, thead tr::after { position: sticky; top: 0; background-color: var(--face); font-weight: normal; border-right: 1px solid; border-color: var(--line); }
 th:last-child, thead tr::after { border-right: 0; }
 th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
 tr::after { content: ""; display: table-cell; }  /* columns are as wide as designed, and rows as wide as the list */
 .bold { font-weight: bold; }
-tr[aria-current] td, tr[aria-current]::after { background: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
+tr[aria-current] td, tr[aria-current]::after { background-color: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 
 :is(.box, .toggle, .help, .button, .choice input, .listview, .buttons button, .close):focus-visible {
   outline: 2px solid var(--accent); outline-offset: 1px;
 }
 dialog {
-  color: CanvasText; background: Canvas; border: 1px solid var(--line); border-radius: 5px; padding: 0;
+  color: CanvasText; background-color: Canvas; border: 1px solid; border-color: var(--line); border-radius: 5px; padding: 0;
   box-shadow: 0 6px 24px rgb(0 0 0 / .4);
 }
 dialog::backdrop { background: rgb(0 0 0 / .3); }
 .form { position: fixed; max-width: 96vw; max-height: 94vh; overflow: hidden; }
 .form[open] { display: flex; flex-direction: column; }
-.head { display: flex; align-items: center; justify-content: space-between; gap: 1em; padding: .3em .4em .3em .8em; border-bottom: 1px solid var(--line); }
+.head { display: flex; align-items: center; justify-content: space-between; gap: 1em; padding: .3em .4em .3em .8em; border-bottom: 1px solid; border-color: var(--line); }
 .title { font-weight: bold; }
 .scroll { overflow: auto; }
 .message { max-width: min(34em, 92vw); padding: .9em 1.1em; }

@@ -78,10 +78,17 @@ export class View {
     const design = read(written);
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
-    put(container === 0 ? this.root : this.nodes.get(container).area, node.outer, design.order);
+    node.around = this.nodes.get(container) ?? null;
+    // What stands in nothing comes on the page with all that was put in it.
+    if (node.around !== null) put(node.around.area, node.outer, design.order);
     // A label with a mnemonic is that of the control made next.
     if (this.#label !== null && node.input?.matches('input, select')) this.#label.htmlFor = node.input.id;
     this.#label = node.isLabel && design.caption.includes('&') ? node.outer : null;
+  }
+
+  /** The machine has made what stands on the page from the first. */
+  appear() {
+    for (const { around, outer } of this.nodes.values()) if (around === null) this.root.append(outer);
   }
 
   drop(id) {
@@ -105,7 +112,7 @@ export class View {
     const input = this.nodes.get(id)?.input;
     if (!input) return 0;
     if (what === Asked.hasFocus) return this.root.activeElement === input ? 1 : 0;
-    return input.isConnected && !input.matches(':disabled') && input.getClientRects().length > 0 ? 1 : 0;
+    return input.isConnected && !input.matches(':disabled') && input.checkVisibility() ? 1 : 0;
   }
 
   insert(id, text) {
@@ -115,7 +122,9 @@ export class View {
   }
 
   openForm(id) {
-    return this.#open(this.nodes.get(id).outer);
+    const { outer } = this.nodes.get(id);
+    this.root.append(outer);
+    return this.#open(outer);
   }
   closeForm(id) {
     this.#close(this.nodes.get(id)?.outer);

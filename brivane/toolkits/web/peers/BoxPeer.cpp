@@ -40,6 +40,7 @@ void BoxPeer::TakeFocus() {
 }
 
 void BoxPeer::ShowText(const std::string& text) {
+  if (text == text_) return;
   text_ = text;
   NodePeer::ShowText(Aspect::Value, text);
 }
