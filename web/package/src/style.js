@@ -71,6 +71,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   padding: 0 .3em; border: 1px solid var(--line); border-radius: 2px; background: var(--field); color: CanvasText;
   min-width: 0; min-height: 0; text-overflow: ellipsis;
 }
+.box:disabled { pointer-events: none; }
 .number { text-align: right; }
 .date .box { position: absolute; inset: 0; width: 100%; height: 100%; padding-right: 1.6em; }
 .box:disabled { color: GrayText; background: var(--face); opacity: 1; }
@@ -113,10 +114,10 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 }
 
 .listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
-table { border-collapse: collapse; table-layout: fixed; width: max-content; min-width: 100%; }
+table { border-collapse: collapse; table-layout: fixed; width: 0; }
 th { position: sticky; top: 0; background: var(--face); font-weight: normal; border-right: 1px solid var(--line); }
 th:last-child { border-right: 0; }
-th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+th, td { text-align: start; padding: 0 .15em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
 .bold { font-weight: bold; }
 tr[aria-current] td { background: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 

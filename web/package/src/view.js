@@ -43,7 +43,10 @@ export class View {
   #dialogs = [];
   #boxes = new Map();
 
-  /** `owner` makes objects for the host and tells its page: makeForHost(what, control), tell(what, text), spoken(language). */
+  /**
+   * `owner` makes objects for the host, asks it and tells its page: makeForHost(what, control), details(title, text),
+   * tell(what, text), spoken(language).
+   */
   constructor(root, owner) {
     this.root = root;
     this.#owner = owner;
@@ -63,6 +66,9 @@ export class View {
 
   makeForHost(what, control) {
     return this.#owner.makeForHost(what, control);
+  }
+  details(title, text) {
+    return this.#owner.details(title, text);
   }
   tell(what, text) {
     this.#owner.tell(what, text);
