@@ -114,12 +114,13 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 }
 
 .listview { overflow: auto; border: 1px solid var(--line); background: var(--field); color: CanvasText; }
-table { border-collapse: collapse; table-layout: fixed; width: 0; }
-th { position: sticky; top: 0; background: var(--face); font-weight: normal; border-right: 1px solid var(--line); }
-th:last-child { border-right: 0; }
-th, td { text-align: start; padding: 0 .15em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+table { border-collapse: collapse; table-layout: fixed; width: 100%; }
+th, thead tr::after { position: sticky; top: 0; background: var(--face); font-weight: normal; border-right: 1px solid var(--line); }
+th:last-child, thead tr::after { border-right: 0; }
+th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+tr::after { content: ""; display: table-cell; }  /* columns are as wide as designed, and rows as wide as the list */
 .bold { font-weight: bold; }
-tr[aria-current] td { background: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
+tr[aria-current] td, tr[aria-current]::after { background: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 
 :is(.box, .toggle, .help, .button, .choice input, .listview, .buttons button, .close):focus-visible {
   outline: 2px solid var(--accent); outline-offset: 1px;
