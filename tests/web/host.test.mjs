@@ -219,6 +219,7 @@ for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['
       };
     }, COLUMN, what === 'Throws');
     await person.typeOver('TxtOm', 'Krant');
+    // It comes back when it was answered.
     await page.evaluate(() => void (window.stays = window.editor.validation()));
     await person.until(async () => (await person.message()) !== '', 'the question');
     const question = await person.message();
