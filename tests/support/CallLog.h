@@ -1,13 +1,13 @@
 #pragma once
 
 #include <algorithm>
-#include <charconv>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "tests/support/Shortest.h"
 #include <brivane/frame/Calendar.h>
 #include <brivane/host/Error.h>
 
@@ -17,10 +17,7 @@ inline std::string Show(bool value) { return value ? "true" : "false"; }
 inline std::string Show(std::int16_t value) { return std::to_string(value); }
 inline std::string Show(std::int32_t value) { return std::to_string(value); }
 inline std::string Show(const std::string& value) { return '"' + value + '"'; }
-inline std::string Show(double value) {
-  char text[32];
-  return {text, std::to_chars(text, text + sizeof text, value).ptr};
-}
+inline std::string Show(double value) { return tests::Shortest(value); }
 inline std::string Show(float value) { return Show(static_cast<double>(value)); }
 inline std::string Show(host::Date value) {
   if (value.IsNone()) return "0";

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -8,16 +7,10 @@
 #include <string>
 #include <vector>
 
+#include "tests/support/Shortest.h"
 #include <brivane/host/model/BedragObject.h>
 
 namespace brivane::tests {
-
-/// A number in the shortest form that reads back to the same double.
-inline std::string Shortest(double number) {
-  char text[32];
-  const auto end = std::to_chars(text, text + sizeof text, number).ptr;
-  return {text, end};
-}
 
 /// What one entry of a scenario holds.
 struct PeriodeWaarden {

@@ -111,6 +111,24 @@ test('demo.AColumnIsRemovedWhenThatIsConfirmedAndTheNextOneShown', async () => {
   assert.deepEqual(page.faults, []);
 });
 
+test('demo.TheSampleIsPutBackWhenThatIsConfirmed', async () => {
+  const { page, person, comes } = await started();
+  await person.press('Delete');
+  await page.waitForSelector('.vraag[open]');
+  await person.press('Shift+Tab', 'Enter');
+  await person.until(async () => (await columns(page))[0] !== SAMPLE[0], 'its going');
+  await page.focus('#opnieuw');
+  await person.press('Enter');
+  await page.waitForSelector('.vraag[open]');
+  await person.press('Shift+Tab', 'Enter');
+  await comes('the first column', SAMPLE[0]);
+  assert.deepEqual(await columns(page), SAMPLE);
+  await saved(page);
+  await page.reload();
+  await page.waitForSelector('body[data-ready]');
+  assert.deepEqual(await columns(page), SAMPLE);
+});
+
 // Only Chromium plays a phone.
 test('demo.FitsAPhoneByScrolling', { skip: name === 'firefox' }, async () => {
   const page = await open('/demo/index.html', { width: 390, height: 800, isMobile: true, hasTouch: true });
@@ -124,7 +142,7 @@ test('demo.FitsAPhoneByScrolling', { skip: name === 'firefox' }, async () => {
 
   // What stands for an editor that stands for nothing is in sight without.
   const person = new Person(page);
-  await person.press('Alt+k', 'End');
+  await page.evaluate(() => document.querySelector('vrije-kolom').unbind());
   await page.waitForFunction(() => document.querySelector('vrije-kolom').state === 'unbound');
   const [left, right] = await page.evaluate(() => {
     const words = new Range();

@@ -207,6 +207,29 @@ test('host.TheElementTakenAwayWithAMessageOpenEndsQuietly', async () => {
   await worksAgain();
 });
 
+for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['Throws', '']])
+  test(`host.AQuestionShowsWhatTheHostAddsBelowIt ${what}`, async () => {
+    await page.evaluate(async (fields, throws) => {
+      await window.bind(fields);
+      // The same column in a new situation: whether that goes is asked before this one is left.
+      window.dossier.Leningen[0].kolommen.push({ Id: window.item.Id });
+      window.editor.questionDetails = () => {
+        if (throws) throw new Error('geen kolommen');
+        return '1 afwijkende kolom: Contributie';
+      };
+    }, COLUMN, what === 'Throws');
+    await person.typeOver('TxtOm', 'Krant');
+    await page.evaluate(() => (window.stays = window.editor.validation()));
+    await person.until(async () => (await person.message()) !== '', 'the question');
+    const question = await person.message();
+    assert.ok(question.endsWith(`?${below}`), question);
+    await person.pause();
+    await person.press('Escape');
+    assert.equal(await page.evaluate(() => window.stays), false);
+    // Its own failure is the page's to hear of.
+    assert.equal(page.faults.splice(0).length, what === 'Throws' ? 1 : 0);
+  });
+
 test('host.AnEditorPutBackIsBoundAsItWas', async () => {
   await page.evaluate(async (fields) => {
     await window.bind(fields);

@@ -125,7 +125,7 @@ if (process.env.WEB_BROWSER !== 'firefox')
   editing('ThePointOfTheKeypadIsTheDecimalSign', async () => {
     await person.click('TxtBd');
     await person.press('Control+a', '1', '2');
-    await person.pressKeypadPoint();
+    await person.pressKeypad('.');
     await person.press('5', 'Tab');
     assert.equal(await item('Bedrag'), 12.5);
   });

@@ -36,6 +36,22 @@ for (const state of Object.keys(STATES))
     assert.deepEqual(shown, readFileSync(`${top}tests/toolkits/shown/${state}.txt`, 'utf8').trimEnd().split('\n'));
   });
 
+// The designs are Dutch and go from left to right.
+test('looks.InAPageFromRightToLeftItStaysAsItIs', async () => {
+  const seen = () => page.evaluate(() => [...window.editor.shadowRoot.querySelectorAll('legend, label, .toggle span, .choice input, th')].map((part) => {
+    const { left, top } = part.getBoundingClientRect();
+    const { left: from, top: under } = part.closest('.surface').getBoundingClientRect();
+    return [left - from, top - under].map(Math.round);
+  }));
+  await bind('editor-overgang');
+  const stood = await seen();
+  await page.evaluate(() => (document.documentElement.dir = 'rtl'));
+  const stands = await seen();
+  await page.evaluate(() => document.documentElement.removeAttribute('dir'));
+  assert.ok(stood.length > 20);
+  assert.deepEqual(stands, stood);
+});
+
 test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
   await bind('editor-vaste-last');
   const [width, height] = await (await person.control('Toelichting.lstToelichting')).evaluate((list) =>

@@ -2,6 +2,7 @@
 
 #include <emscripten.h>
 
+#include <cstdlib>
 #include <map>
 
 #include <brivane/toolkits/web/peers/ListPeer.h>
@@ -10,6 +11,9 @@
 // clang-format off
 EM_JS(void, brivane_tell, (int page, int what, const char* text), {
   Module["element"]["tell"](page, what, UTF8ToString(text));
+})
+EM_JS(char*, brivane_details, (int page, const char* title, const char* text), {
+  return Module["element"]["details"](page, UTF8ToString(title), UTF8ToString(text));
 })
 // clang-format on
 
@@ -31,6 +35,12 @@ Element::Element(int page, Kind kind) : page_(page), kind_(kind), body_(std::mak
   body_->session = std::make_shared<webhost::Session>(page, body_->toolkit.Life());
   body_->surface = body_->toolkit.MakeSurface(kind == Kind::VrijeKolom ? EditorDesign() : ToelichtingDesign());
   body_->binding.emplace(*body_->surface);
+  body_->toolkit.Desktop().details = [page](const std::string& title, const std::string& text) {
+    char* const given = brivane_details(page, title.c_str(), text.c_str());
+    std::string details(given);
+    std::free(given);
+    return details;
+  };
   // As designed the frames of the editor lie on each other: it is laid out when it is bound.
   Surface().SetVeiled(true);
 }

@@ -11,9 +11,8 @@
 #include "web/element/Element.h"
 #include <brivane/frame/ErrorReport.h>
 #include <brivane/frame/Texts.h>
+#include <brivane/toolkits/web/Person.h>
 #include <brivane/toolkits/web/Turns.h>
-#include <brivane/toolkits/web/peers/FormDialog.h>
-#include <brivane/toolkits/web/peers/NodePeer.h>
 
 // clang-format off
 EM_JS(void, brivane_done, (int job, double result), { Module["element"]["done"](job, result); })
@@ -37,13 +36,7 @@ enum class Job {
   BackColor,
   BeeindigenZichtbaar,
   Size,
-  Key,
-  Typed,
-  Pasted,
-  Left,
-  Picked,
-  Letter,
-  Close,
+  // What follows is a web::Deed.
 };
 
 struct Order {
@@ -57,31 +50,6 @@ struct Order {
 };
 
 std::map<int, std::unique_ptr<Element>> elements_;
-
-enum Modifiers { kShift = 1, kControl = 2, kAlt = 4, kKeypad = 8 };
-
-web::Key KeyOf(const Order& order) {
-  const auto with = static_cast<unsigned>(order.number);
-  return {order.text, (with & kShift) != 0, (with & kControl) != 0, (with & kAlt) != 0, (with & kKeypad) != 0};
-}
-
-/// What a person does to one element of the page.
-double Act(Element& element, const Order& order) {
-  web::NodePeer* const peer = element.Toolkit().Find(order.node);
-  web::FormDialog* const form = element.Toolkit().FindForm(order.node);
-  if (order.job == Job::Letter)
-    return element.Toolkit().GoByLetter(form != nullptr ? form->Form() : element.Surface(), order.text.front()) ? 1 : 0;
-  if (order.job == Job::Close && form != nullptr) form->Close();
-  if (peer == nullptr) return 0;
-  switch (order.job) {
-    case Job::Key: return peer->OnKey(KeyOf(order)) ? 1 : 0;
-    case Job::Typed: peer->OnTyped(order.text); return 1;
-    case Job::Pasted: peer->OnPasted(order.text); return 1;
-    case Job::Left: peer->OnLeft(); return 1;
-    case Job::Picked: peer->OnPicked(static_cast<int>(order.number)); return 1;
-    default: return 0;
-  }
-}
 
 double Do(Element& element, const Order& order) {
   const auto whole = [](double number) { return static_cast<std::int32_t>(number); };
@@ -101,9 +69,8 @@ double Do(Element& element, const Order& order) {
     case Job::Size: element.Size({static_cast<float>(order.number)}, {static_cast<float>(order.more)}); return 0;
     default: break;
   }
-  double done = 0;
-  element.Toolkit().Guard([&] { done = Act(element, order); });
-  return done;
+  const web::Done done{static_cast<web::Deed>(order.job), order.node, whole(order.number), order.text};
+  return web::Does(element.Toolkit(), element.Surface(), done) ? 1 : 0;
 }
 
 void RunJob(int number, int page, const Order& order) {

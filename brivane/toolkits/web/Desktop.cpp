@@ -7,7 +7,10 @@ host::MessageAnswer Desktop::MessageBox(const std::string& boxTitle, const std::
                                         host::MessageStyle style) {
   const controls::Life::Call call(life_);
   life_->Check();
-  const host::MessageAnswer given = Ask(boxTitle, text, style);
+  const bool question = style == host::MessageStyle::YesNoQuestion;
+  const std::string below = question && details && !answer ? details(boxTitle, text) : "";
+  life_->Check();
+  const host::MessageAnswer given = Ask(boxTitle, below.empty() ? text : text + "\r\n\r\n" + below, style);
   life_->Check();
   return given;
 }
@@ -15,7 +18,7 @@ host::MessageAnswer Desktop::MessageBox(const std::string& boxTitle, const std::
 host::MessageAnswer Desktop::Ask(const std::string& boxTitle, const std::string& text, host::MessageStyle style) {
   if (answer) return answer(boxTitle, text, style);
   const bool question = style == host::MessageStyle::YesNoQuestion;
-  Box box{{controls::KeysUnderWay::kPause, Page::Now()}, question ? host::MessageAnswer::No : host::MessageAnswer::Ok};
+  Box box{{pause, Page::Now()}, question ? host::MessageAnswer::No : host::MessageAnswer::Ok};
   const int number = ++last_;
   if (life_->Ended() || !CanWait() || !page_.OpenBox(number, static_cast<int>(style), boxTitle, text)) return box.given;
   boxes_[number] = &box;
@@ -43,21 +46,21 @@ void Desktop::DoPendingEvents() {
   if (pending) {
     pending();
   } else if (CanWait()) {
-    Waiting pause;
+    Waiting back;
     const int number = ++last_;
-    pauses_[number] = &pause;
+    pauses_[number] = &back;
     const controls::Life::AtEnd close(*life_, [&] { CameBack(number); });
     page_.ComeBack(number);
-    pause.Wait();
+    back.Wait();
   }
   life_->Check();
 }
 
 void Desktop::CameBack(int waiting) {
-  const auto pause = pauses_.find(waiting);
-  if (pause == pauses_.end()) return;
-  pause->second->End();
-  pauses_.erase(pause);
+  const auto found = pauses_.find(waiting);
+  if (found == pauses_.end()) return;
+  found->second->End();
+  pauses_.erase(found);
 }
 
 std::string Desktop::FormatWhole(double number) const {

@@ -37,8 +37,12 @@ class Desktop final : public host::Desktop {
       answer;
   /// Runs in place of the page when the logic lets pending events run, when set.
   std::function<void()> pending;
+  /// What the host adds below a question of the controls, such as what "Ja" will remove; empty for nothing.
+  std::function<std::string(const std::string& title, const std::string& text)> details;
+  /// A message box takes no key before a pause in the typing.
+  std::chrono::milliseconds pause = controls::KeysUnderWay::kPause;
 
-  /// A message box of the toolkit's own: as MessageBox, and nobody is abandoned.
+  /// A message box of the toolkit's own: as MessageBox, and the host is asked nothing, and nobody abandoned.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& boxTitle, const std::string& text, host::MessageStyle style);
   /// A person answered a box; nothing where it is open no more.
   void Answered(int box, host::MessageAnswer given);

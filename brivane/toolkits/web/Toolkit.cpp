@@ -71,12 +71,16 @@ bool Toolkit::GoByLetter(controls::Surface& surface, char letter) {
       return true;
     if (control.Row().mnemonic == '\0' || Small(control.Row().mnemonic) != Small(letter) || !control.Reachable())
       continue;
-    controls::AnyControl* const to = Led(control, i + 1 < made.size() ? made[i + 1].get() : nullptr);
+    const auto led = [&] { return Led(control, i + 1 < made.size() ? made[i + 1].get() : nullptr); };
+    controls::AnyControl* to = led();
     if (to == nullptr || !to->Reachable()) continue;
     const std::shared_ptr<const controls::Life> life = Life();
     const NodeId node = static_cast<NodePeer*>(to->GetPeer())->Node();
     if (!HandOver(Outermost(control)) || life->Ended() || Find(node) == nullptr) return true;
-    Find(node)->TakeFocus();
+    // What was handed over may have closed the way.
+    to = led();
+    if (to == nullptr || !to->Reachable()) return true;
+    to->GetPeer()->TakeFocus();
     if (to->ControlKind() == host::Kind::Button) return Act(*to, controls::Press{}), true;
     if (to == &control && to->ControlKind() == host::Kind::CheckBox)
       Act(*to, controls::Tick{1 - static_cast<controls::CheckBox*>(to)->Value()});

@@ -8,7 +8,8 @@ import { serve } from '../../../web/demo/server.mjs';
 const PROGRAMS = { chrome: '/usr/bin/chromium', firefox: '/usr/bin/firefox-esr' };
 
 /** What a browser is served, by the beginning of its path. */
-export const FOLDERS = [['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
+export const FOLDERS = [['/package/', `${built}package/`], ['/door/', `${built}door/`], ['/conformance/', `${built}conformance/`],
+  ['/demo/package/', `${built}package/`], ['/demo/', `${top}web/demo/`],
   ['/tests/', `${top}tests/web/`], ['/examples/', `${top}examples/web/`], ['/made/', `${built}made/`]];
 
 export async function launch(name, options = {}) {

@@ -43,12 +43,19 @@ export class Person {
       for (const part of parts.reverse()) await this.page.keyboard.up(part);
     }
   }
-  /** The point of the keypad with the lock for numbers on. */
-  async pressKeypadPoint() {
+  /** The point or the comma of the keypad, with the lock for numbers on. */
+  async pressKeypad(key) {
     const session = await this.page.createCDPSession();
-    const key = { key: '.', code: 'NumpadDecimal', location: 3, isKeypad: true, windowsVirtualKeyCode: 110 };
-    await session.send('Input.dispatchKeyEvent', { type: 'keyDown', text: '.', ...key });
-    await session.send('Input.dispatchKeyEvent', { type: 'keyUp', ...key });
+    const sent = { key, code: 'NumpadDecimal', location: 3, isKeypad: true, windowsVirtualKeyCode: 110 };
+    await session.send('Input.dispatchKeyEvent', { type: 'keyDown', text: key, ...sent });
+    await session.send('Input.dispatchKeyEvent', { type: 'keyUp', ...sent });
+    await session.detach();
+  }
+  /** One of the repeats of a key that is held down since before. */
+  async hold(key) {
+    const session = await this.page.createCDPSession();
+    await session.send('Input.dispatchKeyEvent', { type: 'keyDown', autoRepeat: true, key, code: key });
+    await session.detach();
   }
   /** Goes to a box by click and replaces what stands in it. */
   async typeOver(name, text) {

@@ -10,6 +10,7 @@ export async function embed(application: Application, lening: Lening): Promise<s
   const editor = document.createElement('vrije-kolom');
   const made: VrijeKolomElement = editor;
   made.addEventListener('refreshtopdisplay', (event) => console.log(event.detail.text.length));
+  made.questionDetails = (title, text) => title + text;
   made.hostFactories = { dossierControle: () => ({ Controleer: () => {} }) };
   const toelichting = document.createElement('vrije-kolom-toelichting');
   await toelichting.setApplication(application, lening, 1);

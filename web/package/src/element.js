@@ -31,6 +31,9 @@ class ControlElement extends HTMLElement {
 
   static observedAttributes = ['lang'];
 
+  /** What the host adds below a question of the editor, told its title and text; nothing for nothing. */
+  questionDetails = null;
+
   constructor() {
     super();
     this.attachShadow({ mode: 'open' }).adoptedStyleSheets = [sheet()];
@@ -117,6 +120,7 @@ class ControlElement extends HTMLElement {
     const view = new View(this.shadowRoot, {
       makeForHost: (what, control) => this.#make(what, control),
       tell: (what, text) => this.#tell(what, text),
+      details: (title, text) => this.#details(title, text),
       spoken: (language) => this.#speak(language),
     });
     newView(view, this._kind);
@@ -152,6 +156,15 @@ class ControlElement extends HTMLElement {
   #make(what, control) {
     if (what === 'ProcedureTrace') return this.#factories.procedureTrace?.(control) ?? new ProcedureTrace();
     return this.#factories.dossierControle?.(control) ?? new DossierControle();
+  }
+
+  #details(title, text) {
+    try {
+      return String(this.questionDetails?.(title, text) ?? '');
+    } catch (error) {
+      reportError(error);
+      return '';
+    }
   }
 
   #tell(what, text) {

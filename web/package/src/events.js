@@ -9,6 +9,9 @@ const Modifier = Object.freeze({ shift: 1, control: 2, alt: 4, keypad: 8 });
 const ASKED = new Set(['Escape', 'Enter', 'Tab', 'ArrowUp', 'ArrowDown', 'ArrowLeft', 'ArrowRight', 'PageUp', 'PageDown',
   'Home', 'End', '+', '-', '.', ',']);
 
+/** A browser that tells of no key and no click has picked. */
+const PATIENCE = 1000;
+
 const modifiersOf = (event) =>
   (event.shiftKey ? Modifier.shift : 0) | (event.ctrlKey || event.metaKey ? Modifier.control : 0) |
   (event.altKey ? Modifier.alt : 0) | (event.location === KeyboardEvent.DOM_KEY_LOCATION_NUMPAD ? Modifier.keypad : 0);
@@ -17,6 +20,19 @@ const isLetter = (event) => event.key.length === 1;
 const isList = (node) => node.input?.localName === 'select';
 const isBox = (node) => node.input?.localName === 'input' && node.input.type === 'text';
 const isToggle = (node) => node.input?.getAttribute('role') === 'switch';
+
+/** Of a stop: its place in the order of its surface, after those of what that stands in. */
+function tabsOf(stop) {
+  const tabs = [];
+  for (let at = stop.node?.outer; at instanceof Element; at = at.parentElement?.closest('.surface')) tabs.unshift(at.order);
+  return tabs;
+}
+
+function byTab(one, other) {
+  const [tabs, others] = [tabsOf(one), tabsOf(other)];
+  const differs = tabs.findIndex((tab, i) => tab !== others[i]);
+  return differs < 0 ? 0 : tabs[differs] - (others[differs] ?? 0);
+}
 
 /** Whether the list of a `select` is open, as far as the browser tells. */
 function isOpen(select) {
@@ -32,15 +48,25 @@ function nodeOf(event) {
   return null;
 }
 
-/** What takes the focus in a part of a view, in the order of Tab: of options the one that is chosen. */
+/** What takes the focus in a part of a view, in the order in which it lies in the page; of options the one they are entered at. */
 export function stopsIn(area) {
   const stops = [...area.querySelectorAll('input, select, button, [tabindex="0"]')].filter(
     (stop) => stop.tabIndex >= 0 && !stop.matches(':disabled') && stop.getClientRects().length > 0);
-  const chosen = new Set(stops.filter((stop) => stop.type === 'radio' && stop.checked).map(({ name }) => name));
-  return stops.filter((stop) => stop.type !== 'radio' || stop.checked || !chosen.has(stop.name));
+  const active = area.getRootNode().activeElement;
+  const entrances = new Map();
+  for (const stop of stops) {
+    if (stop.type !== 'radio') continue;
+    const known = entrances.get(stop.name);
+    if (known === undefined || stop === active || (stop.checked && known !== active)) entrances.set(stop.name, stop);
+  }
+  return stops.filter((stop) => stop.type !== 'radio' || stop === entrances.get(stop.name));
 }
 
 export function listen(view) {
+  const root = view.root;
+  let lastDown = '';
+  /** The list that was closed on another entry, until it is known whether that was picked. */
+  let closed = null;
   const run = (job, node, order = {}) => runJob(view, job, { node: node?.id ?? 0, ...order });
   const stop = (event) => {
     event.preventDefault();
@@ -48,6 +74,8 @@ export function listen(view) {
   };
 
   function keyDown(event) {
+    lastDown = event.key;
+    settleList('Enter');
     if (event.isComposing || event.defaultPrevented) return;
     const node = nodeOf(event);
     if (node === null) return;
@@ -58,6 +86,7 @@ export function listen(view) {
     const asked = isList(node) || isToggle(node) ? ASKED.has(event.key) || isLetter(event) : ASKED.has(event.key);
     if (asked && key(event, node)) return;
     if (event.key === 'Escape') escape(event);
+    if (event.key === 'Tab' && !event.ctrlKey && !event.altKey) tab(event, node.input);
   }
 
   /** Whether the machine took the key, or is busy with it. */
@@ -67,13 +96,33 @@ export function listen(view) {
     stop(event);
     // Somebody is asked first; then Tab goes where it would have gone.
     if (!job.done && event.key === 'Tab')
-      job.result.then((stays) => stays === 0 && view.root.activeElement === node.input && step(node.input, event.shiftKey));
+      job.result.then((stays) => {
+        const stop = stays === 0 && root.activeElement === node.input ? next(node.input, event.shiftKey) : undefined;
+        if (stop !== undefined) go(stop);
+      });
     return true;
   }
 
-  function step(from, back) {
-    const stops = stopsIn(view.dialog ?? view.root);
-    stops[stops.indexOf(from) + (back ? -1 : 1)]?.focus();
+  function go(stop) {
+    stop.focus();
+    if (stop.type === 'text') stop.select();
+  }
+
+  const stopsInPage = () => stopsIn(view.dialog ?? root);
+
+  /** The stop after or before one in the order of the design; nothing at the end. */
+  function next(from, back) {
+    const stops = view.dialog === null ? stopsInPage().sort(byTab) : stopsInPage();
+    return stops.includes(from) ? stops[stops.indexOf(from) + (back ? -1 : 1)] : undefined;
+  }
+
+  /** Where the browser would go elsewhere than the design has it. */
+  function tab(event, from) {
+    const stop = next(from, event.shiftKey);
+    const inPage = stopsInPage();
+    if (stop === undefined || (stop.type !== 'radio' && stop === inPage[inPage.indexOf(from) + (event.shiftKey ? -1 : 1)])) return;
+    event.preventDefault();
+    go(stop);
   }
 
   function letter(event) {
@@ -118,11 +167,17 @@ export function listen(view) {
     if (isBox(node) || isList(node)) run(Job.left, node);
   }
 
-  /** A press elsewhere in the view hands over first: what is refused keeps the focus, and the press is dropped. */
+  /**
+   * A press elsewhere in the view hands over first: what is refused keeps the focus, and the press is dropped. A press on
+   * nothing leaves the focus where it is, and so does closing a form: what is being typed there is asked about.
+   */
   function mouseDown(event) {
-    const from = view.root.activeElement?.node;
-    if (from === undefined || !isBox(from) || from === nodeOf(event)) return;
-    if (!(event.target instanceof Element) || event.target.closest('input, select, button, label, [tabindex]') === null) return;
+    const from = root.activeElement?.node;
+    if (from === undefined || !(event.target instanceof Element)) return;
+    const pressed = event.target.closest('input, select, button, label, [tabindex]');
+    const worked = pressed?.control ?? pressed;
+    if (worked === null || worked.disabled || worked.classList.contains('close')) return event.preventDefault();
+    if (!isBox(from) || from === nodeOf(event)) return;
     const job = run(Job.key, from, { text: 'Tab' });
     if (job.done && job.answer === 0) return;
     stop(event);
@@ -135,6 +190,7 @@ export function listen(view) {
     const node = nodeOf(event);
     if (node === null) return;
     help(event);
+    if (isList(node)) settleList('Enter');
     if (event.target === node.closeButton) run(Job.close, node);
     else if (event.target.closest?.('.calendar')) node.input.focus(), node.openCalendar();
     else if (isToggle(node)) toggle(event, node);
@@ -148,6 +204,30 @@ export function listen(view) {
     else run(Job.picked, node, { number: half.textContent === 'Ja' ? 2 : 1 });
   }
 
+  /**
+   * An open list was closed on another entry. Chromium says so where it was given up by Escape too: a click follows what
+   * was picked, and of what was given up that key comes up here.
+   */
+  function closeList(node) {
+    settleList('Enter');
+    run(Job.picked, node, { number: node.input.selectedIndex });
+    closed = { node, timer: setTimeout(() => settleList('Enter'), PATIENCE) };
+  }
+  function settleList(key) {
+    if (closed === null) return;
+    const { node, timer } = closed;
+    clearTimeout(timer);
+    closed = null;
+    run(Job.key, node, { text: key });
+  }
+
+  function keyUp(event) {
+    const node = nodeOf(event);
+    const escapes = event.key === 'Escape' && lastDown !== 'Escape';  // an open list keeps what goes down to itself
+    if (escapes && node !== null && isList(node)) closed ??= { node, timer: 0 };
+    settleList(escapes ? 'Escape' : 'Enter');
+  }
+
   function change(event) {
     const node = nodeOf(event);
     if (node === null) return;
@@ -155,7 +235,7 @@ export function listen(view) {
       const day = node.picker.valueAsNumber / 86400000 + 25569;
       if (!Number.isNaN(day)) run(Job.picked, node, { number: day });
     } else if (isList(node)) {
-      run(Job.picked, node, { number: node.input.selectedIndex });
+      closeList(node);
     } else if (node.input?.type === 'checkbox') {
       run(Job.picked, node, { number: node.input.checked ? 1 : 0 });
     } else if (node.input?.type === 'radio') {
@@ -163,8 +243,7 @@ export function listen(view) {
     }
   }
 
-  const root = view.root;
-  const heard = { keydown: keyDown, input, paste, focusout: focusOut, focusin: help, mouseover: help, mouseout: helpNoMore, mousedown: mouseDown, click, change,
+  const heard = { keydown: keyDown, keyup: keyUp, input, paste, focusout: focusOut, focusin: help, mouseover: help, mouseout: helpNoMore, mousedown: mouseDown, click, change,
     cancel: (event) => event.preventDefault() };
   const isFirst = (name) => name === 'mousedown' || name === 'cancel';
   for (const [name, listener] of Object.entries(heard)) root.addEventListener(name, listener, isFirst(name));

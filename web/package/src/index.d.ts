@@ -61,6 +61,8 @@ declare class ControlElement extends HTMLElement {
    */
   lang: string;
   hostFactories: HostFactories;
+  /** What the host adds below a question of the editor, such as what "Ja" will remove; empty for nothing. */
+  questionDetails: ((title: string, text: string) => string) | null;
   /** A colour as the component has it: 0x00BBGGRR, or below 0 for one of the system, which is the page's. */
   backColor: number;
   readonly state: BindingState;

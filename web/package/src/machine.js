@@ -37,6 +37,7 @@ function calls(of) {
     page[name] = toView(name);
   const element = {
     tell: toView('tell'),
+    details: (number, title, text) => memory.give(viewOf(number)?.details(title, text) ?? ''),
     done,
     failed: (number, code, description, source) => failed(number, new HostError(code, description, source)),
   };

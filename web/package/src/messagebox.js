@@ -4,6 +4,7 @@ import { answerBox, isMeant } from './machine.js';
 import { writeCaption } from './nodes.js';
 
 const QUESTION = 36;
+const STEPS = Object.freeze({ ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 });
 const Answer = Object.freeze({ ok: 1, yes: 6, no: 7 });
 
 export class MessageBox {
@@ -50,6 +51,13 @@ export class MessageBox {
     return button;
   }
 
+  /** To the next button, and around. */
+  #go(step) {
+    const buttons = [...this.dialog.querySelectorAll('button')];
+    const at = buttons.indexOf(this.dialog.getRootNode().activeElement);
+    buttons[(at + step + buttons.length) % buttons.length].focus();
+  }
+
   #answer(answer) {
     answerBox(this.#view, this.#number, answer);
   }
@@ -62,9 +70,11 @@ export class MessageBox {
       return;
     }
     this.#passed.delete(event.code);
+    const step = event.key === 'Tab' ? (event.shiftKey ? -1 : 1) : STEPS[event.key];
     const answer = event.key === 'Escape' ? this.#unanswered : event.altKey ? this.#letters.get(event.key.toLowerCase()) : undefined;
-    if (answer === undefined) return;
-    this.#answer(answer);
+    if (answer !== undefined) this.#answer(answer);
+    else if (step !== undefined) this.#go(step);
+    else return;
     event.preventDefault();
     event.stopPropagation();
   }

@@ -25,6 +25,7 @@ const CSS_TEXT = `
   font-size: var(--vrije-kolom-font-size, inherit);
   line-height: 1.25;
   text-align: start;
+  direction: ltr;
   color: var(--vrije-kolom-color, CanvasText);
   background: var(--vrije-kolom-background, transparent);
   --accent: var(--vrije-kolom-accent, light-dark(#0a58a8, #8ab8f5));
@@ -63,6 +64,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   padding: 0 .3em; border: 1px solid; border-color: var(--line); border-radius: 2px; background-color: var(--field); color: CanvasText;
   min-width: 0; min-height: 0; text-overflow: ellipsis;
 }
+.box:disabled { pointer-events: none; }
 .number { text-align: right; }
 .date .box { position: absolute; inset: 0; width: 100%; height: 100%; padding-right: 1.6em; }
 .box:disabled { color: GrayText; background-color: var(--face); opacity: 1; }
@@ -105,12 +107,13 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 }
 
 .listview { overflow: auto; border: 1px solid; border-color: var(--line); background-color: var(--field); color: CanvasText; }
-table { border-collapse: collapse; table-layout: fixed; width: max-content; min-width: 100%; }
-th { position: sticky; top: 0; background-color: var(--face); font-weight: normal; border-right: 1px solid; border-color: var(--line); }
-th:last-child { border-right: 0; }
+table { border-collapse: collapse; table-layout: fixed; width: 100%; }
+th, thead tr::after { position: sticky; top: 0; background-color: var(--face); font-weight: normal; border-right: 1px solid; border-color: var(--line); }
+th:last-child, thead tr::after { border-right: 0; }
 th, td { text-align: start; padding: 0 .2em; overflow: hidden; white-space: nowrap; text-overflow: ellipsis; }
+tr::after { content: ""; display: table-cell; }  /* columns are as wide as designed, and rows as wide as the list */
 .bold { font-weight: bold; }
-tr[aria-current] td { background-color: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
+tr[aria-current] td, tr[aria-current]::after { background-color: var(--accent); color: var(--on-accent); forced-color-adjust: none; }
 
 :is(.box, .toggle, .help, .button, .choice input, .listview, .buttons button, .close):focus-visible {
   outline: 2px solid var(--accent); outline-offset: 1px;

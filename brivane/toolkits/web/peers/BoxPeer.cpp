@@ -57,10 +57,6 @@ bool BoxPeer::HandOver() {
   return edit_.Commit() && !life.expired();
 }
 
-void BoxPeer::OnLeft() {
-  if (edit_.IsPending()) (void)edit_.Commit();
-}
-
 void BoxPeer::OnPicked(int days) {
   if (box_.Format() != frame::Format::Date || box_.Locked()) return;
   edit_.TypeOver(frame::ShowDate(host::Date(days)));

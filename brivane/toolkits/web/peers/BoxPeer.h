@@ -16,7 +16,7 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   bool OnKey(const Key& key) override;
   void OnTyped(const std::string& text) override;
   void OnPasted(const std::string& text) override { edit_.Paste(text); }
-  void OnLeft() override;
+  void OnLeft() override { (void)edit_.Commit(); }
   /// A day of a calendar, counted from 30 December 1899.
   void OnPicked(int days) override;
   [[nodiscard]] bool HandOver() override;

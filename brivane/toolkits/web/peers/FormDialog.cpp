@@ -52,7 +52,7 @@ void FormDialog::TellRows() const {
     if (control->Row().tab == 0) continue;
     Page().Show(node, Shows::Label, 0, std::string(control->AccessibleName()));
     if (const std::string help = subject_.OfRow(control->Index());
-        !help.empty() && control->ControlKind() == Kind::TextBox)
+        !help.empty() && control->ControlKind() != Kind::Hint)
       Page().Show(node, Shows::Help, 0, help);
   }
 }

@@ -72,7 +72,7 @@ bool ListPeer::HandOver() {
   return true;
 }
 
-void ListPeer::OnPicked(int index) { Choose(index); }
+void ListPeer::OnPicked(int index) { (void)GoTo(index); }
 
 int ListPeer::EntryTyped(const std::string& character) {
   std::vector<std::string> entries;

@@ -7,8 +7,8 @@
 namespace brivane::web {
 
 /// Shows a list by a `select` in which passing by is not choosing: what the keys lead to while it is closed is a choice
-/// under way, handed over by Enter or when the list is left, and taken back by Escape. Picking in the open list hands
-/// over at once.
+/// under way, handed over by Enter or when the list is left, and taken back by Escape. So is what was picked in the
+/// open list: the page tells by what key that was closed.
 class ListPeer final : public NodePeer {
  public:
   ListPeer(controls::ListBox& list, web::Toolkit& toolkit);

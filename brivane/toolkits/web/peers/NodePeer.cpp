@@ -4,6 +4,7 @@
 #include <brivane/controls/Surface.h>
 #include <brivane/controls/TextBox.h>
 #include <brivane/toolkits/web/peers/FormDialog.h>
+#include <brivane/toolkits/web/peers/ListPeer.h>
 #include <brivane/toolkits/web/peers/NodePeer.h>
 
 namespace brivane::web {
@@ -73,8 +74,8 @@ NodePeer::~NodePeer() {
 void NodePeer::Refresh(Aspect aspect) {
   const host::Control& state = control_.Host();
   switch (aspect) {
-    case Aspect::Enabled: return Page().Show(node_, aspect, state.Enabled() ? 1 : 0);
-    case Aspect::Visible: return Page().Show(node_, aspect, state.Visible() ? 1 : 0);
+    case Aspect::Enabled: Page().Show(node_, aspect, state.Enabled() ? 1 : 0); return GiveUpOutOfReach();
+    case Aspect::Visible: Page().Show(node_, aspect, state.Visible() ? 1 : 0); return GiveUpOutOfReach();
     case Aspect::Place: return Page().Place(node_, state.Place());
     case Aspect::FontSize:
       if (const auto points = state.Read(host::Measure::FontSize)) Page().Show(node_, aspect, double{*points});
@@ -87,6 +88,12 @@ void NodePeer::Refresh(Aspect aspect) {
                       controls::MarkedCaption(control_.Row(), dynamic_cast<const host::Captioned&>(state).Caption()));
     default: return;
   }
+}
+
+/// A choice that is under way in what can be reached no more, here or in what stands here.
+void NodePeer::GiveUpOutOfReach() const {
+  ListPeer* const list = toolkit_.UnderWay();
+  if (list != nullptr && !list->Control().Reachable()) list->PutBack();
 }
 
 void NodePeer::TakeFocus() { Page().Show(node_, Shows::Focus); }

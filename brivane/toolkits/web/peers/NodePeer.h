@@ -40,6 +40,8 @@ class NodePeer : public controls::Peer {
   void ShowNumber(int number) const { Page().Show(node_, Shows::Number, number); }
 
  private:
+  void GiveUpOutOfReach() const;
+
   controls::AnyControl& control_;
   web::Toolkit& toolkit_;
   NodeId node_;
