@@ -36,8 +36,11 @@ NO_TEXTS = {
     "Escape": "a key of a page", "Enter": "a key of a page", "Tab": "a key of a page", "Home": "a key of a page",
     "End": "a key of a page",
     "calc(${length} * var(${TWIP}))": "a length of a style sheet",
-    "box number": "classes of a style sheet", "box select": "classes of a style sheet",
-    "message asks": "classes of a style sheet", "label lines": "classes of a style sheet",
+    "box number": "classes of a style sheet", "message asks": "classes of a style sheet",
+    **{f"control {kind}": "classes of a style sheet" for kind in (
+        "frame", "plain", "label", "label lines", "date", "toggle", "hint", "choice", "box select", "button", "listview",
+        "surface", "form")},
+    " control": "a class of a style sheet",
     "dialog form": "parts of an element", "dialog message": "parts of an element",
     "input, select": "elements of a page", 'input, select, button, [tabindex="0"]': "elements of a page",
     "input, select, button, label, [tabindex]": "elements of a page",

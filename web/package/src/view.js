@@ -39,6 +39,7 @@ export class View {
   /** What is added to the controls is said in it. */
   language;
   #owner;
+  #hasAppeared = false;
   #label = null;
   #dialogs = [];
   #boxes = new Map();
@@ -79,8 +80,9 @@ export class View {
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
     node.around = this.nodes.get(container) ?? null;
-    // What stands in nothing comes on the page with all that was put in it.
+    // What stands in nothing comes on the page with all that was put in it: from the first, or when its form is opened.
     if (node.around !== null) put(node.around.area, node.outer, design.order);
+    else if (this.#hasAppeared && node.outer.localName !== 'dialog') this.root.append(node.outer);
     // A label with a mnemonic is that of the control made next.
     if (this.#label !== null && node.input?.matches('input, select')) this.#label.htmlFor = node.input.id;
     this.#label = node.isLabel && design.caption.includes('&') ? node.outer : null;
@@ -88,6 +90,7 @@ export class View {
 
   /** The machine has made what stands on the page from the first. */
   appear() {
+    this.#hasAppeared = true;
     for (const { around, outer } of this.nodes.values()) if (around === null) this.root.append(outer);
   }
 
