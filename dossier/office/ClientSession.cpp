@@ -39,16 +39,21 @@ bool AnswersSoon(const OfficeConnection& office) {
 
 QString SendSql() { return QStringLiteral("SELECT kantoor.sla_op(?::integer, ?::uuid, ?::uuid, ?::json)"); }
 
-std::int64_t Newest(Database& tables, const char* table) {
-  return tables.Value(QStringLiteral("SELECT coalesce(max(nummer), 0) FROM ") + QLatin1String(table)).toLongLong();
+/// The first value that a statement answers, which is run for every edit.
+std::int64_t Often(Database& tables, const QString& sql) {
+  QSqlQuery& query = tables.Again(sql);
+  Database::Run(query);
+  const std::int64_t value = query.next() ? query.value(0).toLongLong() : 0;
+  query.finish();
+  return value;
 }
 
-std::vector<std::string> Objects(Database& tables, const ClientTable& table, const QString& where) {
-  QSqlQuery query = tables.Prepare(Reading(table) + QStringLiteral(" WHERE ") + where);
-  Database::Run(query);
-  std::vector<std::string> objects;
-  while (query.next()) objects.push_back(JsonOf(table, ReadRow(query, table)));
-  return objects;
+std::int64_t NewestStep(Database& tables) {
+  return Often(tables, QStringLiteral("SELECT coalesce(max(nummer), 0) FROM stap"));
+}
+
+std::int64_t NewestName(Database& tables) {
+  return Often(tables, QStringLiteral("SELECT coalesce(max(nummer), 0) FROM naam"));
 }
 
 /// A name and a value of an object.
@@ -94,7 +99,7 @@ ClientSession::~ClientSession() {
 
 void ClientSession::Fill() {
   tables_.Fill();
-  names_ = Newest(tables_.Tables(), "naam");
+  names_ = NewestName(tables_.Tables());
   behind_ = false;
 }
 
@@ -164,37 +169,56 @@ void ClientSession::Begin() {
                                                  : holder_.naam.toStdString() + " werkt in dit dossier");
   }
   // What could not be kept in memory after it was stored, or was stored by another.
-  if (behind_ || Newest(tables_.Tables(), "stap") != tables_.LastStep()) {
+  if (behind_ || NewestStep(tables_.Tables()) != tables_.LastStep()) {
     behind_ = true;
     Refuse(kRefusedError, "het dossier wordt opnieuw gelezen");
   }
 }
 
 void ClientSession::Keep(Database& tables) {
-  const std::int64_t step = Newest(tables, "stap");
+  const std::int64_t step = NewestStep(tables);
   if (step == tables_.LastStep()) return;
   const QString payload = QString::fromStdString(Payload(tables, step));
   const QString edit = QUuid::createUuid().toString(QUuid::WithoutBraces);
   const std::int64_t time = Send(edit, step, payload);
   // By the server's clock.
-  tables.Run(QStringLiteral("UPDATE stap SET tijd = %1 WHERE nummer = %2").arg(time).arg(step));
+  QSqlQuery& clock = tables.Again(QStringLiteral("UPDATE stap SET tijd = ? WHERE nummer = ?"));
+  clock.bindValue(0, static_cast<qlonglong>(time));
+  clock.bindValue(1, static_cast<qlonglong>(step));
+  Database::Run(clock);
+  clock.finish();
   tables_.StepStored(step);
-  names_ = Newest(tables, "naam");
+  names_ = NewestName(tables);
+}
+
+std::vector<std::string> ClientSession::Objects(Database& tables, const ClientTable& table, const std::string& where,
+                                                std::initializer_list<std::int64_t> values) {
+  QString& sql = readings_[std::string(table.name) + ' ' + where];
+  if (sql.isEmpty()) sql = Reading(table) + QStringLiteral(" WHERE ") + QString::fromStdString(where);
+  QSqlQuery& query = tables.Again(sql);
+  int place = 0;
+  for (const std::int64_t value : values) query.bindValue(place++, static_cast<qlonglong>(value));
+  Database::Run(query);
+  std::vector<std::string> objects;
+  while (query.next()) objects.push_back(JsonOf(table, ReadRow(query, table)));
+  query.finish();
+  return objects;
 }
 
 std::string ClientSession::Payload(Database& tables, std::int64_t step) {
   std::map<Tabel, std::set<Sleutel>> changed;
   bool found = false;
-  QSqlQuery entries =
-      tables.Prepare(QStringLiteral("SELECT tabel, sleutel, veld FROM wijziging WHERE nummer >= (SELECT "
-                                    "eerste FROM stap WHERE nummer = %1)")
-                         .arg(step));
+  QSqlQuery& entries = tables.Again(QStringLiteral(
+      "SELECT tabel, sleutel, veld FROM wijziging WHERE nummer >= (SELECT eerste FROM stap WHERE nummer = "
+      "?)"));
+  entries.bindValue(0, static_cast<qlonglong>(step));
   Database::Run(entries);
   while (entries.next()) {
     const auto tabel = static_cast<Tabel>(entries.value(0).toInt());
     changed[tabel].insert(entries.value(1).toLongLong());
     found = found || IsFoundBy(tabel, entries.value(2).toInt());
   }
+  entries.finish();
   std::vector<std::string> members;
   std::vector<std::string> gone;
   for (const auto& [tabel, keys] : changed) {
@@ -204,10 +228,9 @@ std::string ClientSession::Payload(Database& tables, std::int64_t step) {
     for (const Sleutel key : keys) {
       const bool two = tabel == Tabel::Voorstel;
       const Row which = two ? Row{std::int64_t{ProposalOf(key)}, std::int64_t{ItemOf(key)}} : Row{key};
-      const QString where =
-          two ? QStringLiteral("voorstel = %1 AND vrij_id = %2").arg(ProposalOf(key)).arg(ItemOf(key))
-              : QStringLiteral("%1 = %2").arg(QString::fromStdString(std::string(table.columns.front().name))).arg(key);
-      std::vector<std::string> row = Objects(tables, table, where);
+      std::vector<std::string> row =
+          two ? Objects(tables, table, "voorstel = ? AND vrij_id = ?", {ProposalOf(key), ItemOf(key)})
+              : Objects(tables, table, std::string(table.columns.front().name) + " = ?", {key});
       if (row.empty())
         removed.push_back(JsonRow(table.columns, which));
       else
@@ -217,13 +240,11 @@ std::string ClientSession::Payload(Database& tables, std::int64_t step) {
     if (!removed.empty()) gone.push_back(Member(table.name, JsonList(removed)));
   }
   if (!gone.empty()) members.push_back(Member("weg", Joined(gone)));
-  members.push_back(Member("stap", Objects(tables, Steps(), QStringLiteral("nummer = %1").arg(step)).front()));
-  members.push_back(
-      Member("wijziging",
-             JsonList(Objects(
-                 tables, Entries(),
-                 QStringLiteral("nummer >= (SELECT eerste FROM stap WHERE nummer = %1) ORDER BY nummer").arg(step)))));
-  if (const auto names = Objects(tables, Names(), QStringLiteral("nummer > %1").arg(names_)); !names.empty())
+  members.push_back(Member("stap", Objects(tables, Steps(), "nummer = ?", {step}).front()));
+  members.push_back(Member(
+      "wijziging", JsonList(Objects(tables, Entries(),
+                                    "nummer >= (SELECT eerste FROM stap WHERE nummer = ?) ORDER BY nummer", {step}))));
+  if (const auto names = Objects(tables, Names(), "nummer > ?", {names_}); !names.empty())
     members.push_back(Member("naam", JsonList(names)));
   if (found) members.push_back(Member("zoek", JsonOf(FoundByOf(tables))));
   return Joined(members);

@@ -4,12 +4,16 @@
 #include <QString>
 #include <chrono>
 #include <cstdint>
+#include <initializer_list>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "dossier/office/ClientTables.h"
 #include "dossier/office/OfficeConnection.h"
+#include "dossier/office/OfficeTables.h"
 #include "dossier/office/Reconnection.h"
 #include "dossier/store/EditKeeper.h"
 
@@ -81,6 +85,9 @@ class ClientSession final : public EditKeeper {
   };
 
   [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
+  /// Rows as objects for the server; every edit reads some, by statements that stay prepared.
+  [[nodiscard]] std::vector<std::string> Objects(Database& tables, const ClientTable& table, const std::string& where,
+                                                 std::initializer_list<std::int64_t> values);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
   void TakeUp();
   void Follow();
@@ -98,6 +105,7 @@ class ClientSession final : public EditKeeper {
   bool behind_ = false;
   bool follows_ = false;
   std::int64_t names_ = 0;
+  std::map<std::string, QString> readings_;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;

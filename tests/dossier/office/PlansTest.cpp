@@ -52,5 +52,24 @@ TEST_F(PlansTest, NothingThatAnAdviserDoesReadsATableFromEndToEnd) {
   }
 }
 
+TEST_F(PlansTest, AWordThatOthersHaveIsNotLookedForInTheirClients) {
+  MakeClients(office_, client_, {.clients = 9000, .teams = 3});
+  const auto rows_read = [&] {
+    return office_
+        .Psql("postgres",
+              "SELECT seq_tup_read + idx_tup_fetch FROM pg_stat_user_tables WHERE schemaname = 'kantoor' AND relname = "
+              "'zoek'")
+        .toInt();
+  };
+  const int before = rows_read();
+  // 6,000 clients of the other teams have the word, and none of the 3,000 of anna's.
+  EXPECT_TRUE(SearchClients(*office_.Enter(), "elders", 50).empty());
+  const int read = rows_read() - before;
+  // The newest of hers and those that she changed, each the root of 50 times 3,000.
+  EXPECT_GT(read, 0);
+  EXPECT_LE(read, 2 * 388);
+  EXPECT_EQ(SearchClients(*office_.Enter("mia"), "elders", 50).size(), 50U);
+}
+
 }  // namespace
 }  // namespace brivane::dossier

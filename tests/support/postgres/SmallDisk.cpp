@@ -6,7 +6,7 @@
 namespace brivane::test {
 namespace {
 
-constexpr int kLongest = 60000;
+constexpr int kMounting = 60000;
 constexpr qint64 kBlock = 4096;
 
 }  // namespace
@@ -15,7 +15,7 @@ SmallDisk::SmallDisk(int megabytes) : folder_(QStringLiteral("/tmp/brivane-disk-
   QProcess mount;
   mount.setStandardErrorFile(QProcess::nullDevice());
   mount.start("mount", {"-t", "tmpfs", "-o", QString("size=%1m,mode=0777").arg(megabytes), "tmpfs", folder_.path()});
-  mount.waitForFinished(kLongest);
+  mount.waitForFinished(kMounting);
   there_ = mount.exitStatus() == QProcess::NormalExit && mount.exitCode() == 0;
   if (!there_) return;
   guard_.setWorkingDirectory("/");
@@ -25,7 +25,7 @@ SmallDisk::SmallDisk(int megabytes) : folder_(QStringLiteral("/tmp/brivane-disk-
 
 SmallDisk::~SmallDisk() {
   guard_.closeWriteChannel();
-  guard_.waitForFinished(kLongest);
+  guard_.waitForFinished(kMounting);
 }
 
 void SmallDisk::TakeRoom() {
