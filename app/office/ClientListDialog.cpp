@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <utility>
@@ -23,7 +24,7 @@ constexpr int kClient = Qt::UserRole;
 constexpr int kMost = 50;     ///< lines that the office answers with
 constexpr int kAgain = 3000;  ///< milliseconds
 constexpr int kLines = 16;
-constexpr int kWidths[] = {30, 15, 12, 30, 36};  ///< characters
+constexpr int kWidths[] = {28, 12, 12, 46, 44};  ///< characters
 
 }  // namespace
 
@@ -82,7 +83,7 @@ ClientListDialog::ClientListDialog(const Entrance& entrance, QWidget* above)
   layout->addWidget(list_, 1);
   layout->addWidget(tells_);
   layout->addWidget(buttons);
-  resize(width, sizeHint().height());
+  resize(QSize(width, sizeHint().height()).boundedTo(screen()->availableSize()));
 
   search_.found = [this](const QString& typed, const std::vector<dossier::ClientLine>& lines) { Fill(typed, lines); };
   search_.failed = [this](const QString& reason) { Tell(reason); };
@@ -135,6 +136,12 @@ void ClientListDialog::Fill(const QString& typed, const std::vector<dossier::Cli
     item->setData(0, kClient, line.nummer);
     item->setData(0, Qt::AccessibleTextRole, LineText(line, now));
     if (line.nummer == before) current = item;
+  }
+  // A name or a team may be longer; what a person has drawn wider stays so.
+  for (int column = 0; column < static_cast<int>(std::size(kWidths)); ++column) {
+    const int drawn = list_->header()->sectionSize(column);
+    list_->resizeColumnToContents(column);
+    if (list_->header()->sectionSize(column) < drawn) list_->header()->resizeSection(column, drawn);
   }
   if (current == nullptr) current = list_->topLevelItem(0);
   list_->setCurrentItem(current);

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
@@ -171,7 +172,8 @@ void Stage::OpenClient(const char* account) {
 }
 
 QString Stage::NobodyAnswers() {
-  nobody_ = std::make_unique<test::SocketProxy>(QString());
+  // Who shows a scene and ends at once leaves nothing but its own folder.
+  nobody_ = std::make_unique<test::SocketProxy>(QString(), std::chrono::milliseconds(0), QFileInfo(file_).path());
   nobody_->FallSilent();
   return "dbname=kantoor user=anna host=" + nobody_->Folder();
 }

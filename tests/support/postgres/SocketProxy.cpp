@@ -41,8 +41,8 @@ bool IsReadable(int socket, int milliseconds) {
 
 }  // namespace
 
-SocketProxy::SocketProxy(const QString& server, std::chrono::milliseconds delay)
-    : server_(server), delay_(delay), folder_(QStringLiteral("/tmp/brivane-proxy-XXXXXX")) {
+SocketProxy::SocketProxy(const QString& server, std::chrono::milliseconds delay, const QString& below)
+    : server_(server), delay_(delay), folder_(below + QStringLiteral("/brivane-proxy-XXXXXX")) {
   listener_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
   const sockaddr_un address = AddressOf(folder_.path());
   if (bind(listener_, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 || listen(listener_, 64) != 0)

@@ -14,8 +14,10 @@ namespace brivane::test {
 /// its folder as the host.
 class SocketProxy {
  public:
-  /// `server`: the folder of the server's socket. Each answer is `delay` late.
-  explicit SocketProxy(const QString& server, std::chrono::milliseconds delay = {});
+  /// `server`: the folder of the server's socket. Each answer is `delay` late. Its own folder stands below that one:
+  /// the path of a socket is short.
+  explicit SocketProxy(const QString& server, std::chrono::milliseconds delay = {},
+                       const QString& below = QStringLiteral("/tmp"));
   SocketProxy(const SocketProxy&) = delete;
   SocketProxy& operator=(const SocketProxy&) = delete;
   ~SocketProxy();
