@@ -220,7 +220,7 @@ std::string ShortestDigitsByHand(double number) {
   }
   // From there on with one digit more until it reads back.
   for (;; ++decimals) {
-    const std::string text = WithPoint(Scaled(number, decimals), decimals);
+    std::string text = WithPoint(Scaled(number, decimals), decimals);
     if (NearestDoubleByHand(text) == number) return text;
   }
 }
