@@ -86,11 +86,25 @@ for (const [lang, said] of Object.entries(SAID)) {
     await person.press('Enter', 'Escape');
     await person.until(async () => (await person.message()) !== '', 'the question');
     assert.match(await person.message(), said.question);
+    assert.equal(await part('.message', 'lang'), lang);
     assert.deepEqual(await page.evaluate(() => [...window.editor.shadowRoot.querySelectorAll('.message button')].map((button) => button.textContent)),
       said.buttons);
     await person.pause();
     await person.press(`Alt+${said.yes}`);
     await person.until(async () => !(await person.hasForm()), 'the end of the form');
+  });
+
+  test(`languages.AMessageOfTheControlsIsDutch ${lang}`, async () => {
+    await bindIn(lang);
+    await person.typeOver('TxtDtEind', '1-1-1990');
+    await person.press('Tab');
+    await person.until(async () => (await person.message()) !== '', 'the message');
+    assert.equal(await part('.message', 'lang'), 'nl');
+    assert.equal(await part('.message button', 'lang'), lang);
+    await person.pause();
+    await person.press('Enter');
+    await person.until(async () => (await person.message()) === '', 'the answer');
+    await person.press('Escape');
   });
 
   test(`languages.AnEditorThatStandsForNothingSaysSo ${lang}`, async () => {

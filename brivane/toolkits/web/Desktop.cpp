@@ -10,17 +10,24 @@ host::MessageAnswer Desktop::MessageBox(const std::string& boxTitle, const std::
   const bool question = style == host::MessageStyle::YesNoQuestion;
   const std::string below = question && details && !answer ? details(boxTitle, text) : "";
   life_->Check();
-  const host::MessageAnswer given = Ask(boxTitle, below.empty() ? text : text + "\r\n\r\n" + below, style);
+  const host::MessageAnswer given =
+      Show(Says::Controls, boxTitle, below.empty() ? text : text + "\r\n\r\n" + below, style);
   life_->Check();
   return given;
 }
 
 host::MessageAnswer Desktop::Ask(const std::string& boxTitle, const std::string& text, host::MessageStyle style) {
+  return Show(Says::Toolkit, boxTitle, text, style);
+}
+
+host::MessageAnswer Desktop::Show(Says who, const std::string& boxTitle, const std::string& text,
+                                  host::MessageStyle style) {
   if (answer) return answer(boxTitle, text, style);
   const bool question = style == host::MessageStyle::YesNoQuestion;
   Box box{{pause, Page::Now()}, question ? host::MessageAnswer::No : host::MessageAnswer::Ok};
   const int number = ++last_;
-  if (life_->Ended() || !CanWait() || !page_.OpenBox(number, static_cast<int>(style), boxTitle, text)) return box.given;
+  if (life_->Ended() || !CanWait() || !page_.OpenBox(number, static_cast<int>(style), who, boxTitle, text))
+    return box.given;
   boxes_[number] = &box;
   const controls::Life::AtEnd close(*life_, [&] { Answered(number, box.given); });
   box.waiting.Wait();

@@ -69,6 +69,9 @@ class Desktop final : public host::Desktop {
     Waiting waiting = {};
   };
 
+  [[nodiscard]] host::MessageAnswer Show(Says who, const std::string& boxTitle, const std::string& text,
+                                         host::MessageStyle style);
+
   Page& page_;
   std::shared_ptr<controls::Life> life_;
   std::map<int, Box*> boxes_;

@@ -22,8 +22,8 @@ EM_JS(char*, brivane_insert, (int page, int node, const char* text), {
 })
 EM_JS(int, brivane_open_form, (int page, int node), { return Module["page"]["openForm"](page, node); })
 EM_JS(void, brivane_close_form, (int page, int node), { Module["page"]["closeForm"](page, node); })
-EM_JS(int, brivane_open_box, (int page, int box, int style, const char* title, const char* text), {
-  return Module["page"]["openBox"](page, box, style, UTF8ToString(title), UTF8ToString(text));
+EM_JS(int, brivane_open_box, (int page, int box, int style, int who, const char* title, const char* text), {
+  return Module["page"]["openBox"](page, box, style, who, UTF8ToString(title), UTF8ToString(text));
 })
 EM_JS(void, brivane_close_box, (int page, int box), { Module["page"]["closeBox"](page, box); })
 EM_JS(char*, brivane_text_of, (int page, const char* name), { return Module["page"]["textOf"](page, UTF8ToString(name)); })
@@ -87,8 +87,8 @@ std::string Page::Insert(NodeId node, const std::string& text) const {
 bool Page::OpenForm(NodeId form) const { return brivane_open_form(id_, form) != 0; }
 void Page::CloseForm(NodeId form) const { brivane_close_form(id_, form); }
 
-bool Page::OpenBox(int box, int style, const std::string& title, const std::string& text) const {
-  return brivane_open_box(id_, box, style, title.c_str(), text.c_str()) != 0;
+bool Page::OpenBox(int box, int style, Says who, const std::string& title, const std::string& text) const {
+  return brivane_open_box(id_, box, style, static_cast<int>(who), title.c_str(), text.c_str()) != 0;
 }
 
 void Page::CloseBox(int box) const { brivane_close_box(id_, box); }

@@ -49,6 +49,9 @@ enum class Shows : std::uint8_t {
 /// What the page is asked about an element.
 enum class Asked : std::uint8_t { HasFocus, IsAtHand };
 
+/// Whose words a message box has: the controls' are Dutch, the toolkit's in the language of the page.
+enum class Says : std::uint8_t { Controls, Toolkit };
+
 /// The elements of one embedded control.
 class Page {
  public:
@@ -72,7 +75,7 @@ class Page {
   [[nodiscard]] bool OpenForm(NodeId form) const;
   void CloseForm(NodeId form) const;
   /// Opens a message box, known by a number; false where the page shows nothing.
-  [[nodiscard]] bool OpenBox(int box, int style, const std::string& title, const std::string& text) const;
+  [[nodiscard]] bool OpenBox(int box, int style, Says who, const std::string& title, const std::string& text) const;
   void CloseBox(int box) const;
   /// A text of the catalogue, by its name there, in a language that the page adds; empty where that leaves it.
   [[nodiscard]] std::string TextOf(std::string_view name) const;

@@ -1,9 +1,10 @@
 // A message box: modal, answered on purpose. No bare letter answers it, and a key counts only after a pause in the typing.
 
 import { answerBox, isMeant } from './machine.js';
-import { writeCaption } from './nodes.js';
+import { OWN_LANGUAGE, writeCaption } from './nodes.js';
 
 const QUESTION = 36;
+const THE_CONTROLS = 0;
 const STEPS = Object.freeze({ ArrowLeft: -1, ArrowUp: -1, ArrowRight: 1, ArrowDown: 1 });
 const Answer = Object.freeze({ ok: 1, yes: 6, no: 7 });
 
@@ -16,12 +17,13 @@ export class MessageBox {
   /** Keys that went down before somebody had seen the box. */
   #passed = new Set();
 
-  constructor(view, number, style, title, text) {
+  constructor(view, number, style, who, title, text) {
     this.#view = view;
     this.#number = number;
     const question = style === QUESTION;
     this.#unanswered = question ? Answer.no : Answer.ok;
     const dialog = (this.dialog = document.createElement('dialog'));
+    dialog.lang = who === THE_CONTROLS ? OWN_LANGUAGE : view.language.tag;
     dialog.className = question ? 'message asks' : 'message';
     dialog.part = 'dialog message';
     dialog.setAttribute('role', 'alertdialog');

@@ -48,7 +48,7 @@ function ems(length) {
 }
 
 /** What the controls say themselves is Dutch, whatever is spoken around them. */
-const OWN_LANGUAGE = 'nl';
+export const OWN_LANGUAGE = 'nl';
 
 /** A caption with an "&" before the letter to underline, and "&&" for one to show. */
 export function writeCaption(element, marked) {

@@ -133,8 +133,8 @@ export class View {
     this.#close(this.nodes.get(id)?.outer);
   }
 
-  openBox(number, style, title, text) {
-    const box = new MessageBox(this, number, style, title, text);
+  openBox(number, style, who, title, text) {
+    const box = new MessageBox(this, number, style, who, title, text);
     this.#boxes.set(number, box);
     this.root.append(box.dialog);
     if (this.#open(box.dialog)) return 1;
