@@ -421,6 +421,8 @@ class Form extends Node {
     const [, , width, height] = this.twips;
     this.area.style.width = this.length(width);
     this.area.style.height = this.length(height);
+    // Where the window is too low for it: room for the bar, which would otherwise call for a second one below.
+    this.area.style.marginRight = `clamp(0px, (${this.length(height)} + 3em - 94vh) * 99, 17px)`;
   }
   enable(enabled) {
     this.area.inert = !enabled;

@@ -127,7 +127,7 @@ dialog::backdrop { background: rgb(0 0 0 / .3); }
 .form[open] { display: flex; flex-direction: column; }
 .head { display: flex; align-items: center; justify-content: space-between; gap: 1em; padding: .3em .4em .3em .8em; border-bottom: 1px solid; border-color: var(--line); }
 .title { font-weight: bold; }
-.scroll { overflow: auto; scrollbar-gutter: stable; }
+.scroll { overflow: auto; }
 .message { max-width: min(34em, 92vw); padding: .9em 1.1em; }
 .message .text {
   display: grid; grid-template-columns: auto 1fr; gap: .9em; align-items: center; margin: .7em 0 1em; white-space: pre-line;
