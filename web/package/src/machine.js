@@ -127,6 +127,8 @@ export function answerBox(view, box, answer) {
   enter(() => machine._brivane_go_on());
 }
 
+/** Whether it changes anything that the focus leaves a node. */
+export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
 export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);

@@ -180,7 +180,16 @@ function makeBox(format) {
   return input;
 }
 
+/** As wide as a character can be in the fonts there are, in ems: those that numbers and days are written in, and any. */
+const WIDEST_DIGIT = 0.64;
+const WIDEST = 1;
+/** Of a box, what is no room for text. */
+const EDGES = 0.8;
+const CALENDAR = 1.3;
+
 class TextBox extends Node {
+  #isCut = false;
+
   constructor(view, id, design) {
     const { format } = design;
     const date = format === Format.date;
@@ -226,10 +235,30 @@ class TextBox extends Node {
   }
 
   show(what, number, text) {
-    if (what === Shows.value) this.input.value = text;
+    if (what === Shows.value) this.#write(text);
     else if (what === Shows.selected) this.input.select();
     else if (what === Shows.locked) this.input.readOnly = number !== 0;
     else super.show(what, number, text);
+  }
+  #write(text) {
+    this.input.value = text;
+    this.fit(text);
+  }
+  putInPlace() {
+    super.putInPlace();
+    this.fit(this.input.value);
+  }
+  /**
+   * A text that may be cut off shows that. No other is asked to: what shows it is laid out anew each time that it is gone
+   * into and left, because what is worked in does not.
+   */
+  fit(text) {
+    if (this.twips === undefined) return;
+    const { format } = this.design;
+    const isCut = this.twips[2] / this.em < EDGES + (format === Format.date ? CALENDAR : 0) + text.length * (format === Format.text ? WIDEST : WIDEST_DIGIT);
+    if (isCut === this.#isCut) return;
+    this.#isCut = isCut;
+    this.input.classList.toggle('cut', isCut);
   }
   enable(enabled) {
     super.enable(enabled);

@@ -119,8 +119,10 @@ export class View {
   }
 
   insert(id, text) {
-    const input = this.nodes.get(id).input;
+    const node = this.nodes.get(id);
+    const { input } = node;
     input.setRangeText(text, input.selectionStart, input.selectionEnd, 'end');
+    node.fit(input.value);
     return input.value;
   }
 
