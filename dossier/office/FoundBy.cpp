@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "dossier/office/RowsJson.h"
+#include "dossier/office/TypedDate.h"
 #include "dossier/store/Database.h"
 #include "dossier/store/Rows.h"
 
@@ -28,8 +29,6 @@ QStringList WordsOf(const QString& text) {
   static const QRegularExpression separators(QStringLiteral("[^\\p{L}\\p{N}]+"));
   return Folded(text).split(separators, Qt::SkipEmptyParts);
 }
-
-QString DateWord(const QDate& date) { return date.toString(QStringLiteral("ddMMyyyy")); }
 
 }  // namespace
 
@@ -56,7 +55,7 @@ FoundBy FindingWords::Of(Database& tables) {
       if (!text.empty()) parts << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
       words << WordsOf(text);
     }
-    if (days != 0) words << DateWord(kDayZero.addDays(days));
+    if (days != 0) words << DayWords(kDayZero.addDays(days));
     if (!found.naam.isEmpty()) continue;
     found.naam = parts.join(u' ');
     found.geboortedatum = days;
@@ -86,15 +85,9 @@ std::string JsonOf(const FoundBy& found) {
 }
 
 QStringList WordsTyped(const QString& typed) {
-  static const QRegularExpression date(QStringLiteral("\\b(\\d{1,2})[-/.](\\d{1,2})[-/.](\\d{4})\\b"));
   QString text = typed;
-  QStringList words;
-  for (QRegularExpressionMatch match = date.match(text); match.hasMatch(); match = date.match(text)) {
-    const QDate day(match.captured(3).toInt(), match.captured(2).toInt(), match.captured(1).toInt());
-    words << (day.isValid() ? DateWord(day) : match.captured(1) + match.captured(2) + match.captured(3));
-    text.replace(match.capturedStart(), match.capturedLength(), QStringLiteral(" "));
-  }
-  return words + WordsOf(text);
+  const QStringList days = TakeDays(text);
+  return days + WordsOf(text);
 }
 
 }  // namespace brivane::dossier

@@ -35,7 +35,7 @@ class FindingWords {
 /// The same as an object for the server's functions.
 [[nodiscard]] std::string JsonOf(const FoundBy& found);
 
-/// The words of what was typed, as they are compared; a date in any way of writing it is one word.
+/// The words of what was typed, as they are compared; a date in any way of writing it, or its beginning, is one word.
 [[nodiscard]] QStringList WordsTyped(const QString& typed);
 
 }  // namespace brivane::dossier

@@ -6,18 +6,10 @@
 namespace brivane::dossier {
 namespace {
 
-struct Upgrade {
-  /// As the account that sets up: roles, and what only it may make.
-  const char* as_account;
-  /// As the owner, in order.
-  const char* const* as_owner;
-  std::size_t count;
-};
-
 const char* const kOwnedV1[] = {kTablesV1, kRightsV1, kFunctionsV1, kStoringV1, kFunctionRightsV1};
 
 /// Upgrade n leads from version n to version n + 1.
-const Upgrade kUpgrades[kOfficeVersion] = {{kRolesV1, kOwnedV1, std::size(kOwnedV1)}};
+const OfficeUpgrade kUpgrades[kOfficeVersion] = {{kRolesV1, kOwnedV1}};
 
 int VersionOf(OfficeConnection& connection) {
   const bool is = connection.Run(QStringLiteral("SELECT to_regclass('kantoor.versie') IS NOT NULL")).value(0).toBool();
@@ -26,18 +18,23 @@ int VersionOf(OfficeConnection& connection) {
 
 }  // namespace
 
-int SetUpOffice(OfficeConnection& connection) {
+std::span<const OfficeUpgrade> OfficeUpgrades() { return kUpgrades; }
+
+int SetUpOffice(OfficeConnection& connection) { return BringUpToDate(connection, kUpgrades); }
+
+int BringUpToDate(OfficeConnection& connection, std::span<const OfficeUpgrade> upgrades) {
+  const int newest = static_cast<int>(upgrades.size());
   connection.RunScript(QStringLiteral("BEGIN"));
   try {
     // The schema may not be there yet: the lock is on a number of the office's own.
     connection.RunScript(QStringLiteral("SELECT pg_advisory_xact_lock(1262571092)"));
     const int before = VersionOf(connection);
-    if (before > kOfficeVersion) throw OfficeError(OfficeProblem::Newer, "The office is of a later version");
-    for (int version = before; version < kOfficeVersion; ++version) {
-      const Upgrade& upgrade = kUpgrades[version];
+    if (before > newest) throw OfficeError(OfficeProblem::Newer, "The office is of a later version");
+    for (int version = before; version < newest; ++version) {
+      const OfficeUpgrade& upgrade = upgrades[static_cast<std::size_t>(version)];
       connection.RunScript(QString::fromUtf8(upgrade.as_account));
       connection.RunScript(QStringLiteral("SET LOCAL ROLE kantoor_eigenaar"));
-      for (std::size_t n = 0; n < upgrade.count; ++n) connection.RunScript(QString::fromUtf8(upgrade.as_owner[n]));
+      for (const char* sql : upgrade.as_owner) connection.RunScript(QString::fromUtf8(sql));
       connection.RunScript(QStringLiteral("INSERT INTO kantoor.versie (nummer) VALUES (%1)").arg(version + 1));
       connection.RunScript(QStringLiteral("RESET ROLE"));
     }

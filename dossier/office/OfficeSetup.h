@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 namespace brivane::dossier {
 
 class OfficeConnection;
@@ -12,5 +14,19 @@ inline constexpr int kOfficeVersion = 1;
 /// other. The account owns the database and may make roles. Answers the version that was there before, 0 for none.
 /// Throws OfficeError, with Newer where the office is of a later version.
 int SetUpOffice(OfficeConnection& connection);
+
+/// What leads from one version of the schema to the next.
+struct OfficeUpgrade {
+  /// As the account that sets up: roles, and what only it may make.
+  const char* as_account;
+  /// As the owner, in order.
+  std::span<const char* const> as_owner;
+};
+
+/// Those of this program, from nothing on.
+[[nodiscard]] std::span<const OfficeUpgrade> OfficeUpgrades();
+
+/// SetUpOffice by these.
+int BringUpToDate(OfficeConnection& connection, std::span<const OfficeUpgrade> upgrades);
 
 }  // namespace brivane::dossier

@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(Fates, EveryStatementTest, testing::Values(Fate::LostBe
                            return chosen.param == Fate::LostBefore ? "BeforeTheOffice" : "AfterTheOffice";
                          });
 
-TEST(EveryTableTest, IsFullInTurn) {
+TEST(FullTableTest, IsFullInTurn) {
   TrialOffice office;
   const auto must = [&](const QString& sql) {
     bool failed = false;

@@ -26,7 +26,7 @@ inline void MakeClients(TrialOffice& office, int first, const Many& many) {
       "n[1 + g % 20] || ' ' || g, 10000 + g % 20000, now() - g * interval '1 minute', CASE g % 7 WHEN 0 THEN 'anna' "
       "ELSE 'bert' END, {steps} FROM generate_series(2, {clients}) g, namen; "
       "INSERT INTO kantoor.zoek (client, team, tekst) SELECT nummer, team, ' ' || lower(naam) || ' w' || "
-      "md5(nummer::text) || ' ' || to_char(date '1899-12-30' + geboortedatum::int, 'DDMMYYYY') || ' krant kinderopvang "
+      "md5(nummer::text) || to_char(date '1899-12-30' + geboortedatum::int, ' DDMMYYYY YYYYMMDD') || ' krant kinderopvang "
       "gift mij' || nummer % 307 || ' polis' || nummer % 5003 || CASE team WHEN 1 THEN '' ELSE ' elders' END FROM "
       "kantoor.client WHERE nummer > {like}; "
       "DO $$ DECLARE tabel text; kolommen text; BEGIN FOREACH tabel IN ARRAY ARRAY['dossier', 'persoon', "

@@ -52,6 +52,37 @@ class OfficeShelf final : public Shelf {
     return findings;
   }
 
+  bool Spoil(const QString& name, const Damage& damage) override {
+    const auto kept = [](std::int64_t number) {
+      const std::string bytes = Pack({number});
+      return "'\\x" + QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())).toHex() + "'";
+    };
+    const QString change = *damage.set == '\0' ? QString("DELETE FROM kantoor.%1").arg(damage.table)
+                                               : QString("UPDATE kantoor.%1 SET %2").arg(damage.table, damage.set);
+    bool failed = false;
+    const QString said = office_.Psql("postgres",
+                                      QString("SET session_replication_role = replica; SET search_path = kantoor; WITH "
+                                              "rows AS (%1 WHERE client = %2 AND %3 RETURNING 1) SELECT "
+                                              "count(*) FROM rows")
+                                          .arg(change, name, damage.where)
+                                          .replace("{largest}", "'Infinity'")
+                                          .replace("{long}", "repeat('x', 120000)")
+                                          .replace("{11}", kept(11))
+                                          .replace("{400000}", kept(400000)),
+                                      &failed);
+    EXPECT_FALSE(failed) << said.toStdString();
+    return said.toInt() > 0;
+  }
+  std::string WhyNotOpened(const QString& name) override {
+    try {
+      static_cast<void>(office_.Open(name.toInt()));
+      return {};
+    } catch (const OfficeError& error) {
+      EXPECT_EQ(error.Problem(), OfficeProblem::Damaged);
+      return error.Melding().toStdString();
+    }
+  }
+
   class OnOffice final : public Walk {
    public:
     OnOffice(OfficeShelf& shelf, const QString& name) : shelf_(shelf), store_(shelf.OpenClient(name)) {}

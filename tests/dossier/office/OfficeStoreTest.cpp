@@ -87,6 +87,14 @@ TEST(OfficeStoreTest, AClientOfAnotherTeamIsNotThere) {
   }
   EXPECT_TRUE(SearchClients(*office.Enter("carla"), "Heuvel").empty());
   EXPECT_EQ(SearchClients(*office.Enter("bert"), "heuv 12-3-1978").size(), 1U);
+  // At every key of the day of birth.
+  const auto session = office.Enter("bert");
+  for (const QString day : {"12-3-1978", "12/03/78", "1978-03-12"}) {
+    for (int keys = 1; keys <= day.size(); ++keys)
+      EXPECT_EQ(SearchClients(*session, day.left(keys)).size(), 1U) << day.left(keys).toStdString();
+  }
+  EXPECT_TRUE(SearchClients(*session, "13-3").empty());
+  EXPECT_TRUE(SearchClients(*session, "1978-04").empty());
   EXPECT_EQ(SearchClients(*office.Enter("rob"), "").size(), 1U);
   EXPECT_EQ(SearchClients(*office.Enter("mia"), "").size(), 1U);
 }

@@ -69,6 +69,43 @@ TEST(OfficeTextTest, WhatIsTypedIsLookedForByWords) {
   for (const auto& [typed, words] : table) EXPECT_EQ(WordsTyped(typed), words) << typed;
 }
 
+TEST(OfficeTextTest, ADayIsFoundAtEveryKey) {
+  const std::pair<const char*, QStringList> table[] = {{"1-", {"01"}},
+                                                       {"12-", {"12"}},
+                                                       {"12-0", {"120"}},
+                                                       {"12-03", {"1203"}},
+                                                       {"12-3", {"1203"}},
+                                                       {"12-3-", {"1203"}},
+                                                       {"12-3-1", {"12031"}},
+                                                       {"12-3-19", {"120319"}},
+                                                       {"12-3-197", {"1203197"}},
+                                                       {"12.3.1978", {"12031978"}},
+                                                       // January, or one of the last three months.
+                                                       {"12-1", {"12"}},
+                                                       {"12-1-", {"1201"}},
+                                                       {"12-10", {"1210"}},
+                                                       {"12/3/7", {"1203"}},
+                                                       {"12/3/78", {"12031978"}},
+                                                       {"12-3-05", {"12032005"}},
+                                                       {"1978-", {"1978"}},
+                                                       {"1978-0", {"19780"}},
+                                                       {"1978-1", {"1978"}},
+                                                       {"1978-3", {"197803"}},
+                                                       {"1978-03-1", {"197803"}},
+                                                       {"1978-03-4", {"19780304"}},
+                                                       {"1978-03-12", {"19780312"}},
+                                                       {"heuvel 12-3", {"1203", "heuvel"}},
+                                                       // What is no day stays what it is.
+                                                       {"12-30", {"12", "30"}},
+                                                       {"32-1", {"32", "1"}},
+                                                       {"0-3", {"0", "3"}},
+                                                       {"1978-13", {"1978", "13"}},
+                                                       {"polis 4711-12", {"polis", "4711", "12"}},
+                                                       {"a12-3", {"a12", "3"}},
+                                                       {"1. van", {"1", "van"}}};
+  for (const auto& [typed, words] : table) EXPECT_EQ(WordsTyped(typed), words) << typed;
+}
+
 TEST(OfficeTextTest, AStateCodeTellsWhatWentWrong) {
   const std::pair<const char*, OfficeProblem> table[] = {
       {"", OfficeProblem::Unreachable},      {"57P01", OfficeProblem::Unreachable},

@@ -3,7 +3,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <optional>
 
 #include "tests/dossier/office/TrialOffice.h"
@@ -79,6 +81,39 @@ TEST_F(ServerTest, OverTheNetworkWithThePasswordAndTheCertificateOfTheServer) {
   EXPECT_TRUE(connection.Run("SELECT ssl FROM pg_stat_ssl WHERE pid = pg_backend_pid()").value(0).toBool());
   // A password does not stand among the words.
   EXPECT_EQ(Entering(words("localhost", "verify-full", "server.crt") + " password=geheim"), OfficeProblem::Refused);
+}
+
+TEST_F(ServerTest, ByTheNameOfAServiceWithThePasswordFromItsFile) {
+  office_.Psql("postgres", "ALTER ROLE anna PASSWORD 'geheim'");
+  const int port = FreePort();
+  server_.Stop("fast");
+  server_.AddSettings(QString("listen_addresses = 'localhost'\nport = %1\n").arg(port));
+  server_.AddAdmissions("host all +kantoor_adviseur all scram-sha-256\n");
+  server_.Start();
+  const auto write = [](const QString& path, const QString& text) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text.toUtf8());
+    // libpq passes over a file of passwords that others may read.
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+  };
+  const QTemporaryDir folder;
+  write(folder.filePath("diensten"),
+        QString("[kantoor]\nhost=localhost\nport=%1\ndbname=%2\nuser=anna\nsslmode=disable\n")
+            .arg(port)
+            .arg(office_.Name()));
+  write(folder.filePath("wachtwoorden"), QString("localhost:%1:*:anna:geheim\n").arg(port));
+  write(folder.filePath("andere"), QString("localhost:%1:*:bert:geheim\n").arg(port));
+  qputenv("PGSERVICEFILE", folder.filePath("diensten").toUtf8());
+  qputenv("PGPASSFILE", folder.filePath("wachtwoorden").toUtf8());
+  EXPECT_EQ(Entering("kantoor"), std::nullopt);
+  EXPECT_EQ(Entering("service=kantoor"), std::nullopt);
+  EXPECT_EQ(Entering("elders"), OfficeProblem::Unreachable);
+  qputenv("PGPASSFILE", folder.filePath("andere").toUtf8());
+  EXPECT_EQ(Entering("kantoor"), OfficeProblem::Unreachable);
+  EXPECT_EQ(Entering("kantoor", "geheim"), std::nullopt);
+  qunsetenv("PGSERVICEFILE");
+  qunsetenv("PGPASSFILE");
 }
 
 TEST_F(ServerTest, ADumpThatIsPutBackHoldsEverything) {

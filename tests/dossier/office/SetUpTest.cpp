@@ -80,6 +80,47 @@ TEST(SetUpTest, ALaterOfficeIsLeftAlone) {
   }
 }
 
+TEST(SetUpTest, AnEarlierOfficeIsBroughtUpToDateOrLeftAsItWas) {
+  TrialOffice office;
+  const int client = office.Add();
+  const char* const paints[] = {"ALTER TABLE kantoor.team ADD COLUMN kleur text",
+                                "UPDATE kantoor.team SET kleur = 'groen'"};
+  const char* const fails[] = {"ALTER TABLE kantoor.team ADD COLUMN vorm text", "UPDATE kantoor.team SET vorm = 1 / 0"};
+  std::vector<OfficeUpgrade> upgrades(OfficeUpgrades().begin(), OfficeUpgrades().end());
+  upgrades.push_back({"CREATE TABLE public.van_wie AS SELECT current_user AS wie", paints});
+  OfficeConnection manager(office.Words("postgres"));
+  manager.Open();
+  EXPECT_EQ(BringUpToDate(manager, upgrades), 1);
+  const QString versions = "SELECT string_agg(nummer::text, ' ' ORDER BY nummer) FROM kantoor.versie";
+  EXPECT_EQ(office.Psql("postgres", versions), "1 2");
+  EXPECT_EQ(office.Psql("postgres", "SELECT wie FROM public.van_wie"), "postgres");
+  EXPECT_EQ(office.Psql("anna", "SELECT kleur FROM kantoor.team WHERE nummer = 1"), "groen");
+  EXPECT_EQ(office.Psql("rob", QString("SELECT count(*) FROM kantoor.client WHERE nummer = %1").arg(client)), "1");
+  EXPECT_EQ(BringUpToDate(manager, upgrades), 2);
+  // One that fails halfway leaves the version before it.
+  upgrades.push_back({"", fails});
+  EXPECT_THROW(BringUpToDate(manager, upgrades), OfficeError);
+  EXPECT_EQ(office.Psql("postgres", versions), "1 2");
+  EXPECT_EQ(
+      office.Psql("postgres",
+                  "SELECT count(*) FROM pg_attribute WHERE attrelid = 'kantoor.team'::regclass AND attname = 'vorm'"),
+      "0");
+  // This program is older than that office now.
+  EXPECT_THROW(SetUpOffice(manager), OfficeError);
+}
+
+TEST(SetUpTest, AnEarlierOfficeIsNotEntered) {
+  TrialOffice office;
+  office.Psql("postgres", "UPDATE kantoor.versie SET nummer = nummer - 1");
+  try {
+    static_cast<void>(office.Enter());
+    ADD_FAILURE() << "entered";
+  } catch (const OfficeError& error) {
+    EXPECT_EQ(error.Problem(), OfficeProblem::Older);
+    EXPECT_EQ(error.Melding(), "Het kantoor is ingericht voor een eerdere versie; de beheerder werkt het bij.");
+  }
+}
+
 TEST(SetUpTest, WhereThereIsNoOfficeThatIsTold) {
   test::PostgresServer& server = test::PostgresServer::Shared();
   const QString database = server.MakeDatabase();

@@ -101,6 +101,27 @@ class FileShelf final : public Shelf {
   QStringList Findings(const QString&, DossierStore& store) override {
     return dynamic_cast<DossierFile&>(store).ControleerHeelheid();
   }
+  bool Spoil(const QString& name, const Damage& damage) override {
+    Database database(name, Access::ReadWrite);
+    // The history keeps itself.
+    database.PassOverTriggers();
+    const QString change = *damage.set == '\0' ? QString("DELETE FROM %1").arg(damage.table)
+                                               : QString("UPDATE %1 SET %2").arg(damage.table, damage.set);
+    database.Run((change + " WHERE " + damage.where)
+                     .replace("{largest}", "9e999")
+                     .replace("{long}", "hex(zeroblob(60000))")
+                     .replace("{11}", "11")
+                     .replace("{400000}", "400000"));
+    return database.Value("SELECT changes()").toInt() > 0;
+  }
+  std::string WhyNotOpened(const QString& name) override {
+    try {
+      static_cast<void>(DossierFile::Open(name));
+      return {};
+    } catch (const OpeningError& error) {
+      return error.Melding().toStdString();
+    }
+  }
   std::unique_ptr<Walk> Begin(const QString& name) override { return std::make_unique<OnFile>(name); }
   std::unique_ptr<NoRoom> TakeRoom(const QString& name) override {
     // What lies behind the log as it is cannot be written.

@@ -61,51 +61,6 @@ TEST(PossibleTest, TheBoundsOfEachKindOfValue) {
   EXPECT_FALSE(IsPossible(PeriodeVeld{"Percentage"}, HUGE_VAL));
 }
 
-TEST(PossibleTest, AFileWithAValueThatNoEditWritesIsRefusedWithItsPlace) {
-  struct Row {
-    const char* sql;
-    const char* place;
-  };
-  for (const Row& row : {
-           Row{"UPDATE vrijekolom SET id = 2 WHERE id = 1",
-               "kolom 2 van de huidige situatie, nummer komt twee keer voor"},
-           Row{"UPDATE vrijekolom SET id = 0 WHERE id = 2", "kolom 0 van de huidige situatie, nummer"},
-           Row{"UPDATE vrijekolom SET id = -3 WHERE id = 2", "kolom -3 van de huidige situatie, nummer"},
-           Row{"UPDATE vrijekolom SET correctie_last = 77 WHERE id = 3",
-               "kolom 3 van de huidige situatie, correctie maandlast"},
-           Row{"UPDATE vrijekolom SET termijn = 4 WHERE id = 3", "kolom 3 van de huidige situatie, termijn"},
-           Row{"UPDATE vrijekolom SET bedrag = 9e999 WHERE id = 3", "kolom 3 van de huidige situatie, bedrag"},
-           Row{"UPDATE vrijekolom SET bedrag = 1e300 WHERE id = 3", "kolom 3 van de huidige situatie, bedrag"},
-           Row{"UPDATE vrijekolom SET looptijd = 40000 WHERE id = 3", "kolom 3 van de huidige situatie, looptijd"},
-           Row{"UPDATE vrijekolom SET invoersoort = 4 WHERE id = 3", "kolom 3 van de huidige situatie, invoersoort"},
-           Row{"UPDATE vrijekolom SET percentage_overgang = -9e999 WHERE id = 3",
-               "kolom 3 van de huidige situatie, overgangspercentage"},
-           Row{"UPDATE vrijekolom SET omschrijving = hex(zeroblob(60000)) WHERE id = 3",
-               "kolom 3 van de huidige situatie, omschrijving"},
-           Row{"UPDATE periode SET maand = -1 WHERE sleutel = (SELECT min(sleutel) FROM periode)",
-               "kolom 1 van de huidige situatie, periode 1, maand"},
-           Row{"UPDATE lening SET naam = hex(zeroblob(60000)) WHERE nummer = 1",
-               "naam van lening 1 van de nieuwe situatie"},
-           Row{"UPDATE dossier SET leeftijd = 0", "leeftijdsgrens"},
-           Row{"UPDATE persoon SET naam_3 = hex(zeroblob(60000)) WHERE nummer = 1", "aanvrager, naam"},
-           Row{"INSERT INTO voorstel VALUES (2, -1)", "voorstel 2"},
-       }) {
-    SCOPED_TRACE(row.sql);
-    const Folder folder;
-    const QString path = folder.Make();
-    Database(path, Access::ReadWrite).Run(QString::fromLatin1(row.sql));
-    const QByteArray bytes = Bytes(path);
-    try {
-      static_cast<void>(DossierFile::Open(path));
-      ADD_FAILURE() << "opened";
-    } catch (const OpeningError& error) {
-      EXPECT_EQ(error.Problem(), OpeningProblem::Impossible);
-      EXPECT_TRUE(error.Melding().contains(QStringLiteral("(%1)").arg(QLatin1String(row.place)))) << error.what();
-    }
-    EXPECT_EQ(Bytes(path), bytes);
-  }
-}
-
 TEST(PossibleTest, ThirtyThousandLoansAreRefusedBeforeAnythingIsShown) {
   const Folder folder;
   const QString path = folder.Make();
@@ -123,26 +78,19 @@ TEST(PossibleTest, AFileLargerThanAnyCaseIsRefusedAtOnce) {
   EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::TooLarge);
 }
 
-TEST(PossibleTest, WhatMakesACaseLargerThanItMayBeIsRefusedAndTheRestOpensAgain) {
+TEST(PossibleTest, TheFileOfTheLargestCaseHoldsEachTextTwice) {
   const Folder folder;
   const QString path = folder.Make();
   const std::string longest(kMostText, 'x');
-  std::string reason;
-  DossierGegevens stored;
-  {
-    const auto open = DossierFile::Open(path);
-    try {
-      for (int n = 0; n < 1000; ++n) open->Dossier()->NewKolom(0)->SetOmschrijving(longest);
-    } catch (const host::Error& error) {
-      reason = error.Description();
-    }
-    stored = open->Dossier()->Gegevens();
-  }
-  EXPECT_EQ(reason, "De wijziging is niet opgeslagen: het dossier is zo groot als een dossier kan zijn.");
+  EXPECT_THROW(
+      {
+        const auto open = DossierFile::Open(path);
+        for (int n = 0; n < 1000; ++n) open->Dossier()->NewKolom(0)->SetOmschrijving(longest);
+      },
+      host::Error);
   // Each text stands in the case and in its history.
   EXPECT_GT(QFileInfo(path).size(), kMostWeight);
   EXPECT_LE(QFileInfo(path).size(), 3 * kMostWeight);
-  EXPECT_TRUE(ReadBack(path) == stored);
 }
 
 TEST(PossibleTest, ACaseThatIsLargerThanItMayBeIsRefusedWhateverTheFileHolds) {
@@ -152,36 +100,6 @@ TEST(PossibleTest, ACaseThatIsLargerThanItMayBeIsRefusedWhateverTheFileHolds) {
       .Run(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 600000) "
                           "INSERT INTO periode (kolom) SELECT (SELECT min(sleutel) FROM vrijekolom) FROM n"));
   EXPECT_EQ(ProblemAtOpening(path), OpeningProblem::TooLarge);
-}
-
-TEST(PossibleTest, AChangeThatWouldNotOpenAgainIsNotStored) {
-  const Folder folder;
-  const QString path = folder.Make();
-  const DossierGegevens before = ReadBack(path);
-  {
-    const auto open = DossierFile::Open(path);
-    const auto column = open->Dossier()->FindKolom(0, 1);
-    const std::function<void()> changes[] = {
-        [&] { column->Bedrag()->SetBedrag(HUGE_VAL); },
-        [&] { column->SetTermijn(4); },
-        [&] { column->SetOmschrijving(std::string(kMostText + 1, 'x')); },
-        [&] { column->Bedrag()->Periode(1)->SetMaand(-1); },
-        [&] {
-          open->Dossier()->SetClient({{.Naam = {"A", "", "B"}, .Geboortedatum = {}}}, 0);
-        },
-        [&] { static_cast<void>(open->Dossier()->NieuweLening(std::string(kMostText + 1, 'x'))); },
-    };
-    for (const auto& change : changes) {
-      try {
-        change();
-        ADD_FAILURE() << "stored: change " << (&change - changes);
-      } catch (const host::Error& error) {
-        EXPECT_EQ(error.Number(), kImpossibleError);
-      }
-      EXPECT_EQ(open->Dossier()->Gegevens(), before);
-    }
-  }
-  EXPECT_EQ(ReadBack(path), before);
 }
 
 }  // namespace

@@ -35,6 +35,19 @@ class Shelf {
   /// What is wrong with what is stored; nothing where it is whole. It is open as `store`.
   [[nodiscard]] virtual QStringList Findings(const QString& name, DossierStore& store) = 0;
 
+  /// Rows that are changed behind the back of the programs.
+  struct Damage {
+    const char* table;
+    /// "column = value"; all of the rows go where it is empty. {largest} is more than any number, {long} a text longer
+    /// than any, {11} and {400000} a number as the history keeps it.
+    const char* set;
+    const char* where = "true";
+  };
+  /// Changes what is stored; it is not open. Answers that there were such rows.
+  virtual bool Spoil(const QString& name, const Damage& damage) = 0;
+  /// What is told where it does not open; empty where it does.
+  [[nodiscard]] virtual std::string WhyNotOpened(const QString& name) = 0;
+
   /// A case that is open for thousands of steps, with its stored rows: in a store that need not wait for a disk.
   class Walk {
    public:

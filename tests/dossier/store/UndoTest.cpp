@@ -57,48 +57,6 @@ TEST(UndoTest, NothingOfTheHistoryCanBeChangedOrRemoved) {
   }
 }
 
-/// What stands in the history of a file that opened may still be wrong: it is held against the case when it is used.
-TEST(UndoTest, AHistoryThatDoesNotFitIsRefusedAndNothingChanges) {
-  for (const char* sql :
-       {"UPDATE wijziging SET nieuw = 11", "UPDATE wijziging SET veld = 99", "UPDATE wijziging SET tabel = 9",
-        "UPDATE wijziging SET sleutel = 4711", "UPDATE wijziging SET stap = 7", "UPDATE stap SET eerste = 5",
-        "UPDATE stap SET terug = 44", "UPDATE wijziging SET oud = 400000", "UPDATE wijziging SET veld = 0",
-        "DELETE FROM wijziging", "UPDATE wijziging SET veld = 1, oud = 1, nieuw = 1"}) {
-    SCOPED_TRACE(sql);
-    const Folder folder;
-    const QString path = folder.Make();
-    DossierFile::Open(path)->Dossier()->FindKolom(0, 1)->SetLooptijd(10);
-    {
-      Database database(path, Access::ReadWrite);
-      QStringList triggers;
-      QSqlQuery query = database.Prepare("SELECT name, sql FROM sqlite_schema WHERE type = 'trigger'");
-      Database::Run(query);
-      QStringList names;
-      while (query.next()) {
-        names << query.value(0).toString();
-        triggers << query.value(1).toString();
-      }
-      query.finish();
-      for (const QString& name : names) database.Run("DROP TRIGGER " + name);
-      database.Run(QString::fromLatin1(sql));
-      for (const QString& trigger : triggers) database.Run(trigger);
-    }
-    std::unique_ptr<DossierFile> file;
-    try {
-      file = DossierFile::Open(path);
-    } catch (const OpeningError& error) {
-      EXPECT_EQ(error.Problem(), OpeningProblem::Damaged);
-      continue;
-    }
-    const DossierGegevens before = file->Dossier()->Gegevens();
-    EXPECT_THROW(file->Take(StepKind::Undo), host::Error);
-    EXPECT_EQ(file->Dossier()->Gegevens(), before);
-    // The case itself can still be worked in.
-    file->Dossier()->FindKolom(0, 1)->SetOmschrijving("gaat door");
-    EXPECT_EQ(file->Dossier()->FindKolom(0, 1)->Omschrijving(), "gaat door");
-  }
-}
-
 TEST(UndoTest, ACopyGoesOnWithTheHistoryAndTheWayBack) {
   const Folder folder;
   const QString path = folder.Make();
