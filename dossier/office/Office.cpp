@@ -17,6 +17,8 @@
 namespace brivane::dossier {
 namespace {
 
+using Patience = OfficeConnection::Patience;
+
 /// Rows of the history that go in one statement.
 constexpr std::size_t kPart = 2000;
 
@@ -56,7 +58,7 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
   for (const ClientTable& table : CaseParts())
     payload += '"' + std::string(table.name) + "\":" + JsonList(AllRows(tables, table)) + ',';
   payload += "\"zoek\":" + JsonOf(FoundByOf(tables)) + '}';
-  office.RunScript(QStringLiteral("BEGIN"));
+  office.RunScript(QStringLiteral("BEGIN"), Patience::Long);
   try {
     // Who manages brings clients into every team: a member of it until the transaction ends, which nobody else sees.
     const bool guest =
@@ -74,10 +76,10 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
     if (guest)
       office.Run(QStringLiteral("DELETE FROM kantoor.lid WHERE gebruiker = session_user AND team = ?::integer"),
                  {team});
-    office.RunScript(QStringLiteral("COMMIT"));
+    office.RunScript(QStringLiteral("COMMIT"), Patience::Long);
     return client;
   } catch (const OfficeError& error) {
-    if (error.Problem() != OfficeProblem::Unreachable) office.RunScript(QStringLiteral("ROLLBACK"));
+    if (error.Problem() != OfficeProblem::Unreachable) office.RunScript(QStringLiteral("ROLLBACK"), Patience::Long);
     throw;
   }
 }
@@ -85,7 +87,7 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
 }  // namespace
 
 std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& typed, int most) {
-  QSqlQuery& row = office.Run(
+  OfficeRows row = office.Run(
       QStringLiteral("SELECT nummer, naam, geboortedatum, team, gewijzigd, gewijzigd_door, eigen, bewerker, sinds FROM "
                      "kantoor.zoek_clienten(?::text[], ?::integer)"),
       {ArrayOf(WordsTyped(typed)), most});
@@ -105,7 +107,7 @@ std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& t
 }
 
 std::vector<Team> TeamsFor(OfficeConnection& office) {
-  QSqlQuery& row = office.Run(
+  OfficeRows row = office.Run(
       QStringLiteral("SELECT t.nummer, t.naam, l.team IS NOT NULL AS eigen FROM kantoor.team t LEFT JOIN kantoor.lid l "
                      "ON l.team = t.nummer AND l.gebruiker = session_user WHERE l.team IS NOT NULL OR "
                      "pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER') ORDER BY eigen DESC, lower(t.naam)"));
