@@ -5,20 +5,18 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
-#include <map>
 #include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "dossier/office/ClientTables.h"
+#include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeConnection.h"
-#include "dossier/office/OfficeTables.h"
 #include "dossier/office/Reconnection.h"
 #include "dossier/store/EditKeeper.h"
 
 namespace brivane::dossier {
+
+struct EditText;
 
 /// Who edits a client, since when; nobody where the name is empty.
 struct Holder {
@@ -50,7 +48,7 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
   void Begin() override;
-  void Keep(Database& tables) override;
+  void Keep(Database& tables, const KeptEdit& edit) override;
 
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
   /// OfficeError.
@@ -95,14 +93,10 @@ class ClientSession final : public EditKeeper {
     std::int64_t step;
   };
 
-  [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
-  /// Rows as objects for the server; every edit reads some, by statements that stay prepared.
-  [[nodiscard]] std::vector<std::string> Objects(Database& tables, const ClientTable& table, const std::string& where,
-                                                 std::initializer_list<std::int64_t> values);
-  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
+  [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
+  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
   bool TakeLease();
   void See(const OfficeRows& who);
-  void Filled();
   void TakeUp();
   void Follow();
   void FollowNoMore();
@@ -118,8 +112,7 @@ class ClientSession final : public EditKeeper {
   int tries_ = 0;
   bool behind_ = false;
   bool follows_ = false;
-  std::int64_t names_ = 0;
-  std::map<std::string, QString> readings_;
+  FindingWords words_;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;
