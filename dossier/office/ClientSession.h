@@ -4,6 +4,7 @@
 #include <QString>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -45,6 +46,8 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] OfficeConnection& Office() { return *office_; }
   /// Who else has it, as far as this program was told.
   [[nodiscard]] const Holder& HeldBy() const { return holder_; }
+  /// Who asks whoever has it to let go, as far as the server was asked; nobody where the name is empty.
+  [[nodiscard]] const Holder& AskedBy() const { return asker_; }
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
   void Begin() override;
@@ -53,6 +56,16 @@ class ClientSession final : public EditKeeper {
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
   /// OfficeError.
   bool LookAround();
+  /// The same without waiting; the answer comes in the event loop, and is to be handed to Heard.
+  void LookAside(std::function<void(OfficeAnswer)> answer);
+  /// An answer that was asked for when the last step was that one; nothing where it is not so any more. Throws
+  /// OfficeError.
+  void Heard(const OfficeAnswer& answer, std::int64_t step);
+  /// Reads everything anew without waiting, and the answer is to be handed to FillWith.
+  void ReadAside(std::function<void(OfficeAnswer)> answer);
+  /// The same as Heard. Throws DatabaseError too.
+  void FillWith(const OfficeAnswer& answer, std::int64_t step);
+  [[nodiscard]] std::int64_t LastStep() const { return tables_.LastStep(); }
   /// Takes the client up where nobody has it any more; answers whether it is taken up here now. The tables are to be
   /// filled anew where it answers so and LookAround does. Throws OfficeError.
   bool Take();
@@ -87,6 +100,8 @@ class ClientSession final : public EditKeeper {
 
   [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
+  bool TakeLease();
+  void See(const OfficeRows& who);
   void TakeUp();
   /// As if it had never been opened.
   void Leave() noexcept;
@@ -99,6 +114,7 @@ class ClientSession final : public EditKeeper {
   State state_ = State::Reading;
   QString token_;
   Holder holder_;
+  Holder asker_;
   /// The session that has it, and since when.
   int pid_ = 0;
   QDateTime since_;

@@ -4,9 +4,9 @@
 #include <QSqlQuery>
 #include <QStringList>
 #include <algorithm>
+#include <limits>
 #include <map>
 
-#include "dossier/office/OfficeConnection.h"
 #include "dossier/office/OfficeTables.h"
 #include "dossier/office/OfficeText.h"
 #include "dossier/store/Schema.h"
@@ -93,12 +93,20 @@ const QString& ReadingHistory() {
   return sql;
 }
 
+/// A number that is not finite stands as a word there: no case has one, and who reads it tells where.
+double NumberOf(const QString& text) {
+  bool is = false;
+  const double number = text.toDouble(&is);
+  if (is) return number;
+  return text.startsWith(u'-') ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+}
+
 /// What the office gives as text.
 QVariant ForFile(const QVariant& given, Opslag kind) {
   if (given.isNull()) return {};
   switch (kind) {
     case Opslag::Integer: return given.toString().toLongLong();
-    case Opslag::Real: return given.toString().toDouble();
+    case Opslag::Real: return NumberOf(given.toString());
     case Opslag::Text: break;
   }
   return AlsBytes(FromOffice(given.toString().toStdString()));
@@ -115,6 +123,17 @@ QVariant ValueForFile(const QVariant& given) {
   if (const auto* broken = std::get_if<double>(&row.front())) return QVariant(*broken);
   if (const auto* text = std::get_if<std::string>(&row.front())) return QVariant(AlsBytes(*text));
   return {};
+}
+
+/// Entries are numbered on from those of the last step: without them an edit would be given numbers that are taken.
+void CheckLastStep(Database& tables) {
+  const bool broken =
+      tables
+          .Value(
+              QStringLiteral("SELECT count(*) FROM stap s WHERE nummer = (SELECT max(nummer) FROM stap) AND NOT EXISTS "
+                             "(SELECT 1 FROM wijziging w WHERE w.nummer = s.eerste AND w.stap = s.nummer)"))
+          .toInt() != 0;
+  if (broken) throw DatabaseError(SqliteCode::Corrupt, "The last step has no entries");
 }
 
 QString Insertion(const ClientTable& table) {
@@ -138,14 +157,18 @@ ClientTables::ClientTables(OfficeConnection& office, int client)
   tables_->Run(QStringLiteral("PRAGMA foreign_keys = ON"));
 }
 
-void ClientTables::Fill() {
-  QSqlQuery& rows = office_.Run(ReadingAll(), {client_, 0});
+const QString& ClientTables::Reading() { return ReadingAll(); }
+
+void ClientTables::Fill() { FillWith(office_.Run(Reading(), {client_, 0}, OfficeConnection::Patience::Short)); }
+
+void ClientTables::FillWith(OfficeRows rows) {
   if (!rows.isValid()) throw OfficeError(OfficeProblem::NoClient, "There is no such client");
   tables_->Run(QStringLiteral("BEGIN"));
   try {
     tables_->Run(QStringLiteral("PRAGMA defer_foreign_keys = ON"));
     for (const ClientTable& table : AllTables()) tables_->Run(QStringLiteral("DELETE FROM ") + Latin(table.name));
     Insert(rows);
+    CheckLastStep(*tables_);
     tables_->Run(QStringLiteral("COMMIT"));
   } catch (...) {
     tables_->Run(QStringLiteral("ROLLBACK"));
@@ -158,7 +181,7 @@ void ClientTables::Fill() {
 void ClientTables::FillHistory() {
   if (whole_) return;
   const qint64 first = tables_->Value(QStringLiteral("SELECT min(nummer) FROM stap")).toLongLong();
-  QSqlQuery& rows = office_.Run(ReadingHistory(), {client_, first});
+  OfficeRows rows = office_.Run(ReadingHistory(), {client_, first});
   tables_->Run(QStringLiteral("BEGIN"));
   try {
     Insert(rows);
@@ -170,7 +193,7 @@ void ClientTables::FillHistory() {
   whole_ = true;
 }
 
-void ClientTables::Insert(QSqlQuery& from) {
+void ClientTables::Insert(OfficeRows& from) {
   std::map<std::size_t, QSqlQuery> insertions;
   for (; from.isValid(); from.next()) {
     const auto number = static_cast<std::size_t>(from.value(0).toInt());

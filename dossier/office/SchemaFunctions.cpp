@@ -68,7 +68,8 @@ END $$;
 
 -- Takes up a client to edit it. `bewijs` is none where another session has it: `houder`, since `sinds`, by `pid`.
 CREATE FUNCTION kantoor.neem(p_client integer, OUT bewijs uuid, OUT houder text, OUT sinds timestamptz,
-    OUT laatste bigint, OUT pid integer) LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+    OUT laatste bigint, OUT pid integer) LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
 DECLARE
   v_genomen boolean := false;
 BEGIN
@@ -94,7 +95,10 @@ BEGIN
     INSERT INTO bewerker AS b (client, pid, bewijs, gebruiker, sinds)
       VALUES (p_client, neem.pid, neem.bewijs, session_user, neem.sinds)
       ON CONFLICT (client) DO UPDATE SET pid = EXCLUDED.pid, bewijs = EXCLUDED.bewijs, gebruiker = EXCLUDED.gebruiker,
-        sinds = EXCLUDED.sinds, gevraagd_door = NULL, gevraagd_om = NULL;
+        sinds = EXCLUDED.sinds,
+        -- Who was away for a moment when he was asked is still asked.
+        (gevraagd_door, gevraagd_om) = (SELECT b.gevraagd_door, b.gevraagd_om WHERE b.gebruiker = EXCLUDED.gebruiker
+          AND b.gevraagd_om > EXCLUDED.sinds - interval '5 minutes');
     PERFORM meld(p_client, 'genomen');
   EXCEPTION WHEN OTHERS OR query_canceled THEN
     -- A lock of the session outlives the transaction that failed.
@@ -115,11 +119,12 @@ END $$;
 
 -- Who edits a client now, if anybody does, and how far it is.
 CREATE FUNCTION kantoor.wie(p_client integer, OUT houder text, OUT sinds timestamptz, OUT gevraagd_door text,
-    OUT laatste bigint) LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+    OUT gevraagd_om timestamptz, OUT laatste bigint) LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
 BEGIN
   laatste := moet_zichtbaar_zijn(p_client);
-  SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, coalesce(v.naam, b.gevraagd_door::text)
-    INTO houder, sinds, gevraagd_door
+  SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, coalesce(v.naam, b.gevraagd_door::text), b.gevraagd_om
+    INTO houder, sinds, gevraagd_door, gevraagd_om
     FROM bewerker b LEFT JOIN medewerker m ON m.gebruiker = b.gebruiker
       LEFT JOIN medewerker v ON v.gebruiker = b.gevraagd_door
     WHERE b.client = p_client AND EXISTS (SELECT FROM sloten() s WHERE s.client = p_client AND s.pid = b.pid);
@@ -135,7 +140,7 @@ BEGIN
   IF NOT FOUND THEN
     RETURN false;
   END IF;
-  PERFORM pg_notify('kantoor_' || p_client, 'vraag ' || eigen_naam());
+  PERFORM pg_notify('kantoor_' || p_client, 'vraag');
   RETURN true;
 END $$;
 
@@ -214,6 +219,28 @@ BEGIN
     RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
   END IF;
   UPDATE zoek z SET team = p_team WHERE z.client = p_client;
+END $$;
+
+-- Removes a client with its history, for good. Only a superuser may pass over what keeps the history, so that nobody else
+-- can run this.
+CREATE FUNCTION kantoor.verwijder(p_client integer) RETURNS void LANGUAGE plpgsql
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+DECLARE
+  v_tabel name;
+BEGIN
+  SET LOCAL session_replication_role = replica;
+  IF NOT pg_try_advisory_xact_lock(1262571092, p_client) THEN
+    RAISE EXCEPTION 'somebody edits the client' USING ERRCODE = 'KT001';
+  END IF;
+  DELETE FROM client c WHERE c.nummer = p_client;
+  IF NOT FOUND THEN
+    RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
+  END IF;
+  FOR v_tabel IN SELECT k.relname FROM pg_class k JOIN pg_attribute a ON a.attrelid = k.oid
+      WHERE k.relnamespace = 'kantoor'::regnamespace AND k.relkind = 'r' AND a.attname = 'client' LOOP
+    EXECUTE format('DELETE FROM %I WHERE client = $1', v_tabel) USING p_client;
+  END LOOP;
+  SET LOCAL session_replication_role = origin;
 END $$;
 )sql";
 

@@ -161,7 +161,7 @@ BEGIN
       WHERE c.nummer = p_client AND (c.naam, c.geboortedatum) <> (p_zoek.naam, p_zoek.geboortedatum);
   END IF;
   IF v_gelezen THEN
-    PERFORM pg_notify('kantoor_' || p_client, 'stap ' || p_stap.nummer || ' ' || v_naam);
+    PERFORM pg_notify('kantoor_' || p_client, 'stap');
   END IF;
   RETURN v_tijd;
 END $$;

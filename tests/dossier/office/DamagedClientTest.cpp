@@ -50,10 +50,12 @@ TEST_F(DamagedClientTest, IsToldWithItsPlaceAndFreeForWhoMendsIt) {
       {"UPDATE kantoor.vrijekolom SET correctie_last = 77 WHERE id = 3",
        "kolom 3 van de huidige situatie, correctie maandlast"},
       {"UPDATE kantoor.vrijekolom SET bedrag = 1e300 WHERE id = 3", "kolom 3 van de huidige situatie, bedrag"},
+      {"UPDATE kantoor.vrijekolom SET bedrag = '-Infinity' WHERE id = 3", "kolom 3 van de huidige situatie, bedrag"},
       {"UPDATE kantoor.vrijekolom SET bedrag = 'NaN' WHERE id = 3", ""},
       {"DELETE FROM kantoor.dossier", "de uitgangspunten ontbreken"},
       {"DELETE FROM kantoor.persoon WHERE nummer = 1", "aanvrager ontbreekt"},
-      {"UPDATE kantoor.wijziging SET oud = '\\x07' WHERE nummer = 2", ""}};
+      {"UPDATE kantoor.wijziging SET oud = '\\x07' WHERE nummer = 2", ""},
+      {"DELETE FROM kantoor.wijziging WHERE nummer = 2", ""}};
   const char* const parts[] = {"vrijekolom", "dossier", "persoon", "wijziging"};
   for (const char* part : parts) Must(QString("CREATE TABLE public.%1 AS TABLE kantoor.%1").arg(part));
   for (const auto& [sql, place] : table) {

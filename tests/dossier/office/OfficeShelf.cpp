@@ -65,7 +65,7 @@ class OfficeShelf final : public Shelf {
                                               "rows AS (%1 WHERE client = %2 AND %3 RETURNING 1) SELECT "
                                               "count(*) FROM rows")
                                           .arg(change, name, damage.where)
-                                          .replace("{largest}", "'Infinity'")
+                                          .replace("{largest}", "'Infinity'::double precision")
                                           .replace("{long}", "repeat('x', 120000)")
                                           .replace("{11}", kept(11))
                                           .replace("{400000}", kept(400000)),

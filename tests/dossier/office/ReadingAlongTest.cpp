@@ -82,6 +82,49 @@ TEST_F(ReadingAlongTest, WhoAsksIsHeardAndTakesOverWhatIsLetGo) {
   }
 }
 
+TEST_F(ReadingAlongTest, WhoWasAwayWhenAskedHearsOfItOnce) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  const auto editor = OfficeStore::Open(office_.Enter("anna", proxy.Folder()), client_);
+  QStringList asked;
+  const auto asks = editor->Asked.Connect([&](const QString& who) { asked << who; });
+  proxy.Cut();
+  EXPECT_THROW(editor->Dossier()->FindKolom(0, 1)->SetLooptijd(10), host::Error);
+  // The server has not noticed yet that anna is gone, or has; her row is still there.
+  EXPECT_EQ(office_.Psql("bert", QString("SELECT kantoor.vraag(%1)").arg(client_)), "t");
+  proxy.Mend();
+  EXPECT_GE(Until([&] { return editor->Now() == State::Editing; }), 0);
+  EXPECT_GE(Until([&] { return !asked.isEmpty(); }), 0);
+  EXPECT_EQ(asked, QStringList{"Bert Bakker"});
+  // It is not told again, also after another connection.
+  proxy.Cut();
+  EXPECT_THROW(editor->Dossier()->FindKolom(0, 1)->SetLooptijd(10), host::Error);
+  proxy.Mend();
+  EXPECT_GE(Until([&] { return editor->Now() == State::Editing; }), 0);
+  editor->Attend();
+  EXPECT_EQ(asked.size(), 1);
+  // Who takes it up himself was not asked.
+  editor->LetGo();
+  const auto taken = office_.Open(client_, "bert");
+  ASSERT_EQ(taken->Now(), State::Editing);
+  EXPECT_EQ(office_.Psql("rob", QString("SELECT gevraagd_door IS NULL FROM kantoor.wie(%1)").arg(client_)), "t");
+}
+
+TEST_F(ReadingAlongTest, NothingThatIsToldNamesAnybody) {
+  const auto listener = office_.Enter("carla");
+  QStringList told;
+  const auto hears = listener->Told.Connect([&](const QString&, const QString& what) { told << what; });
+  listener->Listen(QString("kantoor_%1").arg(client_));
+  auto editor = office_.Open(client_);
+  const auto reader = office_.Open(client_, "bert");
+  editor->Dossier()->FindKolom(0, 1)->SetLooptijd(11);
+  reader->Ask();
+  editor.reset();
+  EXPECT_GE(Until([&] { return told.contains("los"); }), 0);
+  told.removeDuplicates();
+  told.sort();
+  EXPECT_EQ(told, (QStringList{"los", "stap", "vraag"}));
+}
+
 TEST_F(ReadingAlongTest, AHolderThatIsGoneIsSeenWithoutBeingTold) {
   auto editor = office_.Open(client_);
   const auto reader = office_.Open(client_, "bert");
@@ -117,7 +160,12 @@ TEST_F(ReadingAlongTest, WhoForgesAMessageShowsNothing) {
   const auto editor = office_.Open(office_.Add());
   int asked = 0;
   const auto asks = reader->Asked.Connect([&](const QString&) { ++asked; });
-  office_.Psql("rob", QString("NOTIFY kantoor_%1, 'stap 999 Iemand'; NOTIFY kantoor_%1, 'onzin'").arg(client_));
+  const auto asks_editor = editor->Asked.Connect([&](const QString&) { ++asked; });
+  office_.Psql("rob",
+               QString("NOTIFY kantoor_%1, 'stap 999 Iemand'; NOTIFY kantoor_%1, 'onzin'; NOTIFY kantoor_%2, 'vraag "
+                       "Iemand'; NOTIFY kantoor_%2, 'vraag'")
+                   .arg(client_)
+                   .arg(editor->Client()));
   Until([timer = [] {
     QElapsedTimer t;
     t.start();
@@ -125,6 +173,47 @@ TEST_F(ReadingAlongTest, WhoForgesAMessageShowsNothing) {
   }()] { return timer.hasExpired(300); });
   EXPECT_EQ(Duration(*reader), 96);
   EXPECT_EQ(asked, 0);
+}
+
+/// What Qt warns of meanwhile.
+QStringList* g_warnings = nullptr;
+
+TEST_F(ReadingAlongTest, WhoLeavesAClientHearsNoMoreOfItAndNobodyWarns) {
+  QStringList warnings;
+  g_warnings = &warnings;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { *g_warnings << text; });
+  const auto office = office_.Enter("bert");
+  const auto tell = [&](const char* what) {
+    office_.Psql("rob", QString("NOTIFY kantoor_%1, '%2'").arg(client_).arg(what));
+  };
+  const auto pass = [](qint64 milliseconds) {
+    QElapsedTimer timer;
+    timer.start();
+    Until([&] { return timer.hasExpired(milliseconds); });
+  };
+  auto reader = OfficeStore::Open(office, client_);
+  reader->LetGo();
+  reader->Attend();
+  // Something is told while the session is busy, and read together with the end of what it does.
+  office->Post("SELECT pg_sleep(0.5)", {});
+  tell("stap 1");
+  reader.reset();
+  pass(800);
+  int told = 0;
+  const auto tells = office->Told.Connect([&](const QString&, const QString&) { ++told; });
+  tell("stap 2");
+  pass(100);
+  EXPECT_EQ(told, 0);
+  // Back in it, it is heard again.
+  reader = OfficeStore::Open(office, client_);
+  reader->Attend();
+  tell("vraag Rob");
+  EXPECT_GE(Until([&] { return told == 1; }), 0);
+  reader.reset();
+  pass(100);
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, QStringList()) << warnings.join('|').toStdString();
 }
 
 }  // namespace

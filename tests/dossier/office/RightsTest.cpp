@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
 #include "tests/dossier/office/TrialOffice.h"
 
 // What the database refuses, whoever speaks to it: each tried by psql, as an adviser, a reader and somebody else.
@@ -88,10 +90,11 @@ TEST_F(RightsTest, NoRowIsWrittenButByTheFunctions) {
 
 TEST_F(RightsTest, TheInnerFunctionsAreTheOwnersAlone) {
   for (const char* account : {"anna", "rob"}) {
-    for (const QString& call : {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"),
-                                QString("kantoor.slot_van_toevoeging(gen_random_uuid())"), QString("kantoor.sloten()"),
-                                QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
-                                QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.eigen_naam()")}) {
+    for (const QString& call :
+         {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"),
+          QString("kantoor.slot_van_toevoeging(gen_random_uuid())"), QString("kantoor.sloten()"),
+          QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
+          QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.verwijder(%1)"), QString("kantoor.eigen_naam()")}) {
       ExpectRefused(account, "SELECT " + (call.contains('%') ? call.arg(N()) : call), "permission denied");
     }
   }
@@ -252,6 +255,33 @@ TEST_F(RightsTest, TheOwnerOfTheOfficeChangesNoHistoryEither) {
         "UPDATE kantoor.wijziging SET oud = NULL", "DELETE FROM kantoor.naam", "DELETE FROM kantoor.client",
         "TRUNCATE kantoor.client CASCADE", "UPDATE kantoor.client SET nummer = DEFAULT"})
     ExpectRefused("postgres", QString("SET ROLE kantoor_eigenaar; ") + sql, "history");
+}
+
+TEST_F(RightsTest, AClientIsRemovedByASuperuserAlone) {
+  ExpectRefused("mia", "SELECT kantoor.verwijder(" + N() + ")", "permission denied");
+  // Nor by the owner: what keeps the history is not his to pass over.
+  ExpectRefused("postgres", "SET ROLE kantoor_eigenaar; SELECT kantoor.verwijder(" + N() + ")", "permission denied");
+  {
+    const auto edited = office_.Open(noord_);
+    ExpectRefused("postgres", "SELECT kantoor.verwijder(" + N() + ")", "somebody edits");
+  }
+  ExpectRefused("postgres", "SELECT kantoor.verwijder(4711)", "no such client");
+  // The rows of a client in each table.
+  const QString rows =
+      "SELECT string_agg(k.relname || ' ' || (xpath('/row/n/text()', query_to_xml('SELECT count(*) AS n FROM kantoor.' "
+      "|| "
+      "k.relname || ' WHERE client = %1', false, true, '')))[1]::text, ' ' ORDER BY k.relname) FROM pg_class k JOIN "
+      "pg_attribute a ON a.attrelid = k.oid WHERE k.relnamespace = 'kantoor'::regnamespace AND k.relkind = 'r' AND "
+      "a.attname = 'client'";
+  const QString others = office_.Psql("postgres", rows.arg(Z()));
+  const QString before = office_.Psql("postgres", rows.arg(N()));
+  EXPECT_EQ(office_.Psql("postgres", "SELECT kantoor.verwijder(" + N() + ")"), "");
+  EXPECT_EQ(office_.Psql("postgres", "SELECT count(*) FROM kantoor.client"), "1");
+  EXPECT_EQ(office_.Psql("postgres", rows.arg(Z())), others);
+  EXPECT_EQ(office_.Psql("postgres", rows.arg(N())), QString(before).replace(QRegularExpression("\\d+"), "0"));
+  EXPECT_NE(others, QString(others).replace(QRegularExpression("\\d+"), "0"));
+  // What keeps the history does so again in the same session.
+  ExpectRefused("postgres", "SELECT kantoor.verwijder(" + Z() + "); DELETE FROM kantoor.stap", "history");
 }
 
 TEST_F(RightsTest, WhoHasNoRoleSeesNothing) {

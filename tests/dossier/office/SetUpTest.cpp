@@ -98,7 +98,7 @@ TEST(SetUpTest, AnEarlierOfficeIsBroughtUpToDateOrLeftAsItWas) {
   EXPECT_EQ(office.Psql("rob", QString("SELECT count(*) FROM kantoor.client WHERE nummer = %1").arg(client)), "1");
   EXPECT_EQ(BringUpToDate(manager, upgrades), 2);
   // One that fails halfway leaves the version before it.
-  upgrades.push_back({"", fails});
+  upgrades.push_back({"SELECT 1", fails});
   EXPECT_THROW(BringUpToDate(manager, upgrades), OfficeError);
   EXPECT_EQ(office.Psql("postgres", versions), "1 2");
   EXPECT_EQ(
@@ -118,6 +118,18 @@ TEST(SetUpTest, AnEarlierOfficeIsNotEntered) {
   } catch (const OfficeError& error) {
     EXPECT_EQ(error.Problem(), OfficeProblem::Older);
     EXPECT_EQ(error.Melding(), "Het kantoor is ingericht voor een eerdere versie; de beheerder werkt het bij.");
+  }
+}
+
+TEST(SetUpTest, APasswordAmongTheWordsIsRefusedHoweverItIsWritten) {
+  for (const char* words : {"host=x password=geheim", "host=x PASSWORD = geheim", "host=x sslpassword=geheim"}) {
+    try {
+      OfficeConnection connection(words);
+      ADD_FAILURE() << words;
+    } catch (const OfficeError& error) {
+      EXPECT_EQ(error.Problem(), OfficeProblem::Refused);
+      EXPECT_EQ(error.Melding().indexOf("geheim"), -1);
+    }
   }
 }
 

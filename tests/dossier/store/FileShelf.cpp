@@ -105,10 +105,10 @@ class FileShelf final : public Shelf {
     Database database(name, Access::ReadWrite);
     // The history keeps itself.
     database.PassOverTriggers();
-    const QString change = *damage.set == '\0' ? QString("DELETE FROM %1").arg(damage.table)
-                                               : QString("UPDATE %1 SET %2").arg(damage.table, damage.set);
-    database.Run((change + " WHERE " + damage.where)
-                     .replace("{largest}", "9e999")
+    QString change = *damage.set == '\0' ? QString("DELETE FROM %1").arg(damage.table)
+                                         : QString("UPDATE %1 SET %2").arg(damage.table, damage.set);
+    change += QString(" WHERE ") + damage.where;
+    database.Run(change.replace("{largest}", "9e999")
                      .replace("{long}", "hex(zeroblob(60000))")
                      .replace("{11}", "11")
                      .replace("{400000}", "400000"));
