@@ -10,6 +10,7 @@
 #include "app/office/BarWords.h"
 #include "app/office/ClientBar.h"
 #include "app/office/LastTyped.h"
+#include "app/office/PasswordDialog.h"
 #include "app/screen/DossierScreen.h"
 #include "app/screen/OfficeActions.h"
 #include "dossier/office/OfficeStore.h"
@@ -25,6 +26,10 @@ class ClientOnScreen final : public QObject {
     std::function<void(const QString&)> tell;
     std::function<UnfinishedText()> here;
     std::function<bool(const UnfinishedText&)> goOn;
+    /// Nothing where the question was put away.
+    std::function<std::optional<QString>(PasswordDialog::Because)> askPassword;
+    /// The office let this password in.
+    std::function<void(const QString&)> admittedBy;
   };
 
   /// Everything handed over outlives this object, the screen as what stores it too.
@@ -37,6 +42,7 @@ class ClientOnScreen final : public QObject {
   void Ask();
   void TakeOver();
   void HandOver();
+  void Reconnect();
   /// Which of them can be done now.
   void UpdateActions();
 
@@ -51,6 +57,9 @@ class ClientOnScreen final : public QObject {
   void ForgetUnstored();
   void PutBack();
   void Notice(const QString& text);
+  /// Asks for the password that the office wants, unless somebody is at something.
+  void AskWhenQuiet();
+  void AskPassword();
   template <class Task> void Try(Task&& task);
 
   DossierScreen& screen_;
@@ -66,7 +75,10 @@ class ClientOnScreen final : public QObject {
   bool asked_ = false;
   bool lettingGo_ = false;
   bool unknown_ = false;
-  bool settled_ = false;  ///< what became of an edit was told since the connection broke
+  bool asking_ = false;              ///< for a password
+  bool putAway_ = false;             ///< the question for one, since the connection broke
+  std::optional<QString> password_;  ///< that was given since then
+  bool settled_ = false;             ///< what became of an edit was told since the connection broke
   QString asker_;
   std::optional<UnfinishedText::Kept> unstored_;
   QString label_;  ///< of its box

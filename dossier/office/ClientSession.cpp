@@ -14,6 +14,8 @@
 namespace brivane::dossier {
 namespace {
 
+using Patience = OfficeConnection::Patience;
+
 constexpr char kBron[] = "Dossier";
 /// How often, and how far apart, it is looked whether a session that was ended is gone.
 constexpr int kLooks = 20;
@@ -32,6 +34,8 @@ bool AnswersSoon(const OfficeConnection& office) {
   static_cast<void>(aside.Settle(kAnswersWithin));
   return answers;
 }
+
+QString WhoSql() { return QStringLiteral("SELECT houder, sinds, laatste FROM kantoor.wie(?::integer)"); }
 
 QString SendSql() {
   return QStringLiteral(
@@ -54,9 +58,11 @@ ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int clien
     : office_(std::move(office)), client_(client), tables_(*office_, client) {
   pid_ = office_->User().pid;
   try {
-    if (office_->User().writes) Take();
-    TakeUp();
+    if (office_->User().writes) TakeLease();
+    // Who reads along is told of everything that was stored after what he read.
+    if (state_ == State::Reading) TakeUp();
     Fill();
+    if (state_ == State::Editing) TakeUp();
   } catch (...) {
     // The lease is the session's, which other clients go on with.
     Leave();
@@ -68,14 +74,9 @@ ClientSession::~ClientSession() { Leave(); }
 
 void ClientSession::Leave() noexcept {
   LetGo();
-  try {
-    if (state_ != State::Broken) {
-      office_->ListenNoMore(Channel());
-      FollowNoMore();
-    }
-  } catch (const OfficeError&) {
-    // The server forgets a session that ended.
-  }
+  if (state_ == State::Broken) return;
+  office_->ListenNoMore(Channel());
+  FollowNoMore();
 }
 
 void ClientSession::Fill() {
@@ -85,23 +86,32 @@ void ClientSession::Fill() {
 
 void ClientSession::TakeUp() {
   office_->Listen(Channel());
+  // The first edit is one round trip too.
+  if (state_ == State::Editing) office_->Prepare(SendSql());
   if (state_ == State::Reading) Follow();
 }
 
 void ClientSession::Follow() {
-  office_->Run(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
+  office_->Post(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
   follows_ = true;
 }
 
 void ClientSession::FollowNoMore() {
   if (!std::exchange(follows_, false)) return;
-  office_->Run(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
+  office_->Post(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
 }
 
 bool ClientSession::Take() {
   if (state_ == State::Editing) return true;
-  const QSqlQuery& row = office_->Run(
-      QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"), {client_});
+  if (!TakeLease()) return false;
+  office_->Prepare(SendSql());
+  return true;
+}
+
+bool ClientSession::TakeLease() {
+  const OfficeRows row =
+      office_->Run(QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"),
+                   {client_}, Patience::Short);
   token_ = row.value(0).toString();
   behind_ = behind_ || row.value(3).toLongLong() != tables_.LastStep();
   if (token_.isEmpty()) {
@@ -113,24 +123,45 @@ bool ClientSession::Take() {
   pid_ = office_->User().pid;
   since_ = row.value(2).toDateTime();
   FollowNoMore();
-  // The first edit is one round trip too.
-  office_->Prepared(SendSql());
   return true;
 }
 
 bool ClientSession::LookAround() {
-  const QSqlQuery& row =
-      office_->Run(QStringLiteral("SELECT houder, sinds, laatste FROM kantoor.wie(?::integer)"), {client_});
-  if (state_ == State::Reading) holder_ = {row.value(0).toString(), row.value(1).toDateTime()};
-  behind_ = behind_ || row.value(2).toLongLong() != tables_.LastStep();
+  See(office_->Run(WhoSql(), {client_}, Patience::Short));
   return behind_;
+}
+
+void ClientSession::LookAside(std::function<void(OfficeAnswer)> answer) {
+  office_->Ask(WhoSql(), {client_}, std::move(answer));
+}
+
+void ClientSession::Heard(const OfficeAnswer& answer, std::int64_t step) {
+  if (answer.failure) throw OfficeError(*answer.failure);
+  if (step == LastStep()) See(answer.rows);
+}
+
+void ClientSession::See(const OfficeRows& who) {
+  if (state_ == State::Reading) holder_ = {who.value(0).toString(), who.value(1).toDateTime()};
+  behind_ = behind_ || who.value(2).toLongLong() != tables_.LastStep();
+}
+
+void ClientSession::ReadAside(std::function<void(OfficeAnswer)> answer) {
+  office_->Ask(ClientTables::Reading(), {client_, 0}, std::move(answer));
+}
+
+void ClientSession::FillWith(const OfficeAnswer& answer, std::int64_t step) {
+  if (answer.failure) throw OfficeError(*answer.failure);
+  if (step != LastStep()) return;
+  tables_.FillWith(answer.rows);
+  behind_ = false;
 }
 
 void ClientSession::LetGo() noexcept {
   if (state_ != State::Editing) return;
   try {
     state_ = State::Reading;
-    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
+    // The others are told, and the way out is not held up.
+    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_}, Patience::Moment);
     Follow();
   } catch (const OfficeError&) {
     // With the session the lease goes too.
@@ -138,7 +169,9 @@ void ClientSession::LetGo() noexcept {
   token_.clear();
 }
 
-void ClientSession::Ask() { office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}); }
+void ClientSession::Ask() {
+  office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}, Patience::Short);
+}
 
 void ClientSession::Begin() {
   switch (state_) {
@@ -172,8 +205,10 @@ EditText ClientSession::TextOf(Database& tables, const KeptEdit& edit) {
 std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const EditText& text) {
   try {
     return office_
-        ->Run(SendSql(), {client_, token_, edit, text.step, text.entries, text.names, text.columns, text.periods,
-                          text.periods_added, text.periods_removed, text.found, text.rest})
+        ->Run(SendSql(),
+              {client_, token_, edit, text.step, text.entries, text.names, text.columns, text.periods,
+               text.periods_added, text.periods_removed, text.found, text.rest},
+              Patience::Edit)
         .value(0)
         .toLongLong();
   } catch (const OfficeError& error) {
@@ -217,14 +252,14 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
   try {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
-    if (office_->IsBroken()) office_->OpenOffice(OfficeConnection::Patience::Short);
+    if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
     for (int look = 0; look < kLooks; ++look) {
       Found found;
-      QSqlQuery& row = office_->Run(
+      const OfficeRows row = office_->Run(
           before.edited
               ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
               : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
-          {client_});
+          {client_}, Patience::Short);
       const QString token = row.value(0).toString();
       found = {.taken = !token.isEmpty(),
                .holder = {row.value(4).toInt(), row.value(2).toDateTime().toMSecsSinceEpoch()},
@@ -232,8 +267,9 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                .edit_is_there = false};
       const Holder holder = found.taken ? Holder() : Holder{row.value(1).toString(), row.value(2).toDateTime()};
       if (pending_) {
-        const QSqlQuery& time = office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
-                                             {client_, static_cast<qlonglong>(pending_->step), pending_->edit});
+        const OfficeRows time =
+            office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
+                         {client_, static_cast<qlonglong>(pending_->step), pending_->edit}, Patience::Short);
         found.edit_is_there = !time.isNull(0);
         found_time_ = time.value(0).toLongLong();
       }
@@ -242,7 +278,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
         // The server has not noticed yet that the session is gone.
         office_->Run(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid = ?::integer AND "
                                     "usename = session_user AND backend_start <= ?::timestamptz"),
-                     {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)});
+                     {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)}, Patience::Short);
         QThread::msleep(kBetweenLooks);
         continue;
       }
@@ -253,7 +289,6 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       since_ = row.value(2).toDateTime();
       follows_ = false;
       TakeUp();
-      if (state_ == State::Editing) office_->Prepared(SendSql());
       found_step_ = found.step;
       behind_ = behind_ || verdict.reload;
       pending_.reset();

@@ -4,6 +4,7 @@
 #include <QString>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -53,6 +54,16 @@ class ClientSession final : public EditKeeper {
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
   /// OfficeError.
   bool LookAround();
+  /// The same without waiting; the answer comes in the event loop, and is to be handed to Heard.
+  void LookAside(std::function<void(OfficeAnswer)> answer);
+  /// An answer that was asked for when the last step was that one; nothing where it is not so any more. Throws
+  /// OfficeError.
+  void Heard(const OfficeAnswer& answer, std::int64_t step);
+  /// Reads everything anew without waiting, and the answer is to be handed to FillWith.
+  void ReadAside(std::function<void(OfficeAnswer)> answer);
+  /// The same as Heard. Throws DatabaseError too.
+  void FillWith(const OfficeAnswer& answer, std::int64_t step);
+  [[nodiscard]] std::int64_t LastStep() const { return tables_.LastStep(); }
   /// Takes the client up where nobody has it any more; answers whether it is taken up here now. The tables are to be
   /// filled anew where it answers so and LookAround does. Throws OfficeError.
   bool Take();
@@ -87,6 +98,8 @@ class ClientSession final : public EditKeeper {
 
   [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
+  bool TakeLease();
+  void See(const OfficeRows& who);
   void TakeUp();
   /// As if it had never been opened.
   void Leave() noexcept;
