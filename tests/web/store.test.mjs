@@ -44,6 +44,29 @@ test('store.WhatIsBeingTypedIsKeptWhenThePageIsReloaded', async () => {
   assert.equal(asked.length, 1);
 });
 
+test('store.APageIsNotLeftUnaskedWithWhatDoesNotPass', async () => {
+  const demo = await Demo.started(open);
+  await demo.typeAmount('x');
+  await staysWhenClosed(demo);
+  assert.equal(await demo.person.text('TxtBd'), 'x');
+  await demo.person.press('Escape');
+  await demo.page.close({ runBeforeUnload: true });
+  await demo.person.until(() => demo.page.isClosed(), 'the end of the page');
+});
+
+test('store.APageIsNotLeftUnaskedWithTheFormOpen', async () => {
+  const demo = await Demo.started(open);
+  const { person } = demo;
+  await person.press('Enter', 'Alt+s');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.press('ArrowDown');
+  await person.type('50');
+  await person.press('Enter');
+  await staysWhenClosed(demo);
+  assert.equal(await person.hasForm(), true);
+  assert.equal(await person.text('txtBedrag(2)'), '50,00');
+});
+
 test('store.WhatIsBeingTypedIsKeptWhenAnotherPageIsLookedAt', async () => {
   const demo = await Demo.started(open);
   const other = await demo.beside();
@@ -54,6 +77,32 @@ test('store.WhatIsBeingTypedIsKeptWhenAnotherPageIsLookedAt', async () => {
   await demo.comes('bewaard', /^Bewaard om/);
   await other.reload();
   assert.equal((await other.columns())[0], AMOUNT.first('999,00'));
+});
+
+test('store.APageShowsWhatAnotherOneWrote', async () => {
+  const een = await Demo.started(open);
+  const twee = await een.beside();
+  await een.page.bringToFront();
+  await een.typeAmount('111');
+  await een.person.press('Enter');
+  await twee.comes('kop', AMOUNT.first('111,00'));
+
+  await twee.page.bringToFront();
+  await twee.person.press('ArrowDown', 'ArrowDown');
+  await twee.comes('kop', SAMPLE[2]);
+  await twee.typeAmount('222');
+  await twee.person.press('Enter');
+  await een.person.until(async () => (await een.columns())[2] === AMOUNT.third('222,00'), 'what the second one wrote');
+  assert.equal(await een.textOf('kop'), AMOUNT.first('111,00'));
+
+  // What the other one has open is removed.
+  await een.page.bringToFront();
+  await een.person.press('Alt+t', 'ArrowDown', 'ArrowDown', 'Delete');
+  await een.answer('Shift+Tab', 'Enter');
+  await twee.comes('kop', AMOUNT.first('111,00'));
+  await twee.reload();
+  assert.deepEqual(await twee.columns(), [AMOUNT.first('111,00'), SAMPLE[1], ...SAMPLE.slice(3)]);
+  assert.deepEqual([...een.page.faults, ...twee.page.faults], []);
 });
 
 test('store.APageThatIsWorkedInIsToldThatAnotherOneWrote', async () => {
@@ -95,6 +144,29 @@ test('store.APageThatIsWorkedInIsToldThatAnotherOneWrote', async () => {
   await twee.comes('bewaard', /^Bewaard om/);
   await een.reload();
   assert.deepEqual(await een.columns(), [AMOUNT.first('111,00'), SAMPLE[1], AMOUNT.third('222,00'), ...SAMPLE.slice(3)]);
+});
+
+// Two messages may come of what was read at once.
+test('store.APageIsNotToldOfWhatItHas', async () => {
+  const een = await Demo.started(open);
+  const twee = await een.beside();
+  await een.page.bringToFront();
+  await een.typeAmount('111');
+  await een.person.press('Enter');
+  await twee.comes('kop', AMOUNT.first('111,00'));
+  await twee.page.bringToFront();
+  await twee.typeAmount('x');
+  await twee.page.evaluate(() => {
+    globalThis.heard = new Promise((heard) => (new BroadcastChannel('vrije-kolommen').onmessage = heard));
+  });
+  await een.page.evaluate(() => new BroadcastChannel('vrije-kolommen').postMessage(null));
+  await twee.page.evaluate(async () => {
+    await globalThis.heard;
+    const { openStore } = await import('/demo/store.js');
+    await (await openStore()).read();
+  });
+  assert.equal(await twee.page.$('.vraag'), null);
+  assert.equal(await twee.textOf('bewaard'), '');
 });
 
 // As in a page that the browser had put to sleep.
@@ -144,7 +216,7 @@ const BROKEN = {
     const { put } = IDBObjectStore.prototype;
     IDBObjectStore.prototype.put = () => { throw new DOMException('vol', 'QuotaExceededError'); };
     globalThis.mend = () => (IDBObjectStore.prototype.put = put);
-  }, /^Niet bewaard: /],
+  }, 'Niet bewaard: vol.'],
   'what is written and then given up': [() => {
     const { put } = IDBObjectStore.prototype;
     IDBObjectStore.prototype.put = function (...given) {
@@ -153,7 +225,7 @@ const BROKEN = {
       return request;
     };
     globalThis.mend = () => (IDBObjectStore.prototype.put = put);
-  }, 'Niet bewaard: de browser brak het schrijven af.'],
+  }, 'Niet bewaard: de browser brak het af.'],
 };
 for (const [what, [broken, said]] of Object.entries(BROKEN))
   test(`store.ItIsSaidUntilItIsKeptThatItIsNot ${what}`, async () => {

@@ -22,6 +22,11 @@ export class Keeper {
     this.#version = versionOf(record);
   }
 
+  /** Whether a record holds nothing that this case does not have. */
+  knows(record) {
+    return versionOf(record) <= this.#version;
+  }
+
   /** Whether everything that was changed is in the store. */
   get isDone() {
     return !this.#isChanged && !this.#isWriting;

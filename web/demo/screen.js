@@ -116,13 +116,14 @@ async function overtaken() {
   if (isSeen) beginAnew();
 }
 
-/** Whether nothing is under way here that would be lost. */
-const isIdle = () => keeper.isDone && editor.pending === false && document.querySelector('.vraag') === null;
-
-/** Shows what another page has written. */
+/** Shows what another page has written, unless that would lose what is under way here. */
 async function follow() {
-  const kept = isIdle() ? await store.read().catch(() => undefined) : undefined;
-  if (kept === undefined || !isIdle()) return overtaken();
+  // What is being written finds out by itself.
+  if (!keeper.isDone) return;
+  const kept = await store.read().catch(() => undefined);
+  if (keeper.knows(kept)) return;
+  const isIdle = keeper.isDone && editor.pending === false && document.querySelector('.vraag') === null;
+  if (!isIdle) return overtaken();
   keeper.begin(kept);
   open(kept);
   const { lening: nummer, id } = at;

@@ -13,6 +13,10 @@ export class Overtaken extends Error {
 
 export const versionOf = (record) => record?.Versie ?? 0;
 
+/** What the browser says of a failure, to stand inside a sentence. */
+const causeOf = (thrown) => (thrown?.message || thrown?.name || 'de browser brak het af').replace(/\.$/, '');
+const notKept = (thrown) => new Error(`Niet bewaard: ${causeOf(thrown)}.`);
+
 const done = (request) =>
   new Promise((resolve, reject) => {
     request.onsuccess = () => resolve(request.result);
@@ -43,21 +47,22 @@ export async function openStore() {
           pages.postMessage(null);
           resolve(version + 1);
         };
-        transaction.onabort = () => {
-          const cause = transaction.error?.message ?? 'de browser brak het schrijven af';
-          reject(problem ?? new Error(`Niet bewaard: ${cause}.`));
-        };
+        transaction.onabort = () => reject(problem ?? notKept(transaction.error));
         cases.get(KEY).onsuccess = ({ target }) => {
-          if (versionOf(target.result) === version) return void cases.put({ ...given, Versie: version + 1 }, KEY);
-          problem = new Overtaken();
-          transaction.abort();
+          try {
+            if (versionOf(target.result) !== version) throw new Overtaken();
+            cases.put({ ...given, Versie: version + 1 }, KEY);
+          } catch (thrown) {
+            problem = thrown instanceof Overtaken ? thrown : notKept(thrown);
+            transaction.abort();
+          }
         };
       }),
   };
 }
 
 /** What stands for a store in a browser that keeps nothing, and says so whenever something was to be kept. */
-export function noStore({ message }) {
-  const problem = new Error(`Deze browser bewaart niets: wat u invult is weg wanneer u deze pagina sluit (${message}).`);
+export function noStore(thrown) {
+  const problem = new Error(`Deze browser bewaart niets: wat u invult is weg wanneer u deze pagina sluit (${causeOf(thrown)}).`);
   return { problem, read: async () => undefined, listen: () => {}, write: () => Promise.reject(problem) };
 }

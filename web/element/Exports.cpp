@@ -162,6 +162,11 @@ EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {
                                                           : host::kButtonFace.value;
 }
 
+EMSCRIPTEN_KEEPALIVE int brivane_pending(int page) {
+  Element* const element = Element::Find(page);
+  return element != nullptr && element->IsPending() ? 1 : 0;
+}
+
 EMSCRIPTEN_KEEPALIVE int brivane_state(int page) {
   Element* const element = Element::Find(page);
   return element != nullptr ? static_cast<int>(element->State()) : 0;

@@ -352,7 +352,7 @@ class Button extends Node {
 class ListView extends Node {
   constructor(view, id, design) {
     const outer = shown('div', 'control listview', 'table', { tabIndex: 0 });
-    outer.setAttribute('role', 'region');
+    outer.setAttribute('role', 'group');
     const table = make('table', '');
     table.setAttribute('aria-label', design.label);
     table.append(make('thead', ''), make('tbody', ''));
