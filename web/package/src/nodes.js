@@ -274,7 +274,8 @@ class TextBox extends Node {
   fit(text) {
     if (this.twips === undefined) return;
     const { format } = this.design;
-    const isCut = this.twips[2] / this.em < EDGES + (format === Format.date ? CALENDAR : 0) + text.length * (format === Format.text ? WIDEST : WIDEST_DIGIT);
+    const room = this.twips[2] / this.em - EDGES - (format === Format.date ? CALENDAR : 0);
+    const isCut = text.length * (format === Format.text ? WIDEST : WIDEST_DIGIT) > room;
     if (isCut === this.#isCut) return;
     this.#isCut = isCut;
     this.input.classList.toggle('cut', isCut);

@@ -85,14 +85,14 @@ export class View {
   /** One more of the rows of a form, with another index and place. */
   makeAlike(id, container, pattern, index, left, top, width, height, visible) {
     const design = this.#rows.get(pattern);
-    this.#put(id, container, { ...design, name: design.name.replace(/\d+\)$/, `${index})`), pattern: design }, [left, top, width, height], visible !== 0);
+    const name = design.name.replace(/\d+\)$/, `${index})`);
+    this.#put(id, container, { ...design, name, pattern: design }, [left, top, width, height], visible !== 0);
   }
 
   #put(id, container, design, twips, visible) {
-    const around = this.nodes.get(container) ?? null;
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
-    node.around = around;
+    node.around = this.nodes.get(container) ?? null;
     if (design.pattern !== undefined && design.pattern.placed.em !== node.em) node.twips = undefined;
     node.place(...twips);
     if (node.outer.hidden === visible) node.outer.hidden = !visible;
