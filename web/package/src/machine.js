@@ -18,7 +18,8 @@ const gone = new FinalizationRegistry((number) => endView(number));
 const viewOf = (number) => views.get(number)?.deref();
 
 /** A member of the view that the machine names first; what is gone answers nothing. */
-const toView = (name) => (number, one, two, three, four, five) => viewOf(number)?.[name](one, two, three, four, five) ?? 0;
+const toView = (name) => (number, one, two, three, four, five, six, seven, eight, nine) =>
+  viewOf(number)?.[name](one, two, three, four, five, six, seven, eight, nine) ?? 0;
 
 function calls(of) {
   const page = {
@@ -34,7 +35,7 @@ function calls(of) {
       });
     },
   };
-  for (const name of ['make', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
+  for (const name of ['make', 'makeAlike', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
     page[name] = toView(name);
   const element = {
     tell: toView('tell'),
