@@ -167,10 +167,7 @@ const kept = await store.read();
 keeper.begin(kept);
 open(kept ?? VOORBEELD);
 store.listen(follow);
-if (store.problem) {
-  tell(store.problem);
-  element('belofte').hidden = true;
-}
+if (store.problem) tell(store.problem);
 element('client').textContent = dossier().Personen.map(({ Naam }) => Naam.filter((deel) => deel !== '').join(' ')).join(' en ');
 await show(0, firstOf(0));
 element('posten').focus();

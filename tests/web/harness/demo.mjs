@@ -1,5 +1,9 @@
 // The page of the demo, as a person finds it.
+import assert from 'node:assert/strict';
+
 import { Person } from './person.mjs';
+
+const PATIENCE = 10000;
 
 export const SAMPLE = ['Kinderopvang · € 485,50 per maand', 'Krant · Weekendabonnement · € 32,50 per maand',
   'Muzieklessen aan huis · € 350,00 per maand', 'Goed doel · Gift nieuwbouw kinderhoek · € 1.500,00 eenmalig',
@@ -38,9 +42,11 @@ export class Demo {
     return this.page.$eval(`#${id}`, ({ innerText }) => innerText);
   }
   /** Waits until a line says so. */
-  comes(id, text) {
+  async comes(id, text) {
     const says = text instanceof RegExp ? (said) => text.test(said) : (said) => said === text;
-    return this.person.until(async () => says(await this.textOf(id)), `"${text}" in ${id}`);
+    const end = Date.now() + PATIENCE;
+    for (let said = ''; !says((said = await this.textOf(id))); await new Promise((later) => setTimeout(later, 20)))
+      assert.ok(Date.now() < end, `"${text}" did not come in ${id}, where "${said}" stands`);
   }
   /** Waits until everything that was changed was written, or was not. */
   saved() {
