@@ -3,7 +3,7 @@
 
 import { dayAt } from './days.js';
 import { Job } from './jobs.js';
-import { isAtWork, runJob } from './machine.js';
+import { isAtWork, mindsBeingLeft, runJob } from './machine.js';
 
 const Modifier = Object.freeze({ shift: 1, control: 2, alt: 4, keypad: 8 });
 /** Keys that never type a character and always may mean something. */
@@ -167,7 +167,10 @@ export function listen(view) {
 
   function input(event) {
     const node = nodeOf(event);
-    if (node !== null && isBox(node) && event.target === node.input) run(Job.typed, node, { text: node.input.value });
+    if (node === null || !isBox(node) || event.target !== node.input) return;
+    const text = node.input.value;
+    node.fit(text);
+    run(Job.typed, node, { text });
   }
 
   function paste(event) {
@@ -182,7 +185,7 @@ export function listen(view) {
     helpNoMore(event);
     const node = nodeOf(event);
     if (node === null || isAtWork() || view.isMoving || view.root.activeElement === event.target || !root.ownerDocument.hasFocus()) return;
-    if (isBox(node) || isList(node)) run(Job.left, node);
+    if ((isBox(node) || isList(node)) && mindsBeingLeft(view, node)) run(Job.left, node);
   }
 
   /**

@@ -18,7 +18,8 @@ const gone = new FinalizationRegistry((number) => endView(number));
 const viewOf = (number) => views.get(number)?.deref();
 
 /** A member of the view that the machine names first; what is gone answers nothing. */
-const toView = (name) => (number, one, two, three, four, five) => viewOf(number)?.[name](one, two, three, four, five) ?? 0;
+const toView = (name) => (number, one, two, three, four, five, six, seven, eight, nine) =>
+  viewOf(number)?.[name](one, two, three, four, five, six, seven, eight, nine) ?? 0;
 
 function calls(of) {
   const page = {
@@ -34,7 +35,7 @@ function calls(of) {
       });
     },
   };
-  for (const name of ['make', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
+  for (const name of ['make', 'makeAlike', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
     page[name] = toView(name);
   const element = {
     tell: toView('tell'),
@@ -145,6 +146,8 @@ export function answerBox(view, box, answer) {
   enter(() => machine._brivane_go_on());
 }
 
+/** Whether it changes anything that the focus leaves a node. */
+export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
 export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);

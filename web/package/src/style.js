@@ -65,8 +65,9 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 
 .box {
   padding: 0 .3em; border: 1px solid; border-color: var(--line); border-radius: 2px; background-color: var(--field); color: CanvasText;
-  min-width: 0; min-height: 0; text-overflow: ellipsis;
+  min-width: 0; min-height: 0;
 }
+.select, .cut { text-overflow: ellipsis; }
 .box:disabled { pointer-events: none; }
 .number { text-align: right; }
 .date .box { position: absolute; inset: 0; width: 100%; height: 100%; padding-right: 1.6em; }

@@ -6,7 +6,7 @@ import { Bubble, Tip } from './floating.js';
 import { HostObjects } from './host.js';
 import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
-import { makeNode } from './nodes.js';
+import { keepPattern, makeNode } from './nodes.js';
 
 /** What the machine asks of a node; as in Page.h. */
 const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
@@ -51,6 +51,8 @@ export class View {
   #owner;
   #hasAppeared = false;
   #label = null;
+  /** The designs of what a form makes many of, by the first of them. */
+  #rows = new Map();
   #dialogs = [];
   #boxes = new Map();
 
@@ -85,11 +87,26 @@ export class View {
     this.#owner.tell(what, text);
   }
 
-  make(id, container, written) {
+  make(id, container, written, left, top, width, height, visible) {
     const design = read(written);
+    if (design.row) this.#rows.set(id, design);
+    this.#put(id, container, design, [left, top, width, height], visible !== 0);
+  }
+  /** One more of the rows of a form, with another index and place. */
+  makeAlike(id, container, pattern, index, left, top, width, height, visible) {
+    const design = this.#rows.get(pattern);
+    this.#put(id, container, { ...design, name: design.name.replace(/\d+\)$/, `${index})`), pattern: design }, [left, top, width, height], visible !== 0);
+  }
+
+  #put(id, container, design, twips, visible) {
+    const around = this.nodes.get(container) ?? null;
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
-    node.around = this.nodes.get(container) ?? null;
+    node.around = around;
+    if (design.pattern !== undefined && design.pattern.placed.em !== node.em) node.twips = undefined;
+    node.place(...twips);
+    if (node.outer.hidden === visible) node.outer.hidden = !visible;
+    if (design.row) keepPattern(node);
     // What stands in nothing comes on the page with all that was put in it: from the first, or when its form is opened.
     if (node.around !== null) put(node.around.area, node.outer, design.order);
     else if (this.#hasAppeared && node.outer.localName !== 'dialog') this.root.append(node.outer);
@@ -129,8 +146,10 @@ export class View {
   }
 
   insert(id, text) {
-    const input = this.nodes.get(id).input;
+    const node = this.nodes.get(id);
+    const { input } = node;
     input.setRangeText(text, input.selectionStart, input.selectionEnd, 'end');
+    node.fit(input.value);
     return input.value;
   }
 
