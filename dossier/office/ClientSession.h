@@ -4,20 +4,18 @@
 #include <QString>
 #include <chrono>
 #include <cstdint>
-#include <initializer_list>
-#include <map>
 #include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "dossier/office/ClientTables.h"
+#include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeConnection.h"
-#include "dossier/office/OfficeTables.h"
 #include "dossier/office/Reconnection.h"
 #include "dossier/store/EditKeeper.h"
 
 namespace brivane::dossier {
+
+struct EditText;
 
 /// Who edits a client, since when; nobody where the name is empty.
 struct Holder {
@@ -37,7 +35,8 @@ class ClientSession final : public EditKeeper {
     Broken    ///< there is no connection
   };
 
-  /// Reads the client, and takes it up where that can be. Throws OfficeError.
+  /// Reads the client, and takes it up where that can be. Throws OfficeError, and DatabaseError where it can be none;
+  /// it is free again then.
   ClientSession(std::shared_ptr<OfficeConnection> office, int client);
   ~ClientSession() override;
 
@@ -49,7 +48,7 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
   void Begin() override;
-  void Keep(Database& tables) override;
+  void Keep(Database& tables, const KeptEdit& edit) override;
 
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
   /// OfficeError.
@@ -75,7 +74,9 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] bool HasUnknownEdit() const { return pending_.has_value(); }
   /// The tables hold something else than the office: they are to be filled anew before anything is edited.
   [[nodiscard]] bool IsBehind() const { return behind_; }
-  /// Fills the tables anew. Throws OfficeError.
+  /// What filled the tables cannot be shown: they stay behind.
+  void StayBehind() { behind_ = true; }
+  /// Fills the tables anew. Throws OfficeError, and DatabaseError.
   void Fill();
 
  private:
@@ -84,12 +85,11 @@ class ClientSession final : public EditKeeper {
     std::int64_t step;
   };
 
-  [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
-  /// Rows as objects for the server; every edit reads some, by statements that stay prepared.
-  [[nodiscard]] std::vector<std::string> Objects(Database& tables, const ClientTable& table, const std::string& where,
-                                                 std::initializer_list<std::int64_t> values);
-  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
+  [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
+  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
   void TakeUp();
+  /// As if it had never been opened.
+  void Leave() noexcept;
   void Follow();
   void FollowNoMore();
 
@@ -99,13 +99,14 @@ class ClientSession final : public EditKeeper {
   State state_ = State::Reading;
   QString token_;
   Holder holder_;
+  /// The session that has it, and since when.
   int pid_ = 0;
+  QDateTime since_;
   std::optional<Pending> pending_;
   int tries_ = 0;
   bool behind_ = false;
   bool follows_ = false;
-  std::int64_t names_ = 0;
-  std::map<std::string, QString> readings_;
+  FindingWords words_;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;
