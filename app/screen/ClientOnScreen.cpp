@@ -46,7 +46,7 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
     Refresh();
   });
   subscriptions_ += store_.Settled.Connect([this](dossier::Outcome outcome) { OnSettled(outcome); });
-  subscriptions_ += store_.Bewerkingen().Stored.Connect([this] { typed_.Forget(); });
+  subscriptions_ += store_.Bewerkingen().Stored.Connect([this] { OnStored(); });
   subscriptions_ +=
       store_.Bewerkingen().Failed.Connect([this](const dossier::StoreFailure& failure) { OnFailed(failure); });
   bar_->noticePutAway = [this] {
@@ -91,8 +91,10 @@ void ClientOnScreen::Refresh() {
   UpdateActions();
   bar_->ShowState(WordsFor(Facts()).text);
   if (!unstored_) return bar_->ShowUnstored({}, false);
+  const QString what =
+      unstored_->what.unknown ? QStringLiteral("Niet bekend of dit is opgeslagen") : QStringLiteral("Niet opgeslagen");
   const QString where = label_.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(label_);
-  bar_->ShowUnstored(QStringLiteral("Niet opgeslagen%1: %2").arg(where, Short(unstored_->what.text)),
+  bar_->ShowUnstored(QStringLiteral("%1%2: %3").arg(what, where, Short(unstored_->what.text)),
                      !unstored_->what.box.isEmpty() && store_.Now() == State::Editing);
 }
 
@@ -143,8 +145,10 @@ void ClientOnScreen::OnReread() {
 }
 
 void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
-  unknown_ = failure.error.Number() == dossier::kUnknownError;
-  KeepUnstored();
+  const bool unknown = failure.error.Number() == dossier::kUnknownError;
+  // What is refused meanwhile tells nothing of the edit before.
+  unknown_ = unknown_ || unknown;
+  KeepUnstored(unknown);
   // The procedure that failed has not ended yet.
   QMetaObject::invokeMethod(this, &ClientOnScreen::Refresh, Qt::QueuedConnection);
 }
@@ -152,8 +156,8 @@ void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
 void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
   unknown_ = false;
   settled_ = outcome != dossier::Outcome::NoneAsked;
+  SettleKept(outcome == dossier::Outcome::WasStored);
   if (outcome == dossier::Outcome::WasStored) {
-    ForgetUnstored();
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));
   } else if (outcome == dossier::Outcome::WasNotStored) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is niet opgeslagen."));
@@ -161,10 +165,18 @@ void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
   Refresh();
 }
 
-void ClientOnScreen::KeepUnstored() {
+void ClientOnScreen::OnStored() {
+  typed_.Forget();
+  // A dialog that stayed was confirmed once more.
+  if (form_ && form_ == QApplication::activeModalWidget()) ForgetUnstored();
+}
+
+void ClientOnScreen::KeepUnstored(bool unknown) {
   UnfinishedText unstored = window_.here();
+  unstored.unknown = unknown;
   QString label;
-  if (const auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+  auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (form != nullptr) {
     unstored.title = form->windowTitle();
     unstored.text = FilledIn(*form);
     label = unstored.title;
@@ -174,16 +186,41 @@ void ClientOnScreen::KeepUnstored() {
     label = typed_.Now()->label;
   }
   typed_.Forget();
+  if (unknown) {
+    formInDoubt_ = form;
+    textInDoubt_ = unstored.text;
+  }
   if (unstored.text.isEmpty()) return;
   // Of one box the last text counts; what stood in another is offered at the next start.
   if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) ForgetUnstored();
   unstored_ = {unstored.Keep(), unstored};
   label_ = label;
+  form_ = form;
+  if (unknown) inDoubt_ = unstored_;
+}
+
+void ClientOnScreen::SettleKept(bool stored) {
+  const QPointer<QDialog> form = std::exchange(formInDoubt_, nullptr);
+  // Where it was changed since, that is not what was stored.
+  if (stored && form && form->isVisible() && FilledIn(*form) == textInDoubt_) form->done(QDialog::Accepted);
+  auto kept = std::exchange(inDoubt_, std::nullopt);
+  if (!kept) return;
+  const bool shown = unstored_ && unstored_->name == kept->name;
+  if (stored) {
+    UnfinishedText::Forget(kept->name);
+    if (shown) unstored_.reset();
+    return;
+  }
+  kept->what.unknown = false;
+  kept->what.KeepAs(kept->name);
+  if (shown) unstored_ = kept;
 }
 
 void ClientOnScreen::ForgetUnstored() {
   if (unstored_) UnfinishedText::Forget(unstored_->name);
+  if (unstored_ && inDoubt_ && inDoubt_->name == unstored_->name) inDoubt_.reset();
   unstored_.reset();
+  form_.clear();
   Refresh();
 }
 
