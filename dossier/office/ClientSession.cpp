@@ -80,12 +80,20 @@ bool IsFoundBy(Tabel tabel, int field) {
 ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int client)
     : office_(std::move(office)), client_(client), tables_(*office_, client) {
   pid_ = office_->User().pid;
-  if (office_->User().writes) Take();
-  TakeUp();
-  Fill();
+  try {
+    if (office_->User().writes) Take();
+    TakeUp();
+    Fill();
+  } catch (...) {
+    // The lease is the session's, which other clients go on with.
+    Leave();
+    throw;
+  }
 }
 
-ClientSession::~ClientSession() {
+ClientSession::~ClientSession() { Leave(); }
+
+void ClientSession::Leave() noexcept {
   LetGo();
   try {
     if (state_ != State::Broken) {
@@ -131,6 +139,7 @@ bool ClientSession::Take() {
   holder_ = {};
   state_ = State::Editing;
   pid_ = office_->User().pid;
+  since_ = row.value(2).toDateTime();
   FollowNoMore();
   // The first edit is one round trip too.
   office_->Prepared(SendSql());
@@ -289,7 +298,7 @@ void ClientSession::Broke() {
 std::optional<Verdict> ClientSession::Reconnect() noexcept {
   const Before before{.edited = !token_.isEmpty(),
                       .step = tables_.LastStep(),
-                      .pid = pid_,
+                      .session = {pid_, since_.toMSecsSinceEpoch()},
                       .edit = pending_ ? std::optional(pending_->step) : std::nullopt};
   try {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
@@ -304,7 +313,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
           {client_});
       const QString token = row.value(0).toString();
       found = {.taken = !token.isEmpty(),
-               .holder = row.value(4).toInt(),
+               .holder = {row.value(4).toInt(), row.value(2).toDateTime().toMSecsSinceEpoch()},
                .step = row.value(3).toLongLong(),
                .edit_is_there = false};
       const Holder holder = found.taken ? Holder() : Holder{row.value(1).toString(), row.value(2).toDateTime()};
@@ -318,8 +327,8 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       if (verdict.role == Role::TryAgain) {
         // The server has not noticed yet that the session is gone.
         office_->Run(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid = ?::integer AND "
-                                    "usename = session_user"),
-                     {before.pid});
+                                    "usename = session_user AND backend_start <= ?::timestamptz"),
+                     {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)});
         QThread::msleep(kBetweenLooks);
         continue;
       }
@@ -327,6 +336,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       token_ = token;
       holder_ = holder;
       pid_ = office_->User().pid;
+      since_ = row.value(2).toDateTime();
       follows_ = false;
       TakeUp();
       if (state_ == State::Editing) office_->Prepared(SendSql());

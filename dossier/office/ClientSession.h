@@ -37,7 +37,8 @@ class ClientSession final : public EditKeeper {
     Broken    ///< there is no connection
   };
 
-  /// Reads the client, and takes it up where that can be. Throws OfficeError.
+  /// Reads the client, and takes it up where that can be. Throws OfficeError, and DatabaseError where it can be none;
+  /// it is free again then.
   ClientSession(std::shared_ptr<OfficeConnection> office, int client);
   ~ClientSession() override;
 
@@ -75,7 +76,9 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] bool HasUnknownEdit() const { return pending_.has_value(); }
   /// The tables hold something else than the office: they are to be filled anew before anything is edited.
   [[nodiscard]] bool IsBehind() const { return behind_; }
-  /// Fills the tables anew. Throws OfficeError.
+  /// What filled the tables cannot be shown: they stay behind.
+  void StayBehind() { behind_ = true; }
+  /// Fills the tables anew. Throws OfficeError, and DatabaseError.
   void Fill();
 
  private:
@@ -90,6 +93,8 @@ class ClientSession final : public EditKeeper {
                                                  std::initializer_list<std::int64_t> values);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
   void TakeUp();
+  /// As if it had never been opened.
+  void Leave() noexcept;
   void Follow();
   void FollowNoMore();
 
@@ -99,7 +104,9 @@ class ClientSession final : public EditKeeper {
   State state_ = State::Reading;
   QString token_;
   Holder holder_;
+  /// The session that has it, and since when.
   int pid_ = 0;
+  QDateTime since_;
   std::optional<Pending> pending_;
   int tries_ = 0;
   bool behind_ = false;

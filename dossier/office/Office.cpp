@@ -1,12 +1,15 @@
 #include "dossier/office/Office.h"
 
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
+#include <QUuid>
 #include <algorithm>
 #include <iterator>
 
 #include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeConnection.h"
+#include "dossier/office/OfficeDamage.h"
 #include "dossier/office/OfficeTables.h"
 #include "dossier/store/Database.h"
 #include "dossier/store/DossierFile.h"
@@ -35,6 +38,7 @@ std::vector<std::string> AllRows(Database& tables, const ClientTable& table) {
   Database::Run(query);
   std::vector<std::string> rows;
   while (query.next()) rows.push_back(JsonOf(table, ReadRow(query, table)));
+  if (query.lastError().isValid()) throw DatabaseError(query.lastError());
   return rows;
 }
 
@@ -51,7 +55,8 @@ void SendHistory(OfficeConnection& office, int client, Database& tables, const C
   }
 }
 
-int AddTables(OfficeConnection& office, int team, Database& tables) {
+/// Begins a transaction, and adds the client in it.
+int AddInTransaction(OfficeConnection& office, int team, Database& tables, const QString& mark) {
   std::string payload = "{";
   for (const ClientTable& table : CaseParts())
     payload += '"' + std::string(table.name) + "\":" + JsonList(AllRows(tables, table)) + ',';
@@ -66,20 +71,41 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
                                 "RETURNING team"),
                  {team})
             .isValid();
-    const int client =
-        office.Run(QStringLiteral("SELECT kantoor.nieuw(?::integer, ?::json)"), {team, QString::fromStdString(payload)})
-            .value(0)
-            .toInt();
+    const int client = office
+                           .Run(QStringLiteral("SELECT kantoor.nieuw(?::integer, ?::uuid, ?::json)"),
+                                {team, mark, QString::fromStdString(payload)})
+                           .value(0)
+                           .toInt();
     for (const ClientTable& table : {Names(), Steps(), Entries()}) SendHistory(office, client, tables, table);
     if (guest)
       office.Run(QStringLiteral("DELETE FROM kantoor.lid WHERE gebruiker = session_user AND team = ?::integer"),
                  {team});
+    return client;
+  } catch (...) {
+    if (!office.IsBroken()) office.RunScript(QStringLiteral("ROLLBACK"));
+    throw;
+  }
+}
+
+int AddTables(OfficeConnection& office, int team, Database& tables) {
+  const QString mark = QUuid::createUuid().toString(QUuid::WithoutBraces);
+  const int client = AddInTransaction(office, team, tables, mark);
+  try {
     office.RunScript(QStringLiteral("COMMIT"));
     return client;
   } catch (const OfficeError& error) {
-    if (error.Problem() != OfficeProblem::Unreachable) office.RunScript(QStringLiteral("ROLLBACK"));
-    throw;
+    if (error.Problem() != OfficeProblem::Unreachable) throw;
   }
+  // It may be there: that is looked up, and nothing is added again.
+  bool added = false;
+  try {
+    office.OpenOffice(OfficeConnection::Patience::Short);
+    added = !office.Run(QStringLiteral("SELECT kantoor.toegevoegd(?::uuid)"), {mark}).isNull(0);
+  } catch (const OfficeError&) {
+    throw OfficeError(OfficeProblem::Unknown, "The answer to an addition was lost");
+  }
+  if (!added) throw OfficeError(OfficeProblem::Unreachable, "");
+  return client;
 }
 
 }  // namespace
@@ -124,7 +150,11 @@ int AddClient(OfficeConnection& office, int team, const DossierGegevens& content
 }
 
 int AddClient(OfficeConnection& office, int team, const DossierFile& file) {
-  return AddTables(office, team, file.Tabellen());
+  try {
+    return AddTables(office, team, file.Tabellen());
+  } catch (const DatabaseError& error) {
+    throw DamageInFile(error);
+  }
 }
 
 }  // namespace brivane::dossier

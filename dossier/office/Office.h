@@ -40,11 +40,12 @@ struct Team {
 /// them. Throws OfficeError.
 [[nodiscard]] std::vector<Team> TeamsFor(OfficeConnection& office);
 
-/// Adds a client to a team and answers its number, whole or not at all. Throws OfficeError, and OpeningError where the
-/// contents are not possible.
+/// Adds a client to a team and answers its number, whole or not at all. An answer that is lost is looked up. Throws
+/// OfficeError, with Unknown where the office is not there to be asked, and OpeningError where the contents are not
+/// possible.
 int AddClient(OfficeConnection& office, int team, const DossierGegevens& contents);
 
-/// The same of an open loan file, with its history.
+/// The same of an open loan file, with its history. Throws OfficeError alone.
 int AddClient(OfficeConnection& office, int team, const DossierFile& file);
 
 }  // namespace brivane::dossier

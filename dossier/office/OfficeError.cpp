@@ -49,6 +49,10 @@ std::string OfficeError::Oorzaak() const {
     case OfficeProblem::LeaseLost: return "een ander is in dit dossier gaan werken";
     case OfficeProblem::Stale: return "het dossier is intussen door een ander gewijzigd";
     case OfficeProblem::DiskFull: return "de schijf van het kantoor is vol";
+    case OfficeProblem::Unknown:
+      return "de verbinding met het kantoor viel weg, en het is niet bekend of de cliënt is toegevoegd; zoek hem eerst "
+             "op in de lijst";
+    case OfficeProblem::Damaged: return what();
     case OfficeProblem::Refused: break;
   }
   return std::string("het kantoor weigert: ") + what();

@@ -20,6 +20,8 @@ enum class OfficeProblem {
   LeaseLost,    ///< somebody else took the client up
   Stale,        ///< another step was stored meanwhile
   DiskFull,     ///< the server has no room
+  Unknown,      ///< the connection broke while a client was added, and it is not known whether it was
+  Damaged,      ///< what was read is none that a client can be: what() is the reason in Dutch
   Refused       ///< anything else that the server refuses
 };
 

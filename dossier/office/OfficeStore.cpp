@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "dossier/office/Knock.h"
+#include "dossier/office/OfficeDamage.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Reader.h"
@@ -30,10 +31,12 @@ host::Error AsFailure(const OfficeError& error) {
 OfficeStore::OfficeStore(std::shared_ptr<OfficeConnection> office, int client)
     : session_(std::make_shared<ClientSession>(std::move(office), client)) {
   StoredDossier contents = ReadDossier(session_->Tables().Tables());
+  MustBePossible(contents.gegevens);
   auto goal = std::make_shared<std::weak_ptr<dossier::Dossier>>();
   journal_ = std::make_shared<FileJournal>(
       session_->Tables().Release(), contents,
       [goal](DossierGegevens gegevens) {
+        MustBePossible(gegevens);
         if (const auto dossier = goal->lock()) dossier->Herlaad(std::move(gegevens));
       },
       nullptr, session_);
@@ -66,7 +69,7 @@ OfficeStore::~OfficeStore() {
 }
 
 std::unique_ptr<OfficeStore> OfficeStore::Open(std::shared_ptr<OfficeConnection> office, int client) {
-  return std::unique_ptr<OfficeStore>(new OfficeStore(std::move(office), client));
+  return Readable([&] { return std::unique_ptr<OfficeStore>(new OfficeStore(std::move(office), client)); });
 }
 
 QString OfficeStore::Naam() const {
@@ -80,11 +83,19 @@ QString OfficeStore::Naam() const {
 
 std::shared_ptr<Edits> OfficeStore::GedeeldeBewerkingen() { return {journal_, &journal_->Bewerkingen()}; }
 
-void OfficeStore::ReadHistory() const {
+void OfficeStore::FillHistory() const {
   try {
-    session_->Tables().FillHistory();
+    Readable([&] { session_->Tables().FillHistory(); });
   } catch (const OfficeError& error) {
     if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    throw;
+  }
+}
+
+void OfficeStore::ReadHistory() const {
+  try {
+    FillHistory();
+  } catch (const OfficeError& error) {
     throw AsFailure(error);
   }
 }
@@ -108,11 +119,7 @@ std::unique_ptr<HistoryView> OfficeStore::Geschiedenis() const {
 }
 
 void OfficeStore::Kopieer(const QString& pad) const {
-  try {
-    session_->Tables().FillHistory();
-  } catch (const OfficeError&) {
-    throw OpeningError(OpeningProblem::CannotCreate, pad);
-  }
+  FillHistory();
   DossierFile::Maak(pad, *journal_->Bestand());
 }
 
@@ -180,22 +187,29 @@ template <class Action> void OfficeStore::Try(Action&& action) {
     action();
   } catch (const OfficeError& error) {
     if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
-  } catch (const DatabaseError&) {
-    // Nothing is edited until the next reading succeeds.
   }
 }
 
 void OfficeStore::Reload() {
-  session_->Fill();
-  journal_->Refilled();
+  try {
+    session_->Fill();
+    journal_->Refilled();
+  } catch (const DatabaseError& error) {
+    // Nothing is edited until a reading succeeds.
+    session_->StayBehind();
+    unreadable_ = DamageInOffice(error);
+    return;
+  }
+  unreadable_.reset();
   Herladen.Raise();
 }
 
 void OfficeStore::TellIfChanged() {
   Plan();
-  if (Now() == told_state_ && HeldBy().naam == told_holder_) return;
+  if (Now() == told_state_ && HeldBy().naam == told_holder_ && unreadable_.has_value() == told_unreadable_) return;
   told_state_ = Now();
   told_holder_ = HeldBy().naam;
+  told_unreadable_ = unreadable_.has_value();
   Changed.Raise();
 }
 
@@ -208,7 +222,7 @@ void OfficeStore::Plan() {
     timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
   } else if (told_state_ != Now()) {
     timer_->start(0);
-  } else if (session_->IsBehind() || settled_) {
+  } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
     timer_->start(kSoon);
   } else {
     timer_->start(Now() == State::Reading ? kLook : kHeartbeat);

@@ -30,7 +30,8 @@ class OfficeStore final : public DossierStore {
  public:
   using State = ClientSession::State;
 
-  /// Throws OfficeError, with NoClient where there is no such client or none for this account.
+  /// Throws OfficeError, with NoClient where there is no such client or none for this account, and Damaged where the
+  /// office has of it what no client can be.
   [[nodiscard]] static std::unique_ptr<OfficeStore> Open(std::shared_ptr<OfficeConnection> office, int client);
   ~OfficeStore() override;
 
@@ -47,7 +48,8 @@ class OfficeStore final : public DossierStore {
   std::optional<Done> Take(StepKind kind) override;
   [[nodiscard]] std::unique_ptr<HistoryView> Geschiedenis() const override;
   void WorkOff() noexcept override {}
-  /// A loan file with everything that stands in the office, to the stored rows.
+  /// A loan file with everything that stands in the office, to the stored rows. Throws OfficeError where that cannot be
+  /// read, and OpeningError where the file cannot be made.
   void Kopieer(const QString& pad) const override;
 
   [[nodiscard]] int Client() const { return session_->Client(); }
@@ -56,6 +58,8 @@ class OfficeStore final : public DossierStore {
   [[nodiscard]] const Holder& HeldBy() const { return session_->HeldBy(); }
   /// How many tries to reach the office have failed since the connection broke.
   [[nodiscard]] int Tries() const { return session_->Tries(); }
+  /// Why what others stored cannot be read: what is shown is older, and nothing is edited. Nothing where it can.
+  [[nodiscard]] const std::optional<OfficeError>& Unreadable() const { return unreadable_; }
 
   /// Takes it up to be edited where nobody has it any more; answers whether it is taken up here now. Throws
   /// OfficeError.
@@ -68,7 +72,7 @@ class OfficeStore final : public DossierStore {
   /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
   void Attend();
 
-  /// Who may edit it, or the connection, is another.
+  /// Who may edit it, the connection, or whether it can be read, is another.
   host::Event<> Changed;
   /// The memory was loaded anew with what others stored, or with an edit whose outcome was not known.
   host::Event<> Herladen;
@@ -79,7 +83,9 @@ class OfficeStore final : public DossierStore {
 
  private:
   OfficeStore(std::shared_ptr<OfficeConnection> office, int client);
-  /// Has the whole of the history at hand. Throws host::Error.
+  /// Has the whole of the history at hand. Throws OfficeError.
+  void FillHistory() const;
+  /// The same for an edit or a view. Throws host::Error.
   void ReadHistory() const;
   void Told(const QString& channel, const QString& what);
   /// Does something with the office; a connection that is gone is met by Attend.
@@ -99,9 +105,11 @@ class OfficeStore final : public DossierStore {
   host::Subscriptions subscriptions_;
   /// What Settled is to tell.
   std::optional<Outcome> settled_;
+  std::optional<OfficeError> unreadable_;
   /// What Changed told last.
   State told_state_ = State::Reading;
   QString told_holder_;
+  bool told_unreadable_ = false;
 };
 
 }  // namespace brivane::dossier

@@ -14,7 +14,7 @@ std::chrono::milliseconds PauseAfter(int tries) {
 Verdict Judge(const Before& before, const Found& found) {
   Verdict verdict;
   // While the broken session holds the client its last statement may still be stored.
-  if (before.edited && !found.taken && found.holder == before.pid) return verdict;
+  if (before.edited && !found.taken && found.holder == before.session) return verdict;
   verdict.role = before.edited && found.taken ? Role::Edit : Role::Read;
   if (before.edit) verdict.outcome = found.edit_is_there ? Outcome::WasStored : Outcome::WasNotStored;
   verdict.reload = found.step != before.step;

@@ -11,18 +11,27 @@ namespace brivane::dossier {
 /// have failed.
 [[nodiscard]] std::chrono::milliseconds PauseAfter(int tries);
 
+/// A session that edits a client. A server gives out the numbers of its sessions again: by the time that it took the
+/// client up, in milliseconds since 1970, it is told from another.
+struct Holding {
+  int pid = 0;
+  std::int64_t since = 0;
+
+  friend bool operator==(const Holding&, const Holding&) = default;
+};
+
 /// What was known when the session broke.
 struct Before {
   bool edited = false;               ///< the client was taken up to be edited
   std::int64_t step = 0;             ///< the last step that was stored
-  int pid = 0;                       ///< the session at the server
+  Holding session{};                 ///< at the server
   std::optional<std::int64_t> edit;  ///< the step of the edit whose answer was lost
 };
 
 /// What a new session finds.
 struct Found {
   bool taken = false;          ///< the client was taken up again
-  int holder = 0;              ///< else: the session that has it
+  Holding holder{};            ///< else: the session that has it
   std::int64_t step = 0;       ///< the last step that is stored
   bool edit_is_there = false;  ///< the step of the edit is the edit's own
 };

@@ -50,6 +50,12 @@ CREATE FUNCTION kantoor.sloten(OUT client integer, OUT pid integer) RETURNS SETO
     AND l.database = (SELECT d.oid FROM pg_database d WHERE d.datname = current_database())
 $$;
 
+-- Held until the transaction ends.
+CREATE FUNCTION kantoor.slot_van_toevoeging(p_kenmerk uuid) RETURNS void LANGUAGE sql
+  SET search_path = pg_catalog, pg_temp AS $$
+  SELECT pg_advisory_xact_lock(hashtextextended(p_kenmerk::text, 0))
+$$;
+
 CREATE FUNCTION kantoor.meld(p_client integer, p_bericht text) RETURNS void LANGUAGE plpgsql
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
 BEGIN
@@ -77,16 +83,22 @@ BEGIN
     laatste := moet_zichtbaar_zijn(p_client);
     RETURN;
   END IF;
-  -- An edit of the holder before, if it is still under way, ends first.
-  SELECT c.laatste INTO laatste FROM client c WHERE c.nummer = p_client FOR UPDATE;
-  bewijs := gen_random_uuid();
-  sinds := clock_timestamp();
-  pid := pg_backend_pid();
-  INSERT INTO bewerker AS b (client, pid, bewijs, gebruiker, sinds)
-    VALUES (p_client, neem.pid, neem.bewijs, session_user, neem.sinds)
-    ON CONFLICT (client) DO UPDATE SET pid = EXCLUDED.pid, bewijs = EXCLUDED.bewijs, gebruiker = EXCLUDED.gebruiker,
-      sinds = EXCLUDED.sinds, gevraagd_door = NULL, gevraagd_om = NULL;
-  PERFORM meld(p_client, 'genomen');
+  BEGIN
+    -- An edit of the holder before, if it is still under way, ends first.
+    SELECT c.laatste INTO laatste FROM client c WHERE c.nummer = p_client FOR UPDATE;
+    bewijs := gen_random_uuid();
+    sinds := clock_timestamp();
+    pid := pg_backend_pid();
+    INSERT INTO bewerker AS b (client, pid, bewijs, gebruiker, sinds)
+      VALUES (p_client, neem.pid, neem.bewijs, session_user, neem.sinds)
+      ON CONFLICT (client) DO UPDATE SET pid = EXCLUDED.pid, bewijs = EXCLUDED.bewijs, gebruiker = EXCLUDED.gebruiker,
+        sinds = EXCLUDED.sinds, gevraagd_door = NULL, gevraagd_om = NULL;
+    PERFORM meld(p_client, 'genomen');
+  EXCEPTION WHEN OTHERS OR query_canceled THEN
+    -- A lock of the session outlives the transaction that failed.
+    PERFORM pg_advisory_unlock(1262571092, p_client);
+    RAISE;
+  END;
 END $$;
 
 CREATE FUNCTION kantoor.laat_los(p_client integer, p_bewijs uuid) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
@@ -262,8 +274,8 @@ CREATE FUNCTION kantoor.uitkomst(p_client integer, p_stap bigint, p_bewerking uu
   SELECT s.tijd FROM stap s WHERE s.client = p_client AND s.nummer = p_stap AND s.bewerking = p_bewerking
 $$;
 
--- A new client of a team that the session is in.
-CREATE FUNCTION kantoor.nieuw(p_team integer, p json) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
+-- A new client of a team that the session is in. `p_kenmerk` is the identifier of the addition, by which it is looked up.
+CREATE FUNCTION kantoor.nieuw(p_team integer, p_kenmerk uuid, p json) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
 DECLARE
   v_client integer;
@@ -272,13 +284,28 @@ BEGIN
   IF NOT EXISTS (SELECT FROM lid l WHERE l.gebruiker = session_user AND l.team = p_team) THEN
     RAISE EXCEPTION 'not a member of the team' USING ERRCODE = 'insufficient_privilege';
   END IF;
+  IF current_setting('synchronous_commit') = 'off' THEN
+    PERFORM set_config('synchronous_commit', 'on', true);
+  END IF;
+  PERFORM slot_van_toevoeging(p_kenmerk);
   INSERT INTO client (team, naam, geboortedatum)
     VALUES (p_team, p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint) RETURNING nummer INTO v_client;
+  INSERT INTO toevoeging (client, kenmerk) VALUES (v_client, p_kenmerk);
   INSERT INTO zoek (client, team, tekst) VALUES (v_client, p_team, p->'zoek'->>'tekst');
   INSERT INTO maatschappij_type SELECT v_client, r.*
     FROM json_populate_recordset(NULL::maatschappij_type_rij, p->'maatschappij_type') r;
   PERFORM schrijf_rijen(v_client, p);
   RETURN v_client;
+END $$;
+
+-- The client of an addition whose answer was lost, none where it was not stored. It waits for the session that adds to
+-- end, for some seconds: then it is certain.
+CREATE FUNCTION kantoor.toegevoegd(p_kenmerk uuid) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
+  SET search_path = pg_catalog, kantoor, pg_temp SET lock_timeout = '5s' AS $$
+BEGIN
+  PERFORM moet_adviseur_zijn();
+  PERFORM slot_van_toevoeging(p_kenmerk);
+  RETURN (SELECT t.client FROM toevoeging t WHERE t.kenmerk = p_kenmerk AND t.gebruiker = session_user);
 END $$;
 
 -- A part of the history that a file brings along, in the transaction that made the client; what was stored in the office
@@ -287,7 +314,8 @@ CREATE FUNCTION kantoor.vul_geschiedenis(p_client integer, p json) RETURNS void 
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
 BEGIN
   PERFORM moet_adviseur_zijn();
-  IF NOT EXISTS (SELECT FROM client c WHERE c.nummer = p_client AND c.xmin = pg_current_xact_id()::xid) THEN
+  IF NOT EXISTS (SELECT FROM toevoeging t WHERE t.client = p_client AND t.transactie = pg_current_xact_id()
+                   AND t.begin = transaction_timestamp()) THEN
     RAISE EXCEPTION 'not a client of this transaction' USING ERRCODE = 'insufficient_privilege';
   END IF;
   INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;

@@ -70,7 +70,8 @@ GRANT EXECUTE ON FUNCTION kantoor.ik(), kantoor.wie(integer), kantoor.zoek_clien
   kantoor.volg(integer), kantoor.volg_niet(integer)
   TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
 GRANT EXECUTE ON FUNCTION kantoor.neem(integer), kantoor.laat_los(integer, uuid), kantoor.vraag(integer),
-  kantoor.sla_op(integer, uuid, uuid, json), kantoor.nieuw(integer, json), kantoor.vul_geschiedenis(integer, json),
+  kantoor.sla_op(integer, uuid, uuid, json), kantoor.nieuw(integer, uuid, json), kantoor.toegevoegd(uuid),
+  kantoor.vul_geschiedenis(integer, json),
   kantoor.uitkomst(integer, bigint, uuid)
   TO kantoor_adviseur;
 GRANT EXECUTE ON FUNCTION kantoor.geef_aan_team(integer, integer) TO kantoor_beheerder;

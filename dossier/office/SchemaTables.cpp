@@ -36,6 +36,12 @@ BEGIN
     (SELECT n.nspname FROM pg_extension e JOIN pg_namespace n ON n.oid = e.extnamespace WHERE e.extname = 'pg_trgm'));
 END $$;
 
+-- How a client came: `kenmerk` is the identifier of the addition, and `transactie` made it, which began at `begin`. Both,
+-- as a server that a dump is put back into counts its transactions anew.
+CREATE TABLE kantoor.toevoeging (client integer PRIMARY KEY REFERENCES kantoor.client ON DELETE CASCADE,
+  kenmerk uuid NOT NULL UNIQUE, gebruiker name NOT NULL DEFAULT session_user,
+  transactie xid8 NOT NULL DEFAULT pg_current_xact_id(), begin timestamptz NOT NULL DEFAULT transaction_timestamp());
+
 CREATE TYPE kantoor.dossier_rij AS (enig bigint, leeftijd bigint);
 CREATE TABLE kantoor.dossier (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE,
   enig bigint NOT NULL CHECK (enig = 1), leeftijd bigint NOT NULL, PRIMARY KEY (client, enig));

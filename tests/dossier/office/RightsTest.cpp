@@ -31,9 +31,9 @@ class RightsTest : public testing::Test {
 };
 
 const QStringList kTables = {
-    "versie",   "team",       "lid",     "medewerker", "client", "dossier", "persoon",   "maatschappij_type",
-    "lening",   "vrijekolom", "periode", "voorstel",   "naam",   "stap",    "wijziging", "zoek",
-    "bewerker", "meelezer"};
+    "versie",   "team",       "lid",       "medewerker", "client", "dossier", "persoon",   "maatschappij_type",
+    "lening",   "vrijekolom", "periode",   "voorstel",   "naam",   "stap",    "wijziging", "zoek",
+    "bewerker", "meelezer",   "toevoeging"};
 
 TEST_F(RightsTest, NoRowIsWrittenButByTheFunctions) {
   for (const char* account : {"anna", "rob"}) {
@@ -76,10 +76,10 @@ TEST_F(RightsTest, NoRowIsWrittenButByTheFunctions) {
 
 TEST_F(RightsTest, TheInnerFunctionsAreTheOwnersAlone) {
   for (const char* account : {"anna", "rob"}) {
-    for (const QString& call :
-         {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"), QString("kantoor.sloten()"),
-          QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
-          QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.eigen_naam()")}) {
+    for (const QString& call : {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"),
+                                QString("kantoor.slot_van_toevoeging(gen_random_uuid())"), QString("kantoor.sloten()"),
+                                QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
+                                QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.eigen_naam()")}) {
       ExpectRefused(account, "SELECT " + (call.contains('%') ? call.arg(N()) : call), "permission denied");
     }
   }
@@ -88,7 +88,8 @@ TEST_F(RightsTest, TheInnerFunctionsAreTheOwnersAlone) {
 TEST_F(RightsTest, AReaderTakesNothingUpAndStoresNothing) {
   for (const QString& call :
        {"kantoor.neem(" + N() + ")", "kantoor.laat_los(" + N() + ", gen_random_uuid())", "kantoor.vraag(" + N() + ")",
-        QString("kantoor.nieuw(1, '{}')"), "kantoor.vul_geschiedenis(" + N() + ", '{}')",
+        QString("kantoor.nieuw(1, gen_random_uuid(), '{}')"), QString("kantoor.toegevoegd(gen_random_uuid())"),
+        "kantoor.vul_geschiedenis(" + N() + ", '{}')",
         "kantoor.sla_op(" + N() + ", gen_random_uuid(), gen_random_uuid(), '{}')"})
     ExpectRefused("rob", "SELECT " + call, "permission denied");
 }
@@ -111,7 +112,7 @@ TEST_F(RightsTest, AnotherTeamsClientIsNotThere) {
   ExpectRefused("anna",
                 "SELECT kantoor.sla_op(" + Z() + ", gen_random_uuid(), gen_random_uuid(), '{\"stap\":{\"nummer\":1}}')",
                 "no such client");
-  ExpectRefused("anna", "SELECT kantoor.nieuw(2, '{}')", "not a member");
+  ExpectRefused("anna", "SELECT kantoor.nieuw(2, gen_random_uuid(), '{}')", "not a member");
   // A policy cannot be looked past by a function of one's own that is cheap.
   EXPECT_EQ(office_
                 .Psql("anna",
@@ -171,6 +172,34 @@ TEST_F(RightsTest, WhatIsInTheOfficeGetsNoHistoryFromElsewhere) {
                 "not a client of this transaction");
   // Also not by changing it in the same transaction.
   ExpectRefused("anna", "BEGIN; SELECT kantoor.vraag(" + N() + "); SELECT kantoor.vul_geschiedenis(" + N() + ", '{}')",
+                "not a client of this transaction");
+}
+
+TEST_F(RightsTest, AnEditInTheSameTransactionOpensNoWayToTheHistory) {
+  const QString forged =
+      "SELECT kantoor.vul_geschiedenis(" + N() +
+      ", '{\"naam\":[{\"nummer\":91,\"tekst\":\"Bert Bakker\"}],\"stap\":[{\"nummer\":3,\"tijd\":1000,"
+      "\"medewerker\":91,\"soort\":0,\"van\":3,\"terug\":3,\"opnieuw\":0,\"eerste\":3,\"hoogste\":50}]}')";
+  const QString edit =
+      "'{\"stap\":{\"nummer\":2,\"medewerker\":90,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
+      "\"hoogste\":50},\"naam\":[{\"nummer\":90,\"tekst\":\"Anna Aalders\"}],\"wijziging\":[]}'";
+  ExpectRefused("anna",
+                "BEGIN; CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" +
+                    N() + ", (SELECT bewijs FROM b), gen_random_uuid(), " + edit + "); " + forged,
+                "not a client of this transaction");
+  // Who manages and edits gives it to a team in the same transaction.
+  office_.Psql("postgres", "GRANT kantoor_beheerder TO anna");
+  ExpectRefused("anna", "BEGIN; SELECT kantoor.geef_aan_team(" + N() + ", 1); " + forged,
+                "not a client of this transaction");
+  office_.Psql("postgres", "REVOKE kantoor_beheerder FROM anna");
+  EXPECT_EQ(office_.Psql("postgres", "SELECT max(nummer) FROM kantoor.stap WHERE client = " + N()), "1");
+}
+
+TEST_F(RightsTest, AClientThatWasMadeByATransactionOfThatNumberElsewhereGetsNoHistory) {
+  // As after a dump was put back: the number of the transaction comes again, the moment that it began does not.
+  ExpectRefused("postgres",
+                "BEGIN; UPDATE kantoor.toevoeging SET transactie = pg_current_xact_id() WHERE client = " + N() +
+                    "; SET LOCAL SESSION AUTHORIZATION anna; SELECT kantoor.vul_geschiedenis(" + N() + ", '{}')",
                 "not a client of this transaction");
 }
 
