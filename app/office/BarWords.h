@@ -16,6 +16,7 @@ struct BarFacts {
   QString asker{};       ///< who asks for it; empty for nobody
   int tries = 0;         ///< to reach the office
   bool unknown = false;  ///< the outcome of an edit is not known
+  QString unreadable{};  ///< why what is stored cannot be read; empty where it can
 };
 
 struct BarWords {

@@ -76,7 +76,8 @@ BarFacts ClientOnScreen::Facts() const {
           .asked = asked_,
           .asker = asker_,
           .tries = store_.Tries(),
-          .unknown = unknown_};
+          .unknown = unknown_,
+          .unreadable = store_.Unreadable() ? QString::fromStdString(store_.Unreadable()->Oorzaak()) : QString()};
 }
 
 void ClientOnScreen::UpdateActions() {
@@ -105,6 +106,9 @@ void ClientOnScreen::Notice(const QString& text) {
 
 void ClientOnScreen::OnChanged() {
   const State before = std::exchange(state_, store_.Now());
+  const bool readable = !store_.Unreadable();
+  const bool wasReadable = std::exchange(readable_, readable);
+  if (wasReadable && !readable) eventLog_.Write(QStringLiteral("Kantoor: %1").arg(store_.Unreadable()->Melding()));
   if (state_ == State::Editing) asked_ = false;
   if (state_ != State::Editing) asker_.clear();
   if (before != state_) {
@@ -124,10 +128,12 @@ void ClientOnScreen::OnChanged() {
                        .arg(holder));
     } else if (before == State::Editing && !lettingGo_) {
       Notice(QStringLiteral("%1 heeft dit dossier overgenomen. Wat u nog wijzigt, wordt niet opgeslagen.").arg(who));
-    } else if (state_ == State::Editing) {
+    } else if (state_ == State::Editing && readable) {
       Notice({});
       window_.tell(QStringLiteral("U kunt dit dossier nu bewerken."));
     }
+  }
+  if (before != state_ || wasReadable != readable) {
     screen_.FollowRights();
     window_.changed();
   }

@@ -70,6 +70,7 @@ class ClientOnScreen final : public QObject {
   bool asked_ = false;
   bool lettingGo_ = false;
   bool unknown_ = false;
+  bool readable_ = true;
   bool settled_ = false;  ///< what became of an edit was told since the connection broke
   QString asker_;
   std::optional<UnfinishedText::Kept> unstored_;

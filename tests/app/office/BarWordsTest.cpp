@@ -29,6 +29,12 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
       {{.state = State::Broken, .tries = 2, .unknown = true},
        {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht (poging 3). Dan blijkt "
                 "ook of de laatste wijziging is opgeslagen."}},
+      {{.state = State::Reading, .holder = "Anna Aalders", .since = "10:32", .unreadable = "het is beschadigd"},
+       {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd."}},
+      {{.state = State::Editing, .asker = "Bert Bakker", .unreadable = "het is beschadigd"},
+       {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd.", .handOver = true}},
+      {{.state = State::Broken, .unreadable = "het is beschadigd"},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht."}},
   };
   for (const BarCase& one : cases) EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
 }

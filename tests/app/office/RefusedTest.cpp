@@ -1,9 +1,11 @@
 #include <QAction>
+#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QStatusBar>
 
+#include "dossier/store/Database.h"
 #include "tests/app/office/ClientWindow.h"
 #include "tests/support/postgres/SocketProxy.h"
 
@@ -217,6 +219,118 @@ TEST_F(RefusedTest, AFileIsMadeWithoutItsHistoryWhereTheConnectionBreaksMeanwhil
       << qPrintable(window_->statusBar()->currentMessage());
   EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding"); }, 5000));
   EXPECT_EQ(ReadInSecondProcess(copy)["0/2/omschrijving"].toString(), "Ochtendkrant");
+}
+
+/// What no edit writes, put there by somebody with another program.
+class UnreadableTest : public RefusedTest {
+ protected:
+  void Damage(int client) {
+    Superuser(QString("UPDATE kantoor.vrijekolom SET looptijd = 40000 WHERE client = %1 AND id = 3").arg(client));
+  }
+  void Mend(int client) {
+    Superuser(QString("UPDATE kantoor.vrijekolom SET looptijd = 12 WHERE client = %1 AND id = 3").arg(client));
+  }
+  static constexpr char kDamaged[] =
+      "wat het kantoor van deze cliënt heeft, is beschadigd (kolom 3 van de huidige situatie, looptijd)";
+};
+
+TEST_F(UnreadableTest, AClientThatCannotBeReadDoesNotOpenAndWhatWasOpenStays) {
+  const int other = office_.Add();
+  OpenAs(*window_, "anna");
+  Damage(other);
+  dialogs_.ExpectMessage(QString(kDamaged).mid(1), Pressing(Qt::Key_Return));
+  EXPECT_FALSE(window_->OpenClient({office_.Words("anna"), other}));
+  ASSERT_TRUE(window_->Screen());
+  window_->Screen()->Kolom().FocusOmschrijving();
+  Describe("Avondkrant");
+  EXPECT_EQ(Stored(), "Avondkrant");
+}
+
+TEST_F(UnreadableTest, AHistoryThatCannotBeReadIsToldAndTheWorkGoesOn) {
+  {
+    const auto before = office_.Open(client_);
+    before->Dossier()->FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+    before->Dossier()->FindKolom(0, 2)->SetOmschrijving("Ochtendkrant");
+    static_cast<void>(before->Take(dossier::StepKind::Undo));
+  }
+  Superuser(QString("SET session_replication_role = replica; UPDATE kantoor.wijziging SET oud = '\\x07' WHERE client "
+                    "= %1 AND stap = 1")
+                .arg(client_));
+  OpenAs(*window_, "anna");
+  EXPECT_EQ(window_->Actions().undo->text(), "&Ongedaan maken: de geschiedenis is niet te lezen");
+  const auto told = [this](QWidget& box) {
+    const auto& message = static_cast<QMessageBox&>(box);
+    const QString said = message.text() + message.informativeText();
+    EXPECT_TRUE(said.contains("at het kantoor van deze cliënt heeft, is beschadigd")) << qPrintable(said);
+    Pressing(Qt::Key_Return)(box);
+  };
+  dialogs_.Expect(told);
+  PressKey(Qt::Key_Z, Qt::ControlModifier);
+  dialogs_.Expect(told);
+  PressKey(Qt::Key_F8);
+  const QString copy = folder_.filePath("bewaard.dossier");
+  dialogs_.Expect([&](QWidget& window) {
+    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
+    ASSERT_TRUE(box);
+    box->setText(copy);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+  });
+  dialogs_.Expect(told);
+  window_->Actions().office.toFile->trigger();
+  EXPECT_FALSE(QFile::exists(copy));
+  window_->Screen()->Kolom().FocusOmschrijving();
+  Describe("Weekblad");
+  EXPECT_EQ(Stored(), "Weekblad");
+}
+
+TEST_F(UnreadableTest, AFileThatCannotBeReadIsNotBroughtToTheOffice) {
+  OpenAs(*window_, "anna");
+  Open();
+  Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+  dynamic_cast<dossier::DossierFile&>(Screen().Store()).Tabellen().Run(QStringLiteral("DROP TABLE wijziging"));
+  dialogs_.ExpectMessage("Het bestand is beschadigd.", Pressing(Qt::Key_Return));
+  window_->Actions().office.toOffice->trigger();
+  EXPECT_EQ(Screen().Path(), file_);
+}
+
+TEST_F(UnreadableTest, WhoReadsAlongIsToldThatWhatIsShownIsOld) {
+  const auto anna = office_.Open(client_);
+  OpenAs(*window_, "bert");
+  Damage(client_);
+  anna->Dossier()->FindKolom(0, 2)->SetOmschrijving("Avondkrant");
+  const QString told = QString("Wat u ziet is oud en kan niet worden gewijzigd: %1.").arg(kDamaged);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == told; }, 5000)) << qPrintable(Bar(*window_));
+  EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
+  EXPECT_FALSE(window_->Actions().office.ask->isEnabled());
+  EXPECT_TRUE(eventLog_.Read().contains("is beschadigd"));
+  Mend(client_);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Avondkrant"; }, 5000));
+  EXPECT_TRUE(Bar(*window_).startsWith("Alleen lezen: Anna Aalders werkt hierin")) << qPrintable(Bar(*window_));
+}
+
+/// Nobody edits what he does not see.
+TEST_F(UnreadableTest, WhoTakesOverWhatCannotBeReadEditsNothingUntilItCan) {
+  auto anna = office_.Open(client_);
+  OpenAs(*window_, "bert");
+  anna->LetGo();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Actions().office.takeOver->isEnabled(); }, 5000));
+  Damage(client_);
+  Superuser(QString("UPDATE kantoor.client SET laatste = laatste + 1 WHERE nummer = %1").arg(client_));
+  Click(*window_, "Overnemen");
+  EXPECT_TRUE(Bar(*window_).startsWith("Wat u ziet is oud")) << qPrintable(Bar(*window_));
+  EXPECT_TRUE(window_->windowTitle().contains("(alleen lezen)")) << qPrintable(window_->windowTitle());
+  EXPECT_FALSE(window_->Actions().add->isEnabled());
+  EXPECT_TRUE(window_->Actions().office.handOver->isEnabled());
+  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  window_->Screen()->Kolom().FocusOmschrijving();
+  Describe("Avondkrant");
+  Superuser(QString("UPDATE kantoor.client SET laatste = laatste - 1 WHERE nummer = %1").arg(client_));
+  Mend(client_);
+  ASSERT_TRUE(IsBack()) << qPrintable(Bar(*window_));
+  EXPECT_FALSE(window_->windowTitle().contains("(alleen lezen)"));
+  Click(*window_, "Terugzetten");
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(Stored(), "Avondkrant");
 }
 
 }  // namespace
