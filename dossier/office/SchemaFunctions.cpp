@@ -44,6 +44,16 @@ BEGIN
   RETURN v_laatste;
 END $$;
 
+-- The session has taken up the client, and that is its proof.
+CREATE FUNCTION kantoor.moet_houder_zijn(p_client integer, p_bewijs uuid) RETURNS void LANGUAGE plpgsql STABLE
+  SET search_path = pg_catalog, kantoor, pg_temp AS $$
+BEGIN
+  IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
+  THEN
+    RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
+  END IF;
+END $$;
+
 -- The advisory locks of the clients: the first key is the office's own.
 CREATE FUNCTION kantoor.sloten(OUT client integer, OUT pid integer) RETURNS SETOF record LANGUAGE sql STABLE
   SET search_path = pg_catalog, pg_temp AS $$
