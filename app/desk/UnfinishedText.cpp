@@ -15,6 +15,11 @@ QString UnfinishedText::Keep() const {
   // In order of time, and of no other program's.
   QString name = QString::number(QDateTime::currentMSecsSinceEpoch()).rightJustified(15, u'0') + u'-' +
                  QUuid::createUuid().toString(QUuid::Id128);
+  KeepAs(name);
+  return name;
+}
+
+void UnfinishedText::KeepAs(const QString& name) const {
   QSettings settings;
   settings.beginGroup(QLatin1String(kGroup));
   settings.beginGroup(name);
@@ -24,7 +29,7 @@ QString UnfinishedText::Keep() const {
   settings.setValue(QStringLiteral("vak"), box);
   settings.setValue(QStringLiteral("titel"), title);
   settings.setValue(QStringLiteral("tekst"), text);
-  return name;
+  settings.setValue(QStringLiteral("onbekend"), unknown);
 }
 
 void UnfinishedText::Forget(const QString& name) {
@@ -49,7 +54,8 @@ std::vector<UnfinishedText::Kept> UnfinishedText::All() {
                     .kolom = number("kolom"),
                     .box = text("vak"),
                     .title = text("titel"),
-                    .text = text("tekst")}});
+                    .text = text("tekst"),
+                    .unknown = settings.value(QStringLiteral("onbekend")).toBool()}});
     settings.endGroup();
   }
   return all;

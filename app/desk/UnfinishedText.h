@@ -15,9 +15,12 @@ struct UnfinishedText {
   QString box;             ///< the box's object name; empty for what goes back into no box: rows, a dialog's answers
   QString title;           ///< of the window that it stood in; empty for a box of the editor
   QString text;
+  bool unknown = false;  ///< it may have been stored all the same: the answer was lost
 
   /// Keeps it, and answers the name by which it is forgotten.
   [[nodiscard]] QString Keep() const;
+  /// Keeps it in place of what has that name.
+  void KeepAs(const QString& name) const;
   static void Forget(const QString& name);
 
   struct Kept;

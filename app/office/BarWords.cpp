@@ -34,9 +34,16 @@ BarWords OfReading(const BarFacts& facts) {
   return {.text = text, .ask = true};
 }
 
+/// What is shown is older than what is stored.
+BarWords OfUnreadable(const BarFacts& facts) {
+  return {.text = QStringLiteral("Wat u ziet is oud en kan niet worden gewijzigd: %1.").arg(facts.unreadable),
+          .handOver = facts.state == State::Editing};
+}
+
 }  // namespace
 
 BarWords WordsFor(const BarFacts& facts) {
+  if (!facts.unreadable.isEmpty() && facts.state != State::Broken) return OfUnreadable(facts);
   switch (facts.state) {
     case State::Broken: return OfBroken(facts);
     case State::Reading: return OfReading(facts);

@@ -18,6 +18,7 @@ struct BarFacts {
   bool unknown = false;  ///< the outcome of an edit is not known
   bool barred = false;   ///< the office does not take the password any more
   QString said{};        ///< why the office itself lets nobody in; empty where it says nothing
+  QString unreadable{};  ///< why what is stored cannot be read; empty where it can
 };
 
 struct BarWords {

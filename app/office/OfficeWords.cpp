@@ -45,6 +45,13 @@ std::optional<Words> Read(QString text) {
   return words;
 }
 
+/// Whether an address has a password after the name before its host, or among what follows it.
+bool HoldsSecret(const QString& address) {
+  const QString after = address.mid(address.indexOf(QLatin1String("://")) + 3);
+  return after.left(qMax(after.lastIndexOf(u'@'), qsizetype{0})).contains(u':') ||
+         after.contains(QLatin1String("password="), Qt::CaseInsensitive);
+}
+
 bool IsName(const QString& text) {
   for (const QChar one : text) {
     if (one.isSpace() || one == u';' || one == u'\'' || one == u'\\' || one == u'/') return false;
@@ -58,7 +65,7 @@ WordsFault FaultOf(const QString& words) {
   const QString text = words.trimmed();
   if (text.isEmpty()) return WordsFault::Empty;
   // An address may hold a password, and is not what the driver is handed.
-  if (text.contains(QLatin1String("://"))) return text.contains(u'@') ? WordsFault::Secret : WordsFault::Unclear;
+  if (text.contains(QLatin1String("://"))) return HoldsSecret(text) ? WordsFault::Secret : WordsFault::Unclear;
   if (!text.contains(u'=')) return IsName(text) ? WordsFault::None : WordsFault::Unclear;
   const std::optional<Words> read = Read(text);
   // Also in what cannot be read otherwise.

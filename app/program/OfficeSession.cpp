@@ -24,6 +24,8 @@
 #include "app/program/Pictures.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/office/Office.h"
+#include "dossier/office/OfficeConnection.h"
+#include "dossier/office/OfficeGate.h"
 
 namespace brivane::app {
 namespace {
@@ -62,7 +64,7 @@ class OfficeShow {
   void Play() {
     dossier::OfficeConnection office(words_.first);
     office.OpenOffice();
-    database_ = office.Run(QStringLiteral("SELECT current_database()")).value(0).toString();
+    dossier::OfficeGate gate(manager_, dossier::DatabaseOf(office));
     const auto lines = dossier::SearchClients(office, QString(), 1);
     Need(!lines.empty(), "finding a client");
     Need(first_.OpenClient({words_.first, lines.front().nummer}), "opening the client");
@@ -84,7 +86,7 @@ class OfficeShow {
     Need(Soon([&] { return Bar(second_).isEmpty() && !Bar(first_).isEmpty(); }), "handing over");
     Picture("kantoor-4-overgedragen");
 
-    Shut(true);
+    gate.Shut();
     Type(second_, QStringLiteral("Naschoolse opvang"));
     Need(Soon([&] { return Bar(second_).startsWith(QStringLiteral("Geen verbinding")); }), "losing the connection");
     Need(Label(second_, "nietOpgeslagen")->text().endsWith(QStringLiteral("Naschoolse opvang")),
@@ -92,7 +94,7 @@ class OfficeShow {
     Need(Soon([&] { return Bar(first_).startsWith(QStringLiteral("Geen verbinding")); }), "telling who reads along");
     Picture("kantoor-5-verbroken");
 
-    Shut(false);
+    gate.Open();
     Need(Soon([&] { return Bar(second_).isEmpty(); }), "coming back");
     Picture("kantoor-6-terug");
     Need(Soon([&] { return !Bar(first_).startsWith(QStringLiteral("Geen verbinding")); }), "coming back to read");
@@ -144,16 +146,6 @@ class OfficeShow {
     window.Screen()->Kolom().Editor().CommitPending();
   }
 
-  /// Ends the connections of the office and lets nobody in, or everybody again.
-  void Shut(bool shut) {
-    const QString name = QString(database_).replace(u'"', QStringLiteral("\"\""));
-    manager_.RunScript(QStringLiteral("ALTER DATABASE \"%1\" ALLOW_CONNECTIONS %2").arg(name, shut ? "false" : "true"));
-    if (shut)
-      manager_.Run(
-          QStringLiteral("SELECT count(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = ?::text"),
-          {database_});
-  }
-
   void Picture(const char* name) {
     const QPalette palette = QApplication::palette();
     Save(QLatin1String(name) + QStringLiteral("-light.png"));
@@ -179,7 +171,6 @@ class OfficeShow {
   OfficeSessionWords words_;
   const MessageBoxes boxes_;
   dossier::OfficeConnection manager_;
-  QString database_;
   MainWindow first_;
   MainWindow second_;
 };

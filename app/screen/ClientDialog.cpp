@@ -14,6 +14,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <utility>
 
 #include "app/desk/Today.h"
 #include <brivane/frame/Dates.h>
@@ -73,7 +74,9 @@ constexpr char kRateHelp[] =
 
 }  // namespace
 
-ClientDialog::ClientDialog(const QString& title, const Client& client, QWidget* parent) : QDialog(parent) {
+ClientDialog::ClientDialog(const QString& title, const Client& client, std::function<bool(const Client&)> take,
+                           QWidget* parent)
+    : QDialog(parent), take_(std::move(take)) {
   setWindowTitle(title);
   QWidget* aanvrager = MakeFields(aanvrager_, QStringLiteral("Aanvrager"));
   withPartner_ = new QCheckBox(QStringLiteral("Er is een &partner"));
@@ -192,7 +195,7 @@ void ClientDialog::accept() {
   if (qt::EntryBox* box = qt::EntryBox::PendingWithin(*this); box && !box->CommitPending()) return;
   if (!Check(aanvrager_, QStringLiteral("de aanvrager"))) return;
   if (withPartner_->isChecked() && !Check(partner_, QStringLiteral("de partner"))) return;
-  QDialog::accept();
+  if (take_(Contents())) QDialog::accept();
 }
 
 bool ClientDialog::Check(const PersoonFields& fields, const QString& who) {

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <array>
+#include <functional>
 #include <vector>
 
 #include "dossier/model/Gegevens.h"
@@ -28,13 +29,15 @@ struct Client {
 
 /// Asks for the applicant, the partner if there is one, and the age limit.
 ///
-/// OK is refused, with the reason in the dialog, while a person lacks a surname or a birth date in the past.
+/// OK is refused, with the reason in the dialog, while a person lacks a surname or a birth date in the past. It stays,
+/// with what was filled in, until that was taken or it is put away.
 /// On a low screen the fields scroll; the buttons and the reason stay in sight.
 class ClientDialog final : public QDialog {
  public:
-  ClientDialog(const QString& title, const Client& client, QWidget* parent);
+  /// `take` does what is to be done with the contents, says why where it cannot, and answers whether it was done.
+  ClientDialog(const QString& title, const Client& client, std::function<bool(const Client&)> take, QWidget* parent);
 
-  /// What stands in the dialog; valid once it was accepted.
+  /// What stands in the dialog; right once it was taken.
   [[nodiscard]] Client Contents() const;
 
   void accept() override;
@@ -53,6 +56,7 @@ class ClientDialog final : public QDialog {
   bool Check(const PersoonFields& fields, const QString& who);
   void Tell(const QString& reason, QLineEdit* field);
 
+  std::function<bool(const Client&)> take_;
   PersoonFields aanvrager_;
   PersoonFields partner_;
   QCheckBox* withPartner_;

@@ -47,7 +47,7 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
     Refresh();
   });
   subscriptions_ += store_.Settled.Connect([this](dossier::Outcome outcome) { OnSettled(outcome); });
-  subscriptions_ += store_.Bewerkingen().Stored.Connect([this] { typed_.Forget(); });
+  subscriptions_ += store_.Bewerkingen().Stored.Connect([this] { OnStored(); });
   subscriptions_ +=
       store_.Bewerkingen().Failed.Connect([this](const dossier::StoreFailure& failure) { OnFailed(failure); });
   bar_->noticePutAway = [this] {
@@ -82,7 +82,8 @@ BarFacts ClientOnScreen::Facts() const {
           .tries = store_.Tries(),
           .unknown = unknown_,
           .barred = store_.WantsPassword(),
-          .said = store_.LastFailure() ? store_.LastFailure()->SaidByServer() : QString()};
+          .said = store_.LastFailure() ? store_.LastFailure()->SaidByServer() : QString(),
+          .unreadable = store_.Unreadable() ? QString::fromStdString(store_.Unreadable()->Oorzaak()) : QString()};
 }
 
 void ClientOnScreen::UpdateActions() {
@@ -98,8 +99,10 @@ void ClientOnScreen::Refresh() {
   UpdateActions();
   bar_->ShowState(WordsFor(Facts()).text);
   if (!unstored_) return bar_->ShowUnstored({}, false);
+  const QString what =
+      unstored_->what.unknown ? QStringLiteral("Niet bekend of dit is opgeslagen") : QStringLiteral("Niet opgeslagen");
   const QString where = label_.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(label_);
-  bar_->ShowUnstored(QStringLiteral("Niet opgeslagen%1: %2").arg(where, Short(unstored_->what.text)),
+  bar_->ShowUnstored(QStringLiteral("%1%2: %3").arg(what, where, Short(unstored_->what.text)),
                      !unstored_->what.box.isEmpty() && store_.Now() == State::Editing);
 }
 
@@ -110,6 +113,9 @@ void ClientOnScreen::Notice(const QString& text) {
 
 void ClientOnScreen::OnChanged() {
   const State before = std::exchange(state_, store_.Now());
+  const bool readable = !store_.Unreadable();
+  const bool wasReadable = std::exchange(readable_, readable);
+  if (wasReadable && !readable) eventLog_.Write(QStringLiteral("Kantoor: %1").arg(store_.Unreadable()->Melding()));
   if (state_ == State::Editing) asked_ = false;
   if (state_ != State::Editing) asker_.clear();
   if (before != state_) {
@@ -129,7 +135,7 @@ void ClientOnScreen::OnChanged() {
                        .arg(holder));
     } else if (before == State::Editing && !lettingGo_) {
       Notice(QStringLiteral("%1 heeft dit dossier overgenomen. Wat u nog wijzigt, wordt niet opgeslagen.").arg(who));
-    } else if (state_ == State::Editing) {
+    } else if (state_ == State::Editing && readable) {
       Notice({});
       window_.tell(QStringLiteral("U kunt dit dossier nu bewerken."));
     }
@@ -137,6 +143,8 @@ void ClientOnScreen::OnChanged() {
       if (password_) window_.admittedBy(*std::exchange(password_, std::nullopt));
       putAway_ = false;
     }
+  }
+  if (before != state_ || wasReadable != readable) {
     screen_.FollowRights();
     window_.changed();
   }
@@ -154,8 +162,10 @@ void ClientOnScreen::OnReread() {
 }
 
 void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
-  unknown_ = failure.error.Number() == dossier::kUnknownError;
-  KeepUnstored();
+  const bool unknown = failure.error.Number() == dossier::kUnknownError;
+  // What is refused meanwhile tells nothing of the edit before.
+  unknown_ = unknown_ || unknown;
+  KeepUnstored(unknown);
   // The procedure that failed has not ended yet.
   QMetaObject::invokeMethod(this, &ClientOnScreen::Refresh, Qt::QueuedConnection);
 }
@@ -163,8 +173,8 @@ void ClientOnScreen::OnFailed(const dossier::StoreFailure& failure) {
 void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
   unknown_ = false;
   settled_ = outcome != dossier::Outcome::NoneAsked;
+  SettleKept(outcome == dossier::Outcome::WasStored);
   if (outcome == dossier::Outcome::WasStored) {
-    ForgetUnstored();
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));
   } else if (outcome == dossier::Outcome::WasNotStored) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is niet opgeslagen."));
@@ -172,10 +182,18 @@ void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
   Refresh();
 }
 
-void ClientOnScreen::KeepUnstored() {
+void ClientOnScreen::OnStored() {
+  typed_.Forget();
+  // A dialog that stayed was confirmed once more.
+  if (form_ && form_ == QApplication::activeModalWidget()) ForgetUnstored();
+}
+
+void ClientOnScreen::KeepUnstored(bool unknown) {
   UnfinishedText unstored = window_.here();
+  unstored.unknown = unknown;
   QString label;
-  if (const auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+  auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (form != nullptr) {
     unstored.title = form->windowTitle();
     unstored.text = FilledIn(*form);
     label = unstored.title;
@@ -185,16 +203,41 @@ void ClientOnScreen::KeepUnstored() {
     label = typed_.Now()->label;
   }
   typed_.Forget();
+  if (unknown) {
+    formInDoubt_ = form;
+    textInDoubt_ = unstored.text;
+  }
   if (unstored.text.isEmpty()) return;
   // Of one box the last text counts; what stood in another is offered at the next start.
   if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) ForgetUnstored();
   unstored_ = {unstored.Keep(), unstored};
   label_ = label;
+  form_ = form;
+  if (unknown) inDoubt_ = unstored_;
+}
+
+void ClientOnScreen::SettleKept(bool stored) {
+  const QPointer<QDialog> form = std::exchange(formInDoubt_, nullptr);
+  // Where it was changed since, that is not what was stored.
+  if (stored && form && form->isVisible() && FilledIn(*form) == textInDoubt_) form->done(QDialog::Accepted);
+  auto kept = std::exchange(inDoubt_, std::nullopt);
+  if (!kept) return;
+  const bool shown = unstored_ && unstored_->name == kept->name;
+  if (stored) {
+    UnfinishedText::Forget(kept->name);
+    if (shown) unstored_.reset();
+    return;
+  }
+  kept->what.unknown = false;
+  kept->what.KeepAs(kept->name);
+  if (shown) unstored_ = kept;
 }
 
 void ClientOnScreen::ForgetUnstored() {
   if (unstored_) UnfinishedText::Forget(unstored_->name);
+  if (unstored_ && inDoubt_ && inDoubt_->name == unstored_->name) inDoubt_.reset();
   unstored_.reset();
+  form_.clear();
   Refresh();
 }
 

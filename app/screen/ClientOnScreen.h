@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDialog>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -53,7 +54,10 @@ class ClientOnScreen final : public QObject {
   void OnFailed(const dossier::StoreFailure& failure);
   void OnSettled(dossier::Outcome outcome);
   void OnReread();
-  void KeepUnstored();
+  void OnStored();
+  /// `unknown`: it may have been stored.
+  void KeepUnstored(bool unknown);
+  void SettleKept(bool stored);
   void ForgetUnstored();
   void PutBack();
   void Notice(const QString& text);
@@ -78,10 +82,16 @@ class ClientOnScreen final : public QObject {
   bool asking_ = false;              ///< for a password
   bool putAway_ = false;             ///< the question for one, since the connection broke
   std::optional<QString> password_;  ///< that was given since then
-  bool settled_ = false;             ///< what became of an edit was told since the connection broke
+  bool readable_ = true;
+  bool settled_ = false;  ///< what became of an edit was told since the connection broke
   QString asker_;
   std::optional<UnfinishedText::Kept> unstored_;
-  QString label_;  ///< of its box
+  QString label_;           ///< of its box
+  QPointer<QDialog> form_;  ///< that it was filled in in, and stays there
+  /// Of the edit whose outcome is not known.
+  std::optional<UnfinishedText::Kept> inDoubt_;
+  QPointer<QDialog> formInDoubt_;
+  QString textInDoubt_;  ///< that was filled in there
   host::Subscriptions subscriptions_;
 };
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/desk/Messages.h"
 #include "app/desk/Settings.h"
 #include "app/desk/Today.h"
 #include "app/recording/Recording.h"
@@ -300,14 +299,15 @@ bool DossierScreen::Try(const std::function<void()>& change) {
     change();
     return true;
   } catch (const host::Error& error) {
-    TellFailure(RecordOf(error));
+    // A dialog in front stays with what was filled in.
+    TellFailure(RecordOf(error), QApplication::activeModalWidget() ? Consequence::Kept : Consequence::Reloaded);
   }
   return false;
 }
 
-void DossierScreen::TellFailure(const host::ErrorRecord& error) {
+void DossierScreen::TellFailure(const host::ErrorRecord& error, Consequence ofReloading) {
   WriteError(eventLog_, error);
-  ShowFailure(window(), error, rebind_ ? Consequence::Reloaded : Consequence::None);
+  ShowFailure(window(), error, rebind_ ? ofReloading : Consequence::None);
 }
 
 void DossierScreen::FollowRights() { kolom_->SetRemovable(!store_->IsReadOnly()); }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "app/desk/Messages.h"
 #include "app/desk/TraceLog.h"
 #include "app/screen/KolomScreen.h"
 #include "app/screen/ListPanel.h"
@@ -70,7 +71,8 @@ class DossierScreen final : public QSplitter {
   bool RenameLening(const QString& name);
   bool RemoveLening();
 
-  /// What Undo (or Redo) would take back (or do again), in words; empty where there is nothing.
+  /// What Undo (or Redo) would take back (or do again), in words; empty where there is nothing. Where that cannot be
+  /// read it says so, and Take tells why.
   [[nodiscard]] QString NextStep(dossier::StepKind kind);
   /// Undoes or redoes one step, and shows the column concerned with the focus where the change was. A text that is
   /// being typed is handed over before; another column is left as ever. Not done where that is refused.
@@ -117,7 +119,7 @@ class DossierScreen final : public QSplitter {
   bool Try(const std::function<void()>& change);
   /// Divides the width between the list and the editor.
   void GiveWay();
-  void TellFailure(const host::ErrorRecord& error);
+  void TellFailure(const host::ErrorRecord& error, Consequence ofReloading = Consequence::Reloaded);
   void PlanRebind();
   /// Where a step of the history shows: the column or loan that it is about, if that is there now.
   [[nodiscard]] std::optional<Place> PlaceOf(const dossier::Entry& entry);

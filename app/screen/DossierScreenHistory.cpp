@@ -11,12 +11,18 @@ std::vector<dossier::Entry> DossierScreen::Next(dossier::StepKind kind) {
   try {
     return store_->Next(kind);
   } catch (const host::Error&) {
-    // A history that cannot be read: Take says so.
+    // Take says so.
     return {};
   }
 }
 
-QString DossierScreen::NextStep(dossier::StepKind kind) { return StepText(Next(kind)); }
+QString DossierScreen::NextStep(dossier::StepKind kind) {
+  try {
+    return StepText(store_->Next(kind));
+  } catch (const host::Error&) {
+    return QStringLiteral("de geschiedenis is niet te lezen");
+  }
+}
 
 std::optional<Place> DossierScreen::PlaceOf(const dossier::Entry& entry) {
   std::optional<Place> loan;

@@ -1,7 +1,6 @@
 // How the window goes back and forth, and shows what was changed.
 #include <QAction>
 #include <QApplication>
-#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStatusBar>
@@ -12,8 +11,8 @@
 #include "app/history/HistoryWindow.h"
 #include "app/screen/KolommenModel.h"
 #include "app/screen/MainWindow.h"
+#include "app/screen/TextDialog.h"
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
-#include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::app {
 namespace {
@@ -27,19 +26,6 @@ bool IsTypedIn(QObject* box) {
   if (auto* entry = dynamic_cast<qt::EntryBox*>(box)) return entry->Edit().IsPending();
   const auto* line = qobject_cast<const QLineEdit*>(box);
   return line != nullptr && (line->isUndoAvailable() || line->isRedoAvailable());
-}
-
-/// A question of one text, or nothing where it was put away.
-std::optional<QString> AskText(QWidget* parent, const QString& title, const QString& label, const QString& text) {
-  QInputDialog question(parent);
-  question.setWindowTitle(title);
-  question.setLabelText(label);
-  question.setTextValue(text);
-  if (auto* box = question.findChild<QLineEdit*>()) qt::TypesNothingWithAlt(*box);
-  question.setOkButtonText(QStringLiteral("OK"));
-  question.setCancelButtonText(QStringLiteral("Annuleren"));
-  if (question.exec() != QDialog::Accepted) return std::nullopt;
-  return question.textValue().trimmed();
 }
 
 void Name(QAction* action, const QString& text, const QString& step) {
@@ -91,21 +77,28 @@ void MainWindow::ShowHistory() {
 }
 
 void MainWindow::AskAuthor() {
-  const auto name = AskText(
-      this, QStringLiteral("Naam van de adviseur"),
-      QStringLiteral("Onder deze naam staan uw wijzigingen in de geschiedenis van een dossier.\nLeeg: de naam van "
-                     "uw account."),
-      Settings::Author());
-  if (!name) return;
-  Settings::SetAuthor(*name);
-  if (screen_) screen_->SetAuthor(Settings::Author());
+  const auto take = [this](const QString& name) {
+    Settings::SetAuthor(name);
+    if (screen_) screen_->SetAuthor(Settings::Author());
+    return true;
+  };
+  TextDialog({.title = QStringLiteral("Naam van de adviseur"),
+              .label = QStringLiteral("Onder deze naam staan uw wijzigingen in de geschiedenis van een dossier.\nLeeg: "
+                                      "de naam van uw account."),
+              .text = Settings::Author()},
+             take, this)
+      .exec();
 }
 
 void MainWindow::AskLeningName() {
+  if (!screen_->Kolom().Editor().CommitPending()) return;
   const std::int16_t Len_Id = screen_->Shown().Len_Id;
-  const auto name = AskText(this, QStringLiteral("Lening hernoemen"), QStringLiteral("Naam van de lening"),
-                            LeningText(screen_->Dossier(), Len_Id));
-  if (name) screen_->RenameLening(*name);
+  TextDialog(
+      {.title = QStringLiteral("Lening hernoemen"),
+       .label = QStringLiteral("Naam van de lening"),
+       .text = LeningText(screen_->Dossier(), Len_Id)},
+      [this](const QString& name) { return screen_->RenameLening(name); }, this)
+      .exec();
 }
 
 }  // namespace brivane::app

@@ -24,6 +24,21 @@ constexpr int kTold = 8000;  ///< milliseconds
 
 QString KantoorTitle() { return QStringLiteral("Kantoor"); }
 
+/// Makes a loan file of a client, with its history where the office can be asked for it; answers whether it was.
+bool MakeFileOf(dossier::DossierStore& client, const QString& file) {
+  try {
+    if (client.InPlace()) {
+      client.Kopieer(file);
+      return true;
+    }
+  } catch (const dossier::OfficeError& error) {
+    // It may turn out only now that there is no connection.
+    if (error.Problem() != dossier::OfficeProblem::Unreachable) throw;
+  }
+  dossier::DossierFile::Maak(file, client.Dossier()->Gegevens());
+  return false;
+}
+
 }  // namespace
 
 void MainWindow::ConnectOffice() {
@@ -160,16 +175,14 @@ void MainWindow::SaveAsFile() {
   for (;;) {
     const QString file = AskNewFile(QStringLiteral("Als bestand bewaren"), NameForFile(screen_->Store().Naam()));
     if (file.isEmpty()) return;
-    QString told = QStringLiteral("Bewaard: %1").arg(QDir::toNativeSeparators(file));
     try {
-      if (screen_->Store().InPlace()) {
-        screen_->Store().Kopieer(file);
-      } else {
-        dossier::DossierFile::Maak(file, screen_->Dossier().Gegevens());
+      QString told = QStringLiteral("Bewaard: %1").arg(QDir::toNativeSeparators(file));
+      if (!MakeFileOf(screen_->Store(), file))
         told += QStringLiteral(" (zonder geschiedenis: er is geen verbinding met het kantoor)");
-      }
-      statusBar()->showMessage(told, kTold);
-      return;
+      return statusBar()->showMessage(told, kTold);
+    } catch (const dossier::OfficeError& error) {
+      // With another name it would go no better.
+      return ShowMessage(this, QStringLiteral("Als bestand bewaren"), error.Melding());
     } catch (const dossier::OpeningError& error) {
       ShowMessage(this, QStringLiteral("Als bestand bewaren"), error.Melding());
     }

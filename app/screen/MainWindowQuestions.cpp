@@ -2,8 +2,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QInputDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 
@@ -18,8 +16,8 @@
 #include "app/screen/Paper.h"
 #include "app/screen/RecentMenu.h"
 #include "app/screen/StartPage.h"
+#include "app/screen/TextDialog.h"
 #include "dossier/model/SampleCase.h"
-#include <brivane/toolkits/qt/widgets/Mnemonics.h>
 
 namespace brivane::app {
 namespace {
@@ -81,18 +79,18 @@ void MainWindow::Connect() {
 
 void MainWindow::AskNew() {
   if (screen_ && !screen_->MayLeave()) return;
-  ClientDialog question(QStringLiteral("Nieuw dossier"), Client(), this);
-  if (question.exec() != QDialog::Accepted) return;
-  dossier::DossierGegevens gegevens = dossier::LeegDossier();
-  const Client client = question.Contents();
-  gegevens.Personen = client.personen;
-  gegevens.Leeftijd = client.leeftijd;
-  const QString name = QString::fromStdString(client.personen.front().Naam.back());
-  // What was typed stays until it is stored or given up.
-  for (;;) {
-    const QString file = AskNewFile(QStringLiteral("Nieuw dossier opslaan als"), name);
-    if (file.isEmpty() || Make(file, gegevens)) return;
-  }
+  const auto make = [this](const Client& client) {
+    dossier::DossierGegevens gegevens = dossier::LeegDossier();
+    gegevens.Personen = client.personen;
+    gegevens.Leeftijd = client.leeftijd;
+    const QString name = QString::fromStdString(client.personen.front().Naam.back());
+    for (;;) {
+      const QString file = AskNewFile(QStringLiteral("Nieuw dossier opslaan als"), name);
+      if (file.isEmpty()) return false;
+      if (Make(file, gegevens)) return true;
+    }
+  };
+  ClientDialog(QStringLiteral("Nieuw dossier"), Client(), make, this).exec();
 }
 
 void MainWindow::AskOpen() {
@@ -132,28 +130,27 @@ void MainWindow::ClearRecent() {
 }
 
 QString MainWindow::AskNewFile(const QString& title, const QString& name) {
-  return app::AskNewFile(this, {.title = title, .folder = Settings::Folder(), .filter = QString::fromLatin1(kFilter)},
+  return app::AskNewFile(InFront(this),
+                         {.title = title, .folder = Settings::Folder(), .filter = QString::fromLatin1(kFilter)},
                          QLatin1String(kSuffix), name);
 }
 
 void MainWindow::AskClient() {
   if (!screen_->Kolom().Editor().CommitPending()) return;
   const dossier::Dossier& dossier = screen_->Dossier();
-  ClientDialog question(QStringLiteral("Cliëntgegevens"), {dossier.Personen(), dossier.Leeftijd()}, this);
-  if (question.exec() != QDialog::Accepted) return;
-  const Client client = question.Contents();
-  screen_->SetClient(client.personen, client.leeftijd);
+  const auto store = [this](const Client& client) { return screen_->SetClient(client.personen, client.leeftijd); };
+  ClientDialog(QStringLiteral("Cliëntgegevens"), {dossier.Personen(), dossier.Leeftijd()}, store, this).exec();
 }
 
 void MainWindow::AskLening() {
-  QInputDialog question(this);
-  question.setWindowTitle(QStringLiteral("Lening toevoegen"));
-  question.setLabelText(QStringLiteral("Naam van de lening in de nieuwe situatie"));
-  question.setTextValue(QStringLiteral("Nieuwe lening %1").arg(screen_->Dossier().AantalLeningen() + 1));
-  if (auto* box = question.findChild<QLineEdit*>()) qt::TypesNothingWithAlt(*box);
-  question.setOkButtonText(QStringLiteral("OK"));
-  question.setCancelButtonText(QStringLiteral("Annuleren"));
-  if (question.exec() == QDialog::Accepted) screen_->AddLening(question.textValue().trimmed());
+  // What has to be mended first is mended before a name is typed.
+  if (!screen_->MayLeave()) return;
+  TextDialog(
+      {.title = QStringLiteral("Lening toevoegen"),
+       .label = QStringLiteral("Naam van de lening in de nieuwe situatie"),
+       .text = QStringLiteral("Nieuwe lening %1").arg(screen_->Dossier().AantalLeningen() + 1)},
+      [this](const QString& name) { return screen_->AddLening(name); }, this)
+      .exec();
 }
 
 void MainWindow::Check() {

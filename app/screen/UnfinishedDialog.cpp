@@ -23,11 +23,15 @@ QString NameOf(const QString& address) {
 }
 
 QString Introduction(const UnfinishedText& unfinished) {
+  const QString outcome = unfinished.unknown ? QStringLiteral(
+                                                   "Of het is opgeslagen is niet bekend: de verbinding met het kantoor "
+                                                   "viel weg. Kijk het na in het dossier.")
+                                             : QStringLiteral("Het is niet opgeslagen.");
   QString text =
       unfinished.title.isEmpty()
-          ? QStringLiteral("Bij het afsluiten stond dit nog in een vak, en is niet opgeslagen.")
-          : QStringLiteral("Bij het afsluiten was dit ingevuld in het venster \"%1\", en is niet opgeslagen.")
-                .arg(unfinished.title);
+          ? QStringLiteral("Bij het afsluiten stond dit nog in een vak. ")
+          : QStringLiteral("Bij het afsluiten was dit ingevuld in het venster \"%1\". ").arg(unfinished.title);
+  text += outcome;
   if (!unfinished.file.isEmpty()) {
     text += QStringLiteral("\n\nDossier: %1").arg(NameOf(unfinished.file));
   }
@@ -37,7 +41,9 @@ QString Introduction(const UnfinishedText& unfinished) {
 }  // namespace
 
 UnfinishedDialog::UnfinishedDialog(const UnfinishedText& unfinished, QWidget* parent) : QDialog(parent) {
-  setWindowTitle(QStringLiteral("Niet opgeslagen"));
+  const QString title =
+      unfinished.unknown ? QStringLiteral("Misschien niet opgeslagen") : QStringLiteral("Niet opgeslagen");
+  setWindowTitle(title);
   auto* introduction = new QLabel(Introduction(unfinished));
   introduction->setTextFormat(Qt::PlainText);
   introduction->setWordWrap(true);
@@ -45,7 +51,7 @@ UnfinishedDialog::UnfinishedDialog(const UnfinishedText& unfinished, QWidget* pa
   text->setReadOnly(true);
   text->setTabChangesFocus(true);
   text->setLineWrapMode(QPlainTextEdit::NoWrap);
-  text->setAccessibleName(QStringLiteral("Niet opgeslagen tekst"));
+  text->setAccessibleName(title + QStringLiteral(": tekst"));
   const QFontMetrics metrics = text->fontMetrics();
   text->setTabStopDistance(14.0 * metrics.averageCharWidth());
   const auto lines = static_cast<int>(unfinished.text.count(u'\n')) + 1;

@@ -136,8 +136,8 @@ Reading<double> Read(std::string_view text, const Style& style) {
   return parts.negative && value != 0 ? -value : value;
 }
 
-/// A number with so many decimals, rounded, as a whole one; nothing where it is so near halfway between two of them, or so
-/// large, that only its shortest text tells which it is.
+/// A number with so many decimals, rounded, as a whole one; nothing where it is so near halfway between two of them, or
+/// so large, that only its shortest text tells which it is.
 std::optional<std::uint64_t> FarFromHalfway(double number, std::size_t decimals) {
   // Below the largest, a product and that text stand closer together than what is near.
   constexpr double kLargest = 1e12;

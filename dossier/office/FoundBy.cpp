@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QRegularExpression>
 #include <algorithm>
+#include <set>
 
 #include "dossier/office/RowsJson.h"
 #include "dossier/office/TypedDate.h"
@@ -12,7 +13,7 @@
 namespace brivane::dossier {
 namespace {
 
-/// Texts whose words are known, at most.
+/// Above that many texts their words are forgotten.
 constexpr std::size_t kMostTexts = 1000;
 
 /// The day that days are counted from.
@@ -35,14 +36,20 @@ QStringList WordsOf(const QString& text) {
 const QStringList& FindingWords::WordsOf(std::string_view text) {
   std::string known(text);
   if (const auto found = words_.find(known); found != words_.end()) return found->second;
-  if (words_.size() >= kMostTexts) words_.clear();
   QStringList words = dossier::WordsOf(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
   return words_.emplace(std::move(known), std::move(words)).first->second;
 }
 
 FoundBy FindingWords::Of(Database& tables) {
+  if (words_.size() > kMostTexts) words_.clear();
   FoundBy found;
   QStringList words;
+  // A text is that of many columns.
+  std::set<const QStringList*> met;
+  const auto add = [&](std::string_view text) {
+    if (text.empty()) return;
+    if (const QStringList& its = WordsOf(text); met.insert(&its).second) words << its;
+  };
   Rows& persons = tables.RowsAgain(QStringLiteral(
       "SELECT geboortedatum, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB) FROM persoon ORDER BY "
       "nummer"));
@@ -53,7 +60,7 @@ FoundBy FindingWords::Of(Database& tables) {
     for (int part = 1; part <= 3; ++part) {
       const std::string_view text = persons.Bytes(part);
       if (!text.empty()) parts << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-      words << WordsOf(text);
+      add(text);
     }
     if (days != 0) words << DayWords(kDayZero.addDays(days));
     if (!found.naam.isEmpty()) continue;
@@ -61,17 +68,30 @@ FoundBy FindingWords::Of(Database& tables) {
     found.geboortedatum = days;
   }
   persons.Stop();
-  Rows& columns = tables.RowsAgain(QStringLiteral(
-      "SELECT CAST(omschrijving AS BLOB), CAST(maatschappij_naam AS BLOB), CAST(productnaam AS BLOB), "
-      "CAST(productsoort_omschrijving AS BLOB), CAST((SELECT tekst FROM maatschappij_type WHERE code = maatschappij "
-      "AND code <> '' ORDER BY volgorde LIMIT 1) AS BLOB) FROM vrijekolom"));
+  std::set<std::string, std::less<>> companies;
+  Rows& columns = tables.RowsAgain(
+      QStringLiteral("SELECT CAST(omschrijving AS BLOB), CAST(maatschappij_naam AS BLOB), CAST(productnaam AS BLOB), "
+                     "CAST(productsoort_omschrijving AS BLOB), CAST(maatschappij AS BLOB) FROM vrijekolom"));
   columns.Start({});
   while (columns.Next()) {
-    for (int part = 0; part < 5; ++part) {
-      if (const std::string_view text = columns.Bytes(part); !text.empty()) words << WordsOf(text);
-    }
+    for (int part = 0; part < 4; ++part) add(columns.Bytes(part));
+    if (const std::string_view code = columns.Bytes(4); !code.empty() && !companies.contains(code))
+      companies.emplace(code);
   }
   columns.Stop();
+  if (!companies.empty()) {
+    // Of companies with the same code the first counts.
+    Rows& names = tables.RowsAgain(
+        QStringLiteral("SELECT CAST(code AS BLOB), CAST(tekst AS BLOB) FROM maatschappij_type ORDER BY volgorde"));
+    names.Start({});
+    while (names.Next()) {
+      if (const auto company = companies.find(names.Bytes(0)); company != companies.end()) {
+        add(names.Bytes(1));
+        companies.erase(company);
+      }
+    }
+    names.Stop();
+  }
   words.sort();
   words.erase(std::unique(words.begin(), words.end()), words.end());
   found.woorden = words.isEmpty() ? QString() : u' ' + words.join(u' ');

@@ -200,7 +200,7 @@ void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
 void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
   // What somebody is at work on stays as it is until he is done.
   if (!journal_->Bewerkingen().IsQuiet()) return;
-  Try([&] { Show([&] { session_->FillWith(answer, step); }); });
+  Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
   if (Now() != State::Broken && (!session_->IsBehind() || unreadable_)) TellSettled();
 }
 
@@ -242,10 +242,10 @@ template <class Action> void OfficeStore::Try(Action&& action) {
 }
 
 void OfficeStore::Reload() {
-  Show([&] { session_->Fill(); });
+  Reread([&] { session_->Fill(); });
 }
 
-template <class Filling> void OfficeStore::Show(Filling&& fill) {
+template <class Fill> void OfficeStore::Reread(Fill&& fill) {
   try {
     fill();
     if (session_->IsBehind()) return;

@@ -40,9 +40,11 @@ class OfficeStore final : public DossierStore {
   [[nodiscard]] QString Naam() const override;
   [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const override { return dossier_; }
   [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen() override;
-  /// Somebody else has it, or this account only reads. Where the connection broke nothing is stored either, but what
-  /// was edited goes on after it.
-  [[nodiscard]] bool IsReadOnly() const override { return Now() == State::Reading; }
+  /// Somebody else has it, this account only reads, or what is shown is old. Where the connection broke nothing is
+  /// stored either, but what was edited goes on after it.
+  [[nodiscard]] bool IsReadOnly() const override {
+    return Now() == State::Reading || (unreadable_ && Now() == State::Editing);
+  }
   [[nodiscard]] bool InPlace() const override { return Now() != State::Broken; }
   /// The office names its users itself.
   void SetAuthor(const std::string&) override {}
@@ -117,7 +119,7 @@ class OfficeStore final : public DossierStore {
                                                                                       std::int64_t));
   void Read(const OfficeAnswer& answer, std::int64_t step);
   /// Fills the tables and shows them, where they can be shown.
-  template <class Filling> void Show(Filling&& fill);
+  template <class Fill> void Reread(Fill&& fill);
   void TellSettled();
 
   std::shared_ptr<ClientSession> session_;

@@ -65,8 +65,6 @@ CREATE FUNCTION kantoor.sla_op(p_client integer, p_bewijs uuid, p_bewerking uuid
 DECLARE
   v_nu timestamptz := clock_timestamp();
   v_tijd bigint := (extract(epoch FROM v_nu) * 1000)::bigint;
-  v_naam text;
-  v_houdt boolean;
   v_gelezen boolean;
   v_kolom vrijekolom_rij;
   v_periode periode_rij;
@@ -83,33 +81,29 @@ BEGIN
   IF current_setting('synchronous_commit') = 'off' THEN
     v_gezet := set_config('synchronous_commit', 'on', true);
   END IF;
-  UPDATE client c SET laatste = p_stap.nummer, gewijzigd = v_nu, gewijzigd_door = session_user
+  UPDATE client c SET laatste = p_stap.nummer, gewijzigd = v_nu, gewijzigd_door = session_user,
+      naam = coalesce(p_zoek.naam, c.naam), geboortedatum = coalesce(p_zoek.geboortedatum, c.geboortedatum)
     WHERE c.nummer = p_client AND c.laatste = p_stap.nummer - 1;
   IF NOT FOUND THEN
     PERFORM moet_zichtbaar_zijn(p_client);
-    IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
-    THEN
-      RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
-    END IF;
+    PERFORM moet_houder_zijn(p_client, p_bewijs);
     RAISE EXCEPTION 'another step was stored' USING ERRCODE = 'KT002';
   END IF;
   v_gezet := set_config('kantoor.client', p_client::text, true);
-  -- Whoever takes the client up waits for the row above, so that this stays true until the end.
-  SELECT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid()),
-      coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text),
-      EXISTS (SELECT FROM meelezer l WHERE l.client = p_client)
-    INTO v_houdt, v_naam, v_gelezen;
-  IF NOT v_houdt THEN
-    RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
-  END IF;
   IF p_namen IS NOT NULL THEN
     INSERT INTO naam SELECT p_client, r.* FROM unnest(p_namen) r;
   END IF;
-  -- A step names the session's user and nobody else.
+  -- The session holds the client: whoever takes it up waits for the row above, so that this stays true until the end. And
+  -- a step names the session's user and nobody else.
   INSERT INTO stap SELECT p_client, p_stap.nummer, v_tijd, n.nummer, p_stap.soort, p_stap.van, p_stap.terug,
       p_stap.opnieuw, p_stap.eerste, p_stap.hoogste, p_bewerking, session_user, v_nu
-    FROM naam n WHERE n.client = p_client AND n.nummer = p_stap.medewerker AND n.tekst = v_naam;
+    FROM bewerker b, naam n
+    WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid()
+      AND n.client = p_client AND n.nummer = p_stap.medewerker
+      AND n.tekst = coalesce((SELECT m.naam FROM medewerker m WHERE m.gebruiker = session_user), session_user::text)
+    RETURNING EXISTS (SELECT FROM meelezer l WHERE l.client = p_client) INTO v_gelezen;
   IF NOT FOUND THEN
+    PERFORM moet_houder_zijn(p_client, p_bewijs);
     RAISE EXCEPTION 'somebody else''s name' USING ERRCODE = 'KT006';
   END IF;
   INSERT INTO wijziging SELECT p_client, r.nummer, p_stap.nummer, r.tabel, r.sleutel, r.lening, r.lening_naam, r.kolom,
@@ -157,8 +151,6 @@ BEGIN
   END IF;
   IF p_zoek IS NOT NULL THEN
     UPDATE zoek z SET tekst = p_zoek.tekst WHERE z.client = p_client AND z.tekst <> p_zoek.tekst;
-    UPDATE client c SET naam = p_zoek.naam, geboortedatum = p_zoek.geboortedatum
-      WHERE c.nummer = p_client AND (c.naam, c.geboortedatum) <> (p_zoek.naam, p_zoek.geboortedatum);
   END IF;
   IF v_gelezen THEN
     PERFORM pg_notify('kantoor_' || p_client, 'stap');

@@ -101,6 +101,8 @@ void Database::Run(QSqlQuery& query) {
   if (!query.exec()) throw DatabaseError(query.lastError());
 }
 
+std::int64_t Database::LastKey() const { return sqlite3_last_insert_rowid(Handle()); }
+
 void Database::PassOverTriggers() {
   if (sqlite3_db_config(Handle(), SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr) != SQLITE_OK)
     throw DatabaseError(SqliteCode::CannotOpen, "The triggers cannot be passed over");

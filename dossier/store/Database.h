@@ -74,6 +74,8 @@ class Database {
   /// A prepared statement whose rows are read once, in order.
   [[nodiscard]] QSqlQuery Prepare(const QString& sql) const;
   static void Run(QSqlQuery& query);
+  /// The key that the last INSERT gave out.
+  [[nodiscard]] std::int64_t LastKey() const;
   /// No trigger runs on this connection; the file keeps them.
   void PassOverTriggers();
   /// SQLite's own handle of the connection, for what is read as Rows.

@@ -142,17 +142,14 @@ std::vector<Entry> HistoryTables::EntriesOf(std::int64_t step) {
 
 std::int64_t HistoryTables::NumberOf(const std::string& name) {
   if (const auto known = names_.find(name); known != names_.end()) return known->second;
-  QSqlQuery& find = database_.Again(QStringLiteral("SELECT nummer FROM naam WHERE tekst = CAST(? AS TEXT)"));
-  find.bindValue(0, AlsBytes(name));
-  Database::Run(find);
-  std::int64_t number = find.next() ? find.value(0).toLongLong() : 0;
-  find.finish();
+  const Row text{name};
+  Rows& find = database_.RowsAgain(QStringLiteral("SELECT nummer FROM naam WHERE tekst = CAST(? AS TEXT)"));
+  find.Start(text);
+  std::int64_t number = find.Next() ? find.Whole(0) : 0;
+  find.Stop();
   if (number == 0) {
-    QSqlQuery& insert = database_.Again(QStringLiteral("INSERT INTO naam (tekst) VALUES (CAST(? AS TEXT))"));
-    insert.bindValue(0, AlsBytes(name));
-    Database::Run(insert);
-    number = insert.lastInsertId().toLongLong();
-    insert.finish();
+    database_.RowsAgain(QStringLiteral("INSERT INTO naam (tekst) VALUES (CAST(? AS TEXT))")).Run(text);
+    number = database_.LastKey();
     added_.names.push_back({number, name});
   }
   names_.emplace(name, number);

@@ -30,7 +30,7 @@ void Rows::Start(std::initializer_list<std::int64_t> parameters) {
   }
 }
 
-int Rows::Run(std::span<const Stored> values) {
+void Rows::Start(std::span<const Stored> values) {
   Stop();
   sqlite3_stmt* const statement = statement_.get();
   int place = 0;
@@ -48,8 +48,12 @@ int Rows::Run(std::span<const Stored> values) {
     }
     if (code != SQLITE_OK) Fail(sqlite3_db_handle(statement));
   }
+}
+
+int Rows::Run(std::span<const Stored> values) {
+  Start(values);
   while (Next()) continue;
-  const int changed = sqlite3_changes(sqlite3_db_handle(statement));
+  const int changed = sqlite3_changes(sqlite3_db_handle(statement_.get()));
   Stop();
   return changed;
 }

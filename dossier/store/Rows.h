@@ -26,8 +26,10 @@ class Rows {
 
   /// Starts anew, with these numbers for the statement's parameters in order.
   void Start(std::initializer_list<std::int64_t> parameters);
-  /// Runs a statement that finds none, and answers how many rows it changed, where it is one that does. A text among
-  /// the values is handed over as its bytes.
+  /// The same with values of any kind; a text is handed over as its bytes.
+  void Start(std::span<const Stored> values);
+  /// Runs a statement that finds none, with such values, and answers how many rows it changed, where it is one that
+  /// does.
   int Run(std::span<const Stored> values = {});
   /// Lets go of what the last row still holds open.
   void Stop();

@@ -110,7 +110,7 @@ TEST(Amount, ShowsGroupsAndTwoDecimals) {
 }
 
 TEST(Amount, RoundsAsItsShortestTextReads) {
-  std::mt19937 random(55);
+  std::mt19937 random(55);  // with digits that a double holds
   for (int i = 0; i < 4000; ++i) {
     const int euros = 100 + static_cast<int>(random() % (i % 2 == 0 ? 900 : 9'999'900));
     const int cents = 10 + static_cast<int>(random() % 89);
@@ -120,7 +120,7 @@ TEST(Amount, RoundsAsItsShortestTextReads) {
       return text;
     };
     const auto with = [&](int rounded) { return std::to_string(euros) + "," + std::to_string(rounded); };
-    for (const char* behind : {"0", "4", "49", "4999", "49999999"}) ASSERT_EQ(shown(behind), with(cents)) << behind;
+    for (const char* behind : {"0", "4", "49", "4999", "49999"}) ASSERT_EQ(shown(behind), with(cents)) << behind;
     for (const char* behind : {"5", "50", "5001", "51", "9"}) ASSERT_EQ(shown(behind), with(cents + 1)) << behind;
   }
   EXPECT_EQ(ShowAmount(123456789012.345), "123.456.789.012,35");

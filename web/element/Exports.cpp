@@ -13,7 +13,6 @@
 #include <brivane/frame/Texts.h>
 #include <brivane/toolkits/web/Person.h>
 #include <brivane/toolkits/web/Turns.h>
-#include <brivane/toolkits/web/peers/NodePeer.h>
 
 // clang-format off
 EM_JS(void, brivane_done, (int job, double result), { Module["element"]["done"](job, result); })
@@ -137,8 +136,7 @@ EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
 /// Whether it changes anything that the focus goes elsewhere.
 EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
   Element* const element = Element::Find(page);
-  const web::NodePeer* const peer = element != nullptr ? element->Toolkit().Find(node) : nullptr;
-  return peer != nullptr && peer->MindsBeingLeft() ? 1 : 0;
+  return element != nullptr && web::MindsBeingLeft(element->Toolkit(), node) ? 1 : 0;
 }
 
 /// As in PageTexts.h. For what is shown from now on.
@@ -160,6 +158,11 @@ EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {
   Element* const element = Element::Find(page);
   return element != nullptr && element->Part() != nullptr ? element->Part()->BackColor().value
                                                           : host::kButtonFace.value;
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_pending(int page) {
+  Element* const element = Element::Find(page);
+  return element != nullptr && element->IsPending() ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_state(int page) {

@@ -38,6 +38,12 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
        {.text = "Geen verbinding met het kantoor: het neemt uw wachtwoord niet meer aan. Na het verbinden blijkt ook "
                 "of de laatste wijziging is opgeslagen.",
         .reconnect = true}},
+      {{.state = State::Reading, .holder = "Anna Aalders", .since = "10:32", .unreadable = "het is beschadigd"},
+       {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd."}},
+      {{.state = State::Editing, .asker = "Bert Bakker", .unreadable = "het is beschadigd"},
+       {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd.", .handOver = true}},
+      {{.state = State::Broken, .unreadable = "het is beschadigd"},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht.", .reconnect = true}},
   };
   for (const BarCase& one : cases) EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
 }

@@ -34,7 +34,7 @@ class ClientDialogTest : public testing::Test {
     return false;
   }
 
-  ClientDialog dialog_{QStringLiteral("Nieuw dossier"), Client(), nullptr};
+  ClientDialog dialog_{QStringLiteral("Nieuw dossier"), Client(), [](const Client&) { return true; }, nullptr};
 };
 
 TEST_F(ClientDialogTest, ARefusalEndsWhenItIsBeingMended) {

@@ -1,7 +1,10 @@
 #include <sys/resource.h>
 
+#include <QAction>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <csignal>
 
 #include "tests/app/screen/WindowTest.h"
@@ -12,6 +15,28 @@
 namespace brivane::app {
 namespace {
 
+/// Until there is room again the log of a loan file cannot grow, as on a full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(const QString& file) : before_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &limit_);
+    rlimit full = limit_;
+    full.rlim_cur = static_cast<rlim_t>(QFileInfo(file + "-wal").size());
+    setrlimit(RLIMIT_FSIZE, &full);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    MakeRoom();
+    std::signal(SIGXFSZ, before_);
+  }
+  void MakeRoom() { setrlimit(RLIMIT_FSIZE, &limit_); }
+
+ private:
+  rlimit limit_{};
+  void (*before_)(int);
+};
+
 class FailureTest : public WindowTest {
  protected:
   void SetUp() override {
@@ -19,17 +44,43 @@ class FailureTest : public WindowTest {
     Open();
   }
 
-  /// Runs a body while the loan file's log cannot grow, as on a full disk.
+  /// Runs a body on a full disk.
   template <class Body> void OnFullDisk(Body&& body) {
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit full = limit;
-    full.rlim_cur = static_cast<rlim_t>(QFileInfo(file_ + "-wal").size());
-    setrlimit(RLIMIT_FSIZE, &full);
+    const FullDisk disk(file_);
     body();
-    setrlimit(RLIMIT_FSIZE, &limit);
-    std::signal(SIGXFSZ, previous);
+  }
+  /// Opens a dialog on a full disk, types into the box that has the focus and confirms. What was typed stays, with the
+  /// message above it, until there is room and it is confirmed again.
+  void StaysUntilStored(QAction& asks, const char* typed) {
+    FullDisk disk(file_);
+    QPointer<QWidget> dialog;
+    dialogs_.Expect([&, typed](QWidget& window) {
+      dialog = &window;
+      auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      ASSERT_TRUE(box);
+      box->selectAll();
+      Type(typed);
+      PressKey(Qt::Key_Return);
+    });
+    dialogs_.ExpectMessage("Er is een fout opgetreden.", [&](QWidget& box) {
+      EXPECT_EQ(box.parentWidget(), dialog);
+      const QString text = static_cast<QMessageBox&>(box).informativeText();
+      EXPECT_TRUE(text.contains("het bestand kan niet worden beschreven")) << qPrintable(text);
+      EXPECT_TRUE(text.contains("Wat u invulde, staat nog in het venster.")) << qPrintable(text);
+      EXPECT_FALSE(text.contains("Het scherm toont weer")) << qPrintable(text);
+      Pressing(Qt::Key_Return)(box);
+    });
+    dialogs_.Expect([&, typed](QWidget& window) {
+      EXPECT_EQ(&window, dialog);
+      const auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      ASSERT_TRUE(box);
+      EXPECT_EQ(box->text(), typed);
+      disk.MakeRoom();
+      PressKey(Qt::Key_Return);
+      EXPECT_FALSE(window.isVisible());
+    });
+    asks.trigger();
+    EXPECT_FALSE(dialog);
   }
   [[nodiscard]] std::string Omschrijving() {
     return frame::Controls(Screen().Kolom().Editor().Surface())[vrijekolom::TxtOm].Text();
@@ -76,6 +127,56 @@ TEST_F(FailureTest, AColumnThatCannotBeBoundLeavesAnEmptyEditorWithoutAName) {
   kolom.Show({0, 1});
   EXPECT_TRUE(kolom.Editor().IsBound());
   EXPECT_NE(header->text(), "");
+}
+
+TEST_F(FailureTest, ClientDataStayInTheirDialogUntilTheyAreStored) {
+  StaysUntilStored(*window_->Actions().client, "Q.");
+  ASSERT_TRUE(window_->CloseDossier());
+  Open();
+  EXPECT_EQ(Screen().Dossier().Personen()[0].Naam[0], "Q.");
+}
+
+TEST_F(FailureTest, TheNameOfALoanStaysInItsDialogUntilItIsStored) {
+  ASSERT_TRUE(Screen().GoTo({1, std::nullopt}));
+  StaysUntilStored(*window_->Actions().renameLening, "Verhuur");
+  EXPECT_EQ(Screen().Dossier().FindLening(1)->Naam(), "Verhuur");
+  EXPECT_TRUE(window_->CloseDossier());
+}
+
+TEST_F(FailureTest, ANewLoanIsAskedForUntilItIsStored) {
+  StaysUntilStored(*window_->Actions().addLening, "Verhuur");
+  EXPECT_EQ(Screen().Shown(), (Place{3, std::nullopt}));
+  EXPECT_EQ(Screen().Dossier().AantalLeningen(), 3);
+}
+
+TEST_F(FailureTest, EscapeLeavesADialogWhoseContentsAreNotStored) {
+  FullDisk disk(file_);
+  dialogs_.Expect([](QWidget&) {
+    Type("Q.");
+    PressKey(Qt::Key_Return);
+  });
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+  dialogs_.Expect(Pressing(Qt::Key_Escape));
+  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  disk.MakeRoom();
+  EXPECT_NE(Screen().Dossier().Personen()[0].Naam[0], "Q.");
+  // The editor shows what is stored as soon as the dialog is gone.
+  QTest::qWait(100);
+  // The work goes on.
+  ASSERT_TRUE(Screen().GoTo({0, 2}));
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(ReadAfterClosing()["0/2/omschrijving"].toString(), "Avondkrant");
+}
+
+/// What has to be mended first is told before a name is typed.
+TEST_F(FailureTest, NoNameOfALoanIsAskedForWhereTheColumnHasToBeMended) {
+  ASSERT_TRUE(Screen().AddKolom());
+  dialogs_.Expect(Pressing(Qt::Key_Return));
+  window_->Actions().addLening->trigger();
+  EXPECT_EQ(Screen().Dossier().AantalLeningen(), 2);
+  Screen().RemoveKolom();
 }
 
 TEST_F(FailureTest, AColumnThatIsNotStoredDoesNotComeIntoTheTree) {

@@ -81,6 +81,26 @@ TEST_F(FilesTest, ANewCaseAsksForTheApplicantAndThePlace) {
   EXPECT_EQ(personen[0].Geboortedatum, frame::MakeDate({.year = 1985, .month = 4, .day = 1}));
 }
 
+TEST_F(FilesTest, WhoChoosesNoPlaceForANewCaseFindsWhatWasTypedAsItWas) {
+  dialogs_.Expect([](QWidget&) {
+    TabTo("Aanvrager, Achternaam");
+    Type("Bakker");
+    TabTo("Aanvrager, Geboortedatum");
+    Type("1-4-1985");
+    PressKey(Qt::Key_Return);
+    PressKey(Qt::Key_Return);
+  });
+  dialogs_.Expect(Pressing(Qt::Key_Escape));
+  dialogs_.Expect([](QWidget& question) {
+    TabTo("Aanvrager, Achternaam");
+    const auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    EXPECT_TRUE(box && box->text() == "Bakker");
+    QTest::keyClick(question.windowHandle(), Qt::Key_Escape);
+  });
+  PressKey(Qt::Key_N, Qt::ControlModifier);
+  EXPECT_TRUE(OnStartPage());
+}
+
 TEST_F(FilesTest, ANewCaseReplacesNoFile) {
   dialogs_.ExpectMessage("staat al een bestand \"test.dossier\"", Pressing(Qt::Key_Return));
   EXPECT_FALSE(window_->Make(file_, dossier::LeegDossier()));

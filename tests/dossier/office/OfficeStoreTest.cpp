@@ -27,6 +27,28 @@ TEST(OfficeStoreTest, WhatIsStoredIsThereForTheNextOne) {
   EXPECT_EQ(again->Dossier()->FindKolom(0, 1)->Looptijd(), 10);
 }
 
+TEST(OfficeStoreTest, EveryLetterOfATextArrivesAndGoesBack) {
+  const TrialOffice office;
+  const int client = office.Add();
+  const std::string texts[] = {"\"",       "\\",    "\\\"",       "{a,\"b\"}", "(1,,\"\")", "NULL",
+                               "it's",     "",      " ",          "a\tb\nc",   "\x01\x7f",  std::string("a\0b", 3),
+                               "\xff\xc3", "Zoë 😀", "$1 :name ?", "\\x00",     "E'\\'"};
+  DossierGegevens before;
+  {
+    const auto store = office.Open(client);
+    before = store->Dossier()->Gegevens();
+    for (const std::string& text : texts) {
+      store->Dossier()->FindKolom(0, 1)->SetOmschrijving(text);
+      // Another session has read it from the office.
+      EXPECT_EQ(office.Open(client, "bert")->Dossier()->FindKolom(0, 1)->Omschrijving(), text);
+    }
+  }
+  const auto store = office.Open(client);
+  for (std::size_t n = 0; n < std::size(texts); ++n) ASSERT_TRUE(store->Take(StepKind::Undo)) << n;
+  EXPECT_FALSE(store->Take(StepKind::Undo));
+  EXPECT_EQ(office.Open(client, "bert")->Dossier()->Gegevens(), before);
+}
+
 TEST(OfficeStoreTest, TheWayBackAndTheHistoryOutliveTheProgram) {
   const TrialOffice office;
   const int client = office.Add();

@@ -6,6 +6,7 @@
 #include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeError.h"
 #include "dossier/office/OfficeText.h"
+#include "dossier/office/RowText.h"
 #include "dossier/office/RowsJson.h"
 
 namespace brivane::dossier {
@@ -56,6 +57,27 @@ TEST(OfficeTextTest, ValuesAreWrittenToTheBit) {
   EXPECT_EQ(JsonValue(Stored()), "null");
   EXPECT_EQ(JsonValue(std::string("a\"\\\n\x01")), "\"a\\\"\\\\\\u000a\\u0001\"");
   EXPECT_EQ(JsonBytes(std::string("\x00\xff", 2)), "\"\\\\x00ff\"");
+}
+
+TEST(OfficeTextTest, ARowIsWrittenAsItsType) {
+  static constexpr TableColumn kColumns[] = {
+      {"a", Opslag::Integer}, {"b", Opslag::Real}, {"c", Opslag::Text}, {"d", Opslag::Text}};
+  const ClientTable table{"t", kColumns, 2};
+  // Between two commas stands nothing, between two quotes a text without letters. The last two fields hold their bytes.
+  const Row row = {std::int64_t{-5}, -0.0, std::string(), Stored(), std::string("z"), Stored()};
+  EXPECT_EQ(RowText(table, row), R"x((-5,-0,"",,"\\x7401000000000000007a",))x");
+  EXPECT_EQ(RowText(table, {std::int64_t{1}, 0.1, std::string("a\"\\,()"), Stored()}), R"x((1,0.1,"a\"\\,()",))x");
+  ListText list;
+  EXPECT_TRUE(list.IsEmpty());
+  list.Add(table, row);
+  list.Add(table, {Stored(), 1.0 / 3, std::string("a\"\\"), Stored()});
+  // Within the list each quote and stroke of a row is marked.
+  EXPECT_EQ(list.Text(),
+            R"x({"(-5,-0,\"\",,\"\\\\x7401000000000000007a\",)","(,0.3333333333333333,\"a\\\"\\\\\",)"})x");
+  ListText keys;
+  keys.Add(7);
+  keys.Add(-1);
+  EXPECT_EQ(keys.Text(), "{7,-1}");
 }
 
 TEST(OfficeTextTest, WhatIsTypedIsLookedForByWords) {

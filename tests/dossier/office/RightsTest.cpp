@@ -93,8 +93,9 @@ TEST_F(RightsTest, TheInnerFunctionsAreTheOwnersAlone) {
     for (const QString& call :
          {QString("kantoor.schrijf_rijen(%1, '{}')"), QString("kantoor.meld(%1, 'x')"),
           QString("kantoor.slot_van_toevoeging(gen_random_uuid())"), QString("kantoor.sloten()"),
-          QString("kantoor.moet_zichtbaar_zijn(%1)"), QString("kantoor.moet_adviseur_zijn()"),
-          QString("kantoor.geef_aan_team(%1, 2)"), QString("kantoor.verwijder(%1)"), QString("kantoor.eigen_naam()")}) {
+          QString("kantoor.moet_houder_zijn(%1, gen_random_uuid())"), QString("kantoor.moet_zichtbaar_zijn(%1)"),
+          QString("kantoor.moet_adviseur_zijn()"), QString("kantoor.geef_aan_team(%1, 2)"),
+          QString("kantoor.verwijder(%1)"), QString("kantoor.eigen_naam()")}) {
       ExpectRefused(account, "SELECT " + (call.contains('%') ? call.arg(N()) : call), "permission denied");
     }
   }
