@@ -6,7 +6,7 @@ namespace brivane::dossier {
 // current situation, 1 and up those of the new one. `volgorde` orders a loan's columns; period entries stand in the
 // order of their keys. The columns of a case are those of a loan file, behind the number of the client.
 //
-// A client is never removed and keeps its number (SchemaRights.cpp). So the tables that each edit writes to do not
+// A client keeps its number, and is not removed but by `verwijder`, which takes all of it (SchemaRights.cpp). So the tables that each edit writes to do not
 // refer to it: a column has its loan and a period its column, which do, and the history is written by functions that
 // have changed the row of the client before. Each reference would be looked up again at each row of an edit.
 //
