@@ -1,6 +1,7 @@
 #include "bench/office/Adviser.h"
 
 #include <QEventLoop>
+#include <QSqlError>
 #include <QTimer>
 #include <cstdio>
 #include <ctime>
@@ -32,10 +33,10 @@ template <class Body> std::int64_t Took(Body&& body) {
   return Now() - start;
 }
 
-/// What this thread computed so far, in microseconds.
+/// What this process computed so far, in microseconds: a session has a thread of its own.
 std::int64_t Computed() {
   timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
   return std::int64_t{time.tv_sec} * 1'000'000 + time.tv_nsec / 1000;
 }
 
@@ -62,11 +63,14 @@ Adviser::Adviser(Workplace place)
       words_(QString::fromStdString(place_.words) + QString(" user=adviseur_%1").arg(place_.who)),
       chance_(static_cast<unsigned>(place_.who)),
       office_(std::make_shared<dossier::OfficeConnection>(words_)),
-      plain_(std::make_unique<dossier::OfficeConnection>(words_)),
+      plain_(QSqlDatabase::addDatabase("QPSQL", "plain")),
       row_(place_.first + place_.who),
       number_(place_.number) {
   office_->OpenOffice();
-  plain_->Open();
+  plain_.setConnectOptions(words_);
+  if (!plain_.open()) std::cout << "failed to connect: " << plain_.lastError().text().toStdString() << '\n';
+  update_ = std::make_unique<QSqlQuery>(plain_);
+  update_->prepare("UPDATE los SET bedrag = ? WHERE client = ?");
 }
 
 Adviser::~Adviser() { LetGo(); }
@@ -100,7 +104,9 @@ void Adviser::Work() {
 
 void Adviser::UpdateRow() {
   if (number_ % kEditsInAClient == 0) row_ = AnyClient();
-  plain_->Run(QStringLiteral("UPDATE los SET bedrag = ? WHERE client = ?"), {++number_ + 0.25, row_});
+  update_->addBindValue(++number_ + 0.25);
+  update_->addBindValue(row_);
+  if (!update_->exec()) std::cout << "failed update: " << update_->lastError().text().toStdString() << '\n';
 }
 
 int Adviser::AnyClient() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QEventLoop>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QString>
 #include <cstdint>
 #include <memory>
@@ -60,7 +62,8 @@ class Adviser {
   QString words_;
   std::mt19937 chance_;
   std::shared_ptr<dossier::OfficeConnection> office_;
-  std::unique_ptr<dossier::OfficeConnection> plain_;
+  QSqlDatabase plain_;  ///< a connection as anybody makes one
+  std::unique_ptr<QSqlQuery> update_;
   std::unique_ptr<dossier::OfficeStore> store_;
   std::unique_ptr<dossier::Desk> desk_;
   host::Subscriptions subscriptions_;
