@@ -6,11 +6,18 @@ namespace {
 using State = dossier::ClientSession::State;
 
 BarWords OfBroken(const BarFacts& facts) {
-  QString text = QStringLiteral("Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht");
+  QString text = QStringLiteral("Geen verbinding met het kantoor");
+  if (facts.barred) {
+    text += QStringLiteral(": het neemt uw wachtwoord niet meer aan.");
+    if (facts.unknown) text += QStringLiteral(" Na het verbinden blijkt ook of de laatste wijziging is opgeslagen.");
+    return {.text = text, .reconnect = true};
+  }
+  if (!facts.said.isEmpty()) text += QStringLiteral(" (het meldt: %1)").arg(facts.said);
+  text += QStringLiteral(". Er wordt vanzelf opnieuw verbinding gezocht");
   if (facts.tries > 0) text += QStringLiteral(" (poging %1)").arg(facts.tries + 1);
   text += u'.';
   if (facts.unknown) text += QStringLiteral(" Dan blijkt ook of de laatste wijziging is opgeslagen.");
-  return {.text = text};
+  return {.text = text, .reconnect = true};
 }
 
 BarWords OfReading(const BarFacts& facts) {

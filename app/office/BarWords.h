@@ -16,6 +16,8 @@ struct BarFacts {
   QString asker{};       ///< who asks for it; empty for nobody
   int tries = 0;         ///< to reach the office
   bool unknown = false;  ///< the outcome of an edit is not known
+  bool barred = false;   ///< the office does not take the password any more
+  QString said{};        ///< why the office itself lets nobody in; empty where it says nothing
   QString unreadable{};  ///< why what is stored cannot be read; empty where it can
 };
 
@@ -24,6 +26,7 @@ struct BarWords {
   bool ask = false;
   bool takeOver = false;
   bool handOver = false;
+  bool reconnect = false;
 
   friend bool operator==(const BarWords&, const BarWords&) = default;
 };

@@ -6,8 +6,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <iterator>
 
 #include "app/desk/Messages.h"
 #include "app/office/OfficeWords.h"
@@ -22,16 +20,6 @@ namespace {
 constexpr int kCharacters = 56;
 
 QString Title() { return QStringLiteral("Kantoor openen"); }
-
-/// The words by which libpq or a server asks for a password, or refuses one, in the languages that it speaks here.
-constexpr const char* kPasswordWords[] = {"password", "wachtwoord", "passwort", "mot de passe"};
-
-/// Nothing where it was put away.
-std::optional<QString> AskPassword(QWidget* above, const QString& words, PasswordDialog::Because because) {
-  PasswordDialog question(words, because, above);
-  if (question.exec() != QDialog::Accepted) return std::nullopt;
-  return question.Typed();
-}
 
 /// Asks for words until there are some that lead somewhere.
 class OfficeDialog final : public PassingDialog {
@@ -91,15 +79,6 @@ class OfficeDialog final : public PassingDialog {
 
 }  // namespace
 
-bool WantsPassword(const dossier::OfficeError& error) {
-  if (error.Problem() == dossier::OfficeProblem::NotAdmitted) return true;
-  // A session that never began has no code.
-  const QString said = QString::fromUtf8(error.what());
-  return error.Problem() == dossier::OfficeProblem::Unreachable &&
-         std::any_of(std::begin(kPasswordWords), std::end(kPasswordWords),
-                     [&](const char* word) { return said.contains(QLatin1String(word), Qt::CaseInsensitive); });
-}
-
 std::optional<Entrance> EnterOffice(QWidget* above, const QString& words, QString password) {
   if (const QString fault = FaultText(FaultOf(words)); !fault.isEmpty()) {
     ShowMessage(above, Title(), fault);
@@ -120,7 +99,7 @@ std::optional<Entrance> EnterOffice(QWidget* above, const QString& words, QStrin
         failure = error;
       }
     }
-    if (!WantsPassword(*failure)) {
+    if (!failure->WantsPassword()) {
       ShowMessage(above, Title(), failure->Melding());
       return std::nullopt;
     }

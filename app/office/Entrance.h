@@ -26,7 +26,4 @@ struct Entrance {
 /// Asks which office, those of late first, and enters it.
 [[nodiscard]] std::optional<Entrance> AskOffice(QWidget* above);
 
-/// Whether a server lets nobody in without a password, or not with this one.
-[[nodiscard]] bool WantsPassword(const dossier::OfficeError& error);
-
 }  // namespace brivane::app

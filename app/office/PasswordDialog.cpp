@@ -24,6 +24,16 @@ QString Question(const QString& words) {
                    .arg(office, account);
 }
 
+QString Reason(PasswordDialog::Because because) {
+  switch (because) {
+    case PasswordDialog::Because::Wanted: break;
+    case PasswordDialog::Because::Wrong: return QStringLiteral("Dit wachtwoord is niet goed. Probeer het opnieuw.");
+    case PasswordDialog::Because::Outdated:
+      return QStringLiteral("De verbinding is verbroken, en het kantoor neemt het eerdere wachtwoord niet meer aan.");
+  }
+  return {};
+}
+
 }  // namespace
 
 PasswordDialog::PasswordDialog(const QString& words, Because because, QWidget* above)
@@ -39,11 +49,9 @@ PasswordDialog::PasswordDialog(const QString& words, Because because, QWidget* a
   qt::TypesNothingWithAlt(*box_);
   auto* label = new QLabel(QStringLiteral("&Wachtwoord"));
   label->setBuddy(box_);
-  const bool wrong = because == Because::Wrong;
-  auto* reason =
-      new SpokenLabel(wrong ? QStringLiteral("Dit wachtwoord is niet goed. Probeer het opnieuw.") : QString());
+  auto* reason = new SpokenLabel(Reason(because));
   reason->setObjectName(QStringLiteral("reden"));
-  reason->setVisible(wrong);
+  reason->setVisible(because != Because::Wanted);
   box_->setAccessibleDescription((reason->text() + u' ' + question->text()).trimmed());
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -63,5 +71,11 @@ PasswordDialog::PasswordDialog(const QString& words, Because because, QWidget* a
 }
 
 QString PasswordDialog::Typed() const { return box_->text(); }
+
+std::optional<QString> AskPassword(QWidget* above, const QString& words, PasswordDialog::Because because) {
+  PasswordDialog question(words, because, above);
+  if (question.exec() != QDialog::Accepted) return std::nullopt;
+  return question.Typed();
+}
 
 }  // namespace brivane::app

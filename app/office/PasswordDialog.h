@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "app/desk/PassingDialog.h"
 
@@ -13,7 +14,11 @@ namespace brivane::app {
 class PasswordDialog final : public PassingDialog {
  public:
   /// Why it is asked for.
-  enum class Because { Wanted, Wrong };
+  enum class Because {
+    Wanted,
+    Wrong,
+    Outdated  ///< the one that was given before was good then
+  };
 
   PasswordDialog(const QString& words, Because because, QWidget* above);
 
@@ -22,5 +27,8 @@ class PasswordDialog final : public PassingDialog {
  private:
   QLineEdit* box_;
 };
+
+/// Asks; nothing where it was put away.
+[[nodiscard]] std::optional<QString> AskPassword(QWidget* above, const QString& words, PasswordDialog::Because because);
 
 }  // namespace brivane::app

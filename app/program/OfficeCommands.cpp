@@ -25,7 +25,7 @@ int InOffice(const QString& words, const std::function<void(dossier::OfficeConne
       task(office);
       return 0;
     } catch (const dossier::OfficeError& error) {
-      if (!WantsPassword(error) || !password.isEmpty() || isatty(STDIN_FILENO) == 0) {
+      if (!error.WantsPassword() || !password.isEmpty() || isatty(STDIN_FILENO) == 0) {
         std::fprintf(stderr, "dossier: %s\n", qUtf8Printable(QString::fromUtf8(error.what()).simplified()));
         return kNotDone;
       }

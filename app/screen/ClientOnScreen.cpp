@@ -12,6 +12,7 @@
 #include "app/screen/FilledIn.h"
 #include "app/screen/Greying.h"
 #include "dossier/store/StoreErrors.h"
+#include <brivane/toolkits/qt/widgets/EntryBox.h>
 
 namespace brivane::app {
 namespace {
@@ -36,7 +37,7 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
       actions_(actions),
       eventLog_(eventLog),
       window_(std::move(window)),
-      bar_(new ClientBar({actions.ask, actions.takeOver, actions.handOver})),
+      bar_(new ClientBar({actions.ask, actions.takeOver, actions.handOver, actions.reconnect})),
       typed_(screen.Kolom().Editor()),
       state_(store.Now()) {
   subscriptions_ += store_.Changed.Connect([this] { OnChanged(); });
@@ -60,7 +61,10 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
   };
   bar_->thrownAway = [this] { ForgetUnstored(); };
   // How often it was tried is told by nobody.
-  connect(&look_, &QTimer::timeout, this, &ClientOnScreen::Refresh);
+  connect(&look_, &QTimer::timeout, this, [this] {
+    Refresh();
+    AskWhenQuiet();
+  });
   look_.start(kLook);
   Refresh();
 }
@@ -77,6 +81,8 @@ BarFacts ClientOnScreen::Facts() const {
           .asker = asker_,
           .tries = store_.Tries(),
           .unknown = unknown_,
+          .barred = store_.WantsPassword(),
+          .said = store_.LastFailure() ? store_.LastFailure()->SaidByServer() : QString(),
           .unreadable = store_.Unreadable() ? QString::fromStdString(store_.Unreadable()->Oorzaak()) : QString()};
 }
 
@@ -86,6 +92,7 @@ void ClientOnScreen::UpdateActions() {
   SetGrey(*actions_.ask, words.ask ? QString() : not_now);
   SetGrey(*actions_.takeOver, words.takeOver ? QString() : not_now);
   SetGrey(*actions_.handOver, words.handOver ? QString() : not_now);
+  SetGrey(*actions_.reconnect, words.reconnect ? QString() : QStringLiteral("De verbinding is er."));
 }
 
 void ClientOnScreen::Refresh() {
@@ -131,6 +138,10 @@ void ClientOnScreen::OnChanged() {
     } else if (state_ == State::Editing && readable) {
       Notice({});
       window_.tell(QStringLiteral("U kunt dit dossier nu bewerken."));
+    }
+    if (before == State::Broken) {
+      if (password_) window_.admittedBy(*std::exchange(password_, std::nullopt));
+      putAway_ = false;
     }
   }
   if (before != state_ || wasReadable != readable) {
@@ -258,6 +269,37 @@ void ClientOnScreen::TakeOver() {
   Try([this] {
     if (!store_.TakeOver()) window_.tell(QStringLiteral("%1 was u voor.").arg(store_.HeldBy().naam));
   });
+}
+
+void ClientOnScreen::Reconnect() {
+  if (store_.Now() != State::Broken) return;
+  if (store_.WantsPassword()) return AskPassword();
+  store_.ReconnectNow();
+}
+
+void ClientOnScreen::AskWhenQuiet() {
+  if (putAway_ || !store_.WantsPassword()) return;
+  // What is being typed would go on in the question.
+  if (QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) return;
+  if (!qt::EntryBox::AllPendingWithin(screen_.Kolom().Editor()).empty()) return;
+  AskPassword();
+}
+
+void ClientOnScreen::AskPassword() {
+  if (asking_) return;
+  asking_ = true;
+  const QPointer<ClientOnScreen> self(this);
+  const std::optional<QString> given =
+      window_.askPassword(password_ ? PasswordDialog::Because::Wrong : PasswordDialog::Because::Outdated);
+  // The program may have ended meanwhile.
+  if (!self) return;
+  asking_ = false;
+  putAway_ = !given;
+  if (given) {
+    password_ = given;
+    store_.ReconnectNow(given);
+  }
+  Refresh();
 }
 
 void ClientOnScreen::HandOver() {

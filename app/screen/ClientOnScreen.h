@@ -11,6 +11,7 @@
 #include "app/office/BarWords.h"
 #include "app/office/ClientBar.h"
 #include "app/office/LastTyped.h"
+#include "app/office/PasswordDialog.h"
 #include "app/screen/DossierScreen.h"
 #include "app/screen/OfficeActions.h"
 #include "dossier/office/OfficeStore.h"
@@ -26,6 +27,10 @@ class ClientOnScreen final : public QObject {
     std::function<void(const QString&)> tell;
     std::function<UnfinishedText()> here;
     std::function<bool(const UnfinishedText&)> goOn;
+    /// Nothing where the question was put away.
+    std::function<std::optional<QString>(PasswordDialog::Because)> askPassword;
+    /// The office let this password in.
+    std::function<void(const QString&)> admittedBy;
   };
 
   /// Everything handed over outlives this object, the screen as what stores it too.
@@ -38,6 +43,7 @@ class ClientOnScreen final : public QObject {
   void Ask();
   void TakeOver();
   void HandOver();
+  void Reconnect();
   /// Which of them can be done now.
   void UpdateActions();
 
@@ -55,6 +61,9 @@ class ClientOnScreen final : public QObject {
   void ForgetUnstored();
   void PutBack();
   void Notice(const QString& text);
+  /// Asks for the password that the office wants, unless somebody is at something.
+  void AskWhenQuiet();
+  void AskPassword();
   template <class Task> void Try(Task&& task);
 
   DossierScreen& screen_;
@@ -70,6 +79,9 @@ class ClientOnScreen final : public QObject {
   bool asked_ = false;
   bool lettingGo_ = false;
   bool unknown_ = false;
+  bool asking_ = false;              ///< for a password
+  bool putAway_ = false;             ///< the question for one, since the connection broke
+  std::optional<QString> password_;  ///< that was given since then
   bool readable_ = true;
   bool settled_ = false;  ///< what became of an edit was told since the connection broke
   QString asker_;

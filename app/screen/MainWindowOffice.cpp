@@ -11,6 +11,7 @@
 #include "app/office/ClientListDialog.h"
 #include "app/office/OfficeWords.h"
 #include "app/office/TeamDialog.h"
+#include "app/office/WaitNotice.h"
 #include "app/screen/Greying.h"
 #include "app/screen/MainWindow.h"
 #include "dossier/office/Office.h"
@@ -41,6 +42,7 @@ bool MakeFileOf(dossier::DossierStore& client, const QString& file) {
 }  // namespace
 
 void MainWindow::ConnectOffice() {
+  WaitNotice::Install();
   const auto on = [this](QAction* action, auto task) { connect(action, &QAction::triggered, this, task); };
   on(actions_.office.open, [this] {
     if (screen_ && !screen_->MayLeave()) return;
@@ -51,6 +53,7 @@ void MainWindow::ConnectOffice() {
   on(actions_.office.ask, [this] { client_->Ask(); });
   on(actions_.office.takeOver, [this] { client_->TakeOver(); });
   on(actions_.office.handOver, [this] { client_->HandOver(); });
+  on(actions_.office.reconnect, [this] { client_->Reconnect(); });
 }
 
 bool MainWindow::IsInOffice(const QString& words) {
@@ -108,7 +111,9 @@ void MainWindow::FollowClient() {
       ClientOnScreen::Window{.changed = [this] { UpdateActions(); },
                              .tell = [this](const QString& text) { statusBar()->showMessage(text, kTold); },
                              .here = [this] { return Here(); },
-                             .goOn = [this](const UnfinishedText& text) { return GoOnWith(text); }});
+                             .goOn = [this](const UnfinishedText& text) { return GoOnWith(text); },
+                             .askPassword = [this](auto because) { return AskPassword(this, address_.words, because); },
+                             .admittedBy = [this](const QString& password) { entrance_->password = password; }});
   page_ = new QWidget;
   auto* layout = new QVBoxLayout(page_);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -131,7 +136,7 @@ void MainWindow::UpdateOffice(const QString& noFile) {
   SetGrey(*actions_.author, client_ ? QStringLiteral("In een kantoor staat uw naam vast.") : QString());
   if (client_) return client_->UpdateActions();
   const QString none = QStringLiteral("Open eerst een cliënt van een kantoor.");
-  for (QAction* action : {office.ask, office.takeOver, office.handOver}) SetGrey(*action, none);
+  for (QAction* action : {office.ask, office.takeOver, office.handOver, office.reconnect}) SetGrey(*action, none);
 }
 
 void MainWindow::BringToOffice() {

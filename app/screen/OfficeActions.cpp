@@ -22,13 +22,14 @@ OfficeActions::OfficeActions(QMainWindow& window)
       toFile(MakeOfficeAction(window, "Als &bestand bewaren…")),
       ask(MakeOfficeAction(window, "&Vragen")),
       takeOver(MakeOfficeAction(window, "&Overnemen")),
-      handOver(MakeOfficeAction(window, "Over&dragen")) {
+      handOver(MakeOfficeAction(window, "Over&dragen")),
+      reconnect(MakeOfficeAction(window, "Opnieuw v&erbinden")) {
   menu->setToolTipsVisible(true);
   menu->addAction(open);
   menu->addSeparator();
   menu->addActions({toOffice, toFile});
   menu->addSeparator();
-  menu->addActions({ask, takeOver, handOver});
+  menu->addActions({ask, takeOver, handOver, reconnect});
 }
 
 }  // namespace brivane::app

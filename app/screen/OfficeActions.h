@@ -19,6 +19,7 @@ struct OfficeActions {
   QAction* ask;
   QAction* takeOver;
   QAction* handOver;
+  QAction* reconnect;
 };
 
 }  // namespace brivane::app

@@ -1,5 +1,4 @@
 #include <QCoreApplication>
-#include <QLoggingCategory>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <cstdio>
@@ -229,8 +228,6 @@ int main(int argc, char** argv) {
                     std::chrono::microseconds(given.value(3).toInt()));
   }
   if (given.value(0) == "adviser") {
-    // Who leaves a client hears of it once more, and Qt warns.
-    QLoggingCategory::setFilterRules("default.warning=false");
     Adviser({.who = given.value(1).toInt(),
              .number = given.value(2).toInt(),
              .first = given.value(3).toInt(),

@@ -19,6 +19,9 @@ constexpr double kWholeFrom = 9007199254740992.0;  // 2^53: from here on every n
 constexpr int kMantissa = std::numeric_limits<double>::digits;
 constexpr int kLeast = std::numeric_limits<double>::min_exponent - kMantissa;  ///< the least number is 2 to this power
 
+/// A double holds every whole number of so many digits as it is.
+constexpr std::size_t kHeld = std::numeric_limits<double>::digits10;
+
 /// Powers of ten that a double holds as they are.
 constexpr auto kTens = [] {
   std::array<double, 23> tens{1};
@@ -80,12 +83,6 @@ class Whole {
     if (!parts_.empty())
       for (std::uint32_t top = parts_.back(); top < std::uint32_t{1} << (kPart - 1); top <<= 1) --bits;
     return bits;
-  }
-  [[nodiscard]] std::uint64_t Low() const {
-    std::uint64_t low = 0;
-    for (std::size_t i = 0; i < std::min<std::size_t>(parts_.size(), 2); ++i)
-      low |= std::uint64_t{parts_[i]} << (static_cast<int>(i) * kPart);
-    return low;
   }
   friend std::strong_ordering operator<=>(const Whole& one, const Whole& other) {
     if (one.parts_.size() != other.parts_.size()) return one.parts_.size() <=> other.parts_.size();
@@ -199,10 +196,15 @@ double NearestDoubleByHand(std::string_view digits) {
   if (point != std::string_view::npos) all += digits.substr(point + 1);
   std::size_t decimals = all.size() - std::min(point, all.size());
   for (; decimals > 0 && all.back() == '0'; --decimals) all.pop_back();
+  // As most are: of two numbers that a double holds as they are, the quotient is the nearest.
+  if (all.size() <= kHeld && decimals < kTens.size()) {
+    std::uint64_t held = 0;
+    for (const char digit : all) held = held * 10 + static_cast<std::uint64_t>(digit - '0');
+    return static_cast<double>(held) / kTens[decimals];
+  }
   Whole number(0);
   for (const char digit : all) number.MultiplyAndAdd(10, static_cast<std::uint64_t>(digit - '0'));
   if (number.IsZero()) return 0;
-  if (number.Bits() <= kMantissa && decimals < kTens.size()) return static_cast<double>(number.Low()) / kTens[decimals];
   Whole divisor(1);
   divisor.MultiplyByTens(decimals);
   return Nearest(std::move(number), std::move(divisor));

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include <brivane/frame/Doubles.h>
@@ -134,9 +136,30 @@ Reading<double> Read(std::string_view text, const Style& style) {
   return parts.negative && value != 0 ? -value : value;
 }
 
+/// A number with so many decimals, rounded, as a whole one; nothing where it is so near halfway between two of them, or
+/// so large, that only its shortest text tells which it is.
+std::optional<std::uint64_t> FarFromHalfway(double number, std::size_t decimals) {
+  // Below the largest, a product and that text stand closer together than what is near.
+  constexpr double kLargest = 1e12;
+  constexpr double kDoubtful = 1e-3;
+  double unit = 1;
+  for (std::size_t i = 0; i < decimals; ++i) unit *= 10;
+  const double scaled = number * unit;
+  if (!(scaled < kLargest)) return std::nullopt;
+  const double whole = std::floor(scaled);
+  const double rest = scaled - whole;
+  if (std::abs(rest - 0.5) < kDoubtful) return std::nullopt;
+  return static_cast<std::uint64_t>(whole) + (rest > 0.5 ? 1 : 0);
+}
+
 /// Decimal digits of a number rounded to so many decimals, halves away from zero as they read in the
-/// shortest text of the number; empty where the number is not finite.
+/// shortest text of the number; the number is finite.
 std::string Rounded(double number, std::size_t decimals) {
+  if (const auto whole = FarFromHalfway(std::abs(number), decimals)) {
+    std::string digits = std::to_string(*whole);
+    if (digits.size() <= decimals) digits.insert(0, decimals + 1 - digits.size(), '0');
+    return digits;
+  }
   std::string text = ShortestDigits(std::abs(number));
   std::size_t point = text.find('.');
   if (point == std::string::npos) {

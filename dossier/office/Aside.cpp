@@ -1,16 +1,19 @@
 #include "dossier/office/Aside.h"
 
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QEventLoop>
 #include <QObject>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
-#include <thread>
+#include <optional>
 #include <utility>
 
 namespace brivane::dossier {
 namespace {
 
-/// The threads of all objects, and a word when one has ended.
+/// The threads whose objects are gone, and a word when one has ended.
 struct Count {
   std::mutex guard;
   std::condition_variable ended;
@@ -31,15 +34,29 @@ struct Aside::Shared {
   std::deque<std::function<Rest()>> tasks;
   std::deque<Rest> rests;
   bool busy = false;
-  bool left = false;  ///< the object is gone
+  bool left = false;   ///< the object is gone
+  bool ended = false;  ///< the thread is
+  /// What the thread sleeps in while it has an event loop.
+  QAbstractEventDispatcher* sleeps = nullptr;
   /// Hears that there is a rest. Used under the guard, and gone with the object.
   std::unique_ptr<QObject> here = std::make_unique<QObject>();
 
   void Work(const std::shared_ptr<Shared>& self) {
+    std::optional<QEventLoop> loop;
+    if (QCoreApplication::instance() != nullptr) loop.emplace();
     std::unique_lock lock(guard);
+    if (loop) sleeps = QAbstractEventDispatcher::instance();
     for (;;) {
-      changed.wait(lock, [this] { return left || !tasks.empty(); });
-      if (tasks.empty()) return;
+      while (!left && tasks.empty()) {
+        if (!loop) {
+          changed.wait(lock);
+          continue;
+        }
+        lock.unlock();
+        loop->processEvents(QEventLoop::WaitForMoreEvents);
+        lock.lock();
+      }
+      if (tasks.empty()) break;
       busy = true;
       Rest rest = [&] {
         const auto task = std::move(tasks.front());
@@ -50,13 +67,41 @@ struct Aside::Shared {
       }();
       lock.lock();
       busy = false;
-      if (here) {
-        rests.push_back(std::move(rest));
-        QMetaObject::invokeMethod(
-            here.get(), [self] { self->Tell(); }, Qt::QueuedConnection);
-      }
+      if (rest) Tell(self, std::move(rest));
       changed.notify_all();
     }
+    sleeps = nullptr;
+    lock.unlock();
+    if (loop) QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  /// Under the guard.
+  void Tell(const std::shared_ptr<Shared>& self, Rest rest) {
+    if (!here) return;
+    rests.push_back(std::move(rest));
+    QMetaObject::invokeMethod(
+        here.get(), [self] { self->Tell(); }, Qt::QueuedConnection);
+  }
+
+  /// Under the guard.
+  void Wake() {
+    changed.notify_all();
+    if (sleeps != nullptr) sleeps->wakeUp();
+  }
+
+  /// Nothing is told here any more, and the thread ends after its tasks.
+  void Leave() {
+    std::unique_ptr<QObject> last;
+    const std::lock_guard lock(guard);
+    if (left) return;
+    {
+      const std::lock_guard all(Threads().guard);
+      ++Threads().threads;
+    }
+    last = std::move(here);
+    rests.clear();
+    left = true;
+    Wake();
   }
 
   void Tell() {
@@ -74,34 +119,46 @@ struct Aside::Shared {
 };
 
 Aside::Aside() : shared_(std::make_shared<Shared>()) {
-  {
-    const std::lock_guard lock(Threads().guard);
-    ++Threads().threads;
-  }
-  std::thread([shared = shared_]() mutable {
+  thread_ = std::thread([shared = shared_]() mutable {
     shared->Work(shared);
+    {
+      const std::lock_guard lock(shared->guard);
+      shared->ended = true;
+      shared->changed.notify_all();
+    }
     shared.reset();
     const std::lock_guard lock(Threads().guard);
     --Threads().threads;
     Threads().ended.notify_all();
-  }).detach();
+  });
 }
 
 Aside::~Aside() {
-  std::unique_ptr<QObject> here;
-  {
-    const std::lock_guard lock(shared_->guard);
-    here = std::move(shared_->here);
-    shared_->rests.clear();
-    shared_->left = true;
-    shared_->changed.notify_all();
-  }
+  shared_->Leave();
+  if (thread_.joinable()) thread_.detach();
 }
 
 void Aside::Run(std::function<Rest()> task) {
   const std::lock_guard lock(shared_->guard);
   shared_->tasks.push_back(std::move(task));
-  shared_->changed.notify_all();
+  shared_->Wake();
+}
+
+std::function<void(Aside::Rest)> Aside::Teller() const {
+  return [shared = shared_](Rest rest) {
+    const std::lock_guard lock(shared->guard);
+    shared->Tell(shared, std::move(rest));
+  };
+}
+
+bool Aside::End(std::chrono::milliseconds longest) {
+  shared_->Leave();
+  {
+    std::unique_lock lock(shared_->guard);
+    if (!shared_->changed.wait_for(lock, longest, [this] { return shared_->ended; })) return false;
+  }
+  if (thread_.joinable()) thread_.join();
+  return true;
 }
 
 bool Aside::Settle(std::chrono::milliseconds longest) {

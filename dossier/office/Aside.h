@@ -3,11 +3,13 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <thread>
 
 namespace brivane::dossier {
 
 /// A thread of its own for what waits for a server. Tasks run there one after the other, and what each answers runs on
-/// the thread that made this object, in its event loop.
+/// the thread that made this object, in its event loop. Between tasks what is posted to objects of that thread runs
+/// there, where the program has an event loop.
 ///
 ///     Aside aside;
 ///     aside.Run([] {                        // there
@@ -28,6 +30,11 @@ class Aside {
   ~Aside();
 
   void Run(std::function<Rest()> task);
+  /// For use on the thread there: has something done here, beside what a task answers.
+  [[nodiscard]] std::function<void(Rest)> Teller() const;
+  /// Lets the thread end once its tasks are done, and waits that long at most until it has; answers whether it has.
+  /// Nothing is told here any more, and nothing runs there.
+  bool End(std::chrono::milliseconds longest);
   /// Waits that long at most, and tells here at once what has come of the tasks; answers whether all are done.
   bool Settle(std::chrono::milliseconds longest);
 
@@ -38,6 +45,7 @@ class Aside {
  private:
   struct Shared;
   std::shared_ptr<Shared> shared_;
+  std::thread thread_;
 };
 
 }  // namespace brivane::dossier

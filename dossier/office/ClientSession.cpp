@@ -3,20 +3,18 @@
 #include <QSqlQuery>
 #include <QThread>
 #include <QUuid>
-#include <algorithm>
-#include <map>
-#include <set>
 #include <utility>
 
-#include "dossier/office/FoundBy.h"
+#include "dossier/office/EditText.h"
 #include "dossier/office/Knock.h"
-#include "dossier/office/OfficeTables.h"
-#include "dossier/office/RowsJson.h"
+#include "dossier/store/Rows.h"
 #include "dossier/store/StoreErrors.h"
 #include <brivane/host/Error.h>
 
 namespace brivane::dossier {
 namespace {
+
+using Patience = OfficeConnection::Patience;
 
 constexpr char kBron[] = "Dossier";
 /// How often, and how far apart, it is looked whether a session that was ended is gone.
@@ -37,42 +35,21 @@ bool AnswersSoon(const OfficeConnection& office) {
   return answers;
 }
 
-QString SendSql() { return QStringLiteral("SELECT kantoor.sla_op(?::integer, ?::uuid, ?::uuid, ?::json)"); }
+QString WhoSql() { return QStringLiteral("SELECT houder, sinds, laatste FROM kantoor.wie(?::integer)"); }
 
-/// The first value that a statement answers, which is run for every edit.
-std::int64_t Often(Database& tables, const QString& sql) {
-  QSqlQuery& query = tables.Again(sql);
-  Database::Run(query);
-  const std::int64_t value = query.next() ? query.value(0).toLongLong() : 0;
-  query.finish();
-  return value;
+QString SendSql() {
+  return QStringLiteral(
+      "SELECT kantoor.sla_op(?::integer, ?::uuid, ?::uuid, ?::kantoor.stap_rij, ?::kantoor.wijziging_rij[], "
+      "?::kantoor.naam_rij[], ?::kantoor.vrijekolom_rij[], ?::kantoor.periode_rij[], ?::kantoor.periode_rij[], "
+      "?::bigint[], ?::kantoor.zoek_rij, ?::json)");
 }
 
 std::int64_t NewestStep(Database& tables) {
-  return Often(tables, QStringLiteral("SELECT coalesce(max(nummer), 0) FROM stap"));
-}
-
-std::int64_t NewestName(Database& tables) {
-  return Often(tables, QStringLiteral("SELECT coalesce(max(nummer), 0) FROM naam"));
-}
-
-/// A name and a value of an object.
-std::string Member(std::string_view name, const std::string& value) { return '"' + std::string(name) + "\":" + value; }
-
-std::string Joined(const std::vector<std::string>& members) {
-  std::string text = "{";
-  for (const std::string& one : members) {
-    if (text.size() > 1) text += ',';
-    text += one;
-  }
-  return text + '}';
-}
-
-/// Whether a client may be found by other words after such an entry.
-bool IsFoundBy(Tabel tabel, int field) {
-  if (tabel == Tabel::Persoon) return true;
-  return tabel == Tabel::Kolom &&
-         (field == 0 || TableOf(tabel).columns[static_cast<std::size_t>(field)].kind == Opslag::Text);
+  Rows& rows = tables.RowsAgain(QStringLiteral("SELECT coalesce(max(nummer), 0) FROM stap"));
+  rows.Start({});
+  const std::int64_t newest = rows.Next() ? rows.Whole(0) : 0;
+  rows.Stop();
+  return newest;
 }
 
 }  // namespace
@@ -81,9 +58,11 @@ ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int clien
     : office_(std::move(office)), client_(client), tables_(*office_, client) {
   pid_ = office_->User().pid;
   try {
-    if (office_->User().writes) Take();
-    TakeUp();
+    if (office_->User().writes) TakeLease();
+    // Who reads along is told of everything that was stored after what he read.
+    if (state_ == State::Reading) TakeUp();
     Fill();
+    if (state_ == State::Editing) TakeUp();
   } catch (...) {
     // The lease is the session's, which other clients go on with.
     Leave();
@@ -95,41 +74,44 @@ ClientSession::~ClientSession() { Leave(); }
 
 void ClientSession::Leave() noexcept {
   LetGo();
-  try {
-    if (state_ != State::Broken) {
-      office_->ListenNoMore(Channel());
-      FollowNoMore();
-    }
-  } catch (const OfficeError&) {
-    // The server forgets a session that ended.
-  }
+  if (state_ == State::Broken) return;
+  office_->ListenNoMore(Channel());
+  FollowNoMore();
 }
 
 void ClientSession::Fill() {
   tables_.Fill();
-  names_ = NewestName(tables_.Tables());
   behind_ = false;
 }
 
 void ClientSession::TakeUp() {
   office_->Listen(Channel());
+  // The first edit is one round trip too.
+  if (state_ == State::Editing) office_->Prepare(SendSql());
   if (state_ == State::Reading) Follow();
 }
 
 void ClientSession::Follow() {
-  office_->Run(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
+  office_->Post(QStringLiteral("SELECT kantoor.volg(?::integer)"), {client_});
   follows_ = true;
 }
 
 void ClientSession::FollowNoMore() {
   if (!std::exchange(follows_, false)) return;
-  office_->Run(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
+  office_->Post(QStringLiteral("SELECT kantoor.volg_niet(?::integer)"), {client_});
 }
 
 bool ClientSession::Take() {
   if (state_ == State::Editing) return true;
-  const QSqlQuery& row = office_->Run(
-      QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"), {client_});
+  if (!TakeLease()) return false;
+  office_->Prepare(SendSql());
+  return true;
+}
+
+bool ClientSession::TakeLease() {
+  const OfficeRows row =
+      office_->Run(QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"),
+                   {client_}, Patience::Short);
   token_ = row.value(0).toString();
   behind_ = behind_ || row.value(3).toLongLong() != tables_.LastStep();
   if (token_.isEmpty()) {
@@ -141,24 +123,45 @@ bool ClientSession::Take() {
   pid_ = office_->User().pid;
   since_ = row.value(2).toDateTime();
   FollowNoMore();
-  // The first edit is one round trip too.
-  office_->Prepared(SendSql());
   return true;
 }
 
 bool ClientSession::LookAround() {
-  const QSqlQuery& row =
-      office_->Run(QStringLiteral("SELECT houder, sinds, laatste FROM kantoor.wie(?::integer)"), {client_});
-  if (state_ == State::Reading) holder_ = {row.value(0).toString(), row.value(1).toDateTime()};
-  behind_ = behind_ || row.value(2).toLongLong() != tables_.LastStep();
+  See(office_->Run(WhoSql(), {client_}, Patience::Short));
   return behind_;
+}
+
+void ClientSession::LookAside(std::function<void(OfficeAnswer)> answer) {
+  office_->Ask(WhoSql(), {client_}, std::move(answer));
+}
+
+void ClientSession::Heard(const OfficeAnswer& answer, std::int64_t step) {
+  if (answer.failure) throw OfficeError(*answer.failure);
+  if (step == LastStep()) See(answer.rows);
+}
+
+void ClientSession::See(const OfficeRows& who) {
+  if (state_ == State::Reading) holder_ = {who.value(0).toString(), who.value(1).toDateTime()};
+  behind_ = behind_ || who.value(2).toLongLong() != tables_.LastStep();
+}
+
+void ClientSession::ReadAside(std::function<void(OfficeAnswer)> answer) {
+  office_->Ask(ClientTables::Reading(), {client_, 0}, std::move(answer));
+}
+
+void ClientSession::FillWith(const OfficeAnswer& answer, std::int64_t step) {
+  if (answer.failure) throw OfficeError(*answer.failure);
+  if (step != LastStep()) return;
+  tables_.FillWith(answer.rows);
+  behind_ = false;
 }
 
 void ClientSession::LetGo() noexcept {
   if (state_ != State::Editing) return;
   try {
     state_ = State::Reading;
-    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
+    // The others are told, and the way out is not held up.
+    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_}, Patience::Moment);
     Follow();
   } catch (const OfficeError&) {
     // With the session the lease goes too.
@@ -166,7 +169,9 @@ void ClientSession::LetGo() noexcept {
   token_.clear();
 }
 
-void ClientSession::Ask() { office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}); }
+void ClientSession::Ask() {
+  office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}, Patience::Short);
+}
 
 void ClientSession::Begin() {
   switch (state_) {
@@ -184,84 +189,28 @@ void ClientSession::Begin() {
   }
 }
 
-void ClientSession::Keep(Database& tables) {
-  const std::int64_t step = NewestStep(tables);
-  if (step == tables_.LastStep()) return;
-  const QString payload = QString::fromStdString(Payload(tables, step));
-  const QString edit = QUuid::createUuid().toString(QUuid::WithoutBraces);
-  const std::int64_t time = Send(edit, step, payload);
+void ClientSession::Keep(Database& tables, const KeptEdit& edit) {
+  const auto step = std::get<std::int64_t>(edit.history.step.front());
+  const std::int64_t time = Send(QUuid::createUuid().toString(QUuid::WithoutBraces), step, TextOf(tables, edit));
   // By the server's clock.
-  QSqlQuery& clock = tables.Again(QStringLiteral("UPDATE stap SET tijd = ? WHERE nummer = ?"));
-  clock.bindValue(0, static_cast<qlonglong>(time));
-  clock.bindValue(1, static_cast<qlonglong>(step));
-  Database::Run(clock);
-  clock.finish();
+  tables.RowsAgain(QStringLiteral("UPDATE stap SET tijd = ? WHERE nummer = ?")).Run(Row{time, step});
   tables_.StepStored(step);
-  names_ = NewestName(tables);
 }
 
-std::vector<std::string> ClientSession::Objects(Database& tables, const ClientTable& table, const std::string& where,
-                                                std::initializer_list<std::int64_t> values) {
-  QString& sql = readings_[std::string(table.name) + ' ' + where];
-  if (sql.isEmpty()) sql = Reading(table) + QStringLiteral(" WHERE ") + QString::fromStdString(where);
-  QSqlQuery& query = tables.Again(sql);
-  int place = 0;
-  for (const std::int64_t value : values) query.bindValue(place++, static_cast<qlonglong>(value));
-  Database::Run(query);
-  std::vector<std::string> objects;
-  while (query.next()) objects.push_back(JsonOf(table, ReadRow(query, table)));
-  query.finish();
-  return objects;
+EditText ClientSession::TextOf(Database& tables, const KeptEdit& edit) {
+  const bool found = ChangesWords(edit.rows);
+  return dossier::TextOf(edit, found ? std::optional(words_.Of(tables)) : std::nullopt);
 }
 
-std::string ClientSession::Payload(Database& tables, std::int64_t step) {
-  std::map<Tabel, std::set<Sleutel>> changed;
-  bool found = false;
-  QSqlQuery& entries = tables.Again(QStringLiteral(
-      "SELECT tabel, sleutel, veld FROM wijziging WHERE nummer >= (SELECT eerste FROM stap WHERE nummer = "
-      "?)"));
-  entries.bindValue(0, static_cast<qlonglong>(step));
-  Database::Run(entries);
-  while (entries.next()) {
-    const auto tabel = static_cast<Tabel>(entries.value(0).toInt());
-    changed[tabel].insert(entries.value(1).toLongLong());
-    found = found || IsFoundBy(tabel, entries.value(2).toInt());
-  }
-  entries.finish();
-  std::vector<std::string> members;
-  std::vector<std::string> gone;
-  for (const auto& [tabel, keys] : changed) {
-    const ClientTable table{TableOf(tabel).name, TableOf(tabel).columns};
-    std::vector<std::string> rows;
-    std::vector<std::string> removed;
-    for (const Sleutel key : keys) {
-      const bool two = tabel == Tabel::Voorstel;
-      const Row which = two ? Row{std::int64_t{ProposalOf(key)}, std::int64_t{ItemOf(key)}} : Row{key};
-      std::vector<std::string> row =
-          two ? Objects(tables, table, "voorstel = ? AND vrij_id = ?", {ProposalOf(key), ItemOf(key)})
-              : Objects(tables, table, std::string(table.columns.front().name) + " = ?", {key});
-      if (row.empty())
-        removed.push_back(JsonRow(table.columns, which));
-      else
-        rows.push_back(std::move(row.front()));
-    }
-    if (!rows.empty()) members.push_back(Member(table.name, JsonList(rows)));
-    if (!removed.empty()) gone.push_back(Member(table.name, JsonList(removed)));
-  }
-  if (!gone.empty()) members.push_back(Member("weg", Joined(gone)));
-  members.push_back(Member("stap", Objects(tables, Steps(), "nummer = ?", {step}).front()));
-  members.push_back(Member(
-      "wijziging", JsonList(Objects(tables, Entries(),
-                                    "nummer >= (SELECT eerste FROM stap WHERE nummer = ?) ORDER BY nummer", {step}))));
-  if (const auto names = Objects(tables, Names(), "nummer > ?", {names_}); !names.empty())
-    members.push_back(Member("naam", JsonList(names)));
-  if (found) members.push_back(Member("zoek", JsonOf(FoundByOf(tables))));
-  return Joined(members);
-}
-
-std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const QString& payload) {
+std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const EditText& text) {
   try {
-    return office_->Run(SendSql(), {client_, token_, edit, payload}).value(0).toLongLong();
+    return office_
+        ->Run(SendSql(),
+              {client_, token_, edit, text.step, text.entries, text.names, text.columns, text.periods,
+               text.periods_added, text.periods_removed, text.found, text.rest},
+              Patience::Edit)
+        .value(0)
+        .toLongLong();
   } catch (const OfficeError& error) {
     switch (error.Problem()) {
       case OfficeProblem::Unreachable: break;
@@ -303,14 +252,14 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
   try {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
-    if (office_->IsBroken()) office_->OpenOffice(OfficeConnection::Patience::Short);
+    if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
     for (int look = 0; look < kLooks; ++look) {
       Found found;
-      QSqlQuery& row = office_->Run(
+      const OfficeRows row = office_->Run(
           before.edited
               ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
               : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
-          {client_});
+          {client_}, Patience::Short);
       const QString token = row.value(0).toString();
       found = {.taken = !token.isEmpty(),
                .holder = {row.value(4).toInt(), row.value(2).toDateTime().toMSecsSinceEpoch()},
@@ -318,8 +267,9 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                .edit_is_there = false};
       const Holder holder = found.taken ? Holder() : Holder{row.value(1).toString(), row.value(2).toDateTime()};
       if (pending_) {
-        const QSqlQuery& time = office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
-                                             {client_, static_cast<qlonglong>(pending_->step), pending_->edit});
+        const OfficeRows time =
+            office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
+                         {client_, static_cast<qlonglong>(pending_->step), pending_->edit}, Patience::Short);
         found.edit_is_there = !time.isNull(0);
         found_time_ = time.value(0).toLongLong();
       }
@@ -328,7 +278,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
         // The server has not noticed yet that the session is gone.
         office_->Run(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid = ?::integer AND "
                                     "usename = session_user AND backend_start <= ?::timestamptz"),
-                     {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)});
+                     {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)}, Patience::Short);
         QThread::msleep(kBetweenLooks);
         continue;
       }
@@ -339,7 +289,6 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       since_ = row.value(2).toDateTime();
       follows_ = false;
       TakeUp();
-      if (state_ == State::Editing) office_->Prepared(SendSql());
       found_step_ = found.step;
       behind_ = behind_ || verdict.reload;
       pending_.reset();

@@ -4,20 +4,19 @@
 #include <QString>
 #include <chrono>
 #include <cstdint>
-#include <initializer_list>
-#include <map>
+#include <functional>
 #include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "dossier/office/ClientTables.h"
+#include "dossier/office/FoundBy.h"
 #include "dossier/office/OfficeConnection.h"
-#include "dossier/office/OfficeTables.h"
 #include "dossier/office/Reconnection.h"
 #include "dossier/store/EditKeeper.h"
 
 namespace brivane::dossier {
+
+struct EditText;
 
 /// Who edits a client, since when; nobody where the name is empty.
 struct Holder {
@@ -50,11 +49,21 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
   void Begin() override;
-  void Keep(Database& tables) override;
+  void Keep(Database& tables, const KeptEdit& edit) override;
 
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
   /// OfficeError.
   bool LookAround();
+  /// The same without waiting; the answer comes in the event loop, and is to be handed to Heard.
+  void LookAside(std::function<void(OfficeAnswer)> answer);
+  /// An answer that was asked for when the last step was that one; nothing where it is not so any more. Throws
+  /// OfficeError.
+  void Heard(const OfficeAnswer& answer, std::int64_t step);
+  /// Reads everything anew without waiting, and the answer is to be handed to FillWith.
+  void ReadAside(std::function<void(OfficeAnswer)> answer);
+  /// The same as Heard. Throws DatabaseError too.
+  void FillWith(const OfficeAnswer& answer, std::int64_t step);
+  [[nodiscard]] std::int64_t LastStep() const { return tables_.LastStep(); }
   /// Takes the client up where nobody has it any more; answers whether it is taken up here now. The tables are to be
   /// filled anew where it answers so and LookAround does. Throws OfficeError.
   bool Take();
@@ -87,11 +96,10 @@ class ClientSession final : public EditKeeper {
     std::int64_t step;
   };
 
-  [[nodiscard]] std::string Payload(Database& tables, std::int64_t step);
-  /// Rows as objects for the server; every edit reads some, by statements that stay prepared.
-  [[nodiscard]] std::vector<std::string> Objects(Database& tables, const ClientTable& table, const std::string& where,
-                                                 std::initializer_list<std::int64_t> values);
-  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const QString& payload);
+  [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
+  [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
+  bool TakeLease();
+  void See(const OfficeRows& who);
   void TakeUp();
   /// As if it had never been opened.
   void Leave() noexcept;
@@ -111,8 +119,7 @@ class ClientSession final : public EditKeeper {
   int tries_ = 0;
   bool behind_ = false;
   bool follows_ = false;
-  std::int64_t names_ = 0;
-  std::map<std::string, QString> readings_;
+  FindingWords words_;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;

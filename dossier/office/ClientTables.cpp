@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <map>
 
-#include "dossier/office/OfficeConnection.h"
 #include "dossier/office/OfficeTables.h"
 #include "dossier/office/OfficeText.h"
 #include "dossier/store/Schema.h"
@@ -138,8 +137,11 @@ ClientTables::ClientTables(OfficeConnection& office, int client)
   tables_->Run(QStringLiteral("PRAGMA foreign_keys = ON"));
 }
 
-void ClientTables::Fill() {
-  QSqlQuery& rows = office_.Run(ReadingAll(), {client_, 0});
+const QString& ClientTables::Reading() { return ReadingAll(); }
+
+void ClientTables::Fill() { FillWith(office_.Run(Reading(), {client_, 0}, OfficeConnection::Patience::Short)); }
+
+void ClientTables::FillWith(OfficeRows rows) {
   if (!rows.isValid()) throw OfficeError(OfficeProblem::NoClient, "There is no such client");
   tables_->Run(QStringLiteral("BEGIN"));
   try {
@@ -158,7 +160,7 @@ void ClientTables::Fill() {
 void ClientTables::FillHistory() {
   if (whole_) return;
   const qint64 first = tables_->Value(QStringLiteral("SELECT min(nummer) FROM stap")).toLongLong();
-  QSqlQuery& rows = office_.Run(ReadingHistory(), {client_, first});
+  OfficeRows rows = office_.Run(ReadingHistory(), {client_, first});
   tables_->Run(QStringLiteral("BEGIN"));
   try {
     Insert(rows);
@@ -170,7 +172,7 @@ void ClientTables::FillHistory() {
   whole_ = true;
 }
 
-void ClientTables::Insert(QSqlQuery& from) {
+void ClientTables::Insert(OfficeRows& from) {
   std::map<std::size_t, QSqlQuery> insertions;
   for (; from.isValid(); from.next()) {
     const auto number = static_cast<std::size_t>(from.value(0).toInt());

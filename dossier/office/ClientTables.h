@@ -5,12 +5,11 @@
 #include <span>
 #include <string>
 
+#include "dossier/office/OfficeConnection.h"
 #include "dossier/store/CaseTables.h"
 #include "dossier/store/Database.h"
 
 namespace brivane::dossier {
-
-class OfficeConnection;
 
 /// A client of an office as the tables of a loan file, in memory: what an adviser works in, reads along in, or makes a
 /// file of. The tables of a case are whole; of the history the names and the last step, and the rest once it is asked
@@ -24,9 +23,12 @@ class ClientTables {
   /// For a journal to work in; they outlive this object then.
   [[nodiscard]] std::unique_ptr<Database> Release() { return std::move(released_); }
 
-  /// Reads everything anew, in one round trip. The client is another one where nothing of it was there. Throws
-  /// OfficeError, and DatabaseError.
+  /// Reads everything anew, in one round trip. Throws OfficeError, with NoClient where nothing of it is there, and
+  /// DatabaseError.
   void Fill();
+  /// The same with what Reading() answered, given the client and 0.
+  void FillWith(OfficeRows rows);
+  [[nodiscard]] static const QString& Reading();
   /// Reads the rest of the history, where it is not there yet.
   void FillHistory();
   /// The last step of the history that stands in the tables, or did when they were filled; 0 for none.
@@ -34,7 +36,7 @@ class ClientTables {
   void StepStored(std::int64_t step) { last_ = step; }
 
  private:
-  void Insert(class QSqlQuery& from);
+  void Insert(OfficeRows& from);
 
   OfficeConnection& office_;
   int client_;

@@ -2,14 +2,17 @@
 
 #include <QDate>
 #include <QRegularExpression>
-#include <QSet>
-#include <QSqlQuery>
+#include <algorithm>
 
 #include "dossier/office/RowsJson.h"
 #include "dossier/store/Database.h"
+#include "dossier/store/Rows.h"
 
 namespace brivane::dossier {
 namespace {
+
+/// Texts whose words are known, at most.
+constexpr std::size_t kMostTexts = 1000;
 
 /// The day that days are counted from.
 const QDate kDayZero(1899, 12, 30);
@@ -28,50 +31,51 @@ QStringList WordsOf(const QString& text) {
 
 QString DateWord(const QDate& date) { return date.toString(QStringLiteral("ddMMyyyy")); }
 
-QString TextAt(const QSqlQuery& query, int place) { return QString::fromUtf8(query.value(place).toByteArray()); }
-
-template <class Function> void ForEachRow(Database& tables, const char* sql, Function&& function) {
-  QSqlQuery query = tables.Prepare(QLatin1String(sql));
-  Database::Run(query);
-  while (query.next()) function(query);
-}
-
 }  // namespace
 
-FoundBy FoundByOf(Database& tables) {
+const QStringList& FindingWords::WordsOf(std::string_view text) {
+  std::string known(text);
+  if (const auto found = words_.find(known); found != words_.end()) return found->second;
+  if (words_.size() >= kMostTexts) words_.clear();
+  QStringList words = dossier::WordsOf(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+  return words_.emplace(std::move(known), std::move(words)).first->second;
+}
+
+FoundBy FindingWords::Of(Database& tables) {
   FoundBy found;
-  QSet<QString> words;
-  const auto add = [&](const QString& text) {
-    for (const QString& word : WordsOf(text)) words.insert(word);
-  };
-  ForEachRow(
-      tables,
+  QStringList words;
+  Rows& persons = tables.RowsAgain(QStringLiteral(
       "SELECT geboortedatum, CAST(naam_1 AS BLOB), CAST(naam_2 AS BLOB), CAST(naam_3 AS BLOB) FROM persoon ORDER BY "
-      "nummer",
-      [&](const QSqlQuery& row) {
-        const qint64 days = row.value(0).toLongLong();
-        QStringList parts;
-        for (int part = 1; part <= 3; ++part) {
-          const QString text = TextAt(row, part);
-          if (!text.isEmpty()) parts << text;
-          add(text);
-        }
-        if (days != 0) words.insert(DateWord(kDayZero.addDays(days)));
-        if (!found.naam.isEmpty()) return;
-        found.naam = parts.join(u' ');
-        found.geboortedatum = days;
-      });
-  ForEachRow(
-      tables,
-      "SELECT DISTINCT CAST(omschrijving AS BLOB), CAST(maatschappij_naam AS BLOB), CAST(productnaam AS BLOB), "
+      "nummer"));
+  persons.Start({});
+  while (persons.Next()) {
+    const std::int64_t days = persons.Whole(0);
+    QStringList parts;
+    for (int part = 1; part <= 3; ++part) {
+      const std::string_view text = persons.Bytes(part);
+      if (!text.empty()) parts << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+      words << WordsOf(text);
+    }
+    if (days != 0) words << DateWord(kDayZero.addDays(days));
+    if (!found.naam.isEmpty()) continue;
+    found.naam = parts.join(u' ');
+    found.geboortedatum = days;
+  }
+  persons.Stop();
+  Rows& columns = tables.RowsAgain(QStringLiteral(
+      "SELECT CAST(omschrijving AS BLOB), CAST(maatschappij_naam AS BLOB), CAST(productnaam AS BLOB), "
       "CAST(productsoort_omschrijving AS BLOB), CAST((SELECT tekst FROM maatschappij_type WHERE code = maatschappij "
-      "AND code <> '' ORDER BY volgorde LIMIT 1) AS BLOB) FROM vrijekolom",
-      [&](const QSqlQuery& row) {
-        for (int part = 0; part < 5; ++part) add(TextAt(row, part));
-      });
-  QStringList sorted(words.cbegin(), words.cend());
-  sorted.sort();
-  found.woorden = sorted.isEmpty() ? QString() : u' ' + sorted.join(u' ');
+      "AND code <> '' ORDER BY volgorde LIMIT 1) AS BLOB) FROM vrijekolom"));
+  columns.Start({});
+  while (columns.Next()) {
+    for (int part = 0; part < 5; ++part) {
+      if (const std::string_view text = columns.Bytes(part); !text.empty()) words << WordsOf(text);
+    }
+  }
+  columns.Stop();
+  words.sort();
+  words.erase(std::unique(words.begin(), words.end()), words.end());
+  found.woorden = words.isEmpty() ? QString() : u' ' + words.join(u' ');
   return found;
 }
 

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <string>
+#include <unordered_map>
 
 /// What a client of an office is found by while somebody types.
 namespace brivane::dossier {
@@ -17,8 +18,19 @@ struct FoundBy {
   QString woorden;
 };
 
+/// Finds that in the tables of a case, time and again: the words of a text are known once it was met.
+class FindingWords {
+ public:
+  [[nodiscard]] FoundBy Of(Database& tables);
+
+ private:
+  [[nodiscard]] const QStringList& WordsOf(std::string_view text);
+
+  std::unordered_map<std::string, QStringList> words_;
+};
+
 /// Of the tables of a case.
-[[nodiscard]] FoundBy FoundByOf(Database& tables);
+[[nodiscard]] inline FoundBy FoundByOf(Database& tables) { return FindingWords().Of(tables); }
 
 /// The same as an object for the server's functions.
 [[nodiscard]] std::string JsonOf(const FoundBy& found);

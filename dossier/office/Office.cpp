@@ -20,6 +20,8 @@
 namespace brivane::dossier {
 namespace {
 
+using Patience = OfficeConnection::Patience;
+
 /// Rows of the history that go in one statement.
 constexpr std::size_t kPart = 2000;
 
@@ -61,7 +63,7 @@ int AddInTransaction(OfficeConnection& office, int team, Database& tables, const
   for (const ClientTable& table : CaseParts())
     payload += '"' + std::string(table.name) + "\":" + JsonList(AllRows(tables, table)) + ',';
   payload += "\"zoek\":" + JsonOf(FoundByOf(tables)) + '}';
-  office.RunScript(QStringLiteral("BEGIN"));
+  office.RunScript(QStringLiteral("BEGIN"), Patience::Long);
   try {
     // Who manages brings clients into every team: a member of it until the transaction ends, which nobody else sees.
     const bool guest =
@@ -82,7 +84,7 @@ int AddInTransaction(OfficeConnection& office, int team, Database& tables, const
                  {team});
     return client;
   } catch (...) {
-    if (!office.IsBroken()) office.RunScript(QStringLiteral("ROLLBACK"));
+    if (!office.IsBroken()) office.RunScript(QStringLiteral("ROLLBACK"), Patience::Long);
     throw;
   }
 }
@@ -91,7 +93,7 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
   const QString mark = QUuid::createUuid().toString(QUuid::WithoutBraces);
   const int client = AddInTransaction(office, team, tables, mark);
   try {
-    office.RunScript(QStringLiteral("COMMIT"));
+    office.RunScript(QStringLiteral("COMMIT"), Patience::Long);
     return client;
   } catch (const OfficeError& error) {
     if (error.Problem() != OfficeProblem::Unreachable) throw;
@@ -99,7 +101,7 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
   // It may be there: that is looked up, and nothing is added again.
   bool added = false;
   try {
-    office.OpenOffice(OfficeConnection::Patience::Short);
+    office.OpenOffice(Patience::Short);
     added = !office.Run(QStringLiteral("SELECT kantoor.toegevoegd(?::uuid)"), {mark}).isNull(0);
   } catch (const OfficeError&) {
     throw OfficeError(OfficeProblem::Unknown, "The answer to an addition was lost");
@@ -111,7 +113,7 @@ int AddTables(OfficeConnection& office, int team, Database& tables) {
 }  // namespace
 
 std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& typed, int most) {
-  QSqlQuery& row = office.Run(
+  OfficeRows row = office.Run(
       QStringLiteral("SELECT nummer, naam, geboortedatum, team, gewijzigd, gewijzigd_door, eigen, bewerker, sinds FROM "
                      "kantoor.zoek_clienten(?::text[], ?::integer)"),
       {ArrayOf(WordsTyped(typed)), most});
@@ -131,7 +133,7 @@ std::vector<ClientLine> SearchClients(OfficeConnection& office, const QString& t
 }
 
 std::vector<Team> TeamsFor(OfficeConnection& office) {
-  QSqlQuery& row = office.Run(
+  OfficeRows row = office.Run(
       QStringLiteral("SELECT t.nummer, t.naam, l.team IS NOT NULL AS eigen FROM kantoor.team t LEFT JOIN kantoor.lid l "
                      "ON l.team = t.nummer AND l.gebruiker = session_user WHERE l.team IS NOT NULL OR "
                      "pg_has_role(session_user, 'kantoor_beheerder', 'MEMBER') ORDER BY eigen DESC, lower(t.naam)"));

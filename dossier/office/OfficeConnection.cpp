@@ -1,20 +1,16 @@
 #include "dossier/office/OfficeConnection.h"
 
-#include <QCoreApplication>
-#include <QSqlDriver>
-#include <QSqlError>
-#include <atomic>
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
 
+#include "dossier/office/Aside.h"
+#include "dossier/office/LongWait.h"
 #include "dossier/office/OfficeSetup.h"
+#include "dossier/office/ServerSession.h"
 
 namespace brivane::dossier {
 namespace {
-
-/// Connections have names, unique in the process.
-QString NewName() {
-  static std::atomic<int> counter = 0;
-  return QStringLiteral("brivane-kantoor-%1").arg(++counter);
-}
 
 /// What the caller's words say goes before. A network that swallows everything is found out within seconds. Every
 /// statement finds its rows by their keys, whatever the values, so that one plan is good for all: without being told,
@@ -24,107 +20,194 @@ constexpr char kUnlessSaid[] =
     "fallback_application_name=dossier options='-c plan_cache_mode=force_generic_plan' ";
 /// Of two the last counts.
 constexpr char kShort[] = " connect_timeout=3";
+/// For a session to be taken leave of.
+constexpr std::chrono::milliseconds kLeave{500};
+
+std::chrono::milliseconds Longest(OfficeConnection::Patience patience) {
+  using Patience = OfficeConnection::Patience;
+  switch (patience) {
+    case Patience::Endless: break;
+    case Patience::Long: return std::chrono::seconds(15);
+    case Patience::Edit: return std::chrono::seconds(8);
+    case Patience::Short: return std::chrono::seconds(5);
+    case Patience::Moment: return std::chrono::seconds(1);
+  }
+  return std::chrono::hours(24);
+}
+
+/// What one waits for.
+struct Awaited {
+  std::mutex guard;
+  std::condition_variable changed;
+  std::optional<OfficeAnswer> answer;
+};
 
 }  // namespace
 
 OfficeConnection::OfficeConnection(const QString& words, const QString& password)
-    : name_(NewName()),
-      options_(words.contains(u'=') ? words : QStringLiteral("service=") + words),
-      password_(password) {
+    : options_(words.contains(u'=') ? words : QStringLiteral("service=") + words), password_(password) {
   if (words.contains(QLatin1String("password=")))
     throw OfficeError(OfficeProblem::Refused, "a password does not stand among the words of a connection");
-  database_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_);
-  if (!password.isEmpty()) database_.setPassword(password);
 }
 
 OfficeConnection::~OfficeConnection() {
-  QObject::disconnect(told_);
-  statements_.clear();
-  database_.close();
-  database_ = {};
-  QSqlDatabase::removeDatabase(name_);
+  if (!session_) return;
+  aside_->Run([session = session_]() -> Aside::Rest {
+    session->End();
+    return {};
+  });
+  static_cast<void>(aside_->End(kLeave));
 }
 
 std::function<std::unique_ptr<OfficeConnection>()> OfficeConnection::Another() const {
   return [words = options_, password = password_] { return std::make_unique<OfficeConnection>(words, password); };
 }
 
+bool OfficeConnection::IsBroken() const { return !session_ || session_->broken; }
+
+void OfficeConnection::GiveUp() {
+  if (!session_) return;
+  session_->given_up = true;
+  aside_->Run([session = std::move(session_)]() -> Aside::Rest {
+    session->End();
+    return {};
+  });
+  session_.reset();
+  aside_.reset();
+}
+
 void OfficeConnection::Open(Patience patience) {
-  statements_.clear();
-  database_.close();
-  broken_ = true;
-  if (!database_.isValid()) throw OfficeError(OfficeProblem::Refused, "The driver for PostgreSQL is missing");
-  database_.setConnectOptions(QLatin1String(kUnlessSaid) + options_ +
-                              QLatin1String(patience == Patience::Short ? kShort : ""));
-  if (!database_.open()) Fail(database_.lastError());
-  broken_ = false;
-  if (!told_) {
-    told_ = QObject::connect(database_.driver(), &QSqlDriver::notification, database_.driver(),
-                             [this](const QString& channel, QSqlDriver::NotificationSource, const QVariant& payload) {
-                               const QString what = payload.toString();
-                               Told.Raise(channel, what);
-                             });
+  if (!session_) {
+    aside_ = std::make_unique<Aside>();
+    session_ =
+        std::make_shared<ServerSession>([this, teller = aside_->Teller()](const QString& channel, const QString& what) {
+          teller([this, channel, what] { Told.Raise(channel, what); });
+        });
   }
+  const QString options =
+      QLatin1String(kUnlessSaid) + options_ + QLatin1String(patience == Patience::Endless ? "" : kShort);
+  Await(
+      [options, password = password_](ServerSession& session) {
+        session.Open(options, password);
+        return OfficeRows();
+      },
+      patience);
 }
 
 void OfficeConnection::OpenOffice(Patience patience) {
   Open(patience);
-  const QSqlQuery& query =
-      Run(QStringLiteral("SELECT versie, gebruiker, naam, schrijft, beheert, pid, team FROM kantoor.ik()"));
-  const int version = query.value(0).toInt();
+  const OfficeRows row =
+      Run(QStringLiteral("SELECT versie, gebruiker, naam, schrijft, beheert, pid, team FROM kantoor.ik()"), {},
+          patience == Patience::Endless ? Patience::Long : patience);
+  const int version = row.value(0).toInt();
   if (version < kOfficeVersion) throw OfficeError(OfficeProblem::Older, "The office is of an earlier version");
   if (version > kOfficeVersion) throw OfficeError(OfficeProblem::Newer, "The office is of a later version");
-  user_ = {.account = query.value(1).toString(),
-           .name = query.value(2).toString().toStdString(),
-           .writes = query.value(3).toBool(),
-           .manages = query.value(4).toBool(),
-           .team = query.value(6).toInt(),
-           .pid = query.value(5).toInt()};
+  user_ = {.account = row.value(1).toString(),
+           .name = row.value(2).toString().toStdString(),
+           .writes = row.value(3).toBool(),
+           .manages = row.value(4).toBool(),
+           .team = row.value(6).toInt(),
+           .pid = row.value(5).toInt()};
 }
 
-QSqlQuery& OfficeConnection::Prepared(const QString& sql) {
-  if (broken_) throw OfficeError(OfficeProblem::Unreachable, "There is no connection");
-  const auto known = statements_.find(sql);
-  if (known != statements_.end()) return known->second;
-  QSqlQuery query(database_);
-  // Not forward only: then the driver answers before the server has committed.
-  if (!query.prepare(sql)) Fail(query.lastError());
-  return statements_.emplace(sql, std::move(query)).first->second;
+OfficeRows OfficeConnection::Await(const Task& task, Patience patience) {
+  if (!session_) throw OfficeError(OfficeProblem::Unreachable, "er is geen verbinding");
+  const auto awaited = std::make_shared<Awaited>();
+  aside_->Run([session = session_, task, awaited]() -> Aside::Rest {
+    OfficeAnswer answer;
+    try {
+      answer.rows = task(*session);
+    } catch (const OfficeError& error) {
+      answer.failure = error;
+    }
+    const std::lock_guard lock(awaited->guard);
+    awaited->answer = std::move(answer);
+    awaited->changed.notify_all();
+    return {};
+  });
+  const std::chrono::milliseconds longest = Longest(patience);
+  Waiting waiting;
+  std::unique_lock lock(awaited->guard);
+  for (;;) {
+    const std::chrono::milliseconds so_far = waiting.SoFar();
+    const std::chrono::milliseconds until = std::min(longest, waiting.ShownAt());
+    if (awaited->changed.wait_for(lock, until - so_far, [&] { return awaited->answer.has_value(); })) break;
+    if (waiting.SoFar() >= longest) {
+      lock.unlock();
+      GiveUp();
+      throw OfficeError(OfficeProblem::Unreachable, "het antwoordt niet");
+    }
+    lock.unlock();
+    waiting.Show();
+    lock.lock();
+  }
+  if (awaited->answer->failure) throw OfficeError(*awaited->answer->failure);
+  return std::move(awaited->answer->rows);
 }
 
-QSqlQuery& OfficeConnection::Run(const QString& sql, std::initializer_list<QVariant> values) {
-  QSqlQuery& query = Prepared(sql);
-  int place = 0;
-  for (const QVariant& value : values) query.bindValue(place++, value);
-  if (!query.exec()) Fail(query.lastError());
-  query.next();
-  return query;
+void OfficeConnection::Do(const Task& task) {
+  if (IsBroken()) return;
+  aside_->Run([session = session_, task]() -> Aside::Rest {
+    try {
+      task(*session);
+    } catch (const OfficeError&) {
+      // Whether the session broke shows to who asks next.
+    }
+    return {};
+  });
 }
 
-void OfficeConnection::RunScript(const QString& sql) {
-  if (broken_) throw OfficeError(OfficeProblem::Unreachable, "There is no connection");
-  QSqlQuery query(database_);
-  bool good = query.exec(sql);
-  // Each statement has its own result, and a later one may be the failure.
-  while (good && query.nextResult()) good = !query.lastError().isValid();
-  if (query.lastError().isValid()) Fail(query.lastError());
+OfficeRows OfficeConnection::Run(const QString& sql, std::initializer_list<QVariant> values, Patience patience) {
+  return Await([sql, given = std::vector(values)](ServerSession& session) { return session.Run(sql, given); },
+               patience);
+}
+
+void OfficeConnection::RunScript(const QString& sql, Patience patience) {
+  Await(
+      [sql](ServerSession& session) {
+        session.RunScript(sql);
+        return OfficeRows();
+      },
+      patience);
+}
+
+void OfficeConnection::Prepare(const QString& sql) {
+  Do([sql](ServerSession& session) {
+    session.Prepare(sql);
+    return OfficeRows();
+  });
+}
+
+void OfficeConnection::Post(const QString& sql, std::initializer_list<QVariant> values) {
+  Do([sql, given = std::vector(values)](ServerSession& session) { return session.Run(sql, given); });
+}
+
+void OfficeConnection::Ask(const QString& sql, std::initializer_list<QVariant> values,
+                           std::function<void(OfficeAnswer)> answer) {
+  if (!session_) throw OfficeError(OfficeProblem::Unreachable, "er is geen verbinding");
+  aside_->Run([session = session_, sql, given = std::vector(values), answer = std::move(answer)]() -> Aside::Rest {
+    OfficeAnswer found;
+    try {
+      found.rows = session->Run(sql, given);
+    } catch (const OfficeError& error) {
+      found.failure = error;
+    }
+    return [answer, found] { answer(found); };
+  });
 }
 
 void OfficeConnection::Listen(const QString& channel) {
-  // Without an event loop nobody hears it.
-  if (QCoreApplication::instance() == nullptr) return;
-  if (!database_.driver()->subscribedToNotifications().contains(channel) &&
-      !database_.driver()->subscribeToNotification(channel))
-    Fail(database_.driver()->lastError());
+  Do([channel](ServerSession& session) {
+    session.Listen(channel);
+    return OfficeRows();
+  });
 }
 
 void OfficeConnection::ListenNoMore(const QString& channel) {
-  if (!broken_ && QCoreApplication::instance() != nullptr) database_.driver()->unsubscribeFromNotification(channel);
-}
-
-void OfficeConnection::Fail(const QSqlError& error) {
-  if (OfficeError(error).Problem() == OfficeProblem::Unreachable) broken_ = true;
-  throw OfficeError(error);
+  Do([channel](ServerSession& session) {
+    session.ListenNoMore(channel);
+    return OfficeRows();
+  });
 }
 
 }  // namespace brivane::dossier

@@ -1,6 +1,8 @@
 #include "dossier/office/OfficeError.h"
 
 #include <QSqlError>
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace brivane::dossier {
@@ -23,6 +25,12 @@ constexpr Meaning kMeanings[] = {
     {"28", OfficeProblem::NotAdmitted},    {"3D000", OfficeProblem::NoOffice},    {"3F000", OfficeProblem::NoOffice},
     {"42883", OfficeProblem::NoOffice},    {"42501", OfficeProblem::NotAllowed},  {"53100", OfficeProblem::DiskFull}};
 
+/// The words by which libpq or a server asks for a password, or refuses one, in the languages that it speaks here.
+constexpr const char* kPasswordWords[] = {"password", "wachtwoord", "passwort", "mot de passe"};
+
+/// What comes before a server's own reason, in these languages.
+constexpr const char* kBeforeReason[] = {"FATAL:", "FATAL :", "FATAAL:"};
+
 }  // namespace
 
 OfficeProblem ProblemOf(const std::string& sqlstate) {
@@ -36,6 +44,24 @@ OfficeProblem ProblemOf(const std::string& sqlstate) {
 OfficeError::OfficeError(const QSqlError& error)
     : std::runtime_error(error.databaseText().toStdString()),
       problem_(ProblemOf(error.nativeErrorCode().toStdString())) {}
+
+bool OfficeError::WantsPassword() const {
+  if (problem_ == OfficeProblem::NotAdmitted) return true;
+  // A session that never began has no code.
+  const QString said = QString::fromUtf8(what());
+  return problem_ == OfficeProblem::Unreachable &&
+         std::any_of(std::begin(kPasswordWords), std::end(kPasswordWords),
+                     [&](const char* word) { return said.contains(QLatin1String(word), Qt::CaseInsensitive); });
+}
+
+QString OfficeError::SaidByServer() const {
+  const QString said = QString::fromUtf8(what()).section(u'\n', 0, 0);
+  for (const char* before : kBeforeReason) {
+    const QLatin1String mark(before);
+    if (const qsizetype at = said.indexOf(mark); at >= 0) return said.mid(at + mark.size()).trimmed();
+  }
+  return {};
+}
 
 std::string OfficeError::Oorzaak() const {
   switch (problem_) {

@@ -32,6 +32,11 @@ class OfficeError : public std::runtime_error {
   OfficeError(OfficeProblem problem, const char* what) : std::runtime_error(what), problem_(problem) {}
 
   [[nodiscard]] OfficeProblem Problem() const noexcept { return problem_; }
+  /// Whether a server lets nobody in without a password, or not with the one that it was handed.
+  [[nodiscard]] bool WantsPassword() const;
+  /// What the server itself said where it did not let one in, without what the network says; empty where it said
+  /// nothing.
+  [[nodiscard]] QString SaidByServer() const;
   /// The reason in Dutch, as the end of a sentence: "de verbinding met het kantoor is verbroken".
   [[nodiscard]] std::string Oorzaak() const;
   /// One message for the adviser.

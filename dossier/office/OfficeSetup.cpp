@@ -14,7 +14,7 @@ struct Upgrade {
   std::size_t count;
 };
 
-const char* const kOwnedV1[] = {kTablesV1, kRightsV1, kFunctionsV1, kFunctionRightsV1};
+const char* const kOwnedV1[] = {kTablesV1, kRightsV1, kFunctionsV1, kStoringV1, kFunctionRightsV1};
 
 /// Upgrade n leads from version n to version n + 1.
 const Upgrade kUpgrades[kOfficeVersion] = {{kRolesV1, kOwnedV1, std::size(kOwnedV1)}};

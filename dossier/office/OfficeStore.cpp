@@ -18,6 +18,8 @@ namespace {
 constexpr std::chrono::milliseconds kLook{2000};
 /// The same where it is edited here: whether the connection is still there.
 constexpr std::chrono::milliseconds kHeartbeat{10000};
+/// A line that says nothing for so long is given up.
+constexpr std::chrono::milliseconds kSilence{5000};
 /// Until what is behind is read anew.
 constexpr std::chrono::milliseconds kSoon{50};
 
@@ -138,17 +140,68 @@ void OfficeStore::LetGo() {
 void OfficeStore::Ask() { session_->Ask(); }
 
 void OfficeStore::Due() {
-  if (Now() != State::Broken || !session_->Office().IsBroken()) return Attend();
-  if (std::exchange(knocking_, true)) return;
+  if (Now() != State::Broken) return LookAside();
+  if (!session_->Office().IsBroken()) return Attend();
+  if (barred_ || std::exchange(knocking_, true)) return TellIfChanged();
   if (!aside_) aside_ = std::make_unique<Aside>();
-  Knock(*aside_, session_->Office().Another(), [this](const std::optional<OfficeError>& failure) {
-    knocking_ = false;
-    if (Now() != State::Broken || !failure) return Attend();
-    session_->NotReached();
-    Plan();
-  });
+  Knock(*aside_, session_->Office().Another(), [this](const std::optional<OfficeError>& failure) { Knocked(failure); });
   // A window shows at once that the connection is gone.
   TellIfChanged();
+}
+
+void OfficeStore::Knocked(const std::optional<OfficeError>& failure) {
+  knocking_ = false;
+  failure_ = failure;
+  if (Now() != State::Broken || !failure) return Attend();
+  session_->NotReached();
+  // The same password time and again locks an account.
+  barred_ = failure->WantsPassword();
+  Plan();
+}
+
+void OfficeStore::ReconnectNow(const std::optional<QString>& password) {
+  if (password) session_->Office().SetPassword(*password);
+  barred_ = false;
+  if (timer_ && Now() == State::Broken && !knocking_) timer_->start(0);
+}
+
+bool OfficeStore::IsAsked() const { return asked_of_ != 0 && asked_of_ == session_->Office().User().pid; }
+
+std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*heard)(const OfficeAnswer&, std::int64_t)) {
+  asked_of_ = session_->Office().User().pid;
+  answered_by_ = QDeadlineTimer(kSilence);
+  return [this, heard, here = std::weak_ptr(here_), of = asked_of_, state = Now(),
+          step = session_->LastStep()](const OfficeAnswer& answer) {
+    if (here.expired() || of != asked_of_ || !IsAsked()) return;
+    asked_of_ = 0;
+    if (state == Now()) (this->*heard)(answer, step);
+    TellIfChanged();
+    if (std::exchange(again_, false) && !IsAsked() && Now() == State::Reading) timer_->start(0);
+  };
+}
+
+void OfficeStore::LookAside() {
+  if (!IsAsked()) {
+    session_->LookAside(Counting(&OfficeStore::Heard));
+  } else if (answered_by_.hasExpired()) {
+    session_->Office().GiveUp();
+    session_->Broke();
+  }
+  TellIfChanged();
+}
+
+void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
+  Try([&] { session_->Heard(answer, step); });
+  if (Now() == State::Broken || !journal_->Bewerkingen().IsQuiet()) return;
+  if (session_->IsBehind()) return session_->ReadAside(Counting(&OfficeStore::Read));
+  TellSettled();
+}
+
+void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
+  // What somebody is at work on stays as it is until he is done.
+  if (!journal_->Bewerkingen().IsQuiet()) return;
+  Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
+  if (Now() != State::Broken && !session_->IsBehind()) TellSettled();
 }
 
 void OfficeStore::Attend() {
@@ -162,24 +215,26 @@ void OfficeStore::Attend() {
   // What somebody is at work on stays as it is until he is done.
   if (Now() != State::Broken && journal_->Bewerkingen().IsQuiet()) {
     if (session_->IsBehind()) Try([&] { Reload(); });
-    if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
+    TellSettled();
   }
   TellIfChanged();
 }
 
+void OfficeStore::TellSettled() {
+  if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
+}
+
 void OfficeStore::Told(const QString& channel, const QString& what) {
   if (channel != session_->Channel() || !timer_) return;
-  // The driver is still at work here: what is done about it comes after.
   constexpr char kAsks[] = "vraag ";
   if (what.startsWith(QLatin1String(kAsks))) {
-    const QString who = what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1);
-    QTimer::singleShot(0, timer_.get(), [this, who] {
-      if (Now() == State::Editing) Asked.Raise(who);
-    });
+    if (Now() == State::Editing) Asked.Raise(what.mid(static_cast<qsizetype>(std::size(kAsks)) - 1));
     return;
   }
-  // What is told is a hint to look: anybody on the server may tell.
-  if (Now() == State::Reading) timer_->start(0);
+  // What is told is a hint to look: anybody on the server may tell. An answer under way may be older than it.
+  if (Now() != State::Reading) return;
+  again_ = IsAsked();
+  if (!again_) timer_->start(0);
 }
 
 template <class Action> void OfficeStore::Try(Action&& action) {
@@ -191,8 +246,13 @@ template <class Action> void OfficeStore::Try(Action&& action) {
 }
 
 void OfficeStore::Reload() {
+  Reread([&] { session_->Fill(); });
+}
+
+template <class Fill> void OfficeStore::Reread(Fill&& fill) {
   try {
-    session_->Fill();
+    fill();
+    if (session_->IsBehind()) return;
     journal_->Refilled();
   } catch (const DatabaseError& error) {
     // Nothing is edited until a reading succeeds.
@@ -205,6 +265,10 @@ void OfficeStore::Reload() {
 }
 
 void OfficeStore::TellIfChanged() {
+  if (Now() != State::Broken) {
+    barred_ = false;
+    failure_.reset();
+  }
   Plan();
   if (Now() == told_state_ && HeldBy().naam == told_holder_ && unreadable_.has_value() == told_unreadable_) return;
   told_state_ = Now();
@@ -215,13 +279,15 @@ void OfficeStore::TellIfChanged() {
 
 void OfficeStore::Plan() {
   if (!timer_) return;
-  if (Now() == State::Broken && knocking_) {
+  if (Now() == State::Broken && told_state_ == State::Broken && (knocking_ || barred_)) {
     // What comes of that plans what comes next.
     timer_->stop();
   } else if (Now() == State::Broken) {
     timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
   } else if (told_state_ != Now()) {
     timer_->start(0);
+  } else if (IsAsked()) {
+    timer_->start(static_cast<int>(answered_by_.remainingTime()));
   } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
     timer_->start(kSoon);
   } else {

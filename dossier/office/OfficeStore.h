@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -25,7 +26,8 @@ class FileJournal;
 ///
 /// It is taken up to be edited where nobody else has it; else it opens to be read, and follows what the other stores.
 /// With an event loop it looks after itself: it is told of edits, looks whether the other is gone, and tries again
-/// where the connection broke, without waiting for a server that does not answer. A program without one calls Attend.
+/// where the connection broke, without waiting for a server that does not answer: one that says nothing for five
+/// seconds is given up. A program without one calls Attend.
 class OfficeStore final : public DossierStore {
  public:
   using State = ClientSession::State;
@@ -70,6 +72,14 @@ class OfficeStore final : public DossierStore {
   void LetGo();
   /// Asks who has it to let go. Throws OfficeError.
   void Ask();
+  /// The office lets this account in no more with the password that it has: nothing is tried until another is given,
+  /// or ReconnectNow.
+  [[nodiscard]] bool WantsPassword() const { return barred_; }
+  /// Why the last try failed that was made aside; nothing once the connection is there.
+  [[nodiscard]] const std::optional<OfficeError>& LastFailure() const { return failure_; }
+  /// Tries at once to reach the office, where the connection broke; with another password where one is given.
+  void ReconnectNow(const std::optional<QString>& password = std::nullopt);
+
   /// Does what is due: tries to reach the office where the connection broke, and otherwise looks who has the client and
   /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
   void Attend();
@@ -95,8 +105,21 @@ class OfficeStore final : public DossierStore {
   void Reload();
   void TellIfChanged();
   void Plan();
-  /// It is time for Attend, or to find out first whether the office is there.
+  /// It is time for Attend, or to find out first whether the office is there; nothing of this waits.
   void Due();
+  void Knocked(const std::optional<OfficeError>& failure);
+  /// The same as Attend does of a connection that is there, without waiting.
+  void LookAside();
+  void Heard(const OfficeAnswer& answer, std::int64_t step);
+  void ReadAside();
+  /// A question was asked of this session, and is not answered yet.
+  [[nodiscard]] bool IsAsked() const;
+  /// For the answer to a question: hands it on where it still counts.
+  [[nodiscard]] std::function<void(OfficeAnswer)> Counting(void (OfficeStore::*heard)(const OfficeAnswer&,
+                                                                                      std::int64_t));
+  void Read(const OfficeAnswer& answer, std::int64_t step);
+  template <class Fill> void Reread(Fill&& fill);
+  void TellSettled();
 
   std::shared_ptr<ClientSession> session_;
   std::shared_ptr<FileJournal> journal_;
@@ -104,6 +127,15 @@ class OfficeStore final : public DossierStore {
   std::unique_ptr<QTimer> timer_;
   std::unique_ptr<Aside> aside_;
   bool knocking_ = false;
+  bool barred_ = false;
+  std::optional<OfficeError> failure_;
+  /// The session at which a question is under way, 0 for none.
+  int asked_of_ = 0;
+  QDeadlineTimer answered_by_;
+  /// Something was told meanwhile.
+  bool again_ = false;
+  /// Gone with this object: a question outlives it.
+  std::shared_ptr<int> here_ = std::make_shared<int>();
   host::Subscriptions subscriptions_;
   /// What Settled is to tell.
   std::optional<Outcome> settled_;

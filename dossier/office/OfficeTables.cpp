@@ -17,11 +17,13 @@ constexpr TableColumn kStap[] = {{"nummer", Integer},  {"tijd", Integer},   {"me
 constexpr TableColumn kWijziging[] = {{"nummer", Integer},  {"stap", Integer},       {"tabel", Integer},
                                       {"sleutel", Integer}, {"lening", Integer},     {"lening_naam", Integer},
                                       {"kolom", Integer},   {"kolom_naam", Integer}, {"veld", Integer}};
+constexpr TableColumn kZoek[] = {{"naam", Text}, {"geboortedatum", Integer}, {"tekst", Text}};
 /// The values behind the columns of an entry.
 constexpr const char* kValues[] = {"oud", "nieuw"};
 
 const ClientTable kNames{"naam", kNaam};
 const ClientTable kSteps{"stap", kStap};
+const ClientTable kFoundBy{"zoek", kZoek};
 const ClientTable kEntries{"wijziging", kWijziging, static_cast<int>(std::size(kValues))};
 
 /// By how the file keeps it.
@@ -50,6 +52,7 @@ std::span<const ClientTable> CaseParts() {
 const ClientTable& Names() { return kNames; }
 const ClientTable& Steps() { return kSteps; }
 const ClientTable& Entries() { return kEntries; }
+const ClientTable& FoundByParts() { return kFoundBy; }
 
 QString ColumnsOf(const ClientTable& table) {
   QStringList names;

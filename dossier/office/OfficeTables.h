@@ -25,6 +25,8 @@ struct ClientTable {
 [[nodiscard]] const ClientTable& Names();
 [[nodiscard]] const ClientTable& Steps();
 [[nodiscard]] const ClientTable& Entries();
+/// What a client is found by, which a file has not.
+[[nodiscard]] const ClientTable& FoundByParts();
 
 /// A name of a table or column.
 [[nodiscard]] inline QString Latin(std::string_view text) {

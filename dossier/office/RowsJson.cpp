@@ -10,19 +10,24 @@ namespace {
 
 constexpr char kDigits[] = "0123456789abcdef";
 
-std::string Number(auto value) {
+std::string Digits(auto value) {
   char digits[32];
   const auto end = std::to_chars(std::begin(digits), std::end(digits), value);
   return {static_cast<const char*>(digits), static_cast<const char*>(end.ptr)};
 }
 
-void PutHex(std::string& text, char byte) {
-  const auto bits = static_cast<unsigned char>(byte);
-  text += kDigits[bits >> 4U];
-  text += kDigits[bits & 0xFU];
-}
-
 }  // namespace
+
+std::string NumberText(std::int64_t number) { return Digits(number); }
+std::string NumberText(double number) { return Digits(number); }
+
+void PutHex(std::string& text, std::string_view bytes) {
+  for (const char byte : bytes) {
+    const auto bits = static_cast<unsigned char>(byte);
+    text += kDigits[bits >> 4U];
+    text += kDigits[bits & 0xFU];
+  }
+}
 
 std::string JsonText(std::string_view bytes) {
   std::string text = "\"";
@@ -32,7 +37,7 @@ std::string JsonText(std::string_view bytes) {
       text += letter;
     } else if (static_cast<unsigned char>(letter) < 0x20) {
       text += "\\u00";
-      PutHex(text, letter);
+      PutHex(text, {&letter, 1});
     } else {
       text += letter;
     }
@@ -41,10 +46,10 @@ std::string JsonText(std::string_view bytes) {
 }
 
 std::string JsonValue(const Stored& value) {
-  if (const auto* whole = std::get_if<std::int64_t>(&value)) return Number(*whole);
+  if (const auto* whole = std::get_if<std::int64_t>(&value)) return NumberText(*whole);
   if (const auto* broken = std::get_if<double>(&value)) {
     // What is no number in JSON is one to the server.
-    return std::isfinite(*broken) ? Number(*broken) : '"' + Number(*broken) + '"';
+    return std::isfinite(*broken) ? NumberText(*broken) : '"' + NumberText(*broken) + '"';
   }
   if (const auto* text = std::get_if<std::string>(&value)) return JsonText(*text);
   return "null";
@@ -52,7 +57,7 @@ std::string JsonValue(const Stored& value) {
 
 std::string JsonBytes(std::string_view bytes) {
   std::string text = "\"\\\\x";
-  for (const char byte : bytes) PutHex(text, byte);
+  PutHex(text, bytes);
   return text + '"';
 }
 

@@ -9,6 +9,12 @@
 /// Rows as the server's functions read them: objects by the names of the columns.
 namespace brivane::dossier {
 
+/// A number to the bit.
+[[nodiscard]] std::string NumberText(std::int64_t number);
+[[nodiscard]] std::string NumberText(double number);
+/// Appends bytes, each as two digits.
+void PutHex(std::string& text, std::string_view bytes);
+
 /// A text in quotes.
 [[nodiscard]] std::string JsonText(std::string_view bytes);
 /// A number to the bit, a text, or null.

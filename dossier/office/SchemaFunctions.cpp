@@ -29,8 +29,9 @@ BEGIN
   END IF;
 END $$;
 
--- The last step of a client that the session may see.
-CREATE FUNCTION kantoor.moet_zichtbaar_zijn(p_client integer) RETURNS bigint LANGUAGE plpgsql STABLE
+-- The last step of a client that the session may see. The rows of its tables are open to the functions from here on,
+-- and those of no other client.
+CREATE FUNCTION kantoor.moet_zichtbaar_zijn(p_client integer) RETURNS bigint LANGUAGE plpgsql
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
 DECLARE
   v_laatste bigint;
@@ -39,6 +40,7 @@ BEGIN
   IF NOT FOUND THEN
     RAISE EXCEPTION 'no such client' USING ERRCODE = 'KT003';
   END IF;
+  PERFORM set_config('kantoor.client', p_client::text, true);
   RETURN v_laatste;
 END $$;
 
@@ -113,7 +115,7 @@ END $$;
 
 -- Who edits a client now, if anybody does, and how far it is.
 CREATE FUNCTION kantoor.wie(p_client integer, OUT houder text, OUT sinds timestamptz, OUT gevraagd_door text,
-    OUT laatste bigint) LANGUAGE plpgsql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
+    OUT laatste bigint) LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
 BEGIN
   laatste := moet_zichtbaar_zijn(p_client);
   SELECT coalesce(m.naam, b.gebruiker::text), b.sinds, coalesce(v.naam, b.gevraagd_door::text)
@@ -149,182 +151,6 @@ CREATE FUNCTION kantoor.volg_niet(p_client integer) RETURNS void LANGUAGE sql SE
   SET search_path = pg_catalog, kantoor, pg_temp AS $$
   DELETE FROM meelezer m WHERE m.client = p_client AND m.pid = pg_backend_pid()
 $$;
-
--- The rows of an edit, as they stand after it; `p` names the tables that have any.
-CREATE FUNCTION kantoor.schrijf_rijen(p_client integer, p json) RETURNS void LANGUAGE plpgsql
-  SET search_path = pg_catalog, kantoor, pg_temp AS $$
-DECLARE
-  -- Asked once: each look into the object reads all of it.
-  v_delen text[] := ARRAY(SELECT json_object_keys(p));
-BEGIN
-  IF 'weg' = ANY (v_delen) THEN
-    DELETE FROM periode t USING json_populate_recordset(NULL::periode_rij, p->'weg'->'periode') r
-      WHERE t.client = p_client AND t.sleutel = r.sleutel;
-    DELETE FROM vrijekolom t USING json_populate_recordset(NULL::vrijekolom_rij, p->'weg'->'vrijekolom') r
-      WHERE t.client = p_client AND t.sleutel = r.sleutel;
-    DELETE FROM lening t USING json_populate_recordset(NULL::lening_rij, p->'weg'->'lening') r
-      WHERE t.client = p_client AND t.sleutel = r.sleutel;
-    DELETE FROM persoon t USING json_populate_recordset(NULL::persoon_rij, p->'weg'->'persoon') r
-      WHERE t.client = p_client AND t.nummer = r.nummer;
-    DELETE FROM voorstel t USING json_populate_recordset(NULL::voorstel_rij, p->'weg'->'voorstel') r
-      WHERE t.client = p_client AND t.voorstel = r.voorstel AND t.vrij_id = r.vrij_id;
-  END IF;
-  IF 'dossier' = ANY (v_delen) THEN
-    INSERT INTO dossier SELECT p_client, r.* FROM json_populate_recordset(NULL::dossier_rij, p->'dossier') r
-      ON CONFLICT (client, enig) DO UPDATE SET leeftijd = EXCLUDED.leeftijd;
-  END IF;
-  IF 'persoon' = ANY (v_delen) THEN
-    INSERT INTO persoon SELECT p_client, r.* FROM json_populate_recordset(NULL::persoon_rij, p->'persoon') r
-      ON CONFLICT (client, nummer) DO UPDATE SET naam_1 = EXCLUDED.naam_1, naam_2 = EXCLUDED.naam_2,
-        naam_3 = EXCLUDED.naam_3, geboortedatum = EXCLUDED.geboortedatum, belastingtarief = EXCLUDED.belastingtarief;
-  END IF;
-  IF 'lening' = ANY (v_delen) THEN
-    INSERT INTO lening SELECT p_client, r.* FROM json_populate_recordset(NULL::lening_rij, p->'lening') r
-      ON CONFLICT (client, sleutel) DO UPDATE SET nummer = EXCLUDED.nummer, naam = EXCLUDED.naam;
-  END IF;
-  IF 'vrijekolom' = ANY (v_delen) THEN
-    INSERT INTO vrijekolom SELECT p_client, r.* FROM json_populate_recordset(NULL::vrijekolom_rij, p->'vrijekolom') r
-      ON CONFLICT (client, sleutel) DO UPDATE SET lening = EXCLUDED.lening, volgorde = EXCLUDED.volgorde,
-        id = EXCLUDED.id, correctie_last = EXCLUDED.correctie_last, correctie_fiscaal = EXCLUDED.correctie_fiscaal,
-        heffing_bij = EXCLUDED.heffing_bij, omschrijving = EXCLUDED.omschrijving, termijn = EXCLUDED.termijn,
-        inkomen_uit_arbeid = EXCLUDED.inkomen_uit_arbeid, in_dagloon = EXCLUDED.in_dagloon,
-        datum_aanvang = EXCLUDED.datum_aanvang, looptijd = EXCLUDED.looptijd,
-        contractvervaldatum = EXCLUDED.contractvervaldatum, is_product = EXCLUDED.is_product,
-        maatschappij = EXCLUDED.maatschappij, maatschappij_naam = EXCLUDED.maatschappij_naam,
-        productsoort = EXCLUDED.productsoort, productsoort_omschrijving = EXCLUDED.productsoort_omschrijving,
-        productnaam = EXCLUDED.productnaam, uw_bemiddeling = EXCLUDED.uw_bemiddeling, voorstel_1 = EXCLUDED.voorstel_1,
-        voorstel_2 = EXCLUDED.voorstel_2, voorstel_3 = EXCLUDED.voorstel_3, uitsluiten_ao = EXCLUDED.uitsluiten_ao,
-        uitsluiten_ww = EXCLUDED.uitsluiten_ww, uitsluiten_langleven = EXCLUDED.uitsluiten_langleven,
-        scenario_overlijden = EXCLUDED.scenario_overlijden, percentage_overgang = EXCLUDED.percentage_overgang,
-        einddatum_overgang = EXCLUDED.einddatum_overgang, eindleeftijd_overgang = EXCLUDED.eindleeftijd_overgang,
-        bedrag_naam = EXCLUDED.bedrag_naam, invoersoort = EXCLUDED.invoersoort, bedrag = EXCLUDED.bedrag;
-  END IF;
-  IF 'periode' = ANY (v_delen) THEN
-    INSERT INTO periode SELECT p_client, r.* FROM json_populate_recordset(NULL::periode_rij, p->'periode') r
-      ON CONFLICT (client, sleutel) DO UPDATE SET kolom = EXCLUDED.kolom, maand = EXCLUDED.maand,
-        bedrag = EXCLUDED.bedrag, percentage = EXCLUDED.percentage, korting = EXCLUDED.korting,
-        eenmalig = EXCLUDED.eenmalig;
-  END IF;
-  IF 'voorstel' = ANY (v_delen) THEN
-    INSERT INTO voorstel SELECT p_client, r.* FROM json_populate_recordset(NULL::voorstel_rij, p->'voorstel') r
-      ON CONFLICT DO NOTHING;
-  END IF;
-  IF 'naam' = ANY (v_delen) THEN
-    INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;
-  END IF;
-  IF 'zoek' = ANY (v_delen) THEN
-    UPDATE zoek z SET tekst = p->'zoek'->>'tekst'
-      WHERE z.client = p_client AND z.tekst IS DISTINCT FROM p->'zoek'->>'tekst';
-    UPDATE client c SET naam = p->'zoek'->>'naam', geboortedatum = (p->'zoek'->>'geboortedatum')::bigint
-      WHERE c.nummer = p_client AND (c.naam, c.geboortedatum)
-        IS DISTINCT FROM (p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint);
-  END IF;
-END $$;
-
--- Stores one edit: its step, its entries and its rows. Answers the time of the step. Refuses a holder that lost the
--- client (KT001), and an edit that does not follow on what stands there (KT002), so that none is stored twice.
-CREATE FUNCTION kantoor.sla_op(p_client integer, p_bewijs uuid, p_bewerking uuid, p json) RETURNS bigint
-  LANGUAGE plpgsql SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
-DECLARE
-  v_nu timestamptz := clock_timestamp();
-  v_tijd bigint := (extract(epoch FROM v_nu) * 1000)::bigint;
-  v_stap stap_rij;
-  v_naam text := eigen_naam();
-BEGIN
-  PERFORM moet_adviseur_zijn();
-  -- What is told as stored outlives a power cut, however the server is set.
-  IF current_setting('synchronous_commit') = 'off' THEN
-    PERFORM set_config('synchronous_commit', 'on', true);
-  END IF;
-  v_stap := json_populate_record(NULL::stap_rij, p->'stap');
-  UPDATE client c SET laatste = v_stap.nummer, gewijzigd = v_nu, gewijzigd_door = session_user
-    WHERE c.nummer = p_client AND c.laatste = v_stap.nummer - 1;
-  IF NOT FOUND THEN
-    PERFORM moet_zichtbaar_zijn(p_client);
-    IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
-    THEN
-      RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
-    END IF;
-    RAISE EXCEPTION 'another step was stored' USING ERRCODE = 'KT002';
-  END IF;
-  -- Whoever takes the client up waits for the row above, so that this stays true until the end.
-  IF NOT EXISTS (SELECT FROM bewerker b WHERE b.client = p_client AND b.bewijs = p_bewijs AND b.pid = pg_backend_pid())
-  THEN
-    RAISE EXCEPTION 'the client was let go' USING ERRCODE = 'KT001';
-  END IF;
-  PERFORM schrijf_rijen(p_client, p);
-  -- A step names the session's user and nobody else.
-  IF NOT EXISTS (SELECT FROM naam n
-                 WHERE n.client = p_client AND n.nummer = v_stap.medewerker AND n.tekst = v_naam) THEN
-    RAISE EXCEPTION 'somebody else''s name' USING ERRCODE = 'KT006';
-  END IF;
-  INSERT INTO stap VALUES (p_client, v_stap.nummer, v_tijd, v_stap.medewerker, v_stap.soort, v_stap.van, v_stap.terug,
-    v_stap.opnieuw, v_stap.eerste, v_stap.hoogste, p_bewerking, session_user, v_nu);
-  INSERT INTO wijziging SELECT p_client, r.nummer, v_stap.nummer, r.tabel, r.sleutel, r.lening, r.lening_naam, r.kolom,
-      r.kolom_naam, r.veld, r.oud, r.nieuw
-    FROM json_populate_recordset(NULL::wijziging_rij, p->'wijziging') r;
-  PERFORM meld(p_client, 'stap ' || v_stap.nummer || ' ' || v_naam);
-  RETURN v_tijd;
-END $$;
-
--- The time of an edit whose answer was lost, none where it was not stored. Certain once the client was taken up again, or by somebody else: the
--- session that stored it has ended then.
-CREATE FUNCTION kantoor.uitkomst(p_client integer, p_stap bigint, p_bewerking uuid) RETURNS bigint
-  LANGUAGE sql STABLE SECURITY DEFINER SET search_path = pg_catalog, kantoor, pg_temp AS $$
-  SELECT s.tijd FROM stap s WHERE s.client = p_client AND s.nummer = p_stap AND s.bewerking = p_bewerking
-$$;
-
--- A new client of a team that the session is in. `p_kenmerk` is the identifier of the addition, by which it is looked up.
-CREATE FUNCTION kantoor.nieuw(p_team integer, p_kenmerk uuid, p json) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
-  SET search_path = pg_catalog, kantoor, pg_temp AS $$
-DECLARE
-  v_client integer;
-BEGIN
-  PERFORM moet_adviseur_zijn();
-  IF NOT EXISTS (SELECT FROM lid l WHERE l.gebruiker = session_user AND l.team = p_team) THEN
-    RAISE EXCEPTION 'not a member of the team' USING ERRCODE = 'insufficient_privilege';
-  END IF;
-  IF current_setting('synchronous_commit') = 'off' THEN
-    PERFORM set_config('synchronous_commit', 'on', true);
-  END IF;
-  PERFORM slot_van_toevoeging(p_kenmerk);
-  INSERT INTO client (team, naam, geboortedatum)
-    VALUES (p_team, p->'zoek'->>'naam', (p->'zoek'->>'geboortedatum')::bigint) RETURNING nummer INTO v_client;
-  INSERT INTO toevoeging (client, kenmerk) VALUES (v_client, p_kenmerk);
-  INSERT INTO zoek (client, team, tekst) VALUES (v_client, p_team, p->'zoek'->>'tekst');
-  INSERT INTO maatschappij_type SELECT v_client, r.*
-    FROM json_populate_recordset(NULL::maatschappij_type_rij, p->'maatschappij_type') r;
-  PERFORM schrijf_rijen(v_client, p);
-  RETURN v_client;
-END $$;
-
--- The client of an addition whose answer was lost, none where it was not stored. It waits for the session that adds to
--- end, for some seconds: then it is certain.
-CREATE FUNCTION kantoor.toegevoegd(p_kenmerk uuid) RETURNS integer LANGUAGE plpgsql SECURITY DEFINER
-  SET search_path = pg_catalog, kantoor, pg_temp SET lock_timeout = '5s' AS $$
-BEGIN
-  PERFORM moet_adviseur_zijn();
-  PERFORM slot_van_toevoeging(p_kenmerk);
-  RETURN (SELECT t.client FROM toevoeging t WHERE t.kenmerk = p_kenmerk AND t.gebruiker = session_user);
-END $$;
-
--- A part of the history that a file brings along, in the transaction that made the client; what was stored in the office
--- is out of its reach.
-CREATE FUNCTION kantoor.vul_geschiedenis(p_client integer, p json) RETURNS void LANGUAGE plpgsql SECURITY DEFINER
-  SET search_path = pg_catalog, kantoor, pg_temp AS $$
-BEGIN
-  PERFORM moet_adviseur_zijn();
-  IF NOT EXISTS (SELECT FROM toevoeging t WHERE t.client = p_client AND t.transactie = pg_current_xact_id()
-                   AND t.begin = transaction_timestamp()) THEN
-    RAISE EXCEPTION 'not a client of this transaction' USING ERRCODE = 'insufficient_privilege';
-  END IF;
-  INSERT INTO naam SELECT p_client, r.* FROM json_populate_recordset(NULL::naam_rij, p->'naam') r;
-  INSERT INTO stap SELECT p_client, r.*, NULL, session_user, clock_timestamp()
-    FROM json_populate_recordset(NULL::stap_rij, p->'stap') r;
-  INSERT INTO wijziging SELECT p_client, r.* FROM json_populate_recordset(NULL::wijziging_rij, p->'wijziging') r;
-  UPDATE client c SET laatste = (SELECT coalesce(max(s.nummer), 0) FROM stap s WHERE s.client = p_client)
-    WHERE c.nummer = p_client;
-END $$;
 
 -- Clients by words, each the beginning of a word of theirs; what the session changed last comes first, then the newest.
 -- A word that many have is soon found among the newest; one that is not found often enough there is had by few, and goes by

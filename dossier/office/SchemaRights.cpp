@@ -23,8 +23,13 @@ CREATE SCHEMA kantoor AUTHORIZATION kantoor_eigenaar;
 REVOKE ALL ON SCHEMA kantoor FROM PUBLIC;
 )sql";
 
-// Rows are seen by team, whoever runs the statement: the policies go by the session's user and hold for the owner's
-// functions too. What is asked once for a statement stands in a SELECT of its own.
+// Rows are seen by team: the policies go by the session's user, and for clients they hold for the owner's functions
+// too. What is asked once for a statement stands in a SELECT of its own.
+//
+// In the tables of a client those functions see one client, the one that `kantoor.client` names: a function sets it
+// once it has found that the session may see that client, and a mistake in it reaches no other. Whoever else sets it
+// gains nothing, as each of those functions sets it again, and the policy is the owner's alone. To ask for the team
+// again at each row of an edit would cost more than the edit.
 const char* const kRightsV1 = R"sql(
 GRANT USAGE ON SCHEMA kantoor TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
 GRANT SELECT ON kantoor.versie, kantoor.team, kantoor.lid, kantoor.medewerker, kantoor.client, kantoor.dossier,
@@ -47,8 +52,10 @@ BEGIN
                                'naam', 'stap', 'wijziging'] LOOP
     EXECUTE format('ALTER TABLE kantoor.%I ENABLE ROW LEVEL SECURITY', tabel);
     EXECUTE format('ALTER TABLE kantoor.%I FORCE ROW LEVEL SECURITY', tabel);
-    EXECUTE format('CREATE POLICY eigen_team ON kantoor.%1$I USING (EXISTS (SELECT FROM kantoor.client c '
-                   'WHERE c.nummer = %1$I.client))', tabel);
+    EXECUTE format('CREATE POLICY eigen_team ON kantoor.%1$I TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder '
+                   'USING (EXISTS (SELECT FROM kantoor.client c WHERE c.nummer = %1$I.client))', tabel);
+    EXECUTE format('CREATE POLICY ene_client ON kantoor.%I TO kantoor_eigenaar '
+                   'USING (client = nullif(current_setting(''kantoor.client'', true), '''')::integer)', tabel);
   END LOOP;
 END $$;
 
@@ -57,6 +64,8 @@ CREATE FUNCTION kantoor.geschiedenis_blijft() RETURNS trigger LANGUAGE plpgsql S
 BEGIN
   RAISE EXCEPTION 'history' USING ERRCODE = 'KT005';
 END $$;
+CREATE TRIGGER blijft BEFORE DELETE OR TRUNCATE OR UPDATE OF nummer ON kantoor.client
+  EXECUTE FUNCTION kantoor.geschiedenis_blijft();
 CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.naam EXECUTE FUNCTION kantoor.geschiedenis_blijft();
 CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.stap EXECUTE FUNCTION kantoor.geschiedenis_blijft();
 CREATE TRIGGER blijft BEFORE UPDATE OR DELETE OR TRUNCATE ON kantoor.wijziging
@@ -70,8 +79,9 @@ GRANT EXECUTE ON FUNCTION kantoor.ik(), kantoor.wie(integer), kantoor.zoek_clien
   kantoor.volg(integer), kantoor.volg_niet(integer)
   TO kantoor_adviseur, kantoor_lezer, kantoor_beheerder;
 GRANT EXECUTE ON FUNCTION kantoor.neem(integer), kantoor.laat_los(integer, uuid), kantoor.vraag(integer),
-  kantoor.sla_op(integer, uuid, uuid, json), kantoor.nieuw(integer, uuid, json), kantoor.toegevoegd(uuid),
-  kantoor.vul_geschiedenis(integer, json),
+  kantoor.sla_op(integer, uuid, uuid, kantoor.stap_rij, kantoor.wijziging_rij[], kantoor.naam_rij[],
+  kantoor.vrijekolom_rij[], kantoor.periode_rij[], kantoor.periode_rij[], bigint[], kantoor.zoek_rij, json),
+  kantoor.nieuw(integer, uuid, json), kantoor.toegevoegd(uuid), kantoor.vul_geschiedenis(integer, json),
   kantoor.uitkomst(integer, bigint, uuid)
   TO kantoor_adviseur;
 GRANT EXECUTE ON FUNCTION kantoor.geef_aan_team(integer, integer) TO kantoor_beheerder;

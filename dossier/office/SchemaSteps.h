@@ -8,6 +8,7 @@ extern const char* const kRolesV1;
 extern const char* const kTablesV1;
 extern const char* const kRightsV1;
 extern const char* const kFunctionsV1;
+extern const char* const kStoringV1;
 extern const char* const kFunctionRightsV1;
 
 }  // namespace brivane::dossier

@@ -6,6 +6,10 @@ namespace brivane::dossier {
 // current situation, 1 and up those of the new one. `volgorde` orders a loan's columns; period entries stand in the
 // order of their keys. The columns of a case are those of a loan file, behind the number of the client.
 //
+// A client is never removed and keeps its number (SchemaRights.cpp). So the tables that each edit writes to do not
+// refer to it: a column has its loan and a period its column, which do, and the history is written by functions that
+// have changed the row of the client before. Each reference would be looked up again at each row of an edit.
+//
 // A row type stands beside each table of a case: what an edit hands over is read as that, so that it cannot name
 // another client.
 const char* const kTablesV1 = R"sql(
@@ -28,6 +32,7 @@ CREATE INDEX client_team ON kantoor.client (team, gewijzigd DESC);
 CREATE INDEX client_eigen ON kantoor.client (gewijzigd_door, gewijzigd DESC);
 
 -- What a client is found by: folded words, each behind a space. Its team stands here too, for the index.
+CREATE TYPE kantoor.zoek_rij AS (naam text, geboortedatum bigint, tekst text);
 CREATE TABLE kantoor.zoek (client integer PRIMARY KEY REFERENCES kantoor.client ON DELETE CASCADE, team integer NOT NULL,
   tekst text NOT NULL);
 DO $$
@@ -69,7 +74,7 @@ CREATE TYPE kantoor.vrijekolom_rij AS (sleutel bigint, lening bigint, volgorde b
   uitsluiten_langleven bigint, scenario_overlijden bigint, percentage_overgang double precision,
   einddatum_overgang bigint, eindleeftijd_overgang bigint, bedrag_naam text, invoersoort bigint,
   bedrag double precision);
-CREATE TABLE kantoor.vrijekolom (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE,
+CREATE TABLE kantoor.vrijekolom (client integer NOT NULL,
   sleutel bigint NOT NULL, lening bigint NOT NULL, volgorde bigint NOT NULL, id bigint NOT NULL,
   correctie_last bigint NOT NULL, correctie_fiscaal bigint NOT NULL, heffing_bij bigint NOT NULL,
   omschrijving text NOT NULL, termijn bigint NOT NULL, inkomen_uit_arbeid bigint NOT NULL, in_dagloon bigint NOT NULL,
@@ -85,7 +90,7 @@ CREATE TABLE kantoor.vrijekolom (client integer NOT NULL REFERENCES kantoor.clie
 
 CREATE TYPE kantoor.periode_rij AS (sleutel bigint, kolom bigint, maand bigint, bedrag double precision,
   percentage double precision, korting double precision, eenmalig bigint);
-CREATE TABLE kantoor.periode (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE,
+CREATE TABLE kantoor.periode (client integer NOT NULL,
   sleutel bigint NOT NULL, kolom bigint NOT NULL, maand bigint NOT NULL, bedrag double precision NOT NULL,
   percentage double precision NOT NULL, korting double precision NOT NULL, eenmalig bigint NOT NULL,
   PRIMARY KEY (client, sleutel),
@@ -99,19 +104,19 @@ CREATE TABLE kantoor.voorstel (client integer NOT NULL REFERENCES kantoor.client
 -- The history: as in a loan file, and beside it who and when by the database's own account and clock. `bewerking` is the
 -- identifier of the edit, none for what a file brought along. A value stands as the bytes that a loan file's history has.
 CREATE TYPE kantoor.naam_rij AS (nummer bigint, tekst text);
-CREATE TABLE kantoor.naam (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE, nummer bigint NOT NULL,
+CREATE TABLE kantoor.naam (client integer NOT NULL, nummer bigint NOT NULL,
   tekst text NOT NULL, PRIMARY KEY (client, nummer));
 
 CREATE TYPE kantoor.stap_rij AS (nummer bigint, tijd bigint, medewerker bigint, soort bigint, van bigint, terug bigint,
   opnieuw bigint, eerste bigint, hoogste bigint);
-CREATE TABLE kantoor.stap (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE,
+CREATE TABLE kantoor.stap (client integer NOT NULL,
   nummer bigint NOT NULL, tijd bigint NOT NULL, medewerker bigint NOT NULL, soort bigint NOT NULL, van bigint NOT NULL,
   terug bigint NOT NULL, opnieuw bigint NOT NULL, eerste bigint NOT NULL, hoogste bigint NOT NULL, bewerking uuid,
   gebruiker name NOT NULL, opgeslagen timestamptz NOT NULL, PRIMARY KEY (client, nummer));
 
 CREATE TYPE kantoor.wijziging_rij AS (nummer bigint, stap bigint, tabel bigint, sleutel bigint, lening bigint,
   lening_naam bigint, kolom bigint, kolom_naam bigint, veld bigint, oud bytea, nieuw bytea);
-CREATE TABLE kantoor.wijziging (client integer NOT NULL REFERENCES kantoor.client ON DELETE CASCADE,
+CREATE TABLE kantoor.wijziging (client integer NOT NULL,
   nummer bigint NOT NULL, stap bigint NOT NULL, tabel bigint NOT NULL, sleutel bigint NOT NULL, lening bigint NOT NULL,
   lening_naam bigint NOT NULL, kolom bigint NOT NULL, kolom_naam bigint NOT NULL, veld bigint NOT NULL,
   oud bytea, nieuw bytea, PRIMARY KEY (client, nummer));

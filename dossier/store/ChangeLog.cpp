@@ -17,11 +17,12 @@ bool CarriesOver(const Entry& reason, Maker maker) {
 
 }  // namespace
 
-void ChangeLog::Store(Sleutel highest, Maker maker) {
+std::optional<KeptEdit> ChangeLog::Store(Sleutel highest, Maker maker) {
   const std::vector<Entry> entries = edited_.Differences();
-  if (entries.empty()) return;
+  if (entries.empty()) return {};
   const bool carriesOver = kind_ == StepKind::Edit && CarriesOver(entries.front(), maker);
-  Write(entries, carriesOver ? StepKind::CarryOver : kind_, highest);
+  const HistoryRows& written = Write(entries, carriesOver ? StepKind::CarryOver : kind_, highest);
+  return KeptEdit{.history = written, .rows = edited_.All()};
 }
 
 void ChangeLog::Committed() {
@@ -45,7 +46,7 @@ const HistoryState& ChangeLog::Last() {
   return *last_;
 }
 
-void ChangeLog::Write(const std::vector<Entry>& entries, StepKind kind, Sleutel highest) {
+const HistoryRows& ChangeLog::Write(const std::vector<Entry>& entries, StepKind kind, Sleutel highest) {
   HistoryState next = Last();
   ++next.step;
   next.highest = std::max(highest, next.highest);
@@ -69,8 +70,9 @@ void ChangeLog::Write(const std::vector<Entry>& entries, StepKind kind, Sleutel 
       break;
   }
   if (next.undo >= next.step && !edit) HistoryIsBroken();
-  history_.Add(next, kind, of, author_, entries);
+  const HistoryRows& written = history_.Add(next, kind, of, author_, entries);
   pending_ = next;
+  return written;
 }
 
 std::int64_t ChangeLog::Step(StepKind kind) {

@@ -6,6 +6,7 @@
 
 #include "dossier/store/CaseRows.h"
 #include "dossier/store/Database.h"
+#include "dossier/store/EditKeeper.h"
 #include "dossier/store/EditedRows.h"
 #include "dossier/store/Edits.h"
 #include "dossier/store/History.h"
@@ -27,8 +28,9 @@ class ChangeLog {
   void TouchColumn(Sleutel kolom) { edited_.TouchColumn(kolom); }
   void Added(Tabel tabel, Sleutel key) { edited_.Added(tabel, key); }
 
-  /// Writes the step, as a part of the transaction. `highest`: the highest key that was given out.
-  void Store(Sleutel highest, Maker maker);
+  /// Writes the step, as a part of the transaction. `highest`: the highest key that was given out. Answers what was
+  /// written, until the transaction ends; nothing where the edit changed nothing.
+  [[nodiscard]] std::optional<KeptEdit> Store(Sleutel highest, Maker maker);
   /// The transaction was committed, or rolled back.
   void Committed();
   void RolledBack();
@@ -61,7 +63,7 @@ class ChangeLog {
 
  private:
   [[nodiscard]] const HistoryState& Last();
-  void Write(const std::vector<Entry>& entries, StepKind kind, Sleutel highest);
+  const HistoryRows& Write(const std::vector<Entry>& entries, StepKind kind, Sleutel highest);
 
   Database& database_;
   CaseRows rows_{database_};

@@ -7,6 +7,8 @@
 #include <QUrl>
 #include <atomic>
 
+#include "dossier/store/Rows.h"
+
 namespace brivane::dossier {
 namespace {
 
@@ -57,6 +59,7 @@ Database::Database(const QString& pad, Access access)
 
 Database::~Database() {
   often_.clear();
+  rows_.clear();
   database_.close();
   database_ = {};
   QSqlDatabase::removeDatabase(naam_);
@@ -67,15 +70,17 @@ void Database::Run(const QString& sql) {
   if (!query.exec(sql)) throw DatabaseError(query.lastError());
 }
 
-void Database::RunAgain(const QString& sql) {
-  QSqlQuery& query = Again(sql);
-  Run(query);
-  query.finish();
-}
+void Database::RunAgain(const QString& sql) { RowsAgain(sql).Run(); }
 
 QSqlQuery& Database::Again(const QString& sql) {
   const auto known = often_.find(sql);
   return known != often_.end() ? known->second : often_.emplace(sql, Prepare(sql)).first->second;
+}
+
+Rows& Database::RowsAgain(const QString& sql) {
+  std::unique_ptr<Rows>& rows = rows_[sql];
+  if (!rows) rows = std::make_unique<Rows>(*this, sql);
+  return *rows;
 }
 
 QVariant Database::Value(const QString& sql) {

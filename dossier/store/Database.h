@@ -6,12 +6,15 @@
 #include <QString>
 #include <QVariant>
 #include <map>
+#include <memory>
 #include <stdexcept>
 #include <string>
 
 struct sqlite3;
 
 namespace brivane::dossier {
+
+class Rows;
 
 /// SQLite's primary result codes that the store tells apart.
 enum class SqliteCode : int {
@@ -64,6 +67,8 @@ class Database {
   void RunAgain(const QString& sql);
   /// A statement that is run often, prepared once; finished before it is asked again.
   [[nodiscard]] QSqlQuery& Again(const QString& sql);
+  /// The same, to be read as Rows.
+  [[nodiscard]] Rows& RowsAgain(const QString& sql);
   /// The first value of the first row.
   [[nodiscard]] QVariant Value(const QString& sql);
   /// A prepared statement whose rows are read once, in order.
@@ -78,6 +83,7 @@ class Database {
   QString naam_;
   QSqlDatabase database_;
   std::map<QString, QSqlQuery> often_;
+  std::map<QString, std::unique_ptr<Rows>> rows_;
 };
 
 /// Texts travel as their UTF-8 bytes, so that what is read is what was written to the byte: a parameter for a

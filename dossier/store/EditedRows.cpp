@@ -65,13 +65,18 @@ void EditedRows::Added(Tabel tabel, Sleutel key) {
 
 std::vector<Entry> EditedRows::Differences() {
   growth_ = 0;
-  for (Touched& row : touched_) {
+  others_.clear();
+  for (EditedRow& row : touched_) {
     row.after = rows_.Read(row.tabel, row.key);
     if (row.after) growth_ += WeightOf(row.tabel, *row.after);
     if (row.before) growth_ -= WeightOf(row.tabel, *row.before);
   }
   std::vector<Entry> entries;
-  for (const Touched& row : touched_) Compare(row, entries);
+  for (EditedRow& row : touched_) {
+    const std::size_t before = entries.size();
+    Compare(row, entries);
+    row.differs = entries.size() > before;
+  }
   // What the adviser did comes first.
   if (first_) {
     const auto is = [&](const Entry& entry) {
@@ -83,7 +88,7 @@ std::vector<Entry> EditedRows::Differences() {
   return entries;
 }
 
-void EditedRows::Compare(const Touched& row, std::vector<Entry>& entries) {
+void EditedRows::Compare(const EditedRow& row, std::vector<Entry>& entries) {
   if (!row.before && !row.after) return;
   Entry entry;
   entry.tabel = row.tabel;
@@ -106,37 +111,39 @@ void EditedRows::Compare(const Touched& row, std::vector<Entry>& entries) {
   }
 }
 
-Row EditedRows::Known(Tabel tabel, Sleutel key) {
+const Row& EditedRows::Known(Tabel tabel, Sleutel key) {
   if (const auto place = places_.find({tabel, key}); place != places_.end()) {
-    const Touched& row = touched_[place->second];
+    const EditedRow& row = touched_[place->second];
     if (row.after) return *row.after;
     if (row.before) return *row.before;
   }
-  return rows_.Read(tabel, key).value_or(Row());
+  const auto [other, unknown] = others_.try_emplace({tabel, key});
+  if (unknown) other->second = rows_.Read(tabel, key).value_or(Row());
+  return other->second;
 }
 
 void EditedRows::Describe(Entry& entry, const Row& row) {
   static const int kolomVanPeriode = PlaceOf(Tabel::Periode, "kolom");
   static const int leningVanKolom = PlaceOf(Tabel::Kolom, "lening");
   static const int omschrijving = PlaceOf(Tabel::Kolom, "omschrijving");
-  Row kolom;
+  const Row* kolom = nullptr;
   switch (entry.tabel) {
     case Tabel::Lening: entry.lening = entry.key; break;
     case Tabel::Kolom:
       entry.kolom = entry.key;
-      kolom = row;
+      kolom = &row;
       break;
     case Tabel::Periode:
       entry.kolom = Whole(row, kolomVanPeriode);
-      kolom = Known(Tabel::Kolom, entry.kolom);
+      if (entry.kolom != 0) kolom = &Known(Tabel::Kolom, entry.kolom);
       break;
     case Tabel::Dossier:
     case Tabel::Persoon:
     case Tabel::Voorstel: break;
   }
-  if (entry.kolom != 0) {
-    entry.kolom_naam = Shortened(TextOf(kolom, omschrijving));
-    entry.lening = Whole(kolom, leningVanKolom);
+  if (kolom != nullptr && entry.kolom != 0) {
+    entry.kolom_naam = Shortened(TextOf(*kolom, omschrijving));
+    entry.lening = Whole(*kolom, leningVanKolom);
   }
   if (entry.lening != 0) entry.lening_naam = NameOfLoan(Known(Tabel::Lening, entry.lening));
 }
@@ -144,6 +151,7 @@ void EditedRows::Describe(Entry& entry, const Row& row) {
 void EditedRows::Clear() {
   touched_.clear();
   places_.clear();
+  others_.clear();
   first_.reset();
   growth_ = 0;
 }

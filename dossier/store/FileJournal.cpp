@@ -48,10 +48,10 @@ bool IsAsLargeAsItMayBe(Database& database) {
   }
 }
 
-QVariant AlsVariant(const Waarde& waarde) {
-  if (const auto* getal = std::get_if<std::int64_t>(&waarde)) return QVariant(static_cast<qlonglong>(*getal));
-  if (const auto* breuk = std::get_if<double>(&waarde)) return QVariant(*breuk);
-  return QVariant(AlsBytes(std::get<std::string_view>(waarde)));
+Stored AsStored(const Waarde& waarde) {
+  if (const auto* getal = std::get_if<std::int64_t>(&waarde)) return *getal;
+  if (const auto* breuk = std::get_if<double>(&waarde)) return *breuk;
+  return std::string(std::get<std::string_view>(waarde));
 }
 
 /// Only what opens again is stored.
@@ -93,9 +93,6 @@ void FileJournal::Sluit() {
   log_.Close();
   kolomvelden_.clear();
   periodevelden_.clear();
-  verwijder_periode_.reset();
-  begin_.reset();
-  commit_.reset();
   database_.reset();
   if (held_) held_->RemoveEmptyLog();
   held_.reset();
@@ -128,17 +125,14 @@ Database& FileJournal::Open() {
   return *database_;
 }
 
-QSqlQuery& FileJournal::Prepared(std::optional<QSqlQuery>& query, const QString& sql) {
-  if (!query) query = database_->Prepare(sql);
-  return *query;
+Rows& FileJournal::Prepared(std::optional<Rows>& rows, const char* tabel, std::string_view veld, const Waarde& waarde) {
+  if (!rows) rows.emplace(*database_, Update(tabel, veld, waarde));
+  return *rows;
 }
 
-void FileJournal::RunForOne(QSqlQuery& query) {
-  Database::Run(query);
-  const int rijen = query.numRowsAffected();
-  query.finish();
+void FileJournal::RunForOne(Rows& rows, const Row& values) {
   // A column that was removed meanwhile, held by someone who was not told.
-  if (rijen != 1) throw host::Error(host::ErrorNumber::ObjectMissing);
+  if (rows.Run(values) != 1) throw host::Error(host::ErrorNumber::ObjectMissing);
 }
 
 template <class Change> void FileJournal::Write(Change&& change) {
@@ -167,7 +161,7 @@ void FileJournal::Begin() {
   }
   if (keeper_) keeper_->Begin();
   try {
-    Database::Run(Prepared(begin_, QStringLiteral("BEGIN IMMEDIATE")));
+    database_->RunAgain(QStringLiteral("BEGIN IMMEDIATE"));
   } catch (const DatabaseError& error) {
     throw AlsFout(error);
   }
@@ -175,12 +169,12 @@ void FileJournal::Begin() {
 
 void FileJournal::Commit() {
   try {
-    log_.Store(writer_.Hoogste(), edits_.MadeBy());
+    const std::optional<KeptEdit> edit = log_.Store(writer_.Hoogste(), edits_.MadeBy());
     if (weight_ + log_.Growth() > kMostWeight)
       throw DatabaseError(SqliteCode::Full, "The case is as large as it may be");
     AddState(*database_, FileBefore());
-    if (keeper_) keeper_->Keep(*database_);
-    Database::Run(Prepared(commit_, QStringLiteral("COMMIT")));
+    if (keeper_ && edit) keeper_->Keep(*database_, *edit);
+    database_->RunAgain(QStringLiteral("COMMIT"));
   } catch (const DatabaseError& error) {
     throw StoringFailed(error);
   }
@@ -223,10 +217,7 @@ void FileJournal::SetField(Sleutel kolom, KolomVeld veld, const Waarde& waarde) 
   Write([&](Database&) {
     MustBePossible(IsPossible(veld, waarde));
     log_.Touch(Tabel::Kolom, kolom, PlaceOf(Tabel::Kolom, ColumnName(veld.naam)));
-    QSqlQuery& query = Prepared(kolomvelden_[veld.naam], Update("vrijekolom", veld.naam, waarde));
-    query.bindValue(0, AlsVariant(waarde));
-    query.bindValue(1, static_cast<qlonglong>(kolom));
-    RunForOne(query);
+    RunForOne(Prepared(kolomvelden_[veld.naam], "vrijekolom", veld.naam, waarde), {AsStored(waarde), kolom});
   });
 }
 
@@ -244,19 +235,14 @@ void FileJournal::SetField(Sleutel periode, PeriodeVeld veld, const Waarde& waar
   Write([&](Database&) {
     MustBePossible(IsPossible(veld, waarde));
     log_.Touch(Tabel::Periode, periode, PlaceOf(Tabel::Periode, ColumnName(veld.naam)));
-    QSqlQuery& query = Prepared(periodevelden_[veld.naam], Update("periode", veld.naam, waarde));
-    query.bindValue(0, AlsVariant(waarde));
-    query.bindValue(1, static_cast<qlonglong>(periode));
-    RunForOne(query);
+    RunForOne(Prepared(periodevelden_[veld.naam], "periode", veld.naam, waarde), {AsStored(waarde), periode});
   });
 }
 
 void FileJournal::RemovePeriod(Sleutel periode) {
-  Write([&](Database&) {
+  Write([&](Database& database) {
     log_.Touch(Tabel::Periode, periode);
-    QSqlQuery& query = Prepared(verwijder_periode_, QStringLiteral("DELETE FROM periode WHERE sleutel = ?"));
-    query.bindValue(0, static_cast<qlonglong>(periode));
-    RunForOne(query);
+    RunForOne(database.RowsAgain(QStringLiteral("DELETE FROM periode WHERE sleutel = ?")), {periode});
   });
 }
 
@@ -272,9 +258,7 @@ void FileJournal::AddColumn(Sleutel lening, KolomGegevens& kolom) {
 void FileJournal::RemoveColumn(Sleutel kolom) {
   Write([&](Database& database) {
     log_.TouchColumn(kolom);
-    QSqlQuery query = database.Prepare(QStringLiteral("DELETE FROM vrijekolom WHERE sleutel = ?"));
-    query.bindValue(0, static_cast<qlonglong>(kolom));
-    RunForOne(query);
+    RunForOne(database.RowsAgain(QStringLiteral("DELETE FROM vrijekolom WHERE sleutel = ?")), {kolom});
   });
 }
 
@@ -282,13 +266,9 @@ void FileJournal::MoveColumn(Sleutel kolom, Sleutel lening, std::int16_t Id) {
   Write([&](Database& database) {
     MustBePossible(IsPossibleId(Id));
     log_.Touch(Tabel::Kolom, kolom, PlaceOf(Tabel::Kolom, "lening"));
-    QSqlQuery query =
-        database.Prepare(QStringLiteral("UPDATE vrijekolom SET lening = ?, id = ?, volgorde = ? WHERE sleutel = ?"));
-    query.bindValue(0, static_cast<qlonglong>(lening));
-    query.bindValue(1, static_cast<qlonglong>(Id));
-    query.bindValue(2, static_cast<qlonglong>(writer_.Volgende()));
-    query.bindValue(3, static_cast<qlonglong>(kolom));
-    RunForOne(query);
+    RunForOne(
+        database.RowsAgain(QStringLiteral("UPDATE vrijekolom SET lening = ?, id = ?, volgorde = ? WHERE sleutel = ?")),
+        {lening, std::int64_t{Id}, writer_.Volgende(), kolom});
   });
 }
 
@@ -305,10 +285,8 @@ void FileJournal::RenameLoan(Sleutel lening, const std::string& naam) {
   Write([&](Database& database) {
     MustBePossible(IsPossibleText(naam));
     log_.Touch(Tabel::Lening, lening, PlaceOf(Tabel::Lening, "naam"));
-    QSqlQuery query = database.Prepare(QStringLiteral("UPDATE lening SET naam = CAST(? AS TEXT) WHERE sleutel = ?"));
-    query.bindValue(0, AlsBytes(naam));
-    query.bindValue(1, static_cast<qlonglong>(lening));
-    RunForOne(query);
+    RunForOne(database.RowsAgain(QStringLiteral("UPDATE lening SET naam = CAST(? AS TEXT) WHERE sleutel = ?")),
+              {naam, lening});
   });
 }
 
@@ -333,9 +311,7 @@ void FileJournal::RemoveLoan(Sleutel lening) {
         "nummer"));
     for (const Sleutel other : later) log_.Touch(Tabel::Lening, other);
     database.Run(QStringLiteral("DELETE FROM vrijekolom WHERE lening = %1").arg(of));
-    QSqlQuery query = database.Prepare(QStringLiteral("DELETE FROM lening WHERE sleutel = ? AND nummer > 0"));
-    query.bindValue(0, static_cast<qlonglong>(lening));
-    RunForOne(query);
+    RunForOne(database.RowsAgain(QStringLiteral("DELETE FROM lening WHERE sleutel = ? AND nummer > 0")), {lening});
     for (const Sleutel other : later) {
       database.Run(QStringLiteral("UPDATE lening SET nummer = nummer - 1 WHERE sleutel = %1").arg(other));
     }
@@ -363,12 +339,10 @@ void FileJournal::SetProposal(std::int16_t voorstel, std::int16_t Vrij_Id, Membe
   Write([&](Database& database) {
     MustBePossible(lidmaatschap == Membership::No || IsPossibleId(Vrij_Id));
     log_.Touch(Tabel::Voorstel, ProposalKey(voorstel, Vrij_Id));
-    QSqlQuery query = database.Prepare(lidmaatschap == Membership::Yes
-                                           ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
-                                           : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?"));
-    query.bindValue(0, static_cast<qlonglong>(voorstel));
-    query.bindValue(1, static_cast<qlonglong>(Vrij_Id));
-    RunForOne(query);
+    RunForOne(database.RowsAgain(lidmaatschap == Membership::Yes
+                                     ? QStringLiteral("INSERT INTO voorstel (voorstel, vrij_id) VALUES (?, ?)")
+                                     : QStringLiteral("DELETE FROM voorstel WHERE voorstel = ? AND vrij_id = ?")),
+              {std::int64_t{voorstel}, std::int64_t{Vrij_Id}});
   });
 }
 

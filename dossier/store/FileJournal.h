@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSqlQuery>
 #include <functional>
 #include <map>
 #include <memory>
@@ -14,6 +13,7 @@
 #include "dossier/store/Edits.h"
 #include "dossier/store/HeldFile.h"
 #include "dossier/store/Reader.h"
+#include "dossier/store/Rows.h"
 #include "dossier/store/StateChain.h"
 #include "dossier/store/StoreErrors.h"
 #include "dossier/store/Writer.h"
@@ -85,9 +85,11 @@ class FileJournal : public Journal, private Edits::Transactions {
 
   /// The open file; throws when it was closed or could not be read again after a failure.
   [[nodiscard]] Database& Open();
-  [[nodiscard]] QSqlQuery& Prepared(std::optional<QSqlQuery>& query, const QString& sql);
+  /// An UPDATE of one field, prepared once; the value's kind goes with the field.
+  [[nodiscard]] Rows& Prepared(std::optional<Rows>& rows, const char* tabel, std::string_view veld,
+                               const Waarde& waarde);
   /// Runs a statement that is to change exactly one row.
-  static void RunForOne(QSqlQuery& query);
+  static void RunForOne(Rows& rows, const Row& values);
   template <class Change> void Write(Change&& change);
   [[nodiscard]] FileStandsIn FileBefore() const;
   /// What is told of a failure to store.
@@ -106,12 +108,9 @@ class FileJournal : public Journal, private Edits::Transactions {
   int edits_in_log_ = 1;
   /// Working off was tried since the newest edit, here or by a program that was killed.
   bool newest_may_be_in_file_ = true;
-  std::optional<QSqlQuery> begin_;
-  std::optional<QSqlQuery> commit_;
   /// By the name of the field.
-  std::map<std::string_view, std::optional<QSqlQuery>> kolomvelden_;
-  std::map<std::string_view, std::optional<QSqlQuery>> periodevelden_;
-  std::optional<QSqlQuery> verwijder_periode_;
+  std::map<std::string_view, std::optional<Rows>> kolomvelden_;
+  std::map<std::string_view, std::optional<Rows>> periodevelden_;
   Edits edits_{*this};
 };
 

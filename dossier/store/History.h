@@ -40,6 +40,14 @@ struct Entry {
   [[nodiscard]] bool Removed() const { return field == 0 && std::holds_alternative<std::monostate>(after); }
 };
 
+/// What a step adds to the tables of the history: rows, their fields in the order of the columns.
+struct HistoryRows {
+  Row step;
+  std::vector<Row> entries;
+  /// The names that no step before had.
+  std::vector<Row> names;
+};
+
 struct Step {
   std::int64_t number = 0;
   /// Milliseconds since 1970, UTC.

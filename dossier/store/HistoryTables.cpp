@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "dossier/store/CaseRows.h"
+#include "dossier/store/Rows.h"
 
 namespace brivane::dossier {
 namespace {
@@ -152,39 +153,33 @@ std::int64_t HistoryTables::NumberOf(const std::string& name) {
     Database::Run(insert);
     number = insert.lastInsertId().toLongLong();
     insert.finish();
+    added_.names.push_back({number, name});
   }
   names_.emplace(name, number);
   return number;
 }
 
-void HistoryTables::Add(HistoryState& state, StepKind kind, std::int64_t of, const std::string& who,
-                        const std::vector<Entry>& entries) {
-  QSqlQuery& step = database_.Again(
-      QStringLiteral("INSERT INTO stap (nummer, tijd, medewerker, soort, van, terug, opnieuw, eerste, hoogste) "
-                     "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"));
-  int place = 0;
-  for (const std::int64_t number : {state.step, Now(), NumberOf(who), static_cast<std::int64_t>(kind), of, state.undo,
-                                    state.redo, state.entry + 1, state.highest}) {
-    step.bindValue(place++, static_cast<qlonglong>(number));
-  }
-  Database::Run(step);
-  step.finish();
-
-  QSqlQuery& insert = database_.Again(
-      QStringLiteral("INSERT INTO wijziging (nummer, stap, tabel, sleutel, lening, lening_naam, kolom, kolom_naam, "
-                     "veld, oud, nieuw) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
+const HistoryRows& HistoryTables::Add(HistoryState& state, StepKind kind, std::int64_t of, const std::string& who,
+                                      const std::vector<Entry>& entries) {
+  added_ = {};
+  added_.step = {state.step, Now(),           NumberOf(who), static_cast<std::int64_t>(kind), of, state.undo,
+                 state.redo, state.entry + 1, state.highest};
+  database_
+      .RowsAgain(
+          QStringLiteral("INSERT INTO stap (nummer, tijd, medewerker, soort, van, terug, opnieuw, eerste, hoogste) "
+                         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"))
+      .Run(added_.step);
+  Rows& insert = database_.RowsAgain(
+      QStringLiteral("INSERT INTO wijziging (nummer, stap, tabel, sleutel, lening, lening_naam, "
+                     "kolom, kolom_naam, veld, oud, nieuw) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
+  added_.entries.reserve(entries.size());
   for (const Entry& entry : entries) {
-    place = 0;
-    for (const std::int64_t number : {++state.entry, state.step, static_cast<std::int64_t>(entry.tabel), entry.key,
-                                      entry.lening, NumberOf(entry.lening_naam), entry.kolom,
-                                      NumberOf(entry.kolom_naam), static_cast<std::int64_t>(entry.field)}) {
-      insert.bindValue(place++, static_cast<qlonglong>(number));
-    }
-    insert.bindValue(place++, AsVariant(entry.before));
-    insert.bindValue(place++, AsVariant(entry.after));
-    Database::Run(insert);
-    insert.finish();
+    added_.entries.push_back({++state.entry, state.step, static_cast<std::int64_t>(entry.tabel), entry.key,
+                              entry.lening, NumberOf(entry.lening_naam), entry.kolom, NumberOf(entry.kolom_naam),
+                              std::int64_t{entry.field}, entry.before, entry.after});
+    insert.Run(added_.entries.back());
   }
+  return added_;
 }
 
 }  // namespace brivane::dossier

@@ -48,9 +48,9 @@ class HistoryTables {
   [[nodiscard]] std::vector<Entry> EntriesOf(std::int64_t step);
 
   /// Adds a step with its entries. `state`: after it, but for its last entry, which is filled in. `of`: the step that
-  /// is undone or redone, or its own number. `who` in UTF-8.
-  void Add(HistoryState& state, StepKind kind, std::int64_t of, const std::string& who,
-           const std::vector<Entry>& entries);
+  /// is undone or redone, or its own number. `who` in UTF-8. Answers what was added, until the next time.
+  const HistoryRows& Add(HistoryState& state, StepKind kind, std::int64_t of, const std::string& who,
+                         const std::vector<Entry>& entries);
   /// What was added was rolled back.
   void RolledBack() { names_.clear(); }
 
@@ -61,6 +61,7 @@ class HistoryTables {
 
   Database& database_;
   std::unordered_map<std::string, std::int64_t> names_;
+  HistoryRows added_;
 };
 
 }  // namespace brivane::dossier

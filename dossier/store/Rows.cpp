@@ -30,6 +30,30 @@ void Rows::Start(std::initializer_list<std::int64_t> parameters) {
   }
 }
 
+int Rows::Run(std::span<const Stored> values) {
+  Stop();
+  sqlite3_stmt* const statement = statement_.get();
+  int place = 0;
+  for (const Stored& value : values) {
+    int code = SQLITE_OK;
+    ++place;
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) {
+      code = sqlite3_bind_int64(statement, place, *whole);
+    } else if (const auto* broken = std::get_if<double>(&value)) {
+      code = sqlite3_bind_double(statement, place, *broken);
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+      code = sqlite3_bind_blob64(statement, place, text->data(), text->size(), SQLITE_TRANSIENT);
+    } else {
+      code = sqlite3_bind_null(statement, place);
+    }
+    if (code != SQLITE_OK) Fail(sqlite3_db_handle(statement));
+  }
+  while (Next()) continue;
+  const int changed = sqlite3_changes(sqlite3_db_handle(statement));
+  Stop();
+  return changed;
+}
+
 void Rows::Stop() { sqlite3_reset(statement_.get()); }
 
 bool Rows::Next() {

@@ -3,16 +3,18 @@
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <string_view>
 
+#include "dossier/store/CaseTables.h"
 #include "dossier/store/Database.h"
 
 struct sqlite3_stmt;
 
 namespace brivane::dossier {
 
-/// The rows that a query finds, one after the other. What a whole case is read with: each value goes straight from
-/// SQLite into its place, without a copy in between.
+/// The rows that a query finds, one after the other. What a whole case is read with, and the history written with: each
+/// value goes straight from SQLite into its place, without a copy in between.
 ///
 ///     Rows rows(database, QStringLiteral("SELECT nummer, naam FROM lening"));
 ///     while (rows.Next()) Use(rows.Whole(0), rows.Bytes(1));
@@ -24,6 +26,9 @@ class Rows {
 
   /// Starts anew, with these numbers for the statement's parameters in order.
   void Start(std::initializer_list<std::int64_t> parameters);
+  /// Runs a statement that finds none, and answers how many rows it changed, where it is one that does. A text among
+  /// the values is handed over as its bytes.
+  int Run(std::span<const Stored> values = {});
   /// Lets go of what the last row still holds open.
   void Stop();
 

@@ -4,6 +4,7 @@
 #include <concepts>
 
 #include "dossier/store/Fields.h"
+#include "dossier/store/Rows.h"
 
 namespace brivane::dossier {
 namespace {
@@ -116,17 +117,11 @@ void Writer::WritePeriode(Sleutel kolom, PeriodeGegevens& periode) {
 }
 
 Sleutel Writer::AddPeriode(Sleutel kolom) {
-  if (!periode_) periode_ = database_.Prepare(QStringLiteral("INSERT INTO periode (sleutel, kolom) VALUES (?, ?)"));
   const Sleutel sleutel = Volgende();
-  periode_->bindValue(0, AlsVariant(sleutel));
-  periode_->bindValue(1, AlsVariant(kolom));
-  Database::Run(*periode_);
+  database_.RowsAgain(QStringLiteral("INSERT INTO periode (sleutel, kolom) VALUES (?, ?)")).Run(Row{sleutel, kolom});
   return sleutel;
 }
 
-void Writer::Sluit() {
-  kolom_.reset();
-  periode_.reset();
-}
+void Writer::Sluit() { kolom_.reset(); }
 
 }  // namespace brivane::dossier

@@ -44,7 +44,6 @@ class Writer {
   Database& database_;
   Sleutel volgende_;
   std::optional<QSqlQuery> kolom_;
-  std::optional<QSqlQuery> periode_;
 };
 
 }  // namespace brivane::dossier

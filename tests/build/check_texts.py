@@ -18,8 +18,8 @@ FILES = ("brivane/frame/Dates.cpp", "brivane/frame/Dates.h", "brivane/frame/Numb
          "brivane/frame/Reading.h", "brivane/vrijekolom/Onderwerp.h")
 # For the engineer who embeds the editor, in English as error descriptions are.
 FOR_ENGINEERS = ("brivane/controls/WhatIsMissing.cpp",)
-# Fonts and colours.
-STYLES = ("web/package/src/style.js",)
+# Fonts and colours, and what is said where there is no catalogue.
+NOT_LOOKED_AT = ("web/package/src/style.js", "web/package/src/unloaded.js")
 NO_TEXTS = {
     "Ja": "a half of a toggle, which is a caption of the control",
     "Nee": "the other half",
@@ -35,7 +35,7 @@ NO_TEXTS = {
     "CreateWindowEx": "a function of Windows",
     "Escape": "a key of a page", "Enter": "a key of a page", "Tab": "a key of a page", "Home": "a key of a page",
     "End": "a key of a page",
-    "calc(${length} * var(${TWIP}))": "a length of a style sheet",
+    "clamp(0px, (${this.length(height)} + 3em - 94vh) * 99, 17px)": "a length of a style sheet",
     "box number": "classes of a style sheet", "message asks": "classes of a style sheet",
     **{f"control {kind}": "classes of a style sheet" for kind in (
         "frame", "plain", "label", "label lines", "date", "toggle", "hint", "choice", "box select", "button", "listview",
@@ -92,7 +92,7 @@ def sources(root):
                     yield path
     yield from FILES
     for name in sorted(os.listdir(os.path.join(root, SCRIPTS))):
-        if name.endswith(".js") and f"{SCRIPTS}/{name}" not in STYLES:
+        if name.endswith(".js") and f"{SCRIPTS}/{name}" not in NOT_LOOKED_AT:
             yield f"{SCRIPTS}/{name}"
 
 

@@ -2,8 +2,10 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 
+#include <brivane/frame/Doubles.h>
 #include <brivane/frame/Numbers.h>
 
 namespace brivane::frame {
@@ -105,6 +107,24 @@ TEST(Amount, ShowsGroupsAndTwoDecimals) {
   };
   for (const Accepted& row : kTable) EXPECT_EQ(ShowAmount(row.value), row.typed) << row.value;
   EXPECT_EQ(ShowAmount(std::numeric_limits<double>::infinity()), "");
+}
+
+TEST(Amount, RoundsAsItsShortestTextReads) {
+  std::mt19937 random(55);  // with digits that a double holds
+  for (int i = 0; i < 4000; ++i) {
+    const int euros = 100 + static_cast<int>(random() % (i % 2 == 0 ? 900 : 9'999'900));
+    const int cents = 10 + static_cast<int>(random() % 89);
+    const auto shown = [&](const std::string& behind) {
+      std::string text = ShowAmount(NearestDouble(std::to_string(euros) + "." + std::to_string(cents) + behind));
+      std::erase(text, '.');
+      return text;
+    };
+    const auto with = [&](int rounded) { return std::to_string(euros) + "," + std::to_string(rounded); };
+    for (const char* behind : {"0", "4", "49", "4999", "49999"}) ASSERT_EQ(shown(behind), with(cents)) << behind;
+    for (const char* behind : {"5", "50", "5001", "51", "9"}) ASSERT_EQ(shown(behind), with(cents + 1)) << behind;
+  }
+  EXPECT_EQ(ShowAmount(123456789012.345), "123.456.789.012,35");
+  EXPECT_EQ(ShowAmount(12345678901234.56), "12.345.678.901.234,56");
 }
 
 TEST(Amount, ReadsBackWhatItShows) {

@@ -1,43 +1,34 @@
 // An adviser works in the demo with the keyboard alone: what is accepted is there when the page is opened again.
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 
 import { useBrowser } from './harness/browser.mjs';
+import { Demo, SAMPLE } from './harness/demo.mjs';
+import { axeScript } from './harness/packages.mjs';
 import { Person } from './harness/person.mjs';
 
 const name = process.env.WEB_BROWSER || 'chrome';
 const { open } = useBrowser(name);
-const SAMPLE = ['Kinderopvang · € 485,50 per maand', 'Krant · Weekendabonnement · € 32,50 per maand',
-  'Muzieklessen aan huis · € 350,00 per maand', 'Goed doel · Gift nieuwbouw kinderhoek · € 1.500,00 eenmalig',
-  'Lijfrente-uitkering · € 6.250,00 per jaar', 'Vereniging · Tennislidmaatschap · € 240,00 per half jaar'];
-const columns = (page) => page.$eval('#posten', (list) => [...list.options].map(({ text }) => text));
-const focused = (page) => page.evaluate(() => document.activeElement.id || document.activeElement.localName);
-const saved = (page) => page.waitForSelector('body:not([data-saving])');
-
-async function started() {
-  const page = await open('/demo/index.html', { width: 1280, height: 800 });
-  await page.waitForSelector('body[data-ready]');
-  const person = new Person(page);
-  const comes = (what, text) => person.until(async () => (await page.$eval('#kop', (kop) => kop.textContent)) === text, what);
-  return { page, person, comes };
-}
+const started = () => Demo.started(open);
 
 test('demo.IsWorkedInWithTheKeyboardAlone', async () => {
-  const { page, person, comes } = await started();
-  assert.deepEqual(await columns(page), SAMPLE);
-  assert.equal(await focused(page), 'posten');
+  const demo = await started();
+  const { page, person } = demo;
+  assert.deepEqual(await demo.columns(), SAMPLE);
+  assert.equal(await demo.focused(), 'posten');
 
   // Down to the third column, into its amount, and back to the list.
   await person.press('ArrowDown', 'ArrowDown');
-  await comes('the third column', SAMPLE[2]);
+  await demo.comes('kop', SAMPLE[2]);
   await person.press('Enter');
   assert.equal(await person.focused(), 'optLast(2)');
   await person.press('Alt+b');
   assert.equal(await person.focused(), 'TxtBd');
   await person.type('1200/3');
   await person.press('Alt+t');
-  await person.until(async () => (await columns(page))[2] === 'Muzieklessen aan huis · € 400,00 per maand', 'the line in the list');
-  assert.equal(await focused(page), 'posten');
+  await person.until(async () => (await demo.columns())[2] === 'Muzieklessen aan huis · € 400,00 per maand', 'the line in the list');
+  assert.equal(await demo.focused(), 'posten');
 
   // What does not pass keeps the focus, and so the column.
   await person.press('Enter', 'Alt+b');
@@ -45,15 +36,16 @@ test('demo.IsWorkedInWithTheKeyboardAlone', async () => {
   await person.press('Alt+t');
   assert.equal(await person.focused(), 'TxtBd');
   await person.press('Escape', 'Alt+t');
-  assert.equal(await focused(page), 'posten');
+  assert.equal(await demo.focused(), 'posten');
   assert.deepEqual(page.faults, []);
 });
 
 test('demo.AColumnIsAddedFilledInAndThereWhenThePageIsOpenedAgain', async () => {
-  const { page, person, comes } = await started();
-  const before = await columns(page);
+  const demo = await started();
+  const { page, person } = demo;
+  const before = await demo.columns();
   await person.press('Insert');
-  await person.until(async () => (await focused(page)) === 'vrije-kolom', 'the focus in the new column');
+  await person.until(async () => (await demo.focused()) === 'vrije-kolom', 'the focus in the new column');
   await person.press('Alt+o');
   await person.type('Bijles');
   await person.press('Tab');
@@ -67,21 +59,20 @@ test('demo.AColumnIsAddedFilledInAndThereWhenThePageIsOpenedAgain', async () => 
   await person.press('Enter', 'Alt+o');
   await person.until(async () => !(await person.hasForm()), 'the end of the form');
   await person.press('Alt+t');
-  assert.deepEqual(await columns(page), [...before, 'Bijles · € 45,50 per kwartaal']);
+  assert.deepEqual(await demo.columns(), [...before, 'Bijles · € 45,50 per kwartaal']);
 
   // To a loan without columns, and one there.
   await person.press('Alt+k', 'End');
-  await comes('the empty loan', 'Deze lening heeft geen posten.');
-  assert.deepEqual(await columns(page), []);
+  await demo.comes('kop', 'Deze lening heeft geen posten.');
+  assert.deepEqual(await demo.columns(), []);
   await person.press('Alt+t', 'Insert');
-  await comes('its first column', 'Vrije kolom · € 0,00 per maand');
+  await demo.comes('kop', 'Vrije kolom · € 0,00 per maand');
 
-  await saved(page);
-  await page.reload();
-  await page.waitForSelector('body[data-ready]');
-  assert.deepEqual(await columns(page), [...before, 'Bijles · € 45,50 per kwartaal']);
+  await demo.saved();
+  await demo.reload();
+  assert.deepEqual(await demo.columns(), [...before, 'Bijles · € 45,50 per kwartaal']);
   await person.press('End');
-  await comes('the new column', 'Bijles · € 45,50 per kwartaal');
+  await demo.comes('kop', 'Bijles · € 45,50 per kwartaal');
   await person.press('Enter', 'Alt+s');
   await person.until(() => person.hasForm(), 'the form');
   assert.deepEqual([await person.text('txtBedrag(1)'), await person.text('txtBedrag(2)'), await person.text('txtBedrag(3)')], ['45,50', '50,00', '45,50']);
@@ -90,44 +81,145 @@ test('demo.AColumnIsAddedFilledInAndThereWhenThePageIsOpenedAgain', async () => 
 });
 
 test('demo.AColumnIsRemovedWhenThatIsConfirmedAndTheNextOneShown', async () => {
-  const { page, person, comes } = await started();
-  const before = await columns(page);
+  const demo = await started();
+  const { page, person } = demo;
+  const before = await demo.columns();
   await person.press('ArrowDown');
-  await comes('the second column', SAMPLE[1]);
-  const asked = () => page.waitForSelector('.vraag[open]');
-  const answered = () => page.waitForFunction(() => document.querySelector('.vraag') === null);
+  await demo.comes('kop', SAMPLE[1]);
   await person.press('Delete');
-  await asked();
-  await person.press('Enter');
-  await answered();
-  assert.deepEqual(await columns(page), before);
+  await demo.answer('Enter');
+  assert.deepEqual(await demo.columns(), before);
   await person.press('Delete');
-  await asked();
-  await person.press('Shift+Tab', 'Enter');
-  await answered();
-  await comes('the one after it', before[2]);
-  assert.deepEqual(await columns(page), before.filter((line) => line !== SAMPLE[1]));
-  assert.equal(await focused(page), 'posten');
+  await demo.answer('Shift+Tab', 'Enter');
+  await demo.comes('kop', before[2]);
+  assert.deepEqual(await demo.columns(), before.filter((line) => line !== SAMPLE[1]));
+  assert.equal(await demo.focused(), 'posten');
   assert.deepEqual(page.faults, []);
 });
 
 test('demo.TheSampleIsPutBackWhenThatIsConfirmed', async () => {
-  const { page, person, comes } = await started();
+  const demo = await started();
+  const { page, person } = demo;
   await person.press('Delete');
-  await page.waitForSelector('.vraag[open]');
-  await person.press('Shift+Tab', 'Enter');
-  await person.until(async () => (await columns(page))[0] !== SAMPLE[0], 'its going');
+  await demo.answer('Shift+Tab', 'Enter');
+  await person.until(async () => (await demo.columns())[0] !== SAMPLE[0], 'its going');
   await page.focus('#opnieuw');
   await person.press('Enter');
-  await page.waitForSelector('.vraag[open]');
-  await person.press('Shift+Tab', 'Enter');
-  await comes('the first column', SAMPLE[0]);
-  assert.deepEqual(await columns(page), SAMPLE);
-  await saved(page);
-  await page.reload();
-  await page.waitForSelector('body[data-ready]');
-  assert.deepEqual(await columns(page), SAMPLE);
+  await demo.answer('Shift+Tab', 'Enter');
+  await demo.comes('kop', SAMPLE[0]);
+  assert.deepEqual(await demo.columns(), SAMPLE);
+  await demo.saved();
+  await demo.reload();
+  assert.deepEqual(await demo.columns(), SAMPLE);
 });
+
+test('demo.ANewColumnWaitsForWhatDoesNotPass', async () => {
+  const demo = await started();
+  const { page, person } = demo;
+  await demo.typeAmount('x');
+  for (const button of ['#nieuw', '#dupliceer']) {
+    await page.click(button);
+    await person.until(async () => (await person.focused()) === 'TxtBd', 'the focus where it does not pass');
+    assert.deepEqual(await demo.columns(), SAMPLE);
+    assert.equal(await person.said(), 'Vul een bedrag in, bijvoorbeeld 1.234,56.');
+  }
+  await person.press('Escape', 'Alt+t', 'Insert');
+  await demo.comes('kop', 'Vrije kolom · € 0,00 per maand');
+  assert.deepEqual(await demo.columns(), [...SAMPLE, 'Vrije kolom · € 0,00 per maand']);
+  assert.deepEqual(page.faults, []);
+});
+
+/** The proposals and the numbers of the current loan, as they are kept. */
+const kept = (page) => page.evaluate(async () => {
+  const { openStore } = await import('/demo/store.js');
+  const { Voorstellen, HuidigeLening } = await (await openStore()).read();
+  return { Voorstellen, ids: HuidigeLening.VrijeKolommen.map(({ Id }) => Id) };
+});
+
+test('demo.AnItemThatIsRemovedLeavesTheProposalsAndItsNumber', async () => {
+  const demo = await started();
+  const { page, person } = demo;
+  await person.press('End');
+  await demo.comes('kop', SAMPLE[5]);
+  await person.press('Delete');
+  await demo.answer('Shift+Tab', 'Enter');
+  await demo.comes('kop', SAMPLE[4]);
+  await demo.saved();
+  assert.deepEqual(await kept(page), { Voorstellen: [[], [], []], ids: [1, 2, 3, 4, 5] });
+
+  // The last number is that of an item of another loan, which goes as well.
+  await person.press('Alt+k', 'ArrowDown', 'Alt+t', 'End');
+  await demo.comes('kop', 'Onderhoud zonnepanelen · € 95,00 per jaar');
+  await person.press('Delete');
+  await demo.answer('Shift+Tab', 'Enter');
+  await demo.saved();
+  await demo.reload();
+  await person.press('Insert');
+  await demo.comes('kop', 'Vrije kolom · € 0,00 per maand');
+  await demo.saved();
+  assert.deepEqual((await kept(page)).ids, [1, 2, 3, 4, 5, 8]);
+  assert.deepEqual(page.faults, []);
+});
+
+test('demo.AnItemOfWhichAVersionIsLeftStaysInItsProposals', async () => {
+  const { page } = await started();
+  const Voorstellen = await page.evaluate(async () => {
+    const { openCase } = await import('/demo/case.js');
+    let changes = 0;
+    const { Dossier: dossier } = openCase({ HuidigeLening: { VrijeKolommen: [{ Id: 3 }] }, Leningen: [{ VrijeKolommen: [{ Id: 3 }] }] }, { changed: () => ++changes });
+    for (const voorstel of [1, 2]) dossier.VoegToeAanVoorstel(voorstel, 3);
+    if (changes === 0) throw new Error('nobody was told');
+    dossier.Verwijder(0, 3);
+    const between = dossier.Voorstellen.map((leden) => [...leden]);
+    dossier.Verwijder(1, 3);
+    return [between, dossier.Voorstellen.map((leden) => [...leden])];
+  });
+  assert.deepEqual(Voorstellen, [[[3], [3], []], [[], [], []]]);
+});
+
+// The editor takes the item out of the proposals itself.
+test('demo.ACarryOverIsKept', async () => {
+  const demo = await started();
+  const { page, person } = demo;
+  await demo.typeAmount('500');
+  await person.press('Alt+t', 'ArrowDown');
+  await person.until(async () => (await person.message()) !== '', 'the question');
+  await person.pause();
+  await person.press('Alt+j');
+  await demo.comes('kop', SAMPLE[1]);
+  assert.equal(await demo.textOf('fouten'), '');
+  await person.press('Alt+k', 'ArrowDown');
+  await demo.comes('kop', 'Onderhoud zonnepanelen · € 95,00 per jaar');
+  assert.deepEqual(page.faults, []);
+});
+
+/** What a person may come upon, each to be looked at. */
+const SIGHTS = {
+  'de posten': () => {},
+  'een vraag': (demo) => demo.person.press('Delete').then(() => demo.asked()),
+  'een melding': ({ page }) => page.evaluate(() => {
+    const line = document.createElement('li');
+    line.textContent = 'Type mismatch (13, VrijeKolom)';
+    document.querySelector('#fouten').append(line);
+  }),
+  'wat niet bewaard is': async (demo) => {
+    await demo.page.evaluate(() => (IDBObjectStore.prototype.put = () => { throw new DOMException('vol', 'QuotaExceededError'); }));
+    await demo.typeAmount('5');
+    await demo.person.press('Enter');
+    await demo.comes('bewaard', /^Niet bewaard/);
+  },
+};
+for (const scheme of ['light', 'dark'])
+  for (const [sight, come] of Object.entries(SIGHTS))
+    test(`demo.NothingIsFoundIn ${sight} ${scheme}`, { skip: name === 'firefox' }, async () => {
+      const demo = await started();
+      await demo.page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
+      await come(demo);
+      await demo.page.evaluate(readFileSync(axeScript, 'utf8'));
+      const { violations, passes } = await demo.page.evaluate(() => axe.run(document));
+      assert.ok(passes.length > 10, `${passes.length} rules held`);
+      assert.deepEqual(violations.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html}\n${failureSummary}`)), []);
+    });
 
 // Only Chromium plays a phone.
 test('demo.FitsAPhoneByScrolling', { skip: name === 'firefox' }, async () => {

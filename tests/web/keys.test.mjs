@@ -50,6 +50,21 @@ editing('EscapePutsBackWhatStood', async () => {
   assert.equal(await item('Bedrag'), 7);
 });
 
+for (const [name, long] of [['TxtOm', 'Contributie van de vereniging van eigenaars, met het groot onderhoud'], ['TxtBd', '123456789012']])
+  editing(`ATextThatIsCutOffShowsIt: ${name}`, async () => {
+    const look = async () =>
+      (await person.control(name)).evaluate((box) => [box.scrollWidth > box.clientWidth, getComputedStyle(box).textOverflow]);
+    await person.typeOver(name, '7');
+    await person.press('Tab');
+    assert.deepEqual(await look(), [false, 'clip']);
+    await person.typeOver(name, long);
+    await person.press('Tab');
+    assert.deepEqual(await look(), [true, 'ellipsis']);
+    await person.typeOver(name, '7');
+    await person.press('Tab');
+    assert.deepEqual(await look(), [false, 'clip']);
+  });
+
 editing('ASumIsReckonedOutAndItsOutcomeSaid', async () => {
   await person.typeOver('TxtBd', '1200/12');
   assert.equal(await person.said(), '= 100,00');

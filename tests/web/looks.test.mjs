@@ -59,6 +59,34 @@ test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
   assert.deepEqual([width, height], [0, 0]);
 });
 
+// A4 between the margins that browsers leave, in pixels of paper.
+const PAPER = { width: 718, height: 1047 };
+test('looks.OnPaperAllIsThereAndEveryAnswerReadsAsItIs', async () => {
+  await page.setViewport(PAPER);
+  await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: 'dark' }]);
+  await bind('editor-overgang');
+  await page.emulateMediaType('print');
+  const seen = await page.evaluate(() => {
+    const { editor } = window;
+    const parts = [...editor.shadowRoot.querySelectorAll('.control, th, td')].filter((part) => part.checkVisibility());
+    const told = editor.shadowRoot.querySelectorAll('.toggle[aria-checked="true"] span:first-child, .toggle[aria-checked="false"] span:last-child, tr[aria-current] td');
+    return {
+      overflow: getComputedStyle(editor).overflowX,
+      right: Math.max(...parts.map((part) => part.getBoundingClientRect().right)),
+      text: getComputedStyle(editor).color,
+      adjust: [...told].map((half) => getComputedStyle(half).printColorAdjust),
+    };
+  });
+  await page.emulateMediaType(null);
+  await page.emulateMediaFeatures([]);
+  await page.setViewport({ width: 1100, height: 900 });
+  assert.equal(seen.overflow, 'visible');
+  assert.ok(seen.right > PAPER.width * 0.8 && seen.right <= PAPER.width, `up to ${seen.right} of ${PAPER.width}`);
+  assert.equal(seen.text, 'rgb(0, 0, 0)');
+  assert.ok(seen.adjust.length > 8);
+  assert.deepEqual(new Set(seen.adjust), new Set(['exact']));
+});
+
 /** What a person may come upon, each to be looked at. */
 const SIGHTS = {
   ...Object.fromEntries(Object.keys(STATES).map((state) => [state, () => bind(state)])),
@@ -81,18 +109,32 @@ const SIGHTS = {
   },
 };
 
+const found = (looked) => looked.evaluate(async () => {
+  const { violations, passes } = await axe.run(document, { resultTypes: ['violations', 'passes'] });
+  return { violations: violations.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html}\n${failureSummary}`)), passes: passes.length };
+});
+
 for (const scheme of ['light', 'dark'])
   for (const [name, show] of Object.entries(SIGHTS))
     test(`looks.NothingIsFoundIn ${name} ${scheme}`, async () => {
       await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
       await show();
-      const found = await page.evaluate(async () => {
-        const { violations, passes } = await axe.run(document, { resultTypes: ['violations', 'passes'] });
-        return { violations: violations.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html}\n${failureSummary}`)), passes: passes.length };
-      });
-      assert.ok(found.passes > 10, `${found.passes} rules held`);
-      assert.deepEqual(found.violations, []);
+      const { violations, passes } = await found(page);
+      assert.ok(passes > 10, `${passes} rules held`);
+      assert.deepEqual(violations, []);
     });
+
+for (const scheme of ['light', 'dark'])
+  test(`looks.NothingIsFoundIn several editors on a page ${scheme}`, async () => {
+    const many = await open('/tests/pages/many.html', { width: 1000, height: 2600 });
+    await many.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: scheme }]);
+    await many.waitForFunction(() => window.isReady);
+    await many.evaluate(readFileSync(axeScript, 'utf8'));
+    const { violations, passes } = await found(many);
+    await many.close();
+    assert.ok(passes > 10, `${passes} rules held`);
+    assert.deepEqual(violations, []);
+  });
 
 function* lines({ role, name = '', children = [], value, checked, disabled, description, focused }, depth = 0) {
   const state = [value === undefined ? '' : ` = ${value}`, checked === undefined ? '' : checked ? ' checked' : ' unchecked',

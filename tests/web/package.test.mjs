@@ -68,6 +68,31 @@ test('package.WorksFromAPlainScript', async () => {
   assert.deepEqual(page.faults, []);
 });
 
+// What esbuild makes unless it is told otherwise knows no address of its own.
+test('package.WorksInAPlainScriptOfABundler', async () => {
+  const folder = `${made}plain/`;
+  mkdirSync(`${folder}scripts`, { recursive: true });
+  cpSync(`${top}examples/web/smallest/host.js`, `${folder}host.js`);
+  writeFileSync(`${folder}host.js`, readFileSync(`${folder}host.js`, 'utf8').replace('/package/src/index.js', 'brivane-vrije-kolom')
+    .replace(/document.body.dataset.result = await (.*);/, '$1.then((result) => (document.body.dataset.result = result));'));
+  writeFileSync(`${folder}index.html`, readFileSync(`${top}examples/web/smallest/index.html`, 'utf8')
+    .replace('type="module" src="host.js"', 'defer src="scripts/host.js"'));
+  tool('esbuild', `${folder}host.js`, '--bundle', '--log-level=error', `--outfile=${folder}scripts/host.js`);
+  cpSync(`${installed}src/machine.wasm`, `${folder}scripts/machine.wasm`);
+  const page = await open('/made/plain/index.html');
+  await page.waitForFunction(() => document.body.dataset.result === 'bound');
+  assert.deepEqual(page.faults, []);
+});
+
+test('package.DoesNothingWhereThereIsNoPage', () => {
+  const said = run('node', '--input-type=module', '-e', `
+    const { ready, HostError, VrijeKolomElement } = await import('${installed}src/index.js');
+    await new Promise((done) => setTimeout(done, 50));
+    console.log(new HostError(9).number, typeof VrijeKolomElement, await ready.catch(({ message }) => message));
+  `);
+  assert.equal(said, '9 function No page\n');
+});
+
 test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   const entry = `${made}examples/web/form/`;
   cpSync(`${top}examples/web/form`, entry, { recursive: true });

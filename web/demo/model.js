@@ -69,12 +69,23 @@ export class Lening {
   }
 }
 
+function ledenVan({ Voorstellen }, voorstel) {
+  const leden = Voorstellen[voorstel - 1];
+  if (leden === undefined) throw noSuchElement();
+  return leden;
+}
+
 export class Dossier {
-  constructor({ Personen = [], HuidigeLening = {}, Leningen = [], Voorstellen = [[], [], []] }) {
+  constructor({ Personen = [], HuidigeLening = {}, Leningen = [], Voorstellen = [[], [], []], LaatsteId = 0 }) {
     this.Personen = Personen;
     this.HuidigeLening = new Lening(HuidigeLening);
     this.Leningen = Leningen.map((lening) => new Lening(lening));
     this.Voorstellen = Voorstellen.map((leden) => [...leden]);
+    const ids = this.AlleLeningen().flatMap(({ kolommen }) => kolommen.map(({ Id }) => Id));
+    this.LaatsteId = Math.max(LaatsteId, ...ids, ...this.Voorstellen.flat());
+  }
+  AlleLeningen() {
+    return [this.HuidigeLening, ...this.Leningen];
   }
   /** 0 is the loan of the current situation. */
   Lening(id) {
@@ -83,18 +94,24 @@ export class Dossier {
   Persoon(nummer) {
     return this.Personen[nummer - 1] ?? null;
   }
+  /** An item that was removed does not give its number to another one. */
+  NieuwId() {
+    return ++this.LaatsteId;
+  }
+  /** Takes a column out of a loan. An item that no loan has any more leaves the proposals as well. */
+  Verwijder(lenId, id) {
+    const lening = this.Lening(lenId);
+    lening.VerwijderVrijeKolom(lening.kolommen.findIndex(({ Id }) => Id === id) + 1);
+    if (this.AlleLeningen().some((ergens) => ergens.VrijeKolom(id) !== null)) return;
+    this.Voorstellen.forEach((_, i) => this.VerwijderUitVoorstel(i + 1, id));
+  }
   VoegToeAanVoorstel(voorstel, id) {
-    const leden = this.#leden(voorstel);
+    const leden = ledenVan(this, voorstel);
     if (!leden.includes(id)) leden.push(id);
   }
   VerwijderUitVoorstel(voorstel, id) {
-    const leden = this.#leden(voorstel);
+    const leden = ledenVan(this, voorstel);
     if (leden.includes(id)) leden.splice(leden.indexOf(id), 1);
-  }
-  #leden(voorstel) {
-    const leden = this.Voorstellen[voorstel - 1];
-    if (leden === undefined) throw noSuchElement();
-    return leden;
   }
 }
 

@@ -2,56 +2,37 @@
 
 import { ready } from './package/src/index.js';
 
+import { ask } from './ask.js';
+import { addColumn, fieldsOf, openCase, recordOf } from './case.js';
+import { Keeper } from './keeper.js';
 import { kopregel } from './kopregels.js';
-import { Application, Dossier, VrijeKolomItem } from './model.js';
+import { guardLeaving } from './leaving.js';
 import { VOORBEELD } from './sample.js';
-import { openStore, watched } from './store.js';
+import { noStore, openStore, Overtaken } from './store.js';
 
 const element = (id) => document.getElementById(id);
 const editor = document.querySelector('vrije-kolom');
 const vandaag = () => new Date().toLocaleDateString('sv-SE');
 
-let store;
-let dossier;
 let application;
 /** Where the editor stands: the loan's number and the column's. */
 let at = { lening: 0, id: 0 };
 
-/** The lines that the host makes of its columns. */
-function addLines(kolom) {
-  for (const name of ['Kopregel', 'Weergave'])
-    Object.defineProperty(kolom, name, { get: () => kopregel(kolom), enumerable: true, configurable: true });
-}
-const lening = (nummer = at.lening) => dossier.Lening(nummer);
-const everyLoan = () => [dossier.HuidigeLening, ...dossier.Leningen];
+const dossier = () => application.Dossier;
+const lening = (nummer = at.lening) => dossier().Lening(nummer);
+const firstOf = (nummer) => lening(nummer).kolommen[0]?.Id ?? 0;
 
-function open(given) {
-  const plain = new Dossier(given);
-  dossier = watched(plain, save);
-  for (const { kolommen } of [plain.HuidigeLening, ...plain.Leningen]) kolommen.forEach(addLines);
-  application = new Application(dossier, given);
-  application.gemeld = (trace) => complain(`${trace.ErrorDescription} (${trace.ErrorNumber}, ${trace.ObjectName})`);
-}
-
-let saving = null;
-let again = false;
-/** Writes the case; what changes meanwhile is written after it. */
-function save() {
-  if (saving !== null) return void (again = true);
-  document.body.dataset.saving = '';
-  saving = Promise.resolve().then(async () => {
-    do {
-      again = false;
-      const { Leeftijd, MaatschappijType } = VOORBEELD;
-      await store.write({ Leeftijd, MaatschappijType, ...JSON.parse(JSON.stringify(dossier)) });
-    } while (again);
-  }).then(
-    () => (element('bewaard').textContent = `Bewaard om ${new Date().toLocaleTimeString('nl-NL')}`),
-    (problem) => complain(`Niet bewaard: ${problem.message}`),
-  ).finally(() => {
-    saving = null;
-    delete document.body.dataset.saving;
+function open(record) {
+  application = openCase(record, {
+    changed: () => keeper.save(),
+    failed: (trace) => complain(`${trace.ErrorDescription} (${trace.ErrorNumber}, ${trace.ObjectName})`),
   });
+}
+
+/** Says whether what was filled in is kept; that it is not stays said until it is. */
+function tell(problem) {
+  element('bewaard').textContent = problem?.message ?? `Bewaard om ${new Date().toLocaleTimeString('nl-NL')}`;
+  element('bewaard').classList.toggle('niet', problem !== null);
 }
 
 function complain(text) {
@@ -61,7 +42,7 @@ function complain(text) {
 }
 
 function showLoans() {
-  element('lening').replaceChildren(...everyLoan().map((one, i) => new Option(one.Naam, String(i))));
+  element('lening').replaceChildren(...dossier().AlleLeningen().map((one, i) => new Option(one.Naam, String(i))));
   element('lening').value = String(at.lening);
 }
 function showColumns() {
@@ -71,68 +52,83 @@ function showColumns() {
   element('dupliceer').disabled = element('verwijder').disabled = none;
 }
 
-/** Goes to a column; false where the editor does not let go of the one it has. */
-async function goTo(nummer, id) {
-  if (editor.state === 'bound' && (await editor.validation())) {
-    showLoans();
-    showColumns();
-    return false;
-  }
-  at = { lening: nummer, id };
+/** Whether the editor does not let go of the column that it has. */
+async function stays() {
   element('fouten').replaceChildren();
+  return editor.state === 'bound' && editor.validation();
+}
+
+async function show(nummer, id) {
+  const result = id === 0 ? await editor.unbind() : await editor.setApplication(application, nummer, id);
+  if (result !== 'refused') at = { lening: nummer, id };
   showLoans();
   showColumns();
-  if (id === 0) await editor.unbind();
-  else await editor.setApplication(application, nummer, id);
-  element('kop').textContent = id === 0 ? 'Deze lening heeft geen posten.' : kopregel(lening().VrijeKolom(id));
-  return true;
+  const kolom = lening().VrijeKolom(at.id);
+  element('kop').textContent = kolom === null ? 'Deze lening heeft geen posten.' : kopregel(kolom);
 }
-const firstOf = (nummer) => lening(nummer).kolommen[0]?.Id ?? 0;
-const freeId = () => Math.max(0, ...everyLoan().flatMap(({ kolommen }) => kolommen.map(({ Id }) => Id))) + 1;
+
+/** Goes to a column, where the editor lets go of the one that it has. */
+async function goTo(nummer, id) {
+  if (!(await stays())) return show(nummer, id);
+  showLoans();
+  showColumns();
+}
 
 async function add(fields) {
-  const kolom = new VrijeKolomItem({ ...fields, Id: freeId() });
-  addLines(kolom);
-  lening().kolommen.push(kolom);
-  if (await goTo(at.lening, kolom.Id)) editor.focus();
-}
-
-async function ask(text) {
-  const box = element('vraag').content.firstElementChild.cloneNode(true);
-  box.querySelector('p').textContent = text;
-  document.body.append(box);
-  box.showModal();
-  await new Promise((closed) => box.addEventListener('close', closed));
-  box.remove();
-  return box.returnValue === 'ja';
+  await show(at.lening, addColumn(dossier(), lening(), fields));
+  editor.focus();
 }
 
 const DEEDS = {
-  nieuw: () => add({ CorrectieFiscaal: 3, DatumAanvang: vandaag() }),
+  nieuw: async () => {
+    if (!(await stays())) await add({ CorrectieFiscaal: 3, DatumAanvang: vandaag() });
+  },
   dupliceer: async () => {
-    if (await editor.validation()) return;
-    const { Voorstel, Kopregel, Weergave, ...fields } = JSON.parse(JSON.stringify(lening().VrijeKolom(at.id)));
-    await add(fields);
+    if (!(await stays())) await add(fieldsOf(lening().VrijeKolom(at.id)));
   },
   verwijder: async () => {
-    const kolom = lening().VrijeKolom(at.id);
-    if (!(await ask(`"${kopregel(kolom)}" verwijderen?`))) return;
+    if (!(await ask(`"${kopregel(lening().VrijeKolom(at.id))}" verwijderen?`))) return;
     await editor.unbind();
     const place = lening().kolommen.findIndex(({ Id }) => Id === at.id);
-    lening().VerwijderVrijeKolom(place + 1);
+    dossier().Verwijder(at.lening, at.id);
     // To what stands in its place now, or to the last.
     const { kolommen } = lening();
-    await goTo(at.lening, (kolommen[place] ?? kolommen.at(-1))?.Id ?? 0);
+    await show(at.lening, (kolommen[place] ?? kolommen.at(-1))?.Id ?? 0);
     element('posten').focus();
   },
   opnieuw: async () => {
     if (!(await ask('Het voorbeeld terugzetten? Wat u hebt ingevuld gaat weg.'))) return;
     await editor.unbind();
     open(VOORBEELD);
-    save();
-    await goTo(0, firstOf(0));
+    keeper.save();
+    await show(0, firstOf(0));
   },
 };
+
+/** What is not kept of this page cannot be kept any more; it can be looked at before the page begins anew. */
+async function overtaken() {
+  if (document.querySelector('.vraag') !== null) return;
+  tell(new Overtaken());
+  const isSeen = await ask(
+    'Dit dossier is in een ander tabblad gewijzigd. Wat u hier sindsdien hebt ingevuld is niet bewaard. ' +
+      'Na opnieuw laden ziet u het dossier zoals het nu is, en werkt u daarin verder.',
+    'Opnieuw laden', 'Eerst bekijken');
+  if (isSeen) beginAnew();
+}
+
+/** Shows what another page has written, unless that would lose what is under way here. */
+async function follow() {
+  // What is being written finds out by itself.
+  if (!keeper.isDone) return;
+  const kept = await store.read().catch(() => undefined);
+  if (keeper.knows(kept)) return;
+  const isIdle = keeper.isDone && editor.pending === false && document.querySelector('.vraag') === null;
+  if (!isIdle) return overtaken();
+  keeper.begin(kept);
+  open(kept);
+  const { lening: nummer, id } = at;
+  await show(nummer, lening(nummer).VrijeKolom(id) === null ? firstOf(nummer) : id);
+}
 
 editor.addEventListener('refreshtopdisplay', (event) => {
   element('kop').textContent = event.detail.text;
@@ -155,14 +151,27 @@ addEventListener('keydown', (event) => {
   event.preventDefault();
   element(goal).focus();
 });
-addEventListener('beforeunload', (event) => {
-  if (saving !== null) event.preventDefault();
-});
 
 await ready;
-store = await openStore();
-open((await store.read()) ?? VOORBEELD);
-element('client').textContent = dossier.Personen.map(({ Naam }) => Naam.filter((deel) => deel !== '').join(' ')).join(' en ');
-await goTo(0, firstOf(0));
+const store = await openStore().catch(noStore);
+const keeper = new Keeper(store, () => recordOf(application), {
+  begun: () => (document.body.dataset.saving = ''),
+  ended: (problem) => {
+    delete document.body.dataset.saving;
+    if (problem instanceof Overtaken) overtaken();
+    else tell(problem);
+  },
+});
+const beginAnew = guardLeaving(editor, keeper);
+const kept = await store.read();
+keeper.begin(kept);
+open(kept ?? VOORBEELD);
+store.listen(follow);
+if (store.problem) {
+  tell(store.problem);
+  element('belofte').hidden = true;
+}
+element('client').textContent = dossier().Personen.map(({ Naam }) => Naam.filter((deel) => deel !== '').join(' ')).join(' en ');
+await show(0, firstOf(0));
 element('posten').focus();
 document.body.dataset.ready = '';

@@ -9,9 +9,12 @@ export const POLICY = "default-src 'none'; script-src 'self' 'wasm-unsafe-eval';
 const TYPES = { '.html': 'text/html; charset=utf-8', '.js': 'text/javascript; charset=utf-8', '.css': 'text/css; charset=utf-8',
   '.wasm': 'application/wasm' };
 
-/** The file that a path names, or nothing. `folders` are pairs of what a path begins with and where that stands. */
-function fileOf(path, folders) {
-  const clean = normalize(path);
+/**
+ * The file that an address names, or nothing; throws where it is none. `folders` are pairs of what a path begins with and
+ * where that stands.
+ */
+function fileOf(address, folders) {
+  const clean = normalize(decodeURIComponent(new URL(address, 'http://localhost').pathname));
   const found = folders.find(([start]) => clean.startsWith(start));
   if (found === undefined) return null;
   let file = found[1] + clean.slice(found[0].length);
@@ -22,14 +25,19 @@ function fileOf(path, folders) {
 /** Resolves when it listens: { origin, close }. Port 0 takes a free one. */
 export async function serve(folders, port = 0) {
   const server = http.createServer((request, response) => {
-    const file = fileOf(decodeURIComponent(new URL(request.url, 'http://localhost').pathname), folders);
+    let file = null;
+    try {
+      file = fileOf(request.url, folders);
+    } catch {
+      return void response.writeHead(400).end();
+    }
     if (file === null) return void response.writeHead(404).end();
     response.writeHead(200, {
       'content-type': TYPES[extname(file)] ?? 'application/octet-stream',
       'content-security-policy': POLICY,
       'cache-control': 'no-cache',
     });
-    createReadStream(file).pipe(response);
+    createReadStream(file).once('error', () => response.destroy()).pipe(response);
   });
   await new Promise((done, failed) => server.once('error', failed).listen(port, '127.0.0.1', done));
   const close = () => {

@@ -1,8 +1,21 @@
-// The case of this browser: one record in IndexedDB, written whenever something in it was changed.
+// The case of this browser: one record in IndexedDB. Its version goes up each time that one of the pages writes it.
 
 const NAME = 'vrije-kolommen';
 const CASES = 'dossiers';
 const KEY = 'voorbeeld';
+
+/** Another page has written the case since this one read it. */
+export class Overtaken extends Error {
+  constructor() {
+    super('Niet bewaard: dit dossier is in een ander tabblad gewijzigd.');
+  }
+}
+
+export const versionOf = (record) => record?.Versie ?? 0;
+
+/** What the browser says of a failure, to stand inside a sentence. */
+const causeOf = (thrown) => (thrown?.message || thrown?.name || 'de browser brak het af').replace(/\.$/, '');
+const notKept = (thrown) => new Error(`Niet bewaard: ${causeOf(thrown)}.`);
 
 const done = (request) =>
   new Promise((resolve, reject) => {
@@ -10,37 +23,46 @@ const done = (request) =>
     request.onerror = () => reject(request.error);
   });
 
+/** Rejects where the browser keeps nothing. */
 export async function openStore() {
   const request = indexedDB.open(NAME, 1);
   request.onupgradeneeded = () => request.result.createObjectStore(CASES);
   const database = await done(request);
-  const cases = (mode) => database.transaction(CASES, mode).objectStore(CASES);
+  const read = () => done(database.transaction(CASES).objectStore(CASES).get(KEY));
+  await read();
+  const pages = new BroadcastChannel(NAME);
   return {
-    read: () => done(cases('readonly').get(KEY)),
-    write: (given) => done(cases('readwrite').put(given, KEY)),
+    read,
+
+    /** `told` is called from now on when another page has written. */
+    listen: (told) => (pages.onmessage = told),
+
+    /** Writes over the version that was read or written last; answers the next one once it is kept. */
+    write: (given, version) =>
+      new Promise((resolve, reject) => {
+        const transaction = database.transaction(CASES, 'readwrite', { durability: 'strict' });
+        const cases = transaction.objectStore(CASES);
+        let problem = null;
+        transaction.oncomplete = () => {
+          pages.postMessage(null);
+          resolve(version + 1);
+        };
+        transaction.onabort = () => reject(problem ?? notKept(transaction.error));
+        cases.get(KEY).onsuccess = ({ target }) => {
+          try {
+            if (versionOf(target.result) !== version) throw new Overtaken();
+            cases.put({ ...given, Versie: version + 1 }, KEY);
+          } catch (thrown) {
+            problem = thrown instanceof Overtaken ? thrown : notKept(thrown);
+            transaction.abort();
+          }
+        };
+      }),
   };
 }
 
-/** The same object, with `told` called after each change of it or of what stands in it. */
-export function watched(object, told) {
-  const known = new WeakMap();
-  const watch = (value) => {
-    if (value === null || typeof value !== 'object') return value;
-    if (!known.has(value)) known.set(value, new Proxy(value, handler));
-    return known.get(value);
-  };
-  const handler = {
-    get: (target, member, receiver) => watch(Reflect.get(target, member, receiver)),
-    set: (target, member, value) => {
-      target[member] = value;
-      told();
-      return true;
-    },
-    deleteProperty: (target, member) => {
-      delete target[member];
-      told();
-      return true;
-    },
-  };
-  return watch(object);
+/** What stands for a store in a browser that keeps nothing, and says so whenever something was to be kept. */
+export function noStore(thrown) {
+  const problem = new Error(`Deze browser bewaart niets: wat u invult is weg wanneer u deze pagina sluit (${causeOf(thrown)}).`);
+  return { problem, read: async () => undefined, listen: () => {}, write: () => Promise.reject(problem) };
 }

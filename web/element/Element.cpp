@@ -71,6 +71,11 @@ void Element::PutBackPending() {
 
 bool Element::CommitPending() { return body_->toolkit.HandOver(Surface()); }
 
+bool Element::IsPending() const {
+  const controls::Surface& surface = controls::Surface::Of(*body_->surface);
+  return body_->toolkit.UnderWay() != nullptr || !body_->toolkit.Pending().On(surface).empty();
+}
+
 controls::BindingResult Element::Bind(const Subject& subject) {
   const std::shared_ptr<Body> body = body_;
   const std::shared_ptr<controls::Life> life = body->toolkit.Life();

@@ -38,6 +38,8 @@ class Element {
   enum class Checked : std::uint8_t { All, Toelichting };
   [[nodiscard]] bool Validation(Checked what, bool cancel, std::int32_t ControleNr);
   [[nodiscard]] bool CommitPending();
+  /// Something is being typed or chosen on its surface, or was refused.
+  [[nodiscard]] bool IsPending() const;
   void SetBackColor(host::Color color);
   void SetBeeindigenZichtbaar(bool zichtbaar);
   /// Lays the control out anew; a measure of 0 stays.

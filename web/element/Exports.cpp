@@ -133,6 +133,12 @@ EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
   if (Element* const element = Element::Find(page)) element->Toolkit().Desktop().CameBack(waiting);
 }
 
+/// Whether it changes anything that the focus goes elsewhere.
+EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
+  Element* const element = Element::Find(page);
+  return element != nullptr && web::MindsBeingLeft(element->Toolkit(), node) ? 1 : 0;
+}
+
 /// As in PageTexts.h. For what is shown from now on.
 EMSCRIPTEN_KEEPALIVE void brivane_speak(int page, int language) {
   if (Element* const element = Element::Find(page)) element->Toolkit().Speak(static_cast<web::Spoken>(language));
@@ -152,6 +158,11 @@ EMSCRIPTEN_KEEPALIVE int brivane_back_color(int page) {
   Element* const element = Element::Find(page);
   return element != nullptr && element->Part() != nullptr ? element->Part()->BackColor().value
                                                           : host::kButtonFace.value;
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_pending(int page) {
+  Element* const element = Element::Find(page);
+  return element != nullptr && element->IsPending() ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_state(int page) {

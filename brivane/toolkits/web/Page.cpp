@@ -6,8 +6,11 @@
 
 // What is called of the script is given to the module when it is started: Module["page"].
 // clang-format off
-EM_JS(void, brivane_make, (int page, int node, int container, const char* design), {
-  Module["page"]["make"](page, node, container, UTF8ToString(design));
+EM_JS(void, brivane_make, (int page, int node, int container, const char* design, double left, double top, double width, double height, int visible), {
+  Module["page"]["make"](page, node, container, UTF8ToString(design), left, top, width, height, visible);
+})
+EM_JS(void, brivane_make_alike, (int page, int node, int container, int pattern, int index, double left, double top, double width, double height, int visible), {
+  Module["page"]["makeAlike"](page, node, container, pattern, index, left, top, width, height, visible);
 })
 EM_JS(void, brivane_drop, (int page, int node), { Module["page"]["drop"](page, node); })
 EM_JS(void, brivane_place, (int page, int node, double left, double top, double width, double height), {
@@ -58,8 +61,20 @@ std::string Written(const NodeDesign& design) {
 
 }  // namespace
 
-NodeId Page::Make(NodeId container, const NodeDesign& design) {
-  brivane_make(id_, ++last_, container, Written(design).c_str());
+NodeId Page::Make(NodeId container, const NodeDesign& design, const Standing& standing) {
+  const auto& [left, top, width, height] = standing.place;
+  brivane_make(id_, ++last_, container, Written(design).c_str(), double{left.value}, double{top.value},
+               double{width.value}, double{height.value}, standing.visible ? 1 : 0);
+  return last_;
+}
+
+NodeId Page::MakeAlike(NodeId container, const void* whose, int index, const std::function<NodeDesign()>& design,
+                       const Standing& standing) {
+  const auto known = patterns_.find(whose);
+  if (known == patterns_.end()) return patterns_[whose] = Make(container, design(), standing);
+  const auto& [left, top, width, height] = standing.place;
+  brivane_make_alike(id_, ++last_, container, known->second, index, double{left.value}, double{top.value},
+                     double{width.value}, double{height.value}, standing.visible ? 1 : 0);
   return last_;
 }
 

@@ -2,6 +2,8 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -29,6 +31,12 @@ struct NodeDesign {
   bool bordered = true;
   bool multiline = false;
   bool row = false;  ///< one of the many of a form
+};
+
+/// Where an element stands in its container when it is made, and whether it is seen.
+struct Standing {
+  host::Place place;
+  bool visible = true;
 };
 
 /// What the page shows beside what controls::Aspect names.
@@ -62,7 +70,11 @@ class Page {
 
   [[nodiscard]] int Id() const { return id_; }
 
-  [[nodiscard]] NodeId Make(NodeId container, const NodeDesign& design);
+  [[nodiscard]] NodeId Make(NodeId container, const NodeDesign& design, const Standing& standing);
+  /// One of the many that a form makes of a template, of which the page keeps the first as its pattern: they differ by
+  /// their number and by where they stand.
+  [[nodiscard]] NodeId MakeAlike(NodeId container, const void* whose, int index,
+                                 const std::function<NodeDesign()>& design, const Standing& standing);
   void Drop(NodeId node) const;
   void Place(NodeId node, const host::Place& place) const;
   void Show(NodeId node, controls::Aspect aspect, double number, const std::string& text = {}) const;
@@ -92,6 +104,7 @@ class Page {
  private:
   int id_;
   NodeId last_ = kNoNode;
+  std::map<const void*, NodeId> patterns_;  ///< by template
 };
 
 }  // namespace brivane::web

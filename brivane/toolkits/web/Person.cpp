@@ -36,4 +36,9 @@ bool Does(Toolkit& toolkit, controls::Surface& surface, const Done& done) {
   return meant;
 }
 
+bool MindsBeingLeft(const Toolkit& toolkit, NodeId node) {
+  const NodePeer* const peer = toolkit.Find(node);
+  return peer != nullptr && peer->MindsBeingLeft();
+}
+
 }  // namespace brivane::web

@@ -22,4 +22,8 @@ struct Done {
 /// stands on the surface. Failures go to the toolkit's listener.
 bool Does(Toolkit& toolkit, controls::Surface& surface, const Done& done);
 
+/// Whether it changes anything that the focus leaves an element, before that is told as a deed: mostly nothing was
+/// typed.
+[[nodiscard]] bool MindsBeingLeft(const Toolkit& toolkit, NodeId node);
+
 }  // namespace brivane::web

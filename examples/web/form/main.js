@@ -1,7 +1,9 @@
 // A column inside a form of final-form: the library's values are the record. What the editor writes makes the form dirty,
 // "Bewaren" submits it once the editor lets it, and "Terugzetten" resets it and binds the editor anew.
 //
-//     npx esbuild main.js --bundle --format=esm --outfile=form.js && cp machine.wasm beside it
+//     npm install ./brivane-vrije-kolom-1.0.0.tgz final-form     # the first as `npm pack build/web/package` makes it
+//     npx esbuild main.js --bundle --format=esm --outfile=form.js
+//     cp node_modules/brivane-vrije-kolom/src/machine.wasm .
 import 'brivane-vrije-kolom';
 import { createForm } from 'final-form';
 

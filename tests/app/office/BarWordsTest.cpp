@@ -25,16 +25,25 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
       {{.state = State::Reading, .writes = false, .holder = "Anna Aalders", .since = "10:32"},
        {.text = "Alleen lezen: u mag in dit kantoor niets wijzigen. Anna Aalders werkt hierin sinds 10:32."}},
       {{.state = State::Broken},
-       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht."}},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht.", .reconnect = true}},
       {{.state = State::Broken, .tries = 2, .unknown = true},
        {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht (poging 3). Dan blijkt "
-                "ook of de laatste wijziging is opgeslagen."}},
+                "ook of de laatste wijziging is opgeslagen.",
+        .reconnect = true}},
+      {{.state = State::Broken, .tries = 1, .said = "de deur is dicht"},
+       {.text = "Geen verbinding met het kantoor (het meldt: de deur is dicht). Er wordt vanzelf opnieuw verbinding "
+                "gezocht (poging 2).",
+        .reconnect = true}},
+      {{.state = State::Broken, .tries = 4, .unknown = true, .barred = true, .said = "password"},
+       {.text = "Geen verbinding met het kantoor: het neemt uw wachtwoord niet meer aan. Na het verbinden blijkt ook "
+                "of de laatste wijziging is opgeslagen.",
+        .reconnect = true}},
       {{.state = State::Reading, .holder = "Anna Aalders", .since = "10:32", .unreadable = "het is beschadigd"},
        {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd."}},
       {{.state = State::Editing, .asker = "Bert Bakker", .unreadable = "het is beschadigd"},
        {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd.", .handOver = true}},
       {{.state = State::Broken, .unreadable = "het is beschadigd"},
-       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht."}},
+       {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht.", .reconnect = true}},
   };
   for (const BarCase& one : cases) EXPECT_EQ(WordsFor(one.facts), one.words) << qPrintable(WordsFor(one.facts).text);
 }

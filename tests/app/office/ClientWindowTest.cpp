@@ -1,5 +1,7 @@
 #include <QLineEdit>
 #include <QSettings>
+#include <chrono>
+#include <thread>
 
 #include "app/office/RecentOffices.h"
 #include "tests/app/office/ClientWindow.h"
@@ -182,6 +184,79 @@ TEST_F(ClientWindowTest, AnEditWhoseAnswerWasLostIsToldAsStored) {
   EXPECT_EQ(Text(*window_, "nietOpgeslagen"), "");
   EXPECT_EQ(Omschrijving(*window_), "Avondkrant");
   EXPECT_EQ(Stored(), "Avondkrant");
+}
+
+/// What is painted, and which keys arrive, from the first to the last sight of the notice that the program waits.
+class Sight final : public QObject {
+ public:
+  Sight() { qApp->installEventFilter(this); }
+  QStringList texts;
+  int keys_meanwhile = 0;
+  int keys_after = 0;
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool notice = watched->objectName() == "wacht";
+    if (notice && event->type() == QEvent::Paint) {
+      seen_ = true;
+      texts << static_cast<QWidget*>(watched)->findChild<QLabel*>()->text();
+    }
+    if (notice && event->type() == QEvent::Hide) over_ = true;
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->text() == "x")
+      ++(seen_ && !over_ ? keys_meanwhile : keys_after);
+    return false;
+  }
+
+ private:
+  bool seen_ = false;
+  bool over_ = false;
+};
+
+TEST_F(ClientWindowTest, AnEditThatWaitsIsSeenToWaitAndNothingIsTypedMeanwhile) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  OpenAs(*window_, "anna", proxy.Folder());
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  auto* box = QApplication::focusWidget();
+  proxy.Hang();
+  Sight sight;
+  std::thread typist([box] {
+    std::this_thread::sleep_for(std::chrono::seconds(2));
+    QCoreApplication::postEvent(box, new QKeyEvent(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, "x"));
+    QCoreApplication::postEvent(box, new QKeyEvent(QEvent::KeyRelease, Qt::Key_X, Qt::NoModifier, "x"));
+  });
+  QElapsedTimer time;
+  time.start();
+  dialogs_.ExpectMessage(kFailed, [&](QWidget& message) {
+    EXPECT_GE(time.elapsed(), 7900);
+    EXPECT_LT(time.elapsed(), 12000);
+    QTest::keyClick(message.windowHandle(), Qt::Key_Return);
+  });
+  PressKey(Qt::Key_Tab);
+  typist.join();
+  ASSERT_GE(sight.texts.size(), 6);
+  EXPECT_EQ(sight.texts.front(), "Wacht op het kantoor… (1 s)");
+  EXPECT_EQ(sight.texts.last(), "Wacht op het kantoor… (7 s)");
+  EXPECT_EQ(sight.keys_meanwhile, 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sight.keys_after > 0; }, 2000));
+  EXPECT_EQ(window_->findChild<QWidget*>("wacht"), nullptr);
+  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
+  proxy.Mend();
+  // It was on its way, and the bar tells what became of it.
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return Text(*window_, "bericht").contains("De laatste wijziging is ") && Bar(*window_).isEmpty(); }, 20000))
+      << qPrintable(Bar(*window_) + " / " + Text(*window_, "bericht"));
+  const bool stored = !Text(*window_, "bericht").contains("niet opgeslagen");
+  EXPECT_EQ(Stored(), stored ? "Avondkrant" : "Weekendabonnement");
+}
+
+TEST_F(ClientWindowTest, OnASilentLineTheWindowIsClosedSoon) {
+  test::SocketProxy proxy(office_.Server().Folder());
+  OpenAs(*window_, "anna", proxy.Folder());
+  proxy.Hang();
+  QElapsedTimer time;
+  time.start();
+  window_.reset();
+  EXPECT_LT(time.elapsed(), 2500);
 }
 
 TEST_F(ClientWindowTest, AFileGoesToTheOfficeAndBack) {

@@ -118,6 +118,26 @@ TEST_F(EntranceTest, AConnectionThatIsLostAndNotAnsweredLetsTheWindowGoOn) {
       << qPrintable(bar->text());
 }
 
+TEST_F(EntranceTest, ALineThatFallsSilentLetsTheWindowOfAReaderGoOn) {
+  dossier::TrialOffice office;
+  const int client = office.Add();
+  dialogs_.LetPass("verbinden");
+  test::SocketProxy proxy(office.Server().Folder());
+  ASSERT_TRUE(window_->OpenClient({office.Words("bert") + " host=" + proxy.Folder(), client}));
+  window_->Actions().office.handOver->trigger();
+  const auto* bar = window_->findChild<QLabel*>("stand");
+  ASSERT_TRUE(bar && QTest::qWaitFor([&] { return bar->text().startsWith("Alleen lezen"); }, 5000));
+  proxy.Hang();
+  const Stillness still;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bar->text().startsWith("Geen verbinding"); }, 12000))
+      << qPrintable(bar->text());
+  QTest::qWait(2000);
+  EXPECT_LT(still.Longest(), 1000);
+  proxy.Mend();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bar->text().startsWith("Alleen lezen"); }, 25000))
+      << qPrintable(bar->text());
+}
+
 TEST_F(EntranceTest, WhatIsTypedWhileNothingAnswersIsToldWithinSeconds) {
   dossier::TrialOffice office;
   const int client = office.Add();
@@ -148,8 +168,12 @@ class PasswordTest : public EntranceTest {
   }
 
   [[nodiscard]] QString Words() const { return office_.Words("anna") + " passfile=/dev/null"; }
-  /// Expects the question, types an answer and presses a key.
-  void ExpectQuestion(bool again, const QString& typed, Qt::Key key = Qt::Key_Return) {
+  static constexpr char kWrong[] = "Dit wachtwoord is niet goed. Probeer het opnieuw.";
+  static constexpr char kOutdated[] =
+      "De verbinding is verbroken, en het kantoor neemt het eerdere wachtwoord niet meer aan.";
+  /// Expects the question with that reason, types an answer and presses a key.
+  void ExpectQuestion(const char* why, const QString& typed, Qt::Key key = Qt::Key_Return) {
+    const QString reason_text = why;
     dialogs_.Expect([=, this](QWidget& window) {
       ASSERT_TRUE(dynamic_cast<PasswordDialog*>(&window)) << qPrintable(window.windowTitle());
       auto* box = window.findChild<QLineEdit*>("wachtwoord");
@@ -158,9 +182,9 @@ class PasswordTest : public EntranceTest {
       EXPECT_TRUE(box->text().isEmpty());
       EXPECT_TRUE(box->accessibleDescription().contains("vraagt om het wachtwoord van anna"));
       const auto* reason = window.findChild<QLabel*>("reden");
-      EXPECT_EQ(reason->isVisible(), again);
-      EXPECT_EQ(reason->text(), again ? "Dit wachtwoord is niet goed. Probeer het opnieuw." : "");
-      EXPECT_EQ(box->accessibleDescription().startsWith("Dit wachtwoord is niet goed."), again);
+      EXPECT_EQ(reason->isVisible(), !reason_text.isEmpty());
+      EXPECT_EQ(reason->text(), reason_text);
+      EXPECT_TRUE(box->accessibleDescription().startsWith(reason_text));
       // An empty one is no answer.
       QTest::keyClick(window.windowHandle(), Qt::Key_Return);
       EXPECT_TRUE(window.isVisible());
@@ -170,6 +194,38 @@ class PasswordTest : public EntranceTest {
       if (key != Qt::Key_unknown) return QTest::keyClick(window.windowHandle(), key);
       window_->EndInOrder();
     });
+  }
+  /// The client is open under the right password, and what is typed in a box of it stands there unconfirmed.
+  void OpenAndType(const char* text) {
+    ExpectQuestion("", QString::fromUtf8(kRight));
+    ASSERT_TRUE(window_->OpenClient({Words(), client_}));
+    ASSERT_TRUE(window_->Screen()->GoTo({0, 2}));
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    PressKey(Qt::Key_O, Qt::AltModifier);
+    Type(text);
+  }
+  void ChangePassword(const char* to) {
+    office_.Psql("postgres",
+                 QString("SET password_encryption = 'scram-sha-256'; ALTER ROLE anna PASSWORD '%1'").arg(to));
+    EndSessions();
+  }
+  void EndSessions() {
+    office_.Psql("postgres", "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE usename = 'anna'");
+  }
+  [[nodiscard]] QString Told(const char* label) const {
+    const auto* found = window_->findChild<QLabel*>(label);
+    return found ? found->text() : QString();
+  }
+  /// The bar comes to begin so.
+  [[nodiscard]] bool Says(const char* text) {
+    return QTest::qWaitFor([&] { return Told("stand").startsWith(text); }, 20000);
+  }
+  [[nodiscard]] bool IsEditingAgain() {
+    return QTest::qWaitFor([&] { return window_->Actions().office.handOver->isEnabled(); }, 20000);
+  }
+  [[nodiscard]] std::string Stored() {
+    return office_.Open(client_, "rob")->Dossier()->FindKolom(0, 2)->Gegevens().Omschrijving;
   }
   void ExpectListOfClients() {
     dialogs_.Expect([](QWidget& window) {
@@ -196,8 +252,8 @@ class PasswordTest : public EntranceTest {
 };
 
 TEST_F(PasswordTest, IsAskedForUntilItIsRightAndNeverKept) {
-  ExpectQuestion(false, "foutwoord");
-  ExpectQuestion(true, QString::fromUtf8(kRight));
+  ExpectQuestion("", "foutwoord");
+  ExpectQuestion(kWrong, QString::fromUtf8(kRight));
   ExpectListOfClients();
   window_->OpenOffice(Words());
   EXPECT_EQ(RecentOffices::All(), QStringList(Words()));
@@ -215,15 +271,82 @@ TEST_F(PasswordTest, IsAskedForUntilItIsRightAndNeverKept) {
   EXPECT_EQ(office_.Open(client_, "rob")->Dossier()->FindKolom(0, 2)->Gegevens().Omschrijving, "Avondkrant");
 }
 
+TEST_F(PasswordTest, ThatWasChangedMeanwhileIsAskedForOnceNobodyTypes) {
+  OpenAndType("Avondkrant");
+  ChangePassword("nieuw");
+  // What is being typed does not end up in a question.
+  QTest::qWait(1500);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+  ExpectQuestion(kOutdated, "niet dit");
+  ExpectQuestion(kWrong, "nieuw");
+  PressKey(Qt::Key_Tab);
+  ASSERT_TRUE(IsEditingAgain()) << qPrintable(Told("stand"));
+  EXPECT_EQ(Told("stand"), "");
+  EXPECT_TRUE(Told("nietOpgeslagen").endsWith(": Avondkrant")) << qPrintable(Told("nietOpgeslagen"));
+  window_->activateWindow();
+  TabTo("Terugzetten");
+  PressKey(Qt::Key_Space);
+  PressKey(Qt::Key_Tab);
+  EXPECT_EQ(Stored(), "Avondkrant");
+  // What is opened from now on goes by the new one.
+  ExpectListOfClients();
+  window_->OpenOffice(Words());
+  EndSessions();
+  dialogs_.LookAway();
+  EXPECT_THROW(Screen().Dossier().FindKolom(0, 2)->SetOmschrijving("weg"), host::Error);
+  EXPECT_TRUE(IsEditingAgain());
+  for (const char* secret : {"ge'heim", "niet dit", "nieuw"}) ExpectStoredNowhere(secret);
+}
+
+TEST_F(PasswordTest, ThatIsNotGivenIsNotTriedTimeAndAgain) {
+  OpenAndType("Avondkrant");
+  ChangePassword("nieuw");
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+  ExpectQuestion(kOutdated, "x", Qt::Key_Escape);
+  PressKey(Qt::Key_Tab);
+  ASSERT_TRUE(Says("Geen verbinding met het kantoor: het neemt uw wachtwoord niet meer aan."));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeModalWidget() == nullptr; }, 5000));
+  const auto& store = dynamic_cast<const dossier::OfficeStore&>(Screen().Store());
+  const int tries = store.Tries();
+  QTest::qWait(3000);
+  EXPECT_EQ(store.Tries(), tries);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(Told("nietOpgeslagen").endsWith(": Avondkrant"));
+  ExpectQuestion(kOutdated, "nieuw");
+  window_->activateWindow();
+  TabTo("Opnieuw verbinden");
+  PressKey(Qt::Key_Space);
+  EXPECT_TRUE(IsEditingAgain()) << qPrintable(Told("stand"));
+  EXPECT_FALSE(window_->Actions().office.reconnect->isEnabled());
+  EXPECT_TRUE(Told("nietOpgeslagen").endsWith(": Avondkrant"));
+}
+
+TEST_F(PasswordTest, DoesNotHelpWhereTheAccountIsLockedAndTheBarSaysSo) {
+  OpenAndType("x");
+  PressKey(Qt::Key_Escape);
+  office_.Psql("postgres", "ALTER ROLE anna NOLOGIN");
+  EndSessions();
+  window_->Screen()->Kolom().FocusOmschrijving();
+  dialogs_.ExpectMessage("Er is een fout opgetreden.", Pressing(Qt::Key_Return));
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  PressKey(Qt::Key_Tab);
+  EXPECT_TRUE(Says("Geen verbinding met het kantoor (het meldt: role \"anna\" is not permitted to log in). Er wordt"))
+      << qPrintable(Told("stand"));
+  office_.Psql("postgres", "ALTER ROLE anna LOGIN");
+  EXPECT_TRUE(IsEditingAgain()) << qPrintable(Told("stand"));
+}
+
 TEST_F(PasswordTest, PutAwayNothingIsOpened) {
-  ExpectQuestion(false, "x", Qt::Key_Escape);
+  ExpectQuestion("", "x", Qt::Key_Escape);
   window_->OpenOffice(Words());
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   EXPECT_TRUE(RecentOffices::All().isEmpty());
 }
 
 TEST_F(PasswordTest, IsNotKeptWhereTheProgramHasToEnd) {
-  ExpectQuestion(false, "halverwege", Qt::Key_unknown);
+  ExpectQuestion("", "halverwege", Qt::Key_unknown);
   window_->OpenOffice(Words());
   QTest::qWait(200);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);

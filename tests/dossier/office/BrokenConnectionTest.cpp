@@ -18,6 +18,8 @@ class BrokenConnectionTest : public testing::Test {
     settled_ = store_->Settled.Connect([this](Outcome outcome) { settlements_.push_back(outcome); });
     desk_ = std::make_unique<Desk>(*store_);
     desk_->Bind(0, 1);
+    // What opening leaves to be done aside comes first.
+    store_->Attend();
   }
 
   void Type(const std::string& text) { desk_->Do("TxtOm", Enter{text}); }
@@ -167,7 +169,10 @@ TEST_F(BrokenConnectionTest, AnAcceptedEditIsOneRoundTripAndOpeningAConstantNumb
     const auto office = office_.Enter("bert", proxy_.Folder());
     const int first = proxy_.RoundTrips();
     const auto opened = OfficeStore::Open(office, client);
-    return proxy_.RoundTrips() - first;
+    const int waited = proxy_.RoundTrips() - first;
+    opened->Attend();
+    // That was one too, prepared and run.
+    return std::pair(waited, proxy_.RoundTrips() - first - 2);
   };
   DossierGegevens large = VoorbeeldDossier();
   for (std::int16_t id = 100; id < 600; ++id) {
@@ -175,10 +180,12 @@ TEST_F(BrokenConnectionTest, AnAcceptedEditIsOneRoundTripAndOpeningAConstantNumb
     kolom.Id = id;
     large.HuidigeLening.VrijeKolommen.push_back(kolom);
   }
-  const int small_trips = trips(office_.Add());
-  EXPECT_EQ(trips(office_.Add(large)), small_trips);
-  EXPECT_LE(small_trips, 8);
-  std::printf("%d round trips to open a client in a new session\n", small_trips);
+  const auto [waited, all] = trips(office_.Add());
+  EXPECT_EQ(trips(office_.Add(large)).second, all);
+  // The lease and the case, each prepared and run.
+  EXPECT_GE(waited, 4);
+  EXPECT_LE(all, 6);
+  std::printf("%d round trips to open a client in a new session, of which %d are waited for\n", all, waited);
 }
 
 }  // namespace

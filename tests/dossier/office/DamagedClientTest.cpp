@@ -75,9 +75,9 @@ TEST_F(DamagedClientTest, WhatAnAdviserStoresByAnotherProgramEndsNobodysProgram)
   const QString said = office_.Psql(
       "anna",
       QString("CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(%1); SELECT kantoor.sla_op(%1, (SELECT bewijs "
-              "FROM b), gen_random_uuid(), '{\"stap\":{\"nummer\":3,\"medewerker\":1,\"soort\":0,\"van\":3,\"terug\":3,"
-              "\"opnieuw\":0,\"eerste\":3,\"hoogste\":50},\"wijziging\":[{\"nummer\":3,\"tabel\":1,\"sleutel\":1,"
-              "\"lening\":0,\"lening_naam\":1,\"kolom\":0,\"kolom_naam\":1,\"veld\":1,\"oud\":\"\\\\x07\"}]}')")
+              "FROM b), gen_random_uuid(), '(3,0,1,0,3,3,0,3,50)', "
+              "ARRAY[ROW(3,3,1,1,0,1,0,1,1,'\\x07',NULL)::kantoor.wijziging_rij], NULL, NULL, NULL, NULL, NULL, NULL, "
+              "NULL)")
           .arg(client_),
       &failed);
   ASSERT_FALSE(failed) << said.toStdString();

@@ -127,5 +127,46 @@ TEST_F(ReadingAlongTest, WhoForgesAMessageShowsNothing) {
   EXPECT_EQ(asked, 0);
 }
 
+/// What Qt warns of meanwhile.
+QStringList* g_warnings = nullptr;
+
+TEST_F(ReadingAlongTest, WhoLeavesAClientHearsNoMoreOfItAndNobodyWarns) {
+  QStringList warnings;
+  g_warnings = &warnings;
+  const auto before =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) { *g_warnings << text; });
+  const auto office = office_.Enter("bert");
+  const auto tell = [&](const char* what) {
+    office_.Psql("rob", QString("NOTIFY kantoor_%1, '%2'").arg(client_).arg(what));
+  };
+  const auto pass = [](qint64 milliseconds) {
+    QElapsedTimer timer;
+    timer.start();
+    Until([&] { return timer.hasExpired(milliseconds); });
+  };
+  auto reader = OfficeStore::Open(office, client_);
+  reader->LetGo();
+  reader->Attend();
+  // Something is told while the session is busy, and read together with the end of what it does.
+  office->Post("SELECT pg_sleep(0.5)", {});
+  tell("stap 1");
+  reader.reset();
+  pass(800);
+  int told = 0;
+  const auto tells = office->Told.Connect([&](const QString&, const QString&) { ++told; });
+  tell("stap 2");
+  pass(100);
+  EXPECT_EQ(told, 0);
+  // Back in it, it is heard again.
+  reader = OfficeStore::Open(office, client_);
+  reader->Attend();
+  tell("vraag Rob");
+  EXPECT_GE(Until([&] { return told == 1; }), 0);
+  reader.reset();
+  pass(100);
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, QStringList()) << warnings.join('|').toStdString();
+}
+
 }  // namespace
 }  // namespace brivane::dossier

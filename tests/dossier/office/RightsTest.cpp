@@ -22,6 +22,18 @@ class RightsTest : public testing::Test {
     EXPECT_TRUE(said.contains(QLatin1String(reason))) << account.toStdString() << ": " << sql.toStdString() << "\n"
                                                       << said.toStdString();
   }
+  /// The call that stores step 2 of a client; `proof` is the lease, `name` what number 90 stands for, `rest` its rows.
+  [[nodiscard]] static QString Store(const QString& client, const QString& proof, const QString& name,
+                                     const QString& rest = "NULL") {
+    return QString(
+               "SELECT kantoor.sla_op(%1, %2, gen_random_uuid(), '(2,0,90,0,2,2,0,2,50)', NULL, '{\"(90,%3)\"}', NULL, "
+               "NULL, NULL, NULL, NULL, %4)")
+        .arg(client, proof, name, rest);
+  }
+  /// Takes a client up, its proof in a table.
+  [[nodiscard]] static QString Take(const QString& client) {
+    return "CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + client + "); ";
+  }
   [[nodiscard]] QString N() const { return QString::number(noord_); }
   [[nodiscard]] QString Z() const { return QString::number(zuid_); }
 
@@ -89,9 +101,9 @@ TEST_F(RightsTest, AReaderTakesNothingUpAndStoresNothing) {
   for (const QString& call :
        {"kantoor.neem(" + N() + ")", "kantoor.laat_los(" + N() + ", gen_random_uuid())", "kantoor.vraag(" + N() + ")",
         QString("kantoor.nieuw(1, gen_random_uuid(), '{}')"), QString("kantoor.toegevoegd(gen_random_uuid())"),
-        "kantoor.vul_geschiedenis(" + N() + ", '{}')",
-        "kantoor.sla_op(" + N() + ", gen_random_uuid(), gen_random_uuid(), '{}')"})
+        "kantoor.vul_geschiedenis(" + N() + ", '{}')", "kantoor.uitkomst(" + N() + ", 1, gen_random_uuid())"})
     ExpectRefused("rob", "SELECT " + call, "permission denied");
+  ExpectRefused("rob", Store(N(), "gen_random_uuid()", "rob"), "permission denied");
 }
 
 TEST_F(RightsTest, AnotherTeamsClientIsNotThere) {
@@ -109,9 +121,8 @@ TEST_F(RightsTest, AnotherTeamsClientIsNotThere) {
   }
   ExpectRefused("anna", "SELECT kantoor.neem(" + Z() + ")", "no such client");
   ExpectRefused("anna", "SELECT kantoor.vraag(" + Z() + ")", "no such client");
-  ExpectRefused("anna",
-                "SELECT kantoor.sla_op(" + Z() + ", gen_random_uuid(), gen_random_uuid(), '{\"stap\":{\"nummer\":1}}')",
-                "no such client");
+  ExpectRefused("anna", "SELECT kantoor.uitkomst(" + Z() + ", 1, gen_random_uuid())", "no such client");
+  ExpectRefused("anna", Store(Z(), "gen_random_uuid()", "Anna Aalders"), "no such client");
   ExpectRefused("anna", "SELECT kantoor.nieuw(2, gen_random_uuid(), '{}')", "not a member");
   // A policy cannot be looked past by a function of one's own that is cheap.
   EXPECT_EQ(office_
@@ -124,25 +135,18 @@ TEST_F(RightsTest, AnotherTeamsClientIsNotThere) {
 }
 
 TEST_F(RightsTest, AnEditIsStoredByItsHolderInHisOwnNameOnce) {
-  const QString edit =
-      "'{\"stap\":{\"nummer\":2,\"medewerker\":%1,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
-      "\"hoogste\":50},\"naam\":[{\"nummer\":90,\"tekst\":\"%2\"}],\"wijziging\":[]}'";
-  const QString mine = edit.arg("90", "Anna Aalders");
-  const QString forged = edit.arg("90", "Bert Bakker");
   // Without the client taken up, with a guessed proof, in another session than the one that took it up.
-  ExpectRefused("anna", "SELECT kantoor.sla_op(" + N() + ", gen_random_uuid(), gen_random_uuid(), " + mine + ")",
+  ExpectRefused("anna", Store(N(), "gen_random_uuid()", "Anna Aalders"), "let go");
+  ExpectRefused("bert", "SELECT kantoor.neem(" + N() + "); " + Store(N(), "gen_random_uuid()", "Bert Bakker"),
                 "let go");
-  ExpectRefused("bert",
-                "SELECT kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" + N() +
-                    ", gen_random_uuid(), gen_random_uuid(), " + mine + ")",
-                "let go");
-  const QString take = "CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); ";
-  const QString store = "SELECT kantoor.sla_op(" + N() + ", (SELECT bewijs FROM b), gen_random_uuid(), ";
-  ExpectRefused("anna", take + store + forged + ")", "somebody else's name");
+  const QString proof = "(SELECT bewijs FROM b)";
+  ExpectRefused("anna", Take(N()) + Store(N(), proof, "Anna Aalders").replace(", gen_random_uuid(), '(", ", NULL, '("),
+                "an edit without an identifier");
+  ExpectRefused("anna", Take(N()) + Store(N(), proof, "Bert Bakker"), "somebody else's name");
   bool failed = false;
-  const QString said = office_.Psql("anna", take + store + mine + ")", &failed);
+  const QString said = office_.Psql("anna", Take(N()) + Store(N(), proof, "Anna Aalders"), &failed);
   EXPECT_FALSE(failed) << said.toStdString();
-  ExpectRefused("anna", take + store + mine + ")", "another step was stored");
+  ExpectRefused("anna", Take(N()) + Store(N(), proof, "Anna Aalders"), "another step was stored");
   EXPECT_EQ(office_.Psql(
                 "rob",
                 "SELECT gebruiker, nummer, opgeslagen > now() - interval '1 minute' FROM kantoor.stap WHERE client = " +
@@ -152,19 +156,63 @@ TEST_F(RightsTest, AnEditIsStoredByItsHolderInHisOwnNameOnce) {
 
 TEST_F(RightsTest, AnEditCannotNameAnotherClient) {
   const QString other = QString::number(office_.Add());
-  const QString edit =
-      "'{\"stap\":{\"nummer\":2,\"medewerker\":90,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
-      "\"hoogste\":50},"
-      "\"naam\":[{\"nummer\":90,\"tekst\":\"Anna Aalders\"}],\"dossier\":[{\"client\":" +
-      other + ",\"enig\":1,\"leeftijd\":99}]}'";
+  const QString rest = "'{\"dossier\":[{\"client\":" + other + ",\"enig\":1,\"leeftijd\":99}]}'";
   bool failed = false;
-  office_.Psql("anna",
-               "CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" + N() +
-                   ", (SELECT bewijs FROM b), gen_random_uuid(), " + edit + ")",
-               &failed);
+  office_.Psql("anna", Take(N()) + Store(N(), "(SELECT bewijs FROM b)", "Anna Aalders", rest), &failed);
   EXPECT_FALSE(failed);
   EXPECT_EQ(office_.Psql("rob", "SELECT leeftijd FROM kantoor.dossier WHERE client = " + other), "67");
   EXPECT_EQ(office_.Psql("rob", "SELECT leeftijd FROM kantoor.dossier WHERE client = " + N()), "99");
+}
+
+TEST_F(RightsTest, ToNameAClientOneselfGivesNoWayToIt) {
+  const QString name = "SET kantoor.client = " + Z() + "; ";
+  for (const char* account : {"anna", "rob"}) {
+    for (const char* table : {"dossier", "persoon", "maatschappij_type", "lening", "vrijekolom", "periode", "voorstel",
+                              "naam", "stap", "wijziging"})
+      EXPECT_EQ(
+          office_.Psql(account, name + QString("SELECT count(*) FROM kantoor.%1 WHERE client = %2").arg(table, Z())),
+          "0")
+          << table;
+    ExpectRefused(account, name + "SELECT kantoor.wie(" + Z() + ")", "no such client");
+  }
+  ExpectRefused("anna", name + "SELECT kantoor.uitkomst(" + Z() + ", 1, gen_random_uuid())", "no such client");
+  ExpectRefused("anna", name + Store(Z(), "gen_random_uuid()", "Anna Aalders"), "no such client");
+  ExpectRefused("anna", name + "SELECT kantoor.vul_geschiedenis(" + Z() + ", '{\"stap\":[{\"nummer\":1}]}')",
+                "not a client of this transaction");
+  // What one may edit is stored where it belongs.
+  bool failed = false;
+  const QString said = office_.Psql(
+      "anna",
+      Take(N()) + name +
+          Store(N(), "(SELECT bewijs FROM b)", "Anna Aalders", "'{\"dossier\":[{\"enig\":1,\"leeftijd\":99}]}'"),
+      &failed);
+  EXPECT_FALSE(failed) << said.toStdString();
+  EXPECT_EQ(office_.Psql("postgres", "SELECT string_agg(leeftijd::text, ' ' ORDER BY client) FROM kantoor.dossier"),
+            "99 67");
+}
+
+TEST_F(RightsTest, AMistakeInAFunctionReachesNoOtherClient) {
+  const QString owner = "SET ROLE kantoor_eigenaar; ";
+  for (const char* table : {"dossier", "persoon", "maatschappij_type", "lening", "vrijekolom", "periode", "voorstel",
+                            "naam", "stap", "wijziging"}) {
+    EXPECT_EQ(office_.Psql("postgres", owner + "SELECT count(*) FROM kantoor." + table), "0") << table;
+    EXPECT_EQ(office_.Psql("postgres", owner + "SET kantoor.client = " + N() +
+                                           QString("; SELECT count(*) FROM kantoor.%1 "
+                                                   "WHERE client <> %2")
+                                               .arg(table, N())),
+              "0")
+        << table;
+  }
+  const QString here = owner + "SET kantoor.client = " + N() + "; ";
+  EXPECT_NE(office_.Psql("postgres", here + "SELECT count(*) FROM kantoor.vrijekolom"), "0");
+  for (const QString& sql :
+       {QString("INSERT INTO kantoor.voorstel VALUES (%1, 1, 1)"), QString("UPDATE kantoor.vrijekolom SET client = %1"),
+        QString("INSERT INTO kantoor.naam VALUES (%1, 91, 'x')"),
+        QString("INSERT INTO kantoor.wijziging VALUES (%1, 91, 1, 1, 1, 0, 0, 0, 0, 1)")})
+    ExpectRefused("postgres", here + sql.arg(Z()), "row-level security");
+  office_.Psql("postgres", here + "DELETE FROM kantoor.periode; UPDATE kantoor.lening SET naam = 'x'");
+  EXPECT_EQ(office_.Psql("postgres", "SELECT count(*) FROM kantoor.lening WHERE naam = 'x' AND client <> " + N()), "0");
+  EXPECT_NE(office_.Psql("postgres", "SELECT count(*) FROM kantoor.periode WHERE client = " + Z()), "0");
 }
 
 TEST_F(RightsTest, WhatIsInTheOfficeGetsNoHistoryFromElsewhere) {
@@ -180,12 +228,7 @@ TEST_F(RightsTest, AnEditInTheSameTransactionOpensNoWayToTheHistory) {
       "SELECT kantoor.vul_geschiedenis(" + N() +
       ", '{\"naam\":[{\"nummer\":91,\"tekst\":\"Bert Bakker\"}],\"stap\":[{\"nummer\":3,\"tijd\":1000,"
       "\"medewerker\":91,\"soort\":0,\"van\":3,\"terug\":3,\"opnieuw\":0,\"eerste\":3,\"hoogste\":50}]}')";
-  const QString edit =
-      "'{\"stap\":{\"nummer\":2,\"medewerker\":90,\"soort\":0,\"van\":2,\"terug\":2,\"opnieuw\":0,\"eerste\":2,"
-      "\"hoogste\":50},\"naam\":[{\"nummer\":90,\"tekst\":\"Anna Aalders\"}],\"wijziging\":[]}'";
-  ExpectRefused("anna",
-                "BEGIN; CREATE TEMP TABLE b AS SELECT bewijs FROM kantoor.neem(" + N() + "); SELECT kantoor.sla_op(" +
-                    N() + ", (SELECT bewijs FROM b), gen_random_uuid(), " + edit + "); " + forged,
+  ExpectRefused("anna", "BEGIN; " + Take(N()) + Store(N(), "(SELECT bewijs FROM b)", "Anna Aalders") + "; " + forged,
                 "not a client of this transaction");
   // Who manages and edits gives it to a team in the same transaction.
   office_.Psql("postgres", "GRANT kantoor_beheerder TO anna");
@@ -204,8 +247,10 @@ TEST_F(RightsTest, AClientThatWasMadeByATransactionOfThatNumberElsewhereGetsNoHi
 }
 
 TEST_F(RightsTest, TheOwnerOfTheOfficeChangesNoHistoryEither) {
-  for (const char* sql : {"UPDATE kantoor.stap SET tijd = 0", "DELETE FROM kantoor.stap", "TRUNCATE kantoor.wijziging",
-                          "UPDATE kantoor.wijziging SET oud = NULL", "DELETE FROM kantoor.naam"})
+  for (const char* sql :
+       {"UPDATE kantoor.stap SET tijd = 0", "DELETE FROM kantoor.stap", "TRUNCATE kantoor.wijziging",
+        "UPDATE kantoor.wijziging SET oud = NULL", "DELETE FROM kantoor.naam", "DELETE FROM kantoor.client",
+        "TRUNCATE kantoor.client CASCADE", "UPDATE kantoor.client SET nummer = DEFAULT"})
     ExpectRefused("postgres", QString("SET ROLE kantoor_eigenaar; ") + sql, "history");
 }
 

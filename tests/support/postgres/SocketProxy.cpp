@@ -76,6 +76,7 @@ std::size_t SocketProxy::Unanswered() {
 void SocketProxy::Mend() {
   const std::lock_guard lock(guard_);
   silent_ = false;
+  hung_ = false;
   cut_ = false;
   for (const int client : unanswered_) close(client);
   unanswered_.clear();
@@ -111,6 +112,10 @@ void SocketProxy::Carry(int client) {
   bool asked = false;
   std::array<char, 65536> bytes{};
   while (open && !ends_ && !cut_) {
+    if (hung_) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(kLook));
+      continue;
+    }
     std::array<pollfd, 2> look{pollfd{.fd = client, .events = POLLIN, .revents = 0},
                                pollfd{.fd = server, .events = POLLIN, .revents = 0}};
     if (poll(look.data(), look.size(), kLook) <= 0) continue;

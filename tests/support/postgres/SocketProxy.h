@@ -46,6 +46,9 @@ class SocketProxy {
   void Mend();
   /// The same, but who comes meanwhile is let in and never answered.
   void FallSilent();
+  /// Nothing is carried any more in either direction, and nobody is told: as where a cable is pulled. What was on its
+  /// way arrives after Mend.
+  void Hang() { hung_ = true; }
   /// How many were let in so.
   [[nodiscard]] std::size_t Unanswered();
 
@@ -61,6 +64,7 @@ class SocketProxy {
   std::atomic<bool> ends_ = false;
   std::atomic<bool> cut_ = false;
   std::atomic<bool> silent_ = false;
+  std::atomic<bool> hung_ = false;
   std::atomic<int> round_trips_ = 0;
   std::atomic<int> others_ = 0;
   std::atomic<Fate> fate_ = Fate::Answered;

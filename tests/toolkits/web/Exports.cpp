@@ -83,6 +83,11 @@ EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
                                                                                                                    : 0;
 }
 
+EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
+  Stage* const stage = Stage::Find(page);
+  return stage != nullptr && web::MindsBeingLeft(stage->Toolkit(), node) ? 1 : 0;
+}
+
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
   if (Stage* const stage = Stage::Find(page)) stage->Toolkit().Desktop().CameBack(waiting);
 }

@@ -25,7 +25,8 @@ export async function launch(name, options = {}) {
 
 /**
  * Opens pages in one browser, for one file of tests: `open` answers a page whose faults fail the test that asks for
- * them, and everything is closed in the end. What the page itself reports stands in `page.faults`.
+ * them, and everything is closed in the end. What the page itself reports stands in `page.faults`. `context`: what
+ * it shares its store with; `alone`: with nothing. `before` is run in the page first.
  */
 export function useBrowser(name = 'chrome', options = {}) {
   let server = null;
@@ -38,16 +39,17 @@ export function useBrowser(name = 'chrome', options = {}) {
     get origin() {
       return server.origin;
     },
-    async open(path, viewport) {
+    async open(path, viewport, { alone = false, context, before } = {}) {
       server ??= await serve(FOLDERS);
       browser ??= await launch(name, options);
-      const page = await browser.newPage();
+      const page = await (context ?? (alone ? await browser.createBrowserContext() : browser)).newPage();
       page.faults = [];
       page.on('pageerror', (error) => page.faults.push(String(error?.stack ?? error)));
       page.on('console', (message) => {
         if (message.type() === 'error') page.faults.push(message.text());
       });
       if (viewport !== undefined) await page.setViewport(viewport);
+      if (before !== undefined) await page.evaluateOnNewDocument(before);
       await page.goto(server.origin + path);
       return page;
     },

@@ -1,47 +1,69 @@
-import { HostError } from './errors.js';
+import { failAsMismatch } from './errors.js';
 import { stopsIn } from './events.js';
 import { Job } from './jobs.js';
-import { backColorOf, dropView, follow, isLoaded, load, newView, runJob, stateOf } from './machine.js';
-import { sheet, TWIPS_AN_EM } from './style.js';
+import { notLoadedAt } from './languages.js';
+import { backColorOf, dropView, follow, isLoaded, isPending, load, newView, runJob, stateOf } from './machine.js';
+import { sheetsOf, TWIPS_AN_EM } from './style.js';
 import { DossierControle, ProcedureTrace } from './trace.js';
 import { View } from './view.js';
 
 const STATES = ['never', 'bound', 'failed', 'unbound'];
 const RESULTS = ['bound', 'failed', 'refused'];
 const EVENTS = ['refreshtopdisplay', 'heightchanged', 'changed'];
-const TYPE_MISMATCH = 13;
 /** Of the explanation control, in twips. */
 const DESIGN_WIDTH = 6030;
 
 function whole(value) {
-  if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+  if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) failAsMismatch();
   return value;
 }
+
+/** Where pages are made on a server there are no elements, and importing this does nothing. */
+const Base = globalThis.HTMLElement ?? class {};
 
 /**
  * What the two elements have in common. An element lives from when it is used first until it is taken out of its page;
  * put back, it is made anew and bound as it was.
  */
-class ControlElement extends HTMLElement {
+class ControlElement extends Base {
   #view = null;
   #bound = null;
   #factories = {};
+  #questionDetails = null;
   #backColor = null;
   #internals = this.attachInternals();
 
   static observedAttributes = ['lang'];
 
-  /** What the host adds below a question of the editor, told its title and text; nothing for nothing. */
-  questionDetails = null;
-
   constructor() {
     super();
-    this.attachShadow({ mode: 'open' }).adoptedStyleSheets = [sheet()];
+    this.attachShadow({ mode: 'open' }).adoptedStyleSheets = sheetsOf(this.ownerDocument);
+    this._takeOver('hostFactories', 'questionDetails', 'backColor');
+  }
+
+  /** What a page set before the element was defined hides the accessors of those names. */
+  _takeOver(...names) {
+    for (const name of names) {
+      if (!Object.hasOwn(this, name)) continue;
+      const value = this[name];
+      delete this[name];
+      try {
+        this[name] = value;
+      } catch (error) {
+        reportError(error);
+      }
+    }
   }
 
   connectedCallback() {
     if (this.#view !== null) this.#view.moved();
-    else this.#use(() => this.isConnected && this.#made() && this.#again());
+    else if (isLoaded()) this.#appear();
+    else load().then(() => this.#appear(), () => this.#showNotLoaded());
+  }
+
+  /** Another document has the style anew. */
+  adoptedCallback() {
+    this.shadowRoot.adoptedStyleSheets = sheetsOf(this.ownerDocument);
   }
 
   disconnectedCallback() {
@@ -63,6 +85,19 @@ class ControlElement extends HTMLElement {
     this.#factories = factories ?? {};
   }
 
+  /** What the host adds below a question of the editor, told its title and text; nothing for nothing. */
+  get questionDetails() {
+    return this.#questionDetails;
+  }
+  set questionDetails(details) {
+    this.#questionDetails = details;
+  }
+
+  /** Whether something is being typed or chosen, was refused, is asked, or the form is open: what leaving the page loses. */
+  get pending() {
+    return this.#view !== null && (this.#view.dialog !== null || isPending(this.#view));
+  }
+
   get state() {
     return STATES[this.#view === null ? 0 : stateOf(this.#view)];
   }
@@ -71,14 +106,15 @@ class ControlElement extends HTMLElement {
     return this.#view === null ? (this.#backColor ?? -2147483633) : backColorOf(this.#view);
   }
   set backColor(color) {
-    if (!Number.isInteger(color)) throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+    if (!Number.isInteger(color)) failAsMismatch();
     this.#backColor = color;
     this.#use(() => this.#job(Job.backColor, { number: color | 0 }));
   }
 
   /** To the first control that takes the focus, or to what is asked. */
   focus(options) {
-    stopsIn(this.#view?.dialog ?? this.shadowRoot)[0]?.focus(options);
+    if (this.#view?.dialog) this.#view.focusDialog(options);
+    else stopsIn(this.shadowRoot)[0]?.focus(options);
   }
 
   async validation(controleNr = 0, cancel = false) {
@@ -89,14 +125,15 @@ class ControlElement extends HTMLElement {
     return (await this.#use(() => this.#job(Job.commitPending))) !== 0;
   }
   async unbind() {
+    await this.#use(() => this.#view !== null && this.#job(Job.unbind));
     this.#bound = null;
-    if (this.#view !== null) await this.#job(Job.unbind);
   }
 
   /** Binds to objects of the host, now where the machine has been started. */
   async _bind(binding) {
-    this.#bound = binding.first == null ? null : binding;
-    return RESULTS[await this.#use(() => this.#job(Job.bind, binding))];
+    const result = RESULTS[await this.#use(() => this.#job(Job.bind, binding))];
+    if (result !== 'refused') this.#bound = binding.first == null ? null : binding;
+    return result;
   }
   async _job(job, order) {
     return this.#use(() => this.#job(job, order));
@@ -127,6 +164,18 @@ class ControlElement extends HTMLElement {
     this.#speak(view.language);
     this.#view = view;
     return view;
+  }
+
+  #appear() {
+    if (!this.isConnected) return;
+    this.#made();
+    this.#again();
+  }
+  #showNotLoaded() {
+    const { text, lang } = notLoadedAt(this);
+    const fault = Object.assign(document.createElement('p'), { textContent: text, lang, role: 'alert' });
+    fault.part = 'fault';
+    this.shadowRoot.replaceChildren(fault);
   }
 
   /** An element that is put back in a page is as it was. */
@@ -160,7 +209,7 @@ class ControlElement extends HTMLElement {
 
   #details(title, text) {
     try {
-      return String(this.questionDetails?.(title, text) ?? '');
+      return String(this.#questionDetails?.(title, text) ?? '');
     } catch (error) {
       reportError(error);
       return '';
@@ -177,6 +226,10 @@ class ControlElement extends HTMLElement {
 export class VrijeKolomElement extends ControlElement {
   #beeindigenZichtbaar = false;
 
+  constructor() {
+    super();
+    this._takeOver('beeindigenZichtbaar');
+  }
   get _kind() {
     return 0;
   }

@@ -11,6 +11,11 @@ export class HostError extends Error {
   }
 }
 
+const TYPE_MISMATCH = 13;
+export function failAsMismatch() {
+  throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+}
+
 const FOREIGN = 440;
 const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 ** 31;
 

@@ -1,8 +1,9 @@
 // What a person does in a view, handed to the machine. What keys mean is the machine's to say; here stands which of them
 // it is asked about, and what the browser would do by itself.
 
+import { dayAt } from './days.js';
 import { Job } from './jobs.js';
-import { isAtWork, runJob } from './machine.js';
+import { isAtWork, mindsBeingLeft, runJob } from './machine.js';
 
 const Modifier = Object.freeze({ shift: 1, control: 2, alt: 4, keypad: 8 });
 /** Keys that never type a character and always may mean something. */
@@ -133,6 +134,7 @@ export function listen(view) {
 
   /** Shows what a help icon has to say: to a pointer over it, and to who goes to it by keys or presses it. */
   function help(event) {
+    if (event.type === 'focusin') view.worksIn(event.target);
     const node = nodeOf(event);
     if (node?.isHint && (event.type !== 'focusin' || node.input.matches(':focus-visible'))) view.tip.show(node);
   }
@@ -144,12 +146,31 @@ export function listen(view) {
     if (view.tip.anchor !== null) return stop(event), view.tip.take();
     if (view.dialog === null) return;
     stop(event);
-    if (view.dialog.node !== undefined) run(Job.close, view.dialog.node);
+    leave(view.dialog);
+  }
+
+  /** What Escape says in a dialog. */
+  function leave(dialog) {
+    if (dialog.box !== undefined) dialog.box.leave();
+    else run(Job.close, dialog.node);
+  }
+
+  /** The browser wants a dialog away, by a key that nobody heard or by another means. */
+  function cancel(event) {
+    event.preventDefault();
+    if (event.target === view.dialog) leave(event.target);
+  }
+  /** It does not always ask. */
+  function close(event) {
+    if (view.reopen(event.target) && event.target === view.dialog) leave(event.target);
   }
 
   function input(event) {
     const node = nodeOf(event);
-    if (node !== null && isBox(node) && event.target === node.input) run(Job.typed, node, { text: node.input.value });
+    if (node === null || !isBox(node) || event.target !== node.input) return;
+    const text = node.input.value;
+    node.fit(text);
+    run(Job.typed, node, { text });
   }
 
   function paste(event) {
@@ -163,8 +184,8 @@ export function listen(view) {
   function focusOut(event) {
     helpNoMore(event);
     const node = nodeOf(event);
-    if (node === null || isAtWork() || view.root.activeElement === event.target || !document.hasFocus()) return;
-    if (isBox(node) || isList(node)) run(Job.left, node);
+    if (node === null || isAtWork() || view.isMoving || view.root.activeElement === event.target || !root.ownerDocument.hasFocus()) return;
+    if ((isBox(node) || isList(node)) && mindsBeingLeft(view, node)) run(Job.left, node);
   }
 
   /**
@@ -232,7 +253,7 @@ export function listen(view) {
     const node = nodeOf(event);
     if (node === null) return;
     if (event.target === node.picker) {
-      const day = node.picker.valueAsNumber / 86400000 + 25569;
+      const day = dayAt(node.picker.valueAsNumber);
       if (!Number.isNaN(day)) run(Job.picked, node, { number: day });
     } else if (isList(node)) {
       closeList(node);
@@ -244,8 +265,8 @@ export function listen(view) {
   }
 
   const heard = { keydown: keyDown, keyup: keyUp, input, paste, focusout: focusOut, focusin: help, mouseover: help, mouseout: helpNoMore, mousedown: mouseDown, click, change,
-    cancel: (event) => event.preventDefault() };
-  const isFirst = (name) => name === 'mousedown' || name === 'cancel';
+    cancel, close };
+  const isFirst = (name) => ['mousedown', 'cancel', 'close'].includes(name);
   for (const [name, listener] of Object.entries(heard)) root.addEventListener(name, listener, isFirst(name));
   return () => {
     for (const [name, listener] of Object.entries(heard)) root.removeEventListener(name, listener, isFirst(name));

@@ -1,6 +1,7 @@
 // The host's objects for the machine: what it asks of them, and the values that go over.
 
-import { failureOf, HostError } from './errors.js';
+import { dayOf } from './days.js';
+import { failureOf, HostError, failAsMismatch } from './errors.js';
 import { Keuzelijst } from './keuzelijst.js';
 
 /** As in Value.h. */
@@ -12,15 +13,8 @@ const SIZE = 24;
 const OBJECT = 4, NUMBER = 8, TEXT = 16, MORE = 20;
 
 const NO_SUCH_MEMBER = 438;
-const TYPE_MISMATCH = 13;
-/** 1 January 1970, in days since 30 December 1899. */
-const EPOCH = 25569;
-const DAY = 86400000;
 
 const lists = new Map([['VulCombo', 2]]);
-
-/** The day of a date as the calendar on the wall has it. */
-export const dayOf = (date) => Date.UTC(date.getFullYear(), date.getMonth(), date.getDate()) / DAY + EPOCH;
 
 /** The objects of the host that one element has kept for the machine. */
 export class HostObjects {
@@ -98,7 +92,7 @@ export class Host {
     if (way === Way.make) return element.makeForHost(name, values[0]);
     const object = element.objects.value(number);
     if (way === Way.element) {
-      if (typeof object !== 'object') throw new HostError(TYPE_MISMATCH, 'Type mismatch');
+      if (typeof object !== 'object') failAsMismatch();
       return object[values[0]];
     }
     if (!(name in Object(object))) throw new HostError(NO_SUCH_MEMBER, `No member ${name}`);

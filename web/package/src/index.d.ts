@@ -18,7 +18,10 @@ export class HostError extends Error {
   readonly source: string;
 }
 
-/** What the texts are called that the elements add to the controls; `translations/brivane_en.ts` has each in Dutch and English. */
+/**
+ * What the texts are called that the elements add to the controls; `translations/brivane_en.ts` has each in Dutch and English.
+ * One more, `NotLoaded`, stands where an element could not be started.
+ */
 export type TextName =
   | 'ExpectAmount' | 'AmountDecimals' | 'ExpectNumber' | 'NumberDecimals' | 'ExpectWhole' | 'NumberTooLarge'
   | 'PointMisplaced' | 'PointOrComma' | 'ExpectDate' | 'EarliestYear' | 'NoSuchMonth' | 'NoSuchDay' | 'Day'
@@ -35,7 +38,7 @@ export type TextName =
  * "%1" to "%9" stand where something is filled in, "&" before the letter that goes with Alt. To be called before the elements
  * are used.
  */
-export function addLanguage(tag: string, texts: Partial<Record<TextName, string>>): void;
+export function addLanguage(tag: string, texts: Partial<Record<TextName | 'NotLoaded', string>>): void;
 
 /** What the host makes where a control needs an object of its classes. To be set before the element is used. */
 export interface HostFactories {
@@ -49,9 +52,9 @@ export interface ControlEventMap extends HTMLElementEventMap {
   /** The header text of the column may have changed. Of the editor. */
   refreshtopdisplay: CustomEvent<{ text: string }>;
   /** The control was laid out: its height may have changed. Of the editor. */
-  heightchanged: CustomEvent<undefined>;
+  heightchanged: CustomEvent<null>;
   /** An edit of the explanation control was written into the record. */
-  changed: CustomEvent<undefined>;
+  changed: CustomEvent<null>;
 }
 
 declare class ControlElement extends HTMLElement {
@@ -66,7 +69,12 @@ declare class ControlElement extends HTMLElement {
   /** A colour as the component has it: 0x00BBGGRR, or below 0 for one of the system, which is the page's. */
   backColor: number;
   readonly state: BindingState;
-  /** Goes to the first control that takes the focus; where something is asked or the form is open, in there. */
+  /**
+   * Whether something is being typed or chosen, was refused, is asked, or the form is open. Read in `beforeunload`, after
+   * `commitPending()`: what is still pending then is lost with the page.
+   */
+  readonly pending: boolean;
+  /** Goes to the first control that takes the focus; where something is asked or the form is open, to where that is worked in. */
   focus(options?: FocusOptions): void;
 
   /**
@@ -109,7 +117,10 @@ export class ToelichtingElement extends ControlElement {
   setApplication(application: Application | null, lening: Lening | null, vrijId: number): Promise<BindingResult>;
 }
 
-/** Resolves when the elements can show something; rejects where the browser could not start them. Nobody needs to wait. */
+/**
+ * Resolves when the elements can show something; rejects where the browser could not start them, which they say in their
+ * place, and where pages are made on a server. Nobody needs to wait.
+ */
 export const ready: Promise<void>;
 
 declare global {

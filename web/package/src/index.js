@@ -8,5 +8,7 @@ export { ToelichtingElement, VrijeKolomElement };
 /** Resolves when the machine behind the elements has been started; nobody needs to wait for it. */
 export const ready = load().then(() => {});
 
-customElements.get('vrije-kolom') ?? customElements.define('vrije-kolom', VrijeKolomElement);
-customElements.get('vrije-kolom-toelichting') ?? customElements.define('vrije-kolom-toelichting', ToelichtingElement);
+const elements = globalThis.customElements;
+if (elements === undefined) ready.catch(() => {});  // a server, which makes the page and shows nothing
+for (const [name, element] of [['vrije-kolom', VrijeKolomElement], ['vrije-kolom-toelichting', ToelichtingElement]])
+  if (elements?.get(name) === undefined) elements?.define(name, element);

@@ -30,25 +30,45 @@ export function enter(call) {
   }
 }
 
-/**
- * A job that was given out: `done` as soon as it has come to its end, often before this comes back.
- * `result` is a promise of the answer.
- */
+/** A job that was given out: `done` as soon as it has come to its end, often before run comes back. */
+class GivenOut {
+  done = false;
+  answer = 0;
+  error = null;
+  #result = null;
+  #settle = null;
+
+  /** A promise of the answer, made for who wants one: a key that goes down does not. */
+  get result() {
+    if (this.#result === null) {
+      this.#result = new Promise((resolve, reject) => {
+        this.#settle = () => (this.error === null ? resolve(this.answer) : reject(this.error));
+      });
+      this.#result.catch(() => {});
+      if (this.done) this.#settle();
+    }
+    return this.#result;
+  }
+
+  end() {
+    this.done = true;
+    this.#settle?.();
+  }
+}
+
 export function run(call) {
-  const job = { number: ++last, done: false, answer: 0 };
-  job.result = new Promise((resolve, reject) => Object.assign(job, { resolve, reject }));
-  job.result.catch(() => {});
-  running.set(job.number, job);
-  enter(() => call(job.number));
+  const number = ++last;
+  const job = new GivenOut();
+  running.set(number, job);
+  enter(() => call(number));
   return job;
 }
 
-function end(number, settle) {
+function end(number, said) {
   const job = running.get(number);
   running.delete(number);
-  job.done = true;
-  settle(job);
+  Object.assign(job, said).end();
 }
 
-export const done = (number, answer) => end(number, (job) => job.resolve((job.answer = answer)));
-export const failed = (number, error) => end(number, (job) => job.reject((job.error = error)));
+export const done = (number, answer) => end(number, { answer });
+export const failed = (number, error) => end(number, { error });

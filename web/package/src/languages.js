@@ -2,6 +2,7 @@
 // its own first. Dutch and English are the machine's; others a page adds.
 
 import { textIn } from './machine.js';
+import { NOT_LOADED } from './unloaded.js';
 
 /** As in PageTexts.h. */
 const Spoken = Object.freeze({ dutch: 0, english: 1, pagesOwn: 2 });
@@ -27,12 +28,20 @@ class Language {
   }
 }
 
-const dutch = new Language('nl', Spoken.dutch);
-const languages = new Map([['nl', dutch], ['en', new Language('en', Spoken.english)]]);
+const dutch = new Language('nl', Spoken.dutch, { NotLoaded: NOT_LOADED.nl });
+const english = new Language('en', Spoken.english, { NotLoaded: NOT_LOADED.en });
+const languages = new Map([['nl', dutch], ['en', english]]);
 
 /** Adds a language, known by its tag ("fy", "de-AT"), or puts other texts in the place of those of one. */
 export function addLanguage(tag, texts) {
   languages.set(tag.toLowerCase(), new Language(tag, Spoken.pagesOwn, { ...texts }));
+}
+
+/** That the machine could not be started, and the language that this is in. */
+export function notLoadedAt(element) {
+  const here = languageAt(element);
+  const spoken = here.own('NotLoaded') === '' ? dutch : here;
+  return { text: spoken.own('NotLoaded'), lang: spoken.tag };
 }
 
 function tagAt(element) {

@@ -1,8 +1,9 @@
 // The one machine of a page: the controls, compiled. Every element is a number to it.
 
 import createMachine from '../machine/machine.js';
+import { dayOf } from './days.js';
 import { HostError } from './errors.js';
-import { dayOf, Host } from './host.js';
+import { Host } from './host.js';
 import { done, enter, failed, isAtWork, run } from './jobs.js';
 import { Memory } from './memory.js';
 
@@ -17,7 +18,8 @@ const gone = new FinalizationRegistry((number) => endView(number));
 const viewOf = (number) => views.get(number)?.deref();
 
 /** A member of the view that the machine names first; what is gone answers nothing. */
-const toView = (name) => (number, one, two, three, four, five) => viewOf(number)?.[name](one, two, three, four, five) ?? 0;
+const toView = (name) => (number, one, two, three, four, five, six, seven, eight, nine) =>
+  viewOf(number)?.[name](one, two, three, four, five, six, seven, eight, nine) ?? 0;
 
 function calls(of) {
   const page = {
@@ -33,7 +35,7 @@ function calls(of) {
       });
     },
   };
-  for (const name of ['make', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
+  for (const name of ['make', 'makeAlike', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
     page[name] = toView(name);
   const element = {
     tell: toView('tell'),
@@ -52,14 +54,30 @@ function groupSeparator() {
   return parts.find((part) => part.type === 'group')?.value ?? '.';
 }
 
-const place = new URL('machine.wasm', import.meta.url);
-/** Compiled while it comes in, which begins as soon as this module is there. */
-const compiled = WebAssembly.compileStreaming(fetch(place)).catch(async () => {
-  // A server that does not know the type of the file.
-  const answer = await fetch(place);
-  if (!answer.ok) throw new Error(`${place}: ${answer.status}`);
-  return WebAssembly.compile(await answer.arrayBuffer());
-});
+/** Beside this module, and beside the script where a bundler made a plain one of it. */
+function placeOfMachine() {
+  try {
+    return new URL('machine.wasm', import.meta.url);
+  } catch {
+    return new URL('machine.wasm', document.currentScript?.src ?? document.baseURI);
+  }
+}
+
+/** Compiled while it comes in, which begins as soon as this module is there. Where pages are made on a server is none. */
+async function compile() {
+  if (globalThis.document === undefined) throw new Error('No page');
+  const place = placeOfMachine();
+  try {
+    return await WebAssembly.compileStreaming(fetch(place));
+  } catch {
+    // A server that does not know the type of the file.
+    const answer = await fetch(place);
+    if (!answer.ok) throw new Error(`${place}: ${answer.status}`);
+    return WebAssembly.compile(await answer.arrayBuffer());
+  }
+}
+
+const compiled = compile();
 compiled.catch(() => {});
 
 /** Starts the machine, once. */
@@ -72,7 +90,8 @@ export function load() {
         WebAssembly.instantiate(module, imports).then((instance) => receive(instance), failed);
         return {};
       };
-      createMachine({ ...calls(of), instantiateWasm }).then(done, failed);
+      // What the script of the machine makes of the address is not used, and fails where there is none.
+      createMachine({ ...calls(of), instantiateWasm, locateFile: (name) => name }).then(done, failed);
     });
     memory = new Memory(started);
     of.host = new Host(started, memory, viewOf);
@@ -127,9 +146,12 @@ export function answerBox(view, box, answer) {
   enter(() => machine._brivane_go_on());
 }
 
+/** Whether it changes anything that the focus leaves a node. */
+export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
 export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);
+export const isPending = (view) => machine._brivane_pending(view.number) !== 0;
 export { isAtWork };
 
 /** For tests, which reach further than a host. */

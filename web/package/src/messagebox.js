@@ -38,7 +38,16 @@ export class MessageBox {
     );
     dialog.addEventListener('keydown', (event) => this.#keyDown(event), true);
     dialog.addEventListener('keyup', (event) => this.#keyUp(event), true);
-    dialog.addEventListener('cancel', (event) => event.preventDefault());
+    // A press beside the buttons leaves the focus where it answers.
+    dialog.addEventListener('mousedown', (event) => {
+      if (event.target.closest('button') === null) event.preventDefault();
+    });
+    dialog.box = this;
+  }
+
+  /** As Escape does: what stands where nobody answers, from who has seen the box. */
+  leave() {
+    if (isMeant(this.#view, this.#number, false)) this.#answer(this.#unanswered);
   }
 
   #button(text, answer, first = false) {

@@ -1,8 +1,7 @@
-// The host's model, as the elements read and write it: plain objects, or objects of classes with these members. A property
-// may be a method without arguments. Types are held: a text for a number, `NaN`, or no value where one is needed is a
-// failure (13), which is reported and not guessed at.
+// The host's model, as the elements read and write it: plain objects, or objects of classes with these members. Types are
+// held: a text for a number, `NaN`, or no value where one is needed is a failure (13), which is reported and not guessed at.
 
-/** A day: "2031-04-01", or null for none. Dates are read from a `Date` too, of which the day on the wall counts. */
+/** A day: "2031-04-01", or null for none. It is written so, and read from a `Date` too, of which the day on the wall counts. */
 export type Datum = string | null;
 
 /** The host application object, the root of the model. */
@@ -83,10 +82,12 @@ export interface VrijeKolomItem {
   Maatschappij: string;
   MaatschappijNaam: string;
   UwBemiddeling: boolean;
-  DatumAanvang: Datum;
+  get DatumAanvang(): Datum | Date;
+  set DatumAanvang(dag: Datum);
   /** In months. */
   Looptijd: number;
-  Contractvervaldatum: Datum;
+  get Contractvervaldatum(): Datum | Date;
+  set Contractvervaldatum(dag: Datum);
   /** Of proposal 1 to 3: "J" or "N". Proposal 1 is element 0. */
   readonly Voorstel: [string, string, string];
   readonly Weergave: string;
@@ -96,7 +97,8 @@ export interface VrijeKolomItem {
   UitsluitenLangleven: boolean;
   ScenarioOverlijden: boolean;
   PercentageOvergang: number;
-  EinddatumOvergang: Datum;
+  get EinddatumOvergang(): Datum | Date;
+  set EinddatumOvergang(dag: Datum);
   EindleeftijdOvergang: number;
   readonly Bedrag: BedragObject;
 }

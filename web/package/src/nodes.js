@@ -28,9 +28,17 @@ function shown(name, className, part, properties) {
   return made;
 }
 
-/** Copying an element takes a fraction of what making it takes, so each is made once. */
+/**
+ * Copying an element takes a fraction of what making it takes, so each is made once. What a form makes many of is copied
+ * with the place of the first.
+ */
 const patterns = new Map();
-function copy(key, pattern) {
+function copy(design, key, pattern) {
+  const placed = design.pattern?.placed;
+  if (placed !== undefined) {
+    design.twips = placed.twips;
+    return placed.outer.cloneNode(true);
+  }
   let made = patterns.get(key);
   if (made === undefined) patterns.set(key, (made = pattern()));
   return made.cloneNode(true);
@@ -71,18 +79,28 @@ class Node {
   #font = null;
 
   constructor(view, id, design, outer, { input = null, area = outer, caption = null } = {}) {
-    Object.assign(this, { view, id, design, outer, input, area, caption });
+    this.view = view;
+    this.id = id;
+    this.design = design;
+    this.outer = outer;
+    this.input = input;
+    this.area = area;
+    this.caption = caption;
+    /** Where it stands; of a copy first where its pattern does. */
+    this.twips = design.twips;
     if (input !== null) {
       input.id = `c${id}`;
       input.node = this;
-      if (design.label !== '') input.setAttribute('aria-label', design.label);
     }
+    if (this.twips !== undefined) return;
+    if (input !== null && design.label !== '') input.setAttribute('aria-label', design.label);
     if (caption !== null) writeCaption(caption, design.caption);
   }
 
   place(left, top, width, height) {
+    const was = this.twips;
     this.twips = [left, top, width, height];
-    this.putInPlace();
+    this.putInPlace(was);
   }
 
   /** How high its text is, in twips. */
@@ -93,14 +111,15 @@ class Node {
   length(twips) {
     return ems(twips / this.em);
   }
-  putInPlace() {
+  /** Writes what is not as it was. */
+  putInPlace(was) {
     const style = this.outer.style;
     const [left, top, width, height] = this.twips;
     const { em } = this;
-    style.left = ems(left / em);
-    style.top = ems(top / em);
-    style.width = ems(width / em);
-    style.height = ems(height / em);
+    if (left !== was?.[0]) style.left = ems(left / em);
+    if (top !== was?.[1]) style.top = ems(top / em);
+    if (width !== was?.[2]) style.width = ems(width / em);
+    if (height !== was?.[3]) style.height = ems(height / em);
   }
   /** Lengths keep what they are when the text gets another size. */
   #resize(font) {
@@ -166,7 +185,7 @@ class Label extends Node {
     const leads = design.caption.includes('&');
     const name = leads ? 'label' : 'span';
     const className = design.multiline ? 'control label lines' : 'control label';
-    const outer = copy(name + className, () => shown(name, className, 'label'));
+    const outer = copy(design, name + className, () => shown(name, className, 'label'));
     super(view, id, design, outer, { caption: outer });
   }
 }
@@ -180,17 +199,26 @@ function makeBox(format) {
   return input;
 }
 
+/** As wide as a character can be in the fonts there are, in ems: those that numbers and days are written in, and any. */
+const WIDEST_DIGIT = 0.64;
+const WIDEST = 1;
+/** Of a box, what is no room for text. */
+const EDGES = 0.8;
+const CALENDAR = 1.3;
+
 class TextBox extends Node {
+  #isCut = false;
+
   constructor(view, id, design) {
     const { format } = design;
     const date = format === Format.date;
-    const input = copy(`box${format}`, () => makeBox(format));
+    const input = copy(date ? {} : design, `box${format}`, () => makeBox(format));
     super(view, id, design, date ? make('span', 'control date') : input, { input });
     if (date) this.#addCalendar();
   }
 
   #addCalendar() {
-    this.button = copy('calendar', () => {
+    this.button = copy({}, 'calendar', () => {
       const button = shown('button', 'calendar', 'calendar', { type: 'button', tabIndex: -1 });
       button.ariaHidden = 'true';
       return button;
@@ -226,10 +254,31 @@ class TextBox extends Node {
   }
 
   show(what, number, text) {
-    if (what === Shows.value) this.input.value = text;
+    if (what === Shows.value) this.#write(text);
     else if (what === Shows.selected) this.input.select();
     else if (what === Shows.locked) this.input.readOnly = number !== 0;
     else super.show(what, number, text);
+  }
+  #write(text) {
+    this.input.value = text;
+    this.fit(text);
+  }
+  putInPlace(was) {
+    super.putInPlace(was);
+    if (this.twips[2] !== was?.[2]) this.fit(this.input.value);
+  }
+  /**
+   * A text that may be cut off shows that. No other is asked to: what shows it is laid out anew each time that it is gone
+   * into and left, because what is worked in does not.
+   */
+  fit(text) {
+    if (this.twips === undefined) return;
+    const { format } = this.design;
+    const room = this.twips[2] / this.em - EDGES - (format === Format.date ? CALENDAR : 0);
+    const isCut = text.length * (format === Format.text ? WIDEST : WIDEST_DIGIT) > room;
+    if (isCut === this.#isCut) return;
+    this.#isCut = isCut;
+    this.input.classList.toggle('cut', isCut);
   }
   enable(enabled) {
     super.enable(enabled);
@@ -242,7 +291,7 @@ class TextBox extends Node {
 
 class Toggle extends Node {
   constructor(view, id, design) {
-    const outer = copy('toggle', () => {
+    const outer = copy(design, 'toggle', () => {
       const toggle = shown('button', 'control toggle', 'toggle', { type: 'button' });
       toggle.setAttribute('role', 'switch');
       toggle.append(...['Ja', 'Nee'].map((answer) => make('span', '', { textContent: answer, ariaHidden: 'true' })));
@@ -261,7 +310,7 @@ class Hint extends Node {
   isHint = true;
 
   constructor(view, id, design) {
-    const outer = copy('hint', () => {
+    const outer = copy(design, 'hint', () => {
       const hint = make('span', 'control hint');
       hint.append(shown('button', 'help', 'hint', { type: 'button', textContent: '?' }), make('span', 'spoken'));
       return hint;
@@ -280,7 +329,7 @@ class Hint extends Node {
 
 class Choice extends Node {
   constructor(view, id, design, type) {
-    const outer = copy(type, () => {
+    const outer = copy(design, type, () => {
       const choice = shown('label', 'control choice', type === 'radio' ? 'option' : 'check');
       choice.append(make('input', '', { type }), make('span', 'text'));
       return choice;
@@ -314,7 +363,7 @@ class List extends Node {
 
 class Button extends Node {
   constructor(view, id, design) {
-    const outer = copy('button', () => shown('button', 'control button', 'button', { type: 'button' }));
+    const outer = copy(design, 'button', () => shown('button', 'control button', 'button', { type: 'button' }));
     super(view, id, design, outer, { input: outer, caption: outer });
   }
   color() {}
@@ -323,7 +372,7 @@ class Button extends Node {
 class ListView extends Node {
   constructor(view, id, design) {
     const outer = shown('div', 'control listview', 'table', { tabIndex: 0 });
-    outer.setAttribute('role', 'region');
+    outer.setAttribute('role', 'group');
     const table = make('table', '');
     table.setAttribute('aria-label', design.label);
     table.append(make('thead', ''), make('tbody', ''));
@@ -440,6 +489,11 @@ const classes = new Map([
   [Kind.frame, Frame], [Kind.label, Label], [Kind.textBox, TextBox], [Kind.jaNee, Toggle], [Kind.hint, Hint],
   [Kind.list, List], [Kind.button, Button], [Kind.listView, ListView], [Kind.surface, Surface], [Kind.form, Form],
 ]);
+
+/** Of what a form makes many of the first is what the others are copied from, as it stands there. */
+export function keepPattern({ design, outer, twips, em }) {
+  if (design.pattern === undefined) design.placed = { outer: outer.cloneNode(true), twips, em };
+}
 
 export function makeNode(view, id, design) {
   if (design.kind === Kind.option) return new Choice(view, id, design, 'radio');

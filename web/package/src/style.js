@@ -4,15 +4,18 @@
 /** As many twips are as long as the text around the element is high: the design's font of 9 points. */
 export const TWIPS_AN_EM = 180;
 
-let made = null;
+const made = new WeakMap();
 
-/** The style of every element, made once. */
-export function sheet() {
-  if (made === null) {
-    made = new CSSStyleSheet();
-    made.replaceSync(CSS_TEXT);
+/** The style of every element of a document, made once: it cannot be shared with another one. */
+export function sheetsOf(document) {
+  const window = document.defaultView;
+  if (window === null) return [];
+  let sheet = made.get(document);
+  if (sheet === undefined) {
+    made.set(document, (sheet = new window.CSSStyleSheet()));
+    sheet.replaceSync(CSS_TEXT);
   }
-  return made;
+  return [sheet];
 }
 
 // A custom property is put in its place for each element anew, in as many properties as a shorthand has: so none stands in a
@@ -62,8 +65,9 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
 
 .box {
   padding: 0 .3em; border: 1px solid; border-color: var(--line); border-radius: 2px; background-color: var(--field); color: CanvasText;
-  min-width: 0; min-height: 0; text-overflow: ellipsis;
+  min-width: 0; min-height: 0;
 }
+.select, .cut { text-overflow: ellipsis; }
 .box:disabled { pointer-events: none; }
 .number { text-align: right; }
 .date .box { position: absolute; inset: 0; width: 100%; height: 100%; padding-right: 1.6em; }
@@ -142,5 +146,12 @@ dialog::backdrop { background: rgb(0 0 0 / .3); }
 @media (forced-colors: active) {
   :host { --accent: Highlight; --on-accent: HighlightText; --line: ButtonBorder; --field: Field; --face: ButtonFace; --faint: GrayText; }
   .message .text::before { background: Highlight; color: HighlightText; }
+}
+/* Paper is light, and nothing scrolls on it. What only a background tells is printed. */
+@media print {
+  :host { overflow: visible; font-size: min(var(--vrije-kolom-font-size, 1em), 1.3vw); color-scheme: light; }
+  .toggle span, .help, tr[aria-current] td, tr[aria-current]::after, .message .text::before {
+    -webkit-print-color-adjust: exact; print-color-adjust: exact;
+  }
 }
 `;

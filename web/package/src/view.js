@@ -1,12 +1,12 @@
 // What stands in the shadow root of one element: a node for each control, and the dialogs. The machine calls its members
 // by name (machine.js); what a person does goes back by events.js.
 
-import { listen } from './events.js';
+import { listen, stopsIn } from './events.js';
 import { Bubble, Tip } from './floating.js';
 import { HostObjects } from './host.js';
 import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
-import { makeNode } from './nodes.js';
+import { keepPattern, makeNode } from './nodes.js';
 
 /** What the machine asks of a node; as in Page.h. */
 const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
@@ -29,6 +29,14 @@ function put(area, outer, order) {
   area.insertBefore(outer, before);
 }
 
+/** To where a dialog was worked in, or else to its default, and to what closes it last of all. */
+function enter(dialog, options) {
+  const stops = stopsIn(dialog);
+  const wanted = [dialog.worked, dialog.querySelector('[autofocus]'), ...stops];
+  const stop = wanted.find((one) => stops.includes(one) && !one.matches('.close')) ?? stops[0];
+  stop?.focus(options);
+}
+
 export class View {
   number = 0;
   /** The objects of the host that the machine holds for this element. */
@@ -38,9 +46,13 @@ export class View {
   tip = new Tip();
   /** What is added to the controls is said in it. */
   language;
+  /** Its dialogs are put back on the screen, which is nobody's leaving anything. */
+  isMoving = false;
   #owner;
   #hasAppeared = false;
   #label = null;
+  /** The designs of what a form makes many of, by the first of them. */
+  #rows = new Map();
   #dialogs = [];
   #boxes = new Map();
 
@@ -75,11 +87,26 @@ export class View {
     this.#owner.tell(what, text);
   }
 
-  make(id, container, written) {
+  make(id, container, written, left, top, width, height, visible) {
     const design = read(written);
+    if (design.row) this.#rows.set(id, design);
+    this.#put(id, container, design, [left, top, width, height], visible !== 0);
+  }
+  /** One more of the rows of a form, with another index and place. */
+  makeAlike(id, container, pattern, index, left, top, width, height, visible) {
+    const design = this.#rows.get(pattern);
+    const name = design.name.replace(/\d+\)$/, `${index})`);
+    this.#put(id, container, { ...design, name, pattern: design }, [left, top, width, height], visible !== 0);
+  }
+
+  #put(id, container, design, twips, visible) {
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
     node.around = this.nodes.get(container) ?? null;
+    if (design.pattern !== undefined && design.pattern.placed.em !== node.em) node.twips = undefined;
+    node.place(...twips);
+    if (node.outer.hidden === visible) node.outer.hidden = !visible;
+    if (design.row) keepPattern(node);
     // What stands in nothing comes on the page with all that was put in it: from the first, or when its form is opened.
     if (node.around !== null) put(node.around.area, node.outer, design.order);
     else if (this.#hasAppeared && node.outer.localName !== 'dialog') this.root.append(node.outer);
@@ -119,8 +146,10 @@ export class View {
   }
 
   insert(id, text) {
-    const input = this.nodes.get(id).input;
+    const node = this.nodes.get(id);
+    const { input } = node;
     input.setRangeText(text, input.selectionStart, input.selectionEnd, 'end');
+    node.fit(input.value);
     return input.value;
   }
 
@@ -155,10 +184,38 @@ export class View {
 
   /** The element was moved: its dialogs were taken off the screen. */
   moved() {
-    for (const dialog of this.#dialogs) {
+    this.#showAgain(0);
+  }
+  /** The browser closed a dialog that is open to the machine, so it is shown again; false where it is not. */
+  reopen(dialog) {
+    const place = this.#dialogs.indexOf(dialog);
+    if (place < 0 || dialog.open) return false;
+    this.#showAgain(place);
+    return true;
+  }
+
+  /** What has the focus in the innermost dialog is where that is worked in, save what closes it. */
+  worksIn(stop) {
+    const { dialog } = this;
+    if (stop !== dialog && dialog?.contains(stop) && !stop.matches('.close')) dialog.worked = stop;
+  }
+  /** Brings the focus into the innermost dialog. */
+  focusDialog(options) {
+    const { dialog } = this;
+    const active = this.root.activeElement;
+    if (active === dialog || !dialog.contains(active)) enter(dialog, options);
+  }
+
+  #showAgain(place) {
+    this.isMoving = true;
+    for (const dialog of this.#dialogs.slice(place)) {
+      const { worked } = dialog;
       dialog.close();
       dialog.showModal();
+      dialog.worked = worked;
+      enter(dialog);
     }
+    this.isMoving = false;
   }
 
   #open(dialog) {
@@ -172,5 +229,7 @@ export class View {
     if (place < 0) return;
     this.#dialogs.splice(place, 1);
     dialog.close();
+    // Where the focus was lost before it was opened, the browser brings it back nowhere.
+    if (this.dialog !== null) this.focusDialog();
   }
 }

@@ -45,6 +45,11 @@ void BoxPeer::ShowText(const std::string& text) {
   NodePeer::ShowText(Aspect::Value, text);
 }
 
+void BoxPeer::Say(Shows what, const std::string& text) {
+  said_ = what != Shows::Nothing;
+  Page().Show(Node(), what, 0, text);
+}
+
 void BoxPeer::InsertText(const std::string& text) { text_ = Page().Insert(Node(), text); }
 
 void BoxPeer::OnTyped(const std::string& text) {

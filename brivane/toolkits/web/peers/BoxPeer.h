@@ -17,6 +17,7 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   void OnTyped(const std::string& text) override;
   void OnPasted(const std::string& text) override { edit_.Paste(text); }
   void OnLeft() override { (void)edit_.Commit(); }
+  [[nodiscard]] bool MindsBeingLeft() const override { return edit_.IsPending() || said_; }
   /// A day of a calendar, counted from 30 December 1899.
   void OnPicked(int days) override;
   [[nodiscard]] bool HandOver() override;
@@ -30,12 +31,16 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   [[nodiscard]] const frame::Texts& Texts() const override { return Toolkit().Texts(); }
   [[nodiscard]] bool ReadOnly() const override { return box_.Locked(); }
   [[nodiscard]] bool IsAtHand() const override { return Page().Ask(Node(), Asked::IsAtHand); }
-  void ShowReason(const std::string& reason) override { Page().Show(Node(), Shows::Reason, 0, reason); }
-  void ShowNote(const std::string& note) override { Page().Show(Node(), Shows::Note, 0, note); }
-  void HideReason() override { Page().Show(Node(), Shows::Nothing); }
+  void ShowReason(const std::string& reason) override { Say(Shows::Reason, reason); }
+  void ShowNote(const std::string& note) override { Say(Shows::Note, note); }
+  void HideReason() override {
+    if (said_) Say(Shows::Nothing, {});
+  }
+  void Say(Shows what, const std::string& text);
 
   controls::TextBox& box_;
-  std::string text_;  ///< what stands in the input
+  std::string text_;   ///< what stands in the input
+  bool said_ = false;  ///< something was said beside it, and not taken away
   controls::PendingEdit edit_{*this};
 };
 

@@ -20,7 +20,7 @@ NodePeer* PeerOf(const controls::AnyControl& control) { return static_cast<NodeP
 FormDialog::FormDialog(controls::Form& form, web::Toolkit& toolkit)
     : form_(form),
       toolkit_(toolkit),
-      node_(Page().Make(kNoNode, {.kind = kForm, .name = std::string(form.Table().name)})) {
+      node_(Page().Make(kNoNode, {.kind = kForm, .name = std::string(form.Table().name)}, {})) {
   Refresh(Aspect::FontSize);
   Refresh(Aspect::Caption);
   Refresh(Aspect::Place);
@@ -46,14 +46,16 @@ void FormDialog::Refresh(Aspect aspect) {
 
 /// What code called the elements of rows since they were made, and what there is to know about each row.
 void FormDialog::TellRows() const {
+  int row = frame::kTemplateIndex;
+  std::string help;
   for (const auto& control : form_.Made()) {
     if (!control->IsRowElement() || control->Index() == frame::kTemplateIndex) continue;
-    const NodeId node = PeerOf(*control)->Node();
     if (control->Row().tab == 0) continue;
+    const NodeId node = PeerOf(*control)->Node();
     Page().Show(node, Shows::Label, 0, std::string(control->AccessibleName()));
-    if (const std::string help = subject_.OfRow(control->Index());
-        !help.empty() && control->ControlKind() != Kind::Hint)
-      Page().Show(node, Shows::Help, 0, help);
+    // Those of one row stand together.
+    if (row != control->Index()) help = subject_.OfRow(row = control->Index());
+    if (!help.empty() && control->ControlKind() != Kind::Hint) Page().Show(node, Shows::Help, 0, help);
   }
 }
 
@@ -120,12 +122,14 @@ void FormDialog::Step(NodePeer& from, Direction direction, bool page) {
 }
 
 void FormDialog::GoDown(NodePeer& from) {
-  const std::vector<NodePeer*> column = Stops(from.Control().Row());
-  const auto here = std::find(column.begin(), column.end(), &from);
-  if (here != column.end() && std::next(here) != column.end())
-    (*std::next(here))->TakeFocus();
-  else
-    LeaveRows(from.Control().Row());
+  const frame::Row& row = from.Control().Row();
+  bool after = false;
+  for (const auto& control : form_.Made()) {
+    if (&control->Row() != &row || !control->Reachable()) continue;
+    if (after) return PeerOf(*control)->TakeFocus();
+    after = PeerOf(*control) == &from;
+  }
+  LeaveRows(row);
 }
 
 /// To what follows the rows in the tab order.

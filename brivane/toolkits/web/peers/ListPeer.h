@@ -17,6 +17,7 @@ class ListPeer final : public NodePeer {
   void Refresh(controls::Aspect aspect) override;
   bool OnKey(const Key& key) override;
   void OnLeft() override { (void)HandOver(); }
+  [[nodiscard]] bool MindsBeingLeft() const override { return IsUnderWay(); }
   void OnPicked(int index) override;
   bool HandOver() override;
   void PutBack();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <brivane/controls/ListView.h>
 #include <brivane/toolkits/web/peers/NodePeer.h>
 
@@ -13,9 +15,11 @@ class ListViewPeer final : public NodePeer {
 
  private:
   void ShowColumns() const;
-  void ShowRows() const;
+  void ShowRows();
 
   controls::ListView& list_;
+  std::vector<controls::ListView::Item> told_;  ///< rows that the page has been told
+  std::size_t selected_ = 0;                    ///< the one that is selected there
 };
 
 }  // namespace brivane::web

@@ -59,10 +59,18 @@ NodeDesign DesignOf(const controls::AnyControl& control) {
           .row = made};
 }
 
+NodeId Made(const controls::AnyControl& control, Page& page) {
+  const NodeId container = ContainerOf(control);
+  const Standing standing{control.Host().Place(), control.Host().Visible()};
+  const auto design = [&] { return DesignOf(control); };
+  if (control.IsRowElement()) return page.MakeAlike(container, &control.Row(), control.Index(), design, standing);
+  return page.Make(container, design(), standing);
+}
+
 }  // namespace
 
 NodePeer::NodePeer(controls::AnyControl& control, web::Toolkit& toolkit)
-    : control_(control), toolkit_(toolkit), node_(Page().Make(ContainerOf(control), DesignOf(control))) {
+    : control_(control), toolkit_(toolkit), node_(Made(control, Page())) {
   toolkit.Add(node_, *this);
 }
 

@@ -27,6 +27,8 @@ class NodePeer : public controls::Peer {
   virtual void OnPasted(const std::string& /*text*/) {}
   /// The focus has gone elsewhere.
   virtual void OnLeft() {}
+  /// Whether that changes anything.
+  [[nodiscard]] virtual bool MindsBeingLeft() const { return false; }
   /// A press, or another value: of an option its being chosen, of a list an index.
   virtual void OnPicked(int /*value*/) {}
 

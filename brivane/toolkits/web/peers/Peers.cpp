@@ -44,13 +44,11 @@ bool IsRenamed(const controls::AnyControl& control) {
 std::unique_ptr<NodePeer> MakeNodePeer(controls::AnyControl& control, Toolkit& toolkit) {
   std::unique_ptr<NodePeer> peer = Make(control, toolkit);
   const host::Control& state = control.Host();
-  peer->Refresh(Aspect::Place);
   // What stands on a surface takes over its font.
   const std::optional<float> fontSize = state.Read(host::Measure::FontSize);
   if (fontSize && *fontSize != control.Owner()->Table().fontSize) peer->Refresh(Aspect::FontSize);
   if (IsRenamed(control)) peer->Refresh(Aspect::Caption);
   if (!state.Enabled()) peer->Refresh(Aspect::Enabled);
-  if (!state.Visible()) peer->Refresh(Aspect::Visible);
   if (const auto color = state.BackColor(); color && color->value >= 0) peer->Refresh(Aspect::BackColor);
   return peer;
 }

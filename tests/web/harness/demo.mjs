@@ -1,0 +1,68 @@
+// The page of the demo, as a person finds it.
+import { Person } from './person.mjs';
+
+export const SAMPLE = ['Kinderopvang · € 485,50 per maand', 'Krant · Weekendabonnement · € 32,50 per maand',
+  'Muzieklessen aan huis · € 350,00 per maand', 'Goed doel · Gift nieuwbouw kinderhoek · € 1.500,00 eenmalig',
+  'Lijfrente-uitkering · € 6.250,00 per jaar', 'Vereniging · Tennislidmaatschap · € 240,00 per half jaar'];
+
+export class Demo {
+  /** `open`: of useBrowser. Each has a store of its own. */
+  static async started(open, options = {}) {
+    return Demo.#shown(await open('/demo/index.html', { width: 1280, height: 800 }, { alone: true, ...options }));
+  }
+  /** Another page beside it, on the same store. */
+  async beside() {
+    const page = await this.page.browserContext().newPage();
+    page.faults = [];
+    page.on('pageerror', (error) => page.faults.push(String(error)));
+    await page.goto(this.page.url());
+    return Demo.#shown(page);
+  }
+  static async #shown(page) {
+    await page.waitForSelector('body[data-ready]');
+    return new Demo(page);
+  }
+
+  constructor(page) {
+    this.page = page;
+    this.person = new Person(page);
+  }
+
+  columns() {
+    return this.page.$eval('#posten', (list) => [...list.options].map(({ text }) => text));
+  }
+  focused() {
+    return this.page.evaluate(() => document.activeElement.id || document.activeElement.localName);
+  }
+  textOf(id) {
+    return this.page.$eval(`#${id}`, ({ innerText }) => innerText);
+  }
+  /** Waits until a line says so. */
+  comes(id, text) {
+    const says = text instanceof RegExp ? (said) => text.test(said) : (said) => said === text;
+    return this.person.until(async () => says(await this.textOf(id)), `"${text}" in ${id}`);
+  }
+  /** Waits until everything that was changed was written, or was not. */
+  saved() {
+    return this.page.waitForSelector('body:not([data-saving])');
+  }
+  asked() {
+    return this.page.waitForSelector('.vraag[open]');
+  }
+  async answer(...keys) {
+    await this.asked();
+    await this.person.press(...keys);
+    await this.page.waitForFunction(() => document.querySelector('.vraag') === null);
+  }
+  /** The amount of the column, with the focus in the editor afterwards. */
+  async typeAmount(text) {
+    await this.person.typeOver('TxtBd', text);
+  }
+  async begunAnew() {
+    await this.page.waitForSelector('body[data-ready]');
+  }
+  async reload() {
+    await this.page.reload();
+    await this.begunAnew();
+  }
+}
