@@ -150,14 +150,12 @@ TEST_F(RefusedTest, AnEditWhoseAnswerWasLostIsNotToldAsNotStored) {
     EXPECT_TRUE(Details(box).contains("blijkt of dat is gelukt")) << qPrintable(Details(box));
     EXPECT_TRUE(Details(box).contains("Voer haar niet opnieuw in.")) << qPrintable(Details(box));
     EXPECT_FALSE(Details(box).contains("niet opgeslagen")) << qPrintable(Details(box));
-    Pressing(Qt::Key_Return)(box);
+    // The program ends before that is known.
+    window_->EndInOrder();
   });
   PressKey(Qt::Key_Tab);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().startsWith("Niet bekend of dit is opgeslagen ("); }, 5000))
-      << qPrintable(Unstored());
-  // The program ends before that is known.
-  window_->EndInOrder();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }));
+  ASSERT_EQ(UnfinishedText::All().size(), 1U);
   NewWindow();
   dialogs_.Expect([&](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Misschien niet opgeslagen");
