@@ -49,9 +49,9 @@ TEST_F(RefusedTest, ClientDataStayInTheirDialogUntilTheOfficeTakesThem) {
     dialog = &window;
     Superuser("REVOKE kantoor_adviseur FROM anna");
     Answer("Q.");
-    Superuser("GRANT kantoor_adviseur TO anna");
   });
   dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
+    Superuser("GRANT kantoor_adviseur TO anna");
     EXPECT_EQ(box.parentWidget(), dialog);
     EXPECT_TRUE(Details(box).contains("u hebt daar op dit kantoor het recht niet toe")) << qPrintable(Details(box));
     EXPECT_TRUE(Details(box).contains("Wat u invulde, staat nog in het venster.")) << qPrintable(Details(box));
@@ -76,9 +76,11 @@ TEST_F(RefusedTest, WhatIsGivenUpInADialogIsKeptUntilItIsThrownAway) {
   dialogs_.Expect([&](QWidget&) {
     Superuser("REVOKE kantoor_adviseur FROM anna");
     Answer("Q.");
-    Superuser("GRANT kantoor_adviseur TO anna");
   });
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
+    Superuser("GRANT kantoor_adviseur TO anna");
+    Pressing(Qt::Key_Return)(box);
+  });
   dialogs_.Expect(Pressing(Qt::Key_Escape));
   PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_TRUE(Unstored().contains("Q.")) << qPrintable(Unstored());
