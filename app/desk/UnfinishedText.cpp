@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QSettings>
 #include <QUuid>
+#include <algorithm>
+#include <tuple>
 
 namespace brivane::app {
 namespace {
@@ -36,6 +38,15 @@ void UnfinishedText::Forget(const QString& name) {
   QSettings settings;
   settings.beginGroup(QLatin1String(kGroup));
   settings.remove(name);
+}
+
+bool UnfinishedText::IsKept() const {
+  const std::vector<Kept> all = All();
+  return std::any_of(all.begin(), all.end(), [this](const Kept& kept) {
+    const UnfinishedText& other = kept.what;
+    return std::tie(file, lening, kolom, box, title, text) ==
+           std::tie(other.file, other.lening, other.kolom, other.box, other.title, other.text);
+  });
 }
 
 std::vector<UnfinishedText::Kept> UnfinishedText::All() {

@@ -22,6 +22,8 @@ struct UnfinishedText {
   /// Keeps it in place of what has that name.
   void KeepAs(const QString& name) const;
   static void Forget(const QString& name);
+  /// The same text of the same place is kept, whatever became of it.
+  [[nodiscard]] bool IsKept() const;
 
   struct Kept;
   /// What is kept, the oldest first.

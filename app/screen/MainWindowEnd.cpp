@@ -82,7 +82,8 @@ void MainWindow::HandOverTyped() {
     UnfinishedText typed = Here();
     typed.box = NameOfBox(box);
     typed.text = box->text();
-    if (!typed.text.isEmpty()) kept.emplace_back(box, typed.Keep());
+    // What an office refused just now, or may have, is kept already.
+    if (!typed.text.isEmpty() && !typed.IsKept()) kept.emplace_back(box, typed.Keep());
   }
   // Under a window in front the editor waits for it.
   const bool handedOver = QApplication::activeModalWidget() == nullptr && editor.CommitPending();

@@ -6,9 +6,10 @@ namespace brivane::dossier {
 // current situation, 1 and up those of the new one. `volgorde` orders a loan's columns; period entries stand in the
 // order of their keys. The columns of a case are those of a loan file, behind the number of the client.
 //
-// A client keeps its number, and is not removed but by `verwijder`, which takes all of it (SchemaRights.cpp). So the tables that each edit writes to do not
-// refer to it: a column has its loan and a period its column, which do, and the history is written by functions that
-// have changed the row of the client before. Each reference would be looked up again at each row of an edit.
+// A client keeps its number, and is not removed but by `verwijder`, which takes all of it (SchemaRights.cpp). So the
+// tables that each edit writes to do not refer to it: a column has its loan and a period its column, which do, and the
+// history is written by functions that have changed the row of the client before. Each reference would be looked up
+// again at each row of an edit.
 //
 // A row type stands beside each table of a case: what an edit hands over is read as that, so that it cannot name
 // another client.

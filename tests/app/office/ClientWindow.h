@@ -33,6 +33,8 @@ class ClientWindow : public WindowTest {
 
   void OpenAs(MainWindow& window, const QString& account, const QString& by = {}) {
     ASSERT_TRUE(window.OpenClient({office_.Words(account) + (by.isEmpty() ? QString() : " host=" + by), client_}));
+    // What opening leaves to be done aside comes first.
+    dynamic_cast<dossier::OfficeStore&>(window.Screen()->Store()).Attend();
     ASSERT_TRUE(window.Screen()->GoTo(kKrant));
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));

@@ -49,9 +49,9 @@ TEST_F(RefusedTest, ClientDataStayInTheirDialogUntilTheOfficeTakesThem) {
     dialog = &window;
     Superuser("REVOKE kantoor_adviseur FROM anna");
     Answer("Q.");
-    Superuser("GRANT kantoor_adviseur TO anna");
   });
   dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
+    Superuser("GRANT kantoor_adviseur TO anna");
     EXPECT_EQ(box.parentWidget(), dialog);
     EXPECT_TRUE(Details(box).contains("u hebt daar op dit kantoor het recht niet toe")) << qPrintable(Details(box));
     EXPECT_TRUE(Details(box).contains("Wat u invulde, staat nog in het venster.")) << qPrintable(Details(box));
@@ -76,9 +76,11 @@ TEST_F(RefusedTest, WhatIsGivenUpInADialogIsKeptUntilItIsThrownAway) {
   dialogs_.Expect([&](QWidget&) {
     Superuser("REVOKE kantoor_adviseur FROM anna");
     Answer("Q.");
-    Superuser("GRANT kantoor_adviseur TO anna");
   });
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
+    Superuser("GRANT kantoor_adviseur TO anna");
+    Pressing(Qt::Key_Return)(box);
+  });
   dialogs_.Expect(Pressing(Qt::Key_Escape));
   PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_TRUE(Unstored().contains("Q.")) << qPrintable(Unstored());
@@ -150,14 +152,12 @@ TEST_F(RefusedTest, AnEditWhoseAnswerWasLostIsNotToldAsNotStored) {
     EXPECT_TRUE(Details(box).contains("blijkt of dat is gelukt")) << qPrintable(Details(box));
     EXPECT_TRUE(Details(box).contains("Voer haar niet opnieuw in.")) << qPrintable(Details(box));
     EXPECT_FALSE(Details(box).contains("niet opgeslagen")) << qPrintable(Details(box));
-    Pressing(Qt::Key_Return)(box);
+    // The program ends before that is known.
+    window_->EndInOrder();
   });
   PressKey(Qt::Key_Tab);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().startsWith("Niet bekend of dit is opgeslagen ("); }, 5000))
-      << qPrintable(Unstored());
-  // The program ends before that is known.
-  window_->EndInOrder();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }));
+  ASSERT_EQ(UnfinishedText::All().size(), 1U);
   NewWindow();
   dialogs_.Expect([&](QWidget& dialog) {
     EXPECT_EQ(dialog.windowTitle(), "Misschien niet opgeslagen");
