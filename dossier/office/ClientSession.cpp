@@ -75,7 +75,8 @@ ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int clien
 ClientSession::~ClientSession() { Leave(); }
 
 void ClientSession::Leave() noexcept {
-  LetGo();
+  if (std::exchange(left_, true)) return;
+  GiveBack();
   if (state_ == State::Broken) return;
   office_->ListenNoMore(Channel());
   FollowNoMore();
@@ -160,16 +161,21 @@ void ClientSession::FillWith(const OfficeAnswer& answer, std::int64_t step) {
 }
 
 void ClientSession::LetGo() noexcept {
-  if (state_ != State::Editing) return;
+  if (GiveBack()) Follow();
+}
+
+bool ClientSession::GiveBack() noexcept {
+  if (state_ != State::Editing) return false;
+  state_ = State::Reading;
+  const QString token = std::exchange(token_, {});
   try {
-    state_ = State::Reading;
     // The others are told, and the way out is not held up.
-    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_}, Patience::Moment);
-    Follow();
+    office_->Run(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token}, Patience::Moment);
+    return true;
   } catch (const OfficeError&) {
     // With the session the lease goes too.
+    return false;
   }
-  token_.clear();
 }
 
 void ClientSession::Ask() {

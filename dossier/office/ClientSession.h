@@ -69,8 +69,10 @@ class ClientSession final : public EditKeeper {
   /// Takes the client up where nobody has it any more; answers whether it is taken up here now. The tables are to be
   /// filled anew where it answers so and LookAround does. Throws OfficeError.
   bool Take();
-  /// Lets another have it.
+  /// Lets another have it, and reads along.
   void LetGo() noexcept;
+  /// As if it had never been opened; for the end, once.
+  void Leave() noexcept;
   /// Asks who has it to let it go. Throws OfficeError.
   void Ask();
   /// Tries to begin a new session after the connection broke; `tries` have failed before. Answers what came of it,
@@ -103,8 +105,8 @@ class ClientSession final : public EditKeeper {
   bool TakeLease();
   void See(const OfficeRows& who);
   void TakeUp();
-  /// As if it had never been opened.
-  void Leave() noexcept;
+  /// Answers whether the office knows of it.
+  bool GiveBack() noexcept;
   void Follow();
   void FollowNoMore();
 
@@ -122,6 +124,7 @@ class ClientSession final : public EditKeeper {
   int tries_ = 0;
   bool behind_ = false;
   bool follows_ = false;
+  bool left_ = false;
   FindingWords words_;
   /// What the last new session found: the time of the edit that was looked up, and the last step.
   std::int64_t found_time_ = 0;

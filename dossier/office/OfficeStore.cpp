@@ -67,7 +67,7 @@ OfficeStore::~OfficeStore() {
   timer_.reset();
   aside_.reset();
   journal_->Sluit();
-  session_->LetGo();
+  session_->Leave();
 }
 
 std::unique_ptr<OfficeStore> OfficeStore::Open(std::shared_ptr<OfficeConnection> office, int client) {
