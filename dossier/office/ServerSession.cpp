@@ -107,9 +107,9 @@ void ServerSession::End() {
 }
 
 void ServerSession::Fail(const QSqlError& error) {
-  const OfficeError failure(error);
+  OfficeError failure(error);
   if (failure.Problem() == OfficeProblem::Unreachable) broken = true;
-  throw failure;
+  throw OfficeError(std::move(failure));
 }
 
 }  // namespace brivane::dossier
