@@ -6,14 +6,13 @@
 set -euo pipefail
 export LC_ALL=C
 root=$1 build=$2 work=$3 cpack=$4
-((EUID == 0)) || { echo "a bare Debian can be made by root alone" && exit 77; }
+source "$root/tests/packages/bare_system.sh"
 screen=$root/tests/packages/screen.py
 display_server=
 clear_away() {
   [[ -z $display_server ]] || kill "$display_server" 2>/dev/null || true
-  for bare in "$work"/{packages,source}-system; do
-    if mountpoint -q "$bare/proc"; then umount "$bare/proc"; fi
-  done
+  end_bare_system "$work/packages-system"
+  end_bare_system "$work/source-system"
   rm -rf "$work"
 }
 clear_away

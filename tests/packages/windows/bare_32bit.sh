@@ -6,10 +6,10 @@ set -euo pipefail
 export LC_ALL=C
 root=$1 folder=$2 work=$3
 shift 3
-((EUID == 0)) || { echo "a bare Debian can be made by root alone" && exit 77; }
+source "$root/tests/packages/bare_system.sh"
 bare=$work/bare
 clear_away() {
-  mountpoint -q "$bare/proc" && umount "$bare/proc"
+  end_bare_system "$bare"
   rm -rf "$work"
 }
 clear_away

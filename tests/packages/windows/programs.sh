@@ -6,7 +6,8 @@ folder=$1 kind=$2 wine=$3
 work=$(mktemp -d)
 export WINEPREFIX=$work/prefix
 wineserver=$(command -v wineserver || ls /usr/lib/wine/wineserver* | head -n 1)
-trap '"$wineserver" -k 2>/dev/null || true; rm -rf "$work"' EXIT
+# What the server ends may write for a moment more.
+trap '"$wineserver" -k 2>/dev/null || true; rm -rf "$work" || { sleep 1 && rm -rf "$work"; }' EXIT
 
 expected=$(sed -n '/^It prints$/,/^A program/s/^    //p' "$folder/examples/windows/unregistered/README.md")
 [[ -n $expected ]]
