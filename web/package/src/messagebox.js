@@ -1,7 +1,7 @@
 // A message box: modal, answered on purpose. No bare letter answers it, and a key counts only after a pause in the typing.
 
 import { answerBox, isMeant } from './machine.js';
-import { OWN_LANGUAGE, writeCaption } from './nodes.js';
+import { OWN_LANGUAGE, writeCaption } from './nodes/captions.js';
 
 const QUESTION = 36;
 const THE_CONTROLS = 0;

@@ -6,7 +6,8 @@ import { Bubble, Tip } from './floating.js';
 import { HostObjects } from './host.js';
 import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
-import { keepPattern, makeNode } from './nodes.js';
+import { makeNode } from './nodes.js';
+import { keepPattern } from './nodes/making.js';
 
 /** What the machine asks of a node; as in Page.h. */
 const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
