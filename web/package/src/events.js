@@ -222,7 +222,7 @@ export function listen(view) {
   function toggle(event, node) {
     const half = event.target.closest('span');
     if (half === null) run(Job.key, node, { text: ' ' });
-    else run(Job.picked, node, { number: half.textContent === 'Ja' ? 2 : 1 });
+    else run(Job.picked, node, { number: half === node.input.firstElementChild ? 2 : 1 });
   }
 
   /**
