@@ -23,8 +23,11 @@ const loseFocus = () => page.evaluate(() => window.editor.shadowRoot.activeEleme
 /** What a browser does on its own, without the page being asked first. */
 const closeNatively = (which) =>
   page.evaluate(async (selector) => {
-    window.editor.shadowRoot.querySelector(selector).close();
-    await new Promise((done) => setTimeout(done, 50));
+    const dialog = window.editor.shadowRoot.querySelector(selector);
+    await new Promise((done) => {
+      dialog.addEventListener('close', done, { once: true });
+      dialog.close();
+    });
   }, which);
 const comes = (what) => person.until(async () => (await person.message()) !== '', what);
 
@@ -128,9 +131,11 @@ test('dialogs.AQuestionThatTheBrowserClosesIsAnsweredAsByEscape', async () => {
 test('dialogs.WhatWasNotSeenIsNotAnsweredByTheBrowser', async () => {
   await bind();
   await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.stopClock();
   await person.press('Tab');
   await comes('the message');
   await closeNatively('dialog.message');
+  await person.startClock();
   assert.equal(await page.evaluate(() => window.editor.shadowRoot.querySelector('dialog.message').open), true);
   assert.equal(await person.focused(), 'OK');
   await person.pause();
