@@ -173,3 +173,58 @@ test('dialogs.APressBesideTheButtonsOfAMessageLeavesTheFocusThere', async () => 
   await person.press('Enter');
   assert.equal(await person.message(), '');
 });
+
+/** Whether the page takes a click. */
+async function pageIsFree() {
+  await page.evaluate(() => {
+    window.clicked = 0;
+    document.querySelector('#elders').onclick = () => ++window.clicked;
+  });
+  await page.click('#elders');
+  return (await page.evaluate(() => window.clicked)) === 1;
+}
+
+test('dialogs.LettingGoClosesTheFormAndNothingMoreIsAskedOrReported', async () => {
+  await withForm();
+  await person.press('ArrowDown');
+  await person.type('66');
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'refused');
+  assert.equal(await person.hasForm(), true);
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.hasForm(), false);
+  assert.equal(await page.evaluate(() => window.editor.state), 'unbound');
+  assert.ok(await pageIsFree());
+  assert.deepEqual(await page.evaluate(() => window.item.Bedrag.Perioden), []);
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+  // It works on.
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'bound');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.press('Control+a', '5', 'Alt+o');
+  assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 5);
+});
+
+test('dialogs.LettingGoClosesAQuestionUnanswered', async () => {
+  await withQuestion();
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'refused');
+  assert.notEqual(await person.message(), '');
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.message(), '');
+  assert.equal(await page.evaluate(() => window.stays), false);
+  assert.equal(await isTakenOver(), false);
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+  assert.ok(await pageIsFree());
+});
+
+test('dialogs.LettingGoClosesTheMessageAboutWhatDoesNotPass', async () => {
+  await bind();
+  await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.press('Tab');
+  await comes('the message');
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.message(), '');
+  assert.equal(await page.evaluate(() => window.item.DatumEind ?? null), null);
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'bound');
+  assert.notEqual(await person.text('TxtDtEind'), '1-1-1990');
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+});
