@@ -174,6 +174,8 @@ test('dialogs.APressBesideTheButtonsOfAMessageLeavesTheFocusThere', async () => 
   assert.equal(await person.message(), '');
 });
 
+/** As the tabs of a page hide what stands on them. */
+const setShown = (shown) => page.evaluate((display) => void (window.editor.style.display = display), shown ? '' : 'none');
 /** Whether the page takes a click. */
 async function pageIsFree() {
   await page.evaluate(() => {
@@ -183,6 +185,58 @@ async function pageIsFree() {
   await page.click('#elders');
   return (await page.evaluate(() => window.clicked)) === 1;
 }
+
+test('dialogs.WhatIsAskedInAHiddenElementIsAnsweredByNobody', async () => {
+  await bind();
+  await page.evaluate(() => window.dossier.Leningen[0].kolommen.push({ Id: 1 }));
+  await person.typeOver('TxtOm', 'Krant');
+  await setShown(false);
+  assert.equal(await page.evaluate(() => window.editor.validation()), false);
+  assert.equal(await person.message(), '');
+  await (await person.control('cmdScenario')).evaluate((button) => button.click());
+  assert.equal(await person.hasForm(), false);
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.press('Escape');
+});
+
+test('dialogs.AFormThatItsPageHidesGivesThePageFreeAndIsThereWhenItIsShownAgain', async () => {
+  await withForm();
+  await person.press('ArrowDown');
+  await person.type('66');
+  await setShown(false);
+  await person.until(async () => !(await person.hasForm()), 'its going');
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.until(() => person.hasForm(), 'the form');
+  assert.equal(await person.focused(), 'txtBedrag(2)');
+  assert.equal(await person.text('txtBedrag(2)'), '66,00');
+  await person.press('Enter', 'Escape');
+  await comes('the question');
+  await person.pause();
+  await person.press('Alt+j');
+  assert.equal(await person.hasForm(), false);
+  assert.ok(await pageIsFree());
+});
+
+test('dialogs.AQuestionThatItsPageHidesStandsWhenItIsShownAgain', async () => {
+  await withQuestion();
+  const isOpen = () => page.evaluate(() => window.editor.shadowRoot.querySelector('dialog.message').open);
+  await setShown(false);
+  await person.until(async () => !(await isOpen()), 'its going');
+  assert.ok(await pageIsFree());
+  // Moved where it is not seen either.
+  await page.evaluate(() => document.querySelector('main').append(window.editor));
+  assert.equal(await isOpen(), false);
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.until(isOpen, 'the question');
+  await person.pause();
+  await person.press('Alt+j');
+  assert.equal(await isTakenOver(), true);
+});
 
 test('dialogs.LettingGoClosesTheFormAndNothingMoreIsAskedOrReported', async () => {
   await withForm();
