@@ -1,7 +1,8 @@
 // What a person does to an editor and sees of it: keys and clicks of the browser's own input, and what stands on the page.
 import assert from 'node:assert/strict';
 
-const PATIENCE = 30000;
+/** How long what a person waits for may take, on a machine that has other things to do. */
+export const PATIENCE = 30000;
 
 /** Finds what shows the control of a name: "TxtBd", "optLast(2)", "Toelichting.jnAO", "txtBedrag(3)" in the open form. */
 const findInPage = (selector, name) => {
