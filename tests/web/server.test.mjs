@@ -13,7 +13,7 @@ after(() => server.close());
 /** Asks for a path to the letter, which a browser would tidy up first. */
 const asked = (path) =>
   new Promise((resolve, reject) => {
-    const request = http.get({ port: new URL(server.origin).port, path, agent: false, timeout: 5000 }, (answer) => {
+    const request = http.get({ port: new URL(server.origin).port, path, agent: false, timeout: 30000 }, (answer) => {
       answer.resume().on('end', () => resolve(answer));
     });
     request.on('error', reject).on('timeout', () => request.destroy(new Error('no answer')));

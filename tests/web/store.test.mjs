@@ -269,7 +269,9 @@ test('store.APageThatIsWorkedInIsToldThatAnotherOneWrote', async () => {
   // The browser asks nothing more of who was told.
   const asked = leaving(twee);
   await twee.page.bringToFront();
-  await Promise.all([twee.page.waitForNavigation(), twee.person.press('Shift+Tab', 'Enter')]);
+  await twee.person.press('Shift+Tab');
+  // The key may come up where that page is no more.
+  await Promise.all([twee.page.waitForNavigation(), twee.person.press('Enter').catch(() => {})]);
   await twee.begunAnew();
   assert.deepEqual(asked, []);
   assert.deepEqual(await twee.columns(), [AMOUNT.first('111,00'), ...SAMPLE.slice(1)]);

@@ -17,7 +17,7 @@ const OF_A_FAILURE = ['ReportError', 'ErrorInProcedure', 'ApplicationTitle', 'Ob
   'ErrorDescription', 'ErrorSource'];
 const REFUSAL = 'De host weigert';
 const FAILURE = 'failure 1234';
-const LONG = 1000;
+const LONG = 30000;
 const MOST_DIALOGS = 20;
 
 const wait = (time = 0) => new Promise((done) => setTimeout(done, time));
