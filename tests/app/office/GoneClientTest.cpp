@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QLineEdit>
 #include <QStatusBar>
 
 #include "tests/app/office/ClientWindow.h"
@@ -43,11 +42,7 @@ class GoneClientTest : public ClientWindow {
   }
   /// Nobody may have it: what is typed is refused.
   void ExpectRefusedAsGone(const char* text) {
-    dialogs_.ExpectMessage(kFailed, [](QWidget& box) {
-      const QString said = static_cast<QMessageBox&>(box).informativeText();
-      EXPECT_TRUE(said.contains("deze cliënt is er niet (meer), of niet voor uw team")) << qPrintable(said);
-      Pressing(Qt::Key_Return)(box);
-    });
+    ExpectFailed({"deze cliënt is er niet (meer), of niet voor uw team"});
     Describe(text);
   }
 };
@@ -89,11 +84,8 @@ TEST_F(GoneClientTest, WhoTakesItUpJustThenIsToldByTheBarAlone) {
 TEST_F(GoneClientTest, WhoComesBackToARemovedClientKeepsWhatHeTyped) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Tab);
+  ExpectFailed();
+  Describe("Avondkrant", [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); });
   Remove();
   proxy.Mend();
   window_->Actions().office.reconnect->trigger();
@@ -122,12 +114,7 @@ TEST_F(GoneClientTest, AClientOfAnotherTeamIsKeptAsAFileAndOpensAgainOnceItIsBac
   EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Ochtendkrant"; }, 5000))
       << Omschrijving(*window_);
   const QString copy = folder_.filePath("bewaard.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   window_->Actions().office.toFile->trigger();
   EXPECT_TRUE(window_->statusBar()->currentMessage().contains("zonder geschiedenis"))
       << qPrintable(window_->statusBar()->currentMessage());
