@@ -13,7 +13,7 @@ bool IsName(const QString& text) {
 }
 
 /// None where they cannot be read.
-dossier::ConnectionWords WordsOf(const QString& text) {
+dossier::ConnectionWords WordsIn(const QString& text) {
   return dossier::ReadConnectionWords(text).value_or(dossier::ConnectionWords());
 }
 
@@ -56,7 +56,7 @@ QString FaultLine(WordsFault fault) {
 QString OfficeTitle(const QString& words) {
   QString text = words.trimmed();
   if (!text.contains(u'=')) return text;
-  dossier::ConnectionWords read = WordsOf(text);
+  dossier::ConnectionWords read = WordsIn(text);
   if (QString service = read[QStringLiteral("service")]; !service.isEmpty()) return service;
   const QString database = read[QStringLiteral("dbname")];
   const QString host = read[QStringLiteral("host")];
@@ -67,7 +67,7 @@ QString OfficeTitle(const QString& words) {
 }
 
 QString OfficeAccount(const QString& words) {
-  return words.contains(u'=') ? WordsOf(words.trimmed())[QStringLiteral("user")] : QString();
+  return words.contains(u'=') ? WordsIn(words.trimmed())[QStringLiteral("user")] : QString();
 }
 
 }  // namespace brivane::app

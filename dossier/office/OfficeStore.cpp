@@ -294,14 +294,13 @@ void OfficeStore::TellIfChanged() {
 
 void OfficeStore::Plan() {
   if (!timer_) return;
-  if (Now() == State::Gone && told_state_ == State::Gone) {
-    timer_->stop();
-  } else if (Now() == State::Broken && told_state_ == State::Broken && (knocking_ || barred_)) {
-    // What comes of that plans what comes next.
+  const bool told = told_state_ == Now();
+  if (told && (Now() == State::Gone || (Now() == State::Broken && (knocking_ || barred_)))) {
+    // What comes of knocking, or of a password, plans what comes next; what is gone is looked for no more.
     timer_->stop();
   } else if (Now() == State::Broken) {
-    timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
-  } else if (told_state_ != Now()) {
+    timer_->start(told ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
+  } else if (!told) {
     timer_->start(0);
   } else if (IsAsked()) {
     timer_->start(static_cast<int>(answered_by_.remainingTime()));
