@@ -3,6 +3,7 @@
 
 #include <emscripten.h>
 
+#include <chrono>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -121,12 +122,13 @@ EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
     element->Toolkit().Desktop().Answered(box, static_cast<host::MessageAnswer>(answer));
 }
 
-EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+/// `ago`: how many milliseconds ago the key went down.
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, double ago) {
   using Press = controls::KeysUnderWay::Press;
   Element* const element = Element::Find(page);
-  return element != nullptr && element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First)
-             ? 1
-             : 0;
+  if (element == nullptr) return 0;
+  const std::chrono::milliseconds passed(static_cast<std::chrono::milliseconds::rep>(ago));
+  return element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First, passed) ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
