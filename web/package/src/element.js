@@ -133,6 +133,7 @@ class ControlElement extends Base {
   async _bind(binding) {
     const result = RESULTS[await this.#use(() => this.#job(Job.bind, binding))];
     if (result !== 'refused') this.#bound = binding.first == null ? null : binding;
+    if (result === 'bound') this._laidOut();
     return result;
   }
   async _job(job, order) {
@@ -183,8 +184,11 @@ class ControlElement extends Base {
     if (this.#backColor !== null) this.#job(Job.backColor, { number: this.#backColor | 0 });
     this._again();
     if (this.#bound !== null && this.state === 'never') this.#job(Job.bind, this.#bound);
+    this._laidOut();
   }
   _again() {}
+  /** It was bound: what lays it out by its place does so. */
+  _laidOut() {}
 
   /** What screen readers call it, unless its page says otherwise. */
   #speak(language) {
@@ -261,9 +265,13 @@ export class VrijeKolomElement extends ControlElement {
 
 /** The explanation control by itself. It is as wide as its place, and no narrower than its design. */
 export class ToelichtingElement extends ControlElement {
+  /** In twips: of its place when that was seen last. */
+  #width = DESIGN_WIDTH;
   #sizes = new ResizeObserver(([entry]) => {
-    const width = Math.round(entry.contentRect.width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM));
-    if (this.state === 'bound') this._job(Job.size, { number: Math.max(DESIGN_WIDTH, width) });
+    const { width } = entry.contentRect;
+    if (width === 0) return;
+    this.#width = Math.max(DESIGN_WIDTH, Math.round(width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM)));
+    this._laidOut();
   });
 
   constructor() {
@@ -275,6 +283,10 @@ export class ToelichtingElement extends ControlElement {
   }
   get _name() {
     return null;
+  }
+
+  _laidOut() {
+    if (this.state === 'bound') this._job(Job.size, { number: this.#width });
   }
 
   async setApplication(application, lening, vrijId) {
