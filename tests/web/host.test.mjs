@@ -110,6 +110,45 @@ for (const [object, member, reported] of [
     await worksAgain();
   });
 
+/** Binds with a member whose getter another window made, and answers what came of it. */
+const bindWithForeign = (member, code) =>
+  page.evaluate(async ([name, made, fields]) => {
+    const frame = Object.assign(document.createElement('iframe'), { src: '/tests/pages/sheet.html', title: 'Ander' });
+    await new Promise((loaded) => {
+      frame.onload = loaded;
+      document.querySelector('main').append(frame);
+    });
+    await window.bind({ ...fields });
+    const { editor, application, item, reports } = window;
+    const foreign = { date: () => new frame.contentWindow.Date(2032, 4, 1), noDate: () => new frame.contentWindow.Date(NaN),
+      error: () => { throw Object.assign(new frame.contentWindow.Error('De host weigert'), { number: 1234 }); },
+      plain: () => { throw { number: 1234, message: 'De host weigert' }; } };
+    Object.defineProperty(item, name, { configurable: true, get: foreign[made], set() {} });
+    const result = await editor.setApplication(application, 0, 1);
+    frame.remove();
+    return { result, reports };
+  }, [member, code, COLUMN]);
+
+test('host.ADateOfAnotherWindowIsADay', async () => {
+  const { result, reports } = await bindWithForeign('DatumAanvang', 'date');
+  assert.deepEqual([result, reports], ['bound', []]);
+  assert.equal(await person.text('TxtDtAanvang'), '01-05-2032');
+});
+
+test('host.ADateOfAnotherWindowThatIsNoneIsError13', async () => {
+  const { result, reports } = await bindWithForeign('DatumAanvang', 'noDate');
+  assert.equal(result, 'failed');
+  holdReports(reports, '13');
+});
+
+for (const thrown of ['error', 'plain'])
+  test(`host.AFailureOfAnotherKindHasItsNumberAndItsText ${thrown}`, async () => {
+    const { result, reports } = await bindWithForeign('Omschrijving', thrown);
+    assert.equal(result, 'failed');
+    holdReports(reports, '1234');
+    assert.equal(reports[0].text, 'De host weigert');
+  });
+
 test('host.AMemberThatIsMissingIsReported', async () => {
   const reports = await page.evaluate(async (fields) => {
     await window.bind(fields);

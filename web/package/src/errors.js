@@ -15,7 +15,6 @@ const TYPE_MISMATCH = 13;
 export function failAsMismatch() {
   throw new HostError(TYPE_MISMATCH, 'Type mismatch');
 }
-
 const FOREIGN = 440;
 const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 ** 31;
 
@@ -23,7 +22,7 @@ const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 **
 export function failureOf(thrown) {
   try {
     const number = isNumber(thrown?.number) ? thrown.number : FOREIGN;
-    const description = String(thrown instanceof Error ? thrown.message : thrown);
+    const description = typeof thrown?.message === 'string' ? thrown.message : String(thrown);
     return { number, description, source: typeof thrown?.source === 'string' ? thrown.source : 'BrivaneVrijeKolom' };
   } catch {
     return { number: FOREIGN, description: '', source: 'BrivaneVrijeKolom' };
