@@ -149,6 +149,34 @@ for (const thrown of ['error', 'plain'])
     assert.equal(reports[0].text, 'De host weigert');
   });
 
+/** What a host's VulCombo does to the list, and what came of the binding. */
+const fillWith = (code) =>
+  page.evaluate(async ([made, fields]) => {
+    await window.bind({ ...fields, IsProduct: true, Maatschappij: 'AB' });
+    const { editor, application, reports } = window;
+    const fill = { textForItemData: (list) => list.AddItem('x', 'y'), noNumber: (list) => list.AddItem('x', NaN), nothing: (list) => list.AddItem('x', null),
+      tooLarge: (list) => list.AddItem('x', 1e99), numberForText: (list) => list.AddItem(5, 1), noText: (list) => list.AddItem(undefined, 1),
+      textForIndex: (list) => (list.AddItem('x', 1), (list.ListIndex = 'x')), noIndex: (list) => (list.AddItem('x', 1), (list.ListIndex = undefined)),
+      textAskedFor: (list) => (list.AddItem('x', 1), list.ItemData('0')), noEntry: (list) => (list.AddItem('x', 1), list.List(1)),
+      withoutItemData: (list) => list.AddItem('x') };
+    application.VulCombo = (source, table, list) => fill[made](list);
+    const result = await editor.setApplication(application, 0, 1);
+    return { result, reports };
+  }, [code, COLUMN]);
+
+for (const [what, number] of [['textForItemData', '13'], ['noNumber', '13'], ['nothing', '13'], ['tooLarge', '6'], ['numberForText', '13'], ['noText', '13'],
+  ['textForIndex', '13'], ['noIndex', '13'], ['textAskedFor', '13'], ['noEntry', '381']])
+  test(`host.AListThatIsFilledWith ${what} IsError${number}`, async () => {
+    const { result, reports } = await fillWith(what);
+    assert.equal(result, 'failed');
+    holdReports(reports, number);
+  });
+
+test('host.AnEntryOfAListNeedsNoNumber', async () => {
+  const { result, reports } = await fillWith('withoutItemData');
+  assert.deepEqual([result, reports], ['bound', []]);
+});
+
 test('host.AMemberThatIsMissingIsReported', async () => {
   const reports = await page.evaluate(async (fields) => {
     await window.bind(fields);

@@ -15,6 +15,12 @@ const TYPE_MISMATCH = 13;
 export function failAsMismatch() {
   throw new HostError(TYPE_MISMATCH, 'Type mismatch');
 }
+/** For the machine, which says what is wrong with a number. */
+export function numberOf(value) {
+  if (typeof value !== 'number') failAsMismatch();
+  return value;
+}
+
 const FOREIGN = 440;
 const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 ** 31;
 
