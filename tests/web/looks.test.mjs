@@ -52,6 +52,33 @@ test('looks.InAPageFromRightToLeftItStaysAsItIs', async () => {
   assert.deepEqual(stands, stood);
 });
 
+// How a page writes its own texts is not how the designs are written, which leave each caption its room.
+test('looks.TheTextsStayAsTheyAreInAPageThatWritesOtherwise', async () => {
+  const seen = () => page.evaluate(() => {
+    const parts = [...window.editor.shadowRoot.querySelectorAll('legend, .label, .text, .button, .toggle span, th, td, .title, .buttons button')]
+      .filter((part) => part.checkVisibility());
+    return parts.map((part) => {
+      const { left, top } = window.editor.getBoundingClientRect();
+      const range = document.createRange();
+      range.selectNodeContents(part);
+      const box = range.getBoundingClientRect();
+      return [part.textContent, getComputedStyle(part).textShadow, ...[box.left - left, box.top - top, box.width, box.height].map(Math.round)];
+    });
+  });
+  const otherwise = { letterSpacing: '3px', wordSpacing: '5px', textTransform: 'uppercase', textIndent: '20px', textShadow: '1px 1px red', fontStyle: 'italic',
+    fontWeight: '800', fontVariant: 'small-caps', fontStretch: 'condensed', whiteSpace: 'pre', wordBreak: 'break-all', overflowWrap: 'anywhere', hyphens: 'auto', textAlign: 'center', lineHeight: '3' };
+  await bind('editor-overgang');
+  const stood = await seen();
+  await page.evaluate((style) => Object.assign(window.editor.parentElement.style, style), otherwise);
+  const stands = await seen();
+  await page.evaluate(() => (window.editor.parentElement.style.writingMode = 'vertical-rl'));
+  const mode = await page.evaluate(() => getComputedStyle(window.editor.shadowRoot.querySelector('.label')).writingMode);
+  await page.evaluate(() => window.editor.parentElement.removeAttribute('style'));
+  assert.ok(stood.length > 20);
+  assert.deepEqual(stands, stood);
+  assert.equal(mode, 'horizontal-tb');
+});
+
 test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
   await bind('editor-vaste-last');
   const [width, height] = await (await person.control('Toelichting.lstToelichting')).evaluate((list) =>

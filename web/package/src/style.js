@@ -24,11 +24,11 @@ const CSS_TEXT = `
 :host {
   display: block;
   overflow: auto hidden;
+  font: 1em/1.25 sans-serif;
   font-family: var(--vrije-kolom-font-family, Arial, "Liberation Sans", sans-serif);
   font-size: var(--vrije-kolom-font-size, inherit);
-  line-height: 1.25;
-  text-align: start;
-  direction: ltr;
+  letter-spacing: normal; word-spacing: normal; text-transform: none; text-indent: 0; text-align: start; text-shadow: none;
+  white-space: normal; word-break: normal; overflow-wrap: normal; hyphens: manual; direction: ltr; writing-mode: horizontal-tb;
   color: var(--vrije-kolom-color, CanvasText);
   background: var(--vrije-kolom-background, transparent);
   --accent: var(--vrije-kolom-accent, light-dark(#0a58a8, #8ab8f5));
