@@ -94,6 +94,29 @@ async function leave(typed) {
 test('element.WhatIsTypedIsStoredWhenThePageIsLeft', async () => assert.deepEqual(await leave('12'), { asked: false, amount: 12 }));
 test('element.WhatIsRefusedIsAskedAboutWhenThePageIsLeft', async () => assert.deepEqual(await leave('12.50'), { asked: true, amount: 7 }));
 
+// Numbers are read as everywhere: to the nearest whole one, halves to the even one, and no further than they reach.
+test('element.TakesTheNumbersThatTheControlsTake', async () => {
+  const came = await page.evaluate(async (column) => {
+    const { makeHost } = await import('/tests/pages/host.js');
+    await window.bind();
+    const { application, dossier } = Object.assign(window, makeHost([{ ...column, Id: 2 }]));
+    const outcome = (promise) => promise.catch(({ number }) => number);
+    const bound = async (lenId, vrijId) => outcome(window.editor.setApplication(application, lenId, vrijId));
+    const asked = [];
+    Object.defineProperty(dossier, 'Lening', { value: (id) => (asked.push(id), id === 0 ? dossier.HuidigeLening : null) });
+    await bound(-32768, 2);
+    const found = [await bound(0.5, 1.5), await bound(0, 2.5)];
+    const refused = [await bound(0, 32768), await bound(-32769, 2), await bound(0, NaN), await bound('0', 2), await bound(0), await bound(0, Infinity)];
+    const numbers = [40000, -40000, 0.5, 2147483648, NaN, '1', null];
+    const checks = [];
+    for (const number of numbers) checks.push(await outcome(window.editor.validation(number)));
+    checks.push(await outcome(window.editor.validationToelichting(2147483648)));
+    return { asked: asked.slice(0, 1), found, refused, checks };
+  }, COLUMN);
+  assert.deepEqual(came, { asked: [-32768], found: ['bound', 'bound'], refused: [6, 6, 13, 13, 13, 6],
+    checks: [false, false, false, 6, 13, 13, 13, 6] });
+});
+
 test('element.PutBackAfterARefusedBindingItIsBoundAsItWas', async () => {
   await page.evaluate(async ([column]) => {
     const { makeHost } = await import('/tests/pages/host.js');

@@ -86,6 +86,17 @@ test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
   assert.deepEqual([width, height], [0, 0]);
 });
 
+// By the rules of typing, which know more ways to write a day than the calendar.
+for (const [typed, day] of [['1-5-31', '2031-05-01'], ['010531', '2031-05-01'], ['18m', '2032-10-01'], ['', ''], ['1-13-2031', '']])
+  test(`looks.TheCalendarOpensAtTheDayThatIsTyped ${typed}`, async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtDtEind', typed);
+    await person.press('F4');
+    const picker = await (await person.control('TxtDtEind')).evaluate(({ node }) => [node.picker.value, node.picker.min]);
+    assert.deepEqual(picker, [day, '1900-01-01']);
+    await person.press('Escape', 'Escape');
+  });
+
 // A4 between the margins that browsers leave, in pixels of paper.
 const PAPER = { width: 718, height: 1047 };
 test('looks.OnPaperAllIsThereAndEveryAnswerReadsAsItIs', async () => {

@@ -1,4 +1,4 @@
-import { failAsMismatch } from './errors.js';
+import { failAsMismatch, numberOf } from './errors.js';
 import { stopsIn } from './events.js';
 import { Job } from './jobs.js';
 import { notLoadedAt } from './languages.js';
@@ -12,11 +12,6 @@ const RESULTS = ['bound', 'failed', 'refused'];
 const EVENTS = ['refreshtopdisplay', 'heightchanged', 'changed'];
 /** Of the explanation control, in twips. */
 const DESIGN_WIDTH = 6030;
-
-function whole(value) {
-  if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) failAsMismatch();
-  return value;
-}
 
 /** Where pages are made on a server there are no elements, and importing this does nothing. */
 const Base = globalThis.HTMLElement ?? class {};
@@ -118,7 +113,7 @@ class ControlElement extends Base {
   }
 
   async validation(controleNr = 0, cancel = false) {
-    const number = whole(controleNr);
+    const number = numberOf(controleNr);
     return (await this.#use(() => this.#job(Job.validation, { number, more: cancel ? 1 : 0 }))) !== 0;
   }
   async commitPending() {
@@ -243,11 +238,11 @@ export class VrijeKolomElement extends ControlElement {
 
   /** Binds the editor to a column of a loan (0: the loan of the current situation) and fills it. */
   async setApplication(application, lenId, vrijId) {
-    return this._bind({ first: application, number: whole(lenId), more: whole(vrijId) });
+    return this._bind({ first: application, number: numberOf(lenId), more: numberOf(vrijId) });
   }
   /** The check of the explanation control inside the editor. */
   async validationToelichting(controleNr = 0, cancel = false) {
-    const order = { number: whole(controleNr), more: cancel ? 1 : 0 };
+    const order = { number: numberOf(controleNr), more: cancel ? 1 : 0 };
     return (await this._job(Job.validationToelichting, order)) !== 0;
   }
 
@@ -290,6 +285,6 @@ export class ToelichtingElement extends ControlElement {
   }
 
   async setApplication(application, lening, vrijId) {
-    return this._bind({ first: application, second: lening, number: 0, more: whole(vrijId) });
+    return this._bind({ first: application, second: lening, number: 0, more: numberOf(vrijId) });
   }
 }

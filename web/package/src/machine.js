@@ -148,6 +148,9 @@ export function answerBox(view, box, answer) {
 
 /** Whether it changes anything that the focus leaves a node. */
 export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
+/** The day at which the calendar of a box opens, NaN where no day stands in it, and the first that may be picked. */
+export const dayIn = (view, node) => machine._brivane_day(view.number, node.id) || NaN;
+export const firstDay = () => machine._brivane_first_day();
 export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);
