@@ -137,6 +137,25 @@ test('element.PutBackAfterARefusedBindingItIsBoundAsItWas', async () => {
   assert.equal(await person.text('TxtOm'), 'Contributie');
 });
 
+// Nobody waits for a property that was set: what is wrong the binding says.
+for (const [property, value] of [['beeindigenZichtbaar', true], ['backColor', 0x2040ff]])
+  test(`element.SettingAPropertyWhereFactoriesFailLeavesNothingUnheard ${property}`, async () => {
+    const result = await page.evaluate(async ([name, set, column]) => {
+      await window.bind(column);
+      const fresh = document.createElement('vrije-kolom');
+      window.editor.replaceWith(fresh);
+      window.editor = fresh;
+      fresh.hostFactories = { procedureTrace: () => ({}) };
+      fresh[name] = set;
+      await new Promise((done) => setTimeout(done));
+      const failure = await fresh.setApplication(window.application, 0, 1).catch(({ name: kind, number }) => [kind, number]);
+      fresh.hostFactories = {};
+      return [failure, await fresh.setApplication(window.application, 0, 1)];
+    }, [property, value, COLUMN]);
+    assert.deepEqual(result, [['HostError', 438], 'bound']);
+    assert.deepEqual(page.faults, []);
+  });
+
 test('element.LettingGoBeforeTheMachineIsThereIsLettingGo', async () => {
   const early = await open('/tests/pages/early.html');
   await early.waitForFunction(() => window.isReady);

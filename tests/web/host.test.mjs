@@ -188,6 +188,21 @@ test('host.AMemberThatIsMissingIsReported', async () => {
   assert.equal(reports[0].number, '438');
 });
 
+test('host.WhatNobodyCanBeToldOfRejects', async () => {
+  const rejected = await page.evaluate(async (fields) => {
+    await window.bind(fields);
+    const { editor, application } = window;
+    const outcome = (promise) => promise.catch(({ name, number }) => `${name} ${number}`);
+    const seen = [await outcome(editor.setApplication({}, 0, 1)), await outcome(editor.setApplication('een dossier', 0, 1))];
+    application.ReportError = () => {
+      throw Object.assign(new Error('vol'), { number: 61 });
+    };
+    delete window.item.Termijn;
+    return [...seen, await outcome(editor.setApplication(application, 0, 1))];
+  }, COLUMN);
+  assert.deepEqual(rejected, ['HostError 438', 'HostError 438', 'HostError 61']);
+});
+
 test('host.AFailedWriteIsReportedAndTheTextIsKept', async () => {
   await page.evaluate((fields) => window.bind(fields), COLUMN);
   await page.evaluate(() => Object.defineProperty(window.item, 'Omschrijving', { get: () => 'Contributie', set() {
@@ -274,17 +289,23 @@ test('host.TheElementTakenAwayWithAMessageOpenEndsQuietly', async () => {
   await worksAgain();
 });
 
-for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['Throws', '']])
+for (const [what, below, faults] of [['Adds', '\n\n1 afwijkende kolom: Contributie', 0], ['Throws', '', 1], ['AnswersNothing', '', 0], ['AnswersAPromise', '', 1],
+  ['AnswersANumber', '', 1]])
   test(`host.AQuestionShowsWhatTheHostAddsBelowIt ${what}`, async () => {
-    await page.evaluate(async (fields, throws) => {
+    await page.evaluate(async (fields, name) => {
       await window.bind(fields);
       // The same column in a new situation: whether that goes is asked before this one is left.
       window.dossier.Leningen[0].kolommen.push({ Id: window.item.Id });
-      window.editor.questionDetails = () => {
-        if (throws) throw new Error('geen kolommen');
-        return '1 afwijkende kolom: Contributie';
-      };
-    }, COLUMN, what === 'Throws');
+      window.editor.questionDetails = {
+        Adds: () => '1 afwijkende kolom: Contributie',
+        Throws: () => {
+          throw new Error('geen kolommen');
+        },
+        AnswersNothing: () => {},
+        AnswersAPromise: async () => '1 afwijkende kolom: Contributie',
+        AnswersANumber: () => 1,
+      }[name];
+    }, COLUMN, what);
     await person.typeOver('TxtOm', 'Krant');
     // It comes back when it was answered.
     await page.evaluate(() => void (window.stays = window.editor.validation()));
@@ -295,7 +316,7 @@ for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['
     await person.press('Escape');
     assert.equal(await page.evaluate(() => window.stays), false);
     // Its own failure is the page's to hear of.
-    assert.equal(page.faults.splice(0).length, what === 'Throws' ? 1 : 0);
+    assert.equal(page.faults.splice(0).length, faults);
   });
 
 test('host.AnEditorPutBackIsBoundAsItWas', async () => {

@@ -103,7 +103,7 @@ class ControlElement extends Base {
   set backColor(color) {
     if (!Number.isInteger(color)) failAsMismatch();
     this.#backColor = color;
-    this.#use(() => this.#job(Job.backColor, { number: color | 0 }));
+    this._set(Job.backColor, color | 0);
   }
 
   /** To the first control that takes the focus, or to what is asked. */
@@ -133,6 +133,10 @@ class ControlElement extends Base {
   }
   async _job(job, order) {
     return this.#use(() => this.#job(job, order));
+  }
+  /** For who waits for nothing: what fails here makes the binding fail too, which says so. */
+  _set(job, number) {
+    this._job(job, { number }).catch(() => {});
   }
 
   /** For tests, which reach further than a host. */
@@ -176,7 +180,7 @@ class ControlElement extends Base {
 
   /** An element that is put back in a page is as it was. */
   #again() {
-    if (this.#backColor !== null) this.#job(Job.backColor, { number: this.#backColor | 0 });
+    if (this.#backColor !== null) this._set(Job.backColor, this.#backColor | 0);
     this._again();
     if (this.#bound !== null && this.state === 'never') this.#job(Job.bind, this.#bound);
     this._laidOut();
@@ -208,7 +212,9 @@ class ControlElement extends Base {
 
   #details(title, text) {
     try {
-      return String(this.#questionDetails?.(title, text) ?? '');
+      const details = this.#questionDetails?.(title, text) ?? '';
+      if (typeof details !== 'string') failAsMismatch();
+      return details;
     } catch (error) {
       reportError(error);
       return '';
@@ -251,10 +257,10 @@ export class VrijeKolomElement extends ControlElement {
   }
   set beeindigenZichtbaar(zichtbaar) {
     this.#beeindigenZichtbaar = Boolean(zichtbaar);
-    this._job(Job.beeindigenZichtbaar, { number: zichtbaar ? 1 : 0 });
+    this._set(Job.beeindigenZichtbaar, zichtbaar ? 1 : 0);
   }
   _again() {
-    if (this.#beeindigenZichtbaar) this._job(Job.beeindigenZichtbaar, { number: 1 });
+    if (this.#beeindigenZichtbaar) this._set(Job.beeindigenZichtbaar, 1);
   }
 }
 
@@ -281,7 +287,7 @@ export class ToelichtingElement extends ControlElement {
   }
 
   _laidOut() {
-    if (this.state === 'bound') this._job(Job.size, { number: this.#width });
+    if (this.state === 'bound') this._set(Job.size, this.#width);
   }
 
   async setApplication(application, lening, vrijId) {
