@@ -125,6 +125,75 @@ test('looks.OnPaperAllIsThereAndEveryAnswerReadsAsItIs', async () => {
   assert.deepEqual(new Set(seen.adjust), new Set(['exact']));
 });
 
+/** What screen readers are told in passing, on the page and in the open form, and whether that stands where it always stood. */
+const told = () => page.evaluate(() => {
+  const { shadowRoot } = window.editor;
+  const all = [...shadowRoot.querySelectorAll('[role=status], [aria-live]')];
+  window.statuses ??= all;
+  const same = all.length === window.statuses.length && all.every((one, i) => one === window.statuses[i]);
+  return { texts: all.map((one) => one.textContent), lang: all[0].lang, same };
+});
+
+test('looks.WhatABoxMakesOfATextIsReadOutFromWhereItAlwaysStands', async () => {
+  await bind('editor-vaste-last');
+  await page.evaluate(() => delete window.statuses);
+  assert.deepEqual(await told(), { texts: [''], lang: '', same: true });
+  await person.typeOver('TxtDtAanvang', '1-4-203');
+  await person.type('1');
+  assert.equal(await person.said(), 'dinsdag 1 april 2031');
+  assert.deepEqual(await told(), { texts: ['dinsdag 1 april 2031'], lang: 'nl', same: true });
+  const shown = await page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble');
+    return [bubble.part.value, bubble.getAttribute('role'), bubble.ariaHidden, window.editor.shadowRoot.activeElement.getAttribute('aria-describedby')];
+  });
+  assert.deepEqual(shown, ['note', null, 'true', null]);
+  await person.press('Escape');
+  assert.deepEqual(await told(), { texts: [''], lang: 'nl', same: true });
+});
+
+test('looks.InTheFormItIsReadOutThere', async () => {
+  await bind('editor-vaste-last');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await page.evaluate(() => delete window.statuses);
+  assert.deepEqual((await told()).texts, ['', '']);
+  await person.typeOver('txtBedrag(2)', '5+5');
+  assert.deepEqual(await told(), { texts: ['', '= 10,00'], lang: '', same: true });
+  await person.press('Escape');
+  assert.deepEqual((await told()).texts, ['', '']);
+  await person.press('Escape');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+});
+
+test('looks.WhyATextWasRefusedIsReadOutEachTimeAndTheNoteNoMore', async () => {
+  await bind('editor-vaste-last');
+  await page.evaluate(() => delete window.statuses);
+  const reason = () => page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble');
+    const box = window.editor.shadowRoot.activeElement;
+    return bubble && [bubble.part.value, bubble.getAttribute('role'), bubble.ariaHidden, box.getAttribute('aria-describedby'), box.getAttribute('aria-invalid')];
+  });
+  await told();
+  await person.typeOver('TxtBd', '5+5');
+  assert.deepEqual((await told()).texts, ['= 10,00']);
+  await person.type('+x');
+  await page.evaluate(() => {
+    window.comings = 0;
+    new MutationObserver((changes) => (window.comings += changes.flatMap(({ addedNodes }) => [...addedNodes]).length))
+      .observe(window.editor.shadowRoot, { childList: true });
+  });
+  await person.press('Tab', 'Tab');
+  assert.deepEqual(await reason(), ['reason', 'alert', null, 'bubble', 'true']);
+  assert.equal(await page.evaluate(() => window.comings), 2);
+  assert.deepEqual((await told()).texts, ['']);
+  await person.press('Control+a');
+  await person.type('6+6');
+  assert.deepEqual(await told(), { texts: ['= 12,00'], lang: 'nl', same: true });
+  assert.deepEqual(await reason(), ['note', null, 'true', null, null]);
+  await person.press('Escape');
+  assert.equal(await reason(), null);
+});
+
 /** What a person may come upon, each to be looked at. */
 const SIGHTS = {
   ...Object.fromEntries(Object.keys(STATES).map((state) => [state, () => bind(state)])),

@@ -104,6 +104,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   font-weight: bold; line-height: 1; forced-color-adjust: none;
 }
 .spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
+.spoken[role] { position: fixed; inset: 0 auto auto 0; }
 .tip, .bubble {
   border: 1px solid; border-color: var(--line); border-radius: 3px; background-color: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);
