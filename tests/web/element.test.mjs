@@ -195,7 +195,7 @@ test('element.InAnotherDocumentItLooksAndWorksAsBefore', async () => {
     return { position: getComputedStyle(box).position, sheets: window.editor.shadowRoot.adoptedStyleSheets.length };
   });
   assert.deepEqual(seen, { position: 'absolute', sheets: 1 });
-  const click = async (which, options) => {
+  const middleOf = async (which) => {
     const middle = await page.evaluate((name) => {
       const frame = document.querySelector('#ander');
       frame.scrollIntoView();
@@ -204,12 +204,41 @@ test('element.InAnotherDocumentItLooksAndWorksAsBefore', async () => {
       const [around, box] = [frame.getBoundingClientRect(), target.getBoundingClientRect()];
       return [around.left + frame.clientLeft + box.left + box.width / 2, around.top + frame.clientTop + box.top + box.height / 2];
     }, which);
-    await page.mouse.click(...middle, options);
+    return middle;
   };
+  const click = async (which, options) => page.mouse.click(...(await middleOf(which)), options);
   await click('TxtBd', { count: 3 });
   await person.type('12');
   await click('');
   assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 12);
+  // A press that was dropped because of what is refused, and let go of elsewhere, takes no other one along.
+  await click('TxtBd', { count: 3 });
+  await person.type('x');
+  await page.mouse.move(...(await middleOf('TxtOm')));
+  await page.mouse.down();
+  await page.mouse.move(...(await middleOf('')));
+  await page.mouse.up();
+  await person.press('Escape');
+  await click('optLast(2)');
+  assert.equal(await page.evaluate(() => window.item.CorrectieLast), 2);
+  // What is said beside a box keeps to its side when that document scrolls.
+  const apart = () => page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble').getBoundingClientRect();
+    const box = window.editor.shadowRoot.activeElement.getBoundingClientRect();
+    return Math.round(bubble.top - box.bottom);
+  });
+  await click('TxtBd', { count: 3 });
+  await person.type('5+5');
+  assert.equal(await apart(), 2);
+  const scrolled = await page.evaluate(() => new Promise((done) => {
+    const { defaultView } = window.editor.ownerDocument;
+    window.editor.style.marginBottom = '900px';
+    defaultView.addEventListener('scroll', () => setTimeout(() => done(defaultView.scrollY)), { once: true });
+    defaultView.scrollTo(0, 20);
+  }));
+  assert.equal(scrolled, 20);
+  assert.equal(await apart(), 2);
+  await person.press('Escape');
   await page.evaluate(() => {
     document.querySelector('h1').after(window.editor);
     document.querySelector('#ander').remove();

@@ -6,6 +6,8 @@ const GAP = 2;
 class Floating {
   element = document.createElement('div');
   #anchor = null;
+  /** That of the anchor, which may be another one than this script runs in. */
+  #window = null;
   #follow = () => this.#putBeside();
 
   constructor(className) {
@@ -28,20 +30,22 @@ class Floating {
     (anchor.closest('dialog') ?? anchor.getRootNode()).append(this.element);
     if (!this.element.isConnected) return;
     this.element.showPopover();
+    this.#window = anchor.ownerDocument.defaultView;
     this.#putBeside();
-    for (const moved of ['scroll', 'resize']) addEventListener(moved, this.#follow, { capture: true, passive: true });
+    for (const moved of ['scroll', 'resize']) this.#window.addEventListener(moved, this.#follow, { capture: true, passive: true });
   }
 
   take() {
     if (this.#anchor === null) return;
     this.#anchor = null;
-    for (const moved of ['scroll', 'resize']) removeEventListener(moved, this.#follow, { capture: true });
+    for (const moved of ['scroll', 'resize']) this.#window?.removeEventListener(moved, this.#follow, { capture: true });
     this.element.remove();
   }
 
   /** Below it, above it where there is no room below, and inside the window. */
   #putBeside() {
     if (!this.element.isConnected) return this.take();
+    const { innerWidth, innerHeight } = this.#window;
     const around = this.#anchor.getBoundingClientRect();
     const { width, height } = this.element.getBoundingClientRect();
     const below = around.bottom + GAP;
