@@ -100,6 +100,16 @@ declare class ControlElement extends HTMLElement {
     listener: EventListenerOrEventListenerObject,
     options?: boolean | AddEventListenerOptions,
   ): void;
+  removeEventListener<K extends keyof ControlEventMap>(
+    type: K,
+    listener: (this: this, event: ControlEventMap[K]) => unknown,
+    options?: boolean | EventListenerOptions,
+  ): void;
+  removeEventListener(
+    type: string,
+    listener: EventListenerOrEventListenerObject,
+    options?: boolean | EventListenerOptions,
+  ): void;
 }
 
 /** `<vrije-kolom>`: the editor of a free column. */
