@@ -1,5 +1,7 @@
 // A box for text, amounts, numbers and days; that of a day with the browser's calendar.
 
+import { writtenDay } from '../days.js';
+import { dayIn, firstDay } from '../machine.js';
 import { Format, Shows } from './contract.js';
 import { copy, make, shown } from './making.js';
 import { Node } from './node.js';
@@ -50,8 +52,7 @@ export class TextBox extends Node {
   openCalendar() {
     if (this.button === undefined || this.input.disabled || this.input.readOnly) return false;
     if (this.picker === undefined) this.#addPicker();
-    const [day, month, year] = this.input.value.split('-');
-    this.picker.value = /^\d\d-\d\d-\d{4}$/.test(this.input.value) ? `${year}-${month}-${day}` : '';
+    this.picker.value = writtenDay(dayIn(this.view, this));
     try {
       this.picker.showPicker();
     } catch {
@@ -62,7 +63,7 @@ export class TextBox extends Node {
 
   /** The browser's own calendar, which few open; what is picked there is typed over by the machine. */
   #addPicker() {
-    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
+    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: writtenDay(firstDay()) });
     this.picker.node = this;
     this.input.after(this.picker);
   }
