@@ -77,7 +77,7 @@ ClientSession::~ClientSession() { Leave(); }
 void ClientSession::Leave() noexcept {
   if (std::exchange(left_, true)) return;
   GiveBack();
-  if (state_ == State::Broken) return;
+  if (!IsThere()) return;
   office_->ListenNoMore(Channel());
   FollowNoMore();
 }
@@ -106,7 +106,7 @@ void ClientSession::FollowNoMore() {
 
 bool ClientSession::Take() {
   if (state_ == State::Editing) return true;
-  if (!TakeLease()) return false;
+  if (state_ == State::Gone || !TakeLease()) return false;
   office_->Prepare(SendSql());
   return true;
 }
@@ -186,6 +186,7 @@ void ClientSession::Begin() {
   switch (state_) {
     case State::Editing: break;
     case State::Broken: Refuse(kOfficeError, "er is geen verbinding met het kantoor");
+    case State::Gone: Refuse(kRefusedError, OfficeError(OfficeProblem::NoClient, "").Oorzaak());
     case State::Reading:
       if (!office_->User().writes) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
       Refuse(kLeaseError, holder_.naam.isEmpty() ? "het dossier is niet bij u in bewerking"
@@ -229,7 +230,7 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const E
         behind_ = true;
         Refuse(kLeaseError, error.Oorzaak());
       case OfficeProblem::Stale: behind_ = true; Refuse(kRefusedError, error.Oorzaak());
-      default: Refuse(kRefusedError, error.Oorzaak());
+      default: Met(error); Refuse(kRefusedError, error.Oorzaak());
     }
   }
   pending_ = Pending{edit, step};
@@ -251,6 +252,23 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const E
 void ClientSession::Broke() {
   state_ = State::Broken;
   tries_ = 0;
+}
+
+void ClientSession::Met(const OfficeError& error) {
+  if (error.Problem() == OfficeProblem::Unreachable && IsThere()) Broke();
+  if (error.Problem() == OfficeProblem::NoClient) LoseSight();
+}
+
+void ClientSession::LoseSight() {
+  // Those to whom it was given may edit it at once.
+  if (state_ == State::Editing)
+    office_->Post(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
+  office_->ListenNoMore(Channel());
+  FollowNoMore();
+  token_.clear();
+  holder_ = {};
+  asker_ = {};
+  state_ = State::Gone;
 }
 
 std::optional<Verdict> ClientSession::Reconnect() noexcept {
@@ -304,7 +322,11 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       tries_ = 0;
       return verdict;
     }
-  } catch (const OfficeError&) {
+  } catch (const OfficeError& error) {
+    if (error.Problem() == OfficeProblem::NoClient) {
+      LoseSight();
+      return std::nullopt;
+    }
     // The next try comes later.
   }
   state_ = State::Broken;

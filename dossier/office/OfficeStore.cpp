@@ -89,7 +89,7 @@ void OfficeStore::FillHistory() const {
   try {
     Readable([&] { session_->Tables().FillHistory(); });
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    session_->Met(error);
     throw;
   }
 }
@@ -126,8 +126,11 @@ void OfficeStore::Kopieer(const QString& pad) const {
 }
 
 bool OfficeStore::TakeOver() {
-  const bool mine = session_->Take();
-  if (session_->IsBehind()) Reload();
+  const bool mine = ByHand([&] {
+    const bool taken = session_->Take();
+    if (session_->IsBehind()) Reload();
+    return taken;
+  });
   TellIfChanged();
   return mine;
 }
@@ -137,9 +140,12 @@ void OfficeStore::LetGo() {
   TellIfChanged();
 }
 
-void OfficeStore::Ask() { session_->Ask(); }
+void OfficeStore::Ask() {
+  ByHand([&] { session_->Ask(); });
+}
 
 void OfficeStore::Due() {
+  if (Now() == State::Gone) return TellIfChanged();
   if (Now() != State::Broken) return LookAside();
   if (!session_->Office().IsBroken()) return Attend();
   if (barred_ || std::exchange(knocking_, true)) return TellIfChanged();
@@ -176,7 +182,7 @@ std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*hear
     asked_of_ = 0;
     if (state == Now()) (this->*heard)(answer, step);
     TellIfChanged();
-    if (std::exchange(again_, false) && !IsAsked() && Now() != State::Broken) timer_->start(0);
+    if (std::exchange(again_, false) && !IsAsked() && session_->IsThere()) timer_->start(0);
   };
 }
 
@@ -192,7 +198,7 @@ void OfficeStore::LookAside() {
 
 void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
   Try([&] { session_->Heard(answer, step); });
-  if (Now() == State::Broken || !journal_->Bewerkingen().IsQuiet()) return;
+  if (!session_->IsThere() || !journal_->Bewerkingen().IsQuiet()) return;
   if (session_->IsBehind()) return session_->ReadAside(Counting(&OfficeStore::Read));
   TellSettled();
 }
@@ -201,7 +207,7 @@ void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
   // What somebody is at work on stays as it is until he is done.
   if (!journal_->Bewerkingen().IsQuiet()) return;
   Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
-  if (Now() != State::Broken && (!session_->IsBehind() || unreadable_)) TellSettled();
+  if (session_->IsThere() && (!session_->IsBehind() || unreadable_)) TellSettled();
 }
 
 void OfficeStore::Attend() {
@@ -209,11 +215,11 @@ void OfficeStore::Attend() {
     const bool unknown = session_->HasUnknownEdit();
     const std::optional<Verdict> verdict = session_->Reconnect();
     if (verdict && unknown) settled_ = verdict->outcome;
-  } else {
+  } else if (Now() != State::Gone) {
     Try([&] { session_->LookAround(); });
   }
   // What somebody is at work on stays as it is until he is done.
-  if (Now() != State::Broken && journal_->Bewerkingen().IsQuiet()) {
+  if (session_->IsThere() && journal_->Bewerkingen().IsQuiet()) {
     if (session_->IsBehind()) Try([&] { Reload(); });
     TellSettled();
   }
@@ -237,7 +243,17 @@ template <class Action> void OfficeStore::Try(Action&& action) {
   try {
     action();
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    session_->Met(error);
+  }
+}
+
+template <class Action> auto OfficeStore::ByHand(Action&& action) -> decltype(action()) {
+  try {
+    return action();
+  } catch (const OfficeError& error) {
+    session_->Met(error);
+    TellIfChanged();
+    throw;
   }
 }
 
@@ -278,7 +294,9 @@ void OfficeStore::TellIfChanged() {
 
 void OfficeStore::Plan() {
   if (!timer_) return;
-  if (Now() == State::Broken && told_state_ == State::Broken && (knocking_ || barred_)) {
+  if (Now() == State::Gone && told_state_ == State::Gone) {
+    timer_->stop();
+  } else if (Now() == State::Broken && told_state_ == State::Broken && (knocking_ || barred_)) {
     // What comes of that plans what comes next.
     timer_->stop();
   } else if (Now() == State::Broken) {
