@@ -1,11 +1,11 @@
 #include "dossier/office/OfficeConnection.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
 
 #include "dossier/office/Aside.h"
+#include "dossier/office/ConnectionWords.h"
 #include "dossier/office/LongWait.h"
 #include "dossier/office/OfficeSetup.h"
 #include "dossier/office/ServerSession.h"
@@ -47,8 +47,7 @@ struct Awaited {
 
 OfficeConnection::OfficeConnection(const QString& words, const QString& password)
     : options_(words.contains(u'=') ? words : QStringLiteral("service=") + words), password_(password) {
-  static const QRegularExpression secret(QStringLiteral("password\\s*="), QRegularExpression::CaseInsensitiveOption);
-  if (words.contains(secret))
+  if (HoldsPassword(words))
     throw OfficeError(OfficeProblem::Refused, "a password does not stand among the words of a connection");
 }
 
