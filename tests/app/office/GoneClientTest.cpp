@@ -23,7 +23,7 @@ class GoneClientTest : public ClientWindow {
           office_.Psql("postgres", QString("SELECT kantoor.verwijder(%1)").arg(client_), &failed);
           return !failed;
         },
-        10000));
+        test::kPatience));
   }
   void GiveToTeam(int team) {
     bool failed = false;
@@ -31,7 +31,7 @@ class GoneClientTest : public ClientWindow {
     EXPECT_FALSE(failed);
   }
   [[nodiscard]] bool IsTold() {
-    return QTest::qWaitFor([&] { return Bar(*window_).startsWith(kGone); }, 10000);
+    return QTest::qWaitFor([&] { return Bar(*window_).startsWith(kGone); }, test::kPatience);
   }
   [[nodiscard]] int TimesInLog() { return eventLog_.Read().count(kGone); }
   void ExpectNothingIsOffered() {
@@ -64,6 +64,8 @@ TEST_F(GoneClientTest, AReaderIsToldOnceAndGoesOnReadingWhatThereWas) {
   EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
   EXPECT_EQ(window_->Screen()->Shown(), kKrant);
   EXPECT_EQ(window_->focusWidget(), focus);
+  // What leaving it asks for comes to an end.
+  for (int before = -1; before != proxy.RoundTrips(); QTest::qWait(1000)) before = proxy.RoundTrips();
   // Longer than a reader waits before it looks again.
   const int asked = proxy.RoundTrips();
   QTest::qWait(2500);
