@@ -1,12 +1,13 @@
 #include "dossier/office/ClientSession.h"
 
-#include <QSqlQuery>
-#include <QThread>
+#include <QDeadlineTimer>
 #include <QUuid>
+#include <thread>
 #include <utility>
 
 #include "dossier/office/EditText.h"
 #include "dossier/office/Knock.h"
+#include "dossier/office/WaitingTimes.h"
 #include "dossier/store/Rows.h"
 #include "dossier/store/StoreErrors.h"
 #include <brivane/host/Error.h>
@@ -17,10 +18,8 @@ namespace {
 using Patience = OfficeConnection::Patience;
 
 constexpr char kBron[] = "Dossier";
-/// How often, and how far apart, it is looked whether a session that was ended is gone.
-constexpr int kLooks = 20;
-constexpr std::chrono::milliseconds kAnswersWithin{1000};
-constexpr unsigned long kBetweenLooks = 50;
+/// How far apart it is looked whether a session that was ended is gone.
+constexpr std::chrono::milliseconds kBetweenLooks{50};
 
 [[noreturn]] void Refuse(std::int32_t number, const std::string& reason) {
   throw host::Error(number, "De wijziging is niet opgeslagen: " + reason + ".", kBron);
@@ -31,7 +30,7 @@ bool AnswersSoon(const OfficeConnection& office) {
   bool answers = false;
   Aside aside;
   Knock(aside, office.Another(), [&](const std::optional<OfficeError>& failure) { answers = !failure; });
-  static_cast<void>(aside.Settle(kAnswersWithin));
+  static_cast<void>(aside.Settle(WaitingTimes::Now().back));
   return answers;
 }
 
@@ -280,7 +279,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
     if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
-    for (int look = 0; look < kLooks; ++look) {
+    for (QDeadlineTimer ends(WaitingTimes::Now().ending); !ends.hasExpired();) {
       Found found;
       const OfficeRows row = office_->Run(
           before.edited
@@ -306,7 +305,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
         office_->Run(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid = ?::integer AND "
                                     "usename = session_user AND backend_start <= ?::timestamptz"),
                      {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)}, Patience::Short);
-        QThread::msleep(kBetweenLooks);
+        std::this_thread::sleep_for(kBetweenLooks);
         continue;
       }
       state_ = verdict.role == Role::Edit ? State::Editing : State::Reading;

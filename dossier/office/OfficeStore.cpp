@@ -7,6 +7,7 @@
 
 #include "dossier/office/Knock.h"
 #include "dossier/office/OfficeDamage.h"
+#include "dossier/office/WaitingTimes.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Reader.h"
@@ -14,12 +15,6 @@
 namespace brivane::dossier {
 namespace {
 
-/// How often it is looked whether who had the client is gone: nobody tells of a session that ended.
-constexpr std::chrono::milliseconds kLook{2000};
-/// The same where it is edited here: whether the connection is still there.
-constexpr std::chrono::milliseconds kHeartbeat{10000};
-/// A line that says nothing for so long is given up.
-constexpr std::chrono::milliseconds kSilence{5000};
 /// Until what is behind is read anew.
 constexpr std::chrono::milliseconds kSoon{50};
 
@@ -175,7 +170,7 @@ bool OfficeStore::IsAsked() const { return asked_of_ != 0 && asked_of_ == sessio
 
 std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*heard)(const OfficeAnswer&, std::int64_t)) {
   asked_of_ = session_->Office().User().pid;
-  answered_by_ = QDeadlineTimer(kSilence);
+  answered_by_ = QDeadlineTimer(WaitingTimes::Now().silence);
   return [this, heard, here = std::weak_ptr(here_), of = asked_of_, state = Now(),
           step = session_->LastStep()](const OfficeAnswer& answer) {
     if (here.expired() || of != asked_of_ || !IsAsked()) return;
@@ -307,7 +302,7 @@ void OfficeStore::Plan() {
   } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
     timer_->start(kSoon);
   } else {
-    timer_->start(Now() == State::Reading ? kLook : kHeartbeat);
+    timer_->start(Now() == State::Reading ? WaitingTimes::Now().reading : WaitingTimes::Now().editing);
   }
 }
 

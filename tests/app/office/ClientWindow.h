@@ -12,6 +12,7 @@
 #include "dossier/office/OfficeStore.h"
 #include "tests/app/screen/WindowTest.h"
 #include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/Patience.h"
 #include <brivane/frame/Handle.h>
 #include <brivane/vrijekolom/Ontwerp.h>
 
@@ -40,7 +41,7 @@ class ClientWindow : public WindowTest {
     dynamic_cast<dossier::OfficeStore&>(window.Screen()->Store()).Attend();
     ASSERT_TRUE(window.Screen()->GoTo(kKrant));
     window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, test::kPatience));
     window.Screen()->Kolom().FocusOmschrijving();
   }
   static QString Text(MainWindow& window, const char* label) {

@@ -22,7 +22,7 @@ class GoneClientTest : public ClientWindow {
           office_.Psql("postgres", QString("SELECT kantoor.verwijder(%1)").arg(client_), &failed);
           return !failed;
         },
-        10000));
+        test::kPatience));
   }
   void GiveToTeam(int team) {
     bool failed = false;
@@ -30,7 +30,7 @@ class GoneClientTest : public ClientWindow {
     EXPECT_FALSE(failed);
   }
   [[nodiscard]] bool IsTold() {
-    return QTest::qWaitFor([&] { return Bar(*window_).startsWith(kGone); }, 10000);
+    return QTest::qWaitFor([&] { return Bar(*window_).startsWith(kGone); }, test::kPatience);
   }
   [[nodiscard]] int TimesInLog() { return eventLog_.Read().count(kGone); }
   void ExpectNothingIsOffered() {
@@ -59,8 +59,9 @@ TEST_F(GoneClientTest, AReaderIsToldOnceAndGoesOnReadingWhatThereWas) {
   EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
   EXPECT_EQ(window_->Screen()->Shown(), kKrant);
   EXPECT_EQ(window_->focusWidget(), focus);
-  // What is left to be told to the server comes first; then longer than a reader waits before it looks again.
-  QTest::qWait(500);
+  // What leaving it asks for comes to an end.
+  for (int before = -1; before != proxy.RoundTrips(); QTest::qWait(1000)) before = proxy.RoundTrips();
+  // Longer than a reader waits before it looks again.
   const int asked = proxy.RoundTrips();
   QTest::qWait(2500);
   EXPECT_EQ(proxy.RoundTrips(), asked);
@@ -111,7 +112,7 @@ TEST_F(GoneClientTest, AClientOfAnotherTeamIsKeptAsAFileAndOpensAgainOnceItIsBac
   ExpectRefusedAsGone("Weekblad");
   ASSERT_TRUE(IsTold()) << qPrintable(Bar(*window_));
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Weekblad"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Ochtendkrant"; }, 5000))
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Ochtendkrant"; }, test::kPatience))
       << Omschrijving(*window_);
   const QString copy = folder_.filePath("bewaard.dossier");
   ExpectFileQuestion(copy);

@@ -84,10 +84,10 @@ class RefusedTest : public ClientWindow {
   }
   /// The window is on the client again, with the connection there.
   [[nodiscard]] bool IsBack() {
-    return QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 15000);
+    return QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, test::kPatience);
   }
   void ExpectNotice(const QString& ends) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith(ends); }, 15000))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith(ends); }, test::kPatience))
         << qPrintable(Text(*window_, "bericht"));
   }
 
@@ -132,7 +132,8 @@ TEST_F(RefusedTest, ANewLoanThatTurnsOutToBeStoredIsAskedForNoMore) {
                      [&](QWidget&) {
                        ExpectUnstored("Niet bekend of dit is opgeslagen (Lening toevoegen): ");
                        proxy.Mend();
-                       EXPECT_TRUE(QTest::qWaitFor([&] { return !refused_ || !refused_->isVisible(); }, 15000));
+                       EXPECT_TRUE(
+                           QTest::qWaitFor([&] { return !refused_ || !refused_->isVisible(); }, test::kPatience));
                      }});
   window_->Actions().addLening->trigger();
   EXPECT_TRUE(IsBack()) << qPrintable(Bar(*window_));
@@ -189,13 +190,14 @@ TEST_F(RefusedTest, WhatIsRefusedWhileAnEditIsInDoubtIsKeptWhenThatTurnsOutToBeS
   OpenAs(*window_, "anna", proxy.Folder());
   ExpectFailed();
   Describe("Avondkrant", [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); });
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": Avondkrant"); }, 5000)) << qPrintable(Unstored());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": Avondkrant"); }, test::kPatience))
+      << qPrintable(Unstored());
   QTest::qWait(100);
   ExpectFailed({"De wijziging is niet opgeslagen"});
   PressKey(Qt::Key_B, Qt::AltModifier);
   Type("77");
   PressKey(Qt::Key_Tab);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": 77"); }, 5000)) << qPrintable(Unstored());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": 77"); }, test::kPatience)) << qPrintable(Unstored());
   EXPECT_EQ(UnfinishedText::All().size(), 2U);
   proxy.Mend();
   ExpectNotice("De laatste wijziging is opgeslagen.");
@@ -216,7 +218,7 @@ TEST_F(RefusedTest, AFileIsMadeWithoutItsHistoryWhereTheConnectionBreaksMeanwhil
   window_->Actions().office.toFile->trigger();
   EXPECT_TRUE(window_->statusBar()->currentMessage().contains("zonder geschiedenis"))
       << qPrintable(window_->statusBar()->currentMessage());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding"); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding"); }, test::kPatience));
   EXPECT_EQ(ReadInSecondProcess(copy)["0/2/omschrijving"].toString(), "Ochtendkrant");
 }
 
@@ -293,12 +295,12 @@ TEST_F(UnreadableTest, WhoReadsAlongIsToldThatWhatIsShownIsOld) {
   Damage(client_);
   anna->Dossier()->FindKolom(0, 2)->SetOmschrijving("Avondkrant");
   const QString told = QString("Wat u ziet is oud en kan niet worden gewijzigd: %1.").arg(kDamaged);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == told; }, 5000)) << qPrintable(Bar(*window_));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == told; }, test::kPatience)) << qPrintable(Bar(*window_));
   EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
   EXPECT_FALSE(window_->Actions().office.ask->isEnabled());
   EXPECT_TRUE(eventLog_.Read().contains("is beschadigd"));
   Mend(client_);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Avondkrant"; }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Avondkrant"; }, test::kPatience));
   EXPECT_TRUE(Bar(*window_).startsWith("Alleen lezen: Anna Aalders werkt hierin")) << qPrintable(Bar(*window_));
 }
 
@@ -307,7 +309,7 @@ TEST_F(UnreadableTest, WhoTakesOverWhatCannotBeReadEditsNothingUntilItCan) {
   auto anna = office_.Open(client_);
   OpenAs(*window_, "bert");
   anna->LetGo();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Actions().office.takeOver->isEnabled(); }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Actions().office.takeOver->isEnabled(); }, test::kPatience));
   Damage(client_);
   Superuser(QString("UPDATE kantoor.client SET laatste = laatste + 1 WHERE nummer = %1").arg(client_));
   Click(*window_, "Overnemen");

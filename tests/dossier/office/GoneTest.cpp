@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/StoreErrors.h"
 #include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/Patience.h"
 #include "tests/support/postgres/SocketProxy.h"
 
 // A client that is removed, or given to a team that one is not in, while it is open here.
@@ -82,7 +84,7 @@ TEST_F(GoneTest, WhoComesBackToARemovedClientLooksForItNoMore) {
   proxy.NextMeets(test::SocketProxy::Fate::DeadAfter);
   EXPECT_THROW(Edit(*store, 10), host::Error);
   Must("postgres",
-       "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE usename = 'anna' AND datname = "
+       "SELECT pg_terminate_backend(pid, 60000) FROM pg_stat_activity WHERE usename = 'anna' AND datname = "
        "current_database()");
   Remove();
   proxy.Mend();
@@ -103,7 +105,7 @@ TEST_F(GoneTest, AClientThatGoesToAnotherTeamIsFreeForItAtOnce) {
   GiveToZuid();
   ExpectRefused(*store);
   EXPECT_EQ(store->Now(), State::Gone);
-  for (int look = 0; look < 50; ++look) {
+  for (const QDeadlineTimer patience(test::kPatience); !patience.hasExpired();) {
     if (office_.Open(client_, "carla")->Now() == State::Editing) return;
   }
   ADD_FAILURE() << "it is still held";
