@@ -260,4 +260,26 @@ for (const name of ['editor-product', 'een melding', 'het formulier'])
     assert.equal(text, readFileSync(file, 'utf8'));
   });
 
+// A screen reader says of each group that it goes into what it is called, and of a box what its keys are.
+for (const name of ['editor-overgang', 'het formulier'])
+  test(`looks.EveryGroupIsCalledSomething ${name}`, async () => {
+    await SIGHTS[name]();
+    const groups = [];
+    const walk = ({ role, name: called, children = [] }) => {
+      if (role === 'group' || role === 'radiogroup') groups.push(called);
+      children.forEach(walk);
+    };
+    walk(await page.accessibility.snapshot({ interestingOnly: false }));
+    assert.deepEqual(groups.filter((called) => called === ''), []);
+    if (name === 'editor-overgang') assert.ok(groups.length > 5, `${groups}`);
+  });
+
+test('looks.TheKeyOfTheCalendarIsToldOfADateAndOfNothingElse', async () => {
+  await bind('editor-product');
+  const keys = await page.evaluate(() => [...window.editor.shadowRoot.querySelectorAll('[aria-keyshortcuts]')].map((box) =>
+    [box.node.design.name, box.getAttribute('aria-keyshortcuts'), box.parentElement.className]));
+  assert.deepEqual(keys.map(([name]) => name).sort(), ['Toelichting.txtEinddatum', 'TxtDtAanvang', 'TxtDtEind', 'txtVervaldatum']);
+  assert.deepEqual(new Set(keys.map(([, key]) => key)), new Set(['F4']));
+});
+
 test('looks.NothingElseWentWrong', () => assert.deepEqual(page.faults, []));

@@ -93,6 +93,34 @@ test('package.DoesNothingWhereThereIsNoPage', () => {
   assert.equal(said, '9 function No page\n');
 });
 
+test('package.ASecondCopyOnAPageUsesTheFirst', async () => {
+  const page = await open('/tests/pages/sheet.html');
+  const machines = [];
+  const warnings = [];
+  page.on('request', (request) => request.url().endsWith('.wasm') && machines.push(new URL(request.url()).pathname));
+  page.on('console', (message) => message.type() === 'warn' && warnings.push(message.text()));
+  const seen = await page.evaluate(async () => {
+    const one = await import('/package/src/index.js');
+    const other = await import('/made/node_modules/brivane-vrije-kolom/src/index.js');
+    await other.ready;
+    other.addLanguage('fy', { NothingOpen: 'Der is neat iepen.' });
+    const made = new other.VrijeKolomElement();
+    made.lang = 'fy';
+    document.body.append(made);
+    const failure = await made.setApplication({}, 0, 1).catch((error) => error);
+    return { veil: made.shadowRoot.querySelector('.veil').textContent, failure: failure instanceof other.HostError,
+      same: Object.keys(one).filter((name) => one[name] === other[name]), names: Object.keys(one) };
+  });
+  assert.equal(seen.veil, 'Der is neat iepen.');
+  assert.equal(seen.failure, true);
+  assert.ok(seen.names.length >= 5);
+  assert.deepEqual(seen.same, seen.names);
+  assert.deepEqual(machines, ['/package/src/machine.wasm']);
+  assert.equal(warnings.length, 1);
+  assert.match(warnings[0], /brivane-vrije-kolom/);
+  assert.deepEqual(page.faults, []);
+});
+
 test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   const entry = `${made}examples/web/form/`;
   cpSync(`${top}examples/web/form`, entry, { recursive: true });

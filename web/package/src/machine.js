@@ -3,6 +3,7 @@
 import createMachine from '../machine/machine.js';
 import { dayOf } from './days.js';
 import { HostError } from './errors.js';
+import { first } from './first.js';
 import { Host } from './host.js';
 import { done, enter, failed, isAtWork, run } from './jobs.js';
 import { Memory } from './memory.js';
@@ -79,7 +80,7 @@ async function compile() {
   }
 }
 
-const compiled = compile();
+const compiled = first === undefined ? compile() : Promise.reject(new Error('Loaded twice'));
 compiled.catch(() => {});
 
 /** Starts the machine, once. */

@@ -10,6 +10,7 @@ function makeBox(format) {
   const isNumber = [Format.amount, Format.number, Format.whole].includes(format);
   const className = (isNumber ? 'box number' : 'box') + (format === Format.date ? '' : ' control');
   const input = shown('input', className, 'box', { type: 'text', autocomplete: 'off' });
+  if (format === Format.date) input.setAttribute('aria-keyshortcuts', 'F4');
   input.spellcheck = format === Format.text;
   if (isNumber) input.inputMode = format === Format.whole ? 'numeric' : 'decimal';
   return input;
