@@ -34,6 +34,14 @@ BarWords OfReading(const BarFacts& facts) {
   return {.text = text, .ask = true};
 }
 
+BarWords OfGone(const BarFacts& facts) {
+  QString text = QStringLiteral(
+      "Deze cliënt is niet meer in het kantoor, of niet meer voor uw team. Wat u ziet, is wat er het laatst stond; "
+      "wijzigen kan niet meer.");
+  if (facts.unknown) text += QStringLiteral(" Of de laatste wijziging was opgeslagen, is niet bekend.");
+  return {.text = text};
+}
+
 /// What is shown is older than what is stored.
 BarWords OfUnreadable(const BarFacts& facts) {
   return {.text = QStringLiteral("Wat u ziet is oud en kan niet worden gewijzigd: %1.").arg(facts.unreadable),
@@ -43,10 +51,12 @@ BarWords OfUnreadable(const BarFacts& facts) {
 }  // namespace
 
 BarWords WordsFor(const BarFacts& facts) {
+  if (facts.state == State::Gone) return OfGone(facts);
   if (!facts.unreadable.isEmpty() && facts.state != State::Broken) return OfUnreadable(facts);
   switch (facts.state) {
     case State::Broken: return OfBroken(facts);
     case State::Reading: return OfReading(facts);
+    case State::Gone:
     case State::Editing: break;
   }
   if (facts.asker.isEmpty()) return {.handOver = true};

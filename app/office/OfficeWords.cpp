@@ -1,56 +1,9 @@
 #include "app/office/OfficeWords.h"
 
-#include <algorithm>
-#include <map>
-#include <optional>
+#include "dossier/office/ConnectionWords.h"
 
 namespace brivane::app {
 namespace {
-
-using Words = std::map<QString, QString>;
-
-bool IsKeyword(const QString& text) {
-  return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar one) {
-    return one == u'_' || (one.unicode() < 0x80 && one.isLetterOrNumber());
-  });
-}
-
-/// Reads keyword = value pairs as libpq does, a value in quotes too; nothing where they cannot be read so. The driver
-/// takes a semicolon for a space, wherever it stands.
-std::optional<Words> Read(QString text) {
-  text.replace(u';', u' ');
-  Words words;
-  qsizetype at = 0;
-  const auto skip = [&] {
-    while (at < text.size() && text[at].isSpace()) ++at;
-  };
-  for (skip(); at < text.size(); skip()) {
-    const qsizetype from = at;
-    while (at < text.size() && text[at] != u'=' && !text[at].isSpace()) ++at;
-    const QString keyword = text.mid(from, at - from).toLower();
-    skip();
-    if (!IsKeyword(keyword) || at == text.size() || text[at] != u'=') return std::nullopt;
-    ++at;
-    skip();
-    const bool quoted = at < text.size() && text[at] == u'\'';
-    if (quoted) ++at;
-    QString value;
-    while (at < text.size() && (quoted ? text[at] != u'\'' : !text[at].isSpace())) {
-      if (text[at] == u'\\' && at + 1 < text.size()) ++at;
-      value += text[at++];
-    }
-    if (quoted && at++ == text.size()) return std::nullopt;
-    words[keyword] = value;
-  }
-  return words;
-}
-
-/// Whether an address has a password after the name before its host, or among what follows it.
-bool HoldsSecret(const QString& address) {
-  const QString after = address.mid(address.indexOf(QLatin1String("://")) + 3);
-  return after.left(qMax(after.lastIndexOf(u'@'), qsizetype{0})).contains(u':') ||
-         after.contains(QLatin1String("password="), Qt::CaseInsensitive);
-}
 
 bool IsName(const QString& text) {
   for (const QChar one : text) {
@@ -59,20 +12,20 @@ bool IsName(const QString& text) {
   return true;
 }
 
+/// None where they cannot be read.
+dossier::ConnectionWords WordsIn(const QString& text) {
+  return dossier::ReadConnectionWords(text).value_or(dossier::ConnectionWords());
+}
+
 }  // namespace
 
 WordsFault FaultOf(const QString& words) {
   const QString text = words.trimmed();
   if (text.isEmpty()) return WordsFault::Empty;
-  // An address may hold a password, and is not what the driver is handed.
-  if (text.contains(QLatin1String("://"))) return HoldsSecret(text) ? WordsFault::Secret : WordsFault::Unclear;
-  if (!text.contains(u'=')) return IsName(text) ? WordsFault::None : WordsFault::Unclear;
-  const std::optional<Words> read = Read(text);
   // Also in what cannot be read otherwise.
-  if (text.contains(QLatin1String("password"), Qt::CaseInsensitive) &&
-      (!read || read->contains(QStringLiteral("password")) || read->contains(QStringLiteral("sslpassword"))))
-    return WordsFault::Secret;
-  return read ? WordsFault::None : WordsFault::Unclear;
+  if (dossier::HoldsPassword(text)) return WordsFault::Secret;
+  const bool good = text.contains(u'=') ? dossier::ReadConnectionWords(text).has_value() : IsName(text);
+  return good && !dossier::IsAddress(text) ? WordsFault::None : WordsFault::Unclear;
 }
 
 QString FaultText(WordsFault fault) {
@@ -103,7 +56,7 @@ QString FaultLine(WordsFault fault) {
 QString OfficeTitle(const QString& words) {
   QString text = words.trimmed();
   if (!text.contains(u'=')) return text;
-  Words read = Read(text).value_or(Words());
+  dossier::ConnectionWords read = WordsIn(text);
   if (QString service = read[QStringLiteral("service")]; !service.isEmpty()) return service;
   const QString database = read[QStringLiteral("dbname")];
   const QString host = read[QStringLiteral("host")];
@@ -114,7 +67,7 @@ QString OfficeTitle(const QString& words) {
 }
 
 QString OfficeAccount(const QString& words) {
-  return words.contains(u'=') ? Read(words.trimmed()).value_or(Words())[QStringLiteral("user")] : QString();
+  return words.contains(u'=') ? WordsIn(words.trimmed())[QStringLiteral("user")] : QString();
 }
 
 }  // namespace brivane::app

@@ -30,7 +30,7 @@
 namespace brivane::app {
 namespace {
 
-constexpr int kPatience = 20000;  ///< milliseconds
+constexpr int kPatience = 60000;  ///< milliseconds
 constexpr int kLook = 20;         ///< milliseconds
 constexpr int kGap = 8;           ///< pixels between the windows
 

@@ -126,6 +126,11 @@ void ClientOnScreen::OnChanged() {
       Notice({});
       window_.tell({});
       eventLog_.Write(QStringLiteral("Kantoor: geen verbinding."));
+    } else if (state_ == State::Gone) {
+      // The bar says it as long as the client is open.
+      Notice({});
+      window_.tell({});
+      eventLog_.Write(QStringLiteral("Kantoor: %1").arg(WordsFor(Facts()).text));
     } else if (before == State::Broken && settled_) {
       // It was told already, with what became of the last edit.
     } else if (before == State::Broken) {
@@ -252,7 +257,8 @@ template <class Task> void ClientOnScreen::Try(Task&& task) {
   try {
     task();
   } catch (const dossier::OfficeError& error) {
-    ShowMessage(screen_.window(), QStringLiteral("Kantoor"), error.Melding());
+    // Of a client that is gone the bar tells.
+    if (!IsGone()) ShowMessage(screen_.window(), QStringLiteral("Kantoor"), error.Melding());
   }
   Refresh();
 }

@@ -39,6 +39,8 @@ class ClientOnScreen final : public QObject {
   ~ClientOnScreen() override;
 
   [[nodiscard]] QWidget* Bar() { return bar_; }
+  /// Nothing comes of it any more: to be opened anew, where it is there again.
+  [[nodiscard]] bool IsGone() const { return store_.Now() == dossier::OfficeStore::State::Gone; }
   /// What the actions do.
   void Ask();
   void TakeOver();

@@ -24,16 +24,15 @@ constexpr int kTold = 8000;  ///< milliseconds
 
 QString KantoorTitle() { return QStringLiteral("Kantoor"); }
 
-/// Makes a loan file of a client, with its history where the office can be asked for it; answers whether it was.
-bool MakeFileOf(dossier::DossierStore& client, const QString& file) {
+/// Makes a loan file of a client, with its history where that is at hand or the office can be asked for it; answers
+/// whether it was.
+bool MakeFileOf(const dossier::DossierStore& client, const QString& file) {
   try {
-    if (client.InPlace()) {
-      client.Kopieer(file);
-      return true;
-    }
-  } catch (const dossier::OfficeError& error) {
-    // It may turn out only now that there is no connection.
-    if (error.Problem() != dossier::OfficeProblem::Unreachable) throw;
+    client.Kopieer(file);
+    return true;
+  } catch (const dossier::OfficeError&) {
+    // It may turn out only now that there is no connection, or no such client any more.
+    if (client.InPlace()) throw;
   }
   dossier::DossierFile::Maak(file, client.Dossier()->Gegevens());
   return false;
@@ -89,7 +88,7 @@ void MainWindow::AskClientOfOffice() {
 
 bool MainWindow::OpenClient(const ClientAddress& address) {
   if (screen_ && !screen_->MayLeave()) return false;
-  if (client_ && address == address_) return true;
+  if (client_ && address == address_ && !client_->IsGone()) return true;
   try {
     if (!IsInOffice(address.words)) return false;
     std::unique_ptr<dossier::OfficeStore> opened = dossier::OfficeStore::Open(entrance_->office, address.client);
@@ -178,7 +177,7 @@ void MainWindow::SaveAsFile() {
     try {
       QString told = QStringLiteral("Bewaard: %1").arg(QDir::toNativeSeparators(file));
       if (!MakeFileOf(screen_->Store(), file))
-        told += QStringLiteral(" (zonder geschiedenis: er is geen verbinding met het kantoor)");
+        told += QStringLiteral(" (zonder geschiedenis: die is nu niet uit het kantoor te halen)");
       return statusBar()->showMessage(told, kTold);
     } catch (const dossier::OfficeError& error) {
       // With another name it would go no better.

@@ -4,7 +4,8 @@
 //   bare   as many inputs and nothing else
 //
 // The first figure is the time that the thread of the page worked, which hardly depends on what else the machine does; the
-// second is what the clock says. `bench.mjs [WORD...]` measures the cases of these names, BENCH_TIMES says how often.
+// second is what the clock says. `bench.mjs [WORD...]` measures the cases of these names, BENCH_TIMES says how often;
+// `bench.mjs memory` with BENCH_EDITORS=4000 looks at what so many editors leave.
 import { brotliCompressSync, constants, gzipSync } from 'node:zlib';
 import { readFileSync } from 'node:fs';
 
@@ -12,6 +13,9 @@ import { built, puppeteer, top } from '../../tests/web/harness/packages.mjs';
 import { serve } from '../../web/demo/server.mjs';
 
 const TIMES = Number(process.env.BENCH_TIMES ?? 9);
+const EDITORS = Number(process.env.BENCH_EDITORS ?? 200);
+/** What is kept ready and thrown out again comes and goes with a few hundred. */
+const LOOKS = 4;
 const WAYS = ['element', 'plain', 'bare'];
 /** Of everything that a browser loads, in bytes. */
 const MOST = 150000;
@@ -110,7 +114,7 @@ async function counts(browser, origin) {
   }
 }
 
-/** What a hundred editors leave that were made, bound and taken away after a hundred others. */
+/** What stands after each quarter of the editors that were made, bound and taken away, and what the last half left. */
 async function memory(browser, origin) {
   const { page, session } = await open(browser, origin);
   await load(page, `${origin}/bench/element.html`);
@@ -120,12 +124,16 @@ async function memory(browser, origin) {
     const of = (wanted) => metrics.find(({ name }) => name === wanted).value;
     return { heap: of('JSHeapUsedSize'), nodes: of('Nodes'), machine: await page.evaluate(() => window.machineSize()) };
   };
-  await page.evaluate(() => window.comeAndGo(100));
-  const before = await look();
-  await page.evaluate(() => window.comeAndGo(100));
-  const after = await look();
-  const left = (what) => `${after[what] - before[what]} of ${before[what]}`;
-  console.log(`memory      left by 100 editors: script ${left('heap')} bytes, machine ${left('machine')} bytes, nodes ${left('nodes')}`);
+  const seen = [];
+  for (let i = 0; i < LOOKS; ++i) {
+    await page.evaluate((times) => window.comeAndGo(times), EDITORS / LOOKS);
+    seen.push(await look());
+    const { heap, machine, nodes } = seen[i];
+    console.log(`memory      after ${(i + 1) * (EDITORS / LOOKS)} editors: script ${heap} bytes, machine ${machine} bytes, nodes ${nodes}`);
+  }
+  const [half, all] = [seen[LOOKS / 2 - 1], seen[LOOKS - 1]];
+  const left = (what) => all[what] - half[what];
+  console.log(`memory      left by the last ${EDITORS / 2}: script ${left('heap')} bytes, machine ${left('machine')} bytes, nodes ${left('nodes')}`);
   await page.close();
 }
 

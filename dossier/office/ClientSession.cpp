@@ -1,12 +1,13 @@
 #include "dossier/office/ClientSession.h"
 
-#include <QSqlQuery>
-#include <QThread>
+#include <QDeadlineTimer>
 #include <QUuid>
+#include <thread>
 #include <utility>
 
 #include "dossier/office/EditText.h"
 #include "dossier/office/Knock.h"
+#include "dossier/office/WaitingTimes.h"
 #include "dossier/store/Rows.h"
 #include "dossier/store/StoreErrors.h"
 #include <brivane/host/Error.h>
@@ -17,10 +18,8 @@ namespace {
 using Patience = OfficeConnection::Patience;
 
 constexpr char kBron[] = "Dossier";
-/// How often, and how far apart, it is looked whether a session that was ended is gone.
-constexpr int kLooks = 20;
-constexpr std::chrono::milliseconds kAnswersWithin{1000};
-constexpr unsigned long kBetweenLooks = 50;
+/// How far apart it is looked whether a session that was ended is gone.
+constexpr std::chrono::milliseconds kBetweenLooks{50};
 
 [[noreturn]] void Refuse(std::int32_t number, const std::string& reason) {
   throw host::Error(number, "De wijziging is niet opgeslagen: " + reason + ".", kBron);
@@ -31,7 +30,7 @@ bool AnswersSoon(const OfficeConnection& office) {
   bool answers = false;
   Aside aside;
   Knock(aside, office.Another(), [&](const std::optional<OfficeError>& failure) { answers = !failure; });
-  static_cast<void>(aside.Settle(kAnswersWithin));
+  static_cast<void>(aside.Settle(WaitingTimes::Now().back));
   return answers;
 }
 
@@ -77,7 +76,7 @@ ClientSession::~ClientSession() { Leave(); }
 void ClientSession::Leave() noexcept {
   if (std::exchange(left_, true)) return;
   GiveBack();
-  if (state_ == State::Broken) return;
+  if (!IsThere()) return;
   office_->ListenNoMore(Channel());
   FollowNoMore();
 }
@@ -106,7 +105,7 @@ void ClientSession::FollowNoMore() {
 
 bool ClientSession::Take() {
   if (state_ == State::Editing) return true;
-  if (!TakeLease()) return false;
+  if (state_ == State::Gone || !TakeLease()) return false;
   office_->Prepare(SendSql());
   return true;
 }
@@ -186,6 +185,7 @@ void ClientSession::Begin() {
   switch (state_) {
     case State::Editing: break;
     case State::Broken: Refuse(kOfficeError, "er is geen verbinding met het kantoor");
+    case State::Gone: Refuse(kRefusedError, OfficeError(OfficeProblem::NoClient, "").Oorzaak());
     case State::Reading:
       if (!office_->User().writes) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
       Refuse(kLeaseError, holder_.naam.isEmpty() ? "het dossier is niet bij u in bewerking"
@@ -229,7 +229,7 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const E
         behind_ = true;
         Refuse(kLeaseError, error.Oorzaak());
       case OfficeProblem::Stale: behind_ = true; Refuse(kRefusedError, error.Oorzaak());
-      default: Refuse(kRefusedError, error.Oorzaak());
+      default: Met(error); Refuse(kRefusedError, error.Oorzaak());
     }
   }
   pending_ = Pending{edit, step};
@@ -253,6 +253,23 @@ void ClientSession::Broke() {
   tries_ = 0;
 }
 
+void ClientSession::Met(const OfficeError& error) {
+  if (error.Problem() == OfficeProblem::Unreachable && IsThere()) Broke();
+  if (error.Problem() == OfficeProblem::NoClient) LoseSight();
+}
+
+void ClientSession::LoseSight() {
+  // Those to whom it was given may edit it at once.
+  if (state_ == State::Editing)
+    office_->Post(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
+  office_->ListenNoMore(Channel());
+  FollowNoMore();
+  token_.clear();
+  holder_ = {};
+  asker_ = {};
+  state_ = State::Gone;
+}
+
 std::optional<Verdict> ClientSession::Reconnect() noexcept {
   const Before before{.edited = !token_.isEmpty(),
                       .step = tables_.LastStep(),
@@ -262,7 +279,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
     if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
-    for (int look = 0; look < kLooks; ++look) {
+    for (QDeadlineTimer ends(WaitingTimes::Now().ending); !ends.hasExpired();) {
       Found found;
       const OfficeRows row = office_->Run(
           before.edited
@@ -288,7 +305,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
         office_->Run(QStringLiteral("SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE pid = ?::integer AND "
                                     "usename = session_user AND backend_start <= ?::timestamptz"),
                      {before.session.pid, since_.toUTC().toString(Qt::ISODateWithMs)}, Patience::Short);
-        QThread::msleep(kBetweenLooks);
+        std::this_thread::sleep_for(kBetweenLooks);
         continue;
       }
       state_ = verdict.role == Role::Edit ? State::Editing : State::Reading;
@@ -304,7 +321,11 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       tries_ = 0;
       return verdict;
     }
-  } catch (const OfficeError&) {
+  } catch (const OfficeError& error) {
+    if (error.Problem() == OfficeProblem::NoClient) {
+      LoseSight();
+      return std::nullopt;
+    }
     // The next try comes later.
   }
   state_ = State::Broken;

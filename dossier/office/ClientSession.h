@@ -33,7 +33,8 @@ class ClientSession final : public EditKeeper {
   enum class State {
     Editing,  ///< it is taken up here
     Reading,  ///< somebody else has it, or this account only reads
-    Broken    ///< there is no connection
+    Broken,   ///< there is no connection
+    Gone      ///< it was removed, or is not for this account any more: for good, and what was read stays
   };
 
   /// Reads the client, and takes it up where that can be. Throws OfficeError, and DatabaseError where it can be none;
@@ -78,8 +79,12 @@ class ClientSession final : public EditKeeper {
   /// Tries to begin a new session after the connection broke; `tries` have failed before. Answers what came of it,
   /// nothing where the server is not reached.
   std::optional<Verdict> Reconnect() noexcept;
-  /// A statement met a connection that is gone.
+  /// A statement of this client's met a connection that is gone.
   void Broke();
+  /// What such a statement failed with, where it is more than that statement: the connection is gone, or the client.
+  void Met(const OfficeError& error);
+  /// There is a connection, and the client.
+  [[nodiscard]] bool IsThere() const { return state_ == State::Editing || state_ == State::Reading; }
   /// It was found out otherwise that the office cannot be reached yet: one more try has failed.
   void NotReached() { ++tries_; }
   [[nodiscard]] int Tries() const { return tries_; }
@@ -109,6 +114,7 @@ class ClientSession final : public EditKeeper {
   bool GiveBack() noexcept;
   void Follow();
   void FollowNoMore();
+  void LoseSight();
 
   std::shared_ptr<OfficeConnection> office_;
   int client_;

@@ -182,6 +182,8 @@ void ClientTables::FillHistory() {
   if (whole_) return;
   const qint64 first = tables_->Value(QStringLiteral("SELECT min(nummer) FROM stap")).toLongLong();
   OfficeRows rows = office_.Run(ReadingHistory(), {client_, first});
+  // A client that is gone has no rows either: it is told from one without earlier steps.
+  if (!rows.isValid()) office_.Run(QStringLiteral("SELECT laatste FROM kantoor.wie(?::integer)"), {client_});
   tables_->Run(QStringLiteral("BEGIN"));
   try {
     Insert(rows);

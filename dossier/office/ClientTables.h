@@ -29,7 +29,7 @@ class ClientTables {
   /// The same with what Reading() answered, given the client and 0.
   void FillWith(OfficeRows rows);
   [[nodiscard]] static const QString& Reading();
-  /// Reads the rest of the history, where it is not there yet.
+  /// Reads the rest of the history, where it is not there yet. Throws the same.
   void FillHistory();
   /// The last step of the history that stands in the tables, or did when they were filled; 0 for none.
   [[nodiscard]] std::int64_t LastStep() const { return last_; }

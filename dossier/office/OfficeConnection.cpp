@@ -1,14 +1,15 @@
 #include "dossier/office/OfficeConnection.h"
 
-#include <QRegularExpression>
 #include <algorithm>
 #include <condition_variable>
 #include <mutex>
 
 #include "dossier/office/Aside.h"
+#include "dossier/office/ConnectionWords.h"
 #include "dossier/office/LongWait.h"
 #include "dossier/office/OfficeSetup.h"
 #include "dossier/office/ServerSession.h"
+#include "dossier/office/WaitingTimes.h"
 
 namespace brivane::dossier {
 namespace {
@@ -19,19 +20,22 @@ namespace {
 constexpr char kUnlessSaid[] =
     "connect_timeout=10 tcp_user_timeout=15000 keepalives_idle=20 keepalives_interval=5 keepalives_count=3 "
     "fallback_application_name=dossier options='-c plan_cache_mode=force_generic_plan' ";
+
 /// Of two the last counts.
-constexpr char kShort[] = " connect_timeout=3";
-/// For a session to be taken leave of.
-constexpr std::chrono::milliseconds kLeave{500};
+QString Connecting() {
+  const auto longest = std::chrono::duration_cast<std::chrono::seconds>(WaitingTimes::Now().connecting);
+  return QStringLiteral(" connect_timeout=%1").arg(longest.count());
+}
 
 std::chrono::milliseconds Longest(OfficeConnection::Patience patience) {
-  using Patience = OfficeConnection::Patience;
+  using enum OfficeConnection::Patience;
+  const WaitingTimes times = WaitingTimes::Now();
   switch (patience) {
-    case Patience::Endless: break;
-    case Patience::Long: return std::chrono::seconds(15);
-    case Patience::Edit: return std::chrono::seconds(8);
-    case Patience::Short: return std::chrono::seconds(5);
-    case Patience::Moment: return std::chrono::seconds(1);
+    case Endless: break;
+    case Long: return times.much;
+    case Edit: return times.edit;
+    case Short: return times.little;
+    case Moment: return times.moment;
   }
   return std::chrono::hours(24);
 }
@@ -47,8 +51,7 @@ struct Awaited {
 
 OfficeConnection::OfficeConnection(const QString& words, const QString& password)
     : options_(words.contains(u'=') ? words : QStringLiteral("service=") + words), password_(password) {
-  static const QRegularExpression secret(QStringLiteral("password\\s*="), QRegularExpression::CaseInsensitiveOption);
-  if (words.contains(secret))
+  if (HoldsPassword(words))
     throw OfficeError(OfficeProblem::Refused, "a password does not stand among the words of a connection");
 }
 
@@ -58,7 +61,7 @@ OfficeConnection::~OfficeConnection() {
     session->End();
     return {};
   });
-  static_cast<void>(aside_->End(kLeave));
+  static_cast<void>(aside_->End(WaitingTimes::Now().leaving));
 }
 
 std::function<std::unique_ptr<OfficeConnection>()> OfficeConnection::Another() const {
@@ -87,7 +90,7 @@ void OfficeConnection::Open(Patience patience) {
         });
   }
   const QString options =
-      QLatin1String(kUnlessSaid) + options_ + QLatin1String(patience == Patience::Endless ? "" : kShort);
+      QLatin1String(kUnlessSaid) + options_ + (patience == Patience::Endless ? QString() : Connecting());
   Await(
       [options, password = password_](ServerSession& session) {
         session.Open(options, password);

@@ -76,13 +76,13 @@ class OfficeConnection {
   OfficeConnection& operator=(const OfficeConnection&) = delete;
   ~OfficeConnection();
 
-  /// How long an answer is waited for.
+  /// How long an answer is waited for, as WaitingTimes has it.
   enum class Patience {
     Endless,  ///< as long as the network lets it
-    Long,     ///< 15 seconds: much is asked
-    Edit,     ///< 8: has to be told whether it was stored
-    Short,    ///< 5: the server answered just now, or is asked for little
-    Moment    ///< 1: on the way out
+    Long,     ///< much is asked
+    Edit,     ///< has to be told whether it was stored
+    Short,    ///< the server answered just now, or is asked for little
+    Moment    ///< on the way out
   };
 
   /// Begins a session, also after the one before broke.

@@ -7,6 +7,7 @@
 
 #include "dossier/office/Knock.h"
 #include "dossier/office/OfficeDamage.h"
+#include "dossier/office/WaitingTimes.h"
 #include "dossier/store/DossierFile.h"
 #include "dossier/store/FileJournal.h"
 #include "dossier/store/Reader.h"
@@ -14,12 +15,6 @@
 namespace brivane::dossier {
 namespace {
 
-/// How often it is looked whether who had the client is gone: nobody tells of a session that ended.
-constexpr std::chrono::milliseconds kLook{2000};
-/// The same where it is edited here: whether the connection is still there.
-constexpr std::chrono::milliseconds kHeartbeat{10000};
-/// A line that says nothing for so long is given up.
-constexpr std::chrono::milliseconds kSilence{5000};
 /// Until what is behind is read anew.
 constexpr std::chrono::milliseconds kSoon{50};
 
@@ -89,7 +84,7 @@ void OfficeStore::FillHistory() const {
   try {
     Readable([&] { session_->Tables().FillHistory(); });
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    session_->Met(error);
     throw;
   }
 }
@@ -126,8 +121,11 @@ void OfficeStore::Kopieer(const QString& pad) const {
 }
 
 bool OfficeStore::TakeOver() {
-  const bool mine = session_->Take();
-  if (session_->IsBehind()) Reload();
+  const bool mine = ByHand([&] {
+    const bool taken = session_->Take();
+    if (session_->IsBehind()) Reload();
+    return taken;
+  });
   TellIfChanged();
   return mine;
 }
@@ -137,9 +135,12 @@ void OfficeStore::LetGo() {
   TellIfChanged();
 }
 
-void OfficeStore::Ask() { session_->Ask(); }
+void OfficeStore::Ask() {
+  ByHand([&] { session_->Ask(); });
+}
 
 void OfficeStore::Due() {
+  if (Now() == State::Gone) return TellIfChanged();
   if (Now() != State::Broken) return LookAside();
   if (!session_->Office().IsBroken()) return Attend();
   if (barred_ || std::exchange(knocking_, true)) return TellIfChanged();
@@ -169,14 +170,14 @@ bool OfficeStore::IsAsked() const { return asked_of_ != 0 && asked_of_ == sessio
 
 std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*heard)(const OfficeAnswer&, std::int64_t)) {
   asked_of_ = session_->Office().User().pid;
-  answered_by_ = QDeadlineTimer(kSilence);
+  answered_by_ = QDeadlineTimer(WaitingTimes::Now().silence);
   return [this, heard, here = std::weak_ptr(here_), of = asked_of_, state = Now(),
           step = session_->LastStep()](const OfficeAnswer& answer) {
     if (here.expired() || of != asked_of_ || !IsAsked()) return;
     asked_of_ = 0;
     if (state == Now()) (this->*heard)(answer, step);
     TellIfChanged();
-    if (std::exchange(again_, false) && !IsAsked() && Now() != State::Broken) timer_->start(0);
+    if (std::exchange(again_, false) && !IsAsked() && session_->IsThere()) timer_->start(0);
   };
 }
 
@@ -192,7 +193,7 @@ void OfficeStore::LookAside() {
 
 void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
   Try([&] { session_->Heard(answer, step); });
-  if (Now() == State::Broken || !journal_->Bewerkingen().IsQuiet()) return;
+  if (!session_->IsThere() || !journal_->Bewerkingen().IsQuiet()) return;
   if (session_->IsBehind()) return session_->ReadAside(Counting(&OfficeStore::Read));
   TellSettled();
 }
@@ -201,7 +202,7 @@ void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
   // What somebody is at work on stays as it is until he is done.
   if (!journal_->Bewerkingen().IsQuiet()) return;
   Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
-  if (Now() != State::Broken && (!session_->IsBehind() || unreadable_)) TellSettled();
+  if (session_->IsThere() && (!session_->IsBehind() || unreadable_)) TellSettled();
 }
 
 void OfficeStore::Attend() {
@@ -209,11 +210,11 @@ void OfficeStore::Attend() {
     const bool unknown = session_->HasUnknownEdit();
     const std::optional<Verdict> verdict = session_->Reconnect();
     if (verdict && unknown) settled_ = verdict->outcome;
-  } else {
+  } else if (Now() != State::Gone) {
     Try([&] { session_->LookAround(); });
   }
   // What somebody is at work on stays as it is until he is done.
-  if (Now() != State::Broken && journal_->Bewerkingen().IsQuiet()) {
+  if (session_->IsThere() && journal_->Bewerkingen().IsQuiet()) {
     if (session_->IsBehind()) Try([&] { Reload(); });
     TellSettled();
   }
@@ -237,7 +238,17 @@ template <class Action> void OfficeStore::Try(Action&& action) {
   try {
     action();
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::Unreachable) session_->Broke();
+    session_->Met(error);
+  }
+}
+
+template <class Action> auto OfficeStore::ByHand(Action&& action) -> decltype(action()) {
+  try {
+    return action();
+  } catch (const OfficeError& error) {
+    session_->Met(error);
+    TellIfChanged();
+    throw;
   }
 }
 
@@ -278,19 +289,20 @@ void OfficeStore::TellIfChanged() {
 
 void OfficeStore::Plan() {
   if (!timer_) return;
-  if (Now() == State::Broken && told_state_ == State::Broken && (knocking_ || barred_)) {
-    // What comes of that plans what comes next.
+  const bool told = told_state_ == Now();
+  if (told && (Now() == State::Gone || (Now() == State::Broken && (knocking_ || barred_)))) {
+    // What comes of knocking, or of a password, plans what comes next; what is gone is looked for no more.
     timer_->stop();
   } else if (Now() == State::Broken) {
-    timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
-  } else if (told_state_ != Now()) {
+    timer_->start(told ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
+  } else if (!told) {
     timer_->start(0);
   } else if (IsAsked()) {
     timer_->start(static_cast<int>(answered_by_.remainingTime()));
   } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
     timer_->start(kSoon);
   } else {
-    timer_->start(Now() == State::Reading ? kLook : kHeartbeat);
+    timer_->start(Now() == State::Reading ? WaitingTimes::Now().reading : WaitingTimes::Now().editing);
   }
 }
 

@@ -27,7 +27,7 @@ class FileJournal;
 /// It is taken up to be edited where nobody else has it; else it opens to be read, and follows what the other stores.
 /// With an event loop it looks after itself: it is told of edits, looks whether the other is gone, and tries again
 /// where the connection broke, without waiting for a server that does not answer: one that says nothing for five
-/// seconds is given up. A program without one calls Attend.
+/// seconds is given up. A program without one calls Attend. A client that turns out to be gone is looked for no more.
 class OfficeStore final : public DossierStore {
  public:
   using State = ClientSession::State;
@@ -40,12 +40,12 @@ class OfficeStore final : public DossierStore {
   [[nodiscard]] QString Naam() const override;
   [[nodiscard]] const std::shared_ptr<dossier::Dossier>& Dossier() const override { return dossier_; }
   [[nodiscard]] std::shared_ptr<Edits> GedeeldeBewerkingen() override;
-  /// Somebody else has it, this account only reads, or what is shown is old. Where the connection broke nothing is
-  /// stored either, but what was edited goes on after it.
+  /// Somebody else has it, this account only reads, what is shown is old, or it is gone. Where the connection broke
+  /// nothing is stored either, but what was edited goes on after it.
   [[nodiscard]] bool IsReadOnly() const override {
-    return Now() == State::Reading || (unreadable_ && Now() == State::Editing);
+    return Now() == State::Reading || Now() == State::Gone || (unreadable_ && Now() == State::Editing);
   }
-  [[nodiscard]] bool InPlace() const override { return Now() != State::Broken; }
+  [[nodiscard]] bool InPlace() const override { return session_->IsThere(); }
   /// The office names its users itself.
   void SetAuthor(const std::string&) override {}
   [[nodiscard]] std::vector<Entry> Next(StepKind kind) const override;
@@ -64,6 +64,8 @@ class OfficeStore final : public DossierStore {
   [[nodiscard]] int Tries() const { return session_->Tries(); }
   /// Why what others stored cannot be read: what is shown is older, and nothing is edited. Nothing where it can.
   [[nodiscard]] const std::optional<OfficeError>& Unreadable() const { return unreadable_; }
+
+  // What these find out of the connection and the client shows in Now() at once.
 
   /// Takes it up to be edited where nobody has it any more; answers whether it is taken up here now. Throws
   /// OfficeError.
@@ -102,6 +104,8 @@ class OfficeStore final : public DossierStore {
   void Told(const QString& channel, const QString& what);
   /// Does something with the office; a connection that is gone is met by Attend.
   template <class Action> void Try(Action&& action);
+  /// The same by hand: Throws what it throws, once what that means for the client was told.
+  template <class Action> auto ByHand(Action&& action) -> decltype(action());
   void Reload();
   void TellIfChanged();
   void Plan();

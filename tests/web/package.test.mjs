@@ -93,6 +93,34 @@ test('package.DoesNothingWhereThereIsNoPage', () => {
   assert.equal(said, '9 function No page\n');
 });
 
+test('package.ASecondCopyOnAPageUsesTheFirst', async () => {
+  const page = await open('/tests/pages/sheet.html');
+  const machines = [];
+  const warnings = [];
+  page.on('request', (request) => request.url().endsWith('.wasm') && machines.push(new URL(request.url()).pathname));
+  page.on('console', (message) => message.type() === 'warn' && warnings.push(message.text()));
+  const seen = await page.evaluate(async () => {
+    const one = await import('/package/src/index.js');
+    const other = await import('/made/node_modules/brivane-vrije-kolom/src/index.js');
+    await other.ready;
+    other.addLanguage('fy', { NothingOpen: 'Der is neat iepen.' });
+    const made = new other.VrijeKolomElement();
+    made.lang = 'fy';
+    document.body.append(made);
+    const failure = await made.setApplication({}, 0, 1).catch((error) => error);
+    return { veil: made.shadowRoot.querySelector('.veil').textContent, failure: failure instanceof other.HostError,
+      same: Object.keys(one).filter((name) => one[name] === other[name]), names: Object.keys(one) };
+  });
+  assert.equal(seen.veil, 'Der is neat iepen.');
+  assert.equal(seen.failure, true);
+  assert.ok(seen.names.length >= 5);
+  assert.deepEqual(seen.same, seen.names);
+  assert.deepEqual(machines, ['/package/src/machine.wasm']);
+  assert.equal(warnings.length, 1);
+  assert.match(warnings[0], /brivane-vrije-kolom/);
+  assert.deepEqual(page.faults, []);
+});
+
 test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   const entry = `${made}examples/web/form/`;
   cpSync(`${top}examples/web/form`, entry, { recursive: true });
@@ -110,6 +138,34 @@ test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   assert.equal(await isDirty(), true);
   await page.click('#terug');
   await person.until(async () => (await person.text('TxtOm')) === 'Kinderopvang', 'what stood there');
+  assert.equal(await isDirty(), false);
+  // The amount is a value of the form like the others, and so is the year-by-year scenario.
+  await person.typeOver('TxtBd', '999');
+  await person.press('Tab');
+  assert.equal(await isDirty(), true);
+  await page.click('#terug');
+  await person.until(async () => (await person.text('TxtBd')) === '485,50', 'the amount that stood there');
+  assert.equal(await isDirty(), false);
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.typeOver('txtBedrag(2)', '500');
+  await person.press('Tab');
+  await person.click('cmdOK');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+  assert.equal(await isDirty(), true);
+  await page.click('#terug');
+  await person.until(async () => !(await isDirty()), 'the scenario that stood there');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  assert.equal(await person.text('txtBedrag(2)'), '485,50');
+  await person.press('Escape');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+  // What is refused goes too, and the editor shows what the form holds.
+  await person.typeOver('TxtOm', 'Oppas');
+  await person.typeOver('TxtBd', 'x');
+  await page.click('#terug');
+  await person.until(async () => (await person.text('TxtOm')) === 'Kinderopvang', 'what stood there');
+  assert.equal(await person.text('TxtBd'), '485,50');
   assert.equal(await isDirty(), false);
   await person.typeOver('TxtOm', 'Crèche');
   await page.click('#bewaar');

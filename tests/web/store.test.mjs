@@ -22,13 +22,15 @@ function leaving({ page }) {
 /** Closes the page as a person does, who is asked and stays. */
 async function staysWhenClosed({ page, person }) {
   let isAsked = false;
-  page.once('dialog', (dialog) => {
+  page.once('dialog', async (dialog) => {
+    await dialog.dismiss();
     isAsked = dialog.type() === 'beforeunload';
-    dialog.dismiss();
   });
   await page.close({ runBeforeUnload: true });
   await person.until(() => isAsked, 'the question of the browser');
   assert.equal(page.isClosed(), false);
+  // A browser that is not done with the answer does not hear that it is closed again.
+  await page.evaluate(() => new Promise((later) => setTimeout(later, 50)));
 }
 
 // While the browser asks, a page does nothing: what was handed over is written when the person stays.

@@ -42,6 +42,12 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
        {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd."}},
       {{.state = State::Editing, .asker = "Bert Bakker", .unreadable = "het is beschadigd"},
        {.text = "Wat u ziet is oud en kan niet worden gewijzigd: het is beschadigd.", .handOver = true}},
+      {{.state = State::Gone, .holder = "Anna Aalders", .since = "10:32", .unreadable = "het is beschadigd"},
+       {.text = "Deze cliënt is niet meer in het kantoor, of niet meer voor uw team. Wat u ziet, is wat er het laatst "
+                "stond; wijzigen kan niet meer."}},
+      {{.state = State::Gone, .unknown = true},
+       {.text = "Deze cliënt is niet meer in het kantoor, of niet meer voor uw team. Wat u ziet, is wat er het laatst "
+                "stond; wijzigen kan niet meer. Of de laatste wijziging was opgeslagen, is niet bekend."}},
       {{.state = State::Broken, .unreadable = "het is beschadigd"},
        {.text = "Geen verbinding met het kantoor. Er wordt vanzelf opnieuw verbinding gezocht.", .reconnect = true}},
   };

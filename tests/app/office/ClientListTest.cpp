@@ -11,6 +11,7 @@
 #include "dossier/office/Aside.h"
 #include "tests/app/screen/WindowTest.h"
 #include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/Patience.h"
 
 // The list of an office's clients, with the keys of a person.
 namespace brivane::app {
@@ -34,13 +35,13 @@ class ClientListTest : public testing::Test {
   void TearDown() override {
     list_.reset();
     // Nobody waits for its session but this test.
-    EXPECT_TRUE(dossier::Aside::AllEnd(std::chrono::seconds(20)));
+    EXPECT_TRUE(dossier::Aside::AllEnd(std::chrono::milliseconds(test::kPatience)));
   }
 
   void Show() {
     list_ = std::make_unique<ClientListDialog>(entrance_, nullptr);
     list_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(list_.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(list_.get(), test::kPatience));
     lines_ = list_->findChild<QTreeWidget*>("clienten");
     box_ = list_->findChild<QLineEdit*>("zoeken");
     told_ = list_->findChild<QLabel*>("gevonden");
@@ -50,7 +51,7 @@ class ClientListTest : public testing::Test {
     for (; *text != '\0'; ++text) QTest::keyClick(list_->windowHandle(), *text);
   }
   [[nodiscard]] bool Lists(const QStringList& names) {
-    return QTest::qWaitFor([&] { return Names() == names; }, 10000);
+    return QTest::qWaitFor([&] { return Names() == names; }, test::kPatience);
   }
   [[nodiscard]] QStringList Names() const {
     QStringList names;
@@ -85,7 +86,7 @@ TEST_F(ClientListTest, FindsWhileTypingAndOpensWithEnter) {
   // Enter before the office has answered: it opens once it is found.
   Type("boer");
   QTest::keyClick(list_->windowHandle(), Qt::Key_Return);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return list_->Chosen() == boer_; }, 10000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list_->Chosen() == boer_; }, test::kPatience));
   EXPECT_EQ(list_->result(), QDialog::Accepted);
 }
 
@@ -124,7 +125,7 @@ TEST_F(ClientListTest, TellsWhoWorksInWhichAndPutsOnesOwnFirst) {
   EXPECT_TRUE(lines_->topLevelItem(1)->data(0, Qt::AccessibleTextRole).toString().contains("in bewerking bij Anna"));
   // It is looked at again by itself.
   anna.reset();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return lines_->topLevelItem(1)->text(3).isEmpty(); }, 10000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return lines_->topLevelItem(1)->text(3).isEmpty(); }, test::kPatience));
 }
 
 TEST_F(ClientListTest, AServerThatIsGoneIsToldAndTypingGoesOn) {
@@ -137,10 +138,11 @@ TEST_F(ClientListTest, AServerThatIsGoneIsToldAndTypingGoesOn) {
   server.Stop("immediate");
   Type("bo");
   EXPECT_EQ(box_->text(), "bo");
-  EXPECT_TRUE(
-      QTest::qWaitFor([&] { return told_->text().startsWith("Er is geen verbinding met het kantoor"); }, 10000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told_->text().startsWith("Er is geen verbinding met het kantoor"); },
+                              test::kPatience));
   server.Start();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return told_->text() == "1 cliënt"; }, 15000)) << qPrintable(told_->text());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told_->text() == "1 cliënt"; }, test::kPatience))
+      << qPrintable(told_->text());
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QSettings>
 #include <chrono>
 #include <thread>
@@ -37,7 +38,8 @@ TEST_F(ClientWindowTest, ASecondAdviserReadsAlongWithFocusAndPlaceKept) {
   ASSERT_TRUE(focus);
 
   window_->Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Avondkrant");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(second) == "Avondkrant"; }, 3000)) << Omschrijving(second);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(second) == "Avondkrant"; }, test::kPatience))
+      << Omschrijving(second);
   EXPECT_EQ(second.Screen()->Shown(), kKrant);
   EXPECT_EQ(second.focusWidget(), focus);
 }
@@ -53,7 +55,8 @@ TEST_F(ClientWindowTest, WhatAReaderTypesStandsAfterReadingAlong) {
   const auto* line = qobject_cast<QLineEdit*>(second.focusWidget());
   ASSERT_TRUE(line);
   EXPECT_TRUE(QTest::qWaitFor(
-      [&] { return second.Screen()->Dossier().FindKolom(0, 2)->Gegevens().Productnaam == "Avondkrant"; }, 2000));
+      [&] { return second.Screen()->Dossier().FindKolom(0, 2)->Gegevens().Productnaam == "Avondkrant"; },
+      test::kPatience));
   EXPECT_EQ(line->text(), "Mijn idee");
   PressKey(Qt::Key_Escape);
 }
@@ -65,17 +68,17 @@ TEST_F(ClientWindowTest, AskingHandsTheClientOver) {
   OpenAs(second, "bert");
   Click(second, "Vragen");
   EXPECT_TRUE(Bar(second).endsWith("U hebt erom gevraagd."));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == "Bert Bakker vraagt om deze cliënt."; }, 2000))
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_) == "Bert Bakker vraagt om deze cliënt."; }, test::kPatience))
       << qPrintable(Bar(*window_));
   Click(*window_, "Overdragen");
   // Who asked has it without another key.
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(second).isEmpty(); }, 3000)) << qPrintable(Bar(second));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, 3000))
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(second).isEmpty(); }, test::kPatience)) << qPrintable(Bar(second));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, test::kPatience))
       << qPrintable(Bar(*window_));
   EXPECT_TRUE(second.Actions().add->isEnabled());
   EXPECT_FALSE(window_->Actions().add->isEnabled());
   second.Screen()->Dossier().FindKolom(0, 2)->SetOmschrijving("Van Bert");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 3000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, test::kPatience));
 }
 
 TEST_F(ClientWindowTest, TheBarIsReachedAndUsedByKeysAlone) {
@@ -85,17 +88,17 @@ TEST_F(ClientWindowTest, TheBarIsReachedAndUsedByKeysAlone) {
   OpenAs(*window_, "bert");
   TabTo("Vragen");
   PressKey(Qt::Key_Space);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return asked == "Bert Bakker"; }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return asked == "Bert Bakker"; }, test::kPatience));
   EXPECT_TRUE(Bar(*window_).endsWith("U hebt erom gevraagd."));
   // The button is gone with what it did; the focus is somewhere that a key can leave.
   ASSERT_TRUE(window_->focusWidget() && window_->focusWidget()->isVisible());
   anna->LetGo();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, test::kPatience));
   anna->Ask();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("vraagt om"); }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("vraagt om"); }, test::kPatience));
   TabTo("Overdragen");
   PressKey(Qt::Key_Space);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Alleen lezen"); }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Alleen lezen"); }, test::kPatience));
 }
 
 TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {
@@ -104,7 +107,8 @@ TEST_F(ClientWindowTest, OnceTheHolderIsGoneItCanBeTakenOver) {
   second.show();
   OpenAs(second, "bert");
   ASSERT_TRUE(window_->CloseDossier());
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(second) == "Alleen lezen: niemand werkt hier nu in."; }, 5000))
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Bar(second) == "Alleen lezen: niemand werkt hier nu in."; }, test::kPatience))
       << qPrintable(Bar(second));
   Click(second, "Overnemen");
   EXPECT_EQ(Bar(second), "");
@@ -128,15 +132,15 @@ TEST_F(ClientWindowTest, AHolderWhoseClientWasTakenStoresNothingAndKeepsWhatHeTy
   OpenAs(second, "bert");
   proxy.Cut();
   // The server has noticed, and bert is quicker.
-  ASSERT_TRUE(QTest::qWaitFor([&] { return second.Actions().office.takeOver->isEnabled(); }, 10000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return second.Actions().office.takeOver->isEnabled(); }, test::kPatience));
   Click(second, "Overnemen");
   ASSERT_EQ(Bar(second), "");
   window_->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get(), test::kPatience));
   proxy.Mend();
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  ExpectFailed();
   Describe("Ochtendkrant");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, 10000))
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, test::kPatience))
       << qPrintable(Bar(*window_));
   EXPECT_EQ(Stored(), "Weekendabonnement");
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Ochtendkrant"))
@@ -151,13 +155,15 @@ TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack)
   test::SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
   proxy.Cut();
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  ExpectFailed();
   Describe("Avondkrant");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding met het kantoor."); }, 5000));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("(poging "); }, 5000)) << qPrintable(Bar(*window_));
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding met het kantoor."); }, test::kPatience));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("(poging "); }, test::kPatience))
+      << qPrintable(Bar(*window_));
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
   proxy.Mend();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, 15000)) << qPrintable(Bar(*window_));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, test::kPatience)) << qPrintable(Bar(*window_));
   EXPECT_EQ(Text(*window_, "bericht").section('.', 0, 0), "De verbinding met het kantoor is er weer");
   EXPECT_EQ(Stored(), "Weekendabonnement");
   Click(*window_, "Terugzetten");
@@ -170,16 +176,14 @@ TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack)
 TEST_F(ClientWindowTest, AnEditWhoseAnswerWasLostIsToldAsStored) {
   test::SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(test::SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Tab);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("blijkt ook of de laatste wijziging"); }, 5000))
+  ExpectFailed();
+  Describe("Avondkrant", [&] { proxy.NextMeets(test::SocketProxy::Fate::DeadAfter); });
+  ASSERT_TRUE(
+      QTest::qWaitFor([&] { return Bar(*window_).contains("blijkt ook of de laatste wijziging"); }, test::kPatience))
       << qPrintable(Bar(*window_));
   proxy.Mend();
-  ASSERT_TRUE(
-      QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); }, 15000))
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); },
+                              test::kPatience))
       << qPrintable(Text(*window_, "bericht"));
   EXPECT_EQ(Text(*window_, "nietOpgeslagen"), "");
   EXPECT_EQ(Omschrijving(*window_), "Avondkrant");
@@ -217,6 +221,8 @@ TEST_F(ClientWindowTest, AnEditThatWaitsIsSeenToWaitAndNothingIsTypedMeanwhile) 
   PressKey(Qt::Key_O, Qt::AltModifier);
   Type("Avondkrant");
   auto* box = QApplication::focusWidget();
+  using dossier::WaitingTimes;
+  WaitingTimes::Set(dossier::Patient({&WaitingTimes::edit, &WaitingTimes::back, &WaitingTimes::silence}));
   proxy.Hang();
   Sight sight;
   std::thread typist([box] {
@@ -228,22 +234,25 @@ TEST_F(ClientWindowTest, AnEditThatWaitsIsSeenToWaitAndNothingIsTypedMeanwhile) 
   time.start();
   dialogs_.ExpectMessage(kFailed, [&](QWidget& message) {
     EXPECT_GE(time.elapsed(), 7900);
-    EXPECT_LT(time.elapsed(), 12000);
+    EXPECT_LT(time.elapsed(), test::kPatience);
     QTest::keyClick(message.windowHandle(), Qt::Key_Return);
   });
   PressKey(Qt::Key_Tab);
   typist.join();
-  ASSERT_GE(sight.texts.size(), 6);
-  EXPECT_EQ(sight.texts.front(), "Wacht op het kantoor… (1 s)");
-  EXPECT_EQ(sight.texts.last(), "Wacht op het kantoor… (7 s)");
+  // Each second, but for those that a slow machine misses.
+  ASSERT_GE(sight.texts.size(), 2);
+  for (const QString& text : sight.texts)
+    EXPECT_TRUE(QRegularExpression("^Wacht op het kantoor… \\([1-7] s\\)$").match(text).hasMatch()) << qPrintable(text);
+  EXPECT_LT(sight.texts.front(), sight.texts.last());
   EXPECT_EQ(sight.keys_meanwhile, 0);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return sight.keys_after > 0; }, 2000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return sight.keys_after > 0; }, test::kPatience));
   EXPECT_EQ(window_->findChild<QWidget*>("wacht"), nullptr);
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
   proxy.Mend();
   // It was on its way, and the bar tells what became of it.
   ASSERT_TRUE(QTest::qWaitFor(
-      [&] { return Text(*window_, "bericht").contains("De laatste wijziging is ") && Bar(*window_).isEmpty(); }, 20000))
+      [&] { return Text(*window_, "bericht").contains("De laatste wijziging is ") && Bar(*window_).isEmpty(); },
+      test::kPatience))
       << qPrintable(Bar(*window_) + " / " + Text(*window_, "bericht"));
   const bool stored = !Text(*window_, "bericht").contains("niet opgeslagen");
   EXPECT_EQ(Stored(), stored ? "Avondkrant" : "Weekendabonnement");
@@ -252,11 +261,13 @@ TEST_F(ClientWindowTest, AnEditThatWaitsIsSeenToWaitAndNothingIsTypedMeanwhile) 
 TEST_F(ClientWindowTest, OnASilentLineTheWindowIsClosedSoon) {
   test::SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
+  using dossier::WaitingTimes;
+  WaitingTimes::Set(dossier::Patient({&WaitingTimes::moment, &WaitingTimes::leaving}));
   proxy.Hang();
   QElapsedTimer time;
   time.start();
   window_.reset();
-  EXPECT_LT(time.elapsed(), 2500);
+  EXPECT_LT(time.elapsed(), test::kPatience);
 }
 
 TEST_F(ClientWindowTest, AFileGoesToTheOfficeAndBack) {
@@ -269,12 +280,7 @@ TEST_F(ClientWindowTest, AFileGoesToTheOfficeAndBack) {
   ASSERT_TRUE(window_->Screen() && window_->Screen()->Path().isEmpty());
   EXPECT_EQ(Screen().Dossier().FindKolom(0, 2)->Gegevens().Omschrijving, "Avondkrant");
   const QString copy = folder_.filePath("terug.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   window_->Actions().office.toFile->trigger();
   ASSERT_TRUE(window_->CloseDossier());
   EXPECT_EQ(ReadInSecondProcess(copy), ReadInSecondProcess(file_));

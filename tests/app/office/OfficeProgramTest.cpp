@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "tests/dossier/office/TrialOffice.h"
+#include "tests/support/Patience.h"
 #include "tests/support/postgres/SocketProxy.h"
 
 // The program itself, in an office, ended from outside.
@@ -28,14 +29,14 @@ class OfficeProgramTest : public testing::Test {
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QStringLiteral(DOSSIER), {"--kantoor", words});
     ASSERT_TRUE(process.waitForStarted());
-    EXPECT_TRUE(QTest::qWaitFor(stands, 30000));
+    EXPECT_TRUE(QTest::qWaitFor(stands, test::kPatience));
     QTest::qWait(500);
     QElapsedTimer time;
     time.start();
     kill(static_cast<pid_t>(process.processId()), signal);
-    ASSERT_TRUE(process.waitForFinished(30000)) << "it does not end";
+    ASSERT_TRUE(process.waitForFinished(2 * test::kPatience)) << "it does not end";
     std::printf("ended after %lld ms\n", static_cast<long long>(time.elapsed()));
-    EXPECT_LT(time.elapsed(), 5000);
+    EXPECT_LT(time.elapsed(), test::kPatience);
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 0);
   }
@@ -52,14 +53,15 @@ TEST_F(OfficeProgramTest, EndsInOrderWithTheListOfClientsInFront) {
   for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
     // The window's session, and that of the list.
     EndWith(signal, office.Words("bert"), [&] { return sessions() == "2"; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return sessions() == "0"; }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sessions() == "0"; }, test::kPatience));
   }
 }
 
 TEST_F(OfficeProgramTest, EndsInOrderWhileItConnects) {
   test::SocketProxy nobody("/tmp/daar-is-niets");
   nobody.FallSilent();
-  EndWith(SIGTERM, "user=anna dbname=kantoor host=" + nobody.Folder(), [&] { return nobody.Unanswered() > 0; });
+  EndWith(SIGTERM, "user=anna dbname=kantoor connect_timeout=300 host=" + nobody.Folder(),
+          [&] { return nobody.Unanswered() > 0; });
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ inline Output RunProgram(const QStringList& arguments) {
   QProcess process;
   process.start(QStringLiteral(DOSSIER), arguments);
   process.closeWriteChannel();
-  EXPECT_TRUE(process.waitForFinished(120000)) << "dossier " << qPrintable(arguments.join(' '));
+  EXPECT_TRUE(process.waitForFinished(600000)) << "dossier " << qPrintable(arguments.join(' '));
   return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
           QString::fromUtf8(process.readAllStandardError())};
 }

@@ -34,7 +34,7 @@ class BrokenConnectionTest : public testing::Test {
   /// Ends the session at the server, as an administrator would.
   void EndSession() {
     office_.Psql("postgres",
-                 QString("SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE usename = 'anna' AND "
+                 QString("SELECT pg_terminate_backend(pid, 60000) FROM pg_stat_activity WHERE usename = 'anna' AND "
                          "datname = '%1'")
                      .arg(office_.Name()));
   }

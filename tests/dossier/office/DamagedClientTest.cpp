@@ -148,7 +148,7 @@ TEST_F(DamagedClientTest, WhoReadsAlongIsToldThatWhatIsShownIsOlder) {
 TEST_F(DamagedClientTest, AFileOfAClientWithoutAConnectionIsToldAsThat) {
   const auto session = office_.Enter();
   const auto store = OfficeStore::Open(session, client_);
-  Must(QString("SELECT pg_terminate_backend(%1, 5000)").arg(session->User().pid));
+  Must(QString("SELECT pg_terminate_backend(%1, 60000)").arg(session->User().pid));
   const Folder folder;
   try {
     store->Kopieer(folder.Path("uit.dossier"));

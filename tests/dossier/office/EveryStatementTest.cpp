@@ -6,6 +6,7 @@
 #include "dossier/store/StoreErrors.h"
 #include "tests/dossier/office/TrialOffice.h"
 #include "tests/dossier/store/ScriptedEdits.h"
+#include "tests/support/Patience.h"
 #include "tests/support/postgres/SocketProxy.h"
 
 // Every single question to the office gets no answer in turn, one session each; and every table of the office is full
@@ -103,7 +104,7 @@ class Session {
   }
 
   static void AwaitEditing(OfficeStore& store) {
-    const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    const auto patience = std::chrono::steady_clock::now() + std::chrono::milliseconds(test::kPatience);
     do {
       store.Attend();
       if (store.Now() == State::Editing) return;

@@ -56,7 +56,7 @@ TEST_F(LeaseTest, AClientThatCannotBeReadIsLetGoAndFollowedNoMore) {
 TEST_F(LeaseTest, ASessionThatOnlyHasTheNumberOfTheBrokenOneIsLeftAlone) {
   const auto session = office_.Enter();
   const auto store = OfficeStore::Open(session, client_);
-  Must(QString("SELECT pg_terminate_backend(%1, 5000)").arg(session->User().pid));
+  Must(QString("SELECT pg_terminate_backend(%1, 60000)").arg(session->User().pid));
   // As after a restart of the server, which gives the number of that session to another window of anna's.
   const auto other = OfficeStore::Open(office_.Enter(), client_);
   ASSERT_EQ(other->Now(), State::Editing);

@@ -11,6 +11,7 @@
 #include "tests/dossier/office/TrialOffice.h"
 #include "tests/dossier/store/Digest.h"
 #include "tests/dossier/store/ScriptedEdits.h"
+#include "tests/support/Patience.h"
 #include "tests/support/postgres/SocketProxy.h"
 #include <brivane/host/Error.h>
 
@@ -101,7 +102,7 @@ class OfficeFaultsTest : public testing::Test {
   }
 
   static void AwaitEditing(OfficeStore& store) {
-    const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    const auto patience = std::chrono::steady_clock::now() + std::chrono::milliseconds(test::kPatience);
     while (store.Now() != State::Editing && std::chrono::steady_clock::now() < patience) {
       std::this_thread::sleep_for(std::chrono::milliseconds(20));
       store.Attend();

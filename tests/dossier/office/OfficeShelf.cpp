@@ -8,6 +8,7 @@
 #include "tests/dossier/store/Files.h"
 #include "tests/dossier/store/Shelf.h"
 #include "tests/dossier/store/StoredRows.h"
+#include "tests/support/Patience.h"
 
 namespace brivane::dossier {
 namespace {
@@ -133,7 +134,7 @@ class OfficeShelf final : public Shelf {
     timer.start();
     for (;;) {
       auto store = office_.Open(name.toInt());
-      if (store->Now() == OfficeStore::State::Editing || timer.hasExpired(10000)) return store;
+      if (store->Now() == OfficeStore::State::Editing || timer.hasExpired(test::kPatience)) return store;
       store.reset();
       QThread::msleep(10);
     }

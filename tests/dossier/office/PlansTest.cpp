@@ -13,12 +13,12 @@ class PlansTest : public testing::Test {
   /// What the server counted. A session's figures are there once it has ended, which takes it a moment.
   QString Counted(const QString& sql) {
     bool failed = false;
-    office_.Psql(
-        "postgres",
-        "DO $$ BEGIN FOR look IN 1..1000 LOOP PERFORM pg_stat_clear_snapshot(); IF NOT EXISTS (SELECT FROM "
-        "pg_stat_activity WHERE backend_type = 'client backend' AND pid <> pg_backend_pid()) THEN RETURN; END IF; "
-        "PERFORM pg_sleep(0.01); END LOOP; RAISE EXCEPTION 'a session goes on'; END $$",
-        &failed);
+    office_.Psql("postgres",
+                 "DO $$ BEGIN FOR look IN 1..6000 LOOP PERFORM pg_stat_clear_snapshot(); IF NOT EXISTS (SELECT FROM "
+                 "pg_stat_activity WHERE datname = current_database() AND backend_type = 'client backend' AND pid <> "
+                 "pg_backend_pid()) THEN RETURN; END IF; "
+                 "PERFORM pg_sleep(0.01); END LOOP; RAISE EXCEPTION 'a session goes on'; END $$",
+                 &failed);
     EXPECT_FALSE(failed);
     return office_.Psql("postgres", sql);
   }

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QString>
+#include <initializer_list>
 #include <memory>
 
 #include "dossier/model/SampleCase.h"
@@ -10,12 +11,25 @@
 #include "dossier/office/OfficeConnection.h"
 #include "dossier/office/OfficeSetup.h"
 #include "dossier/office/OfficeStore.h"
+#include "dossier/office/WaitingTimes.h"
 #include "tests/support/postgres/PostgresServer.h"
 
 namespace brivane::dossier {
 
+/// What the program waits for, twice as long as a test does: nothing is given up because the machine is slow. The kept
+/// ones alone are as a person knows them, for a test of a line that is silent: had another been waited for, it would
+/// show on any machine.
+[[nodiscard]] inline WaitingTimes Patient(std::initializer_list<WaitingTimes::Time WaitingTimes::*> kept = {}) {
+  constexpr WaitingTimes::Time kLong{120000};
+  WaitingTimes times;
+  times.much = times.edit = times.little = times.moment = times.silence = kLong;
+  times.back = times.connecting = times.ending = times.leaving = kLong;
+  for (const auto time : kept) times.*time = WaitingTimes().*time;
+  return times;
+}
+
 /// An office of its own for a test, on the server that the program's tests share. Advisers anna and bert are in team 1
-/// ("Noord"), carla in team 2 ("Zuid"); rob reads in team 1; mia manages.
+/// ("Noord"), carla in team 2 ("Zuid"); rob reads in team 1; mia manages. The program is patient from here on.
 class TrialOffice {
  public:
   static constexpr int kNoord = 1;
@@ -24,6 +38,7 @@ class TrialOffice {
   explicit TrialOffice(test::PostgresServer& server = test::PostgresServer::Shared())
       : server_(server),
         database_(server.MakeDatabase(&server == &test::PostgresServer::Shared() ? Template() : QString())) {
+    WaitingTimes::Set(Patient());
     if (&server != &test::PostgresServer::Shared()) Furnish(server_, database_);
   }
 

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "tests/support/Patience.h"
+
 namespace brivane::test {
 namespace {
 
@@ -128,7 +130,7 @@ void SocketProxy::Carry(int client) {
       asked = true;
       if (fate == Fate::LostAfter || fate == Fate::DeadAfter) {
         // The answer is there: the server has committed.
-        IsReadable(server, 10000);
+        IsReadable(server, kPatience);
         break;
       }
     }

@@ -9,6 +9,8 @@
 
 #include "tests/toolkits/web/NotHere.h"
 #include "tests/toolkits/web/Stage.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
 #include <brivane/frame/Texts.h>
 #include <brivane/toolkits/web/Person.h>
 #include <brivane/toolkits/web/Turns.h>
@@ -88,6 +90,15 @@ EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, doubl
 EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
   Stage* const stage = Stage::Find(page);
   return stage != nullptr && web::MindsBeingLeft(stage->Toolkit(), node) ? 1 : 0;
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_day(int page, int node) {
+  Stage* const stage = Stage::Find(page);
+  return stage != nullptr ? web::DayIn(stage->Toolkit(), node).Days() : 0;
+}
+EMSCRIPTEN_KEEPALIVE int brivane_first_day() {
+  using namespace brivane::frame;
+  return MakeDate({kFirstYear, 1, 1}).Days();
 }
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {

@@ -204,7 +204,8 @@ export function listen(view) {
     stop(event);
     const dropped = (click) => stop(click);
     view.root.addEventListener('click', dropped, { capture: true, once: true });
-    addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
+    // It may be let go of outside of the view; which may stand in another window than this script runs in.
+    root.ownerDocument.defaultView.addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
   }
 
   function click(event) {

@@ -3,6 +3,7 @@
 import createMachine from '../machine/machine.js';
 import { dayOf } from './days.js';
 import { HostError } from './errors.js';
+import { first } from './first.js';
 import { Host } from './host.js';
 import { done, enter, failed, isAtWork, run } from './jobs.js';
 import { Memory } from './memory.js';
@@ -79,7 +80,7 @@ async function compile() {
   }
 }
 
-const compiled = compile();
+const compiled = first === undefined ? compile() : Promise.reject(new Error('Loaded twice'));
 compiled.catch(() => {});
 
 /** Starts the machine, once. */
@@ -150,6 +151,9 @@ export function answerBox(view, box, answer) {
 
 /** Whether it changes anything that the focus leaves a node. */
 export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
+/** The day at which the calendar of a box opens, NaN where no day stands in it, and the first that may be picked. */
+export const dayIn = (view, node) => machine._brivane_day(view.number, node.id) || NaN;
+export const firstDay = () => machine._brivane_first_day();
 
 /** How many milliseconds ago something happened that is heard of now, by the clock of the window that it happened in. */
 function ageOf(event) {

@@ -3,6 +3,9 @@
 /** What the controls say themselves is Dutch, whatever is spoken around them. */
 export const OWN_LANGUAGE = 'nl';
 
+/** The text of a caption: without the "&" before the letter to underline, and with one for "&&". */
+export const textOf = (marked) => marked.replace(/&(.)/gs, '$1');
+
 /** A caption with an "&" before the letter to underline, and "&&" for one to show. */
 export function writeCaption(element, marked) {
   if (!marked.includes('&')) return void (element.textContent = marked);

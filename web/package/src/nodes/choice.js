@@ -1,5 +1,6 @@
 // One of several options, and a check box.
 
+import { textOf } from './captions.js';
 import { Shows } from './contract.js';
 import { copy, make, shown } from './making.js';
 import { Node } from './node.js';
@@ -20,7 +21,7 @@ export class Choice extends Node {
     else super.show(what, number, text);
     // A choice without a caption (a partner who is not there) is called what the design calls it.
     if (what !== Shows.caption) return;
-    if (text === '') this.input.setAttribute('aria-label', this.design.caption.replace(/&(.)/gs, '$1'));
+    if (text === '') this.input.setAttribute('aria-label', textOf(this.design.caption));
     else if (this.design.label === '') this.input.removeAttribute('aria-label');
   }
 }

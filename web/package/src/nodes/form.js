@@ -1,5 +1,6 @@
 // A form over the page: a dialog with a head, in which it scrolls.
 
+import { makeStatus } from '../floating.js';
 import { OWN_LANGUAGE } from './captions.js';
 import { Shows } from './contract.js';
 import { make, shown } from './making.js';
@@ -16,7 +17,9 @@ export class Form extends Node {
     const area = make('div', 'inside');
     head.append(title, close);
     scroll.append(area);
-    outer.append(head, scroll);
+    // What stands outside a modal dialog is not read out while that is open.
+    outer.status = makeStatus();
+    outer.append(head, scroll, outer.status);
     super(view, id, design, outer, { area, caption: title });
     close.node = outer.node = this;
     this.closeButton = close;

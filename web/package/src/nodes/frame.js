@@ -1,5 +1,7 @@
 // A frame with a legend, or one without an edge.
 
+import { textOf } from './captions.js';
+import { Shows } from './contract.js';
 import { copy, shown } from './making.js';
 import { Node } from './node.js';
 
@@ -14,9 +16,18 @@ export class Frame extends Node {
     if (legend !== null) {
       legend.order = -1;
     } else if (design.caption !== '') {
-      outer.setAttribute('aria-label', design.caption.replace(/&(.)/gs, '$1'));
+      outer.setAttribute('aria-label', textOf(design.caption));
     }
     super(view, id, design, outer, { caption: legend });
+    this.#call(design.caption);
+  }
+  /** A screen reader is told of no group that is called nothing. */
+  #call(caption) {
+    this.outer.role = caption === '' ? 'none' : null;
+  }
+  show(what, number, text) {
+    super.show(what, number, text);
+    if (what === Shows.caption) this.#call(text);
   }
   enable(enabled) {
     this.outer.disabled = !enabled;

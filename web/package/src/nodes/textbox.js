@@ -1,5 +1,7 @@
 // A box for text, amounts, numbers and days; that of a day with the browser's calendar.
 
+import { writtenDay } from '../days.js';
+import { dayIn, firstDay } from '../machine.js';
 import { Format, Shows } from './contract.js';
 import { copy, make, shown } from './making.js';
 import { Node } from './node.js';
@@ -8,6 +10,7 @@ function makeBox(format) {
   const isNumber = [Format.amount, Format.number, Format.whole].includes(format);
   const className = (isNumber ? 'box number' : 'box') + (format === Format.date ? '' : ' control');
   const input = shown('input', className, 'box', { type: 'text', autocomplete: 'off' });
+  if (format === Format.date) input.setAttribute('aria-keyshortcuts', 'F4');
   input.spellcheck = format === Format.text;
   if (isNumber) input.inputMode = format === Format.whole ? 'numeric' : 'decimal';
   return input;
@@ -50,8 +53,7 @@ export class TextBox extends Node {
   openCalendar() {
     if (this.button === undefined || this.input.disabled || this.input.readOnly) return false;
     if (this.picker === undefined) this.#addPicker();
-    const [day, month, year] = this.input.value.split('-');
-    this.picker.value = /^\d\d-\d\d-\d{4}$/.test(this.input.value) ? `${year}-${month}-${day}` : '';
+    this.picker.value = writtenDay(dayIn(this.view, this));
     try {
       this.picker.showPicker();
     } catch {
@@ -62,7 +64,7 @@ export class TextBox extends Node {
 
   /** The browser's own calendar, which few open; what is picked there is typed over by the machine. */
   #addPicker() {
-    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: '1900-01-01' });
+    this.picker = make('input', 'picker', { type: 'date', tabIndex: -1, ariaHidden: 'true', min: writtenDay(firstDay()) });
     this.picker.node = this;
     this.input.after(this.picker);
   }
