@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 
 /** How long what a person waits for may take, on a machine that has other things to do. */
-export const PATIENCE = 30000;
+const PATIENCE = 30000;
 
 /** Finds what shows the control of a name: "TxtBd", "optLast(2)", "Toelichting.jnAO", "txtBedrag(3)" in the open form. */
 const findInPage = (selector, name) => {
