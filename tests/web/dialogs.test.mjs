@@ -23,8 +23,11 @@ const loseFocus = () => page.evaluate(() => window.editor.shadowRoot.activeEleme
 /** What a browser does on its own, without the page being asked first. */
 const closeNatively = (which) =>
   page.evaluate(async (selector) => {
-    window.editor.shadowRoot.querySelector(selector).close();
-    await new Promise((done) => setTimeout(done, 50));
+    const dialog = window.editor.shadowRoot.querySelector(selector);
+    await new Promise((done) => {
+      dialog.addEventListener('close', done, { once: true });
+      dialog.close();
+    });
   }, which);
 const comes = (what) => person.until(async () => (await person.message()) !== '', what);
 
@@ -128,13 +131,31 @@ test('dialogs.AQuestionThatTheBrowserClosesIsAnsweredAsByEscape', async () => {
 test('dialogs.WhatWasNotSeenIsNotAnsweredByTheBrowser', async () => {
   await bind();
   await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.stopClock();
   await person.press('Tab');
   await comes('the message');
   await closeNatively('dialog.message');
+  await person.startClock();
   assert.equal(await page.evaluate(() => window.editor.shadowRoot.querySelector('dialog.message').open), true);
   assert.equal(await person.focused(), 'OK');
   await person.pause();
   await person.press('Enter');
+  assert.equal(await person.message(), '');
+});
+
+// The page was busy since.
+test('dialogs.AKeyFromBeforeAMessageCameAnswersNothingHoweverLateItIsHeard', async () => {
+  await bind();
+  await page.evaluate(() => {
+    window.early = new KeyboardEvent('keydown', { key: 'Escape', code: 'Escape', bubbles: true, composed: true, cancelable: true });
+  });
+  await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.press('Tab');
+  await comes('the message');
+  await person.pause();
+  await page.evaluate(() => window.editor.shadowRoot.activeElement.dispatchEvent(window.early));
+  assert.notEqual(await person.message(), '');
+  await person.press('Escape');
   assert.equal(await person.message(), '');
 });
 
@@ -151,4 +172,113 @@ test('dialogs.APressBesideTheButtonsOfAMessageLeavesTheFocusThere', async () => 
   assert.equal(await person.focused(), 'OK');
   await person.press('Enter');
   assert.equal(await person.message(), '');
+});
+
+/** As the tabs of a page hide what stands on them. */
+const setShown = (shown) => page.evaluate((display) => void (window.editor.style.display = display), shown ? '' : 'none');
+/** Whether the page takes a click. */
+async function pageIsFree() {
+  await page.evaluate(() => {
+    window.clicked = 0;
+    document.querySelector('#elders').onclick = () => ++window.clicked;
+  });
+  await page.click('#elders');
+  return (await page.evaluate(() => window.clicked)) === 1;
+}
+
+test('dialogs.WhatIsAskedInAHiddenElementIsAnsweredByNobody', async () => {
+  await bind();
+  await page.evaluate(() => window.dossier.Leningen[0].kolommen.push({ Id: 1 }));
+  await person.typeOver('TxtOm', 'Krant');
+  await setShown(false);
+  assert.equal(await page.evaluate(() => window.editor.validation()), false);
+  assert.equal(await person.message(), '');
+  await (await person.control('cmdScenario')).evaluate((button) => button.click());
+  assert.equal(await person.hasForm(), false);
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.press('Escape');
+});
+
+test('dialogs.AFormThatItsPageHidesGivesThePageFreeAndIsThereWhenItIsShownAgain', async () => {
+  await withForm();
+  await person.press('ArrowDown');
+  await person.type('66');
+  await setShown(false);
+  await person.until(async () => !(await person.hasForm()), 'its going');
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.until(() => person.hasForm(), 'the form');
+  assert.equal(await person.focused(), 'txtBedrag(2)');
+  assert.equal(await person.text('txtBedrag(2)'), '66,00');
+  await person.press('Enter', 'Escape');
+  await comes('the question');
+  await person.pause();
+  await person.press('Alt+j');
+  assert.equal(await person.hasForm(), false);
+  assert.ok(await pageIsFree());
+});
+
+test('dialogs.AQuestionThatItsPageHidesStandsWhenItIsShownAgain', async () => {
+  await withQuestion();
+  const isOpen = () => page.evaluate(() => window.editor.shadowRoot.querySelector('dialog.message').open);
+  await setShown(false);
+  await person.until(async () => !(await isOpen()), 'its going');
+  assert.ok(await pageIsFree());
+  // Moved where it is not seen either.
+  await page.evaluate(() => document.querySelector('main').append(window.editor));
+  assert.equal(await isOpen(), false);
+  assert.ok(await pageIsFree());
+  await setShown(true);
+  await person.until(isOpen, 'the question');
+  await person.pause();
+  await person.press('Alt+j');
+  assert.equal(await isTakenOver(), true);
+});
+
+test('dialogs.LettingGoClosesTheFormAndNothingMoreIsAskedOrReported', async () => {
+  await withForm();
+  await person.press('ArrowDown');
+  await person.type('66');
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'refused');
+  assert.equal(await person.hasForm(), true);
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.hasForm(), false);
+  assert.equal(await page.evaluate(() => window.editor.state), 'unbound');
+  assert.ok(await pageIsFree());
+  assert.deepEqual(await page.evaluate(() => window.item.Bedrag.Perioden), []);
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+  // It works on.
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'bound');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.press('Control+a', '5', 'Alt+o');
+  assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 5);
+});
+
+test('dialogs.LettingGoClosesAQuestionUnanswered', async () => {
+  await withQuestion();
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'refused');
+  assert.notEqual(await person.message(), '');
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.message(), '');
+  assert.equal(await page.evaluate(() => window.stays), false);
+  assert.equal(await isTakenOver(), false);
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
+  assert.ok(await pageIsFree());
+});
+
+test('dialogs.LettingGoClosesTheMessageAboutWhatDoesNotPass', async () => {
+  await bind();
+  await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.press('Tab');
+  await comes('the message');
+  await page.evaluate(() => window.editor.unbind());
+  assert.equal(await person.message(), '');
+  assert.equal(await page.evaluate(() => window.item.DatumEind ?? null), null);
+  assert.equal(await page.evaluate(() => window.editor.setApplication(window.application, 0, 1)), 'bound');
+  assert.notEqual(await person.text('TxtDtEind'), '1-1-1990');
+  assert.deepEqual(await page.evaluate(() => window.reports), []);
 });

@@ -164,6 +164,17 @@ editing('AToggleTakesItsLettersAndTheBlankBar', async () => {
   assert.equal(await person.text('Toelichting.jnAO'), 'Nee');
 });
 
+// A page may be translated.
+editing('AToggleIsPressedOnAHalfWhateverStandsThere', async () => {
+  const toggle = await person.control('Toelichting.jnAO');
+  await toggle.evaluate((input) => ['<font>Yes</font>', 'No'].forEach((text, i) => (input.children[i].innerHTML = text)));
+  const [yes, no] = await toggle.$$('span');
+  await no.click();
+  assert.equal(await item('UitsluitenAO'), true);
+  await yes.click();
+  assert.equal(await item('UitsluitenAO'), false);
+});
+
 editing('AnOptionIsTakenByKeysAndClick', async () => {
   await person.click('optLast(2)');
   assert.equal(await item('CorrectieLast'), 2);
@@ -208,11 +219,13 @@ editing('TabGoesThroughEveryControlAndLeavesTheEditor', async () => {
 
 editing('AMessageIsModalAndGivesTheFocusBack', async () => {
   await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.stopClock();
   await person.press('Tab');
   await person.until(async () => (await person.message()) !== '', 'the message');
   // What is typed on is not meant for the box.
   await person.press('Enter');
   assert.notEqual(await person.message(), '');
+  await person.startClock();
   await person.pause();
   await person.press('Enter');
   await person.until(async () => (await person.message()) === '', 'the answer');

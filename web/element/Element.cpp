@@ -79,6 +79,7 @@ bool Element::IsPending() const {
 controls::BindingResult Element::Bind(const Subject& subject) {
   const std::shared_ptr<Body> body = body_;
   const std::shared_ptr<controls::Life> life = body->toolkit.Life();
+  if (body->toolkit.HasDialog()) return controls::BindingResult::Refused;
   if (body->binding->State() != controls::BindingState::Bound)
     PutBackPending();
   else if (!CommitPending())

@@ -29,9 +29,10 @@ class Element {
   /// Makes the control, once: it asks for the tracer already.
   void Make();
   /// As the other toolkits bind: what is being typed is handed over first, or put back where the element is not bound.
-  /// Without an application all of the host is let go of.
+  /// Refused while a form or a message box is open. Without an application all of the host is let go of.
   controls::BindingResult Bind(const Subject& subject);
-  /// Lets go of the host. What is being typed is handed over; what does not pass is dropped.
+  /// Lets go of the host. What is being typed is handed over; what does not pass is dropped. Who calls this has
+  /// abandoned what was going on.
   void Unbind();
   /// The host's check, after what is being typed was handed over; whether to stay. Of the editor also the check of the
   /// explanation control inside it.

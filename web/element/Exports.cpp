@@ -1,8 +1,11 @@
-// What the script calls. All that may run something of the host's goes through brivane_run, in a turn of its own; the
-// script sees to it that none is called while another one stands on the stack.
+// What the script calls. Whatever may run something of the host's, or wait, goes through brivane_run and brivane_go_on:
+// they change stacks, and the script sees to it that they are called on the page's own alone (jobs.js). All else comes
+// back without running anything of the host's, and may be called at any moment, also by a member of the host in the
+// midst of a turn: to make another element or let one go, to ask what stands, and to tell what a person answered.
 
 #include <emscripten.h>
 
+#include <chrono>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -79,8 +82,12 @@ void RunJob(int number, int page, const Order& order) {
   // Of what was abandoned: a binding failed, a check has nothing against leaving.
   double result = order.job == Job::Bind ? static_cast<double>(controls::BindingResult::Failed) : 0;
   try {
-    if (Element* const element = Element::Find(page))
-      controls::Life::Run(element->Toolkit().Life(), [&] { result = Do(*element, order); });
+    if (Element* const element = Element::Find(page)) {
+      const std::shared_ptr<controls::Life> life = element->Toolkit().Life();
+      // What stands open goes with the host that it is about; not from inside a call, which would end too.
+      if (order.job == Job::Unbind) life->Abandon();
+      controls::Life::Run(life, [&] { result = Do(*element, order); });
+    }
     brivane_done(number, result);
   } catch (...) {
     const host::Error failure = frame::CurrentError();
@@ -123,12 +130,13 @@ EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
     element->Toolkit().Desktop().Answered(box, static_cast<host::MessageAnswer>(answer));
 }
 
-EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+/// `ago`: how many milliseconds ago the key went down.
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, double ago) {
   using Press = controls::KeysUnderWay::Press;
   Element* const element = Element::Find(page);
-  return element != nullptr && element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First)
-             ? 1
-             : 0;
+  if (element == nullptr) return 0;
+  const std::chrono::milliseconds passed(static_cast<std::chrono::milliseconds::rep>(ago));
+  return element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First, passed) ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {

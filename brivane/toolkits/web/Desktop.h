@@ -44,10 +44,12 @@ class Desktop final : public host::Desktop {
 
   /// A message box of the toolkit's own: as MessageBox, and the host is asked nothing, and nobody abandoned.
   [[nodiscard]] host::MessageAnswer Ask(const std::string& boxTitle, const std::string& text, host::MessageStyle style);
+  /// A message box is open.
+  [[nodiscard]] bool Asks() const { return !boxes_.empty(); }
   /// A person answered a box; nothing where it is open no more.
   void Answered(int box, host::MessageAnswer given);
-  /// Whether a key that goes down in an open box is meant for it.
-  [[nodiscard]] bool IsMeant(int box, controls::KeysUnderWay::Press press);
+  /// Whether a key in an open box is meant for it: one that is heard of now, and went down this long ago.
+  [[nodiscard]] bool IsMeant(int box, controls::KeysUnderWay::Press press, std::chrono::milliseconds ago);
   /// The page has done what it had to do.
   void CameBack(int waiting);
 

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <brivane/controls/Choices.h>
 #include <brivane/controls/Entrance.h>
 #include <brivane/controls/Surface.h>
@@ -97,6 +99,11 @@ NodePeer* Toolkit::Find(NodeId node) const {
 FormDialog* Toolkit::FindForm(NodeId node) const {
   const auto found = forms_.find(node);
   return found != forms_.end() ? found->second : nullptr;
+}
+
+bool Toolkit::HasDialog() const {
+  const auto isOpen = [](const auto& form) { return form.second->IsOpen(); };
+  return desktop_.Asks() || std::any_of(forms_.begin(), forms_.end(), isOpen);
 }
 
 std::unique_ptr<controls::Peer> Toolkit::MakePeer(controls::AnyControl& control) {

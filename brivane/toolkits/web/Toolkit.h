@@ -67,6 +67,8 @@ class Toolkit final : public controls::DrawnToolkit {
   [[nodiscard]] FormDialog* FindForm(NodeId node) const;
   void AddForm(NodeId node, FormDialog& dialog) { forms_[node] = &dialog; }
   void RemoveForm(NodeId node) { forms_.erase(node); }
+  /// A form or a message box stands before a person.
+  [[nodiscard]] bool HasDialog() const;
   /// The list with a choice under way, or nothing.
   void SetUnderWay(ListPeer* list) { underWay_ = list; }
   [[nodiscard]] ListPeer* UnderWay() const { return underWay_; }

@@ -4,6 +4,7 @@
 #include <emscripten.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstring>
 
 #include "tests/toolkits/web/NotHere.h"
@@ -78,11 +79,12 @@ EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
     stage->Toolkit().Desktop().Answered(box, static_cast<brivane::host::MessageAnswer>(answer));
 }
 
-EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, double ago) {
   using Press = brivane::controls::KeysUnderWay::Press;
   Stage* const stage = Stage::Find(page);
-  return stage != nullptr && stage->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First) ? 1
-                                                                                                                   : 0;
+  if (stage == nullptr) return 0;
+  const std::chrono::milliseconds passed(static_cast<std::chrono::milliseconds::rep>(ago));
+  return stage->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First, passed) ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {

@@ -40,10 +40,35 @@ document.querySelector('main + span').addEventListener('focus', () => {
   document.querySelector('vrije-kolom').shadowRoot.querySelector('input:enabled')?.focus();
 });
 
+/** Whether what the focused control drops down is open; nothing where it drops nothing down. */
+window.dropped = () => {
+  for (const { root } of stages.values()) {
+    const { input, button, picker } = root.activeElement?.node ?? {};
+    if (input?.localName === 'select') return looks.dropped(null, { input });
+    if (input?.type === 'text' && button !== undefined && !input.readOnly) return looks.calendar(null, { picker });
+  }
+};
+/** How many notches of the wheel have come. */
+window.scrolled = () => [...stages.values()].reduce((sum, { scrolled }) => sum + scrolled, 0);
+
+/** The time, where it stands still: however long the browser takes over a key then, it goes down at that time. */
+let still = null;
+addEventListener('keydown', (event) => {
+  if (still !== null) Object.defineProperty(event, 'timeStamp', { value: still });
+}, true);
+const now = () => still;
+function setClock(runs) {
+  still = runs ? null : performance.now();
+  if (runs) delete performance.now;
+  else performance.now = now;
+}
+
 /** What happens without keys and mouse. */
 const doings = {
   settle: () => {},
-  wait: (_, time) => new Promise((done) => setTimeout(done, Number(time))),
+  /** `stop`, or `start`. */
+  clock: (_, how) => setClock(how === 'start'),
+  wait: (_, time) => (still === null ? new Promise((done) => setTimeout(done, Number(time))) : void (still += Number(time))),
   show({ root, view }, node) {
     for (const other of root.children) other.hidden ||= other.matches('.surface');
     const { outer } = view.nodes.get(Number(node));
@@ -67,8 +92,15 @@ async function act(stage, what) {
   await pause();
   const at = what.search(/ |$/);
   const doing = doings[what.slice(0, at)];
-  if (doing === undefined) await window.person(what);
-  else await doing(stage, what.slice(at + 1));
+  if (doing !== undefined) return doing(stage, what.slice(at + 1));
+  // Who types makes no pause between the letters.
+  const stops = what.startsWith('type ') && still === null;
+  if (stops) setClock(false);
+  try {
+    await window.person(what);
+  } finally {
+    if (stops) setClock(true);
+  }
 }
 
 machine.stage = {

@@ -5,6 +5,8 @@ import { after } from 'node:test';
 import { built, puppeteer, top } from './packages.mjs';
 import { serve } from '../../../web/demo/server.mjs';
 
+/** Of whatever is waited for, on a machine that has other things to do; what never comes takes this long to be told. */
+const PATIENCE = 120000;
 const PROGRAMS = { chrome: '/usr/bin/chromium', firefox: '/usr/bin/firefox-esr' };
 
 /** What a browser is served, by the beginning of its path. */
@@ -19,8 +21,17 @@ export async function launch(name, options = {}) {
   const args = chrome ? ['--enable-precise-memory-info', '--js-flags=--expose-gc', '--lang=nl', '--font-render-hinting=none'] : [];
   // A browser of root has no sandbox.
   if (chrome && process.getuid() === 0) args.push('--no-sandbox');
-  return puppeteer.launch({ browser: name, executablePath: program, headless: true, args, protocolTimeout: 120000,
+  return puppeteer.launch({ browser: name, executablePath: program, headless: true, args, timeout: PATIENCE, protocolTimeout: PATIENCE,
     defaultViewport: { width: 1000, height: 800 }, ...options });
+}
+
+/** A new page, which keeps what is reported in it in `faults`. */
+export async function newPage(context) {
+  const page = await context.newPage();
+  page.setDefaultTimeout(PATIENCE);
+  page.faults = [];
+  page.on('pageerror', (error) => page.faults.push(String(error?.stack ?? error)));
+  return page;
 }
 
 /**
@@ -42,9 +53,7 @@ export function useBrowser(name = 'chrome', options = {}) {
     async open(path, viewport, { alone = false, context, before } = {}) {
       server ??= await serve(FOLDERS);
       browser ??= await launch(name, options);
-      const page = await (context ?? (alone ? await browser.createBrowserContext() : browser)).newPage();
-      page.faults = [];
-      page.on('pageerror', (error) => page.faults.push(String(error?.stack ?? error)));
+      const page = await newPage(context ?? (alone ? await browser.createBrowserContext() : browser));
       page.on('console', (message) => {
         if (message.type() === 'error') page.faults.push(message.text());
       });

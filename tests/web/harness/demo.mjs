@@ -1,9 +1,6 @@
 // The page of the demo, as a person finds it.
-import assert from 'node:assert/strict';
-
+import { newPage } from './browser.mjs';
 import { Person } from './person.mjs';
-
-const PATIENCE = 10000;
 
 export const SAMPLE = ['Kinderopvang · € 485,50 per maand', 'Krant · Weekendabonnement · € 32,50 per maand',
   'Muzieklessen aan huis · € 350,00 per maand', 'Goed doel · Gift nieuwbouw kinderhoek · € 1.500,00 eenmalig',
@@ -16,9 +13,7 @@ export class Demo {
   }
   /** Another page beside it, on the same store. */
   async beside() {
-    const page = await this.page.browserContext().newPage();
-    page.faults = [];
-    page.on('pageerror', (error) => page.faults.push(String(error)));
+    const page = await newPage(this.page.browserContext());
     await page.goto(this.page.url());
     return Demo.#shown(page);
   }
@@ -44,9 +39,8 @@ export class Demo {
   /** Waits until a line says so. */
   async comes(id, text) {
     const says = text instanceof RegExp ? (said) => text.test(said) : (said) => said === text;
-    const end = Date.now() + PATIENCE;
-    for (let said = ''; !says((said = await this.textOf(id))); await new Promise((later) => setTimeout(later, 20)))
-      assert.ok(Date.now() < end, `"${text}" did not come in ${id}, where "${said}" stands`);
+    let said = '';
+    await this.person.until(async () => says((said = await this.textOf(id))), () => `"${text}" in ${id}, where "${said}" stands,`);
   }
   /** Waits until everything that was changed was written, or was not. */
   saved() {

@@ -1,6 +1,8 @@
 // What a person does to an editor and sees of it: keys and clicks of the browser's own input, and what stands on the page.
 import assert from 'node:assert/strict';
 
+const PATIENCE = 30000;
+
 /** Finds what shows the control of a name: "TxtBd", "optLast(2)", "Toelichting.jnAO", "txtBedrag(3)" in the open form. */
 const findInPage = (selector, name) => {
   const walk = function* (root) {
@@ -108,16 +110,29 @@ export class Person {
     return this.page.evaluate((selector) => document.querySelector(selector).shadowRoot.querySelector('dialog.form[open]') !== null,
       this.selector);
   }
-  /** Waits until something is so, by what `look` answers. */
+  /** Waits until something is so, by what `look` answers. `what`: its name, or what answers that. */
   async until(look, what = 'something') {
-    for (let i = 0; i < 100; ++i) {
-      if (await look()) return;
+    const end = Date.now() + PATIENCE;
+    while (!(await look())) {
+      if (Date.now() > end) assert.fail(`${typeof what === 'function' ? what() : what} did not come`);
       await new Promise((done) => setTimeout(done, 20));
     }
-    assert.fail(`${what} did not come`);
   }
   /** The pause after which a key answers a box. */
   async pause() {
     await new Promise((done) => setTimeout(done, 700));
+  }
+  /**
+   * Stops the clock of the page. A box that comes up then takes no key and is closed by nobody, however long this machine
+   * takes over pressing one; `pause` comes after startClock.
+   */
+  async stopClock() {
+    await this.page.evaluate(() => {
+      const now = performance.now();
+      performance.now = () => now;
+    });
+  }
+  async startClock() {
+    await this.page.evaluate(() => void delete performance.now);
   }
 }

@@ -57,6 +57,9 @@ export class View {
   /** The designs of what a form makes many of, by the first of them. */
   #rows = new Map();
   #dialogs = [];
+  /** Its page hides it: what is open is off the screen, where it would keep the page from everything else, until it is seen again. */
+  #isHidden = false;
+  #watch = new ResizeObserver(() => this.#followPage());
   #boxes = new Map();
 
   /**
@@ -189,11 +192,12 @@ export class View {
   /** The element was moved: its dialogs were taken off the screen. */
   moved() {
     this.#showAgain(0);
+    this.#followPage();
   }
   /** The browser closed a dialog that is open to the machine, so it is shown again; false where it is not. */
   reopen(dialog) {
     const place = this.#dialogs.indexOf(dialog);
-    if (place < 0 || dialog.open) return false;
+    if (place < 0 || dialog.open || this.#isHidden) return false;
     this.#showAgain(place);
     return true;
   }
@@ -210,8 +214,25 @@ export class View {
     if (active === dialog || !dialog.contains(active)) enter(dialog, options);
   }
 
+  /** What has no box of its own, as `display: contents` makes it, is seen where that is. */
+  get #isSeen() {
+    const { host } = this.root;
+    return host.checkVisibility() || getComputedStyle(host).display === 'contents';
+  }
+
+  /** The page hid the element or shows it again, while something is open in it. */
+  #followPage() {
+    const isHidden = !this.#isSeen;
+    if (isHidden === this.#isHidden || this.#dialogs.length === 0) return;
+    if (!isHidden) return this.#showAgain(0);
+    this.isMoving = this.#isHidden = true;
+    for (const dialog of this.#dialogs.toReversed()) dialog.close();
+    this.isMoving = false;
+  }
+
   #showAgain(place) {
     this.isMoving = true;
+    this.#isHidden = false;
     for (const dialog of this.#dialogs.slice(place)) {
       const { worked } = dialog;
       dialog.close();
@@ -223,8 +244,9 @@ export class View {
   }
 
   #open(dialog) {
-    if (!dialog.isConnected) return 0;
+    if (!dialog.isConnected || !this.#isSeen) return 0;
     this.#dialogs.push(dialog);
+    this.#watch.observe(this.root.host);
     dialog.showModal();
     return 1;
   }
@@ -234,6 +256,8 @@ export class View {
     this.#dialogs.splice(place, 1);
     dialog.close();
     // Where the focus was lost before it was opened, the browser brings it back nowhere.
-    if (this.dialog !== null) this.focusDialog();
+    if (this.dialog !== null) return this.focusDialog();
+    this.#watch.disconnect();
+    this.#isHidden = false;
   }
 }

@@ -20,6 +20,7 @@ class FormDialog final : public controls::FormPeer {
 
   [[nodiscard]] NodeId Node() const { return node_; }
   [[nodiscard]] controls::Form& Form() const { return form_; }
+  [[nodiscard]] bool IsOpen() const { return open_; }
   /// A person closes it; what would be lost is asked about.
   void Close();
   /// A key goes down in an element of a row: up, down, and Enter on to the next of its column.
