@@ -260,6 +260,27 @@ for (const name of ['editor-product', 'een melding', 'het formulier'])
     assert.equal(text, readFileSync(file, 'utf8'));
   });
 
+// Who embeds it reads the README of the package, which is all that comes with it.
+test('looks.EveryPartAndEveryPropertyIsToldOf', async () => {
+  const readme = readFileSync(`${top}web/package/README.md`, 'utf8');
+  const parts = new Set(['fault']);  // of an element that could not be loaded
+  for (const show of [...Object.values(SIGHTS), async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtDtEind', 't');
+    await page.evaluate(() => window.editor.shadowRoot.querySelector('.help').click());
+  }]) {
+    await show();
+    const seen = await page.evaluate(() => [...window.editor.shadowRoot.querySelectorAll('[part]')].flatMap(({ part }) => [...part]));
+    for (const part of seen) parts.add(part);
+  }
+  const [listed] = /Parts\s+for `::part`:[^.]*/.exec(readme);
+  assert.deepEqual([...listed.matchAll(/`([a-z]+)`/g)].map(([, part]) => part).sort(), [...parts].sort());
+  const style = readFileSync(`${top}web/package/src/style.js`, 'utf8');
+  const properties = new Set([...style.matchAll(/var\((--vrije-kolom-[a-z-]+)/g)].map(([, property]) => property));
+  const told = new Set([...readme.matchAll(/`(--vrije-kolom-[a-z-]+)`/g)].map(([, property]) => property));
+  assert.deepEqual([...told].sort(), [...properties].sort());
+});
+
 // A screen reader says of each group that it goes into what it is called, and of a box what its keys are.
 for (const name of ['editor-overgang', 'het formulier'])
   test(`looks.EveryGroupIsCalledSomething ${name}`, async () => {
