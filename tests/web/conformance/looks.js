@@ -1,9 +1,7 @@
 // What is to be seen of a stage, by the names that Stage.cpp asks for. Several parts have a separator behind each.
 
-const Kind = Object.freeze({ frame: 0, label: 1, textBox: 2, jaNee: 3, hint: 4, option: 5, checkBox: 6, list: 7, listView: 9, surface: 10 });
-const TWIPS_A_PIXEL = 15;
+import { captionOf, entriesOf, isEnabled, isJa, isShown, Kind, placeIn, tableOf, TWIPS_A_PIXEL } from '../pages/read.js';
 
-const isShown = (element) => element.getClientRects().length > 0;
 const middle = ({ left, top, width, height }) => `${left + width / 2} ${top + height / 2}`;
 
 /** Where it is in the window, and where it would be when it is not on the screen. */
@@ -23,45 +21,22 @@ function placeOf(view, node) {
   return { left: box.left + left, top: box.top + top, width, height };
 }
 
-/** In what it stands in, in pixels. */
-function inside(node) {
-  const { outer, twips } = node;
-  if (!isShown(outer)) return twips.map((length) => length / TWIPS_A_PIXEL);
-  const box = outer.getBoundingClientRect();
-  const around = outer.parentElement.getBoundingClientRect();
-  return [box.left - around.left, box.top - around.top, box.width, box.height];
-}
-
-function isEnabled({ design, outer, input, area }) {
-  if (design.kind === Kind.frame) return !outer.disabled;
-  if (design.kind === Kind.surface) return !area.inert;
-  if (design.kind === Kind.label || design.kind === Kind.listView) return !outer.classList.contains('disabled');
-  return !input.disabled;
-}
-
-function captionOf({ design, caption, outer }) {
-  if (design.kind === Kind.hint) return '';
-  return caption !== null ? caption.textContent : (outer.getAttribute('aria-label') ?? '');
-}
-
-function listView({ table }) {
-  const heads = [...table.tHead.rows[0].cells];
-  const rows = [...table.tBodies[0].rows];
+function listView(node) {
+  const { row, heads, rows } = tableOf(node);
   return [
-    rows.findIndex((row) => row.getAttribute('aria-current') === 'true') + 1,
-    heads.length, ...heads.flatMap((head) => [head.textContent, head.getBoundingClientRect().width || head.twips / TWIPS_A_PIXEL]),
-    ...rows.flatMap(({ cells }) => [cells.length, ...[...cells].flatMap((cell) => [cell.textContent, getComputedStyle(cell).fontWeight >= 600])]),
+    row, heads.length, ...heads.flatMap((head) => [head.textContent, head.getBoundingClientRect().width || head.twips / TWIPS_A_PIXEL]),
+    ...rows.flatMap((cells) => [cells.length, ...cells.flatMap(({ text, bold }) => [text, bold])]),
   ];
 }
 
 function contentOf(node) {
   const { input, design } = node;
   switch (design.kind) {
-    case Kind.textBox: return [input.readOnly, input.value];
-    case Kind.jaNee: return [input.getAttribute('aria-checked') === 'true'];
-    case Kind.option: case Kind.checkBox: return [input.checked];
-    case Kind.list: return [input.selectedIndex, ...[...input.options].map((option) => option.text)];
-    case Kind.listView: return listView(node);
+    case Kind.TextBox: return [input.readOnly, input.value];
+    case Kind.JaNee: return [isJa(node)];
+    case Kind.OptionButton: case Kind.CheckBox: return [input.checked];
+    case Kind.ListBox: return [input.selectedIndex, ...entriesOf(node)];
+    case Kind.ListView: return listView(node);
     default: return [];
   }
 }
@@ -107,6 +82,6 @@ export const looks = {
   row: (_, { table }, number) => middle(table.tBodies[0].rows[number - 1].cells[0].getBoundingClientRect()),
   close: (_, { closeButton }) => middle(closeButton.getBoundingClientRect()),
   shown: (_, node) =>
-    [node.design.kind, !node.outer.hidden, isEnabled(node), ...inside(node), captionOf(node), ...contentOf(node)]
+    [node.design.kind, !node.outer.hidden, isEnabled(node), ...placeIn(node), captionOf(node) ?? '', ...contentOf(node)]
       .map((part) => `${part}\x1f`).join(''),
 };
