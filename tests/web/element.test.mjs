@@ -266,3 +266,29 @@ test('element.SaysThatItCouldNotBeLoaded', async () => {
   assert.deepEqual((await said()).slice(0, 2), ['The free column could not be loaded. Reload the page to try again.', 'en']);
   await broken.close();
 });
+
+/** What an editor is made of, but for the numbers that are its own. */
+const markup = (page) =>
+  page.evaluate(() => window.editor.shadowRoot.innerHTML.replace(/(id|for|aria-describedby|aria-labelledby|name)="([ctf]?)\d+/g, '$1="$2'));
+
+// Each is copied from what the first of the page was made of.
+test('element.AnotherEditorIsMadeAsTheFirstWas', async () => {
+  const page = await open('/tests/pages/editor.html');
+  await page.waitForFunction(() => window.isReady);
+  const person = new Person(page);
+  const look = async () => {
+    await page.evaluate((fields) => window.bind(fields), COLUMN);
+    const made = await markup(page);
+    await person.typeOver('TxtBd', '12');
+    await person.click('optLast(2)');
+    await person.click('cmdScenario');
+    await person.until(() => person.hasForm(), 'the form');
+    return [made, await markup(page)];
+  };
+  const [made, form] = await look();
+  assert.ok(made.includes('Correctie') && form.length > made.length);
+  await person.press('Escape');
+  await page.evaluate(() => (window.editor.backColor = 0x00ffff));
+  assert.deepEqual(await look(), [made, form]);
+  assert.deepEqual(page.faults, []);
+});

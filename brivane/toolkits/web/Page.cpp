@@ -1,16 +1,17 @@
 #include <emscripten.h>
 
 #include <cstdlib>
+#include <map>
 
 #include <brivane/toolkits/web/Page.h>
 
 // What is called of the script is given to the module when it is started: Module["page"].
 // clang-format off
-EM_JS(void, brivane_make, (int page, int node, int container, const char* design, double left, double top, double width, double height, int visible), {
-  Module["page"]["make"](page, node, container, UTF8ToString(design), left, top, width, height, visible);
+EM_JS(void, brivane_describe, (int design, const char* texts, int kind, int format, int order, int traits), {
+  Module["page"]["describe"](design, UTF8ToString(texts), kind, format, order, traits);
 })
-EM_JS(void, brivane_make_alike, (int page, int node, int container, int pattern, int index, double left, double top, double width, double height, int visible), {
-  Module["page"]["makeAlike"](page, node, container, pattern, index, left, top, width, height, visible);
+EM_JS(void, brivane_make, (int page, int node, int container, int design, int index, double left, double top, double width, double height, int visible), {
+  Module["page"]["make"](page, node, container, design, index, left, top, width, height, visible);
 })
 EM_JS(void, brivane_drop, (int page, int node), { Module["page"]["drop"](page, node); })
 EM_JS(void, brivane_place, (int page, int node, double left, double top, double width, double height), {
@@ -47,34 +48,38 @@ std::string Taken(char* text) {
   return taken;
 }
 
-/// The parts of a design as the script takes them apart.
-std::string Written(const NodeDesign& design) {
+/// The designs that the script knows: all pages share it, and each is told once.
+std::map<DesignKey, int> described;
+int lastDesign = 0;
+
+/// The texts of a design as the script takes them apart.
+std::string Texts(const NodeDesign& design) {
   constexpr char kNext = '\x1f';
-  std::string written;
-  for (const std::string* text : {&design.name, &design.label, &design.caption, &design.group})
-    written += *text + kNext;
-  for (const int number :
-       {design.kind, design.format, design.order, int{design.bordered}, int{design.multiline}, int{design.row}})
-    written += std::to_string(number) + kNext;
-  return written;
+  std::string texts;
+  texts.reserve(design.name.size() + design.label.size() + design.caption.size() + design.group.size() + 3);
+  texts += design.name;
+  for (const std::string* text : {&design.label, &design.caption, &design.group}) (texts += kNext) += *text;
+  return texts;
+}
+
+/// Its traits by bits, as the script reads them.
+int Traits(const NodeDesign& design) {
+  return int{design.bordered} | (int{design.multiline} << 1) | (int{design.row} << 2);
 }
 
 }  // namespace
 
-NodeId Page::Make(NodeId container, const NodeDesign& design, const Standing& standing) {
+NodeId Page::Make(NodeId container, const DesignKey& key, int index, const std::function<NodeDesign()>& design,
+                  const Standing& standing) {
+  int& known = described[key];
+  if (known == 0) {
+    known = ++lastDesign;
+    const NodeDesign told = design();
+    brivane_describe(known, Texts(told).c_str(), told.kind, told.format, told.order, Traits(told));
+  }
   const auto& [left, top, width, height] = standing.place;
-  brivane_make(id_, ++last_, container, Written(design).c_str(), double{left.value}, double{top.value},
-               double{width.value}, double{height.value}, standing.visible ? 1 : 0);
-  return last_;
-}
-
-NodeId Page::MakeAlike(NodeId container, const void* whose, int index, const std::function<NodeDesign()>& design,
-                       const Standing& standing) {
-  const auto known = patterns_.find(whose);
-  if (known == patterns_.end()) return patterns_[whose] = Make(container, design(), standing);
-  const auto& [left, top, width, height] = standing.place;
-  brivane_make_alike(id_, ++last_, container, known->second, index, double{left.value}, double{top.value},
-                     double{width.value}, double{height.value}, standing.visible ? 1 : 0);
+  brivane_make(id_, ++last_, container, known, index, double{left.value}, double{top.value}, double{width.value},
+               double{height.value}, standing.visible ? 1 : 0);
   return last_;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <chrono>
+#include <compare>
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 
@@ -31,6 +31,16 @@ struct NodeDesign {
   bool bordered = true;
   bool multiline = false;
   bool row = false;  ///< one of the many of a form
+};
+
+/// A row of a design, or a design, which live as long as the program; and what stands as it says. What stands in an
+/// embedded surface has another name there.
+struct DesignKey {
+  enum class Of : std::uint8_t { Control, Embedded, Form };
+
+  const void* design = nullptr;
+  Of what = Of::Control;
+  auto operator<=>(const DesignKey&) const = default;
 };
 
 /// Where an element stands in its container when it is made, and whether it is seen.
@@ -70,11 +80,10 @@ class Page {
 
   [[nodiscard]] int Id() const { return id_; }
 
-  [[nodiscard]] NodeId Make(NodeId container, const NodeDesign& design, const Standing& standing);
-  /// One of the many that a form makes of a template, of which the page keeps the first as its pattern: they differ by
-  /// their number and by where they stand.
-  [[nodiscard]] NodeId MakeAlike(NodeId container, const void* whose, int index,
-                                 const std::function<NodeDesign()>& design, const Standing& standing);
+  /// Makes an element of a design, which the script is told once: what is made of it later is a copy of the first, with
+  /// a number and a place of its own. `index`: of an element of an array.
+  [[nodiscard]] NodeId Make(NodeId container, const DesignKey& key, int index,
+                            const std::function<NodeDesign()>& design, const Standing& standing);
   void Drop(NodeId node) const;
   void Place(NodeId node, const host::Place& place) const;
   void Show(NodeId node, controls::Aspect aspect, double number, const std::string& text = {}) const;
@@ -104,7 +113,6 @@ class Page {
  private:
   int id_;
   NodeId last_ = kNoNode;
-  std::map<const void*, NodeId> patterns_;  ///< by template
 };
 
 }  // namespace brivane::web

@@ -11,10 +11,10 @@ export class Demo {
   static async started(open, options = {}) {
     return Demo.#shown(await open('/demo/index.html', { width: 1280, height: 800 }, { alone: true, ...options }));
   }
-  /** Another page beside it, on the same store. */
+  /** Another page beside it or after it, on the same store. */
   async beside() {
-    const page = await newPage(this.page.browserContext());
-    await page.goto(this.page.url());
+    const page = await newPage(this.context);
+    await page.goto(this.address);
     return Demo.#shown(page);
   }
   static async #shown(page) {
@@ -25,6 +25,8 @@ export class Demo {
   constructor(page) {
     this.page = page;
     this.person = new Person(page);
+    this.context = page.browserContext();
+    this.address = page.url();
   }
 
   columns() {

@@ -7,6 +7,7 @@ import { first } from './first.js';
 import { Host } from './host.js';
 import { done, enter, failed, isAtWork, run } from './jobs.js';
 import { Memory } from './memory.js';
+import { describe } from './nodes/designs.js';
 
 let machine = null;
 let memory = null;
@@ -24,6 +25,7 @@ const toView = (name) => (number, one, two, three, four, five, six, seven, eight
 
 function calls(of) {
   const page = {
+    describe,
     today: () => dayOf(new Date()),
     title: () => memory.give(document.title),
     groupSeparator: () => memory.give(groupSeparator()),
@@ -36,7 +38,7 @@ function calls(of) {
       });
     },
   };
-  for (const name of ['make', 'makeAlike', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
+  for (const name of ['make', 'drop', 'place', 'show', 'ask', 'openForm', 'closeForm', 'openBox', 'closeBox'])
     page[name] = toView(name);
   const element = {
     tell: toView('tell'),

@@ -7,20 +7,12 @@ import { HostObjects } from './host.js';
 import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
 import { makeNode } from './nodes.js';
+import { designOf } from './nodes/designs.js';
 import { keepPattern } from './nodes/making.js';
 
 /** What the machine asks of a node; as in Page.h. */
 const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
 const Shows = Object.freeze({ reason: 33, note: 34, nothing: 35 });
-
-/** The parts of a design, as Page.cpp writes them. */
-function read(design) {
-  const [name, label, caption, group, kind, format, order, bordered, multiline, row] = design.split('\x1f');
-  return {
-    name, label, caption, group, kind: Number(kind), format: Number(format), order: Number(order),
-    bordered: bordered === '1', multiline: multiline === '1', row: row === '1',
-  };
-}
 
 /** Elements of one container lie in the order of their numbers, those with the same as they came. */
 function put(area, outer, order) {
@@ -54,8 +46,6 @@ export class View {
   #owner;
   #hasAppeared = false;
   #label = null;
-  /** The designs of what a form makes many of, by the first of them. */
-  #rows = new Map();
   #dialogs = [];
   /** Its page hides it: what is open is off the screen, where it would keep the page from everything else, until it is seen again. */
   #isHidden = false;
@@ -93,26 +83,17 @@ export class View {
     this.#owner.tell(what, text);
   }
 
-  make(id, container, written, left, top, width, height, visible) {
-    const design = read(written);
-    if (design.row) this.#rows.set(id, design);
-    this.#put(id, container, design, [left, top, width, height], visible !== 0);
-  }
-  /** One more of the rows of a form, with another index and place. */
-  makeAlike(id, container, pattern, index, left, top, width, height, visible) {
-    const design = this.#rows.get(pattern);
-    const name = design.name.replace(/\d+\)$/, `${index})`);
-    this.#put(id, container, { ...design, name, pattern: design }, [left, top, width, height], visible !== 0);
-  }
-
-  #put(id, container, design, twips, visible) {
+  /** An element of a design. `index`: of one of the rows of a form. */
+  make(id, container, number, index, left, top, width, height, visible) {
+    const design = designOf(number, index);
+    const isVisible = visible !== 0;
     const node = makeNode(this, id, design);
     this.nodes.set(id, node);
     node.around = this.nodes.get(container) ?? null;
     if (design.pattern !== undefined && design.pattern.placed.em !== node.em) node.twips = undefined;
-    node.place(...twips);
-    if (node.outer.hidden === visible) node.outer.hidden = !visible;
-    if (design.row) keepPattern(node);
+    node.place(left, top, width, height);
+    if (node.outer.hidden === isVisible) node.outer.hidden = !isVisible;
+    if (design.pattern === undefined) keepPattern(node);
     // What stands in nothing comes on the page with all that was put in it: from the first, or when its form is opened.
     if (node.around !== null) put(node.around.area, node.outer, design.order);
     else if (this.#hasAppeared && node.outer.localName !== 'dialog') this.root.append(node.outer);

@@ -20,7 +20,8 @@ NodePeer* PeerOf(const controls::AnyControl& control) { return static_cast<NodeP
 FormDialog::FormDialog(controls::Form& form, web::Toolkit& toolkit)
     : form_(form),
       toolkit_(toolkit),
-      node_(Page().Make(kNoNode, {.kind = kForm, .name = std::string(form.Table().name)}, {})) {
+      node_(Page().Make(kNoNode, {&form.Table(), DesignKey::Of::Form}, frame::kNoIndex,
+                        [&] { return NodeDesign{.kind = kForm, .name = std::string(form.Table().name)}; }, {})) {
   Refresh(Aspect::FontSize);
   Refresh(Aspect::Caption);
   Refresh(Aspect::Place);

@@ -59,12 +59,17 @@ NodeDesign DesignOf(const controls::AnyControl& control) {
           .row = made};
 }
 
+/// A surface that stands in no other one has a row of its own, which goes with it.
+DesignKey KeyOf(const controls::AnyControl& control) {
+  using Of = DesignKey::Of;
+  if (control.Owner() == nullptr) return {static_cast<const frame::Design*>(control.Row().embedded), Of::Control};
+  return {&control.Row(), control.Owner()->Owner() == nullptr ? Of::Control : Of::Embedded};
+}
+
 NodeId Made(const controls::AnyControl& control, Page& page) {
-  const NodeId container = ContainerOf(control);
   const Standing standing{control.Host().Place(), control.Host().Visible()};
   const auto design = [&] { return DesignOf(control); };
-  if (control.IsRowElement()) return page.MakeAlike(container, &control.Row(), control.Index(), design, standing);
-  return page.Make(container, design(), standing);
+  return page.Make(ContainerOf(control), KeyOf(control), control.Index(), design, standing);
 }
 
 }  // namespace

@@ -2,15 +2,18 @@
 
 import { textOf } from './captions.js';
 import { Shows } from './contract.js';
-import { shown } from './making.js';
+import { copy, shown } from './making.js';
 import { Node } from './node.js';
 
 export class Frame extends Node {
   constructor(view, id, design) {
-    const outer = shown('fieldset', design.bordered ? 'control frame' : 'control plain', 'frame');
-    const legend = design.bordered ? shown('legend', 'legend', 'legend') : null;
+    const outer = copy(design, design.bordered ? 'frame' : 'plain', () => {
+      const frame = shown('fieldset', design.bordered ? 'control frame' : 'control plain', 'frame');
+      if (design.bordered) frame.append(shown('legend', 'legend', 'legend'));
+      return frame;
+    });
+    const legend = outer.firstElementChild;
     if (legend !== null) {
-      outer.append(legend);
       legend.order = -1;
     } else if (design.caption !== '') {
       outer.setAttribute('aria-label', textOf(design.caption));

@@ -1,12 +1,12 @@
 // The list that drops down.
 
 import { Shows } from './contract.js';
-import { shown } from './making.js';
+import { copy, shown } from './making.js';
 import { Node } from './node.js';
 
 export class List extends Node {
   constructor(view, id, design) {
-    const outer = shown('select', 'control box select', 'list');
+    const outer = copy(design, 'list', () => shown('select', 'control box select', 'list'));
     super(view, id, design, outer, { input: outer });
   }
   show(what, number, text) {

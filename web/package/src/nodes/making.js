@@ -8,7 +8,7 @@ export function shown(name, className, part, properties) {
   return made;
 }
 
-/** What is made by `pattern` the first time of a key. What a form makes many of is copied with the place of the first. */
+/** What is made by `pattern` the first time of a key. What was made of the same design is copied with its place. */
 const patterns = new Map();
 export function copy(design, key, pattern) {
   const placed = design.pattern?.placed;
@@ -21,7 +21,7 @@ export function copy(design, key, pattern) {
   return made.cloneNode(true);
 }
 
-/** Of what a form makes many of the first is what the others are copied from, as it stands there. */
+/** The first of a design is what the others are copied from, as it stands there. */
 export function keepPattern({ design, outer, twips, em }) {
-  if (design.pattern === undefined) design.placed = { outer: outer.cloneNode(true), twips, em };
+  design.placed = { outer: outer.cloneNode(true), twips, em };
 }
