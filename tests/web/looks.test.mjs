@@ -97,6 +97,43 @@ for (const [typed, day] of [['1-5-31', '2031-05-01'], ['010531', '2031-05-01'], 
     await person.press('Escape', 'Escape');
   });
 
+/** The least that a finger finds, in pixels. */
+const FINGER = 24;
+test('looks.AFingerFindsTheCalendarAndTheHelpAndStillAllElse', async () => {
+  const phone = await open('/tests/pages/editor.html', { width: 400, height: 800, isMobile: true, hasTouch: true });
+  await phone.waitForFunction(() => window.isReady);
+  const seen = await phone.evaluate(async ([fields, settings], size) => {
+    await window.bind(fields, settings);
+    const root = window.editor.shadowRoot;
+    const at = (part, x, y) => {
+      part.scrollIntoView({ block: 'center', inline: 'center' });
+      const { left, top, width, height } = part.getBoundingClientRect();
+      return root.elementFromPoint(left + width / 2 + x, top + height / 2 + y);
+    };
+    const isSeen = (part) => part.checkVisibility() && !part.disabled;
+    // Rows of the design are a pixel nearer than that.
+    const reach = size / 2 - 0.5;
+    const reachUp = (part) => (part.matches('.calendar') ? reach - 1 : reach);
+    const small = [...root.querySelectorAll('.calendar, .help')].filter(isSeen);
+    const missed = small.filter((part) => [[0, 0], [-reach, 0], [reach, 0], [0, -reachUp(part)], [0, reachUp(part)]].some(([x, y]) => at(part, x, y) !== part));
+    // Each other control answers over all of it but its edge.
+    const others = [...root.querySelectorAll('.box, .toggle, .choice, .button')].filter(isSeen);
+    const taken = others.filter((part) => {
+      const { width, height } = part.getBoundingClientRect();
+      const calendar = part.node?.button === undefined ? 0 : 24;
+      return [[0, 0], [3 - width / 2, 0], [width / 2 - 3 - calendar, 0], [0, 5 - height / 2], [0, height / 2 - 5]].some(([x, y]) => {
+        const hit = at(part, x, y);
+        return hit !== part && !part.contains(hit);
+      });
+    });
+    return { coarse: matchMedia('(pointer: coarse)').matches, small: small.length, others: others.length,
+      missed: missed.map((part) => part.node?.design.name), taken: taken.map((part) => part.node?.design.name ?? part.textContent) };
+  }, STATES['editor-overgang'], FINGER);
+  await phone.close();
+  assert.ok(seen.small >= 4 && seen.others > 20, JSON.stringify(seen));
+  assert.deepEqual([seen.coarse, seen.missed, seen.taken], [true, [], []]);
+});
+
 // A4 between the margins that browsers leave, in pixels of paper.
 const PAPER = { width: 718, height: 1047 };
 test('looks.OnPaperAllIsThereAndEveryAnswerReadsAsItIs', async () => {
@@ -259,6 +296,27 @@ for (const name of ['editor-product', 'een melding', 'het formulier'])
     if (process.env.SHOWN_WRITE) writeFileSync(file, text);
     assert.equal(text, readFileSync(file, 'utf8'));
   });
+
+// Who embeds it reads the README of the package, which is all that comes with it.
+test('looks.EveryPartAndEveryPropertyIsToldOf', async () => {
+  const readme = readFileSync(`${top}web/package/README.md`, 'utf8');
+  const parts = new Set(['fault']);  // of an element that could not be loaded
+  for (const show of [...Object.values(SIGHTS), async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtDtEind', 't');
+    await page.evaluate(() => window.editor.shadowRoot.querySelector('.help').click());
+  }]) {
+    await show();
+    const seen = await page.evaluate(() => [...window.editor.shadowRoot.querySelectorAll('[part]')].flatMap(({ part }) => [...part]));
+    for (const part of seen) parts.add(part);
+  }
+  const [listed] = /Parts\s+for `::part`:[^.]*/.exec(readme);
+  assert.deepEqual([...listed.matchAll(/`([a-z]+)`/g)].map(([, part]) => part).sort(), [...parts].sort());
+  const style = readFileSync(`${top}web/package/src/style.js`, 'utf8');
+  const properties = new Set([...style.matchAll(/var\((--vrije-kolom-[a-z-]+)/g)].map(([, property]) => property));
+  const told = new Set([...readme.matchAll(/`(--vrije-kolom-[a-z-]+)`/g)].map(([, property]) => property));
+  assert.deepEqual([...told].sort(), [...properties].sort());
+});
 
 // A screen reader says of each group that it goes into what it is called, and of a box what its keys are.
 for (const name of ['editor-overgang', 'het formulier'])

@@ -148,6 +148,12 @@ dialog::backdrop { background: rgb(0 0 0 / .3); }
   :host { --accent: Highlight; --on-accent: HighlightText; --line: ButtonBorder; --field: Field; --face: ButtonFace; --faint: GrayText; }
   .message .text::before { background: Highlight; color: HighlightText; }
 }
+/* A finger is larger than what the design leaves these: they answer to what comes down beside them too. */
+@media (pointer: coarse) {
+  .help { position: relative; }
+  .calendar::after, .help::after { content: ""; position: absolute; inset: -4px; }
+  .calendar::after { inset: -2px -5px; }  /* the next row is as near */
+}
 /* Paper is light, and nothing scrolls on it. What only a background tells is printed. */
 @media print {
   :host { overflow: visible; font-size: min(var(--vrije-kolom-font-size, 1em), 1.3vw); color-scheme: light; }
