@@ -66,6 +66,8 @@ export function stopsIn(area) {
 export function listen(view) {
   const root = view.root;
   let lastDown = '';
+  /** Lets the click of a press that was dropped through: the next press has begun before a timer ran. */
+  let forget = () => {};
   /** The list that was closed on another entry, until it is known whether that was picked. */
   let closed = null;
   const run = (job, node, order = {}) => runJob(view, job, { node: node?.id ?? 0, ...order });
@@ -193,6 +195,7 @@ export function listen(view) {
    * nothing leaves the focus where it is, and so does closing a form: what is being typed there is asked about.
    */
   function mouseDown(event) {
+    forget();
     const from = root.activeElement?.node;
     if (from === undefined || !(event.target instanceof Element)) return;
     const pressed = event.target.closest('input, select, button, label, [tabindex]');
@@ -204,8 +207,9 @@ export function listen(view) {
     stop(event);
     const dropped = (click) => stop(click);
     view.root.addEventListener('click', dropped, { capture: true, once: true });
+    const forgetThis = (forget = () => view.root.removeEventListener('click', dropped, true));
     // It may be let go of outside of the view; which may stand in another window than this script runs in.
-    root.ownerDocument.defaultView.addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
+    root.ownerDocument.defaultView.addEventListener('mouseup', () => setTimeout(forgetThis), { once: true });
   }
 
   function click(event) {
