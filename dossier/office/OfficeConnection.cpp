@@ -28,14 +28,14 @@ QString Connecting() {
 }
 
 std::chrono::milliseconds Longest(OfficeConnection::Patience patience) {
-  using Patience = OfficeConnection::Patience;
+  using enum OfficeConnection::Patience;
   const WaitingTimes times = WaitingTimes::Now();
   switch (patience) {
-    case Patience::Endless: break;
-    case Patience::Long: return times.much;
-    case Patience::Edit: return times.edit;
-    case Patience::Short: return times.little;
-    case Patience::Moment: return times.moment;
+    case Endless: break;
+    case Long: return times.much;
+    case Edit: return times.edit;
+    case Short: return times.little;
+    case Moment: return times.moment;
   }
   return std::chrono::hours(24);
 }

@@ -91,9 +91,11 @@ def sources(root):
                 if name.endswith((".cpp", ".h")) and path not in FOR_ENGINEERS:
                     yield path
     yield from FILES
-    for name in sorted(os.listdir(os.path.join(root, SCRIPTS))):
-        if name.endswith(".js") and f"{SCRIPTS}/{name}" not in NOT_LOOKED_AT:
-            yield f"{SCRIPTS}/{name}"
+    for folder, _, names in os.walk(os.path.join(root, SCRIPTS)):
+        for name in sorted(names):
+            path = os.path.relpath(os.path.join(folder, name), root)
+            if name.endswith(".js") and path not in NOT_LOOKED_AT:
+                yield path
 
 
 def check(root):

@@ -138,6 +138,22 @@ test('dialogs.WhatWasNotSeenIsNotAnsweredByTheBrowser', async () => {
   assert.equal(await person.message(), '');
 });
 
+// The page was busy since.
+test('dialogs.AKeyFromBeforeAMessageCameAnswersNothingHoweverLateItIsHeard', async () => {
+  await bind();
+  await page.evaluate(() => {
+    window.early = new KeyboardEvent('keydown', { key: 'Escape', code: 'Escape', bubbles: true, composed: true, cancelable: true });
+  });
+  await person.typeOver('TxtDtEind', '1-1-1990');
+  await person.press('Tab');
+  await comes('the message');
+  await person.pause();
+  await page.evaluate(() => window.editor.shadowRoot.activeElement.dispatchEvent(window.early));
+  assert.notEqual(await person.message(), '');
+  await person.press('Escape');
+  assert.equal(await person.message(), '');
+});
+
 test('dialogs.APressBesideTheButtonsOfAMessageLeavesTheFocusThere', async () => {
   await bind();
   await person.typeOver('TxtDtEind', '1-1-1990');

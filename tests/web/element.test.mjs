@@ -94,6 +94,29 @@ async function leave(typed) {
 test('element.WhatIsTypedIsStoredWhenThePageIsLeft', async () => assert.deepEqual(await leave('12'), { asked: false, amount: 12 }));
 test('element.WhatIsRefusedIsAskedAboutWhenThePageIsLeft', async () => assert.deepEqual(await leave('12.50'), { asked: true, amount: 7 }));
 
+// Numbers are read as everywhere: to the nearest whole one, halves to the even one, and no further than they reach.
+test('element.TakesTheNumbersThatTheControlsTake', async () => {
+  const came = await page.evaluate(async (column) => {
+    const { makeHost } = await import('/tests/pages/host.js');
+    await window.bind();
+    const { application, dossier } = Object.assign(window, makeHost([{ ...column, Id: 2 }]));
+    const outcome = (promise) => promise.catch(({ number }) => number);
+    const bound = async (lenId, vrijId) => outcome(window.editor.setApplication(application, lenId, vrijId));
+    const asked = [];
+    Object.defineProperty(dossier, 'Lening', { value: (id) => (asked.push(id), id === 0 ? dossier.HuidigeLening : null) });
+    await bound(-32768, 2);
+    const found = [await bound(0.5, 1.5), await bound(0, 2.5)];
+    const refused = [await bound(0, 32768), await bound(-32769, 2), await bound(0, NaN), await bound('0', 2), await bound(0), await bound(0, Infinity)];
+    const numbers = [40000, -40000, 0.5, 2147483648, NaN, '1', null];
+    const checks = [];
+    for (const number of numbers) checks.push(await outcome(window.editor.validation(number)));
+    checks.push(await outcome(window.editor.validationToelichting(2147483648)));
+    return { asked: asked.slice(0, 1), found, refused, checks };
+  }, COLUMN);
+  assert.deepEqual(came, { asked: [-32768], found: ['bound', 'bound'], refused: [6, 6, 13, 13, 13, 6],
+    checks: [false, false, false, 6, 13, 13, 13, 6] });
+});
+
 test('element.PutBackAfterARefusedBindingItIsBoundAsItWas', async () => {
   await page.evaluate(async ([column]) => {
     const { makeHost } = await import('/tests/pages/host.js');
@@ -113,6 +136,25 @@ test('element.PutBackAfterARefusedBindingItIsBoundAsItWas', async () => {
   await page.waitForFunction(() => window.editor.state === 'bound');
   assert.equal(await person.text('TxtOm'), 'Contributie');
 });
+
+// Nobody waits for a property that was set: what is wrong the binding says.
+for (const [property, value] of [['beeindigenZichtbaar', true], ['backColor', 0x2040ff]])
+  test(`element.SettingAPropertyWhereFactoriesFailLeavesNothingUnheard ${property}`, async () => {
+    const result = await page.evaluate(async ([name, set, column]) => {
+      await window.bind(column);
+      const fresh = document.createElement('vrije-kolom');
+      window.editor.replaceWith(fresh);
+      window.editor = fresh;
+      fresh.hostFactories = { procedureTrace: () => ({}) };
+      fresh[name] = set;
+      await new Promise((done) => setTimeout(done));
+      const failure = await fresh.setApplication(window.application, 0, 1).catch(({ name: kind, number }) => [kind, number]);
+      fresh.hostFactories = {};
+      return [failure, await fresh.setApplication(window.application, 0, 1)];
+    }, [property, value, COLUMN]);
+    assert.deepEqual(result, [['HostError', 438], 'bound']);
+    assert.deepEqual(page.faults, []);
+  });
 
 test('element.LettingGoBeforeTheMachineIsThereIsLettingGo', async () => {
   const early = await open('/tests/pages/early.html');
@@ -153,7 +195,7 @@ test('element.InAnotherDocumentItLooksAndWorksAsBefore', async () => {
     return { position: getComputedStyle(box).position, sheets: window.editor.shadowRoot.adoptedStyleSheets.length };
   });
   assert.deepEqual(seen, { position: 'absolute', sheets: 1 });
-  const click = async (which, options) => {
+  const middleOf = async (which) => {
     const middle = await page.evaluate((name) => {
       const frame = document.querySelector('#ander');
       frame.scrollIntoView();
@@ -162,12 +204,41 @@ test('element.InAnotherDocumentItLooksAndWorksAsBefore', async () => {
       const [around, box] = [frame.getBoundingClientRect(), target.getBoundingClientRect()];
       return [around.left + frame.clientLeft + box.left + box.width / 2, around.top + frame.clientTop + box.top + box.height / 2];
     }, which);
-    await page.mouse.click(...middle, options);
+    return middle;
   };
+  const click = async (which, options) => page.mouse.click(...(await middleOf(which)), options);
   await click('TxtBd', { count: 3 });
   await person.type('12');
   await click('');
   assert.equal(await page.evaluate(() => window.item.Bedrag.Bedrag), 12);
+  // A press that was dropped because of what is refused, and let go of elsewhere, takes no other one along.
+  await click('TxtBd', { count: 3 });
+  await person.type('x');
+  await page.mouse.move(...(await middleOf('TxtOm')));
+  await page.mouse.down();
+  await page.mouse.move(...(await middleOf('')));
+  await page.mouse.up();
+  await person.press('Escape');
+  await click('optLast(2)');
+  assert.equal(await page.evaluate(() => window.item.CorrectieLast), 2);
+  // What is said beside a box keeps to its side when that document scrolls.
+  const apart = () => page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble').getBoundingClientRect();
+    const box = window.editor.shadowRoot.activeElement.getBoundingClientRect();
+    return Math.round(bubble.top - box.bottom);
+  });
+  await click('TxtBd', { count: 3 });
+  await person.type('5+5');
+  assert.equal(await apart(), 2);
+  const scrolled = await page.evaluate(() => new Promise((done) => {
+    const { defaultView } = window.editor.ownerDocument;
+    window.editor.style.marginBottom = '900px';
+    defaultView.addEventListener('scroll', () => setTimeout(() => done(defaultView.scrollY)), { once: true });
+    defaultView.scrollTo(0, 20);
+  }));
+  assert.equal(scrolled, 20);
+  assert.equal(await apart(), 2);
+  await person.press('Escape');
   await page.evaluate(() => {
     document.querySelector('h1').after(window.editor);
     document.querySelector('#ander').remove();

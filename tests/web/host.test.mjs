@@ -110,6 +110,73 @@ for (const [object, member, reported] of [
     await worksAgain();
   });
 
+/** Binds with a member whose getter another window made, and answers what came of it. */
+const bindWithForeign = (member, code) =>
+  page.evaluate(async ([name, made, fields]) => {
+    const frame = Object.assign(document.createElement('iframe'), { src: '/tests/pages/sheet.html', title: 'Ander' });
+    await new Promise((loaded) => {
+      frame.onload = loaded;
+      document.querySelector('main').append(frame);
+    });
+    await window.bind({ ...fields });
+    const { editor, application, item, reports } = window;
+    const foreign = { date: () => new frame.contentWindow.Date(2032, 4, 1), noDate: () => new frame.contentWindow.Date(NaN),
+      error: () => { throw Object.assign(new frame.contentWindow.Error('De host weigert'), { number: 1234 }); },
+      plain: () => { throw { number: 1234, message: 'De host weigert' }; } };
+    Object.defineProperty(item, name, { configurable: true, get: foreign[made], set() {} });
+    const result = await editor.setApplication(application, 0, 1);
+    frame.remove();
+    return { result, reports };
+  }, [member, code, COLUMN]);
+
+test('host.ADateOfAnotherWindowIsADay', async () => {
+  const { result, reports } = await bindWithForeign('DatumAanvang', 'date');
+  assert.deepEqual([result, reports], ['bound', []]);
+  assert.equal(await person.text('TxtDtAanvang'), '01-05-2032');
+});
+
+test('host.ADateOfAnotherWindowThatIsNoneIsError13', async () => {
+  const { result, reports } = await bindWithForeign('DatumAanvang', 'noDate');
+  assert.equal(result, 'failed');
+  holdReports(reports, '13');
+});
+
+for (const thrown of ['error', 'plain'])
+  test(`host.AFailureOfAnotherKindHasItsNumberAndItsText ${thrown}`, async () => {
+    const { result, reports } = await bindWithForeign('Omschrijving', thrown);
+    assert.equal(result, 'failed');
+    holdReports(reports, '1234');
+    assert.equal(reports[0].text, 'De host weigert');
+  });
+
+/** What a host's VulCombo does to the list, and what came of the binding. */
+const fillWith = (code) =>
+  page.evaluate(async ([made, fields]) => {
+    await window.bind({ ...fields, IsProduct: true, Maatschappij: 'AB' });
+    const { editor, application, reports } = window;
+    const fill = { textForItemData: (list) => list.AddItem('x', 'y'), noNumber: (list) => list.AddItem('x', NaN), nothing: (list) => list.AddItem('x', null),
+      tooLarge: (list) => list.AddItem('x', 1e99), numberForText: (list) => list.AddItem(5, 1), noText: (list) => list.AddItem(undefined, 1),
+      textForIndex: (list) => (list.AddItem('x', 1), (list.ListIndex = 'x')), noIndex: (list) => (list.AddItem('x', 1), (list.ListIndex = undefined)),
+      textAskedFor: (list) => (list.AddItem('x', 1), list.ItemData('0')), noEntry: (list) => (list.AddItem('x', 1), list.List(1)),
+      withoutItemData: (list) => list.AddItem('x') };
+    application.VulCombo = (source, table, list) => fill[made](list);
+    const result = await editor.setApplication(application, 0, 1);
+    return { result, reports };
+  }, [code, COLUMN]);
+
+for (const [what, number] of [['textForItemData', '13'], ['noNumber', '13'], ['nothing', '13'], ['tooLarge', '6'], ['numberForText', '13'], ['noText', '13'],
+  ['textForIndex', '13'], ['noIndex', '13'], ['textAskedFor', '13'], ['noEntry', '381']])
+  test(`host.AListThatIsFilledWith ${what} IsError${number}`, async () => {
+    const { result, reports } = await fillWith(what);
+    assert.equal(result, 'failed');
+    holdReports(reports, number);
+  });
+
+test('host.AnEntryOfAListNeedsNoNumber', async () => {
+  const { result, reports } = await fillWith('withoutItemData');
+  assert.deepEqual([result, reports], ['bound', []]);
+});
+
 test('host.AMemberThatIsMissingIsReported', async () => {
   const reports = await page.evaluate(async (fields) => {
     await window.bind(fields);
@@ -119,6 +186,21 @@ test('host.AMemberThatIsMissingIsReported', async () => {
     return window.reports;
   }, COLUMN);
   assert.equal(reports[0].number, '438');
+});
+
+test('host.WhatNobodyCanBeToldOfRejects', async () => {
+  const rejected = await page.evaluate(async (fields) => {
+    await window.bind(fields);
+    const { editor, application } = window;
+    const outcome = (promise) => promise.catch(({ name, number }) => `${name} ${number}`);
+    const seen = [await outcome(editor.setApplication({}, 0, 1)), await outcome(editor.setApplication('een dossier', 0, 1))];
+    application.ReportError = () => {
+      throw Object.assign(new Error('vol'), { number: 61 });
+    };
+    delete window.item.Termijn;
+    return [...seen, await outcome(editor.setApplication(application, 0, 1))];
+  }, COLUMN);
+  assert.deepEqual(rejected, ['HostError 438', 'HostError 438', 'HostError 61']);
 });
 
 test('host.AFailedWriteIsReportedAndTheTextIsKept', async () => {
@@ -207,17 +289,23 @@ test('host.TheElementTakenAwayWithAMessageOpenEndsQuietly', async () => {
   await worksAgain();
 });
 
-for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['Throws', '']])
+for (const [what, below, faults] of [['Adds', '\n\n1 afwijkende kolom: Contributie', 0], ['Throws', '', 1], ['AnswersNothing', '', 0], ['AnswersAPromise', '', 1],
+  ['AnswersANumber', '', 1]])
   test(`host.AQuestionShowsWhatTheHostAddsBelowIt ${what}`, async () => {
-    await page.evaluate(async (fields, throws) => {
+    await page.evaluate(async (fields, name) => {
       await window.bind(fields);
       // The same column in a new situation: whether that goes is asked before this one is left.
       window.dossier.Leningen[0].kolommen.push({ Id: window.item.Id });
-      window.editor.questionDetails = () => {
-        if (throws) throw new Error('geen kolommen');
-        return '1 afwijkende kolom: Contributie';
-      };
-    }, COLUMN, what === 'Throws');
+      window.editor.questionDetails = {
+        Adds: () => '1 afwijkende kolom: Contributie',
+        Throws: () => {
+          throw new Error('geen kolommen');
+        },
+        AnswersNothing: () => {},
+        AnswersAPromise: async () => '1 afwijkende kolom: Contributie',
+        AnswersANumber: () => 1,
+      }[name];
+    }, COLUMN, what);
     await person.typeOver('TxtOm', 'Krant');
     // It comes back when it was answered.
     await page.evaluate(() => void (window.stays = window.editor.validation()));
@@ -228,7 +316,7 @@ for (const [what, below] of [['Adds', '\n\n1 afwijkende kolom: Contributie'], ['
     await person.press('Escape');
     assert.equal(await page.evaluate(() => window.stays), false);
     // Its own failure is the page's to hear of.
-    assert.equal(page.faults.splice(0).length, what === 'Throws' ? 1 : 0);
+    assert.equal(page.faults.splice(0).length, faults);
   });
 
 test('host.AnEditorPutBackIsBoundAsItWas', async () => {

@@ -164,6 +164,17 @@ editing('AToggleTakesItsLettersAndTheBlankBar', async () => {
   assert.equal(await person.text('Toelichting.jnAO'), 'Nee');
 });
 
+// A page may be translated.
+editing('AToggleIsPressedOnAHalfWhateverStandsThere', async () => {
+  const toggle = await person.control('Toelichting.jnAO');
+  await toggle.evaluate((input) => ['<font>Yes</font>', 'No'].forEach((text, i) => (input.children[i].innerHTML = text)));
+  const [yes, no] = await toggle.$$('span');
+  await no.click();
+  assert.equal(await item('UitsluitenAO'), true);
+  await yes.click();
+  assert.equal(await item('UitsluitenAO'), false);
+});
+
 editing('AnOptionIsTakenByKeysAndClick', async () => {
   await person.click('optLast(2)');
   assert.equal(await item('CorrectieLast'), 2);

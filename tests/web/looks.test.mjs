@@ -52,12 +52,50 @@ test('looks.InAPageFromRightToLeftItStaysAsItIs', async () => {
   assert.deepEqual(stands, stood);
 });
 
+// How a page writes its own texts is not how the designs are written, which leave each caption its room.
+test('looks.TheTextsStayAsTheyAreInAPageThatWritesOtherwise', async () => {
+  const seen = () => page.evaluate(() => {
+    const parts = [...window.editor.shadowRoot.querySelectorAll('legend, .label, .text, .button, .toggle span, th, td, .title, .buttons button')]
+      .filter((part) => part.checkVisibility());
+    return parts.map((part) => {
+      const { left, top } = window.editor.getBoundingClientRect();
+      const range = document.createRange();
+      range.selectNodeContents(part);
+      const box = range.getBoundingClientRect();
+      return [part.textContent, getComputedStyle(part).textShadow, ...[box.left - left, box.top - top, box.width, box.height].map(Math.round)];
+    });
+  });
+  const otherwise = { letterSpacing: '3px', wordSpacing: '5px', textTransform: 'uppercase', textIndent: '20px', textShadow: '1px 1px red', fontStyle: 'italic',
+    fontWeight: '800', fontVariant: 'small-caps', fontStretch: 'condensed', whiteSpace: 'pre', wordBreak: 'break-all', overflowWrap: 'anywhere', hyphens: 'auto', textAlign: 'center', lineHeight: '3' };
+  await bind('editor-overgang');
+  const stood = await seen();
+  await page.evaluate((style) => Object.assign(window.editor.parentElement.style, style), otherwise);
+  const stands = await seen();
+  await page.evaluate(() => (window.editor.parentElement.style.writingMode = 'vertical-rl'));
+  const mode = await page.evaluate(() => getComputedStyle(window.editor.shadowRoot.querySelector('.label')).writingMode);
+  await page.evaluate(() => window.editor.parentElement.removeAttribute('style'));
+  assert.ok(stood.length > 20);
+  assert.deepEqual(stands, stood);
+  assert.equal(mode, 'horizontal-tb');
+});
+
 test('looks.EveryEffectIsSeenWithoutScrolling', async () => {
   await bind('editor-vaste-last');
   const [width, height] = await (await person.control('Toelichting.lstToelichting')).evaluate((list) =>
     [list.scrollWidth - list.clientWidth, list.scrollHeight - list.clientHeight]);
   assert.deepEqual([width, height], [0, 0]);
 });
+
+// By the rules of typing, which know more ways to write a day than the calendar.
+for (const [typed, day] of [['1-5-31', '2031-05-01'], ['010531', '2031-05-01'], ['18m', '2032-10-01'], ['', ''], ['1-13-2031', '']])
+  test(`looks.TheCalendarOpensAtTheDayThatIsTyped ${typed}`, async () => {
+    await bind('editor-vaste-last');
+    await person.typeOver('TxtDtEind', typed);
+    await person.press('F4');
+    const picker = await (await person.control('TxtDtEind')).evaluate(({ node }) => [node.picker.value, node.picker.min]);
+    assert.deepEqual(picker, [day, '1900-01-01']);
+    await person.press('Escape', 'Escape');
+  });
 
 // A4 between the margins that browsers leave, in pixels of paper.
 const PAPER = { width: 718, height: 1047 };
@@ -85,6 +123,75 @@ test('looks.OnPaperAllIsThereAndEveryAnswerReadsAsItIs', async () => {
   assert.equal(seen.text, 'rgb(0, 0, 0)');
   assert.ok(seen.adjust.length > 8);
   assert.deepEqual(new Set(seen.adjust), new Set(['exact']));
+});
+
+/** What screen readers are told in passing, on the page and in the open form, and whether that stands where it always stood. */
+const told = () => page.evaluate(() => {
+  const { shadowRoot } = window.editor;
+  const all = [...shadowRoot.querySelectorAll('[role=status], [aria-live]')];
+  window.statuses ??= all;
+  const same = all.length === window.statuses.length && all.every((one, i) => one === window.statuses[i]);
+  return { texts: all.map((one) => one.textContent), lang: all[0].lang, same };
+});
+
+test('looks.WhatABoxMakesOfATextIsReadOutFromWhereItAlwaysStands', async () => {
+  await bind('editor-vaste-last');
+  await page.evaluate(() => delete window.statuses);
+  assert.deepEqual(await told(), { texts: [''], lang: '', same: true });
+  await person.typeOver('TxtDtAanvang', '1-4-203');
+  await person.type('1');
+  assert.equal(await person.said(), 'dinsdag 1 april 2031');
+  assert.deepEqual(await told(), { texts: ['dinsdag 1 april 2031'], lang: 'nl', same: true });
+  const shown = await page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble');
+    return [bubble.part.value, bubble.getAttribute('role'), bubble.ariaHidden, window.editor.shadowRoot.activeElement.getAttribute('aria-describedby')];
+  });
+  assert.deepEqual(shown, ['note', null, 'true', null]);
+  await person.press('Escape');
+  assert.deepEqual(await told(), { texts: [''], lang: 'nl', same: true });
+});
+
+test('looks.InTheFormItIsReadOutThere', async () => {
+  await bind('editor-vaste-last');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await page.evaluate(() => delete window.statuses);
+  assert.deepEqual((await told()).texts, ['', '']);
+  await person.typeOver('txtBedrag(2)', '5+5');
+  assert.deepEqual(await told(), { texts: ['', '= 10,00'], lang: '', same: true });
+  await person.press('Escape');
+  assert.deepEqual((await told()).texts, ['', '']);
+  await person.press('Escape');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+});
+
+test('looks.WhyATextWasRefusedIsReadOutEachTimeAndTheNoteNoMore', async () => {
+  await bind('editor-vaste-last');
+  await page.evaluate(() => delete window.statuses);
+  const reason = () => page.evaluate(() => {
+    const bubble = window.editor.shadowRoot.querySelector('.bubble');
+    const box = window.editor.shadowRoot.activeElement;
+    return bubble && [bubble.part.value, bubble.getAttribute('role'), bubble.ariaHidden, box.getAttribute('aria-describedby'), box.getAttribute('aria-invalid')];
+  });
+  await told();
+  await person.typeOver('TxtBd', '5+5');
+  assert.deepEqual((await told()).texts, ['= 10,00']);
+  await person.type('+x');
+  await page.evaluate(() => {
+    window.comings = 0;
+    new MutationObserver((changes) => (window.comings += changes.flatMap(({ addedNodes }) => [...addedNodes]).length))
+      .observe(window.editor.shadowRoot, { childList: true });
+  });
+  await person.press('Tab', 'Tab');
+  assert.deepEqual(await reason(), ['reason', 'alert', null, 'bubble', 'true']);
+  assert.equal(await page.evaluate(() => window.comings), 2);
+  assert.deepEqual((await told()).texts, ['']);
+  await person.press('Control+a');
+  await person.type('6+6');
+  assert.deepEqual(await told(), { texts: ['= 12,00'], lang: 'nl', same: true });
+  assert.deepEqual(await reason(), ['note', null, 'true', null, null]);
+  await person.press('Escape');
+  assert.equal(await reason(), null);
 });
 
 /** What a person may come upon, each to be looked at. */

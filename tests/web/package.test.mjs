@@ -111,6 +111,34 @@ test('package.WorksFromABundlerInAFormOfALibrary', async () => {
   await page.click('#terug');
   await person.until(async () => (await person.text('TxtOm')) === 'Kinderopvang', 'what stood there');
   assert.equal(await isDirty(), false);
+  // The amount is a value of the form like the others, and so is the year-by-year scenario.
+  await person.typeOver('TxtBd', '999');
+  await person.press('Tab');
+  assert.equal(await isDirty(), true);
+  await page.click('#terug');
+  await person.until(async () => (await person.text('TxtBd')) === '485,50', 'the amount that stood there');
+  assert.equal(await isDirty(), false);
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  await person.typeOver('txtBedrag(2)', '500');
+  await person.press('Tab');
+  await person.click('cmdOK');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+  assert.equal(await isDirty(), true);
+  await page.click('#terug');
+  await person.until(async () => !(await isDirty()), 'the scenario that stood there');
+  await person.click('cmdScenario');
+  await person.until(() => person.hasForm(), 'the form');
+  assert.equal(await person.text('txtBedrag(2)'), '485,50');
+  await person.press('Escape');
+  await person.until(async () => !(await person.hasForm()), 'the end of the form');
+  // What is refused goes too, and the editor shows what the form holds.
+  await person.typeOver('TxtOm', 'Oppas');
+  await person.typeOver('TxtBd', 'x');
+  await page.click('#terug');
+  await person.until(async () => (await person.text('TxtOm')) === 'Kinderopvang', 'what stood there');
+  assert.equal(await person.text('TxtBd'), '485,50');
+  assert.equal(await isDirty(), false);
   await person.typeOver('TxtOm', 'Crèche');
   await page.click('#bewaar');
   await person.until(async () => (await page.$eval('#stand', (out) => out.value)) === 'Bewaard: Crèche', 'the submission');

@@ -59,6 +59,31 @@ test('pages.TheExplanationControlStandsByItself', async () => {
   assert.equal(await page.evaluate(() => hosts.los.item.UitsluitenAO), true);
 });
 
+// A portal fetches its data first: by then the page has been laid out.
+test('pages.TheExplanationControlIsAsWideAsItsPlaceWhenItIsBound', async () => {
+  const widths = await page.evaluate(async () => {
+    const late = document.createElement('vrije-kolom-toelichting');
+    late.style.width = '1300px';
+    document.querySelector('main').append(late);
+    const frame = () => new Promise((done) => requestAnimationFrame(() => setTimeout(done)));
+    for (let i = 0; i < 3; ++i) await frame();
+    const { application, dossier } = hosts.los;
+    const width = () => late.shadowRoot.querySelector('.surface').getBoundingClientRect().width;
+    await late.setApplication(application, dossier.HuidigeLening, 1);
+    const seen = [width()];
+    late.remove();
+    await frame();
+    document.querySelector('main').append(late);
+    seen.push(width());
+    await late.setApplication(application, dossier.HuidigeLening, 1);
+    seen.push(width());
+    late.remove();
+    return seen;
+  });
+  // A twip is less than a tenth of a pixel.
+  for (const width of widths) assert.ok(Math.abs(width - 1300) < 0.2, `${widths}`);
+});
+
 test('pages.AnEditorInAFrameIsWorkedIn', async () => {
   const frame = page.frames().find((one) => one !== page.mainFrame());
   await frame.waitForFunction(() => window.isReady);

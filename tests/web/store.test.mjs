@@ -4,7 +4,7 @@ import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
 import { useBrowser } from './harness/browser.mjs';
-import { Demo, SAMPLE } from './harness/demo.mjs';
+import { Demo, PATIENCE, SAMPLE } from './harness/demo.mjs';
 
 const { open } = useBrowser(process.env.WEB_BROWSER || 'chrome');
 const AMOUNT = { first: (amount) => `Kinderopvang · € ${amount} per maand`, third: (amount) => `Muzieklessen aan huis · € ${amount} per maand` };
@@ -67,6 +67,139 @@ test('store.APageIsNotLeftUnaskedWithTheFormOpen', async () => {
   await staysWhenClosed(demo);
   assert.equal(await person.hasForm(), true);
   assert.equal(await person.text('txtBedrag(2)'), '50,00');
+});
+
+/** Closes the page as a person does who is asked and goes. */
+async function goesWhenClosed(demo) {
+  const asked = leaving(demo);
+  const gone = new Promise((closed) => demo.page.once('close', closed));
+  const late = new Promise((_, failed) => setTimeout(failed, PATIENCE, new Error('The page did not come to its end')).unref());
+  await demo.page.close({ runBeforeUnload: true });
+  await Promise.race([gone, late]);
+  return asked;
+}
+/** A disk that is slower than the end of a page: nothing that is written comes to stand there. */
+const SLOW = () => {
+  const { put } = IDBObjectStore.prototype;
+  IDBObjectStore.prototype.put = function (record, key) {
+    const goOn = () => (this.get(key).onsuccess = goOn);
+    goOn();
+    return put.call(this, record, key);
+  };
+};
+const notesIn = ({ page }) => page.evaluate(() => Object.keys(localStorage).length);
+
+for (const [how, before] of Object.entries({ 'on a fast disk': () => {}, 'on a slow disk': SLOW }))
+  test(`store.WhatWasTypedLastIsKeptWhenThePageIsClosedAtOnce ${how}`, async () => {
+    const demo = await Demo.started(open, { before });
+    await demo.typeAmount('999');
+    assert.deepEqual(await goesWhenClosed(demo), ['beforeunload']);
+    const next = await demo.beside();
+    assert.equal((await next.columns())[0], AMOUNT.first('999,00'));
+    await next.saved();
+    assert.equal(await notesIn(next), 0);
+
+    // It is in the case now, as everything else.
+    await next.reload();
+    assert.equal((await next.columns())[0], AMOUNT.first('999,00'));
+    assert.equal(await next.page.$('.vraag'), null);
+    await next.typeAmount('998');
+    await next.person.press('Enter');
+    await next.comes('bewaard', /^Bewaard om/);
+    await next.reload();
+    assert.equal((await next.columns())[0], AMOUNT.first('998,00'));
+  });
+
+/** The amount 999 was left in one page that was closed, and 222 written in another one since; what is begun next. */
+async function leftBehind() {
+  const een = await Demo.started(open, { before: SLOW });
+  const twee = await een.beside();
+  await een.page.bringToFront();
+  await een.typeAmount('999');
+  await goesWhenClosed(een);
+  await twee.page.bringToFront();
+  await twee.person.press('ArrowDown', 'ArrowDown');
+  await twee.comes('kop', SAMPLE[2]);
+  await twee.typeAmount('222');
+  await twee.person.press('Enter');
+  await twee.comes('bewaard', /^Bewaard om/);
+  return { twee, drie: await twee.beside() };
+}
+const WITHOUT = [...SAMPLE.slice(0, 2), AMOUNT.third('222,00'), ...SAMPLE.slice(3)];
+
+test('store.WhatThePageLeftThatWasClosedIsOfferedWhereAnotherOneWroteSince', async () => {
+  const { twee, drie } = await leftBehind();
+  await drie.asked();
+  assert.match(await drie.page.$eval('.vraag p', ({ textContent }) => textContent),
+    /^Op \d+-\d+-\d{4} om \d\d:\d\d:\d\d sloot u dit dossier voordat alles bewaard was\. U werkte toen aan "Kinderopvang · € 999,00 per maand"\. Sindsdien is het dossier in een ander tabblad gewijzigd/);
+  assert.deepEqual(await drie.columns(), WITHOUT);
+  // Who goes away without an answer is asked again.
+  await drie.reload();
+  await drie.answer('Shift+Tab', 'Enter');
+  await drie.comes('kop', AMOUNT.first('999,00'));
+  await drie.saved();
+  assert.deepEqual(await drie.columns(), [AMOUNT.first('999,00'), ...SAMPLE.slice(1)]);
+  await twee.person.until(async () => (await twee.columns())[0] === AMOUNT.first('999,00'), 'what was put back');
+  await drie.reload();
+  assert.equal(await drie.page.$('.vraag'), null);
+  assert.deepEqual(await drie.columns(), [AMOUNT.first('999,00'), ...SAMPLE.slice(1)]);
+});
+
+test('store.NothingIsTakenFromAPageThatLives', async () => {
+  const een = await Demo.started(open);
+  await een.page.evaluate(BROKEN['a full store'][0]);
+  await een.typeAmount('999');
+  await een.person.press('Enter');
+  await een.comes('bewaard', 'Niet bewaard: vol.');
+  await staysWhenClosed(een);
+  assert.equal(await notesIn(een), 1);
+  const twee = await een.beside();
+  assert.deepEqual(await twee.columns(), SAMPLE);
+  assert.equal(await twee.page.$('.vraag'), null);
+  await een.page.bringToFront();
+  await een.page.evaluate(() => globalThis.mend());
+  await een.typeAmount('998');
+  await een.person.press('Enter');
+  await twee.comes('kop', AMOUNT.first('998,00'));
+  assert.equal(await notesIn(een), 0);
+});
+
+test('store.WhatIsOfferedAndNotTakenIsGone', async () => {
+  const { drie } = await leftBehind();
+  await drie.answer('Enter');
+  assert.deepEqual(await drie.columns(), WITHOUT);
+  assert.equal(await notesIn(drie), 0);
+  await drie.reload();
+  assert.equal(await drie.page.$('.vraag'), null);
+  assert.deepEqual(await drie.columns(), WITHOUT);
+});
+
+test('store.NothingIsOfferedThatWasKeptOrToldToBeGone', async () => {
+  const een = await Demo.started(open);
+  const twee = await een.beside();
+  await twee.page.bringToFront();
+  await twee.typeAmount('x');
+  await een.page.bringToFront();
+  await een.typeAmount('111');
+  await een.person.press('Enter');
+  await een.comes('bewaard', /^Bewaard om/);
+  await twee.page.bringToFront();
+  await twee.answer('Enter');
+  await twee.typeAmount('222');
+  await goesWhenClosed(twee);
+  assert.equal(await notesIn(een), 0);
+
+  // A page whose last writing nobody heard of, and what is no note.
+  await een.page.evaluate(async () => {
+    const { openStore } = await import('/demo/store.js');
+    const { Versie, ...record } = await (await openStore()).read();
+    localStorage.setItem('vrije-kolommen/een', JSON.stringify({ record, version: Versie - 1, column: '', time: 0 }));
+    localStorage.setItem('vrije-kolommen/twee', '{');
+  });
+  await een.reload();
+  assert.equal(await een.page.$('.vraag'), null);
+  assert.equal(await notesIn(een), 1);
+  assert.deepEqual(een.page.faults, []);
 });
 
 test('store.WhatIsBeingTypedIsKeptWhenAnotherPageIsLookedAt', async () => {
@@ -211,6 +344,12 @@ for (const [how, before] of Object.entries(CLOSED))
     assert.equal(await demo.textOf('bewaard'), text);
     await staysWhenClosed(demo);
     assert.deepEqual(demo.page.faults, []);
+
+    // As was said, it is gone with the page.
+    await goesWhenClosed(demo);
+    const next = await demo.beside();
+    assert.equal(await notesIn(next), 0);
+    assert.deepEqual(await next.columns(), SAMPLE);
   });
 
 const BROKEN = {

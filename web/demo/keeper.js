@@ -3,6 +3,8 @@
 import { versionOf } from './store.js';
 
 export class Keeper {
+  /** The adviser was told that another page wrote, and that nothing of this one is kept any more. */
+  isOvertaken = false;
   #store;
   #contents;
   #told;
@@ -20,11 +22,17 @@ export class Keeper {
   /** The case is now the one of this record, or of none. */
   begin(record) {
     this.#version = versionOf(record);
+    this.isOvertaken = false;
   }
 
   /** Whether a record holds nothing that this case does not have. */
   knows(record) {
     return versionOf(record) <= this.#version;
+  }
+
+  /** The version that was read or written last. */
+  get version() {
+    return this.#version;
   }
 
   /** Whether everything that was changed is in the store. */

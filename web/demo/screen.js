@@ -7,6 +7,7 @@ import { addColumn, fieldsOf, openCase, recordOf } from './case.js';
 import { Keeper } from './keeper.js';
 import { kopregel } from './kopregels.js';
 import { guardLeaving } from './leaving.js';
+import { Notes } from './notes.js';
 import { VOORBEELD } from './sample.js';
 import { noStore, openStore, Overtaken } from './store.js';
 
@@ -108,6 +109,8 @@ const DEEDS = {
 /** What is not kept of this page cannot be kept any more; it can be looked at before the page begins anew. */
 async function overtaken() {
   if (document.querySelector('.vraag') !== null) return;
+  keeper.isOvertaken = true;
+  notes.dropMine();
   tell(new Overtaken());
   const isSeen = await ask(
     'Dit dossier is in een ander tabblad gewijzigd. Wat u hier sindsdien hebt ingevuld is niet bewaard. ' +
@@ -128,6 +131,41 @@ async function follow() {
   open(kept);
   const { lening: nummer, id } = at;
   await show(nummer, lening(nummer).VrijeKolom(id) === null ? firstOf(nummer) : id);
+}
+
+/** Begins with the case as it was kept, and with what a page left that was closed before that was kept, where it fits. */
+async function begin() {
+  const kept = await store.read();
+  keeper.begin(kept);
+  open(kept ?? VOORBEELD);
+  const note = await notes.fitting(kept);
+  if (note !== undefined) await restore(note);
+}
+
+/** The case is as a page left it. */
+async function restore(note) {
+  const { version } = keeper;
+  open(note.record);
+  await keeper.save();
+  if (keeper.version !== version) notes.drop(note);
+}
+
+/** What a page left that the case has gone on without is put back where the adviser wants it so. */
+async function offerLeft() {
+  for (const note of await notes.left(await store.read())) {
+    const day = new Date(note.time);
+    const isWanted = await ask(
+      `Op ${day.toLocaleDateString('nl-NL')} om ${day.toLocaleTimeString('nl-NL')} sloot u dit dossier voordat alles bewaard ` +
+        `was.${note.column === '' ? '' : ` U werkte toen aan "${note.column}".`} Sindsdien is het dossier in een ander tabblad gewijzigd. Wilt u het zoals u ` +
+        'het toen had? Wat u niet kiest gaat weg.',
+      'Zoals ik het had', 'Zoals het nu is');
+    if (!isWanted) {
+      notes.drop(note);
+      continue;
+    }
+    await editor.unbind();
+    await Promise.all([restore(note), show(0, firstOf(0))]);
+  }
 }
 
 editor.addEventListener('refreshtopdisplay', (event) => {
@@ -158,17 +196,23 @@ const keeper = new Keeper(store, () => recordOf(application), {
   begun: () => (document.body.dataset.saving = ''),
   ended: (problem) => {
     delete document.body.dataset.saving;
+    if (problem === null) notes.dropMine();
     if (problem instanceof Overtaken) overtaken();
     else tell(problem);
   },
 });
-const beginAnew = guardLeaving(editor, keeper);
-const kept = await store.read();
-keeper.begin(kept);
-open(kept ?? VOORBEELD);
+// A browser that keeps nothing, as the page says there, keeps no note.
+const notes = new Notes(() => (store.problem ? null : localStorage));
+const beginAnew = guardLeaving(editor, keeper, () => {
+  const kolom = lening().VrijeKolom(at.id);
+  notes.leave({ record: recordOf(application), version: keeper.version, column: kolom === null ? '' : kopregel(kolom) });
+});
+// One page after another, so that one alone takes up what was left.
+await navigator.locks.request('vrije-kolommen', begin);
 store.listen(follow);
 if (store.problem) tell(store.problem);
 element('client').textContent = dossier().Personen.map(({ Naam }) => Naam.filter((deel) => deel !== '').join(' ')).join(' en ');
 await show(0, firstOf(0));
 element('posten').focus();
 document.body.dataset.ready = '';
+await offerLeft();

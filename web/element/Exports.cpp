@@ -3,12 +3,15 @@
 
 #include <emscripten.h>
 
+#include <chrono>
 #include <cstring>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "web/element/Element.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
 #include <brivane/frame/ErrorReport.h>
 #include <brivane/frame/Texts.h>
 #include <brivane/toolkits/web/Person.h>
@@ -52,12 +55,12 @@ struct Order {
 std::map<int, std::unique_ptr<Element>> elements_;
 
 double Do(Element& element, const Order& order) {
-  const auto whole = [](double number) { return static_cast<std::int32_t>(number); };
+  const auto whole = [](double number) { return webhost::As<std::int32_t>(webhost::Value(number)); };
+  const auto small = [](double number) { return webhost::As<std::int16_t>(webhost::Value(number)); };
   switch (order.job) {
     case Job::Make: element.Make(); return 0;
     case Job::Bind:
-      return static_cast<double>(element.Bind(
-          {order.first, order.second, static_cast<std::int16_t>(order.number), static_cast<std::int16_t>(order.more)}));
+      return static_cast<double>(element.Bind({order.first, order.second, small(order.number), small(order.more)}));
     case Job::Unbind: element.Unbind(); return 0;
     case Job::Validation:
       return element.Validation(Element::Checked::All, order.more != 0, whole(order.number)) ? 1 : 0;
@@ -121,12 +124,13 @@ EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
     element->Toolkit().Desktop().Answered(box, static_cast<host::MessageAnswer>(answer));
 }
 
-EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+/// `ago`: how many milliseconds ago the key went down.
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, double ago) {
   using Press = controls::KeysUnderWay::Press;
   Element* const element = Element::Find(page);
-  return element != nullptr && element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First)
-             ? 1
-             : 0;
+  if (element == nullptr) return 0;
+  const std::chrono::milliseconds passed(static_cast<std::chrono::milliseconds::rep>(ago));
+  return element->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First, passed) ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {
@@ -138,6 +142,15 @@ EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
   Element* const element = Element::Find(page);
   return element != nullptr && web::MindsBeingLeft(element->Toolkit(), node) ? 1 : 0;
 }
+
+/// The day at which the calendar of a box opens, counted from 30 December 1899; 0 where no day stands in it.
+EMSCRIPTEN_KEEPALIVE int brivane_day(int page, int node) {
+  Element* const element = Element::Find(page);
+  return element != nullptr ? web::DayIn(element->Toolkit(), node).Days() : 0;
+}
+
+/// The first day that may be picked.
+EMSCRIPTEN_KEEPALIVE int brivane_first_day() { return frame::MakeDate({frame::kFirstYear, 1, 1}).Days(); }
 
 /// As in PageTexts.h. For what is shown from now on.
 EMSCRIPTEN_KEEPALIVE void brivane_speak(int page, int language) {

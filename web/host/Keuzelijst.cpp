@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 
+#include "web/host/Value.h"
 #include <brivane/frame/ErrorReport.h>
 #include <brivane/toolkits/web/Turns.h>
 
@@ -27,7 +28,8 @@ struct Answer {
 
 char* Given(const std::string& text) { return strdup(text.c_str()); }
 
-void Do(host::ListBox& lijst, Way way, int number, const char* text, Answer& answer) {
+void Do(host::ListBox& lijst, Way way, double given, const char* text, Answer& answer) {
+  const auto number = As<std::int32_t>(Value(given));
   switch (way) {
     case Way::Clear: return lijst.Clear();
     case Way::AddItem: return lijst.Add(text, number);
@@ -46,7 +48,7 @@ LentKeuzelijst::LentKeuzelijst(host::ListBox& lijst) : number_(++last_) { lent_[
 LentKeuzelijst::~LentKeuzelijst() { lent_.erase(number_); }
 
 /// The host uses a list that was lent to it: 0, or 1 where that failed.
-extern "C" EMSCRIPTEN_KEEPALIVE int brivane_list(int list, int way, int number, const char* text, void* place) {
+extern "C" EMSCRIPTEN_KEEPALIVE int brivane_list(int list, int way, double number, const char* text, void* place) {
   const web::CalledBack calledBack;
   Answer& answer = *static_cast<Answer*>(place);
   answer = {};

@@ -43,9 +43,9 @@ void Desktop::Answered(int box, host::MessageAnswer given) {
   page_.CloseBox(box);
 }
 
-bool Desktop::IsMeant(int box, controls::KeysUnderWay::Press press) {
+bool Desktop::IsMeant(int box, controls::KeysUnderWay::Press press, std::chrono::milliseconds ago) {
   const auto open = boxes_.find(box);
-  return open != boxes_.end() && open->second->keys.IsMeant(Page::Now(), press);
+  return open != boxes_.end() && open->second->keys.IsMeant(Page::Now() - ago, press);
 }
 
 void Desktop::DoPendingEvents() {

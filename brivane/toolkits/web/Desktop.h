@@ -46,8 +46,8 @@ class Desktop final : public host::Desktop {
   [[nodiscard]] host::MessageAnswer Ask(const std::string& boxTitle, const std::string& text, host::MessageStyle style);
   /// A person answered a box; nothing where it is open no more.
   void Answered(int box, host::MessageAnswer given);
-  /// Whether a key that goes down in an open box is meant for it.
-  [[nodiscard]] bool IsMeant(int box, controls::KeysUnderWay::Press press);
+  /// Whether a key in an open box is meant for it: one that is heard of now, and went down this long ago.
+  [[nodiscard]] bool IsMeant(int box, controls::KeysUnderWay::Press press, std::chrono::milliseconds ago);
   /// The page has done what it had to do.
   void CameBack(int waiting);
 

@@ -41,4 +41,9 @@ bool MindsBeingLeft(const Toolkit& toolkit, NodeId node) {
   return peer != nullptr && peer->MindsBeingLeft();
 }
 
+host::Date DayIn(const Toolkit& toolkit, NodeId node) {
+  const NodePeer* const peer = toolkit.Find(node);
+  return peer != nullptr ? peer->Day() : host::kNoDate;
+}
+
 }  // namespace brivane::web

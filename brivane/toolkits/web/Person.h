@@ -26,4 +26,7 @@ bool Does(Toolkit& toolkit, controls::Surface& surface, const Done& done);
 /// typed.
 [[nodiscard]] bool MindsBeingLeft(const Toolkit& toolkit, NodeId node);
 
+/// The day at which the calendar of an element opens; none where no day stands in it.
+[[nodiscard]] host::Date DayIn(const Toolkit& toolkit, NodeId node);
+
 }  // namespace brivane::web

@@ -5,44 +5,75 @@
 //     npx esbuild main.js --bundle --format=esm --outfile=form.js
 //     cp node_modules/brivane-vrije-kolom/src/machine.wasm .
 import 'brivane-vrije-kolom';
-import { createForm } from 'final-form';
+import { createForm, getIn } from 'final-form';
 
-import { Application, Dossier, KOLOM } from '../../../web/demo/model.js';
+import { Application, Dossier, KOLOM, PERIODE } from '../../../web/demo/model.js';
+
+const { Id, Voorstel, ...FIELDS } = KOLOM;
+const BEDRAG = { Naam: '', Invoersoort: 1, Bedrag: 0 };
 
 const editor = document.querySelector('vrije-kolom');
 const button = (id) => document.getElementById(id);
-const dossier = new Dossier({
-  Personen: [{ Naam: ['J.', 'van', 'Dam'], Geboortedatum: '1985-01-01' }],
-  HuidigeLening: { VrijeKolommen: [{ Id: 1, Omschrijving: 'Kinderopvang', CorrectieFiscaal: 3, DatumAanvang: '2026-09-01', Bedrag: { Bedrag: 485.5 } }] },
-});
-const item = dossier.HuidigeLening.kolommen[0];
-const NAMES = Object.keys(item).filter((name) => name !== 'Bedrag' && name !== 'Voorstel' && name !== 'Id');
 
 const form = createForm({
-  initialValues: Object.fromEntries(NAMES.map((name) => [name, item[name]])),
+  initialValues: {
+    ...FIELDS, Omschrijving: 'Kinderopvang', CorrectieFiscaal: 3, DatumAanvang: '2026-09-01', Looptijd: 96, Voorstel: [...Voorstel],
+    Bedrag: { ...BEDRAG, Bedrag: 485.5, Perioden: [] },
+  },
   onSubmit: (values) => {
     form.initialize(values);
     button('stand').value = `Bewaard: ${values.Omschrijving}`;
   },
 });
-// The record's members are the form's fields.
-for (const name of NAMES) {
-  form.registerField(name, () => {}, {});
-  Object.defineProperty(item, name, {
-    // The library leaves out what has no value.
-    get: () => form.getState().values[name] ?? KOLOM[name],
-    set: (value) => form.change(name, value),
-  });
-}
+const isEqual = (one, other) => JSON.stringify(one) === JSON.stringify(other);
+for (const name of Object.keys(form.getState().values)) form.registerField(name, () => {}, {}, { isEqual });
 form.subscribe(({ dirty }) => (button('bewaar').disabled = button('terug').disabled = !dirty), { dirty: true });
+
+/** Gives an object of the model these members, which stand in the form below a path. */
+function inForm(object, path, members) {
+  for (const [name, none] of Object.entries(members)) {
+    Object.defineProperty(object, name, {
+      // The library leaves out what has no value.
+      get: () => getIn(form.getState().values, path + name) ?? none,
+      set: (value) => form.change(path + name, value),
+    });
+  }
+  return object;
+}
+
+const perioden = () => form.getState().values.Bedrag.Perioden;
+const bedrag = inForm({
+  get Basisbedrag() {
+    return this.Bedrag;
+  },
+  set Basisbedrag(waarde) {
+    this.Bedrag = waarde;
+  },
+  Periode: (positie) => (perioden()[positie - 1] === undefined ? null : inForm({}, `Bedrag.Perioden.${positie - 1}.`, PERIODE)),
+  NieuwePeriode() {
+    form.change('Bedrag.Perioden', [...perioden(), { ...PERIODE }]);
+    return perioden().length;
+  },
+  VerwijderPeriode: (positie) => form.change('Bedrag.Perioden', perioden().filter((_, i) => i !== positie - 1)),
+}, 'Bedrag.', BEDRAG);
+
+const dossier = new Dossier({
+  Personen: [{ Naam: ['J.', 'van', 'Dam'], Geboortedatum: '1985-01-01' }],
+  HuidigeLening: { VrijeKolommen: [{ Id: 1 }] },
+});
+const [item] = dossier.HuidigeLening.kolommen;
+inForm(item, '', FIELDS);
+Object.assign(item, { Voorstel: inForm([], 'Voorstel.', { ...Voorstel }), Bedrag: bedrag });
 
 const application = new Application(dossier, { MaatschappijType: [['ZZ', 'Anders']] });
 const bind = () => editor.setApplication(application, 0, 1);
 button('bewaar').addEventListener('click', async () => {
   if (!(await editor.validation())) form.submit();
 });
-button('terug').addEventListener('click', () => {
+button('terug').addEventListener('click', async () => {
+  // What is being typed goes too; a text that was refused would keep the editor as it is.
+  await editor.unbind();
   form.reset();
-  bind();
+  await bind();
 });
 document.body.dataset.result = await bind();

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -59,11 +62,36 @@ class ClientWindow : public WindowTest {
     auto reader = office_.Open(client_, "rob");
     return reader->Dossier()->FindKolom(0, 2)->Gegevens().Omschrijving;
   }
-  /// Types a description in the window that is in front, and leaves the box.
-  static void Describe(const char* text) {
+  /// Types a description in the window that is in front, and leaves the box; `before` it is left, where given.
+  static void Describe(const char* text, const std::function<void()>& before = {}) {
     PressKey(Qt::Key_O, Qt::AltModifier);
     Type(text);
+    if (before) before();
     PressKey(Qt::Key_Tab);
+  }
+  /// A message is to come that an edit failed, with all of these words and none of those; `answer` puts it away.
+  void ExpectFailed(const QStringList& says = {}, const QStringList& says_not = {},
+                    const Dialogs::Handler& answer = Pressing(Qt::Key_Return)) {
+    dialogs_.ExpectMessage(kFailed, [=](QWidget& box) {
+      const QString said = static_cast<QMessageBox&>(box).informativeText();
+      for (const QString& words : says) EXPECT_TRUE(said.contains(words)) << qPrintable(words + " / " + said);
+      for (const QString& words : says_not) EXPECT_FALSE(said.contains(words)) << qPrintable(words + " / " + said);
+      answer(box);
+    });
+  }
+  /// A file is to be asked for.
+  void ExpectFileQuestion(const QString& file) {
+    dialogs_.Expect([file](QWidget& window) {
+      auto* box = window.findChild<QLineEdit*>("fileNameEdit");
+      ASSERT_TRUE(box);
+      box->setText(file);
+      QTest::keyClick(window.windowHandle(), Qt::Key_Return);
+    });
+  }
+  void Superuser(const QString& sql) {
+    bool failed = false;
+    const QString said = office_.Psql("postgres", sql, &failed);
+    EXPECT_FALSE(failed) << said.toStdString();
   }
 
   dossier::TrialOffice office_;

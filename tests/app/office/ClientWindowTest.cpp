@@ -138,7 +138,7 @@ TEST_F(ClientWindowTest, AHolderWhoseClientWasTakenStoresNothingAndKeepsWhatHeTy
   window_->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get(), test::kPatience));
   proxy.Mend();
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  ExpectFailed();
   Describe("Ochtendkrant");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Bar(*window_).contains("Bert Bakker werkt hierin"); }, test::kPatience))
       << qPrintable(Bar(*window_));
@@ -155,7 +155,7 @@ TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack)
   test::SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
   proxy.Cut();
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  ExpectFailed();
   Describe("Avondkrant");
   ASSERT_TRUE(
       QTest::qWaitFor([&] { return Bar(*window_).startsWith("Geen verbinding met het kantoor."); }, test::kPatience));
@@ -176,11 +176,8 @@ TEST_F(ClientWindowTest, TheConnectionComesBackByItselfAndWhatWasTypedIsPutBack)
 TEST_F(ClientWindowTest, AnEditWhoseAnswerWasLostIsToldAsStored) {
   test::SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(test::SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Tab);
+  ExpectFailed();
+  Describe("Avondkrant", [&] { proxy.NextMeets(test::SocketProxy::Fate::DeadAfter); });
   ASSERT_TRUE(
       QTest::qWaitFor([&] { return Bar(*window_).contains("blijkt ook of de laatste wijziging"); }, test::kPatience))
       << qPrintable(Bar(*window_));
@@ -283,12 +280,7 @@ TEST_F(ClientWindowTest, AFileGoesToTheOfficeAndBack) {
   ASSERT_TRUE(window_->Screen() && window_->Screen()->Path().isEmpty());
   EXPECT_EQ(Screen().Dossier().FindKolom(0, 2)->Gegevens().Omschrijving, "Avondkrant");
   const QString copy = folder_.filePath("terug.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   window_->Actions().office.toFile->trigger();
   ASSERT_TRUE(window_->CloseDossier());
   EXPECT_EQ(ReadInSecondProcess(copy), ReadInSecondProcess(file_));

@@ -1,5 +1,4 @@
 #include <QAction>
-#include <QLineEdit>
 #include <QStatusBar>
 
 #include "tests/app/office/ClientWindow.h"
@@ -43,11 +42,7 @@ class GoneClientTest : public ClientWindow {
   }
   /// Nobody may have it: what is typed is refused.
   void ExpectRefusedAsGone(const char* text) {
-    dialogs_.ExpectMessage(kFailed, [](QWidget& box) {
-      const QString said = static_cast<QMessageBox&>(box).informativeText();
-      EXPECT_TRUE(said.contains("deze cliënt is er niet (meer), of niet voor uw team")) << qPrintable(said);
-      Pressing(Qt::Key_Return)(box);
-    });
+    ExpectFailed({"deze cliënt is er niet (meer), of niet voor uw team"});
     Describe(text);
   }
 };
@@ -72,7 +67,8 @@ TEST_F(GoneClientTest, AReaderIsToldOnceAndGoesOnReadingWhatThereWas) {
   EXPECT_EQ(proxy.RoundTrips(), asked);
   EXPECT_EQ(TimesInLog(), 1);
   ExpectRefusedAsGone("Avondkrant");
-  EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
+  EXPECT_EQ(Kolom(0, 2).Omschrijving, "Weekendabonnement");
+  EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Avondkrant"));
   EXPECT_TRUE(window_->CloseDossier());
 }
 
@@ -89,11 +85,8 @@ TEST_F(GoneClientTest, WhoTakesItUpJustThenIsToldByTheBarAlone) {
 TEST_F(GoneClientTest, WhoComesBackToARemovedClientKeepsWhatHeTyped) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Tab);
+  ExpectFailed();
+  Describe("Avondkrant", [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); });
   Remove();
   proxy.Mend();
   window_->Actions().office.reconnect->trigger();
@@ -119,13 +112,10 @@ TEST_F(GoneClientTest, AClientOfAnotherTeamIsKeptAsAFileAndOpensAgainOnceItIsBac
   ExpectRefusedAsGone("Weekblad");
   ASSERT_TRUE(IsTold()) << qPrintable(Bar(*window_));
   EXPECT_TRUE(Text(*window_, "nietOpgeslagen").endsWith(": Weekblad"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Ochtendkrant"; }, test::kPatience))
+      << Omschrijving(*window_);
   const QString copy = folder_.filePath("bewaard.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   window_->Actions().office.toFile->trigger();
   EXPECT_TRUE(window_->statusBar()->currentMessage().contains("zonder geschiedenis"))
       << qPrintable(window_->statusBar()->currentMessage());

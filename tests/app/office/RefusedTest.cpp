@@ -16,12 +16,31 @@ namespace {
 
 using test::SocketProxy;
 
+/// What comes of a dialog that the office refuses, or does not answer: it stays behind the message, with what was
+/// filled in, and is in front again then.
+struct Refusal {
+  /// Right before it is confirmed with this text in the box that has the focus.
+  std::function<void()> before;
+  const char* text;
+  QStringList says{};
+  QStringList says_not{};
+  /// While the message stands there, and in the dialog once it was put away.
+  std::function<void()> meanwhile = [] {};
+  Dialogs::Handler then = Pressing(Qt::Key_Escape);
+};
+
 class RefusedTest : public ClientWindow {
  protected:
-  static QString Details(QWidget& box) { return static_cast<QMessageBox&>(box).informativeText(); }
   [[nodiscard]] QString Unstored() { return Text(*window_, "nietOpgeslagen"); }
-  [[nodiscard]] std::vector<dossier::PersoonGegevens> StoredPersons() {
-    return office_.Open(client_, "rob")->Dossier()->Personen();
+  void ExpectUnstored(const QString& begins, const QString& ends = {}) {
+    EXPECT_TRUE(Unstored().startsWith(begins) && Unstored().endsWith(ends)) << qPrintable(Unstored());
+  }
+  void ExpectNothingUnstored() {
+    EXPECT_EQ(Unstored(), "");
+    EXPECT_TRUE(UnfinishedText::All().empty());
+  }
+  [[nodiscard]] std::string StoredInitials() {
+    return office_.Open(client_, "rob")->Dossier()->Personen().front().Naam[0];
   }
   /// Types over what stands in the box that has the focus, and confirms.
   static void Answer(const char* text) {
@@ -31,132 +50,126 @@ class RefusedTest : public ClientWindow {
     Type(text);
     PressKey(Qt::Key_Return);
   }
-  void Superuser(const QString& sql) {
-    bool failed = false;
-    const QString said = office_.Psql("postgres", sql, &failed);
-    EXPECT_FALSE(failed) << said.toStdString();
+  void ExpectRefusal(const Refusal& refusal) {
+    dialogs_.Expect([this, refusal](QWidget& window) {
+      refused_ = &window;
+      refusal.before();
+      Answer(refusal.text);
+    });
+    ExpectFailed(refusal.says, refusal.says_not, [this, refusal](QWidget& box) {
+      EXPECT_EQ(box.parentWidget(), refused_);
+      refusal.meanwhile();
+      Pressing(Qt::Key_Return)(box);
+    });
+    dialogs_.Expect([this, refusal](QWidget& window) {
+      EXPECT_EQ(&window, refused_);
+      refusal.then(window);
+    });
+  }
+  void OpenClientData() {
+    PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(refused_);
+  }
+  /// Confirms the dialog once more, and it goes.
+  static void ConfirmAgain(QWidget& window) {
+    ASSERT_TRUE(window.isVisible());
+    PressKey(Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+  }
+  [[nodiscard]] std::function<void()> AnnaLosesHerRole() {
+    return [this] { Superuser("REVOKE kantoor_adviseur FROM anna"); };
+  }
+  [[nodiscard]] std::function<void()> AnnaHasItAgain() {
+    return [this] { Superuser("GRANT kantoor_adviseur TO anna"); };
   }
   /// The window is on the client again, with the connection there.
   [[nodiscard]] bool IsBack() {
     return QTest::qWaitFor([&] { return Bar(*window_).isEmpty(); }, test::kPatience);
   }
+  void ExpectNotice(const QString& ends) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith(ends); }, test::kPatience))
+        << qPrintable(Text(*window_, "bericht"));
+  }
+
+  QPointer<QWidget> refused_;
 };
 
 TEST_F(RefusedTest, ClientDataStayInTheirDialogUntilTheOfficeTakesThem) {
   OpenAs(*window_, "anna");
-  QPointer<QWidget> dialog;
-  dialogs_.Expect([&](QWidget& window) {
-    dialog = &window;
-    Superuser("REVOKE kantoor_adviseur FROM anna");
-    Answer("Q.");
-  });
-  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
-    Superuser("GRANT kantoor_adviseur TO anna");
-    EXPECT_EQ(box.parentWidget(), dialog);
-    EXPECT_TRUE(Details(box).contains("u hebt daar op dit kantoor het recht niet toe")) << qPrintable(Details(box));
-    EXPECT_TRUE(Details(box).contains("Wat u invulde, staat nog in het venster.")) << qPrintable(Details(box));
-    Pressing(Qt::Key_Return)(box);
-  });
-  dialogs_.Expect([&](QWidget& window) {
-    EXPECT_EQ(&window, dialog);
-    EXPECT_TRUE(Unstored().startsWith("Niet opgeslagen (Cliëntgegevens): ")) << qPrintable(Unstored());
-    EXPECT_EQ(UnfinishedText::All().size(), 1U);
-    PressKey(Qt::Key_Return);
-    EXPECT_FALSE(window.isVisible());
-  });
-  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_FALSE(dialog);
-  EXPECT_EQ(StoredPersons()[0].Naam[0], "Q.");
-  EXPECT_EQ(Unstored(), "");
-  EXPECT_TRUE(UnfinishedText::All().empty());
+  ExpectRefusal({.before = AnnaLosesHerRole(),
+                 .text = "Q.",
+                 .says = {"u hebt daar op dit kantoor het recht niet toe", "Wat u invulde, staat nog in het venster."},
+                 .meanwhile = AnnaHasItAgain(),
+                 .then = [&](QWidget& dialog) {
+                   ExpectUnstored("Niet opgeslagen (Cliëntgegevens): ");
+                   EXPECT_EQ(UnfinishedText::All().size(), 1U);
+                   ConfirmAgain(dialog);
+                 }});
+  OpenClientData();
+  EXPECT_EQ(StoredInitials(), "Q.");
+  ExpectNothingUnstored();
 }
 
 TEST_F(RefusedTest, WhatIsGivenUpInADialogIsKeptUntilItIsThrownAway) {
   OpenAs(*window_, "anna");
-  dialogs_.Expect([&](QWidget&) {
-    Superuser("REVOKE kantoor_adviseur FROM anna");
-    Answer("Q.");
-  });
-  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
-    Superuser("GRANT kantoor_adviseur TO anna");
-    Pressing(Qt::Key_Return)(box);
-  });
-  dialogs_.Expect(Pressing(Qt::Key_Escape));
-  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  ExpectRefusal({.before = AnnaLosesHerRole(), .text = "Q.", .meanwhile = AnnaHasItAgain()});
+  OpenClientData();
   EXPECT_TRUE(Unstored().contains("Q.")) << qPrintable(Unstored());
   TabTo("Weggooien");
   PressKey(Qt::Key_Space);
-  EXPECT_EQ(Unstored(), "");
-  EXPECT_TRUE(UnfinishedText::All().empty());
+  ExpectNothingUnstored();
 }
 
 /// Confirmed once more it would be there twice.
 TEST_F(RefusedTest, ANewLoanThatTurnsOutToBeStoredIsAskedForNoMore) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  dialogs_.Expect([&](QWidget&) {
-    proxy.NextMeets(SocketProxy::Fate::DeadAfter);
-    Answer("Verhuur");
-  });
-  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
-    EXPECT_FALSE(Details(box).contains("niet opgeslagen")) << qPrintable(Details(box));
-    EXPECT_TRUE(Details(box).contains("Blijkt dat het is opgeslagen, dan sluit dat venster vanzelf."));
-    Pressing(Qt::Key_Return)(box);
-  });
-  dialogs_.Expect([&](QWidget& window) {
-    const QPointer<QWidget> dialog(&window);
-    EXPECT_TRUE(Unstored().startsWith("Niet bekend of dit is opgeslagen (Lening toevoegen): "))
-        << qPrintable(Unstored());
-    proxy.Mend();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog || !dialog->isVisible(); }, test::kPatience));
-  });
+  ExpectRefusal({.before = [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); },
+                 .text = "Verhuur",
+                 .says = {"Blijkt dat het is opgeslagen, dan sluit dat venster vanzelf."},
+                 .says_not = {"niet opgeslagen"},
+                 .then =
+                     [&](QWidget&) {
+                       ExpectUnstored("Niet bekend of dit is opgeslagen (Lening toevoegen): ");
+                       proxy.Mend();
+                       EXPECT_TRUE(
+                           QTest::qWaitFor([&] { return !refused_ || !refused_->isVisible(); }, test::kPatience));
+                     }});
   window_->Actions().addLening->trigger();
   EXPECT_TRUE(IsBack()) << qPrintable(Bar(*window_));
   EXPECT_EQ(Screen().Dossier().AantalLeningen(), 3);
   EXPECT_EQ(Screen().Dossier().FindLening(3)->Naam(), "Verhuur");
-  EXPECT_EQ(Unstored(), "");
-  EXPECT_TRUE(UnfinishedText::All().empty());
+  ExpectNothingUnstored();
 }
 
 TEST_F(RefusedTest, ClientDataThatTurnOutNotToBeStoredAreConfirmedOnceMore) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  dialogs_.Expect([&](QWidget&) {
-    proxy.NextMeets(SocketProxy::Fate::DeadBefore);
-    Answer("Q.");
-  });
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  dialogs_.Expect([&](QWidget& window) {
-    EXPECT_TRUE(Unstored().startsWith("Niet bekend of dit is opgeslagen (Cliëntgegevens): ")) << qPrintable(Unstored());
-    proxy.Mend();
-    EXPECT_TRUE(IsBack());
-    EXPECT_TRUE(Unstored().startsWith("Niet opgeslagen (Cliëntgegevens): ")) << qPrintable(Unstored());
-    ASSERT_EQ(UnfinishedText::All().size(), 1U);
-    EXPECT_FALSE(UnfinishedText::All().front().what.unknown);
-    ASSERT_TRUE(window.isVisible());
-    PressKey(Qt::Key_Return);
-    EXPECT_FALSE(window.isVisible());
-  });
-  PressKey(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(StoredPersons()[0].Naam[0], "Q.");
-  EXPECT_EQ(Unstored(), "");
+  ExpectRefusal({.before = [&] { proxy.NextMeets(SocketProxy::Fate::DeadBefore); },
+                 .text = "Q.",
+                 .then =
+                     [&](QWidget& dialog) {
+                       ExpectUnstored("Niet bekend of dit is opgeslagen (Cliëntgegevens): ");
+                       proxy.Mend();
+                       EXPECT_TRUE(IsBack());
+                       ExpectUnstored("Niet opgeslagen (Cliëntgegevens): ");
+                       ASSERT_EQ(UnfinishedText::All().size(), 1U);
+                       EXPECT_FALSE(UnfinishedText::All().front().what.unknown);
+                       ConfirmAgain(dialog);
+                     }});
+  OpenClientData();
+  EXPECT_EQ(StoredInitials(), "Q.");
+  ExpectNothingUnstored();
 }
 
 TEST_F(RefusedTest, AnEditWhoseAnswerWasLostIsNotToldAsNotStored) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
-    EXPECT_TRUE(Details(box).contains("blijkt of dat is gelukt")) << qPrintable(Details(box));
-    EXPECT_TRUE(Details(box).contains("Voer haar niet opnieuw in.")) << qPrintable(Details(box));
-    EXPECT_FALSE(Details(box).contains("niet opgeslagen")) << qPrintable(Details(box));
-    // The program ends before that is known.
-    window_->EndInOrder();
-  });
-  PressKey(Qt::Key_Tab);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }, test::kPatience));
+  // The program ends before that is known.
+  ExpectFailed({"blijkt of dat is gelukt", "Voer haar niet opnieuw in."}, {"niet opgeslagen"},
+               [this](QWidget&) { window_->EndInOrder(); });
+  Describe("Avondkrant", [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window_->Screen() == nullptr; }));
   ASSERT_EQ(UnfinishedText::All().size(), 1U);
   NewWindow();
   dialogs_.Expect([&](QWidget& dialog) {
@@ -175,29 +188,21 @@ TEST_F(RefusedTest, AnEditWhoseAnswerWasLostIsNotToldAsNotStored) {
 TEST_F(RefusedTest, WhatIsRefusedWhileAnEditIsInDoubtIsKeptWhenThatTurnsOutToBeStored) {
   SocketProxy proxy(office_.Server().Folder());
   OpenAs(*window_, "anna", proxy.Folder());
-  PressKey(Qt::Key_O, Qt::AltModifier);
-  Type("Avondkrant");
-  proxy.NextMeets(SocketProxy::Fate::DeadAfter);
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
-  PressKey(Qt::Key_Tab);
+  ExpectFailed();
+  Describe("Avondkrant", [&] { proxy.NextMeets(SocketProxy::Fate::DeadAfter); });
   ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": Avondkrant"); }, test::kPatience))
       << qPrintable(Unstored());
   QTest::qWait(100);
-  dialogs_.ExpectMessage(kFailed, [&](QWidget& box) {
-    EXPECT_TRUE(Details(box).contains("De wijziging is niet opgeslagen")) << qPrintable(Details(box));
-    Pressing(Qt::Key_Return)(box);
-  });
+  ExpectFailed({"De wijziging is niet opgeslagen"});
   PressKey(Qt::Key_B, Qt::AltModifier);
   Type("77");
   PressKey(Qt::Key_Tab);
   ASSERT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": 77"); }, test::kPatience)) << qPrintable(Unstored());
   EXPECT_EQ(UnfinishedText::All().size(), 2U);
   proxy.Mend();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Text(*window_, "bericht").endsWith("De laatste wijziging is opgeslagen."); },
-                              test::kPatience))
-      << qPrintable(Text(*window_, "bericht"));
+  ExpectNotice("De laatste wijziging is opgeslagen.");
   EXPECT_EQ(Stored(), "Avondkrant");
-  EXPECT_TRUE(Unstored().startsWith("Niet opgeslagen (") && Unstored().endsWith(": 77")) << qPrintable(Unstored());
+  ExpectUnstored("Niet opgeslagen (", ": 77");
   EXPECT_EQ(UnfinishedText::All().size(), 1U);
 }
 
@@ -209,12 +214,7 @@ TEST_F(RefusedTest, AFileIsMadeWithoutItsHistoryWhereTheConnectionBreaksMeanwhil
   OpenAs(*window_, "anna", proxy.Folder());
   proxy.Cut();
   const QString copy = folder_.filePath("bewaard.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   window_->Actions().office.toFile->trigger();
   EXPECT_TRUE(window_->statusBar()->currentMessage().contains("zonder geschiedenis"))
       << qPrintable(window_->statusBar()->currentMessage());
@@ -270,12 +270,7 @@ TEST_F(UnreadableTest, AHistoryThatCannotBeReadIsToldAndTheWorkGoesOn) {
   dialogs_.Expect(told);
   PressKey(Qt::Key_F8);
   const QString copy = folder_.filePath("bewaard.dossier");
-  dialogs_.Expect([&](QWidget& window) {
-    auto* box = window.findChild<QLineEdit*>("fileNameEdit");
-    ASSERT_TRUE(box);
-    box->setText(copy);
-    QTest::keyClick(window.windowHandle(), Qt::Key_Return);
-  });
+  ExpectFileQuestion(copy);
   dialogs_.Expect(told);
   window_->Actions().office.toFile->trigger();
   EXPECT_FALSE(QFile::exists(copy));
@@ -322,7 +317,7 @@ TEST_F(UnreadableTest, WhoTakesOverWhatCannotBeReadEditsNothingUntilItCan) {
   EXPECT_TRUE(window_->windowTitle().contains("(alleen lezen)")) << qPrintable(window_->windowTitle());
   EXPECT_FALSE(window_->Actions().add->isEnabled());
   EXPECT_TRUE(window_->Actions().office.handOver->isEnabled());
-  dialogs_.ExpectMessage(kFailed, Pressing(Qt::Key_Return));
+  ExpectFailed();
   window_->Screen()->Kolom().FocusOmschrijving();
   Describe("Avondkrant");
   Superuser(QString("UPDATE kantoor.client SET laatste = laatste - 1 WHERE nummer = %1").arg(client_));

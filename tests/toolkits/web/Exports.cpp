@@ -4,10 +4,13 @@
 #include <emscripten.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstring>
 
 #include "tests/toolkits/web/NotHere.h"
 #include "tests/toolkits/web/Stage.h"
+#include <brivane/frame/Calendar.h>
+#include <brivane/frame/Dates.h>
 #include <brivane/frame/Texts.h>
 #include <brivane/toolkits/web/Person.h>
 #include <brivane/toolkits/web/Turns.h>
@@ -76,16 +79,26 @@ EMSCRIPTEN_KEEPALIVE void brivane_answered(int page, int box, int answer) {
     stage->Toolkit().Desktop().Answered(box, static_cast<brivane::host::MessageAnswer>(answer));
 }
 
-EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated) {
+EMSCRIPTEN_KEEPALIVE int brivane_is_meant(int page, int box, int repeated, double ago) {
   using Press = brivane::controls::KeysUnderWay::Press;
   Stage* const stage = Stage::Find(page);
-  return stage != nullptr && stage->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First) ? 1
-                                                                                                                   : 0;
+  if (stage == nullptr) return 0;
+  const std::chrono::milliseconds passed(static_cast<std::chrono::milliseconds::rep>(ago));
+  return stage->Toolkit().Desktop().IsMeant(box, repeated != 0 ? Press::Repeat : Press::First, passed) ? 1 : 0;
 }
 
 EMSCRIPTEN_KEEPALIVE int brivane_minds_being_left(int page, int node) {
   Stage* const stage = Stage::Find(page);
   return stage != nullptr && web::MindsBeingLeft(stage->Toolkit(), node) ? 1 : 0;
+}
+
+EMSCRIPTEN_KEEPALIVE int brivane_day(int page, int node) {
+  Stage* const stage = Stage::Find(page);
+  return stage != nullptr ? web::DayIn(stage->Toolkit(), node).Days() : 0;
+}
+EMSCRIPTEN_KEEPALIVE int brivane_first_day() {
+  using namespace brivane::frame;
+  return MakeDate({kFirstYear, 1, 1}).Days();
 }
 
 EMSCRIPTEN_KEEPALIVE void brivane_came_back(int page, int waiting) {

@@ -3,7 +3,7 @@ import assert from 'node:assert/strict';
 
 import { Person } from './person.mjs';
 
-const PATIENCE = 10000;
+export const PATIENCE = 10000;
 
 export const SAMPLE = ['Kinderopvang · € 485,50 per maand', 'Krant · Weekendabonnement · € 32,50 per maand',
   'Muzieklessen aan huis · € 350,00 per maand', 'Goed doel · Gift nieuwbouw kinderhoek · € 1.500,00 eenmalig',
@@ -14,12 +14,12 @@ export class Demo {
   static async started(open, options = {}) {
     return Demo.#shown(await open('/demo/index.html', { width: 1280, height: 800 }, { alone: true, ...options }));
   }
-  /** Another page beside it, on the same store. */
+  /** Another page beside it or after it, on the same store. */
   async beside() {
-    const page = await this.page.browserContext().newPage();
+    const page = await this.context.newPage();
     page.faults = [];
     page.on('pageerror', (error) => page.faults.push(String(error)));
-    await page.goto(this.page.url());
+    await page.goto(this.address);
     return Demo.#shown(page);
   }
   static async #shown(page) {
@@ -30,6 +30,8 @@ export class Demo {
   constructor(page) {
     this.page = page;
     this.person = new Person(page);
+    this.context = page.browserContext();
+    this.address = page.url();
   }
 
   columns() {

@@ -30,6 +30,14 @@ export async function embed(application: Application, lening: Lening): Promise<s
   const editor = document.createElement('vrije-kolom');
   const made: VrijeKolomElement = editor;
   made.addEventListener('refreshtopdisplay', (event) => console.log(event.detail.text.length));
+  const hear = (event: CustomEvent<{ text: string }>): void => console.log(event.detail.text);
+  const changed = (event: CustomEvent<null>): null => event.detail;
+  made.addEventListener('refreshtopdisplay', hear);
+  made.removeEventListener('refreshtopdisplay', hear);
+  made.removeEventListener('changed', changed, { capture: true });
+  made.removeEventListener('iets', () => {});
+  // @ts-expect-error a header is no change
+  made.removeEventListener('changed', hear);
   made.questionDetails = (title, text) => title + text;
   made.hostFactories = { dossierControle: () => ({ Controleer: () => {} }) };
   const toelichting = document.createElement('vrije-kolom-toelichting');

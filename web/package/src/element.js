@@ -1,4 +1,4 @@
-import { failAsMismatch } from './errors.js';
+import { failAsMismatch, numberOf } from './errors.js';
 import { stopsIn } from './events.js';
 import { Job } from './jobs.js';
 import { notLoadedAt } from './languages.js';
@@ -12,11 +12,6 @@ const RESULTS = ['bound', 'failed', 'refused'];
 const EVENTS = ['refreshtopdisplay', 'heightchanged', 'changed'];
 /** Of the explanation control, in twips. */
 const DESIGN_WIDTH = 6030;
-
-function whole(value) {
-  if (!Number.isInteger(value) || Math.abs(value) > 0x7fff) failAsMismatch();
-  return value;
-}
 
 /** Where pages are made on a server there are no elements, and importing this does nothing. */
 const Base = globalThis.HTMLElement ?? class {};
@@ -108,7 +103,7 @@ class ControlElement extends Base {
   set backColor(color) {
     if (!Number.isInteger(color)) failAsMismatch();
     this.#backColor = color;
-    this.#use(() => this.#job(Job.backColor, { number: color | 0 }));
+    this._set(Job.backColor, color | 0);
   }
 
   /** To the first control that takes the focus, or to what is asked. */
@@ -118,7 +113,7 @@ class ControlElement extends Base {
   }
 
   async validation(controleNr = 0, cancel = false) {
-    const number = whole(controleNr);
+    const number = numberOf(controleNr);
     return (await this.#use(() => this.#job(Job.validation, { number, more: cancel ? 1 : 0 }))) !== 0;
   }
   async commitPending() {
@@ -133,10 +128,15 @@ class ControlElement extends Base {
   async _bind(binding) {
     const result = RESULTS[await this.#use(() => this.#job(Job.bind, binding))];
     if (result !== 'refused') this.#bound = binding.first == null ? null : binding;
+    if (result === 'bound') this._laidOut();
     return result;
   }
   async _job(job, order) {
     return this.#use(() => this.#job(job, order));
+  }
+  /** For who waits for nothing: what fails here makes the binding fail too, which says so. */
+  _set(job, number) {
+    this._job(job, { number }).catch(() => {});
   }
 
   /** For tests, which reach further than a host. */
@@ -180,11 +180,14 @@ class ControlElement extends Base {
 
   /** An element that is put back in a page is as it was. */
   #again() {
-    if (this.#backColor !== null) this.#job(Job.backColor, { number: this.#backColor | 0 });
+    if (this.#backColor !== null) this._set(Job.backColor, this.#backColor | 0);
     this._again();
     if (this.#bound !== null && this.state === 'never') this.#job(Job.bind, this.#bound);
+    this._laidOut();
   }
   _again() {}
+  /** It was bound: what lays it out by its place does so. */
+  _laidOut() {}
 
   /** What screen readers call it, unless its page says otherwise. */
   #speak(language) {
@@ -209,7 +212,9 @@ class ControlElement extends Base {
 
   #details(title, text) {
     try {
-      return String(this.#questionDetails?.(title, text) ?? '');
+      const details = this.#questionDetails?.(title, text) ?? '';
+      if (typeof details !== 'string') failAsMismatch();
+      return details;
     } catch (error) {
       reportError(error);
       return '';
@@ -239,11 +244,11 @@ export class VrijeKolomElement extends ControlElement {
 
   /** Binds the editor to a column of a loan (0: the loan of the current situation) and fills it. */
   async setApplication(application, lenId, vrijId) {
-    return this._bind({ first: application, number: whole(lenId), more: whole(vrijId) });
+    return this._bind({ first: application, number: numberOf(lenId), more: numberOf(vrijId) });
   }
   /** The check of the explanation control inside the editor. */
   async validationToelichting(controleNr = 0, cancel = false) {
-    const order = { number: whole(controleNr), more: cancel ? 1 : 0 };
+    const order = { number: numberOf(controleNr), more: cancel ? 1 : 0 };
     return (await this._job(Job.validationToelichting, order)) !== 0;
   }
 
@@ -252,18 +257,22 @@ export class VrijeKolomElement extends ControlElement {
   }
   set beeindigenZichtbaar(zichtbaar) {
     this.#beeindigenZichtbaar = Boolean(zichtbaar);
-    this._job(Job.beeindigenZichtbaar, { number: zichtbaar ? 1 : 0 });
+    this._set(Job.beeindigenZichtbaar, zichtbaar ? 1 : 0);
   }
   _again() {
-    if (this.#beeindigenZichtbaar) this._job(Job.beeindigenZichtbaar, { number: 1 });
+    if (this.#beeindigenZichtbaar) this._set(Job.beeindigenZichtbaar, 1);
   }
 }
 
 /** The explanation control by itself. It is as wide as its place, and no narrower than its design. */
 export class ToelichtingElement extends ControlElement {
+  /** In twips: of its place when that was seen last. */
+  #width = DESIGN_WIDTH;
   #sizes = new ResizeObserver(([entry]) => {
-    const width = Math.round(entry.contentRect.width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM));
-    if (this.state === 'bound') this._job(Job.size, { number: Math.max(DESIGN_WIDTH, width) });
+    const { width } = entry.contentRect;
+    if (width === 0) return;
+    this.#width = Math.max(DESIGN_WIDTH, Math.round(width / (parseFloat(getComputedStyle(this).fontSize) / TWIPS_AN_EM)));
+    this._laidOut();
   });
 
   constructor() {
@@ -277,7 +286,11 @@ export class ToelichtingElement extends ControlElement {
     return null;
   }
 
+  _laidOut() {
+    if (this.state === 'bound') this._set(Job.size, this.#width);
+  }
+
   async setApplication(application, lening, vrijId) {
-    return this._bind({ first: application, second: lening, number: 0, more: whole(vrijId) });
+    return this._bind({ first: application, second: lening, number: 0, more: numberOf(vrijId) });
   }
 }

@@ -15,6 +15,11 @@ const TYPE_MISMATCH = 13;
 export function failAsMismatch() {
   throw new HostError(TYPE_MISMATCH, 'Type mismatch');
 }
+/** For the machine, which says what is wrong with a number. */
+export function numberOf(value) {
+  if (typeof value !== 'number') failAsMismatch();
+  return value;
+}
 
 const FOREIGN = 440;
 const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 ** 31;
@@ -23,7 +28,7 @@ const isNumber = (number) => Number.isInteger(number) && Math.abs(number) < 2 **
 export function failureOf(thrown) {
   try {
     const number = isNumber(thrown?.number) ? thrown.number : FOREIGN;
-    const description = String(thrown instanceof Error ? thrown.message : thrown);
+    const description = typeof thrown?.message === 'string' ? thrown.message : String(thrown);
     return { number, description, source: typeof thrown?.source === 'string' ? thrown.source : 'BrivaneVrijeKolom' };
   } catch {
     return { number: FOREIGN, description: '', source: 'BrivaneVrijeKolom' };

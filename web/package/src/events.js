@@ -146,23 +146,23 @@ export function listen(view) {
     if (view.tip.anchor !== null) return stop(event), view.tip.take();
     if (view.dialog === null) return;
     stop(event);
-    leave(view.dialog);
+    leave(view.dialog, event);
   }
 
   /** What Escape says in a dialog. */
-  function leave(dialog) {
-    if (dialog.box !== undefined) dialog.box.leave();
+  function leave(dialog, event) {
+    if (dialog.box !== undefined) dialog.box.leave(event);
     else run(Job.close, dialog.node);
   }
 
   /** The browser wants a dialog away, by a key that nobody heard or by another means. */
   function cancel(event) {
     event.preventDefault();
-    if (event.target === view.dialog) leave(event.target);
+    if (event.target === view.dialog) leave(event.target, event);
   }
   /** It does not always ask. */
   function close(event) {
-    if (view.reopen(event.target) && event.target === view.dialog) leave(event.target);
+    if (view.reopen(event.target) && event.target === view.dialog) leave(event.target, event);
   }
 
   function input(event) {
@@ -204,7 +204,8 @@ export function listen(view) {
     stop(event);
     const dropped = (click) => stop(click);
     view.root.addEventListener('click', dropped, { capture: true, once: true });
-    addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
+    // It may be let go of outside of the view; which may stand in another window than this script runs in.
+    root.ownerDocument.defaultView.addEventListener('mouseup', () => setTimeout(() => view.root.removeEventListener('click', dropped, true)), { once: true });
   }
 
   function click(event) {
@@ -222,7 +223,7 @@ export function listen(view) {
   function toggle(event, node) {
     const half = event.target.closest('span');
     if (half === null) run(Job.key, node, { text: ' ' });
-    else run(Job.picked, node, { number: half.textContent === 'Ja' ? 2 : 1 });
+    else run(Job.picked, node, { number: half === node.input.firstElementChild ? 2 : 1 });
   }
 
   /**

@@ -16,6 +16,9 @@ const NO_SUCH_MEMBER = 438;
 
 const lists = new Map([['VulCombo', 2]]);
 
+/** The host may live in another window than the elements. */
+const isDate = (value) => Object.prototype.toString.call(value) === '[object Date]';
+
 /** The objects of the host that one element has kept for the machine. */
 export class HostObjects {
   #numbers = new Map();
@@ -140,7 +143,7 @@ export class Host {
       case 'function': break;
       default: return put(Type.other);
     }
-    if (value instanceof Date) return put(Type.date, dayOf(value));
+    if (isDate(value)) return put(Type.date, dayOf(value));
     put(Type.object);
     memory.putWhole(place + OBJECT, element.objects.keep(value));
   }

@@ -2,7 +2,7 @@ import type { Application, Lening, ProcedureTrace, DossierControle } from './mod
 
 export type * from './model.js';
 
-/** What became of a binding. Refused: something that is being typed does not pass, and the element stays bound as it was. */
+/** What became of a binding. Failed: `ReportError` was told why. Refused: something that is being typed does not pass, and the element stays bound as it was. */
 export type BindingResult = 'bound' | 'failed' | 'refused';
 /** What an element stands for. After a failed binding and after letting go it shows nothing until a binding succeeds. */
 export type BindingState = 'never' | 'bound' | 'failed' | 'unbound';
@@ -64,7 +64,10 @@ declare class ControlElement extends HTMLElement {
    */
   lang: string;
   hostFactories: HostFactories;
-  /** What the host adds below a question of the editor, such as what "Ja" will remove; empty for nothing. */
+  /**
+   * What the host adds below a question of the editor, such as what "Ja" will remove; empty for nothing. It is asked while the
+   * question is made, so it answers a text and no promise: anything else is reported to the page, and nothing is added.
+   */
   questionDetails: ((title: string, text: string) => string) | null;
   /** A colour as the component has it: 0x00BBGGRR, or below 0 for one of the system, which is the page's. */
   backColor: number;
@@ -97,13 +100,24 @@ declare class ControlElement extends HTMLElement {
     listener: EventListenerOrEventListenerObject,
     options?: boolean | AddEventListenerOptions,
   ): void;
+  removeEventListener<K extends keyof ControlEventMap>(
+    type: K,
+    listener: (this: this, event: ControlEventMap[K]) => unknown,
+    options?: boolean | EventListenerOptions,
+  ): void;
+  removeEventListener(
+    type: string,
+    listener: EventListenerOrEventListenerObject,
+    options?: boolean | EventListenerOptions,
+  ): void;
 }
 
 /** `<vrije-kolom>`: the editor of a free column. */
 export class VrijeKolomElement extends ControlElement {
   /**
    * Binds the editor to column `vrijId` of loan `lenId` (0: the loan of the current situation) and fills it. Without an
-   * application it lets go of the host.
+   * application it lets go of the host. Rejects with a HostError where `ReportError` could not be told: it
+   * is not there or fails, `hostFactories` fail or make something else, a number is none (13) or too large (6).
    */
   setApplication(application: Application | null, lenId: number, vrijId: number): Promise<BindingResult>;
   /** The check of the explanation control inside the editor: whether to stay. */

@@ -1,4 +1,4 @@
-import { HostError } from './errors.js';
+import { failAsMismatch, HostError, numberOf } from './errors.js';
 
 /** As in Keuzelijst.cpp. */
 const Way = Object.freeze({ clear: 0, addItem: 1, listCount: 2, listIndex: 3, setListIndex: 4, itemData: 5, list: 6, text: 7 });
@@ -22,7 +22,8 @@ export class Keuzelijst {
     this.#ask(Way.clear);
   }
   AddItem(tekst, itemData = 0) {
-    this.#ask(Way.addItem, itemData, String(tekst));
+    if (typeof tekst !== 'string') failAsMismatch();
+    this.#ask(Way.addItem, numberOf(itemData), tekst);
   }
   get ListCount() {
     return this.#ask(Way.listCount).number;
@@ -31,13 +32,13 @@ export class Keuzelijst {
     return this.#ask(Way.listIndex).number;
   }
   set ListIndex(index) {
-    this.#ask(Way.setListIndex, index);
+    this.#ask(Way.setListIndex, numberOf(index));
   }
   ItemData(index) {
-    return this.#ask(Way.itemData, index).number;
+    return this.#ask(Way.itemData, numberOf(index)).number;
   }
   List(index) {
-    return this.#ask(Way.list, index).text;
+    return this.#ask(Way.list, numberOf(index)).text;
   }
   get Text() {
     return this.#ask(Way.text).text;

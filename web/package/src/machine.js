@@ -148,7 +148,19 @@ export function answerBox(view, box, answer) {
 
 /** Whether it changes anything that the focus leaves a node. */
 export const mindsBeingLeft = (view, node) => machine._brivane_minds_being_left(view.number, node.id) !== 0;
-export const isMeant = (view, box, repeated) => machine._brivane_is_meant(view.number, box, repeated ? 1 : 0) !== 0;
+/** The day at which the calendar of a box opens, NaN where no day stands in it, and the first that may be picked. */
+export const dayIn = (view, node) => machine._brivane_day(view.number, node.id) || NaN;
+export const firstDay = () => machine._brivane_first_day();
+
+/** How many milliseconds ago something happened that is heard of now, by the clock of the window that it happened in. */
+function ageOf(event) {
+  const { performance } = event.target.ownerDocument.defaultView;
+  return Math.max(0, performance.now() - event.timeStamp);
+}
+
+/** Whether a key, or another event that would answer a box, is meant for it. */
+export const isMeant = (view, box, event) =>
+  machine._brivane_is_meant(view.number, box, event.repeat ? 1 : 0, ageOf(event)) !== 0;
 export const backColorOf = (view) => machine._brivane_back_color(view.number);
 export const stateOf = (view) => machine._brivane_state(view.number);
 export const isPending = (view) => machine._brivane_pending(view.number) !== 0;

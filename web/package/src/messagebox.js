@@ -1,7 +1,8 @@
-// A message box: modal, answered on purpose. No bare letter answers it, and a key counts only after a pause in the typing.
+// A message box: modal, answered on purpose. No bare letter answers it, and a key counts only after a pause in the typing:
+// the time is that at which it went down, however busy the page was afterwards.
 
 import { answerBox, isMeant } from './machine.js';
-import { OWN_LANGUAGE, writeCaption } from './nodes.js';
+import { OWN_LANGUAGE, writeCaption } from './nodes/captions.js';
 
 const QUESTION = 36;
 const THE_CONTROLS = 0;
@@ -46,8 +47,8 @@ export class MessageBox {
   }
 
   /** As Escape does: what stands where nobody answers, from who has seen the box. */
-  leave() {
-    if (isMeant(this.#view, this.#number, false)) this.#answer(this.#unanswered);
+  leave(event) {
+    if (isMeant(this.#view, this.#number, event)) this.#answer(this.#unanswered);
   }
 
   #button(text, answer, first = false) {
@@ -74,7 +75,7 @@ export class MessageBox {
   }
 
   #keyDown(event) {
-    if (!isMeant(this.#view, this.#number, event.repeat)) {
+    if (!isMeant(this.#view, this.#number, event)) {
       this.#passed.add(event.code);
       event.preventDefault();
       event.stopPropagation();

@@ -24,11 +24,11 @@ const CSS_TEXT = `
 :host {
   display: block;
   overflow: auto hidden;
+  font: 1em/1.25 sans-serif;
   font-family: var(--vrije-kolom-font-family, Arial, "Liberation Sans", sans-serif);
   font-size: var(--vrije-kolom-font-size, inherit);
-  line-height: 1.25;
-  text-align: start;
-  direction: ltr;
+  letter-spacing: normal; word-spacing: normal; text-transform: none; text-indent: 0; text-align: start; text-shadow: none;
+  white-space: normal; word-break: normal; overflow-wrap: normal; hyphens: manual; direction: ltr; writing-mode: horizontal-tb;
   color: var(--vrije-kolom-color, CanvasText);
   background: var(--vrije-kolom-background, transparent);
   --accent: var(--vrije-kolom-accent, light-dark(#0a58a8, #8ab8f5));
@@ -104,6 +104,7 @@ fieldset { border: 0; margin: 0; padding: 0; min-inline-size: 0; }
   font-weight: bold; line-height: 1; forced-color-adjust: none;
 }
 .spoken { position: absolute; width: 1px; height: 1px; overflow: hidden; clip-path: inset(50%); }
+.spoken[role] { position: fixed; inset: 0 auto auto 0; }
 .tip, .bubble {
   border: 1px solid; border-color: var(--line); border-radius: 3px; background-color: light-dark(#fffbe6, #2b2f36); color: CanvasText;
   box-shadow: 0 2px 6px rgb(0 0 0 / .3);

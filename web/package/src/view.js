@@ -2,11 +2,12 @@
 // by name (machine.js); what a person does goes back by events.js.
 
 import { listen, stopsIn } from './events.js';
-import { Bubble, Tip } from './floating.js';
+import { Bubble, makeStatus, Tip } from './floating.js';
 import { HostObjects } from './host.js';
 import { languageAt } from './languages.js';
 import { MessageBox } from './messagebox.js';
-import { keepPattern, makeNode } from './nodes.js';
+import { makeNode } from './nodes.js';
+import { keepPattern } from './nodes/making.js';
 
 /** What the machine asks of a node; as in Page.h. */
 const Asked = Object.freeze({ hasFocus: 0, isAtHand: 1 });
@@ -44,6 +45,8 @@ export class View {
   nodes = new Map();
   bubble = new Bubble();
   tip = new Tip();
+  /** What is said of what stands in no dialog. */
+  status = makeStatus();
   /** What is added to the controls is said in it. */
   language;
   /** Its dialogs are put back on the screen, which is nobody's leaving anything. */
@@ -119,6 +122,7 @@ export class View {
   appear() {
     this.#hasAppeared = true;
     for (const { around, outer } of this.nodes.values()) if (around === null) this.root.append(outer);
+    this.root.append(this.status);
   }
 
   drop(id) {

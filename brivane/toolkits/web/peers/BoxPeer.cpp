@@ -62,6 +62,12 @@ bool BoxPeer::HandOver() {
   return edit_.Commit() && !life.expired();
 }
 
+host::Date BoxPeer::Day() const {
+  const controls::TypedContent typed = edit_.Read(text_);
+  const auto* const date = std::get_if<host::Date>(&typed.value);
+  return date != nullptr ? *date : host::kNoDate;
+}
+
 void BoxPeer::OnPicked(int days) {
   if (box_.Format() != frame::Format::Date || box_.Locked()) return;
   edit_.TypeOver(frame::ShowDate(host::Date(days)));

@@ -18,6 +18,7 @@ class BoxPeer final : public NodePeer, private controls::EntryFace {
   void OnPasted(const std::string& text) override { edit_.Paste(text); }
   void OnLeft() override { (void)edit_.Commit(); }
   [[nodiscard]] bool MindsBeingLeft() const override { return edit_.IsPending() || said_; }
+  [[nodiscard]] host::Date Day() const override;
   /// A day of a calendar, counted from 30 December 1899.
   void OnPicked(int days) override;
   [[nodiscard]] bool HandOver() override;

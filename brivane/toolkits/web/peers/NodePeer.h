@@ -29,6 +29,8 @@ class NodePeer : public controls::Peer {
   virtual void OnLeft() {}
   /// Whether that changes anything.
   [[nodiscard]] virtual bool MindsBeingLeft() const { return false; }
+  /// The day that stands in it, as typed; none where none does.
+  [[nodiscard]] virtual host::Date Day() const { return host::kNoDate; }
   /// A press, or another value: of an option its being chosen, of a list an index.
   virtual void OnPicked(int /*value*/) {}
 
