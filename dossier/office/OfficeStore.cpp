@@ -176,7 +176,10 @@ std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*hear
           step = session_->LastStep()](const OfficeAnswer& answer) {
     if (here.expired() || of != asked_of_ || !IsAsked()) return;
     asked_of_ = 0;
-    if (state == Now()) (this->*heard)(answer, step);
+    if (state == Now())
+      (this->*heard)(answer, step);
+    else
+      again_ = true;  // nobody tells of what came between that question and this state
     TellIfChanged();
     if (std::exchange(again_, false) && !IsAsked() && session_->IsThere()) timer_->start(0);
   };
