@@ -171,11 +171,15 @@ bool OfficeStore::IsAsked() const { return asked_of_ != 0 && asked_of_ == sessio
 std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*heard)(const OfficeAnswer&, std::int64_t)) {
   asked_of_ = session_->Office().User().pid;
   answered_by_ = QDeadlineTimer(WaitingTimes::Now().silence);
+  overdue_ = false;
   return [this, heard, here = std::weak_ptr(here_), of = asked_of_, state = Now(),
           step = session_->LastStep()](const OfficeAnswer& answer) {
     if (here.expired() || of != asked_of_ || !IsAsked()) return;
     asked_of_ = 0;
-    if (state == Now()) (this->*heard)(answer, step);
+    if (state == Now())
+      (this->*heard)(answer, step);
+    else
+      again_ = true;  // nobody tells of what came between that question and this state
     TellIfChanged();
     if (std::exchange(again_, false) && !IsAsked() && session_->IsThere()) timer_->start(0);
   };
@@ -184,6 +188,9 @@ std::function<void(OfficeAnswer)> OfficeStore::Counting(void (OfficeStore::*hear
 void OfficeStore::LookAside() {
   if (!IsAsked()) {
     session_->LookAside(Counting(&OfficeStore::Heard));
+  } else if (answered_by_.hasExpired() && !std::exchange(overdue_, true)) {
+    // Where the machine slept the answer may be there already, and is heard first.
+    answered_by_ = QDeadlineTimer(WaitingTimes::Now().overdue);
   } else if (answered_by_.hasExpired()) {
     session_->Office().GiveUp();
     session_->Broke();

@@ -137,6 +137,8 @@ class OfficeStore final : public DossierStore {
   /// The session at which a question is under way, 0 for none.
   int asked_of_ = 0;
   QDeadlineTimer answered_by_;
+  /// It should have been answered, and is waited for a last time.
+  bool overdue_ = false;
   /// Something was told meanwhile.
   bool again_ = false;
   /// Gone with this object: a question outlives it.

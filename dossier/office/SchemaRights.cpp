@@ -3,7 +3,11 @@
 namespace brivane::dossier {
 
 // The group roles belong to the whole server, the schema to one database. Nobody logs in as the owner.
+//
+// Who makes a role is a member of it at once from PostgreSQL 16 on, and still may not become it: the membership is
+// granted always. Where it was there the server would only say so.
 const char* const kRolesV1 = R"sql(
+SET LOCAL client_min_messages = warning;
 DO $$
 DECLARE
   rol text;
@@ -13,9 +17,7 @@ BEGIN
       EXECUTE format('CREATE ROLE %I NOLOGIN NOSUPERUSER NOCREATEDB NOCREATEROLE NOREPLICATION NOBYPASSRLS', rol);
     END IF;
   END LOOP;
-  IF NOT pg_has_role(current_user, 'kantoor_eigenaar', 'MEMBER') THEN
-    EXECUTE format('GRANT kantoor_eigenaar TO %I', current_user);
-  END IF;
+  EXECUTE format('GRANT kantoor_eigenaar TO %I', current_user);
 END $$;
 CREATE EXTENSION IF NOT EXISTS pg_trgm;
 CREATE EXTENSION IF NOT EXISTS btree_gin;

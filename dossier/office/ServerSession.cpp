@@ -21,24 +21,18 @@ ServerSession::ServerSession(Told told) : name_(NewName()), told_(std::move(told
 
 void ServerSession::Open(const QString& options, const QString& password) {
   if (given_up) MustBeThere();
-  broken = true;
-  statements_.clear();
-  const bool first = !database_.isValid();
-  if (first)
-    database_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_);
-  else
-    database_.close();
+  Drop();
+  database_ = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), name_);
   if (!database_.isValid()) throw OfficeError(OfficeProblem::Refused, "The driver for PostgreSQL is missing");
   database_.setPassword(password);
   database_.setConnectOptions(options);
-  if (!database_.open()) Fail(database_.lastError());
-  if (given_up) MustBeThere();
-  broken = false;
-  if (!first) return;
   QObject::connect(database_.driver(), &QSqlDriver::notification, database_.driver(),
                    [told = told_](const QString& channel, QSqlDriver::NotificationSource, const QVariant& payload) {
                      told(channel, payload.toString());
                    });
+  if (!database_.open()) Fail(database_.lastError());
+  if (given_up) MustBeThere();
+  broken = false;
 }
 
 void ServerSession::MustBeThere() const {
@@ -96,19 +90,18 @@ void ServerSession::ListenNoMore(const QString& channel) {
   RunScript("UNLISTEN " + channel);
 }
 
-void ServerSession::End() {
+void ServerSession::Drop() {
   broken = true;
-  if (!database_.isValid()) return;
-  QObject::disconnect(database_.driver(), nullptr, nullptr, nullptr);
-  statements_.clear();
-  database_.close();
   database_ = {};
-  QSqlDatabase::removeDatabase(name_);
+  if (QSqlDatabase::contains(name_)) QSqlDatabase::removeDatabase(name_);
+  // After the driver, or each would be taken back at the server first.
+  statements_.clear();
 }
 
 void ServerSession::Fail(const QSqlError& error) {
   OfficeError failure(error);
-  if (failure.Problem() == OfficeProblem::Unreachable) broken = true;
+  // The line is closed already, and its number may be another's the next moment.
+  if (failure.Problem() == OfficeProblem::Unreachable) Drop();
   throw OfficeError(std::move(failure));
 }
 

@@ -29,7 +29,7 @@ class ServerSession {
   void Prepare(const QString& sql) { static_cast<void>(Prepared(sql)); }
   void Listen(const QString& channel);
   void ListenNoMore(const QString& channel);
-  void End();
+  void End() { Drop(); }
 
   /// There is no session, or it turned out to be gone.
   std::atomic<bool> broken = true;
@@ -38,6 +38,7 @@ class ServerSession {
 
  private:
   void MustBeThere() const;
+  void Drop();
   QSqlQuery& Prepared(const QString& sql);
   [[noreturn]] void Fail(const QSqlError& error);
 

@@ -15,6 +15,7 @@ struct WaitingTimes {
   Time little{5000};   ///< the server answered just now, or is asked for little
   Time moment{1000};   ///< on the way out
   Time silence{5000};  ///< nobody waits for it
+  Time overdue{500};   ///< the last time after that
   // For a session.
   Time back{1000};        ///< whether the office is there again, in the middle of an edit
   Time connecting{3000};  ///< to begin, where somebody waits; the network counts in whole seconds

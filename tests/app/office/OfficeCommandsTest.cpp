@@ -41,6 +41,17 @@ TEST(OfficeCommandsTest, TheSetUpMakesAnOfficeAndFindsItDoneTheNextTime) {
   EXPECT_EQ(again.out, "The office is up to date, version 1.\n");
 }
 
+TEST(OfficeCommandsTest, ADatabaseThatIsNotOfUtf8IsRefusedInOneLine) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  server.Psql("postgres", "postgres", "CREATE DATABASE oud ENCODING 'LATIN1' LOCALE 'C' TEMPLATE template0");
+  const Output output = RunProgram({"--kantoor-inrichten", server.Words("postgres", "oud")});
+  EXPECT_EQ(output.code, 1);
+  EXPECT_TRUE(output.out.isEmpty());
+  EXPECT_EQ(output.error,
+            "dossier: The database has the encoding LATIN1, and an office needs UTF8: make it by createdb "
+            "--encoding=UTF8 --template=template0\n");
+}
+
 TEST(OfficeCommandsTest, TheTrialOfficeHasTwoHundredClientsAndItsSessionLeavesPictures) {
   dossier::TrialOffice office;
   EXPECT_EQ(RunProgram({"--kantoor-proef", office.Words("anna")}).out, "200 clients added.\n");

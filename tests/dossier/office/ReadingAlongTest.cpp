@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <functional>
 
@@ -109,6 +110,29 @@ TEST_F(ReadingAlongTest, WhoWasAwayWhenAskedHearsOfItOnce) {
   const auto taken = office_.Open(client_, "bert");
   ASSERT_EQ(taken->Now(), State::Editing);
   EXPECT_EQ(office_.Psql("rob", QString("SELECT gevraagd_door IS NULL FROM kantoor.wie(%1)").arg(client_)), "t");
+}
+
+/// Who let go while it was looked who asks: what that found is older than what he is told of.
+TEST_F(ReadingAlongTest, WhatIsStoredBeforeOneIsToldOfItShowsToo) {
+  WaitingTimes times = Patient();
+  times.reading = std::chrono::hours(1);
+  for (const bool looks : {false, true}) {
+    SCOPED_TRACE(looks);
+    times.editing = looks ? std::chrono::milliseconds(1) : std::chrono::hours(1);
+    WaitingTimes::Set(times);
+    test::SocketProxy far(office_.Server().Folder(), std::chrono::milliseconds(200));
+    const auto editor = OfficeStore::Open(office_.Enter("anna", far.Folder()), client_);
+    Until([timer = QDeadlineTimer(50)] { return timer.hasExpired(); });
+    // Nobody is written down as reading along.
+    OfficeConnection elsewhere(office_.Words("postgres"));
+    elsewhere.Open();
+    elsewhere.RunScript("BEGIN; LOCK TABLE kantoor.meelezer IN SHARE ROW EXCLUSIVE MODE");
+    editor->LetGo();
+    const std::int32_t months = looks ? 45 : 44;
+    office_.Open(client_, "bert")->Dossier()->FindKolom(0, 1)->SetLooptijd(months);
+    elsewhere.RunScript("ROLLBACK");
+    EXPECT_TRUE(Until([&] { return Duration(*editor) == months; }));
+  }
 }
 
 TEST_F(ReadingAlongTest, NothingThatIsToldNamesAnybody) {

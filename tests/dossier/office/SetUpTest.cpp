@@ -61,6 +61,65 @@ TEST(SetUpTest, ByAnAccountThatOwnsTheDatabaseAndMakesRoles) {
   EXPECT_EQ(SetUpOffice(manager), kOfficeVersion);
 }
 
+TEST(SetUpTest, ADatabaseThatCannotHoldEveryNameIsRefused) {
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  for (const char* encoding : {"LATIN1", "SQL_ASCII"}) {
+    SCOPED_TRACE(encoding);
+    const QString database = QString("proef_") + QString(encoding).toLower();
+    bool failed = false;
+    server.Psql(
+        "postgres", "postgres",
+        QString("CREATE DATABASE %1 ENCODING '%2' LOCALE 'C' TEMPLATE template0").arg(database, QString(encoding)),
+        &failed);
+    ASSERT_FALSE(failed);
+    OfficeConnection manager(server.Words("postgres", database));
+    manager.Open();
+    try {
+      SetUpOffice(manager);
+      ADD_FAILURE() << "set up";
+    } catch (const OfficeError& error) {
+      EXPECT_EQ(error.Problem(), OfficeProblem::Refused);
+      EXPECT_EQ(error.what(), "The database has the encoding " + std::string(encoding) +
+                                  ", and an office needs UTF8: make it by createdb --encoding=UTF8 "
+                                  "--template=template0");
+    }
+    EXPECT_EQ(server.Psql("postgres", database, "SELECT to_regnamespace('kantoor') IS NULL"), "t");
+  }
+}
+
+TEST(SetUpTest, WhoMayConnectMakesNoTablesOfHisOwn) {
+  const TrialOffice accounts;
+  test::PostgresServer& server = test::PostgresServer::Shared();
+  const QString database = server.MakeDatabase();
+  const auto makes_one = [&] {
+    bool failed = false;
+    server.Psql("anna", database, "CREATE TEMPORARY TABLE eigen ()", &failed);
+    return !failed;
+  };
+  ASSERT_TRUE(makes_one());
+  OfficeConnection manager(server.Words("postgres", database));
+  manager.Open();
+  SetUpOffice(manager);
+  EXPECT_FALSE(makes_one());
+  // A dump that was put back does not know of it: the set-up says it again.
+  server.Psql("postgres", database, QString("GRANT TEMPORARY ON DATABASE %1 TO PUBLIC").arg(database));
+  EXPECT_EQ(SetUpOffice(manager), kOfficeVersion);
+  EXPECT_FALSE(makes_one());
+}
+
+TEST(SetUpTest, LargeObjectsAreTakenAwayAsTheDocumentSays) {
+  TrialOffice office;
+  const auto makes_one = [&] {
+    bool failed = false;
+    office.Psql("anna", "SELECT lo_from_bytea(0, 'x'), lo_create(0), lo_creat(-1)", &failed);
+    return !failed;
+  };
+  ASSERT_TRUE(makes_one());
+  office.Psql("postgres",
+              "REVOKE EXECUTE ON FUNCTION lo_create(oid), lo_creat(integer), lo_from_bytea(oid, bytea) FROM PUBLIC");
+  EXPECT_FALSE(makes_one());
+}
+
 TEST(SetUpTest, ALaterOfficeIsLeftAlone) {
   TrialOffice office;
   office.Psql("postgres", "INSERT INTO kantoor.versie (nummer) VALUES (99)");

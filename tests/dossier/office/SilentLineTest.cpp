@@ -1,7 +1,9 @@
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTimer>
 #include <algorithm>
+#include <thread>
 
 #include "dossier/office/LongWait.h"
 #include "dossier/store/StoreErrors.h"
@@ -110,6 +112,26 @@ TEST_F(SilentLineTest, OtherQuestionsGiveUpSoonerAndAWayOutSoonest) {
   took = Took([&] { store.reset(); });
   EXPECT_GE(took, 900);
   EXPECT_LT(took, test::kPatience);
+}
+
+/// The clock went on while the machine slept.
+TEST_F(SilentLineTest, WhoSleptHearsTheAnswerBeforeHeGivesTheLineUp) {
+  WaitingTimes times = Patient();
+  times.editing = std::chrono::milliseconds(1);
+  times.silence = std::chrono::milliseconds(100);
+  times.overdue = times.little;
+  WaitingTimes::Set(times);
+  const auto store = OfficeStore::Open(office_.Enter("anna", proxy_.Folder()), client_);
+  int changes = 0;
+  const auto changed = store->Changed.Connect([&] { ++changes; });
+  proxy_.Hang();
+  const int before = proxy_.RoundTrips();
+  Comes([timer = QDeadlineTimer(50)] { return timer.hasExpired(); });
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  proxy_.Mend();
+  ASSERT_TRUE(Comes([&] { return proxy_.RoundTrips() > before + 5; }));
+  EXPECT_EQ(changes, 0);
+  EXPECT_EQ(store->Now(), State::Editing);
 }
 
 TEST_F(SilentLineTest, WhatIsLookedAtByItselfHoldsNobodyUp) {
