@@ -13,6 +13,7 @@
 #include "app/screen/Greying.h"
 #include "dossier/store/StoreErrors.h"
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
 namespace {
@@ -21,6 +22,14 @@ using State = dossier::OfficeStore::State;
 
 constexpr int kLook = 500;  ///< milliseconds
 constexpr int kMost = 60;   ///< characters of a text that are shown
+
+bool IsOfEditor(const QDialog& form) { return dynamic_cast<const qt::FormWindow::Window*>(&form) != nullptr; }
+
+/// The same text of the same place, whatever became of it.
+bool IsTheSame(const UnfinishedText& one, const UnfinishedText& other) {
+  return one.lening == other.lening && one.kolom == other.kolom && one.box == other.box && one.title == other.title &&
+         one.text == other.text;
+}
 
 QString Short(QString text) {
   text.replace(u'\n', u' ').replace(u'\t', u' ');
@@ -52,7 +61,7 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
       store_.Bewerkingen().Failed.Connect([this](const dossier::StoreFailure& failure) { OnFailed(failure); });
   bar_->noticePutAway = [this] {
     asker_.clear();
-    bar_->ShowNotice({});
+    Notice({});
     Refresh();
   };
   bar_->putBack = [this] { PutBack(); };
@@ -107,6 +116,7 @@ void ClientOnScreen::Refresh() {
 }
 
 void ClientOnScreen::Notice(const QString& text) {
+  notStored_ = false;
   bar_->ShowNotice(text);
   if (!text.isEmpty()) eventLog_.Write(QStringLiteral("Kantoor: %1").arg(text));
 }
@@ -183,48 +193,65 @@ void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));
   } else if (outcome == dossier::Outcome::WasNotStored) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is niet opgeslagen."));
+    notStored_ = true;
   }
   Refresh();
 }
 
 void ClientOnScreen::OnStored() {
+  // Tried once more in the dialog that stayed, or in the box: it is no more so that it is not stored.
+  const bool again = unstored_ && (form_ ? form_ == QApplication::activeModalWidget()
+                                         : IsTheSame(unstored_->what, WhatWasEntered().what));
   typed_.Forget();
-  // A dialog that stayed was confirmed once more.
-  if (form_ && form_ == QApplication::activeModalWidget()) ForgetUnstored();
+  if (!again) return;
+  ForgetUnstored();
+  if (notStored_) Notice({});
+}
+
+ClientOnScreen::Entered ClientOnScreen::WhatWasEntered() const {
+  Entered entered{.what = window_.here()};
+  entered.form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (entered.form) {
+    entered.what.title = entered.form->windowTitle();
+    entered.what.text = FilledIn(*entered.form);
+    entered.label = entered.what.title;
+  } else if (typed_.Now()) {
+    entered.what.box = typed_.Now()->box;
+    entered.what.text = typed_.Now()->text;
+    entered.label = typed_.Now()->label;
+  }
+  return entered;
 }
 
 void ClientOnScreen::KeepUnstored(bool unknown) {
-  UnfinishedText unstored = window_.here();
+  Entered entered = WhatWasEntered();
+  UnfinishedText& unstored = entered.what;
   unstored.unknown = unknown;
-  QString label;
-  auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (form != nullptr) {
-    unstored.title = form->windowTitle();
-    unstored.text = FilledIn(*form);
-    label = unstored.title;
-  } else if (typed_.Now()) {
-    unstored.box = typed_.Now()->box;
-    unstored.text = typed_.Now()->text;
-    label = typed_.Now()->label;
-  }
   typed_.Forget();
   if (unknown) {
-    formInDoubt_ = form;
+    formInDoubt_ = entered.form;
     textInDoubt_ = unstored.text;
   }
   if (unstored.text.isEmpty()) return;
+  label_ = entered.label;
+  form_ = entered.form;
+  // Tried once more, it may have been stored the first time.
+  if (!unknown && inDoubt_ && IsTheSame(inDoubt_->what, unstored)) {
+    unstored_ = inDoubt_;
+    return;
+  }
   // Of one box the last text counts; what stood in another is offered at the next start.
-  if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) ForgetUnstored();
+  if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) Forget(*unstored_);
   unstored_ = {unstored.Keep(), unstored};
-  label_ = label;
-  form_ = form;
   if (unknown) inDoubt_ = unstored_;
 }
 
 void ClientOnScreen::SettleKept(bool stored) {
   const QPointer<QDialog> form = std::exchange(formInDoubt_, nullptr);
-  // Where it was changed since, that is not what was stored.
-  if (stored && form && form->isVisible() && FilledIn(*form) == textInDoubt_) form->done(QDialog::Accepted);
+  // Where it was changed since, that is not what was stored; and a form of the editor stores its rows all at once
+  // later.
+  if (stored && form && form->isVisible() && !IsOfEditor(*form) && FilledIn(*form) == textInDoubt_)
+    form->done(QDialog::Accepted);
   auto kept = std::exchange(inDoubt_, std::nullopt);
   if (!kept) return;
   const bool shown = unstored_ && unstored_->name == kept->name;
@@ -238,9 +265,13 @@ void ClientOnScreen::SettleKept(bool stored) {
   if (shown) unstored_ = kept;
 }
 
+void ClientOnScreen::Forget(const UnfinishedText::Kept& kept) {
+  UnfinishedText::Forget(kept.name);
+  if (inDoubt_ && inDoubt_->name == kept.name) inDoubt_.reset();
+}
+
 void ClientOnScreen::ForgetUnstored() {
-  if (unstored_) UnfinishedText::Forget(unstored_->name);
-  if (unstored_ && inDoubt_ && inDoubt_->name == unstored_->name) inDoubt_.reset();
+  if (unstored_) Forget(*unstored_);
   unstored_.reset();
   form_.clear();
   Refresh();

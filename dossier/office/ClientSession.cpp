@@ -116,7 +116,7 @@ bool ClientSession::TakeLease() {
       office_->Run(QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"),
                    {client_}, Patience::Short);
   token_ = row.value(0).toString();
-  behind_ = behind_ || row.value(3).toLongLong() != tables_.LastStep();
+  SeeStep(row.value(3).toLongLong());
   if (token_.isEmpty()) {
     holder_ = {row.value(1).toString(), row.value(2).toDateTime()};
     return false;
@@ -146,7 +146,16 @@ void ClientSession::Heard(const OfficeAnswer& answer, std::int64_t step) {
 void ClientSession::See(const OfficeRows& who) {
   if (state_ == State::Reading) holder_ = {who.value(0).toString(), who.value(1).toDateTime()};
   asker_ = {who.value(3).toString(), who.value(4).toDateTime()};
-  behind_ = behind_ || who.value(2).toLongLong() != tables_.LastStep();
+  SeeStep(who.value(2).toLongLong());
+}
+
+void ClientSession::SeeStep(std::int64_t newest) {
+  newest_ = newest;
+  behind_ = behind_ || newest != tables_.LastStep();
+}
+
+bool ClientSession::LacksOwnEditAlone() const {
+  return state_ == State::Editing && newest_ == found_step_ && newest_ == tables_.LastStep() + 1;
 }
 
 void ClientSession::ReadAside(std::function<void(OfficeAnswer)> answer) {
@@ -182,7 +191,7 @@ void ClientSession::Ask() {
   office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}, Patience::Short);
 }
 
-void ClientSession::Begin() {
+void ClientSession::Begin(bool in_form) {
   switch (state_) {
     case State::Editing: break;
     case State::Broken: Refuse(kOfficeError, "er is geen verbinding met het kantoor");
@@ -195,7 +204,10 @@ void ClientSession::Begin() {
   // What could not be kept in memory after it was stored, or was stored by another.
   if (behind_ || NewestStep(tables_.Tables()) != tables_.LastStep()) {
     behind_ = true;
-    Refuse(kRefusedError, "het dossier wordt opnieuw gelezen");
+    // Nothing is read under a form, which goes on from what it was opened with.
+    Refuse(kRefusedError, in_form
+                              ? "het dossier is intussen gewijzigd. Sluit dit venster, dan wordt het opnieuw gelezen"
+                              : "het dossier wordt opnieuw gelezen");
   }
 }
 
@@ -245,7 +257,7 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const E
         kBron);
   }
   if (verdict->outcome == Outcome::WasNotStored) Refuse(kOfficeError, "de verbinding met het kantoor viel even weg");
-  behind_ = found_step_ != step;
+  behind_ = newest_ != step;
   return found_time_;
 }
 
@@ -299,6 +311,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                          {client_, static_cast<qlonglong>(pending_->step), pending_->edit}, Patience::Short);
         found.edit_is_there = !time.isNull(0);
         found_time_ = time.value(0).toLongLong();
+        if (found.edit_is_there) found_step_ = pending_->step;
       }
       const Verdict verdict = Judge(before, found);
       if (verdict.role == Role::TryAgain) {
@@ -316,7 +329,7 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       since_ = row.value(2).toDateTime();
       follows_ = false;
       TakeUp();
-      found_step_ = found.step;
+      newest_ = found.step;
       behind_ = behind_ || verdict.reload;
       pending_.reset();
       tries_ = 0;

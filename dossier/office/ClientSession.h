@@ -51,7 +51,7 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] const Holder& AskedBy() const { return asker_; }
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
-  void Begin() override;
+  void Begin(bool in_form) override;
   void Keep(Database& tables, const KeptEdit& edit) override;
 
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
@@ -94,6 +94,8 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] bool HasUnknownEdit() const { return pending_.has_value(); }
   /// The tables hold something else than the office: they are to be filled anew before anything is edited.
   [[nodiscard]] bool IsBehind() const { return behind_; }
+  /// They lack nothing but the last edit made here, whose answer was lost.
+  [[nodiscard]] bool LacksOwnEditAlone() const;
   /// What filled the tables cannot be shown: they stay behind.
   void StayBehind() { behind_ = true; }
   /// Fills the tables anew. Throws OfficeError, and DatabaseError.
@@ -109,6 +111,7 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
   bool TakeLease();
   void See(const OfficeRows& who);
+  void SeeStep(std::int64_t newest);
   void TakeUp();
   /// Answers whether the office knows of it.
   bool GiveBack() noexcept;
@@ -132,7 +135,9 @@ class ClientSession final : public EditKeeper {
   bool follows_ = false;
   bool left_ = false;
   FindingWords words_;
-  /// What the last new session found: the time of the edit that was looked up, and the last step.
+  /// The last step that the office was seen to have.
+  std::int64_t newest_ = 0;
+  /// Of the edit that was looked up last and is there.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;
 };

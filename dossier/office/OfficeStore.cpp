@@ -198,36 +198,31 @@ void OfficeStore::LookAside() {
 
 void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
   Try([&] { session_->Heard(answer, step); });
-  if (!session_->IsThere() || !journal_->Bewerkingen().IsQuiet()) return;
-  if (session_->IsBehind()) return session_->ReadAside(Counting(&OfficeStore::Read));
-  TellSettled();
+  if (session_->IsThere() && session_->IsBehind() && MayReread()) session_->ReadAside(Counting(&OfficeStore::Read));
 }
 
 void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
-  // What somebody is at work on stays as it is until he is done.
-  if (!journal_->Bewerkingen().IsQuiet()) return;
-  Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
-  if (session_->IsThere() && (!session_->IsBehind() || unreadable_)) TellSettled();
+  if (MayReread()) Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
+}
+
+bool OfficeStore::MayReread() const {
+  const Edits& edits = journal_->Bewerkingen();
+  return edits.IsQuiet() || (edits.IsBetweenEdits() && session_->LacksOwnEditAlone());
 }
 
 void OfficeStore::Attend() {
+  std::optional<Outcome> settled;
   if (Now() == State::Broken) {
     const bool unknown = session_->HasUnknownEdit();
     const std::optional<Verdict> verdict = session_->Reconnect();
-    if (verdict && unknown) settled_ = verdict->outcome;
+    if (verdict && unknown) settled = verdict->outcome;
   } else if (Now() != State::Gone) {
     Try([&] { session_->LookAround(); });
   }
-  // What somebody is at work on stays as it is until he is done.
-  if (session_->IsThere() && journal_->Bewerkingen().IsQuiet()) {
-    if (session_->IsBehind()) Try([&] { Reload(); });
-    TellSettled();
-  }
+  if (session_->IsThere() && session_->IsBehind() && MayReread()) Try([&] { Reload(); });
+  // Whatever somebody is at work on: the next edit would be taken for this one.
+  if (settled) Settled.Raise(*settled);
   TellIfChanged();
-}
-
-void OfficeStore::TellSettled() {
-  if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
 }
 
 void OfficeStore::Told(const QString& channel, const QString& what) {
@@ -305,7 +300,7 @@ void OfficeStore::Plan() {
     timer_->start(0);
   } else if (IsAsked()) {
     timer_->start(static_cast<int>(answered_by_.remainingTime()));
-  } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
+  } else if (!unreadable_ && session_->IsBehind()) {
     timer_->start(kSoon);
   } else {
     timer_->start(Now() == State::Reading ? kLook : kHeartbeat);

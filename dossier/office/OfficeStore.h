@@ -83,7 +83,8 @@ class OfficeStore final : public DossierStore {
   void ReconnectNow(const std::optional<QString>& password = std::nullopt);
 
   /// Does what is due: tries to reach the office where the connection broke, and otherwise looks who has the client and
-  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
+  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs, but for an
+  /// edit made in a modal form that turns out to be stored.
   void Attend();
 
   /// Who may edit it, the connection, or whether it can be read, is another.
@@ -92,7 +93,8 @@ class OfficeStore final : public DossierStore {
   host::Event<> Herladen;
   /// Somebody asks for it, by name; told where it is edited here.
   host::Event<const QString&> Asked;
-  /// Of an edit that was told as not known: whether it was stored.
+  /// Of an edit that was told as not known: whether it was stored. Told as soon as there is a connection, also under a
+  /// modal form and before the memory shows it.
   host::Event<Outcome> Settled;
 
  private:
@@ -106,6 +108,8 @@ class OfficeStore final : public DossierStore {
   template <class Action> void Try(Action&& action);
   /// The same by hand: Throws what it throws, once what that means for the client was told.
   template <class Action> auto ByHand(Action&& action) -> decltype(action());
+  /// What somebody is at work on stays as it is until he is done; a modal form goes on from what was stored in it.
+  [[nodiscard]] bool MayReread() const;
   void Reload();
   void TellIfChanged();
   void Plan();
@@ -124,7 +128,6 @@ class OfficeStore final : public DossierStore {
   void Read(const OfficeAnswer& answer, std::int64_t step);
   /// Fills the tables and shows them, where they can be shown.
   template <class Fill> void Reread(Fill&& fill);
-  void TellSettled();
 
   std::shared_ptr<ClientSession> session_;
   std::shared_ptr<FileJournal> journal_;
@@ -142,8 +145,6 @@ class OfficeStore final : public DossierStore {
   /// Gone with this object: a question outlives it.
   std::shared_ptr<int> here_ = std::make_shared<int>();
   host::Subscriptions subscriptions_;
-  /// What Settled is to tell.
-  std::optional<Outcome> settled_;
   std::optional<OfficeError> unreadable_;
   /// What Changed told last.
   State told_state_ = State::Reading;
