@@ -12,6 +12,7 @@
 #include "app/screen/FilledIn.h"
 #include "app/screen/Greying.h"
 #include "dossier/store/StoreErrors.h"
+#include <brivane/frame/Phrase.h>
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
 #include <brivane/toolkits/qt/widgets/FormWindow.h>
 
@@ -69,6 +70,9 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
     if (unstored_) QGuiApplication::clipboard()->setText(unstored_->what.text);
   };
   bar_->thrownAway = [this] { ForgetUnstored(); };
+  // It may be stored: neither that it is not is said there, nor what to do about it.
+  screen_.Kolom().Editor().SetReasonTeller(
+      [this] { return mayBeStored_ ? frame::Phrase() : frame::Phrase(frame::TextId::NotStored); });
   // How often it was tried is told by nobody.
   connect(&look_, &QTimer::timeout, this, [this] {
     Refresh();
@@ -78,7 +82,10 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
   Refresh();
 }
 
-ClientOnScreen::~ClientOnScreen() { delete bar_; }
+ClientOnScreen::~ClientOnScreen() {
+  screen_.Kolom().Editor().SetReasonTeller(nullptr);
+  delete bar_;
+}
 
 BarFacts ClientOnScreen::Facts() const {
   const dossier::Holder& holder = store_.HeldBy();
@@ -228,6 +235,7 @@ void ClientOnScreen::KeepUnstored(bool unknown) {
   UnfinishedText& unstored = entered.what;
   unstored.unknown = unknown;
   typed_.Forget();
+  mayBeStored_ = unknown || (inDoubt_ && IsTheSame(inDoubt_->what, unstored));
   if (unknown) {
     formInDoubt_ = entered.form;
     textInDoubt_ = unstored.text;
@@ -236,7 +244,7 @@ void ClientOnScreen::KeepUnstored(bool unknown) {
   label_ = entered.label;
   form_ = entered.form;
   // Tried once more, it may have been stored the first time.
-  if (!unknown && inDoubt_ && IsTheSame(inDoubt_->what, unstored)) {
+  if (!unknown && mayBeStored_) {
     unstored_ = inDoubt_;
     return;
   }

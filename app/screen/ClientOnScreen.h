@@ -89,6 +89,7 @@ class ClientOnScreen final : public QObject {
   bool asked_ = false;
   bool lettingGo_ = false;
   bool unknown_ = false;
+  bool mayBeStored_ = false;         ///< what failed last
   bool asking_ = false;              ///< for a password
   bool putAway_ = false;             ///< the question for one, since the connection broke
   std::optional<QString> password_;  ///< that was given since then

@@ -69,6 +69,17 @@ class DoubtTest : public ClientWindow {
                               .arg(static_cast<int>(dossier::Tabel::Kolom)))
         .toInt();
   }
+  /// Why a box was refused, as it is seen and as a screen reader finds it.
+  [[nodiscard]] static QString Reason() {
+    QString said;
+    for (const QWidget* widget : QApplication::allWidgets()) {
+      const auto* label = qobject_cast<const QLabel*>(widget);
+      if (label && label->isVisible() && label->text().contains("Enter probeert het opnieuw")) said += label->text();
+    }
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+    return said + (reader ? reader->text(QAccessible::Description) : QString());
+  }
+
   SocketProxy proxy_{office_.Server().Folder()};
 };
 
@@ -78,9 +89,11 @@ TEST_F(DoubtTest, AYearFormIsGoneOnWithOnceItTurnsOutThatItsAmountIsStored) {
   ExpectRefusal("blijkt of dat is gelukt");
   dialogs_.Expect([&](QWidget& form) {
     EXPECT_TRUE(Unstored().startsWith(kUnknown)) << qPrintable(Unstored());
+    EXPECT_EQ(Reason(), "");
     proxy_.Mend();
     EXPECT_TRUE(IsNoticed(kStored)) << qPrintable(Notice());
     ExpectNothingIsKept();
+    EXPECT_EQ(Reason(), "");
     EXPECT_TRUE(form.isVisible());
     ConfirmAndClose(form);
   });
@@ -117,6 +130,7 @@ TEST_F(DoubtTest, WhatIsTriedAgainWhileItIsNotKnownIsNotToldAsNotStored) {
   dialogs_.Expect([&](QWidget&) { Confirm(); });
   ExpectRefusal("er is geen verbinding met het kantoor");
   dialogs_.Expect([&](QWidget& form) {
+    EXPECT_EQ(Reason(), "");
     EXPECT_TRUE(Unstored().startsWith(kUnknown)) << qPrintable(Unstored());
     ASSERT_EQ(UnfinishedText::All().size(), 1U);
     EXPECT_TRUE(UnfinishedText::All().front().what.unknown);
@@ -166,6 +180,23 @@ TEST_F(DoubtTest, AYearFormThatAnotherOvertookHasToGoFirstAndKeepsItsText) {
   EXPECT_TRUE(Unstored().startsWith(kRefused)) << qPrintable(Unstored());
   EXPECT_EQ(BaseInOffice(), 1234);
   EXPECT_EQ(TimesStored(), 2);
+}
+
+/// The message is gone, and who showed it has not come back yet.
+TEST_F(DoubtTest, NothingIsSaidBesideABoxThatShowsAgainWhatStoodThere) {
+  OpenAs(*window_, "anna", proxy_.Folder());
+  proxy_.NextMeets(Fate::DeadAfter);
+  dialogs_.ExpectMessage(kFailed, [](QWidget& box) {
+    QObject::connect(static_cast<QDialog*>(&box), &QDialog::finished, &box, [] { QTest::qWait(200); });
+    Pressing(Qt::Key_Return)(box);
+  });
+  PressKey(Qt::Key_O, Qt::AltModifier);
+  Type("Avondkrant");
+  PressKey(Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Unstored().endsWith(": Avondkrant"); }, 5000)) << qPrintable(Unstored());
+  QTest::qWait(200);
+  EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
+  EXPECT_EQ(Reason(), "");
 }
 
 /// The rows, which go all at once: the form is gone by then.
