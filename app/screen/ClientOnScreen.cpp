@@ -39,11 +39,10 @@ QString Short(QString text) {
 
 }  // namespace
 
-ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes,
-                               const OfficeActions& actions, EventLog& eventLog, Window window)
+ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, const OfficeActions& actions,
+                               EventLog& eventLog, Window window)
     : screen_(screen),
       store_(store),
-      writes_(writes),
       actions_(actions),
       eventLog_(eventLog),
       window_(std::move(window)),
@@ -89,8 +88,10 @@ ClientOnScreen::~ClientOnScreen() {
 
 BarFacts ClientOnScreen::Facts() const {
   const dossier::Holder& holder = store_.HeldBy();
+  const auto& failure = store_.LastFailure();
+  const bool refused = failure && failure->Problem() != dossier::OfficeProblem::Unreachable;
   return {.state = store_.Now(),
-          .writes = writes_,
+          .writes = store_.Writes(),
           .holder = holder.naam,
           .since = MomentText(holder.sinds, QDateTime::currentDateTime()),
           .asked = asked_,
@@ -98,7 +99,9 @@ BarFacts ClientOnScreen::Facts() const {
           .tries = store_.Tries(),
           .unknown = unknown_,
           .barred = store_.WantsPassword(),
-          .said = store_.LastFailure() ? store_.LastFailure()->SaidByServer() : QString(),
+          .said = failure ? failure->SaidByServer() : QString(),
+          .refused = refused ? QString::fromStdString(failure->Oorzaak()) : QString(),
+          .allowed = store_.GoneBecause() != dossier::OfficeProblem::NotAllowed,
           .unreadable = store_.Unreadable() ? QString::fromStdString(store_.Unreadable()->Oorzaak()) : QString()};
 }
 
@@ -151,10 +154,12 @@ void ClientOnScreen::OnChanged() {
     } else if (before == State::Broken && settled_) {
       // It was told already, with what became of the last edit.
     } else if (before == State::Broken) {
-      Notice(state_ == State::Editing || !writes_ || holder.isEmpty()
+      Notice(state_ == State::Editing || !store_.Writes() || holder.isEmpty()
                  ? QStringLiteral("De verbinding met het kantoor is er weer.")
                  : QStringLiteral("De verbinding met het kantoor is er weer, maar intussen werkt %1 in dit dossier.")
                        .arg(holder));
+    } else if (before == State::Editing && !store_.Writes()) {
+      Notice(QStringLiteral("U mag in dit kantoor niet meer wijzigen. Wat u nog wijzigt, wordt niet opgeslagen."));
     } else if (before == State::Editing && !lettingGo_) {
       Notice(QStringLiteral("%1 heeft dit dossier overgenomen. Wat u nog wijzigt, wordt niet opgeslagen.").arg(who));
     } else if (state_ == State::Editing && readable) {
@@ -171,7 +176,7 @@ void ClientOnScreen::OnChanged() {
     window_.changed();
   }
   // Who asked for it gets it.
-  if (state_ == State::Reading && asked_ && store_.HeldBy().naam.isEmpty())
+  if (state_ == State::Reading && asked_ && store_.Writes() && store_.HeldBy().naam.isEmpty())
     QMetaObject::invokeMethod(this, &ClientOnScreen::TakeOver, Qt::QueuedConnection);
   Refresh();
 }

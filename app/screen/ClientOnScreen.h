@@ -34,8 +34,8 @@ class ClientOnScreen final : public QObject {
   };
 
   /// Everything handed over outlives this object, the screen as what stores it too.
-  ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes, const OfficeActions& actions,
-                 EventLog& eventLog, Window window);
+  ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, const OfficeActions& actions, EventLog& eventLog,
+                 Window window);
   ~ClientOnScreen() override;
 
   [[nodiscard]] QWidget* Bar() { return bar_; }
@@ -78,7 +78,6 @@ class ClientOnScreen final : public QObject {
 
   DossierScreen& screen_;
   dossier::OfficeStore& store_;
-  bool writes_;
   OfficeActions actions_;
   EventLog& eventLog_;
   Window window_;

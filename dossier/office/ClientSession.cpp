@@ -60,7 +60,7 @@ ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int clien
     : office_(std::move(office)), client_(client), tables_(*office_, client) {
   pid_ = office_->User().pid;
   try {
-    if (office_->User().writes) TakeLease();
+    if (Writes()) TryTakeLease();
     // Who reads along is told of everything that was stored after what he read.
     if (state_ == State::Reading) TakeUp();
     Fill();
@@ -109,6 +109,16 @@ bool ClientSession::Take() {
   if (state_ == State::Gone || !TakeLease()) return false;
   office_->Prepare(SendSql());
   return true;
+}
+
+void ClientSession::TryTakeLease() {
+  try {
+    TakeLease();
+  } catch (const OfficeError& error) {
+    // The right was taken away since the session began.
+    if (error.Problem() != OfficeProblem::NotAllowed) throw;
+    refused_ = true;
+  }
 }
 
 bool ClientSession::TakeLease() {
@@ -195,9 +205,9 @@ void ClientSession::Begin(bool in_form) {
   switch (state_) {
     case State::Editing: break;
     case State::Broken: Refuse(kOfficeError, "er is geen verbinding met het kantoor");
-    case State::Gone: Refuse(kRefusedError, OfficeError(OfficeProblem::NoClient, "").Oorzaak());
+    case State::Gone: Refuse(kRefusedError, OfficeError(gone_because_, "").Oorzaak());
     case State::Reading:
-      if (!office_->User().writes) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
+      if (!Writes()) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
       Refuse(kLeaseError, holder_.naam.isEmpty() ? "het dossier is niet bij u in bewerking"
                                                  : holder_.naam.toStdString() + " werkt in dit dossier");
   }
@@ -268,10 +278,23 @@ void ClientSession::Broke() {
 
 void ClientSession::Met(const OfficeError& error) {
   if (error.Problem() == OfficeProblem::Unreachable && IsThere()) Broke();
-  if (error.Problem() == OfficeProblem::NoClient) LoseSight();
+  if (error.Problem() == OfficeProblem::NoClient) LoseSight(OfficeProblem::NoClient);
+  if (error.Problem() == OfficeProblem::NotAllowed) LoseRight();
 }
 
-void ClientSession::LoseSight() {
+void ClientSession::LoseRight() {
+  // Who was a reader already may not even read.
+  if (!Writes()) return LoseSight(OfficeProblem::NotAllowed);
+  refused_ = true;
+  if (state_ != State::Editing) return;
+  // The office lets nobody let go who may not edit. What this session has is of no use to it any more.
+  office_->Post(QStringLiteral("SELECT pg_advisory_unlock_all(), pg_notify(?, 'los')"), {Channel()});
+  token_.clear();
+  state_ = State::Reading;
+  Follow();
+}
+
+void ClientSession::LoseSight(OfficeProblem because) {
   // Those to whom it was given may edit it at once.
   if (state_ == State::Editing)
     office_->Post(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
@@ -280,7 +303,15 @@ void ClientSession::LoseSight() {
   token_.clear();
   holder_ = {};
   asker_ = {};
+  gone_because_ = because;
   state_ = State::Gone;
+}
+
+OfficeRows ClientSession::TakeOrLook(bool takes) {
+  return office_->Run(
+      takes ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
+            : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
+      {client_}, Patience::Short);
 }
 
 std::optional<Verdict> ClientSession::Reconnect() noexcept {
@@ -288,26 +319,38 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                       .step = tables_.LastStep(),
                       .session = {pid_, since_.toMSecsSinceEpoch()},
                       .edit = pending_ ? std::optional(pending_->step) : std::nullopt};
+  refused_ = false;
+  failure_.reset();
+  bool entered = false;
   try {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
     if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
+    entered = true;
     for (int look = 0; look < kLooks; ++look) {
       Found found;
-      const OfficeRows row = office_->Run(
-          before.edited
-              ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
-              : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
-          {client_}, Patience::Short);
+      bool takes = before.edited && Writes();
+      OfficeRows row;
+      try {
+        row = TakeOrLook(takes);
+      } catch (const OfficeError& error) {
+        if (!takes || error.Problem() != OfficeProblem::NotAllowed) throw;
+        refused_ = true;
+        takes = false;
+        row = TakeOrLook(takes);
+      }
       const QString token = row.value(0).toString();
       found = {.taken = !token.isEmpty(),
-               .holder = {row.value(4).toInt(), row.value(2).toDateTime().toMSecsSinceEpoch()},
+               // A reader is not told which session has it, and knows his own by when it took it up.
+               .holder = {takes ? row.value(4).toInt() : pid_, row.value(2).toDateTime().toMSecsSinceEpoch()},
                .step = row.value(3).toLongLong(),
                .edit_is_there = false};
       const Holder holder = found.taken ? Holder() : Holder{row.value(1).toString(), row.value(2).toDateTime()};
       if (pending_) {
         const OfficeRows time =
-            office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
+            office_->Run(takes ? QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)")
+                               : QStringLiteral("SELECT tijd FROM kantoor.stap WHERE client = ?::integer AND nummer = "
+                                                "?::bigint AND bewerking = ?::uuid"),
                          {client_, static_cast<qlonglong>(pending_->step), pending_->edit}, Patience::Short);
         found.edit_is_there = !time.isNull(0);
         found_time_ = time.value(0).toLongLong();
@@ -336,11 +379,12 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       return verdict;
     }
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::NoClient) {
-      LoseSight();
+    failure_ = error;
+    const OfficeProblem problem = error.Problem();
+    if (problem == OfficeProblem::NoClient || (entered && problem == OfficeProblem::NotAllowed)) {
+      LoseSight(problem);
       return std::nullopt;
     }
-    // The next try comes later.
   }
   state_ = State::Broken;
   ++tries_;

@@ -45,6 +45,10 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] State Now() const { return state_; }
   [[nodiscard]] int Client() const { return client_; }
   [[nodiscard]] OfficeConnection& Office() { return *office_; }
+  /// This account may edit, as far as the office has said.
+  [[nodiscard]] bool Writes() const { return office_->User().writes && !refused_; }
+  /// Where it is gone: NoClient, or NotAllowed where the account may not even read any more.
+  [[nodiscard]] OfficeProblem GoneBecause() const { return gone_because_; }
   /// Who else has it, as far as this program was told.
   [[nodiscard]] const Holder& HeldBy() const { return holder_; }
   /// Who asks whoever has it to let go, as far as the server was asked; nobody where the name is empty.
@@ -76,12 +80,14 @@ class ClientSession final : public EditKeeper {
   void Leave() noexcept;
   /// Asks who has it to let it go. Throws OfficeError.
   void Ask();
-  /// Tries to begin a new session after the connection broke; `tries` have failed before. Answers what came of it,
-  /// nothing where the server is not reached.
+  /// Tries to begin a new session after the connection broke. Answers what came of it; nothing where it failed, as
+  /// Failure() tells, or where the client is gone. Who may only read any more goes on as a reader.
   std::optional<Verdict> Reconnect() noexcept;
+  [[nodiscard]] const std::optional<OfficeError>& Failure() const { return failure_; }
   /// A statement of this client's met a connection that is gone.
   void Broke();
-  /// What such a statement failed with, where it is more than that statement: the connection is gone, or the client.
+  /// What such a statement failed with, where it is more than that statement: the connection is gone, the client, or
+  /// the right to edit or to read it.
   void Met(const OfficeError& error);
   /// There is a connection, and the client.
   [[nodiscard]] bool IsThere() const { return state_ == State::Editing || state_ == State::Reading; }
@@ -110,6 +116,8 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
   bool TakeLease();
+  /// Reads where it may not be edited any more.
+  void TryTakeLease();
   void See(const OfficeRows& who);
   void SeeStep(std::int64_t newest);
   void TakeUp();
@@ -117,7 +125,9 @@ class ClientSession final : public EditKeeper {
   bool GiveBack() noexcept;
   void Follow();
   void FollowNoMore();
-  void LoseSight();
+  void LoseRight();
+  void LoseSight(OfficeProblem because);
+  OfficeRows TakeOrLook(bool takes);
 
   std::shared_ptr<OfficeConnection> office_;
   int client_;
@@ -132,6 +142,9 @@ class ClientSession final : public EditKeeper {
   std::optional<Pending> pending_;
   int tries_ = 0;
   bool behind_ = false;
+  bool refused_ = false;
+  OfficeProblem gone_because_ = OfficeProblem::NoClient;
+  std::optional<OfficeError> failure_;
   bool follows_ = false;
   bool left_ = false;
   FindingWords words_;

@@ -20,6 +20,8 @@ constexpr std::chrono::milliseconds kLook{2000};
 constexpr std::chrono::milliseconds kHeartbeat{10000};
 /// A line that says nothing for so long is given up.
 constexpr std::chrono::milliseconds kSilence{5000};
+/// An office that is there and refuses is tried as one that so many tries did not reach.
+constexpr int kMany = 100;
 /// Until what is behind is read anew.
 constexpr std::chrono::milliseconds kSoon{50};
 
@@ -216,6 +218,7 @@ void OfficeStore::Attend() {
     const bool unknown = session_->HasUnknownEdit();
     const std::optional<Verdict> verdict = session_->Reconnect();
     if (verdict && unknown) settled = verdict->outcome;
+    if (!verdict) failure_ = session_->Failure();
   } else if (Now() != State::Gone) {
     Try([&] { session_->LookAround(); });
   }
@@ -295,7 +298,9 @@ void OfficeStore::Plan() {
     // What comes of that plans what comes next.
     timer_->stop();
   } else if (Now() == State::Broken) {
-    timer_->start(told_state_ == State::Broken ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
+    const bool refused = failure_ && failure_->Problem() != OfficeProblem::Unreachable;
+    const std::chrono::milliseconds pause = PauseAfter(refused ? kMany : std::max(Tries() - 1, 0));
+    timer_->start(told_state_ == State::Broken ? pause : std::chrono::milliseconds(0));
   } else if (told_state_ != Now()) {
     timer_->start(0);
   } else if (IsAsked()) {

@@ -58,6 +58,10 @@ class OfficeStore final : public DossierStore {
 
   [[nodiscard]] int Client() const { return session_->Client(); }
   [[nodiscard]] State Now() const { return session_->Now(); }
+  /// This account may edit, as far as the office has said.
+  [[nodiscard]] bool Writes() const { return session_->Writes(); }
+  /// Where it is gone: NoClient, or NotAllowed where this account may not even read any more.
+  [[nodiscard]] OfficeProblem GoneBecause() const { return session_->GoneBecause(); }
   /// Who else edits it; nobody where the name is empty.
   [[nodiscard]] const Holder& HeldBy() const { return session_->HeldBy(); }
   /// How many tries to reach the office have failed since the connection broke.
@@ -77,7 +81,8 @@ class OfficeStore final : public DossierStore {
   /// The office lets this account in no more with the password that it has: nothing is tried until another is given,
   /// or ReconnectNow.
   [[nodiscard]] bool WantsPassword() const { return barred_; }
-  /// Why the last try failed that was made aside; nothing once the connection is there.
+  /// Why the last try failed; nothing once the connection is there. Where the office was reached, and cannot be used,
+  /// it is tried again now and then.
   [[nodiscard]] const std::optional<OfficeError>& LastFailure() const { return failure_; }
   /// Tries at once to reach the office, where the connection broke; with another password where one is given.
   void ReconnectNow(const std::optional<QString>& password = std::nullopt);
@@ -104,7 +109,8 @@ class OfficeStore final : public DossierStore {
   /// The same for an edit or a view. Throws host::Error.
   void ReadHistory() const;
   void Told(const QString& channel, const QString& what);
-  /// Does something with the office; a connection that is gone is met by Attend.
+  /// Does something with the office. What went wrong with more than that shows in Now(); what went wrong with it alone
+  /// is left to the next time.
   template <class Action> void Try(Action&& action);
   /// The same by hand: Throws what it throws, once what that means for the client was told.
   template <class Action> auto ByHand(Action&& action) -> decltype(action());

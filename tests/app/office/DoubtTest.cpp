@@ -1,4 +1,6 @@
+#include <QAction>
 #include <QPointer>
+#include <QScopeGuard>
 
 #include "dossier/store/History.h"
 #include "tests/app/office/ClientWindow.h"
@@ -76,8 +78,10 @@ class DoubtTest : public ClientWindow {
       const auto* label = qobject_cast<const QLabel*>(widget);
       if (label && label->isVisible() && label->text().contains("Enter probeert het opnieuw")) said += label->text();
     }
+    // A row of a form is described by its year as well.
     QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
-    return said + (reader ? reader->text(QAccessible::Description) : QString());
+    const QString described = reader ? reader->text(QAccessible::Description) : QString();
+    return described.contains("bewaard") ? said + described : said;
   }
 
   SocketProxy proxy_{office_.Server().Folder()};
@@ -197,6 +201,54 @@ TEST_F(DoubtTest, NothingIsSaidBesideABoxThatShowsAgainWhatStoodThere) {
   QTest::qWait(200);
   EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
   EXPECT_EQ(Reason(), "");
+}
+
+TEST_F(DoubtTest, AnOfficeThatWasUpgradedMeanwhileIsNotToldAsOneThatIsNotThere) {
+  OpenAs(*window_, "anna", proxy_.Folder());
+  proxy_.NextMeets(Fate::DeadAfter);
+  ExpectRefusal("blijkt of dat is gelukt");
+  Describe("Avondkrant");
+  office_.Psql("postgres", "UPDATE kantoor.versie SET nummer = nummer + 98");
+  proxy_.Mend();
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        return Bar(*window_) ==
+               "Dit kantoor is nu niet te gebruiken: het kantoor is van een nieuwere versie; werk dit programma bij. "
+               "Het wordt af en toe opnieuw geprobeerd. Of de laatste wijziging is opgeslagen, blijkt zodra dat lukt.";
+      },
+      15000))
+      << qPrintable(Bar(*window_));
+  office_.Psql("postgres", "UPDATE kantoor.versie SET nummer = nummer - 98");
+  window_->Actions().office.reconnect->trigger();
+  EXPECT_TRUE(IsNoticed(kStored)) << qPrintable(Notice());
+  ExpectNothingIsKept();
+  EXPECT_EQ(Stored(), "Avondkrant");
+}
+
+TEST_F(DoubtTest, WhoMayEditNoMoreIsToldKeepsWhatHeTypedAndGoesOnReading) {
+  const auto grant = [this](const char* sql) { office_.Psql("postgres", sql); };
+  // The roles are the server's, which other tests go on with.
+  const auto giveBack = qScopeGuard([&] { grant("GRANT kantoor_adviseur TO anna; REVOKE kantoor_lezer FROM anna"); });
+  OpenAs(*window_, "anna", proxy_.Folder());
+  grant("REVOKE kantoor_adviseur FROM anna; GRANT kantoor_lezer TO anna");
+  ExpectRefusal("u hebt daar op dit kantoor het recht niet toe");
+  Describe("Avondkrant");
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return Bar(*window_) == "Alleen lezen: u mag in dit kantoor niets wijzigen."; }, 10000))
+      << qPrintable(Bar(*window_));
+  EXPECT_EQ(Notice(), "U mag in dit kantoor niet meer wijzigen. Wat u nog wijzigt, wordt niet opgeslagen.");
+  EXPECT_TRUE(Unstored().endsWith(": Avondkrant")) << qPrintable(Unstored());
+  EXPECT_FALSE(window_->Actions().add->isEnabled());
+  {
+    const auto bert = office_.Open(client_, "bert");
+    ASSERT_EQ(bert->Now(), dossier::OfficeStore::State::Editing);
+    bert->Dossier()->FindKolom(0, 2)->SetOmschrijving("Van Bert");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) == "Van Bert"; }, 10000));
+  }
+  grant("REVOKE kantoor_lezer FROM anna");
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return Bar(*window_).startsWith("U hebt in dit kantoor geen rechten meer."); }, 10000))
+      << qPrintable(Bar(*window_));
 }
 
 /// The rows, which go all at once: the form is gone by then.

@@ -49,6 +49,8 @@ class GoneClientTest : public ClientWindow {
       Pressing(Qt::Key_Return)(box);
     });
     Describe(text);
+    // The box shows what there was once the message is gone.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) != text; }, 5000));
   }
 };
 
@@ -64,8 +66,10 @@ TEST_F(GoneClientTest, AReaderIsToldOnceAndGoesOnReadingWhatThereWas) {
   EXPECT_EQ(Omschrijving(*window_), "Weekendabonnement");
   EXPECT_EQ(window_->Screen()->Shown(), kKrant);
   EXPECT_EQ(window_->focusWidget(), focus);
-  // Longer than a reader waits before it looks again.
+  // What leaving it takes is under way yet.
+  QTest::qWait(500);
   const int asked = proxy.RoundTrips();
+  // Longer than a reader waits before it looks again.
   QTest::qWait(2500);
   EXPECT_EQ(proxy.RoundTrips(), asked);
   EXPECT_EQ(TimesInLog(), 1);
