@@ -12,6 +12,12 @@ BarWords OfBroken(const BarFacts& facts) {
     if (facts.unknown) text += QStringLiteral(" Na het verbinden blijkt ook of de laatste wijziging is opgeslagen.");
     return {.text = text, .reconnect = true};
   }
+  if (!facts.refused.isEmpty()) {
+    text = QStringLiteral("Dit kantoor is nu niet te gebruiken: %1. Het wordt af en toe opnieuw geprobeerd.")
+               .arg(facts.refused);
+    if (facts.unknown) text += QStringLiteral(" Of de laatste wijziging is opgeslagen, blijkt zodra dat lukt.");
+    return {.text = text, .reconnect = true};
+  }
   if (!facts.said.isEmpty()) text += QStringLiteral(" (het meldt: %1)").arg(facts.said);
   text += QStringLiteral(". Er wordt vanzelf opnieuw verbinding gezocht");
   if (facts.tries > 0) text += QStringLiteral(" (poging %1)").arg(facts.tries + 1);
@@ -35,9 +41,9 @@ BarWords OfReading(const BarFacts& facts) {
 }
 
 BarWords OfGone(const BarFacts& facts) {
-  QString text = QStringLiteral(
-      "Deze cliënt is niet meer in het kantoor, of niet meer voor uw team. Wat u ziet, is wat er het laatst stond; "
-      "wijzigen kan niet meer.");
+  QString text = facts.allowed ? QStringLiteral("Deze cliënt is niet meer in het kantoor, of niet meer voor uw team.")
+                               : QStringLiteral("U hebt in dit kantoor geen rechten meer.");
+  text += QStringLiteral(" Wat u ziet, is wat er het laatst stond; wijzigen kan niet meer.");
   if (facts.unknown) text += QStringLiteral(" Of de laatste wijziging was opgeslagen, is niet bekend.");
   return {.text = text};
 }

@@ -18,6 +18,8 @@ struct BarFacts {
   bool unknown = false;  ///< the outcome of an edit is not known
   bool barred = false;   ///< the office does not take the password any more
   QString said{};        ///< why the office itself lets nobody in; empty where it says nothing
+  QString refused{};     ///< why the office is there and cannot be used; empty where it can, or is not there
+  bool allowed = true;   ///< this account may still read what is gone
   QString unreadable{};  ///< why what is stored cannot be read; empty where it can
 };
 

@@ -12,7 +12,9 @@
 #include "app/screen/FilledIn.h"
 #include "app/screen/Greying.h"
 #include "dossier/store/StoreErrors.h"
+#include <brivane/frame/Phrase.h>
 #include <brivane/toolkits/qt/widgets/EntryBox.h>
+#include <brivane/toolkits/qt/widgets/FormWindow.h>
 
 namespace brivane::app {
 namespace {
@@ -22,6 +24,14 @@ using State = dossier::OfficeStore::State;
 constexpr int kLook = 500;  ///< milliseconds
 constexpr int kMost = 60;   ///< characters of a text that are shown
 
+bool IsOfEditor(const QDialog& form) { return dynamic_cast<const qt::FormWindow::Window*>(&form) != nullptr; }
+
+/// The same text of the same place, whatever became of it.
+bool IsTheSame(const UnfinishedText& one, const UnfinishedText& other) {
+  return one.lening == other.lening && one.kolom == other.kolom && one.box == other.box && one.title == other.title &&
+         one.text == other.text;
+}
+
 QString Short(QString text) {
   text.replace(u'\n', u' ').replace(u'\t', u' ');
   return text.size() <= kMost ? text : text.left(kMost - 1) + u'…';
@@ -29,11 +39,10 @@ QString Short(QString text) {
 
 }  // namespace
 
-ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes,
-                               const OfficeActions& actions, EventLog& eventLog, Window window)
+ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, const OfficeActions& actions,
+                               EventLog& eventLog, Window window)
     : screen_(screen),
       store_(store),
-      writes_(writes),
       actions_(actions),
       eventLog_(eventLog),
       window_(std::move(window)),
@@ -52,7 +61,7 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
       store_.Bewerkingen().Failed.Connect([this](const dossier::StoreFailure& failure) { OnFailed(failure); });
   bar_->noticePutAway = [this] {
     asker_.clear();
-    bar_->ShowNotice({});
+    Notice({});
     Refresh();
   };
   bar_->putBack = [this] { PutBack(); };
@@ -60,6 +69,9 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
     if (unstored_) QGuiApplication::clipboard()->setText(unstored_->what.text);
   };
   bar_->thrownAway = [this] { ForgetUnstored(); };
+  // It may be stored: neither that it is not is said there, nor what to do about it.
+  screen_.Kolom().Editor().SetReasonTeller(
+      [this] { return mayBeStored_ ? frame::Phrase() : frame::Phrase(frame::TextId::NotStored); });
   // How often it was tried is told by nobody.
   connect(&look_, &QTimer::timeout, this, [this] {
     Refresh();
@@ -69,12 +81,17 @@ ClientOnScreen::ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& stor
   Refresh();
 }
 
-ClientOnScreen::~ClientOnScreen() { delete bar_; }
+ClientOnScreen::~ClientOnScreen() {
+  screen_.Kolom().Editor().SetReasonTeller(nullptr);
+  delete bar_;
+}
 
 BarFacts ClientOnScreen::Facts() const {
   const dossier::Holder& holder = store_.HeldBy();
+  const auto& failure = store_.LastFailure();
+  const bool refused = failure && failure->Problem() != dossier::OfficeProblem::Unreachable;
   return {.state = store_.Now(),
-          .writes = writes_,
+          .writes = store_.Writes(),
           .holder = holder.naam,
           .since = MomentText(holder.sinds, QDateTime::currentDateTime()),
           .asked = asked_,
@@ -82,7 +99,9 @@ BarFacts ClientOnScreen::Facts() const {
           .tries = store_.Tries(),
           .unknown = unknown_,
           .barred = store_.WantsPassword(),
-          .said = store_.LastFailure() ? store_.LastFailure()->SaidByServer() : QString(),
+          .said = failure ? failure->SaidByServer() : QString(),
+          .refused = refused ? QString::fromStdString(failure->Oorzaak()) : QString(),
+          .allowed = store_.GoneBecause() != dossier::OfficeProblem::NotAllowed,
           .unreadable = store_.Unreadable() ? QString::fromStdString(store_.Unreadable()->Oorzaak()) : QString()};
 }
 
@@ -107,6 +126,7 @@ void ClientOnScreen::Refresh() {
 }
 
 void ClientOnScreen::Notice(const QString& text) {
+  notStored_ = false;
   bar_->ShowNotice(text);
   if (!text.isEmpty()) eventLog_.Write(QStringLiteral("Kantoor: %1").arg(text));
 }
@@ -134,10 +154,12 @@ void ClientOnScreen::OnChanged() {
     } else if (before == State::Broken && settled_) {
       // It was told already, with what became of the last edit.
     } else if (before == State::Broken) {
-      Notice(state_ == State::Editing || !writes_ || holder.isEmpty()
+      Notice(state_ == State::Editing || !store_.Writes() || holder.isEmpty()
                  ? QStringLiteral("De verbinding met het kantoor is er weer.")
                  : QStringLiteral("De verbinding met het kantoor is er weer, maar intussen werkt %1 in dit dossier.")
                        .arg(holder));
+    } else if (before == State::Editing && !store_.Writes()) {
+      Notice(QStringLiteral("U mag in dit kantoor niet meer wijzigen. Wat u nog wijzigt, wordt niet opgeslagen."));
     } else if (before == State::Editing && !lettingGo_) {
       Notice(QStringLiteral("%1 heeft dit dossier overgenomen. Wat u nog wijzigt, wordt niet opgeslagen.").arg(who));
     } else if (state_ == State::Editing && readable) {
@@ -154,7 +176,7 @@ void ClientOnScreen::OnChanged() {
     window_.changed();
   }
   // Who asked for it gets it.
-  if (state_ == State::Reading && asked_ && store_.HeldBy().naam.isEmpty())
+  if (state_ == State::Reading && asked_ && store_.Writes() && store_.HeldBy().naam.isEmpty())
     QMetaObject::invokeMethod(this, &ClientOnScreen::TakeOver, Qt::QueuedConnection);
   Refresh();
 }
@@ -183,48 +205,66 @@ void ClientOnScreen::OnSettled(dossier::Outcome outcome) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is opgeslagen."));
   } else if (outcome == dossier::Outcome::WasNotStored) {
     Notice(QStringLiteral("De verbinding met het kantoor is er weer. De laatste wijziging is niet opgeslagen."));
+    notStored_ = true;
   }
   Refresh();
 }
 
 void ClientOnScreen::OnStored() {
+  // Tried once more in the dialog that stayed, or in the box: it is no more so that it is not stored.
+  const bool again = unstored_ && (form_ ? form_ == QApplication::activeModalWidget()
+                                         : IsTheSame(unstored_->what, WhatWasEntered().what));
   typed_.Forget();
-  // A dialog that stayed was confirmed once more.
-  if (form_ && form_ == QApplication::activeModalWidget()) ForgetUnstored();
+  if (!again) return;
+  ForgetUnstored();
+  if (notStored_) Notice({});
+}
+
+ClientOnScreen::Entered ClientOnScreen::WhatWasEntered() const {
+  Entered entered{.what = window_.here()};
+  entered.form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (entered.form) {
+    entered.what.title = entered.form->windowTitle();
+    entered.what.text = FilledIn(*entered.form);
+    entered.label = entered.what.title;
+  } else if (typed_.Now()) {
+    entered.what.box = typed_.Now()->box;
+    entered.what.text = typed_.Now()->text;
+    entered.label = typed_.Now()->label;
+  }
+  return entered;
 }
 
 void ClientOnScreen::KeepUnstored(bool unknown) {
-  UnfinishedText unstored = window_.here();
+  Entered entered = WhatWasEntered();
+  UnfinishedText& unstored = entered.what;
   unstored.unknown = unknown;
-  QString label;
-  auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  if (form != nullptr) {
-    unstored.title = form->windowTitle();
-    unstored.text = FilledIn(*form);
-    label = unstored.title;
-  } else if (typed_.Now()) {
-    unstored.box = typed_.Now()->box;
-    unstored.text = typed_.Now()->text;
-    label = typed_.Now()->label;
-  }
   typed_.Forget();
+  mayBeStored_ = unknown || (inDoubt_ && IsTheSame(inDoubt_->what, unstored));
   if (unknown) {
-    formInDoubt_ = form;
+    formInDoubt_ = entered.form;
     textInDoubt_ = unstored.text;
   }
   if (unstored.text.isEmpty()) return;
+  label_ = entered.label;
+  form_ = entered.form;
+  // Tried once more, it may have been stored the first time.
+  if (!unknown && mayBeStored_) {
+    unstored_ = inDoubt_;
+    return;
+  }
   // Of one box the last text counts; what stood in another is offered at the next start.
-  if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) ForgetUnstored();
+  if (unstored_ && unstored_->what.box == unstored.box && unstored_->what.kolom == unstored.kolom) Forget(*unstored_);
   unstored_ = {unstored.Keep(), unstored};
-  label_ = label;
-  form_ = form;
   if (unknown) inDoubt_ = unstored_;
 }
 
 void ClientOnScreen::SettleKept(bool stored) {
   const QPointer<QDialog> form = std::exchange(formInDoubt_, nullptr);
-  // Where it was changed since, that is not what was stored.
-  if (stored && form && form->isVisible() && FilledIn(*form) == textInDoubt_) form->done(QDialog::Accepted);
+  // Where it was changed since, that is not what was stored; and a form of the editor stores its rows all at once
+  // later.
+  if (stored && form && form->isVisible() && !IsOfEditor(*form) && FilledIn(*form) == textInDoubt_)
+    form->done(QDialog::Accepted);
   auto kept = std::exchange(inDoubt_, std::nullopt);
   if (!kept) return;
   const bool shown = unstored_ && unstored_->name == kept->name;
@@ -238,9 +278,13 @@ void ClientOnScreen::SettleKept(bool stored) {
   if (shown) unstored_ = kept;
 }
 
+void ClientOnScreen::Forget(const UnfinishedText::Kept& kept) {
+  UnfinishedText::Forget(kept.name);
+  if (inDoubt_ && inDoubt_->name == kept.name) inDoubt_.reset();
+}
+
 void ClientOnScreen::ForgetUnstored() {
-  if (unstored_) UnfinishedText::Forget(unstored_->name);
-  if (unstored_ && inDoubt_ && inDoubt_->name == unstored_->name) inDoubt_.reset();
+  if (unstored_) Forget(*unstored_);
   unstored_.reset();
   form_.clear();
   Refresh();

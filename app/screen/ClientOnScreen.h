@@ -34,8 +34,8 @@ class ClientOnScreen final : public QObject {
   };
 
   /// Everything handed over outlives this object, the screen as what stores it too.
-  ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, bool writes, const OfficeActions& actions,
-                 EventLog& eventLog, Window window);
+  ClientOnScreen(DossierScreen& screen, dossier::OfficeStore& store, const OfficeActions& actions, EventLog& eventLog,
+                 Window window);
   ~ClientOnScreen() override;
 
   [[nodiscard]] QWidget* Bar() { return bar_; }
@@ -57,9 +57,17 @@ class ClientOnScreen final : public QObject {
   void OnSettled(dossier::Outcome outcome);
   void OnReread();
   void OnStored();
+  /// What was typed in a box or filled in in a dialog, where it stands; no text where it is neither.
+  struct Entered {
+    UnfinishedText what;
+    QString label{};  ///< of the box
+    QPointer<QDialog> form{};
+  };
+  [[nodiscard]] Entered WhatWasEntered() const;
   /// `unknown`: it may have been stored.
   void KeepUnstored(bool unknown);
   void SettleKept(bool stored);
+  void Forget(const UnfinishedText::Kept& kept);
   void ForgetUnstored();
   void PutBack();
   void Notice(const QString& text);
@@ -70,7 +78,6 @@ class ClientOnScreen final : public QObject {
 
   DossierScreen& screen_;
   dossier::OfficeStore& store_;
-  bool writes_;
   OfficeActions actions_;
   EventLog& eventLog_;
   Window window_;
@@ -81,11 +88,13 @@ class ClientOnScreen final : public QObject {
   bool asked_ = false;
   bool lettingGo_ = false;
   bool unknown_ = false;
+  bool mayBeStored_ = false;         ///< what failed last
   bool asking_ = false;              ///< for a password
   bool putAway_ = false;             ///< the question for one, since the connection broke
   std::optional<QString> password_;  ///< that was given since then
   bool readable_ = true;
-  bool settled_ = false;  ///< what became of an edit was told since the connection broke
+  bool settled_ = false;    ///< what became of an edit was told since the connection broke
+  bool notStored_ = false;  ///< the notice says that the last edit was not stored
   QString asker_;
   std::optional<UnfinishedText::Kept> unstored_;
   QString label_;           ///< of its box

@@ -106,7 +106,7 @@ void MainWindow::FollowClient() {
   auto* store = dynamic_cast<dossier::OfficeStore*>(&screen_->Store());
   if (store == nullptr) return;
   client_ = std::make_unique<ClientOnScreen>(
-      *screen_, *store, entrance_->office->User().writes, actions_.office, eventLog_,
+      *screen_, *store, actions_.office, eventLog_,
       ClientOnScreen::Window{.changed = [this] { UpdateActions(); },
                              .tell = [this](const QString& text) { statusBar()->showMessage(text, kTold); },
                              .here = [this] { return Here(); },

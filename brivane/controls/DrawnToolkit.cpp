@@ -26,6 +26,10 @@ FormSubject DrawnToolkit::Subject() {
   }
 }
 
+frame::Phrase DrawnToolkit::ReasonOfFailure() const {
+  return reasonTeller_ ? reasonTeller_() : frame::TextId::NotStored;
+}
+
 Outcome DrawnToolkit::Hand(AnyControl& control, const Action& action) {
   const std::shared_ptr<RowChanges> rows = RowChanges::Around(control);
   // The control may be gone when the action comes back.

@@ -6,6 +6,7 @@
 #include <brivane/controls/FormSubject.h>
 #include <brivane/controls/ToolkitBase.h>
 #include <brivane/controls/entry/PendingEdits.h>
+#include <brivane/frame/Phrase.h>
 #include <brivane/frame/Texts.h>
 #include <brivane/host/Error.h>
 #include <brivane/host/Export.h>
@@ -42,6 +43,13 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
   /// What the form that comes on the screen is about; nothing where nobody tells.
   [[nodiscard]] FormSubject Subject();
 
+  /// Who tells what is said beside a box whose content the host failed to take; nothing is said for an empty one.
+  using ReasonTeller = std::function<frame::Phrase()>;
+  /// Asked at each such failure, for a host that does not know whether it was stored.
+  void SetReasonTeller(ReasonTeller teller) { reasonTeller_ = std::move(teller); }
+  /// What is said there: that it was not stored, where nobody tells.
+  [[nodiscard]] frame::Phrase ReasonOfFailure() const;
+
   /// What is being typed in the boxes of this toolkit.
   [[nodiscard]] PendingEdits& Pending() { return pending_; }
   /// The texts of what it adds to the controls; Dutch where it knows no other.
@@ -53,6 +61,7 @@ class BRIVANE_API DrawnToolkit : public ToolkitBase {
  private:
   FailureListener failureListener_;
   SubjectTeller subjectTeller_;
+  ReasonTeller reasonTeller_;
   PendingEdits pending_;
 };
 

@@ -59,7 +59,7 @@ ClientSession::ClientSession(std::shared_ptr<OfficeConnection> office, int clien
     : office_(std::move(office)), client_(client), tables_(*office_, client) {
   pid_ = office_->User().pid;
   try {
-    if (office_->User().writes) TakeLease();
+    if (Writes()) TryTakeLease();
     // Who reads along is told of everything that was stored after what he read.
     if (state_ == State::Reading) TakeUp();
     Fill();
@@ -110,12 +110,22 @@ bool ClientSession::Take() {
   return true;
 }
 
+void ClientSession::TryTakeLease() {
+  try {
+    TakeLease();
+  } catch (const OfficeError& error) {
+    // The right was taken away since the session began.
+    if (error.Problem() != OfficeProblem::NotAllowed) throw;
+    refused_ = true;
+  }
+}
+
 bool ClientSession::TakeLease() {
   const OfficeRows row =
       office_->Run(QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)"),
                    {client_}, Patience::Short);
   token_ = row.value(0).toString();
-  behind_ = behind_ || row.value(3).toLongLong() != tables_.LastStep();
+  SeeStep(row.value(3).toLongLong());
   if (token_.isEmpty()) {
     holder_ = {row.value(1).toString(), row.value(2).toDateTime()};
     return false;
@@ -145,7 +155,16 @@ void ClientSession::Heard(const OfficeAnswer& answer, std::int64_t step) {
 void ClientSession::See(const OfficeRows& who) {
   if (state_ == State::Reading) holder_ = {who.value(0).toString(), who.value(1).toDateTime()};
   asker_ = {who.value(3).toString(), who.value(4).toDateTime()};
-  behind_ = behind_ || who.value(2).toLongLong() != tables_.LastStep();
+  SeeStep(who.value(2).toLongLong());
+}
+
+void ClientSession::SeeStep(std::int64_t newest) {
+  newest_ = newest;
+  behind_ = behind_ || newest != tables_.LastStep();
+}
+
+bool ClientSession::LacksOwnEditAlone() const {
+  return state_ == State::Editing && newest_ == found_step_ && newest_ == tables_.LastStep() + 1;
 }
 
 void ClientSession::ReadAside(std::function<void(OfficeAnswer)> answer) {
@@ -181,20 +200,23 @@ void ClientSession::Ask() {
   office_->Run(QStringLiteral("SELECT kantoor.vraag(?::integer)"), {client_}, Patience::Short);
 }
 
-void ClientSession::Begin() {
+void ClientSession::Begin(bool in_form) {
   switch (state_) {
     case State::Editing: break;
     case State::Broken: Refuse(kOfficeError, "er is geen verbinding met het kantoor");
-    case State::Gone: Refuse(kRefusedError, OfficeError(OfficeProblem::NoClient, "").Oorzaak());
+    case State::Gone: Refuse(kRefusedError, OfficeError(gone_because_, "").Oorzaak());
     case State::Reading:
-      if (!office_->User().writes) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
+      if (!Writes()) Refuse(kLeaseError, "u mag dit dossier alleen lezen");
       Refuse(kLeaseError, holder_.naam.isEmpty() ? "het dossier is niet bij u in bewerking"
                                                  : holder_.naam.toStdString() + " werkt in dit dossier");
   }
   // What could not be kept in memory after it was stored, or was stored by another.
   if (behind_ || NewestStep(tables_.Tables()) != tables_.LastStep()) {
     behind_ = true;
-    Refuse(kRefusedError, "het dossier wordt opnieuw gelezen");
+    // Nothing is read under a form, which goes on from what it was opened with.
+    Refuse(kRefusedError, in_form
+                              ? "het dossier is intussen gewijzigd. Sluit dit venster, dan wordt het opnieuw gelezen"
+                              : "het dossier wordt opnieuw gelezen");
   }
 }
 
@@ -244,7 +266,7 @@ std::int64_t ClientSession::Send(const QString& edit, std::int64_t step, const E
         kBron);
   }
   if (verdict->outcome == Outcome::WasNotStored) Refuse(kOfficeError, "de verbinding met het kantoor viel even weg");
-  behind_ = found_step_ != step;
+  behind_ = newest_ != step;
   return found_time_;
 }
 
@@ -255,10 +277,23 @@ void ClientSession::Broke() {
 
 void ClientSession::Met(const OfficeError& error) {
   if (error.Problem() == OfficeProblem::Unreachable && IsThere()) Broke();
-  if (error.Problem() == OfficeProblem::NoClient) LoseSight();
+  if (error.Problem() == OfficeProblem::NoClient) LoseSight(OfficeProblem::NoClient);
+  if (error.Problem() == OfficeProblem::NotAllowed) LoseRight();
 }
 
-void ClientSession::LoseSight() {
+void ClientSession::LoseRight() {
+  // Who was a reader already may not even read.
+  if (!Writes()) return LoseSight(OfficeProblem::NotAllowed);
+  refused_ = true;
+  if (state_ != State::Editing) return;
+  // The office lets nobody let go who may not edit. What this session has is of no use to it any more.
+  office_->Post(QStringLiteral("SELECT pg_advisory_unlock_all(), pg_notify(?, 'los')"), {Channel()});
+  token_.clear();
+  state_ = State::Reading;
+  Follow();
+}
+
+void ClientSession::LoseSight(OfficeProblem because) {
   // Those to whom it was given may edit it at once.
   if (state_ == State::Editing)
     office_->Post(QStringLiteral("SELECT kantoor.laat_los(?::integer, ?::uuid)"), {client_, token_});
@@ -267,7 +302,15 @@ void ClientSession::LoseSight() {
   token_.clear();
   holder_ = {};
   asker_ = {};
+  gone_because_ = because;
   state_ = State::Gone;
+}
+
+OfficeRows ClientSession::TakeOrLook(bool takes) {
+  return office_->Run(
+      takes ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
+            : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
+      {client_}, Patience::Short);
 }
 
 std::optional<Verdict> ClientSession::Reconnect() noexcept {
@@ -275,29 +318,42 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
                       .step = tables_.LastStep(),
                       .session = {pid_, since_.toMSecsSinceEpoch()},
                       .edit = pending_ ? std::optional(pending_->step) : std::nullopt};
+  refused_ = false;
+  failure_.reset();
+  bool entered = false;
   try {
     // Another client of the same window may have begun the new session already. Who waits here is in the middle of an
     // edit, or knows that the server answers.
     if (office_->IsBroken()) office_->OpenOffice(Patience::Short);
+    entered = true;
     for (QDeadlineTimer ends(WaitingTimes::Now().ending); !ends.hasExpired();) {
       Found found;
-      const OfficeRows row = office_->Run(
-          before.edited
-              ? QStringLiteral("SELECT bewijs::text, houder, sinds, laatste, pid FROM kantoor.neem(?::integer)")
-              : QStringLiteral("SELECT NULL, houder, sinds, laatste, 0 FROM kantoor.wie(?::integer)"),
-          {client_}, Patience::Short);
+      bool takes = before.edited && Writes();
+      OfficeRows row;
+      try {
+        row = TakeOrLook(takes);
+      } catch (const OfficeError& error) {
+        if (!takes || error.Problem() != OfficeProblem::NotAllowed) throw;
+        refused_ = true;
+        takes = false;
+        row = TakeOrLook(takes);
+      }
       const QString token = row.value(0).toString();
       found = {.taken = !token.isEmpty(),
-               .holder = {row.value(4).toInt(), row.value(2).toDateTime().toMSecsSinceEpoch()},
+               // A reader is not told which session has it, and knows his own by when it took it up.
+               .holder = {takes ? row.value(4).toInt() : pid_, row.value(2).toDateTime().toMSecsSinceEpoch()},
                .step = row.value(3).toLongLong(),
                .edit_is_there = false};
       const Holder holder = found.taken ? Holder() : Holder{row.value(1).toString(), row.value(2).toDateTime()};
       if (pending_) {
         const OfficeRows time =
-            office_->Run(QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)"),
+            office_->Run(takes ? QStringLiteral("SELECT kantoor.uitkomst(?::integer, ?::bigint, ?::uuid)")
+                               : QStringLiteral("SELECT tijd FROM kantoor.stap WHERE client = ?::integer AND nummer = "
+                                                "?::bigint AND bewerking = ?::uuid"),
                          {client_, static_cast<qlonglong>(pending_->step), pending_->edit}, Patience::Short);
         found.edit_is_there = !time.isNull(0);
         found_time_ = time.value(0).toLongLong();
+        if (found.edit_is_there) found_step_ = pending_->step;
       }
       const Verdict verdict = Judge(before, found);
       if (verdict.role == Role::TryAgain) {
@@ -315,18 +371,19 @@ std::optional<Verdict> ClientSession::Reconnect() noexcept {
       since_ = row.value(2).toDateTime();
       follows_ = false;
       TakeUp();
-      found_step_ = found.step;
+      newest_ = found.step;
       behind_ = behind_ || verdict.reload;
       pending_.reset();
       tries_ = 0;
       return verdict;
     }
   } catch (const OfficeError& error) {
-    if (error.Problem() == OfficeProblem::NoClient) {
-      LoseSight();
+    failure_ = error;
+    const OfficeProblem problem = error.Problem();
+    if (problem == OfficeProblem::NoClient || (entered && problem == OfficeProblem::NotAllowed)) {
+      LoseSight(problem);
       return std::nullopt;
     }
-    // The next try comes later.
   }
   state_ = State::Broken;
   ++tries_;

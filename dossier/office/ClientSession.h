@@ -45,13 +45,17 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] State Now() const { return state_; }
   [[nodiscard]] int Client() const { return client_; }
   [[nodiscard]] OfficeConnection& Office() { return *office_; }
+  /// This account may edit, as far as the office has said.
+  [[nodiscard]] bool Writes() const { return office_->User().writes && !refused_; }
+  /// Where it is gone: NoClient, or NotAllowed where the account may not even read any more.
+  [[nodiscard]] OfficeProblem GoneBecause() const { return gone_because_; }
   /// Who else has it, as far as this program was told.
   [[nodiscard]] const Holder& HeldBy() const { return holder_; }
   /// Who asks whoever has it to let go, as far as the server was asked; nobody where the name is empty.
   [[nodiscard]] const Holder& AskedBy() const { return asker_; }
   [[nodiscard]] ClientTables& Tables() { return tables_; }
 
-  void Begin() override;
+  void Begin(bool in_form) override;
   void Keep(Database& tables, const KeptEdit& edit) override;
 
   /// Asks the server who has the client and how far it is; answers whether what is in memory is behind. Throws
@@ -76,12 +80,14 @@ class ClientSession final : public EditKeeper {
   void Leave() noexcept;
   /// Asks who has it to let it go. Throws OfficeError.
   void Ask();
-  /// Tries to begin a new session after the connection broke; `tries` have failed before. Answers what came of it,
-  /// nothing where the server is not reached.
+  /// Tries to begin a new session after the connection broke. Answers what came of it; nothing where it failed, as
+  /// Failure() tells, or where the client is gone. Who may only read any more goes on as a reader.
   std::optional<Verdict> Reconnect() noexcept;
+  [[nodiscard]] const std::optional<OfficeError>& Failure() const { return failure_; }
   /// A statement of this client's met a connection that is gone.
   void Broke();
-  /// What such a statement failed with, where it is more than that statement: the connection is gone, or the client.
+  /// What such a statement failed with, where it is more than that statement: the connection is gone, the client, or
+  /// the right to edit or to read it.
   void Met(const OfficeError& error);
   /// There is a connection, and the client.
   [[nodiscard]] bool IsThere() const { return state_ == State::Editing || state_ == State::Reading; }
@@ -94,6 +100,8 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] bool HasUnknownEdit() const { return pending_.has_value(); }
   /// The tables hold something else than the office: they are to be filled anew before anything is edited.
   [[nodiscard]] bool IsBehind() const { return behind_; }
+  /// They lack nothing but the last edit made here, whose answer was lost.
+  [[nodiscard]] bool LacksOwnEditAlone() const;
   /// What filled the tables cannot be shown: they stay behind.
   void StayBehind() { behind_ = true; }
   /// Fills the tables anew. Throws OfficeError, and DatabaseError.
@@ -108,13 +116,18 @@ class ClientSession final : public EditKeeper {
   [[nodiscard]] EditText TextOf(Database& tables, const KeptEdit& edit);
   [[nodiscard]] std::int64_t Send(const QString& edit, std::int64_t step, const EditText& text);
   bool TakeLease();
+  /// Reads where it may not be edited any more.
+  void TryTakeLease();
   void See(const OfficeRows& who);
+  void SeeStep(std::int64_t newest);
   void TakeUp();
   /// Answers whether the office knows of it.
   bool GiveBack() noexcept;
   void Follow();
   void FollowNoMore();
-  void LoseSight();
+  void LoseRight();
+  void LoseSight(OfficeProblem because);
+  OfficeRows TakeOrLook(bool takes);
 
   std::shared_ptr<OfficeConnection> office_;
   int client_;
@@ -129,10 +142,15 @@ class ClientSession final : public EditKeeper {
   std::optional<Pending> pending_;
   int tries_ = 0;
   bool behind_ = false;
+  bool refused_ = false;
+  OfficeProblem gone_because_ = OfficeProblem::NoClient;
+  std::optional<OfficeError> failure_;
   bool follows_ = false;
   bool left_ = false;
   FindingWords words_;
-  /// What the last new session found: the time of the edit that was looked up, and the last step.
+  /// The last step that the office was seen to have.
+  std::int64_t newest_ = 0;
+  /// Of the edit that was looked up last and is there.
   std::int64_t found_time_ = 0;
   std::int64_t found_step_ = 0;
 };

@@ -15,6 +15,8 @@
 namespace brivane::dossier {
 namespace {
 
+/// An office that is there and refuses is tried as one that so many tries did not reach.
+constexpr int kMany = 100;
 /// Until what is behind is read anew.
 constexpr std::chrono::milliseconds kSoon{50};
 
@@ -200,36 +202,32 @@ void OfficeStore::LookAside() {
 
 void OfficeStore::Heard(const OfficeAnswer& answer, std::int64_t step) {
   Try([&] { session_->Heard(answer, step); });
-  if (!session_->IsThere() || !journal_->Bewerkingen().IsQuiet()) return;
-  if (session_->IsBehind()) return session_->ReadAside(Counting(&OfficeStore::Read));
-  TellSettled();
+  if (session_->IsThere() && session_->IsBehind() && MayReread()) session_->ReadAside(Counting(&OfficeStore::Read));
 }
 
 void OfficeStore::Read(const OfficeAnswer& answer, std::int64_t step) {
-  // What somebody is at work on stays as it is until he is done.
-  if (!journal_->Bewerkingen().IsQuiet()) return;
-  Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
-  if (session_->IsThere() && (!session_->IsBehind() || unreadable_)) TellSettled();
+  if (MayReread()) Try([&] { Reread([&] { session_->FillWith(answer, step); }); });
+}
+
+bool OfficeStore::MayReread() const {
+  const Edits& edits = journal_->Bewerkingen();
+  return edits.IsQuiet() || (edits.IsBetweenEdits() && session_->LacksOwnEditAlone());
 }
 
 void OfficeStore::Attend() {
+  std::optional<Outcome> settled;
   if (Now() == State::Broken) {
     const bool unknown = session_->HasUnknownEdit();
     const std::optional<Verdict> verdict = session_->Reconnect();
-    if (verdict && unknown) settled_ = verdict->outcome;
+    if (verdict && unknown) settled = verdict->outcome;
+    if (!verdict) failure_ = session_->Failure();
   } else if (Now() != State::Gone) {
     Try([&] { session_->LookAround(); });
   }
-  // What somebody is at work on stays as it is until he is done.
-  if (session_->IsThere() && journal_->Bewerkingen().IsQuiet()) {
-    if (session_->IsBehind()) Try([&] { Reload(); });
-    TellSettled();
-  }
+  if (session_->IsThere() && session_->IsBehind() && MayReread()) Try([&] { Reload(); });
+  // Whatever somebody is at work on: the next edit would be taken for this one.
+  if (settled) Settled.Raise(*settled);
   TellIfChanged();
-}
-
-void OfficeStore::TellSettled() {
-  if (const auto outcome = std::exchange(settled_, std::nullopt)) Settled.Raise(*outcome);
 }
 
 void OfficeStore::Told(const QString& channel, const QString& what) {
@@ -301,12 +299,14 @@ void OfficeStore::Plan() {
     // What comes of knocking, or of a password, plans what comes next; what is gone is looked for no more.
     timer_->stop();
   } else if (Now() == State::Broken) {
-    timer_->start(told ? PauseAfter(std::max(Tries() - 1, 0)) : std::chrono::milliseconds(0));
+    const bool refused = failure_ && failure_->Problem() != OfficeProblem::Unreachable;
+    const std::chrono::milliseconds pause = PauseAfter(refused ? kMany : std::max(Tries() - 1, 0));
+    timer_->start(told ? pause : std::chrono::milliseconds(0));
   } else if (!told) {
     timer_->start(0);
   } else if (IsAsked()) {
     timer_->start(static_cast<int>(answered_by_.remainingTime()));
-  } else if (!unreadable_ && (session_->IsBehind() || settled_)) {
+  } else if (!unreadable_ && session_->IsBehind()) {
     timer_->start(kSoon);
   } else {
     timer_->start(Now() == State::Reading ? WaitingTimes::Now().reading : WaitingTimes::Now().editing);

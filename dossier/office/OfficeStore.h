@@ -58,6 +58,10 @@ class OfficeStore final : public DossierStore {
 
   [[nodiscard]] int Client() const { return session_->Client(); }
   [[nodiscard]] State Now() const { return session_->Now(); }
+  /// This account may edit, as far as the office has said.
+  [[nodiscard]] bool Writes() const { return session_->Writes(); }
+  /// Where it is gone: NoClient, or NotAllowed where this account may not even read any more.
+  [[nodiscard]] OfficeProblem GoneBecause() const { return session_->GoneBecause(); }
   /// Who else edits it; nobody where the name is empty.
   [[nodiscard]] const Holder& HeldBy() const { return session_->HeldBy(); }
   /// How many tries to reach the office have failed since the connection broke.
@@ -77,13 +81,15 @@ class OfficeStore final : public DossierStore {
   /// The office lets this account in no more with the password that it has: nothing is tried until another is given,
   /// or ReconnectNow.
   [[nodiscard]] bool WantsPassword() const { return barred_; }
-  /// Why the last try failed that was made aside; nothing once the connection is there.
+  /// Why the last try failed; nothing once the connection is there. Where the office was reached, and cannot be used,
+  /// it is tried again now and then.
   [[nodiscard]] const std::optional<OfficeError>& LastFailure() const { return failure_; }
   /// Tries at once to reach the office, where the connection broke; with another password where one is given.
   void ReconnectNow(const std::optional<QString>& password = std::nullopt);
 
   /// Does what is due: tries to reach the office where the connection broke, and otherwise looks who has the client and
-  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs.
+  /// whether something was stored. What is in memory is left alone while a procedure of the editor runs, but for an
+  /// edit made in a modal form that turns out to be stored.
   void Attend();
 
   /// Who may edit it, the connection, or whether it can be read, is another.
@@ -92,7 +98,8 @@ class OfficeStore final : public DossierStore {
   host::Event<> Herladen;
   /// Somebody asks for it, by name; told where it is edited here.
   host::Event<const QString&> Asked;
-  /// Of an edit that was told as not known: whether it was stored.
+  /// Of an edit that was told as not known: whether it was stored. Told as soon as there is a connection, also under a
+  /// modal form and before the memory shows it.
   host::Event<Outcome> Settled;
 
  private:
@@ -102,10 +109,13 @@ class OfficeStore final : public DossierStore {
   /// The same for an edit or a view. Throws host::Error.
   void ReadHistory() const;
   void Told(const QString& channel, const QString& what);
-  /// Does something with the office; a connection that is gone is met by Attend.
+  /// Does something with the office. What went wrong with more than that shows in Now(); what went wrong with it alone
+  /// is left to the next time.
   template <class Action> void Try(Action&& action);
   /// The same by hand: Throws what it throws, once what that means for the client was told.
   template <class Action> auto ByHand(Action&& action) -> decltype(action());
+  /// What somebody is at work on stays as it is until he is done; a modal form goes on from what was stored in it.
+  [[nodiscard]] bool MayReread() const;
   void Reload();
   void TellIfChanged();
   void Plan();
@@ -124,7 +134,6 @@ class OfficeStore final : public DossierStore {
   void Read(const OfficeAnswer& answer, std::int64_t step);
   /// Fills the tables and shows them, where they can be shown.
   template <class Fill> void Reread(Fill&& fill);
-  void TellSettled();
 
   std::shared_ptr<ClientSession> session_;
   std::shared_ptr<FileJournal> journal_;
@@ -144,8 +153,6 @@ class OfficeStore final : public DossierStore {
   /// Gone with this object: a question outlives it.
   std::shared_ptr<int> here_ = std::make_shared<int>();
   host::Subscriptions subscriptions_;
-  /// What Settled is to tell.
-  std::optional<Outcome> settled_;
   std::optional<OfficeError> unreadable_;
   /// What Changed told last.
   State told_state_ = State::Reading;

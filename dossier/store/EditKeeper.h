@@ -21,8 +21,8 @@ class EditKeeper {
  public:
   virtual ~EditKeeper() = default;
 
-  /// An edit begins. Throws host::Error where nothing can be kept now.
-  virtual void Begin() = 0;
+  /// An edit begins, in a modal form or not. Throws host::Error where nothing can be kept now.
+  virtual void Begin(bool in_form) = 0;
   /// An edit ends: what it changed stands in the tables with its step in the history, and is not committed there yet.
   /// Throws host::Error where it is not kept, or where that is not known, and the edit is undone.
   virtual void Keep(Database& tables, const KeptEdit& edit) = 0;

@@ -52,6 +52,11 @@ class Edits {
 
   /// No procedure runs and no edit is under way: the memory may be loaded anew.
   [[nodiscard]] bool IsQuiet() const { return running_.empty() && !edit_; }
+  /// No edit is under way, and what runs waits for a modal form, if anything does: the memory may be loaded anew where
+  /// it comes to hold what that waits for anyway.
+  [[nodiscard]] bool IsBetweenEdits() const { return Outside() && !edit_; }
+  /// A procedure waits for a modal form.
+  [[nodiscard]] bool HasForm() const { return !modal_.empty(); }
 
   // What the tracers tell.
   void Enter(std::string_view procedure);

@@ -159,7 +159,7 @@ void FileJournal::Begin() {
                       "het open was.",
                       kBron);
   }
-  if (keeper_) keeper_->Begin();
+  if (keeper_) keeper_->Begin(edits_.HasForm());
   try {
     database_->RunAgain(QStringLiteral("BEGIN IMMEDIATE"));
   } catch (const DatabaseError& error) {

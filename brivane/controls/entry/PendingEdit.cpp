@@ -176,9 +176,10 @@ bool PendingEdit::Commit() {
   // Where what was going on was abandoned, nobody is told anything.
   if (!toolkit_->Life()->Ended()) {
     if (outcome == Outcome::Refused) return Refuse(Phrase());
-    if (failures.Seen()) {
+    // The host may have put back what stood there before it told of the failure to the end.
+    if (failures.Seen() && pending_) {
       box_->MarkEdited();
-      return Refuse(TextId::NotStored);
+      return Refuse(toolkit_->ReasonOfFailure());
     }
   }
   ShowContent();

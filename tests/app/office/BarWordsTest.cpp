@@ -34,6 +34,16 @@ TEST(BarWordsTest, SayWhoHasItAndWhatCanBeDone) {
        {.text = "Geen verbinding met het kantoor (het meldt: de deur is dicht). Er wordt vanzelf opnieuw verbinding "
                 "gezocht (poging 2).",
         .reconnect = true}},
+      {{.state = State::Broken, .tries = 3, .refused = "het is te nieuw"},
+       {.text = "Dit kantoor is nu niet te gebruiken: het is te nieuw. Het wordt af en toe opnieuw geprobeerd.",
+        .reconnect = true}},
+      {{.state = State::Broken, .tries = 3, .unknown = true, .refused = "het is te nieuw"},
+       {.text = "Dit kantoor is nu niet te gebruiken: het is te nieuw. Het wordt af en toe opnieuw geprobeerd. Of de "
+                "laatste wijziging is opgeslagen, blijkt zodra dat lukt.",
+        .reconnect = true}},
+      {{.state = State::Gone, .allowed = false},
+       {.text = "U hebt in dit kantoor geen rechten meer. Wat u ziet, is wat er het laatst stond; wijzigen kan niet "
+                "meer."}},
       {{.state = State::Broken, .tries = 4, .unknown = true, .barred = true, .said = "password"},
        {.text = "Geen verbinding met het kantoor: het neemt uw wachtwoord niet meer aan. Na het verbinden blijkt ook "
                 "of de laatste wijziging is opgeslagen.",

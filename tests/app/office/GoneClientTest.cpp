@@ -44,6 +44,8 @@ class GoneClientTest : public ClientWindow {
   void ExpectRefusedAsGone(const char* text) {
     ExpectFailed({"deze cliënt is er niet (meer), of niet voor uw team"});
     Describe(text);
+    // The box shows what there was once the message is gone.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Omschrijving(*window_) != text; }, test::kPatience));
   }
 };
 
@@ -61,8 +63,8 @@ TEST_F(GoneClientTest, AReaderIsToldOnceAndGoesOnReadingWhatThereWas) {
   EXPECT_EQ(window_->focusWidget(), focus);
   // What leaving it asks for comes to an end.
   for (int before = -1; before != proxy.RoundTrips(); QTest::qWait(1000)) before = proxy.RoundTrips();
-  // Longer than a reader waits before it looks again.
   const int asked = proxy.RoundTrips();
+  // Longer than a reader waits before it looks again.
   QTest::qWait(2500);
   EXPECT_EQ(proxy.RoundTrips(), asked);
   EXPECT_EQ(TimesInLog(), 1);

@@ -76,11 +76,16 @@ class RefusedTest : public ClientWindow {
     PressKey(Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
   }
-  [[nodiscard]] std::function<void()> AnnaLosesHerRole() {
-    return [this] { Superuser("REVOKE kantoor_adviseur FROM anna"); };
+  [[nodiscard]] std::function<void()> EditsAreRefused() {
+    return [this] {
+      Superuser(
+          "CREATE FUNCTION kantoor.nee() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN RAISE EXCEPTION 'nu niet'; END "
+          "$$; "
+          "CREATE TRIGGER nee BEFORE INSERT ON kantoor.stap FOR EACH ROW EXECUTE FUNCTION kantoor.nee()");
+    };
   }
-  [[nodiscard]] std::function<void()> AnnaHasItAgain() {
-    return [this] { Superuser("GRANT kantoor_adviseur TO anna"); };
+  [[nodiscard]] std::function<void()> EditsAreAccepted() {
+    return [this] { Superuser("DROP TRIGGER nee ON kantoor.stap; DROP FUNCTION kantoor.nee()"); };
   }
   /// The window is on the client again, with the connection there.
   [[nodiscard]] bool IsBack() {
@@ -96,10 +101,10 @@ class RefusedTest : public ClientWindow {
 
 TEST_F(RefusedTest, ClientDataStayInTheirDialogUntilTheOfficeTakesThem) {
   OpenAs(*window_, "anna");
-  ExpectRefusal({.before = AnnaLosesHerRole(),
+  ExpectRefusal({.before = EditsAreRefused(),
                  .text = "Q.",
-                 .says = {"u hebt daar op dit kantoor het recht niet toe", "Wat u invulde, staat nog in het venster."},
-                 .meanwhile = AnnaHasItAgain(),
+                 .says = {"nu niet", "Wat u invulde, staat nog in het venster."},
+                 .meanwhile = EditsAreAccepted(),
                  .then = [&](QWidget& dialog) {
                    ExpectUnstored("Niet opgeslagen (Cliëntgegevens): ");
                    EXPECT_EQ(UnfinishedText::All().size(), 1U);
@@ -112,7 +117,7 @@ TEST_F(RefusedTest, ClientDataStayInTheirDialogUntilTheOfficeTakesThem) {
 
 TEST_F(RefusedTest, WhatIsGivenUpInADialogIsKeptUntilItIsThrownAway) {
   OpenAs(*window_, "anna");
-  ExpectRefusal({.before = AnnaLosesHerRole(), .text = "Q.", .meanwhile = AnnaHasItAgain()});
+  ExpectRefusal({.before = EditsAreRefused(), .text = "Q.", .meanwhile = EditsAreAccepted()});
   OpenClientData();
   EXPECT_TRUE(Unstored().contains("Q.")) << qPrintable(Unstored());
   TabTo("Weggooien");

@@ -242,6 +242,38 @@ TEST_F(PendingEditTest, ThatFailedEndsWhenCodeWritesTheBox) {
   EXPECT_FALSE(edit.IsPending());
 }
 
+/// There is nothing to try again, and nothing to put back.
+TEST_F(PendingEditTest, ThatWasPutBackWhileItsFailureWasToldIsNotRefused) {
+  amount.SetNumber(7);
+  const host::Subscription listening = amount.Validation.Connect([this](bool&) {
+    toolkit.Desktop().ProcedureFailed.Raise();
+    EXPECT_TRUE(edit.Restore());
+  });
+  TypeOver(amount, "5");
+  EXPECT_TRUE(edit.Commit());
+  EXPECT_EQ(face.text, "7,00");
+  EXPECT_EQ(face.reason, "");
+  EXPECT_FALSE(edit.IsPending());
+}
+
+TEST_F(PendingEditTest, ThatFailedIsToldOfInTheWordsOfAHostThatHasSome) {
+  const host::Subscription listening =
+      amount.Validation.Connect([this](bool&) { toolkit.Desktop().ProcedureFailed.Raise(); });
+  std::string words = "Nog niet bekend.";
+  toolkit.SetReasonTeller([&] { return frame::Phrase(words); });
+  TypeOver(amount, "5");
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.reason, "Nog niet bekend.");
+  words.clear();
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.reason, "");
+  EXPECT_TRUE(edit.IsPending());
+  EXPECT_EQ(face.text, "5");
+  toolkit.SetReasonTeller(nullptr);
+  EXPECT_FALSE(edit.Commit());
+  EXPECT_EQ(face.reason, "Dit is niet bewaard. Enter probeert het opnieuw, Esc zet terug wat er stond.");
+}
+
 TEST_F(PendingEditTest, StaysAsTypedWhereTheBoxCanNoLongerBeReached) {
   amount.SetNumber(7);
   TypeOver(amount, "5");

@@ -52,6 +52,9 @@ class BRIVANE_API ControlWidget : public QWidget {
   void SetHostFactories(const host::HostFactories& factories);
   /// Where a failure goes that no procedure of the control handled. Without one a message box tells it.
   void SetFailureListener(Toolkit::FailureListener listener) { toolkit_.SetFailureListener(std::move(listener)); }
+  /// Who tells what is said beside a box whose content the host failed to take. Without one it is that it was not
+  /// stored.
+  void SetReasonTeller(Toolkit::ReasonTeller teller) { toolkit_.SetReasonTeller(std::move(teller)); }
 
   /// What the control stands for.
   [[nodiscard]] controls::BindingState State() const { return body_->binding->State(); }
