@@ -19,7 +19,7 @@ FILES = ("brivane/frame/Dates.cpp", "brivane/frame/Dates.h", "brivane/frame/Numb
 # For the engineer who embeds the editor, in English as error descriptions are.
 FOR_ENGINEERS = ("brivane/controls/WhatIsMissing.cpp",)
 # Fonts and colours, and what is said where there is no catalogue.
-NOT_LOOKED_AT = ("web/package/src/style.js", "web/package/src/unloaded.js")
+NOT_LOOKED_AT = ("web/package/src/style.js", "web/package/src/unloaded.js", "web/package/src/first.js")
 NO_TEXTS = {
     "Ja": "a half of a toggle, which is a caption of the control",
     "Nee": "the other half",
@@ -40,6 +40,7 @@ NO_TEXTS = {
     **{f"control {kind}": "classes of a style sheet" for kind in (
         "frame", "plain", "label", "label lines", "date", "toggle", "hint", "choice", "box select", "button", "listview",
         "surface", "form")},
+    "[object Date]": "the tag of a day in a script",
     " control": "a class of a style sheet",
     "dialog form": "parts of an element", "dialog message": "parts of an element",
     "input, select": "elements of a page", 'input, select, button, [tabindex="0"]': "elements of a page",

@@ -3,4 +3,6 @@
 
 export const first = globalThis.customElements?.get('vrije-kolom')?._exports;
 
-if (first !== undefined) console.warn('brivane-vrije-kolom was loaded twice: the elements of the first copy are used');
+export const TWICE = 'brivane-vrije-kolom was loaded twice: the elements of the first copy are used';
+
+if (first !== undefined) console.warn(TWICE);

@@ -3,7 +3,7 @@
 import createMachine from '../machine/machine.js';
 import { dayOf } from './days.js';
 import { HostError } from './errors.js';
-import { first } from './first.js';
+import { first, TWICE } from './first.js';
 import { Host } from './host.js';
 import { done, enter, failed, isAtWork, run } from './jobs.js';
 import { Memory } from './memory.js';
@@ -80,7 +80,7 @@ async function compile() {
   }
 }
 
-const compiled = first === undefined ? compile() : Promise.reject(new Error('Loaded twice'));
+const compiled = first === undefined ? compile() : Promise.reject(new Error(TWICE));
 compiled.catch(() => {});
 
 /** Starts the machine, once. */
