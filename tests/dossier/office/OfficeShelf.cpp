@@ -43,10 +43,11 @@ class OfficeShelf final : public Shelf {
     QStringList findings;
     const QString steps = office_.Psql(
         "postgres",
-        QString("SELECT count(*) FROM (SELECT s.nummer, row_number() OVER (ORDER BY s.nummer) AS n, eerste, echt FROM "
-                "kantoor.stap s LEFT JOIN (SELECT stap, min(nummer) AS echt FROM kantoor.wijziging WHERE client = %1 "
-                "GROUP BY stap) w ON w.stap = s.nummer WHERE client = %1) t WHERE nummer <> n OR eerste IS DISTINCT FROM "
-                "echt")
+        QString(
+            "SELECT count(*) FROM (SELECT s.nummer, row_number() OVER (ORDER BY s.nummer) AS n, eerste, echt FROM "
+            "kantoor.stap s LEFT JOIN (SELECT stap, min(nummer) AS echt FROM kantoor.wijziging WHERE client = %1 "
+            "GROUP BY stap) w ON w.stap = s.nummer WHERE client = %1) t WHERE nummer <> n OR eerste IS DISTINCT FROM "
+            "echt")
             .arg(name));
     if (steps != "0") findings << "steps that do not follow on one another: " + steps;
     if (store.Dossier()->Gegevens() != Stored(name)) findings << "the memory shows something else";
